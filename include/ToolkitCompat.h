@@ -1,0 +1,51 @@
+#ifndef TOOLKITCOMPAT_H
+#define TOOLKITCOMPAT_H
+
+/*
+ * Everything in which the supported generations of the toolkit differ, as named helpers. No other file looks at the
+ * toolkit's version. Comparisons use plain hexadecimal numbers because the oldest moc expands no function-like macro.
+ */
+
+#include <QString>
+#include <QWidget>
+
+#include <cstdarg>
+
+namespace ToolkitCompat
+{
+
+/** printf formatting; a text for %s is read as UTF-8 by every generation. */
+inline QString FormatText(const char *format, va_list arguments)
+{
+#if QT_VERSION >= 0x050500
+    return QString::vasprintf(format, arguments);
+#else
+    QString text;
+    text.vsprintf(format, arguments);
+    return text;
+#endif
+}
+
+/** Lets negative contents margins of widget take effect, as they do without asking in the oldest generation. */
+inline void AllowNegativeMargins(QWidget *widget)
+{
+#if QT_VERSION >= 0x050a00
+    widget->setAttribute(Qt::WA_ContentsMarginsRespectsSafeArea, false);
+#else
+    Q_UNUSED(widget);
+#endif
+}
+
+/** Text that stays what it is where rich text is recognised, as in a tool tip. */
+inline QString PlainTextAsHtml(const QString &text)
+{
+#if QT_VERSION >= 0x050000
+    return text.toHtmlEscaped();
+#else
+    return Qt::escape(text);
+#endif
+}
+
+} // namespace ToolkitCompat
+
+#endif
