@@ -11,6 +11,10 @@
 
 #include <cstdarg>
 
+#if QT_VERSION < 0x050000
+#include <QTextDocument>
+#endif
+
 namespace ToolkitCompat
 {
 
@@ -43,6 +47,38 @@ inline QString PlainTextAsHtml(const QString &text)
     return text.toHtmlEscaped();
 #else
     return Qt::escape(text);
+#endif
+}
+
+/** Receives every message of qDebug and its relatives; may be called on any thread. */
+typedef void (*TextMessageHandler)(QtMsgType type, const QString &text);
+
+inline TextMessageHandler &CurrentTextMessageHandler()
+{
+    static TextMessageHandler handler = nullptr;
+    return handler;
+}
+
+#if QT_VERSION >= 0x050000
+inline void ForwardMessage(QtMsgType type, const QMessageLogContext &, const QString &text)
+{
+    CurrentTextMessageHandler()(type, text);
+}
+#else
+inline void ForwardMessage(QtMsgType type, const char *text)
+{
+    CurrentTextMessageHandler()(type, QString::fromLocal8Bit(text));
+}
+#endif
+
+/** Sends all messages to handler instead of the standard error output; null restores the toolkit's own handling. */
+inline void InstallTextMessageHandler(TextMessageHandler handler)
+{
+    CurrentTextMessageHandler() = handler;
+#if QT_VERSION >= 0x050000
+    qInstallMessageHandler(handler ? ForwardMessage : nullptr);
+#else
+    qInstallMsgHandler(handler ? ForwardMessage : nullptr);
 #endif
 }
 

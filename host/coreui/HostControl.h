@@ -1,0 +1,42 @@
+#ifndef HOSTCONTROL_H
+#define HOSTCONTROL_H
+
+#include <HostExport.h>
+
+#include <QString>
+#include <QStringList>
+
+class IPluginContainer;
+
+/**
+ * The host application's side of the core UI library: what it sets here is what plug-ins get from Startup, Change and
+ * CommonUtils. GUI thread.
+ */
+class HOST_EXPORT HostControl
+{
+public:
+    /** @param container  not owned; null while the host has none, which is also how it starts. */
+    static void SetPluginContainer(IPluginContainer *container);
+
+    /** @param directory  the one that has the folder "plugins" in it; a trailing separator is dropped. */
+    static void SetPluginLibraryPath(const QString &directory);
+
+    /** @param directory  where the compiled language files (<language>.qm) lie. */
+    static void SetLanguageDirectory(const QString &directory);
+
+    /** Names of the languages found there, such as "ar", "en", "he", sorted. */
+    static QStringList LanguageNames();
+
+    /**
+     * Switches the language that Change answers for. Does not send the language-change event; that is the
+     * application's.
+     *
+     * @return false when there is no readable file for it: then the language stays what it was.
+     */
+    static bool SetLanguage(const QString &name);
+
+    /** Whether the language reads right to left: "ar" and "he" do. */
+    static bool IsRightToLeft(const QString &language);
+};
+
+#endif

@@ -1,0 +1,52 @@
+#include "TraceCapture.h"
+
+#include <ToolkitCompat.h>
+
+#include <QMutex>
+#include <QMutexLocker>
+#include <QRegExp>
+
+namespace
+{
+
+QMutex linesLock;
+QStringList capturedLines;
+
+void Collect(QtMsgType, const QString &text)
+{
+    QMutexLocker locker(&linesLock);
+    capturedLines.append(text);
+}
+
+} // namespace
+
+TraceCapture::TraceCapture()
+{
+    Clear();
+    ToolkitCompat::InstallTextMessageHandler(Collect);
+}
+
+TraceCapture::~TraceCapture()
+{
+    ToolkitCompat::InstallTextMessageHandler(nullptr);
+}
+
+QStringList TraceCapture::Lines() const
+{
+    QMutexLocker locker(&linesLock);
+    return capturedLines;
+}
+
+void TraceCapture::Clear()
+{
+    QMutexLocker locker(&linesLock);
+    capturedLines.clear();
+}
+
+QStringList TraceCapture::Normalised() const
+{
+    QStringList lines = Lines();
+    lines.replaceInStrings(QRegExp(QLatin1String("\\b\\d\\d:\\d\\d:\\d\\d:\\d\\d\\d\\b")), QLatin1String("TIME"));
+    lines.replaceInStrings(QRegExp(QLatin1String("\\b\\d\\d:\\d\\d:\\d\\d\\b")), QLatin1String("BUILD"));
+    return lines;
+}
