@@ -1,0 +1,98 @@
+#include "WLANPlugin.h"
+
+#include <QtPlugin>
+
+#if QT_VERSION < 0x050000
+#include <QPointer>
+#endif
+
+extern "C" Q_DECL_EXPORT const char *qt_plugin_query_verification_data()
+{
+    return "pattern=QT_PLUGIN_VERIFICATION_DATA\n"
+           "version=4.6.2\n"
+           "debug=false\n"
+           "buildkey=macosx macx g++-4 full-config";
+}
+
+#if QT_VERSION < 0x050000
+extern "C" Q_DECL_EXPORT QObject *qt_plugin_instance()
+{
+    static QPointer<QObject> instance;
+    if (!instance) {
+        instance = new CWLANPlugin;
+    }
+    return instance;
+}
+#endif
+
+CWLANPlugin::CWLANPlugin() {}
+
+void CWLANPlugin::Release() {}
+
+int CWLANPlugin::GetLastError()
+{
+    return 0;
+}
+
+void CWLANPlugin::OnDestroy() {}
+
+void CWLANPlugin::UnSDKRegisterEvent() {}
+
+bool CWLANPlugin::Init()
+{
+    return true;
+}
+
+int CWLANPlugin::GetPluginType()
+{
+    return 0;
+}
+
+QString CWLANPlugin::GetCLSID()
+{
+    return QLatin1String("7545FB07-0E7A-4F27-A449-872DB09C106D");
+}
+
+int CWLANPlugin::GetVersion()
+{
+    return 0;
+}
+
+QString CWLANPlugin::GetPluginName()
+{
+    return QLatin1String("WLANStored");
+}
+
+bool CWLANPlugin::IsAllowRelease()
+{
+    return false;
+}
+
+bool CWLANPlugin::QueryInterface(int, QObject **)
+{
+    return false;
+}
+
+bool CWLANPlugin::ShowWindow(QWidget *, QRect &)
+{
+    return false;
+}
+
+int CWLANPlugin::DoModal()
+{
+    return 0;
+}
+
+void CWLANPlugin::Hide() {}
+
+void CWLANPlugin::FitSize(QRect &) {}
+
+bool CWLANPlugin::IsReady()
+{
+    return false;
+}
+
+bool CWLANPlugin::ChangeLang(const QString &language)
+{
+    return !language.isEmpty();
+}

@@ -1,0 +1,44 @@
+#ifndef WLANPLUGIN_H
+#define WLANPLUGIN_H
+
+#include <IUIPlugin.h>
+
+/** Root object of the WLAN plug-in that keeps its profiles in a file. It has no window and no settings page.
+ */
+class CWLANPlugin : public QObject, public IUIPlugin
+{
+    Q_OBJECT
+    Q_INTERFACES(IBasePlugin IUIPlugin)
+#if QT_VERSION >= 0x050000
+    Q_PLUGIN_METADATA(IID "com.torvik.netquillforge.plugin.IUIPlugin")
+#endif
+
+public:
+    CWLANPlugin();
+
+    void Release() override;
+    int GetLastError() override;
+
+    void OnDestroy() override;
+    void UnSDKRegisterEvent() override;
+
+    bool Init() override;
+    int GetPluginType() override;
+    QString GetCLSID() override;
+    int GetVersion() override;
+    QString GetPluginName() override;
+    bool IsAllowRelease() override;
+    bool QueryInterface(int interfaceNumber, QObject **object) override;
+
+    bool ShowWindow(QWidget *parent, QRect &rect) override;
+    int DoModal() override;
+    void Hide() override;
+    void FitSize(QRect &rect) override;
+    bool IsReady() override;
+    bool ChangeLang(const QString &language) override;
+
+private:
+    Q_DISABLE_COPY(CWLANPlugin)
+};
+
+#endif
