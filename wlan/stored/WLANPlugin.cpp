@@ -1,10 +1,15 @@
 #include "WLANPlugin.h"
 
+#include "StoredWLANService.h"
+
 #include <QtPlugin>
 
-#if QT_VERSION < 0x050000
-#include <QPointer>
-#endif
+namespace
+{
+
+const int wlanInterfaceNumber = 0x1006;
+
+} // namespace
 
 extern "C" Q_DECL_EXPORT const char *qt_plugin_query_verification_data()
 {
@@ -25,7 +30,12 @@ extern "C" Q_DECL_EXPORT QObject *qt_plugin_instance()
 }
 #endif
 
-CWLANPlugin::CWLANPlugin() {}
+CWLANPlugin::CWLANPlugin() : QObject(nullptr) {}
+
+CWLANPlugin::~CWLANPlugin()
+{
+    delete m_service;
+}
 
 void CWLANPlugin::Release() {}
 
@@ -34,7 +44,10 @@ int CWLANPlugin::GetLastError()
     return 0;
 }
 
-void CWLANPlugin::OnDestroy() {}
+void CWLANPlugin::OnDestroy()
+{
+    delete m_service;
+}
 
 void CWLANPlugin::UnSDKRegisterEvent() {}
 
@@ -68,9 +81,16 @@ bool CWLANPlugin::IsAllowRelease()
     return false;
 }
 
-bool CWLANPlugin::QueryInterface(int, QObject **)
+bool CWLANPlugin::QueryInterface(int interfaceNumber, QObject **object)
 {
-    return false;
+    if (interfaceNumber != wlanInterfaceNumber || !object) {
+        return false;
+    }
+    if (!m_service) {
+        m_service = new CStoredWLANService(nullptr);
+    }
+    *object = m_service;
+    return true;
 }
 
 bool CWLANPlugin::ShowWindow(QWidget *, QRect &)

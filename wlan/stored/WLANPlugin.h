@@ -3,6 +3,10 @@
 
 #include <IUIPlugin.h>
 
+#include <QPointer>
+
+class CStoredWLANService;
+
 /** Root object of the WLAN plug-in that keeps its profiles in a file. It has no window and no settings page.
  */
 class CWLANPlugin : public QObject, public IUIPlugin
@@ -15,6 +19,7 @@ class CWLANPlugin : public QObject, public IUIPlugin
 
 public:
     CWLANPlugin();
+    ~CWLANPlugin() override;
 
     void Release() override;
     int GetLastError() override;
@@ -39,6 +44,8 @@ public:
 
 private:
     Q_DISABLE_COPY(CWLANPlugin)
+
+    QPointer<CStoredWLANService> m_service;
 };
 
 #endif

@@ -1,0 +1,274 @@
+#include "ProfileStore.h"
+
+#include "PrivateFile.h"
+#include "UserDataDirectory.h"
+#include "XmlRecords.h"
+
+namespace
+{
+
+struct ProfileField {
+    const char *name;
+    QString WLANProfile::*member;
+};
+
+const ProfileField profileFields[] = {
+    {"profileName", &WLANProfile::profileName},
+    {"text1", &WLANProfile::text1},
+    {"text2", &WLANProfile::text2},
+    {"text3", &WLANProfile::text3},
+    {"text4", &WLANProfile::text4},
+    {"ssid", &WLANProfile::ssid},
+    {"bssType", &WLANProfile::bssType},
+    {"connectionMode", &WLANProfile::connectionMode},
+    {"authentication", &WLANProfile::authentication},
+    {"encryption", &WLANProfile::encryption},
+    {"keyType", &WLANProfile::keyType},
+    {"keyFlag", &WLANProfile::keyFlag},
+    {"keyMaterial", &WLANProfile::keyMaterial},
+    {"keyIndex", &WLANProfile::keyIndex},
+    {"text14", &WLANProfile::text14},
+    {"readOnly", &WLANProfile::readOnly},
+    {"text16", &WLANProfile::text16},
+    {"text17", &WLANProfile::text17},
+};
+const int profileFieldCount = sizeof(profileFields) / sizeof(profileFields[0]);
+
+const unsigned int ownerOnly = 0600;
+
+QString TypeAttribute()
+{
+    return QLatin1String("type");
+}
+
+QString WifiType()
+{
+    return QLatin1String("1");
+}
+
+XmlRecordFormat ProfileFormat()
+{
+    XmlRecordFormat format;
+    format.rootElement = QLatin1String("wlanprofiles");
+    format.recordElement = QLatin1String("profile");
+    format.requiredAttribute = QLatin1String("profileName");
+    format.attributes.append(TypeAttribute());
+    for (int i = 0; i < profileFieldCount; ++i) {
+        format.attributes.append(QLatin1String(profileFields[i].name));
+    }
+    return format;
+}
+
+StoredProfile FromRecord(const XmlRecord &record)
+{
+    StoredProfile stored;
+    stored.type = record.values.value(TypeAttribute(), WifiType());
+    for (int i = 0; i < profileFieldCount; ++i) {
+        stored.profile.*profileFields[i].member = record.values.value(QLatin1String(profileFields[i].name));
+    }
+    return stored;
+}
+
+XmlRecord ToRecord(const StoredProfile &stored)
+{
+    XmlRecord record;
+    record.values.insert(TypeAttribute(), stored.type);
+    for (int i = 0; i < profileFieldCount; ++i) {
+        record.values.insert(QLatin1String(profileFields[i].name), stored.profile.*profileFields[i].member);
+    }
+    return record;
+}
+
+/** The file for the time of one operation, with what is to be said about it. */
+class ProfileFile
+{
+public:
+    ProfileFile() : m_directory(UserDataDirectory()), m_path(m_directory + QLatin1String("WLANProfiles.xml"))
+    {
+    }
+
+    const QStringList &Complaints() const { return m_complaints; }
+
+    WLANResult Complain(WLANResult result, const QString &text)
+    {
+        m_complaints.append(text);
+        return result;
+    }
+
+    /** Reads the profiles; a missing file is made. */
+    WLANResult ReadOrMake(QList<StoredProfile> *profiles)
+    {
+        if (m_directory.isEmpty()) {
+            return ComplainOfDirectory();
+        }
+        bool missing = false;
+        const WLANResult result = Read(profiles, &missing);
+        if (!missing) {
+            return result;
+        }
+        const DirectoryLock lock(m_directory);
+        return lock.IsHeld() ? ReadOrMakeLocked(profiles) : ComplainOfLock();
+    }
+
+    WLANResult Store(const WLANProfile &profile)
+    {
+        if (m_directory.isEmpty()) {
+            return ComplainOfDirectory();
+        }
+        const DirectoryLock lock(m_directory);
+        if (!lock.IsHeld()) {
+            return ComplainOfLock();
+        }
+        QList<StoredProfile> profiles;
+        const WLANResult result = ReadOrMakeLocked(&profiles);
+        if (result != WLANResultSuccess) {
+            return result;
+        }
+        StoredProfile stored;
+        stored.type = WifiType();
+        stored.profile = profile;
+        for (int i = 0; i < profiles.size(); ++i) {
+            if (!profiles.at(i).IsWifi() || profiles.at(i).profile.profileName != profile.profileName) {
+                continue;
+            }
+            if (profiles.at(i).profile.readOnly == QLatin1String("true")) {
+                return Complain(WLANResultReadOnlyProfile,
+                                QLatin1String("a read-only profile is not replaced"));
+            }
+            profiles[i] = stored;
+            return Write(profiles);
+        }
+        profiles.append(stored);
+        return Write(profiles);
+    }
+
+private:
+    Q_DISABLE_COPY(ProfileFile)
+
+    WLANResult ComplainOfDirectory()
+    {
+        return Complain(WLANResultNoDirectory,
+                        QLatin1String("the directory for the user's data is not known, "
+                                      "no profiles are remembered"));
+    }
+
+    WLANResult ComplainOfLock()
+    {
+        return Complain(
+            WLANResultBusy,
+            QString::fromLatin1("%1: another program is changing the profiles, nothing was written")
+                .arg(m_path));
+    }
+
+    WLANResult ComplainOfFile(PrivateFile::Outcome outcome)
+    {
+        switch (outcome) {
+        case PrivateFile::OutcomeSymbolicLink:
+            return Complain(
+                WLANResultSymbolicLink,
+                QString::fromLatin1(
+                    "%1, or the file \"%2\" that is written first, is a symbolic link and is not followed")
+                    .arg(m_path, PrivateFile::TemporaryPath(m_path)));
+        case PrivateFile::OutcomeNotWritable:
+            return Complain(
+                WLANResultFileNotWritable,
+                QString::fromLatin1("%1 can't be written, the profiles are as they were").arg(m_path));
+        default:
+            return Complain(WLANResultFileNotReadable,
+                            QString::fromLatin1("%1 can't be read, it is left as it is").arg(m_path));
+        }
+    }
+
+    WLANResult Read(QList<StoredProfile> *profiles, bool *missing)
+    {
+        QByteArray bytes;
+        unsigned int permissions = ownerOnly;
+        const PrivateFile::Outcome outcome =
+            PrivateFile::Read(m_path, &bytes, XmlRecords::largestFile, &permissions);
+        *missing = outcome == PrivateFile::OutcomeMissing;
+        if (*missing) {
+            return WLANResultSuccess;
+        }
+        if (outcome != PrivateFile::OutcomeDone) {
+            return ComplainOfFile(outcome);
+        }
+        if ((permissions & ~ownerOnly) != 0) {
+            m_complaints.append(
+                QString::fromLatin1("%1 holds keys and has permissions %2, wider than 0600; "
+                                    "they are narrowed when a profile is stored")
+                    .arg(m_path, QString::fromLatin1("%1").arg(permissions, 4, 8, QLatin1Char('0'))));
+        }
+        QList<XmlRecord> records;
+        const qint64 damagedLine = XmlRecords::Read(bytes, ProfileFormat(), &records);
+        PrivateFile::Wipe(&bytes);
+        for (int i = 0; i < records.size(); ++i) {
+            profiles->append(FromRecord(records.at(i)));
+        }
+        if (damagedLine != 0) {
+            return Complain(
+                WLANResultFileDamaged,
+                QString::fromLatin1(
+                    "%1 is damaged at line %2; what stands before is used, and the file is kept as "
+                    "it is until it is repaired or removed")
+                    .arg(m_path)
+                    .arg(damagedLine));
+        }
+        return WLANResultSuccess;
+    }
+
+    WLANResult ReadOrMakeLocked(QList<StoredProfile> *profiles)
+    {
+        bool missing = false;
+        const WLANResult result = Read(profiles, &missing);
+        if (!missing) {
+            return result;
+        }
+        const QList<StoredProfile> sample = SampleProfiles();
+        const WLANResult made = Write(sample);
+        if (made == WLANResultSuccess) {
+            *profiles += sample;
+        }
+        return made;
+    }
+
+    WLANResult Write(const QList<StoredProfile> &profiles)
+    {
+        QList<XmlRecord> records;
+        for (int i = 0; i < profiles.size(); ++i) {
+            records.append(ToRecord(profiles.at(i)));
+        }
+        QByteArray bytes = XmlRecords::Write(ProfileFormat(), records);
+        const PrivateFile::Outcome outcome = bytes.size() > XmlRecords::largestFile
+                                                 ? PrivateFile::OutcomeNotWritable
+                                                 : PrivateFile::Replace(m_path, bytes);
+        PrivateFile::Wipe(&bytes);
+        return outcome == PrivateFile::OutcomeDone ? WLANResultSuccess : ComplainOfFile(outcome);
+    }
+
+    const QString m_directory;
+    const QString m_path;
+    QStringList m_complaints;
+};
+
+} // namespace
+
+WLANResult CProfileStore::List(QList<StoredProfile> *profiles)
+{
+    ProfileFile file;
+    const WLANResult result = file.ReadOrMake(profiles);
+    m_complaints.Tell(file.Complaints());
+    return result;
+}
+
+WLANResult CProfileStore::Store(const WLANProfile &profile)
+{
+    ProfileFile file;
+    const WLANResult result =
+        profile.profileName.isEmpty()
+            ? file.Complain(WLANResultEmptyName, QLatin1String("a profile without a name is not stored"))
+            : file.Store(profile);
+    // A refused change is told every time: it is an answer to somebody.
+    m_complaints.Forget();
+    m_complaints.Tell(file.Complaints());
+    return result;
+}

@@ -1,0 +1,20 @@
+#ifndef STOREDPROFILE_H
+#define STOREDPROFILE_H
+
+#include <WLANRecords.h>
+
+#include <QList>
+
+/** A remembered profile with its kind, which the profile itself has no field for. */
+struct StoredProfile {
+    WLANProfile profile;
+    /** As in RememberedList: "1" is Wi-Fi. */
+    QString type;
+
+    bool IsWifi() const { return type == QLatin1String("1"); }
+};
+
+/** What a new user finds remembered. */
+QList<StoredProfile> SampleProfiles();
+
+#endif

@@ -1,0 +1,30 @@
+#ifndef WLANRESULT_H
+#define WLANRESULT_H
+
+/** What the operations of this WLAN plug-in answer, but for GetNetworkProfile, which answers 1 (filled) or 0.
+ */
+enum WLANResult {
+    WLANResultSuccess = 0,
+    /** An output pointer is null; nothing was done. */
+    WLANResultNullPointer = 1,
+    /** A profile without a name is not stored. */
+    WLANResultEmptyName = 2,
+    /** No profile of that name is remembered; the output is as it was. */
+    WLANResultUnknownName = 3,
+    /** The profile of that name is read-only and was not replaced. */
+    WLANResultReadOnlyProfile = 4,
+    /** The host gives no directory for the user's data. */
+    WLANResultNoDirectory = 5,
+    /** The file is there but can't be read; it was left as it is. */
+    WLANResultFileNotReadable = 6,
+    /** The file is damaged: what stands before the damage was read, nothing was written. */
+    WLANResultFileDamaged = 7,
+    /** The profiles can't be written; the earlier file is intact. */
+    WLANResultFileNotWritable = 8,
+    /** The profiles file, or the temporary one beside it, is a symbolic link; nothing was read or written. */
+    WLANResultSymbolicLink = 9,
+    /** Another process is writing the profiles; nothing was written. */
+    WLANResultBusy = 10
+};
+
+#endif

@@ -1,0 +1,197 @@
+#include "XmlRecords.h"
+
+#include <QXmlStreamReader>
+#include <QXmlStreamWriter>
+
+namespace
+{
+
+const int hexDigits = 4;
+const int escapeLength = 2 + hexDigits;
+
+void AppendEscape(QString *escaped, ushort unit)
+{
+    *escaped += QLatin1String("\\u");
+    *escaped += QString::fromLatin1("%1").arg(unit, hexDigits, 16, QLatin1Char('0')).toUpper();
+}
+
+bool IsNonCharacter(uint code)
+{
+    return (code & 0xfffeU) == 0xfffeU || (code >= 0xfdd0U && code <= 0xfdefU);
+}
+
+bool IsControl(ushort unit)
+{
+    return unit < 0x20U || (unit >= 0x7fU && unit < 0xa0U);
+}
+
+/** The code unit of the escape that begins at position, or -1 when none begins there. */
+int EscapedUnit(const QString &text, int position)
+{
+    if (text.size() - position < escapeLength || text.at(position + 1) != QLatin1Char('u')) {
+        return -1;
+    }
+    int unit = 0;
+    for (int i = position + 2; i < position + escapeLength; ++i) {
+        const ushort digit = text.at(i).unicode();
+        int value = 0;
+        if (digit >= '0' && digit <= '9') {
+            value = digit - '0';
+        } else if (digit >= 'A' && digit <= 'F') {
+            value = digit - 'A' + 10;
+        } else if (digit >= 'a' && digit <= 'f') {
+            value = digit - 'a' + 10;
+        } else {
+            return -1;
+        }
+        unit = unit * 16 + value;
+    }
+    return unit;
+}
+
+/** False when the element has an attribute that the format doesn't know, or lacks the one it asks for. */
+bool ReadRecord(const QXmlStreamReader &reader, const XmlRecordFormat &format, XmlRecord *record)
+{
+    const QXmlStreamAttributes attributes = reader.attributes();
+    for (int i = 0; i < attributes.size(); ++i) {
+        const QString name = attributes.at(i).qualifiedName().toString();
+        if (!format.attributes.contains(name)) {
+            return false;
+        }
+        record->values.insert(name, XmlRecords::Unescape(attributes.at(i).value().toString()));
+    }
+    record->line = reader.lineNumber();
+    return format.requiredAttribute.isEmpty() || !record->values.value(format.requiredAttribute).isEmpty();
+}
+
+/** Whether the element that the reader stands at has its place there; a record is appended to *records. */
+bool AcceptElement(const QXmlStreamReader &reader, const XmlRecordFormat &format, int depth,
+                   QList<XmlRecord> *records)
+{
+    const QString name = reader.qualifiedName().toString();
+    if (depth == 0) {
+        return name == format.rootElement && reader.attributes().isEmpty();
+    }
+    XmlRecord record;
+    if (depth != 1 || name != format.recordElement || !ReadRecord(reader, format, &record)) {
+        return false;
+    }
+    records->append(record);
+    return true;
+}
+
+} // namespace
+
+QString XmlRecords::Escape(const QString &text)
+{
+    QString escaped;
+    escaped.reserve(text.size());
+    for (int i = 0; i < text.size(); ++i) {
+        const QChar unit = text.at(i);
+        if (unit.isHighSurrogate() && i + 1 < text.size() && text.at(i + 1).isLowSurrogate()) {
+            const QChar low = text.at(++i);
+            if (IsNonCharacter(QChar::surrogateToUcs4(unit, low))) {
+                AppendEscape(&escaped, unit.unicode());
+                AppendEscape(&escaped, low.unicode());
+            } else {
+                escaped += unit;
+                escaped += low;
+            }
+        } else if (unit == QLatin1Char('\\')) {
+            escaped += QLatin1String("\\\\");
+        } else if (IsControl(unit.unicode()) || IsNonCharacter(unit.unicode()) || unit.isHighSurrogate() ||
+                   unit.isLowSurrogate()) {
+            AppendEscape(&escaped, unit.unicode());
+        } else {
+            escaped += unit;
+        }
+    }
+    return escaped;
+}
+
+QString XmlRecords::Unescape(const QString &text)
+{
+    QString plain;
+    plain.reserve(text.size());
+    for (int i = 0; i < text.size(); ++i) {
+        if (text.at(i) != QLatin1Char('\\')) {
+            plain += text.at(i);
+            continue;
+        }
+        const int unit = EscapedUnit(text, i);
+        if (unit >= 0) {
+            plain += QChar(static_cast<ushort>(unit));
+            i += escapeLength - 1;
+            continue;
+        }
+        plain += text.at(i);
+        if (i + 1 < text.size() && text.at(i + 1) == QLatin1Char('\\')) {
+            ++i;
+        }
+    }
+    return plain;
+}
+
+qint64 XmlRecords::Read(const QByteArray &bytes, const XmlRecordFormat &format, QList<XmlRecord> *records)
+{
+    QXmlStreamReader reader(bytes);
+    int depth = 0;
+    while (!reader.atEnd()) {
+        bool accepted = true;
+        switch (reader.readNext()) {
+        case QXmlStreamReader::StartElement:
+            accepted = AcceptElement(reader, format, depth, records);
+            ++depth;
+            break;
+        case QXmlStreamReader::EndElement:
+            --depth;
+            break;
+        case QXmlStreamReader::Characters:
+            accepted = reader.isWhitespace();
+            break;
+        case QXmlStreamReader::DTD:
+        case QXmlStreamReader::EntityReference:
+        case QXmlStreamReader::ProcessingInstruction:
+            accepted = false;
+            break;
+        default:
+            break;
+        }
+        if (!accepted) {
+            return reader.lineNumber();
+        }
+    }
+    return reader.hasError() ? reader.lineNumber() : 0;
+}
+
+QByteArray XmlRecords::Write(const XmlRecordFormat &format, const QList<XmlRecord> &records)
+{
+    // Room for the longest form of every character: an array that grows leaves copies of the keys behind.
+    const int longestForm = 6;
+    const int overhead = 256;
+    qint64 size = overhead;
+    for (int i = 0; i < records.size(); ++i) {
+        size += overhead;
+        for (int j = 0; j < format.attributes.size(); ++j) {
+            const QString &name = format.attributes.at(j);
+            size += static_cast<qint64>(longestForm) *
+                    (name.size() + 1 + records.at(i).values.value(name).size());
+        }
+    }
+    QByteArray bytes;
+    bytes.reserve(static_cast<int>(qMin<qint64>(size, largestFile)));
+
+    QXmlStreamWriter writer(&bytes);
+    writer.setAutoFormatting(true);
+    writer.writeStartDocument();
+    writer.writeStartElement(format.rootElement);
+    for (int i = 0; i < records.size(); ++i) {
+        writer.writeEmptyElement(format.recordElement);
+        for (int j = 0; j < format.attributes.size(); ++j) {
+            const QString &name = format.attributes.at(j);
+            writer.writeAttribute(name, Escape(records.at(i).values.value(name)));
+        }
+    }
+    writer.writeEndDocument();
+    return bytes;
+}
