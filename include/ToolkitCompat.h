@@ -14,6 +14,9 @@
 #if QT_VERSION < 0x050000
 #include <QTextDocument>
 #endif
+#if QT_VERSION >= 0x050f00
+#include <QWindow>
+#endif
 
 namespace ToolkitCompat
 {
@@ -47,6 +50,20 @@ inline QString PlainTextAsHtml(const QString &text)
     return text.toHtmlEscaped();
 #else
     return Qt::escape(text);
+#endif
+}
+
+/**
+ * Lets the window system move a window along with the mouse button that is down, which is the only way under some
+ * of them. False: it can't, and whoever asks moves the window itself.
+ */
+inline bool LetSystemMove(QWidget *window)
+{
+#if QT_VERSION >= 0x050f00
+    return window->windowHandle() && window->windowHandle()->startSystemMove();
+#else
+    Q_UNUSED(window);
+    return false;
 #endif
 }
 

@@ -9,8 +9,8 @@
 class IPluginContainer;
 
 /**
- * The host application's side of the core UI library: what it sets here is what plug-ins get from Startup, Change and
- * CommonUtils. GUI thread.
+ * The host application's side of the core UI library: what it sets here is what plug-ins get from Startup,
+ * Change and CommonUtils. GUI thread.
  */
 class HOST_EXPORT HostControl
 {
@@ -18,7 +18,8 @@ public:
     /** @param container  not owned; null while the host has none, which is also how it starts. */
     static void SetPluginContainer(IPluginContainer *container);
 
-    /** @param directory  the one that has the folder "plugins" in it; a trailing separator is dropped. */
+    /** @param directory  the one that has the folder "plugins" in it; a trailing separator is dropped. Empty:
+     * the default, the parent of the directory that the application's executable lies in. */
     static void SetPluginLibraryPath(const QString &directory);
 
     /** @param directory  where the compiled language files (<language>.qm) lie. */
@@ -37,6 +38,14 @@ public:
 
     /** Whether the language reads right to left: "ar" and "he" do. */
     static bool IsRightToLeft(const QString &language);
+
+    /**
+     * Gives lists and tables a soft highlight on which the ordinary text colour is readable, made from the
+     * application's palette, light or dark: rows made of plain widgets don't change their text colour when
+     * they are selected. Call it once the QApplication stands, and again whenever its palette has been
+     * replaced.
+     */
+    static void ApplyLook();
 };
 
 #endif

@@ -1,0 +1,78 @@
+#include <CommonUtils.h>
+
+#include "HostState.h"
+#include "MessageBox.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QEventLoop>
+#include <QLabel>
+#include <QPointer>
+
+namespace
+{
+
+/** One line as it reads: line breaks, tabs and other control characters are shown as blanks. */
+QString OneLine(QString text)
+{
+    for (int i = 0; i < text.size(); ++i) {
+        const QChar::Category category = text.at(i).category();
+        if (category == QChar::Other_Control || category == QChar::Separator_Line ||
+            category == QChar::Separator_Paragraph) {
+            text[i] = QLatin1Char(' ');
+        }
+    }
+    return text;
+}
+
+int TextWidth(const QLabel *label)
+{
+    const int indent = qMax(0, label->indent());
+    return qMax(0, label->contentsRect().width() - 2 * label->margin() - indent);
+}
+
+} // namespace
+
+QString CommonUtils::GetPluginLibraryPath()
+{
+    const QString path = HostState::Instance().pluginLibraryPath;
+    return path.isNull() ? QDir::cleanPath(QCoreApplication::applicationDirPath() + QLatin1String("/.."))
+                         : path;
+}
+
+void CommonUtils::ElidedText(QLabel *label, QString text, Qt::TextElideMode mode)
+{
+    if (!label) {
+        return;
+    }
+    label->setTextFormat(Qt::PlainText);
+    label->setText(label->fontMetrics().elidedText(OneLine(text), mode, TextWidth(label)));
+}
+
+int CommonUtils::ShowMessage(QMessageBox::Icon icon, QWidget *parent, QString title, QString text,
+                             QString button1, QString button2, QString button3, bool modal,
+                             Qt::WindowFlags flags, QDialog **dialog, QString detail, bool onTop)
+{
+    QWidget *belongsTo = parent ? parent : QApplication::activeWindow();
+    // A modal window lets input through to its own children only.
+    const bool child = onTop || QApplication::activeModalWidget();
+
+    const QPointer<MessageBox> box = new MessageBox(child ? belongsTo : nullptr, flags, dialog);
+    box->setWindowTitle(title);
+    box->SetContent(icon, text, detail);
+    box->SetButtons(button1, button2, button3);
+    box->setWindowModality(modal ? Qt::ApplicationModal : Qt::NonModal);
+
+    QEventLoop answered;
+    QObject::connect(box, SIGNAL(Closed()), &answered, SLOT(quit()));
+    QObject::connect(box, SIGNAL(destroyed()), &answered, SLOT(quit()));
+    if (belongsTo && !child) {
+        QObject::connect(belongsTo, SIGNAL(destroyed()), box, SLOT(reject()));
+    }
+    box->show();
+    answered.exec(QEventLoop::DialogExec);
+
+    const int answer = box ? box->Answer() : QMessageBox::Cancel;
+    delete box;
+    return answer;
+}

@@ -1,0 +1,3 @@
+#include <ExtendLineEdit.h>
+
+ExtendLineEdit::ExtendLineEdit(QWidget *parent) : QLineEdit(parent) {}

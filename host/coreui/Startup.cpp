@@ -1,0 +1,8 @@
+#include <Startup.h>
+
+#include "HostState.h"
+
+IPluginContainer *Startup::GetPluginContainer()
+{
+    return HostState::Instance().pluginContainer;
+}
