@@ -1,0 +1,5 @@
+#include "DragTableWidget.h"
+
+DragTableWidget::DragTableWidget(QWidget *parent) : QTableWidget(parent) {}
+
+DragTableWidget::~DragTableWidget() = default;

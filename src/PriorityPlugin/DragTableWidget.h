@@ -1,0 +1,14 @@
+#ifndef DRAGTABLEWIDGET_H
+#define DRAGTABLEWIDGET_H
+
+#include <QTableWidget>
+
+/** The priority page's table. Rows move by buttons and arrow keys only; nothing can be dragged. */
+class DragTableWidget : public QTableWidget
+{
+public:
+    explicit DragTableWidget(QWidget *parent);
+    ~DragTableWidget() override;
+};
+
+#endif

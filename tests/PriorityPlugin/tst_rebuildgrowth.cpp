@@ -1,0 +1,68 @@
+#include <LoadedPlugin.h>
+#include <PriorityXMLParser.h>
+#include <StandInHost.h>
+#include <TemporaryDirectory.h>
+#include <ToolkitCompat.h>
+#include <qprioritywidget.h>
+
+#include <QElapsedTimer>
+#include <QtTest>
+
+#include <algorithm>
+
+static void Discard(QtMsgType, const QString &) {}
+
+class tst_RebuildGrowth : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void rebuildIsLinear();
+};
+
+/** The best of three rebuilds of a visible page, in nanoseconds. */
+static qint64 RebuildTime(QPriorityWidget *page, int count)
+{
+    QList<PriorityList> list;
+    for (int i = 0; i < count; ++i) {
+        list << Entry(QString("network %1").arg(i));
+    }
+    PriorityXMLParser::GetInstance()->SavePriorityList(list);
+    page->UpdataPriorityList();
+    QCoreApplication::processEvents();
+    qint64 best = 0;
+    for (int round = 0; round < 3; ++round) {
+        QElapsedTimer timer;
+        timer.start();
+        page->UpdataTabItem();
+        QCoreApplication::processEvents();
+        const qint64 elapsed = timer.nsecsElapsed();
+        best = round == 0 ? elapsed : std::min(best, elapsed);
+    }
+    return best;
+}
+
+void tst_RebuildGrowth::rebuildIsLinear()
+{
+    TemporaryDirectory directory;
+    StandInHost::Reset(directory.Path());
+    QWidget window;
+    window.resize(500, 400);
+    window.show();
+    QRect rect(0, 0, 420, 374);
+    QPriorityWidget *page = QPriorityWidget::GetInstance();
+    ToolkitCompat::InstallTextMessageHandler(Discard);
+    page->ShowSettingDialog(&window, rect);
+    const qint64 small = RebuildTime(page, 250);
+    const qint64 large = RebuildTime(page, 2000);
+    ToolkitCompat::InstallTextMessageHandler(nullptr);
+    const double growth = double(large) / double(small);
+    qDebug("eight times the rows take %.1f times the time", growth);
+    // Linear is 8, quadratic 64.
+    QVERIFY2(growth < 20, qPrintable(QString::number(growth)));
+    page->setParent(nullptr);
+    QPriorityWidget::Destroy();
+}
+
+QTEST_MAIN(tst_RebuildGrowth)
+#include "tst_rebuildgrowth.moc"

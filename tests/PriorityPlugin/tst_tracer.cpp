@@ -1,0 +1,92 @@
+#include <FunctonTrick.h>
+#include <TraceCapture.h>
+
+#include <QRegExp>
+#include <QtTest>
+
+class tst_Tracer : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void entryAndExitLines();
+    void emptyDetailLeavesOneTrailingBlank();
+    void detailIsFormatted();
+    void earlyReturnStillWritesTheExitLine();
+    void timeOfDayHasMilliseconds();
+    void percentSignsInNamesStay();
+    void sharedLines();
+};
+
+void tst_Tracer::entryAndExitLines()
+{
+    TraceCapture trace;
+    {
+        CFunctonTrick trick("a/b.cpp", "Work", "");
+        QCOMPARE(trace.Normalised(), QStringList() << "TIME: a/b.cpp: Work: Entered ");
+    }
+    QCOMPARE(trace.Normalised(), QStringList() << "TIME: a/b.cpp: Work: Entered "
+                                               << "TIME: a/b.cpp: Work: Exit");
+}
+
+void tst_Tracer::emptyDetailLeavesOneTrailingBlank()
+{
+    TraceCapture trace;
+    CFunctonTrick trick("s", "f", "");
+    QVERIFY(trace.Lines().first().endsWith(": Entered "));
+    QVERIFY(!trace.Lines().first().endsWith("  "));
+}
+
+void tst_Tracer::detailIsFormatted()
+{
+    TraceCapture trace;
+    const QString name = QString::fromUtf8("Café");
+    CFunctonTrick trick("s", "f", ",strIcon:%s,strName:%s,%d", "wifi.png", name.toUtf8().constData(), 7);
+    QCOMPARE(trace.Normalised().first(),
+             QString::fromUtf8("TIME: s: f: Entered ,strIcon:wifi.png,strName:Café,7"));
+}
+
+static int ReturnEarly(bool early)
+{
+    CFunctonTrick trick("s", "ReturnEarly", "");
+    if (early) {
+        return 1;
+    }
+    return 2;
+}
+
+void tst_Tracer::earlyReturnStillWritesTheExitLine()
+{
+    TraceCapture trace;
+    QCOMPARE(ReturnEarly(true), 1);
+    QCOMPARE(trace.Normalised().last(), QString("TIME: s: ReturnEarly: Exit"));
+}
+
+void tst_Tracer::timeOfDayHasMilliseconds()
+{
+    const QString time = QString::fromLatin1(TraceLine::CurrentTime());
+    QVERIFY2(QRegExp("([01]\\d|2[0-3]):[0-5]\\d:[0-5]\\d:\\d\\d\\d").exactMatch(time), qPrintable(time));
+}
+
+void tst_Tracer::percentSignsInNamesStay()
+{
+    TraceCapture trace;
+    CFunctonTrick trick("%s", "%d", "%s", "100 %n");
+    QCOMPARE(trace.Normalised().first(), QString("TIME: %s: %d: Entered 100 %n"));
+}
+
+void tst_Tracer::sharedLines()
+{
+    TraceCapture trace;
+    TraceLine::Called("p.cpp", "f");
+    TraceLine::InitCalled("p.cpp", "f");
+    TraceLine::Exited("p.cpp", "f");
+    TraceLine::ArgumentIsNull("p.cpp", "f", 142);
+    QCOMPARE(trace.Normalised(), QStringList() << "p.cpp: f called"
+                                               << "p.cpp: f: called"
+                                               << "p.cpp: f exit"
+                                               << "Arg is NULL: TIME: p.cpp: f 142");
+}
+
+QTEST_MAIN(tst_Tracer)
+#include "tst_tracer.moc"
