@@ -14,7 +14,8 @@ public:
      *
      * @param id       such as "IDS_PROFILE_UP".
      * @param context  whose text it is; a plug-in passes its name, such as "PriorityPlugin".
-     * @return the text; the id itself when no language has one, so that a missing text shows and breaks nothing.
+     * @return the text; the id itself when no language has one, so that a missing text shows and breaks
+     * nothing.
      */
     static QString tr(const QString &id, const QString &context);
 

@@ -14,11 +14,11 @@ enum enWidgetType {
 };
 
 /**
- * The dashboard's dialog frame: title bar, close button, styling. A plug-in's dialog is a frame derived from this
- * one and a body widget inside it. Core UI library, GUI thread.
+ * The dashboard's dialog frame: title bar, close button, styling. A plug-in's dialog is a frame derived from
+ * this one and a body widget inside it. Core UI library, GUI thread.
  *
- * The class adds no virtual operation to QDialog but its destructor, and one pointer to QDialog's size. Plug-ins
- * derive from it, so both are binary contract.
+ * The class adds no virtual operation to QDialog but its destructor, and one pointer to QDialog's size.
+ * Plug-ins derive from it, so both are binary contract.
  */
 class HOST_EXPORT ExtendDialog : public QDialog
 {

@@ -18,8 +18,8 @@
  *   5. QueryInterface() for each interface wanted, as often as wanted;
  *   6. IDestroyEvent::OnDestroy() at shutdown, then delete the root object.
  *
- * Table: destructor, Release, GetLastError (IBaseInterface, the primary base), then the operations below in their
- * order. The IDestroyEvent part has a table of its own.
+ * Table: destructor, Release, GetLastError (IBaseInterface, the primary base), then the operations below in
+ * their order. The IDestroyEvent part has a table of its own.
  */
 class IBasePlugin : public IBaseInterface, public IDestroyEvent
 {
@@ -45,10 +45,11 @@ public:
     /**
      * Hands out the object that implements an interface.
      *
-     * @param interfaceNumber  the host's number of the interface: 4098 (0x1002) and 4103 (0x1007) are the settings
-     *                         page and the priority list, 4102 (0x1006) is the WLAN interface.
+     * @param interfaceNumber  the host's number of the interface: 4098 (0x1002) and 4103 (0x1007) are the
+     * settings page and the priority list, 4102 (0x1006) is the WLAN interface.
      * @param object           receives the object, which stays the plug-in's; to be cast with qobject_cast by
-     *                         interface identifier. Must not be null. Left untouched when the result is false.
+     *                         interface identifier. Must not be null. Left untouched when the result is
+     * false.
      * @return whether the plug-in has an object for that number.
      */
     virtual bool QueryInterface(int interfaceNumber, QObject **object) = 0;

@@ -13,13 +13,14 @@ public:
     virtual ~IDestroyEvent() {}
 
     /**
-     * The dashboard is closing. The plug-in takes down everything it created: pages, services, stores. Called once,
-     * on the GUI thread, after the settings dialog was closed and before the root object is deleted and the library
-     * unloaded. Interface pointers obtained from QueryInterface are invalid afterwards.
+     * The dashboard is closing. The plug-in takes down everything it created: pages, services, stores. Called
+     * once, on the GUI thread, after the settings dialog was closed and before the root object is deleted and
+     * the library unloaded. Interface pointers obtained from QueryInterface are invalid afterwards.
      */
     virtual void OnDestroy() = 0;
 
-    /** The SDK is going away: unregister from its events. May come before or after OnDestroy, or not at all. */
+    /** The SDK is going away: unregister from its events. May come before or after OnDestroy, or not at all.
+     */
     virtual void UnSDKRegisterEvent() = 0;
 };
 

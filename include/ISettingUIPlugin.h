@@ -9,34 +9,38 @@
 /**
  * A page of the host's settings dialog.
  *
- * Obtained with IBasePlugin::QueryInterface (4098 or 4103) and qobject_cast. Valid until IDestroyEvent::OnDestroy.
+ * Obtained with IBasePlugin::QueryInterface (4098 or 4103) and qobject_cast. Valid until
+ * IDestroyEvent::OnDestroy.
  *
  * Table: destructor, then the operations below in their order.
  *
- * What the host owes the page: before it deletes the dialog, or any widget between the dialog and the page, it calls
- * one of OnClickSettingOkButton, OnClickSettingCancelButton or HideSetting, which take the page out of the dialog
- * again. A page that is deleted along with a dialog is replaced by a fresh one at the next ShowSettingDialog; that
- * one shows the list and edits it, but it no longer follows what other plug-ins add while it is open.
+ * What the host owes the page: before it deletes the dialog, or any widget between the dialog and the page,
+ * it calls one of OnClickSettingOkButton, OnClickSettingCancelButton or HideSetting, which take the page out
+ * of the dialog again. A page that is deleted along with a dialog is replaced by a fresh one at the next
+ * ShowSettingDialog; that one shows the list and edits it, but it no longer follows what other plug-ins add
+ * while it is open.
  */
 class ISettingUIPlugin
 {
 public:
     virtual ~ISettingUIPlugin() {}
 
-    /** The user confirmed the settings dialog: the page's state is stored and the page hidden. Always true. */
+    /** The user confirmed the settings dialog: the page's state is stored and the page hidden. Always true.
+     */
     virtual bool OnClickSettingOkButton() = 0;
 
-    /** The user dismissed the settings dialog: the page is hidden. What it already stored stays stored. Always true. */
+    /** The user dismissed the settings dialog: the page is hidden. What it already stored stays stored.
+     * Always true. */
     virtual bool OnClickSettingCancelButton() = 0;
 
     /**
      * Shows the page as a child of parent.
      *
      * @param parent  not owned; takes the page as its child until the page is hidden.
-     * @param rect    where, in parent's coordinates and pixels. Only the top left corner counts: the page has a fixed
-     *                size of 420 x 374.
-     * @return false when there is no page any more, that is after OnDestroy. The page freshly loads its content
-     *         each time it is shown, and nothing in it is selected.
+     * @param rect    where, in parent's coordinates and pixels. Only the top left corner counts: the page has
+     * a fixed size of 420 x 374.
+     * @return false when there is no page any more, that is after OnDestroy. The page freshly loads its
+     * content each time it is shown, and nothing in it is selected.
      */
     virtual bool ShowSettingDialog(QWidget *parent, QRect &rect) = 0;
 

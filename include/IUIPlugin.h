@@ -9,8 +9,8 @@
 /**
  * Root object of a plug-in that may have a window of its own in the dashboard.
  *
- * Table: that of IBasePlugin, then the operations below in their order. A plug-in without a window answers with
- * fixed values and ignores the arguments; settings pages are shown through ISettingUIPlugin instead.
+ * Table: that of IBasePlugin, then the operations below in their order. A plug-in without a window answers
+ * with fixed values and ignores the arguments; settings pages are shown through ISettingUIPlugin instead.
  */
 class IUIPlugin : public IBasePlugin
 {
@@ -30,8 +30,8 @@ public:
     virtual bool IsReady() = 0;
 
     /**
-     * Tells the name of the language ("en", "ar"). False for an empty name. What makes a plug-in translate its
-     * visible texts anew is INotify::Notify with the language-change event, not this.
+     * Tells the name of the language ("en", "ar"). False for an empty name. What makes a plug-in translate
+     * its visible texts anew is INotify::Notify with the language-change event, not this.
      */
     virtual bool ChangeLang(const QString &language) = 0;
 };

@@ -8,19 +8,20 @@
 #include <QString>
 
 /**
- * What the WLAN plug-in offers the priority plug-in: the remembered profiles, the networks in range, and the storing
- * of new profiles.
+ * What the WLAN plug-in offers the priority plug-in: the remembered profiles, the networks in range, and the
+ * storing of new profiles.
  *
  * Obtained from the host's container (Startup::GetPluginContainer) with the class id
  * "7545FB07-0E7A-4F27-A449-872DB09C106D" and the number 4102, then qobject_cast. Callers look it up for every
  * operation, keep nothing, and quietly skip what needed it when any step yields null.
  *
- * All calls come on the GUI thread and are synchronous: when an operation returns, its output is filled. Outputs
- * belong to the caller and are never null. Nothing is thrown across this interface.
+ * All calls come on the GUI thread and are synchronous: when an operation returns, its output is filled.
+ * Outputs belong to the caller and are never null. Nothing is thrown across this interface.
  *
- * The table is binary contract. Counted from one over all its entries, of which the destructor takes the first two,
- * the six operations in use stand at 7, 8, 10, 11, 22 and 23. The entries between them are reserved: they keep the
- * positions, do nothing and are never called by the priority plug-in. A WLAN plug-in leaves them as they are.
+ * The table is binary contract. Counted from one over all its entries, of which the destructor takes the
+ * first two, the six operations in use stand at 7, 8, 10, 11, 22 and 23. The entries between them are
+ * reserved: they keep the positions, do nothing and are never called by the priority plug-in. A WLAN plug-in
+ * leaves them as they are.
  */
 class IWLANUIPlugin
 {
@@ -33,21 +34,22 @@ public:
     virtual void Reserved6() {}
 
     /**
-     * 7: stores a new profile and remembers it. The profile is complete as WLANRecords.h tells; keyMaterial holds the
-     * key in plain text and must not get into any trace or log.
+     * 7: stores a new profile and remembers it. The profile is complete as WLANRecords.h tells; keyMaterial
+     * holds the key in plain text and must not get into any trace or log.
      *
      * @return a code of the WLAN plug-in's own, 0 for success. The priority plug-in goes on whatever it is.
      */
     virtual int CreateWLANProfile(WLANProfile profile) = 0;
 
-    /** 8: appends every remembered profile, in a stable order, to *list, which comes empty. The result is ignored. */
+    /** 8: appends every remembered profile, in a stable order, to *list, which comes empty. The result is
+     * ignored. */
     virtual int GetRememberedList(QList<RememberedList> *list) = 0;
 
     virtual void Reserved9() {}
 
     /**
-     * 10: fills *profile, which comes with every text empty, with the profile of that name. An unknown name leaves it
-     * as it is. The result is ignored; callers read *profile whatever happened.
+     * 10: fills *profile, which comes with every text empty, with the profile of that name. An unknown name
+     * leaves it as it is. The result is ignored; callers read *profile whatever happened.
      */
     virtual int GetProfileByName(QString name, WLANProfile *profile) = 0;
 

@@ -4,7 +4,8 @@
 #include <QString>
 
 /**
- * One entry of the priority list; the list itself is a QList<PriorityList> with the highest priority at index 0.
+ * One entry of the priority list; the list itself is a QList<PriorityList> with the highest priority at index
+ * 0.
  *
  * A plain value that crosses library boundaries: exactly these two fields in this order, and nothing else.
  *
@@ -12,9 +13,10 @@
  */
 struct PriorityList {
     /**
-     * Name of the Wi-Fi profile, which is the SSID for profiles made in the dashboard, or name of the mobile-broadband
-     * entry. Any text. Characters that XML can't carry come back from the priority file as U+FFFD: U+0000 to U+001F
-     * but for tab, line feed and carriage return, surrogates that stand alone, U+FFFE and U+FFFF.
+     * Name of the Wi-Fi profile, which is the SSID for profiles made in the dashboard, or name of the
+     * mobile-broadband entry. Any text. Characters that XML can't carry come back from the priority file as
+     * U+FFFD: U+0000 to U+001F but for tab, line feed and carriage return, surrogates that stand alone,
+     * U+FFFE and U+FFFF.
      */
     QString name;
 

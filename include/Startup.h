@@ -9,8 +9,8 @@ class HOST_EXPORT Startup
 {
 public:
     /**
-     * The host's container, or null before the host has one and after it is gone. Owned by the host; not to be kept
-     * beyond the operation at hand.
+     * The host's container, or null before the host has one and after it is gone. Owned by the host; not to
+     * be kept beyond the operation at hand.
      */
     static IPluginContainer *GetPluginContainer();
 };

@@ -2,8 +2,9 @@
 #define TOOLKITCOMPAT_H
 
 /*
- * Everything in which the supported generations of the toolkit differ, as named helpers. No other file looks at the
- * toolkit's version. Comparisons use plain hexadecimal numbers because the oldest moc expands no function-like macro.
+ * Everything in which the supported generations of the toolkit differ, as named helpers. No other file looks
+ * at the toolkit's version. Comparisons use plain hexadecimal numbers because the oldest moc expands no
+ * function-like macro.
  */
 
 #include <QString>
@@ -33,7 +34,8 @@ inline QString FormatText(const char *format, va_list arguments)
 #endif
 }
 
-/** Lets negative contents margins of widget take effect, as they do without asking in the oldest generation. */
+/** Lets negative contents margins of widget take effect, as they do without asking in the oldest generation.
+ */
 inline void AllowNegativeMargins(QWidget *widget)
 {
 #if QT_VERSION >= 0x050a00
@@ -54,8 +56,8 @@ inline QString PlainTextAsHtml(const QString &text)
 }
 
 /**
- * Lets the window system move a window along with the mouse button that is down, which is the only way under some
- * of them. False: it can't, and whoever asks moves the window itself.
+ * Lets the window system move a window along with the mouse button that is down, which is the only way under
+ * some of them. False: it can't, and whoever asks moves the window itself.
  */
 inline bool LetSystemMove(QWidget *window)
 {
@@ -88,7 +90,8 @@ inline void ForwardMessage(QtMsgType type, const char *text)
 }
 #endif
 
-/** Sends all messages to handler instead of the standard error output; null restores the toolkit's own handling. */
+/** Sends all messages to handler instead of the standard error output; null restores the toolkit's own
+ * handling. */
 inline void InstallTextMessageHandler(TextMessageHandler handler)
 {
     CurrentTextMessageHandler() = handler;

@@ -6,9 +6,9 @@
 #include <QString>
 
 /*
- * The values that cross between the priority plug-in and the WLAN plug-in. They are exchanged by address between
- * libraries that are built separately, so their fields and the order of these are binary contract. All are plain
- * values: default construction leaves every text empty and every number 0.
+ * The values that cross between the priority plug-in and the WLAN plug-in. They are exchanged by address
+ * between libraries that are built separately, so their fields and the order of these are binary contract.
+ * All are plain values: default construction leaves every text empty and every number 0.
  *
  * Fields without a meaning here (text1, value1, ...) belong to the WLAN plug-in; others carry them unchanged.
  */
@@ -43,7 +43,8 @@ struct WLANProfile {
 
     QString text14;
 
-    /** "true" protects the profile's entry from being deleted; any other text, the empty one included, does not. */
+    /** "true" protects the profile's entry from being deleted; any other text, the empty one included, does
+     * not. */
     QString readOnly;
 
     QString text16; /**< Empty in a new profile. */

@@ -15,8 +15,9 @@ CFunctonTrick::CFunctonTrick(QString sourcePath, QString functionName, const cha
     const QString detail = ToolkitCompat::FormatText(detailFormat, arguments);
     va_end(arguments);
 
-    qDebug("%s: %s: %s: Entered %s", TraceLine::CurrentTime().constData(), m_sourcePath.toLocal8Bit().constData(),
-           m_functionName.toLocal8Bit().constData(), detail.toLocal8Bit().constData());
+    qDebug("%s: %s: %s: Entered %s", TraceLine::CurrentTime().constData(),
+           m_sourcePath.toLocal8Bit().constData(), m_functionName.toLocal8Bit().constData(),
+           detail.toLocal8Bit().constData());
 }
 
 CFunctonTrick::~CFunctonTrick()

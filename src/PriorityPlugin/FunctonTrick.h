@@ -4,13 +4,15 @@
 #include <QString>
 
 /**
- * Writes a trace line when it is created at the top of a function and another when the function returns, on whatever
- * path. All trace lines of the plug-in go through qDebug, always; what becomes of them is the host's affair.
+ * Writes a trace line when it is created at the top of a function and another when the function returns, on
+ * whatever path. All trace lines of the plug-in go through qDebug, always; what becomes of them is the host's
+ * affair.
  */
 class CFunctonTrick
 {
 public:
-    /** detailFormat and what follows it make the entry line's detail text by the rules of printf; %s reads UTF-8. */
+    /** detailFormat and what follows it make the entry line's detail text by the rules of printf; %s reads
+     * UTF-8. */
     CFunctonTrick(QString sourcePath, QString functionName, const char *detailFormat, ...);
     ~CFunctonTrick();
 
@@ -22,8 +24,8 @@ private:
 };
 
 /**
- * The line formats that the modules share. Blanks before the first colon differ between families of lines, and log
- * readers match them as they are.
+ * The line formats that the modules share. Blanks before the first colon differ between families of lines,
+ * and log readers match them as they are.
  */
 namespace TraceLine
 {

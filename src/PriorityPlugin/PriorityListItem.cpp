@@ -105,8 +105,8 @@ void PriorityListItem::SetLanguage(QString &lang)
     Place(m_nameLabel, QPoint(35, 9), QPoint(63, 9), mirrored);
 }
 
-RememberListItem::RememberListItem() :
-    QWidget(nullptr), m_checkBox(nullptr), m_iconLabel(nullptr), m_nameLabel(nullptr)
+RememberListItem::RememberListItem()
+    : QWidget(nullptr), m_checkBox(nullptr), m_iconLabel(nullptr), m_nameLabel(nullptr)
 {
 }
 

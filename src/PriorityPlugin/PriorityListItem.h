@@ -7,8 +7,8 @@ class QCheckBox;
 class QLabel;
 
 /**
- * One row of the priority page's table: an icon and a name at fixed places, mirrored for right-to-left languages.
- * Made without a parent; the table owns it once it is a cell widget.
+ * One row of the priority page's table: an icon and a name at fixed places, mirrored for right-to-left
+ * languages. Made without a parent; the table owns it once it is a cell widget.
  */
 class PriorityListItem : public QWidget
 {

@@ -7,8 +7,8 @@
 class CPriorityService;
 
 /**
- * The plug-in's root object. It has no window of its own: it hands out the priority service, forwards the language
- * change to it and takes it down at the end.
+ * The plug-in's root object. It has no window of its own: it hands out the priority service, forwards the
+ * language change to it and takes it down at the end.
  */
 class CPriorityPlugin : public QObject, public IUIPlugin, public INotify
 {

@@ -21,7 +21,8 @@ public:
     /** Creates the service on first use, and with it the page. */
     static CPriorityService *instance();
 
-    /** Takes down page, service and store. Page and store can't be made again in this process; the service can. */
+    /** Takes down page, service and store. Page and store can't be made again in this process; the service
+     * can. */
     static void Destroy();
 
     ~CPriorityService() override;

@@ -178,7 +178,8 @@ QString PriorityXMLParser::getUserDataDirectory()
 {
     QString directory;
     unsigned short *path = nullptr;
-    qDebug("%s: %s: %s before calling ZELT_GetUserDataDirectory()", buildTime, sourcePath, "getUserDataDirectory");
+    qDebug("%s: %s: %s before calling ZELT_GetUserDataDirectory()", buildTime, sourcePath,
+           "getUserDataDirectory");
     const long status = ZELT_GetUserDataDirectory(&path);
     qDebug("%s: %s: %s after calling ZELT_GetUserDataDirectory(), retVal=%ld", buildTime, sourcePath,
            "getUserDataDirectory", status);

@@ -9,14 +9,15 @@
 class QXmlStreamReader;
 
 /**
- * The store: the only code that touches the priority file, "Priority.xml" in the user data directory. It holds no
- * list of its own. Every operation reads the file afresh, changes the list and writes the whole file back, so the
- * file is always what the user sees.
+ * The store: the only code that touches the priority file, "Priority.xml" in the user data directory. It
+ * holds no list of its own. Every operation reads the file afresh, changes the list and writes the whole file
+ * back, so the file is always what the user sees.
  *
- * What the file can't carry: U+0000 to U+001F but for tab, line feed and carriage return, surrogates that stand
- * alone, U+FFFE and U+FFFF are no XML characters, and written raw they would cost the entries behind them. Each is
- * written as U+FFFD. The operations on the file apply the same rule to the entries they are given before they compare
- * them with what is stored, so such an entry is found again under the name it is stored by.
+ * What the file can't carry: U+0000 to U+001F but for tab, line feed and carriage return, surrogates that
+ * stand alone, U+FFFE and U+FFFF are no XML characters, and written raw they would cost the entries behind
+ * them. Each is written as U+FFFD. The operations on the file apply the same rule to the entries they are
+ * given before they compare them with what is stored, so such an entry is found again under the name it is
+ * stored by.
  */
 class PriorityXMLParser
 {
@@ -43,12 +44,13 @@ public:
     /** Appends the file's entries to *out; after ReadError those before the error. */
     int GetPriorityList(QList<PriorityList> *out);
 
-    /** Appends every "item" element's entry to *out, wherever in the document it stands. Success or ReadError. */
+    /** Appends every "item" element's entry to *out, wherever in the document it stands. Success or
+     * ReadError. */
     int ReadPriorityItem(QXmlStreamReader &reader, QList<PriorityList> *out);
 
     /**
-     * Replaces the file: the old one is deleted, then the new one written. When the new one can't be written to its
-     * end (a full disk), the old content is written back as far as that is possible and the result is
+     * Replaces the file: the old one is deleted, then the new one written. When the new one can't be written
+     * to its end (a full disk), the old content is written back as far as that is possible and the result is
      * FileNotOpenable. list itself is not changed.
      */
     int SavePriorityList(QList<PriorityList> &list);
@@ -70,15 +72,17 @@ public:
     /** Makes entry the last. Writes also when the file could not be read. The entry's index. */
     int AddTail(PriorityList &entry, QList<PriorityList> *list);
 
-    /** The new index; -1 when entry is the first already; -2 when it isn't in the file or this can't be read. */
+    /** The new index; -1 when entry is the first already; -2 when it isn't in the file or this can't be read.
+     */
     int MoveUp(PriorityList &entry, QList<PriorityList> *list);
 
-    /** The new index; the list's size when entry is the last already; 0 when it isn't in the file or this can't be read. */
+    /** The new index; the list's size when entry is the last already; 0 when it isn't in the file or this
+     * can't be read. */
     int MoveDown(PriorityList &entry, QList<PriorityList> *list);
 
     /**
-     * Makes entries the last ones, in their order; earlier occurrences go. Writes also when the file could not be
-     * read. position is ignored. The index of the first of entries; -1 when there are none.
+     * Makes entries the last ones, in their order; earlier occurrences go. Writes also when the file could
+     * not be read. position is ignored. The index of the first of entries; -1 when there are none.
      */
     int AddList(QList<PriorityList> &entries, int position, QList<PriorityList> *list);
 

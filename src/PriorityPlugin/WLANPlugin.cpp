@@ -17,5 +17,6 @@ IWLANUIPlugin *FindWLANPlugin()
     if (!container) {
         return nullptr;
     }
-    return qobject_cast<IWLANUIPlugin *>(container->GetPluginObject(QLatin1String(wlanClassId), wlanInterfaceNumber));
+    return qobject_cast<IWLANUIPlugin *>(
+        container->GetPluginObject(QLatin1String(wlanClassId), wlanInterfaceNumber));
 }

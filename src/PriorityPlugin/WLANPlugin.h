@@ -4,8 +4,8 @@
 class IWLANUIPlugin;
 
 /**
- * The sibling WLAN plug-in, or null when the host has none that can be used. Look it up for every operation: it may
- * come and go between any two of them.
+ * The sibling WLAN plug-in, or null when the host has none that can be used. Look it up for every operation:
+ * it may come and go between any two of them.
  */
 IWLANUIPlugin *FindWLANPlugin();
 

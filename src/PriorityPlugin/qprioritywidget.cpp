@@ -69,11 +69,12 @@ void QPriorityWidget::Destroy()
     _pPriorityWidget_ = nullptr;
 }
 
-QPriorityWidget::QPriorityWidget() :
-    QWidget(nullptr), m_upButton(nullptr), m_downButton(nullptr), m_addButton(nullptr), m_deleteButton(nullptr),
-    m_nameLabel(nullptr), m_infoLabel(nullptr), m_table(nullptr), m_mainLayout(nullptr), m_buttonLayout(nullptr),
-    m_frameLayout(nullptr), m_leftPanelLayout(nullptr), m_mainContainer(nullptr), m_leftPanel(nullptr),
-    m_frame(nullptr), m_buttonColumn(nullptr), m_selectedRow(-1), m_selectedColumn(-1), m_newButton(nullptr)
+QPriorityWidget::QPriorityWidget()
+    : QWidget(nullptr), m_upButton(nullptr), m_downButton(nullptr), m_addButton(nullptr),
+      m_deleteButton(nullptr), m_nameLabel(nullptr), m_infoLabel(nullptr), m_table(nullptr),
+      m_mainLayout(nullptr), m_buttonLayout(nullptr), m_frameLayout(nullptr), m_leftPanelLayout(nullptr),
+      m_mainContainer(nullptr), m_leftPanel(nullptr), m_frame(nullptr), m_buttonColumn(nullptr),
+      m_selectedRow(-1), m_selectedColumn(-1), m_newButton(nullptr)
 {
     setObjectName(QLatin1String("priorityPage"));
     Init();

@@ -16,8 +16,8 @@ class QVBoxLayout;
 /**
  * The settings page: the priority list as a table, and the buttons that change it. One in the process.
  *
- * The page belongs to itself and leaves the host's dialog again before that is deleted. When a host deletes it along
- * with the dialog all the same, the next GetInstance makes a new one.
+ * The page belongs to itself and leaves the host's dialog again before that is deleted. When a host deletes
+ * it along with the dialog all the same, the next GetInstance makes a new one.
  */
 class QPriorityWidget : public QWidget
 {

@@ -1,4 +1,5 @@
 #include <DragTableWidget.h>
+#include <LoadedPlugin.h>
 #include <PriorityListItem.h>
 #include <StandInHost.h>
 #include <TraceCapture.h>
@@ -64,8 +65,7 @@ void tst_CellWidgets::filledRow()
     PriorityListItem item;
     item.UpdateLabelContents(m_wifi, "Home");
     QCOMPARE(item.GetLabelIcon()->parentWidget(), static_cast<QWidget *>(&item));
-    QVERIFY(item.GetLabelIcon()->pixmap() && !item.GetLabelIcon()->pixmap()->isNull());
-    QCOMPARE(item.GetLabelIcon()->pixmap()->size(), QSize(24, 24));
+    QCOMPARE(Picture(item.GetLabelIcon()).size(), QSize(24, 24));
     QCOMPARE(item.GetLabelName()->text(), QString("Home"));
     QCOMPARE(item.GetLabelName()->minimumWidth(), 200);
     QCOMPARE(item.GetLabelName()->maximumWidth(), 200);
@@ -80,7 +80,7 @@ void tst_CellWidgets::rowWithoutIconFileShowsTheName()
 {
     PriorityListItem item;
     item.UpdateLabelContents("/no/such/icon.png", "Home");
-    QVERIFY(!item.GetLabelIcon()->pixmap() || item.GetLabelIcon()->pixmap()->isNull());
+    QVERIFY(Picture(item.GetLabelIcon()).isNull());
     QCOMPARE(item.GetLabelIcon()->pos(), QPoint(3, 3));
     QCOMPARE(item.GetLabelName()->text(), QString("Home"));
     QCOMPARE(item.GetLabelName()->pos(), QPoint(35, 9));
@@ -188,7 +188,8 @@ void tst_CellWidgets::rowTraceLines()
     }
     QCOMPARE(trace.Normalised(),
              QStringList() << source + "PriorityListItem: Entered " << source + "PriorityListItem: Exit"
-                           << source + QString::fromUtf8("UpdateLabelContents: Entered ,strIcon:/icon.png,strName:Café")
+                           << source + QString::fromUtf8(
+                                           "UpdateLabelContents: Entered ,strIcon:/icon.png,strName:Café")
                            << source + "UpdateLabelContents: Exit" << source + "~PriorityListItem: Entered "
                            << source + "~PriorityListItem: Exit");
 }
@@ -212,7 +213,7 @@ void tst_CellWidgets::rememberRow()
     QCOMPARE(labels.size(), 2);
     QVERIFY(item.GetChechItem()->text().isEmpty());
     QVERIFY(!item.GetChechItem()->isChecked());
-    QCOMPARE(labels.at(0)->pixmap()->size(), QSize(24, 24));
+    QCOMPARE(Picture(labels.at(0)).size(), QSize(24, 24));
     QCOMPARE(labels.at(1)->text(), QString("Home"));
     QCOMPARE(labels.at(1)->minimumWidth(), 200);
     QCOMPARE(int(labels.at(1)->alignment()), int(Qt::AlignLeft));

@@ -70,7 +70,9 @@ void tst_DeletedDialog::serviceSurvives()
     m_plugin.Priority()->AddTopPriority(Entry("X"));
     QList<PriorityList> list;
     QCOMPARE(m_plugin.Priority()->GetPriorityList(&list), 0);
-    QCOMPARE(AsTexts(list), QStringList() << "X/1" << "A/1" << "B/1");
+    QCOMPARE(AsTexts(list), QStringList() << "X/1"
+                                          << "A/1"
+                                          << "B/1");
 }
 
 void tst_DeletedDialog::freshPageIsShownNextTime()

@@ -74,7 +74,8 @@ void tst_Destroyed::showingIsRefusedAndTraced()
     trace.Clear();
     QVERIFY(!setting->ShowSettingDialog(&m_window, rect));
     QCOMPARE(trace.Normalised(),
-             QStringList() << "Arg is NULL: TIME: ../../src/PriorityPlugin/PriorityService.cpp: ShowSettingDialog 142");
+             QStringList()
+                 << "Arg is NULL: TIME: ../../src/PriorityPlugin/PriorityService.cpp: ShowSettingDialog 142");
     QVERIFY(m_window.children().isEmpty());
 }
 

@@ -139,7 +139,9 @@ void tst_ListOperations::entriesDifferingInCaseOrTypeAreDifferent()
     m_store->SavePriorityList(list);
     PriorityList home = Entry("Home", "1");
     m_store->AddTop(home, &list);
-    QCOMPARE(AsTexts(list), QStringList() << "Home/1" << "home/1" << "Home/0");
+    QCOMPARE(AsTexts(list), QStringList() << "Home/1"
+                                          << "home/1"
+                                          << "Home/0");
 }
 
 void tst_ListOperations::moves_data()
@@ -344,7 +346,8 @@ void tst_ListOperations::operationLines()
     QCOMPARE(trace.Normalised().at(0),
              QString("TIME: ../../src/PriorityPlugin/PriorityXMLParser.cpp: AddTop: Entered "));
     QCOMPARE(trace.Normalised().at(1), source + "AddTop, name:N,type:2");
-    QCOMPARE(trace.Normalised().last(), QString("TIME: ../../src/PriorityPlugin/PriorityXMLParser.cpp: AddTop: Exit"));
+    QCOMPARE(trace.Normalised().last(),
+             QString("TIME: ../../src/PriorityPlugin/PriorityXMLParser.cpp: AddTop: Exit"));
     trace.Clear();
     m_store->AddTail(entry, nullptr);
     QCOMPARE(trace.Normalised().at(1), source + "AddTail: AddTail N,2");

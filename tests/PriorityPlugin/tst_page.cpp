@@ -120,8 +120,8 @@ void tst_Page::metaObject()
     const QMetaObject *meta = Child("priorityPage")->metaObject();
     QCOMPARE(QString(meta->className()), QString("QPriorityWidget"));
     QCOMPARE(meta->superClass(), &QWidget::staticMetaObject);
-    const char *const slotSignatures[] = {"AddPriority()",     "UpPriority()",  "DownPriority()",
-                                          "RemovePriority()",  "NewPriority()", "OnCellClicked(int,int)",
+    const char *const slotSignatures[] = {"AddPriority()",       "UpPriority()",  "DownPriority()",
+                                          "RemovePriority()",    "NewPriority()", "OnCellClicked(int,int)",
                                           "UpdataPriorityList()"};
     QCOMPARE(meta->methodCount() - meta->methodOffset(), 7);
     for (int i = 0; i < 7; ++i) {
@@ -170,9 +170,12 @@ void tst_Page::leftPanel()
     QVERIFY(qobject_cast<QLabel *>(Child("infoLabel"))->wordWrap());
     QVERIFY(!qobject_cast<QLabel *>(Child("nameLabel"))->wordWrap());
     // The negative margins pull the frame up and left of where the layouts alone would put it.
-    QMargins own;
-    layout->getContentsMargins(&own.rleft(), &own.rtop(), &own.rright(), &own.rbottom());
-    QCOMPARE(frame->pos(), QPoint(own.left() - 9, own.top() - 7));
+    int left = 0;
+    int top = 0;
+    int right = 0;
+    int bottom = 0;
+    layout->getContentsMargins(&left, &top, &right, &bottom);
+    QCOMPARE(frame->pos(), QPoint(left - 9, top - 7));
 }
 
 void tst_Page::buttonColumn()
@@ -236,7 +239,8 @@ void tst_Page::showingReloadsTheFile()
     Store("XY");
     QRect rect;
     m_plugin.Setting()->ShowSettingDialog(m_window.data(), rect);
-    QCOMPARE(Rows(), QStringList() << "X" << "Y");
+    QCOMPARE(Rows(), QStringList() << "X"
+                                   << "Y");
 }
 
 void tst_Page::showingClearsTheSelection()
@@ -278,7 +282,9 @@ void tst_Page::initAgainBuildsAndLoadsNothing()
     QVERIFY(m_plugin.Plugin()->Init());
     QCOMPARE(trace.Lines().size(), 1);
     QCOMPARE(m_window->findChildren<QWidget *>().size(), before);
-    QCOMPARE(Rows(), QStringList() << "A" << "B" << "C");
+    QCOMPARE(Rows(), QStringList() << "A"
+                                   << "B"
+                                   << "C");
 }
 
 void tst_Page::showingWithoutAParentReloadsNothing()
@@ -286,15 +292,18 @@ void tst_Page::showingWithoutAParentReloadsNothing()
     Store("XY");
     QRect rect;
     m_plugin.Setting()->ShowSettingDialog(nullptr, rect);
-    QCOMPARE(Rows(), QStringList() << "A" << "B" << "C");
+    QCOMPARE(Rows(), QStringList() << "A"
+                                   << "B"
+                                   << "C");
     QCOMPARE(Child("priorityPage")->parentWidget(), m_window.data());
 }
 
 void tst_Page::showingIsTraced()
 {
+    ISettingUIPlugin *setting = m_plugin.Setting();
     TraceCapture trace;
     QRect rect;
-    m_plugin.Setting()->ShowSettingDialog(m_window.data(), rect);
+    setting->ShowSettingDialog(m_window.data(), rect);
     const QString source = "TIME: ../../src/PriorityPlugin/qprioritywidget.cpp: ";
     QCOMPARE(trace.Normalised().first(), source + "ShowSettingDialog: Entered ");
     QCOMPARE(trace.Normalised().at(1), source + "UpdataPriorityList: Entered ");
@@ -388,7 +397,9 @@ void tst_Page::upOnTheFirstRowAndDownOnTheLastDoNothing()
     QTest::keyClick(m_table, Qt::Key_Down);
     QCOMPARE(m_table->currentRow(), 2);
     QCOMPARE(m_directory->Read("Priority.xml"), before);
-    QCOMPARE(Rows(), QStringList() << "A" << "B" << "C");
+    QCOMPARE(Rows(), QStringList() << "A"
+                                   << "B"
+                                   << "C");
 }
 
 QTEST_MAIN(tst_Page)

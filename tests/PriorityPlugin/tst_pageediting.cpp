@@ -115,8 +115,8 @@ void tst_PageEditing::Store(const QStringList &entries)
     QByteArray xml = "<r>";
     for (int i = 0; i < entries.size(); ++i) {
         const QStringList parts = entries.at(i).split("/");
-        xml += "<item name='" + parts.at(0).toUtf8() + "' type='" + (parts.size() > 1 ? parts.at(1).toUtf8() : "1")
-               + "'/>";
+        xml += "<item name='" + parts.at(0).toUtf8() + "' type='" +
+               (parts.size() > 1 ? parts.at(1).toUtf8() : "1") + "'/>";
     }
     m_directory->Write("Priority.xml", xml + "</r>");
 }
@@ -167,8 +167,8 @@ QString tst_PageEditing::Buttons()
     if (!IsEnabled("addButton") || !IsEnabled("newButton")) {
         return "Add or New is disabled";
     }
-    return QString(IsEnabled("upButton") ? "U" : "-") + (IsEnabled("downButton") ? "D" : "-")
-           + (IsEnabled("deleteButton") ? "X" : "-");
+    return QString(IsEnabled("upButton") ? "U" : "-") + (IsEnabled("downButton") ? "D" : "-") +
+           (IsEnabled("deleteButton") ? "X" : "-");
 }
 
 void tst_PageEditing::MessageIsOpen()
@@ -181,7 +181,11 @@ void tst_PageEditing::MessageIsOpen()
 
 void tst_PageEditing::rowsShowKindAndName()
 {
-    Store(QStringList() << "Office/1" << "Mobile/2" << "Other/0" << "Odd/01" << "None/");
+    Store(QStringList() << "Office/1"
+                        << "Mobile/2"
+                        << "Other/0"
+                        << "Odd/01"
+                        << "None/");
     Show();
     QCOMPARE(Rows(), QString("Office Mobile Other Odd None"));
     const QString directory = StandInHost::libraryPath + "/plugins/PriorityPlugin/";
@@ -190,7 +194,7 @@ void tst_PageEditing::rowsShowKindAndName()
     QVERIFY(!wifi.isNull() && !mobile.isNull() && wifi != mobile);
     for (int row = 0; row < 5; ++row) {
         const QLabel *icon = m_table->cellWidget(row, 0)->findChild<QLabel *>("rowIcon");
-        QCOMPARE(icon->pixmap()->toImage(), row == 0 ? wifi : mobile);
+        QCOMPARE(Picture(icon), row == 0 ? wifi : mobile);
     }
 }
 
@@ -234,8 +238,8 @@ void tst_PageEditing::buttonStates()
     if (row >= 0 && row < count) {
         ClickRow(row);
     } else {
-        QMetaObject::invokeMethod(m_window->findChild<QWidget *>("priorityPage"), "OnCellClicked", Q_ARG(int, row),
-                                  Q_ARG(int, 0));
+        QMetaObject::invokeMethod(m_window->findChild<QWidget *>("priorityPage"), "OnCellClicked",
+                                  Q_ARG(int, row), Q_ARG(int, 0));
     }
     QCOMPARE(Buttons(), buttons);
 }
@@ -243,7 +247,9 @@ void tst_PageEditing::buttonStates()
 void tst_PageEditing::readOnlyEntryCanBeMovedButNotDeleted()
 {
     m_wlan.AddReadOnly("B", "true");
-    Store(QStringList() << "A" << "B" << "C");
+    Store(QStringList() << "A"
+                        << "B"
+                        << "C");
     Show();
     ClickRow(1);
     QCOMPARE(Buttons(), QString("UD-"));
@@ -257,7 +263,9 @@ void tst_PageEditing::readOnlyEntryCanBeMovedButNotDeleted()
 void tst_PageEditing::readOnlyWordsMustBeExact()
 {
     m_wlan.AddReadOnly("B", "TRUE");
-    Store(QStringList() << "A" << "B" << "C");
+    Store(QStringList() << "A"
+                        << "B"
+                        << "C");
     Show();
     ClickRow(1);
     QCOMPARE(Buttons(), QString("UDX"));
@@ -266,7 +274,9 @@ void tst_PageEditing::readOnlyWordsMustBeExact()
 void tst_PageEditing::mobileEntryIsNeverAskedFor()
 {
     m_wlan.AddReadOnly("M", "true");
-    Store(QStringList() << "A" << "M/2" << "C");
+    Store(QStringList() << "A"
+                        << "M/2"
+                        << "C");
     Show();
     m_wlan.calls.clear();
     ClickRow(1);
@@ -276,13 +286,16 @@ void tst_PageEditing::mobileEntryIsNeverAskedFor()
 
 void tst_PageEditing::wlanIsAskedAfreshOnEveryClick()
 {
-    Store(QStringList() << "A" << "B");
+    Store(QStringList() << "A"
+                        << "B");
     Show();
     m_wlan.calls.clear();
     ClickRow(0);
     ClickRow(0);
     Click("downButton");
-    QCOMPARE(m_wlan.calls, QStringList() << "GetProfileByName A" << "GetProfileByName A" << "GetProfileByName A");
+    QCOMPARE(m_wlan.calls, QStringList() << "GetProfileByName A"
+                                         << "GetProfileByName A"
+                                         << "GetProfileByName A");
     StandInHost::container = nullptr;
     m_wlan.AddReadOnly("A", "true");
     ClickRow(0);
@@ -291,7 +304,9 @@ void tst_PageEditing::wlanIsAskedAfreshOnEveryClick()
 
 void tst_PageEditing::moveUp()
 {
-    Store(QStringList() << "A" << "B" << "C");
+    Store(QStringList() << "A"
+                        << "B"
+                        << "C");
     Show();
     ClickRow(2);
     Click("upButton");
@@ -308,7 +323,9 @@ void tst_PageEditing::moveUp()
 
 void tst_PageEditing::moveDown()
 {
-    Store(QStringList() << "A" << "B" << "C");
+    Store(QStringList() << "A"
+                        << "B"
+                        << "C");
     Show();
     ClickRow(0);
     Click("downButton");
@@ -321,7 +338,9 @@ void tst_PageEditing::moveDown()
 
 void tst_PageEditing::arrowKeysMoveTheEntry()
 {
-    Store(QStringList() << "A" << "B" << "C");
+    Store(QStringList() << "A"
+                        << "B"
+                        << "C");
     Show();
     ClickRow(1);
     QTest::keyClick(m_table, Qt::Key_Up);
@@ -357,10 +376,13 @@ void tst_PageEditing::selectionStaysWithTheEntryOverManyMoves()
 
 void tst_PageEditing::vanishedEntryLeavesNothingSelected()
 {
-    Store(QStringList() << "A" << "B" << "C");
+    Store(QStringList() << "A"
+                        << "B"
+                        << "C");
     Show();
     ClickRow(1);
-    Store(QStringList() << "A" << "C");
+    Store(QStringList() << "A"
+                        << "C");
     Click("upButton");
     QCOMPARE(Rows(), QString("A C"));
     QCOMPARE(m_table->currentRow(), -1);
@@ -378,7 +400,8 @@ void tst_PageEditing::vanishedEntryLeavesNothingSelected()
 
 void tst_PageEditing::vanishedEntryFromAnEmptyFile()
 {
-    Store(QStringList() << "A" << "B");
+    Store(QStringList() << "A"
+                        << "B");
     Show();
     ClickRow(1);
     Store(QStringList());
@@ -389,7 +412,8 @@ void tst_PageEditing::vanishedEntryFromAnEmptyFile()
 
 void tst_PageEditing::moveWithoutAFileEmptiesThePage()
 {
-    Store(QStringList() << "A" << "B");
+    Store(QStringList() << "A"
+                        << "B");
     Show();
     ClickRow(0);
     QVERIFY(QFile::remove(m_directory->FilePath("Priority.xml")));
@@ -400,7 +424,8 @@ void tst_PageEditing::moveWithoutAFileEmptiesThePage()
 
 void tst_PageEditing::question()
 {
-    Store(QStringList() << "A" << "B");
+    Store(QStringList() << "A"
+                        << "B");
     Show();
     ClickRow(0);
     Click("deleteButton");
@@ -422,7 +447,9 @@ void tst_PageEditing::question()
 
 void tst_PageEditing::deleteConfirmed()
 {
-    Store(QStringList() << "A" << "B" << "C");
+    Store(QStringList() << "A"
+                        << "B"
+                        << "C");
     Show();
     ClickRow(1);
     Click("deleteButton");
@@ -434,7 +461,8 @@ void tst_PageEditing::deleteConfirmed()
 
 void tst_PageEditing::deleteConfirmedWritesTwice()
 {
-    Store(QStringList() << "A" << "B");
+    Store(QStringList() << "A"
+                        << "B");
     Show();
     ClickRow(1);
     TraceCapture trace;
@@ -454,7 +482,9 @@ void tst_PageEditing::deleteCancelled()
 {
     QFETCH(int, answer);
     StandInHost::messageAnswer = answer;
-    Store(QStringList() << "A" << "B" << "C");
+    Store(QStringList() << "A"
+                        << "B"
+                        << "C");
     Show();
     ClickRow(1);
     Click("deleteButton");
@@ -478,7 +508,8 @@ void tst_PageEditing::deleteLastEntry()
 
 void tst_PageEditing::deleteWithNothingSelectedRewritesTheFile()
 {
-    Store(QStringList() << "A" << "B");
+    Store(QStringList() << "A"
+                        << "B");
     Show();
     Store(QStringList() << "X");
     QMetaObject::invokeMethod(m_window->findChild<QWidget *>("priorityPage"), "RemovePriority");
@@ -488,7 +519,9 @@ void tst_PageEditing::deleteWithNothingSelectedRewritesTheFile()
 
 void tst_PageEditing::listShrunkDuringTheQuestion()
 {
-    Store(QStringList() << "A" << "B" << "C");
+    Store(QStringList() << "A"
+                        << "B"
+                        << "C");
     Show();
     ClickRow(2);
     m_visit = ShrinkList;
@@ -499,7 +532,9 @@ void tst_PageEditing::listShrunkDuringTheQuestion()
 
 void tst_PageEditing::refreshKeepsSelectedRowAndButtons()
 {
-    Store(QStringList() << "A" << "B" << "C");
+    Store(QStringList() << "A"
+                        << "B"
+                        << "C");
     Show();
     ClickRow(2);
     QCOMPARE(Buttons(), QString("U-X"));
@@ -511,23 +546,33 @@ void tst_PageEditing::refreshKeepsSelectedRowAndButtons()
 
 void tst_PageEditing::refreshToAShorterList()
 {
-    Store(QStringList() << "A" << "B" << "C" << "D" << "E");
+    Store(QStringList() << "A"
+                        << "B"
+                        << "C"
+                        << "D"
+                        << "E");
     Show();
     ClickRow(3);
-    Store(QStringList() << "A" << "B");
+    Store(QStringList() << "A"
+                        << "B");
     QMetaObject::invokeMethod(m_plugin.Service(), "OnUpdataPriorityView");
     QCOMPARE(Rows(), QString("A B"));
     QCOMPARE(m_table->currentRow(), -1);
     QCOMPARE(Buttons(), QString("UDX"));
     // Row 3 is still the selected one: it is highlighted as soon as it exists again.
-    Store(QStringList() << "A" << "B" << "C" << "D");
+    Store(QStringList() << "A"
+                        << "B"
+                        << "C"
+                        << "D");
     QMetaObject::invokeMethod(m_plugin.Service(), "OnUpdataPriorityView");
     QCOMPARE(m_table->currentRow(), 3);
 }
 
 void tst_PageEditing::refreshAfterAReadErrorShowsWhatWasRead()
 {
-    Store(QStringList() << "A" << "B" << "C");
+    Store(QStringList() << "A"
+                        << "B"
+                        << "C");
     Show();
     m_directory->Write("Priority.xml", "<r><item name='P' type='1'/><item");
     QMetaObject::invokeMethod(m_plugin.Service(), "OnUpdataPriorityView");
@@ -536,7 +581,9 @@ void tst_PageEditing::refreshAfterAReadErrorShowsWhatWasRead()
 
 void tst_PageEditing::okAfterMovesKeepsTheOrder()
 {
-    Store(QStringList() << "A" << "B" << "C");
+    Store(QStringList() << "A"
+                        << "B"
+                        << "C");
     Show();
     ClickRow(0);
     Click("downButton");
@@ -548,7 +595,8 @@ void tst_PageEditing::okAfterMovesKeepsTheOrder()
 
 void tst_PageEditing::addAndNewLeaveTheListAlone()
 {
-    Store(QStringList() << "A" << "B");
+    Store(QStringList() << "A"
+                        << "B");
     Show();
     const QByteArray before = m_directory->Read("Priority.xml");
     Click("addButton");
@@ -559,7 +607,9 @@ void tst_PageEditing::addAndNewLeaveTheListAlone()
 
 void tst_PageEditing::duplicateEntriesAreShownAndActOnTheFirst()
 {
-    Store(QStringList() << "A" << "B" << "A");
+    Store(QStringList() << "A"
+                        << "B"
+                        << "A");
     Show();
     QCOMPARE(Rows(), QString("A B A"));
     ClickRow(2);

@@ -72,7 +72,9 @@ void tst_PageParts::getPriorityAppends()
     QList<PriorityList> list;
     list << Entry("first");
     page->GetPriority(&list);
-    QCOMPARE(AsTexts(list), QStringList() << "first/1" << "A/1" << "B/1");
+    QCOMPARE(AsTexts(list), QStringList() << "first/1"
+                                          << "A/1"
+                                          << "B/1");
 }
 
 void tst_PageParts::getPriorityIntoNothing()
@@ -90,7 +92,10 @@ void tst_PageParts::addPriorityNodeSelectsTheFirstAdded()
     page->AddPriorityNode(entries);
     QList<PriorityList> list;
     page->GetPriority(&list);
-    QCOMPARE(AsTexts(list), QStringList() << "B/1" << "C/1" << "X/1" << "A/1");
+    QCOMPARE(AsTexts(list), QStringList() << "B/1"
+                                          << "C/1"
+                                          << "X/1"
+                                          << "A/1");
     QTableWidget *table = page->findChild<QTableWidget *>();
     QCOMPARE(table->rowCount(), 4);
     QCOMPARE(table->currentRow(), 2);
@@ -136,7 +141,8 @@ void tst_PageParts::readOnlyWords()
     TraceCapture trace;
     QCOMPARE(page->IsReadOnly("A"), readOnly);
     QVERIFY(!page->IsReadOnly("a"));
-    QCOMPARE(wlan.calls, QStringList() << "GetProfileByName A" << "GetProfileByName a");
+    QCOMPARE(wlan.calls, QStringList() << "GetProfileByName A"
+                                       << "GetProfileByName a");
     QCOMPARE(container.lookUps.size(), 2);
     QCOMPARE(trace.Lines(), QStringList());
 }
@@ -221,22 +227,22 @@ void tst_PageParts::tracedOperations()
                            << item + "~PriorityListItem: Entered " << item + "~PriorityListItem: Exit"
                            << source + "ClaerTabWidget: Exit" << item + "PriorityListItem: Entered "
                            << item + "PriorityListItem: Exit"
-                           << item + "UpdateLabelContents: Entered ,strIcon:" + StandInHost::libraryPath
-                                  + "/plugins/PriorityPlugin/wifi.png,strName:A"
+                           << item + "UpdateLabelContents: Entered ,strIcon:" + StandInHost::libraryPath +
+                                  "/plugins/PriorityPlugin/wifi.png,strName:A"
                            << item + "UpdateLabelContents: Exit" << source + "UpdataTabItem: Exit");
 
     trace.Clear();
     page->SetAllButtonState();
-    QCOMPARE(trace.Normalised(), QStringList() << source + "SetAllButtonState: Entered "
-                                               << source + "SetAllButtonState: Exit");
+    QCOMPARE(trace.Normalised(),
+             QStringList() << source + "SetAllButtonState: Entered " << source + "SetAllButtonState: Exit");
     trace.Clear();
     page->AddPriority();
     QCOMPARE(trace.Normalised().first(), source + "AddPriority: Entered ");
     QCOMPARE(trace.Normalised().last(), source + "AddPriority: Exit");
     trace.Clear();
     page->InitTabWidget();
-    QCOMPARE(trace.Normalised(), QStringList() << source + "InitTabWidget: Entered "
-                                               << source + "InitTabWidget: Exit");
+    QCOMPARE(trace.Normalised(), QStringList()
+                                     << source + "InitTabWidget: Entered " << source + "InitTabWidget: Exit");
     trace.Clear();
     page->UpPriority();
     QCOMPARE(trace.Normalised().first(), source + "UpPriority: Entered ");
@@ -249,8 +255,8 @@ void tst_PageParts::tracedOperations()
     trace.Clear();
     QList<PriorityList> none;
     page->AddPriorityNode(none);
-    QCOMPARE(trace.Normalised(), QStringList() << source + "AddPriorityNode: Entered "
-                                               << source + "AddPriorityNode: Exit");
+    QCOMPARE(trace.Normalised(),
+             QStringList() << source + "AddPriorityNode: Entered " << source + "AddPriorityNode: Exit");
     trace.Clear();
     page->RemovePriority();
     page->SavePriorityList();

@@ -107,20 +107,25 @@ void tst_PriorityFile::entriesAreTakenFromAnywhere()
 {
     m_directory->Write("Priority.xml", "<other><item name='A' type='1'/><x><y><item type='0' name='B' z='9'>"
                                        "<item name='C' type='1'/>text</item></y></x></other>");
-    QCOMPARE(AsTexts(Read()), QStringList() << "A/1" << "B/0" << "C/1");
+    QCOMPARE(AsTexts(Read()), QStringList() << "A/1"
+                                            << "B/0"
+                                            << "C/1");
 }
 
 void tst_PriorityFile::onlyElementsNamedItemCount()
 {
-    m_directory->Write("Priority.xml", "<zeltdoc><Item name='A' type='1'/><items name='B' type='1'/>"
-                                       "<!-- <item name='C' type='1'/> --><item name='D' type='1'/></zeltdoc>");
+    m_directory->Write("Priority.xml",
+                       "<zeltdoc><Item name='A' type='1'/><items name='B' type='1'/>"
+                       "<!-- <item name='C' type='1'/> --><item name='D' type='1'/></zeltdoc>");
     QCOMPARE(AsTexts(Read()), QStringList() << "D/1");
 }
 
 void tst_PriorityFile::missingAttributesAreEmpty()
 {
     m_directory->Write("Priority.xml", "<r><item name='A'/><item type='1'/><item/></r>");
-    QCOMPARE(AsTexts(Read()), QStringList() << "A/" << "/1" << "/");
+    QCOMPARE(AsTexts(Read()), QStringList() << "A/"
+                                            << "/1"
+                                            << "/");
 }
 
 void tst_PriorityFile::readingAppends()
@@ -129,7 +134,8 @@ void tst_PriorityFile::readingAppends()
     QList<PriorityList> list;
     QCOMPARE(m_store->GetPriorityList(&list), 0);
     QCOMPARE(m_store->GetPriorityList(&list), 0);
-    QCOMPARE(AsTexts(list), QStringList() << "A/1" << "A/1");
+    QCOMPARE(AsTexts(list), QStringList() << "A/1"
+                                          << "A/1");
 }
 
 void tst_PriorityFile::missingFile()
@@ -154,8 +160,10 @@ void tst_PriorityFile::emptyFile()
 
 void tst_PriorityFile::entriesBeforeAnErrorStay()
 {
-    m_directory->Write("Priority.xml", "<r><item name='A' type='1'/><item name='B' type='1'/><item name=</r>");
-    QCOMPARE(AsTexts(Read(6)), QStringList() << "A/1" << "B/1");
+    m_directory->Write("Priority.xml",
+                       "<r><item name='A' type='1'/><item name='B' type='1'/><item name=</r>");
+    QCOMPARE(AsTexts(Read(6)), QStringList() << "A/1"
+                                             << "B/1");
 }
 
 void tst_PriorityFile::directoryInPlaceOfTheFile()
@@ -216,10 +224,14 @@ void tst_PriorityFile::anyTextReadsBack_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("stored");
 
-    QTest::newRow("markup") << "a & b < c > d \" e ' f" << "a & b < c > d \" e ' f";
-    QTest::newRow("white space") << " a\tb\nc\rd\r\ne " << " a\tb\nc\rd\r\ne ";
-    QTest::newRow("CDATA end") << "]]>" << "]]>";
-    QTest::newRow("empty") << "" << "";
+    QTest::newRow("markup") << "a & b < c > d \" e ' f"
+                            << "a & b < c > d \" e ' f";
+    QTest::newRow("white space") << " a\tb\nc\rd\r\ne "
+                                 << " a\tb\nc\rd\r\ne ";
+    QTest::newRow("CDATA end") << "]]>"
+                               << "]]>";
+    QTest::newRow("empty") << ""
+                           << "";
     const QString rightToLeft = QString::fromUtf8("\u200fالمكتب\u202e\u2066שלום\u2069");
     QTest::newRow("right-to-left marks") << rightToLeft << rightToLeft;
     const QString pair = QString::fromUtf8("\xf0\x9f\x93\xb6 up");
@@ -234,12 +246,16 @@ void tst_PriorityFile::anyTextReadsBack_data()
     QTest::newRow("10,000 wide characters") << longWide << longWide;
 
     const QString replacement(QChar(0xfffd));
-    QTest::newRow("control character") << QString("a") + QChar(1) + "b" << "a" + replacement + "b";
-    QTest::newRow("null character") << QString("a") + QChar(0) + "b" << "a" + replacement + "b";
+    QTest::newRow("control character") << QString("a") + QChar(1) + "b"
+                                       << "a" + replacement + "b";
+    QTest::newRow("null character") << QString("a") + QChar(0) + "b"
+                                    << "a" + replacement + "b";
     QTest::newRow("escape") << QString(QChar(0x1b)) << replacement;
-    QTest::newRow("lone high surrogate") << QString("a") + QChar(0xd83d) + "b" << "a" + replacement + "b";
+    QTest::newRow("lone high surrogate") << QString("a") + QChar(0xd83d) + "b"
+                                         << "a" + replacement + "b";
     QTest::newRow("high surrogate at the end") << QString("a") + QChar(0xd83d) << "a" + replacement;
-    QTest::newRow("lone low surrogate") << QString("a") + QChar(0xdcf6) + "b" << "a" + replacement + "b";
+    QTest::newRow("lone low surrogate") << QString("a") + QChar(0xdcf6) + "b"
+                                        << "a" + replacement + "b";
     QTest::newRow("surrogates in the wrong order")
         << QString(QChar(0xdcf6)) + QChar(0xd83d) << replacement + replacement;
     QTest::newRow("non-characters") << QString(QChar(0xfffe)) + QChar(0xffff) << replacement + replacement;
@@ -312,14 +328,15 @@ void tst_PriorityFile::tracedLinesOfReading()
     m_directory->Write("Priority.xml", "<r/>");
     TraceCapture trace;
     Read();
-    QCOMPARE(trace.Normalised(),
-             QStringList() << QString("TIME: %1: GetPriorityList: Entered ").arg(storeSource)
-                           << QString("BUILD: %1: getUserDataDirectory before calling ZELT_GetUserDataDirectory()")
-                                  .arg(storeSource)
-                           << QString("BUILD: %1: getUserDataDirectory after calling ZELT_GetUserDataDirectory(), "
-                                      "retVal=0")
-                                  .arg(storeSource)
-                           << QString("TIME: %1: GetPriorityList: Exit").arg(storeSource));
+    QCOMPARE(
+        trace.Normalised(),
+        QStringList() << QString("TIME: %1: GetPriorityList: Entered ").arg(storeSource)
+                      << QString("BUILD: %1: getUserDataDirectory before calling ZELT_GetUserDataDirectory()")
+                             .arg(storeSource)
+                      << QString("BUILD: %1: getUserDataDirectory after calling ZELT_GetUserDataDirectory(), "
+                                 "retVal=0")
+                             .arg(storeSource)
+                      << QString("TIME: %1: GetPriorityList: Exit").arg(storeSource));
 }
 
 void tst_PriorityFile::tracedLinesOfSaving()
@@ -358,7 +375,8 @@ void tst_PriorityFile::tracedLinesOfFailures()
 
     trace.Clear();
     PriorityXMLParser::GetInstance();
-    QCOMPARE(trace.Normalised(), QStringList() << QString("BUILD: %1: GetInstance: Entered").arg(storeSource));
+    QCOMPARE(trace.Normalised(), QStringList()
+                                     << QString("BUILD: %1: GetInstance: Entered").arg(storeSource));
 }
 
 void tst_PriorityFile::directoryOfTheSdk()

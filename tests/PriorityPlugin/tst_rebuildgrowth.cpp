@@ -55,13 +55,13 @@ void tst_RebuildGrowth::rebuildIsLinear()
     page->ShowSettingDialog(&window, rect);
     const qint64 small = RebuildTime(page, 250);
     const qint64 large = RebuildTime(page, 2000);
+    page->setParent(nullptr);
+    QPriorityWidget::Destroy();
     ToolkitCompat::InstallTextMessageHandler(nullptr);
     const double growth = double(large) / double(small);
     qDebug("eight times the rows take %.1f times the time", growth);
     // Linear is 8, quadratic 64.
     QVERIFY2(growth < 20, qPrintable(QString::number(growth)));
-    page->setParent(nullptr);
-    QPriorityWidget::Destroy();
 }
 
 QTEST_MAIN(tst_RebuildGrowth)

@@ -64,7 +64,8 @@ void tst_RootObject::notifyBeforeAnyQueryChangesNothing()
     QCOMPARE(m_plugin.Notification()->Notify(320, 0, 0), 0);
     StandInHost::language = "en";
     QVERIFY(m_plugin.Setting());
-    // The page exists since Init; had the event reached it, its texts would be the other language's until it is shown.
+    // The page exists since Init; had the event reached it, its texts would be the other language's until it
+    // is shown.
     QPushButton *up = nullptr;
     const QWidgetList widgets = QApplication::allWidgets();
     for (int i = 0; i < widgets.size(); ++i) {

@@ -120,7 +120,9 @@ void tst_Service::getPriorityListAppends()
     QList<PriorityList> list;
     list << Entry("first");
     QCOMPARE(m_plugin.Priority()->GetPriorityList(&list), 0);
-    QCOMPARE(AsTexts(list), QStringList() << "first/1" << "A/1" << "B/1");
+    QCOMPARE(AsTexts(list), QStringList() << "first/1"
+                                          << "A/1"
+                                          << "B/1");
 }
 
 void tst_Service::getPriorityListCodes()
@@ -146,7 +148,8 @@ void tst_Service::addPriorityListKeepsDuplicates()
     m_plugin.Priority()->AddPriorityList(entries);
     QCOMPARE(Stored(), QString("ABCBX"));
     QCOMPARE(spy.count(), 1);
-    QCOMPARE(AsTexts(entries), QStringList() << "B/1" << "X/1");
+    QCOMPARE(AsTexts(entries), QStringList() << "B/1"
+                                             << "X/1");
 }
 
 void tst_Service::addPriorityListOfNothingRewritesAndSignals()
@@ -192,7 +195,9 @@ void tst_Service::addTopOfANewEntry()
     m_plugin.Priority()->AddTopPriority(Entry("A", "2"));
     QList<PriorityList> list;
     m_plugin.Priority()->GetPriorityList(&list);
-    QCOMPARE(AsTexts(list), QStringList() << "A/2" << "A/1" << "B/1");
+    QCOMPARE(AsTexts(list), QStringList() << "A/2"
+                                          << "A/1"
+                                          << "B/1");
 }
 
 void tst_Service::addTopWithoutANameIsIgnored()
@@ -272,12 +277,14 @@ void tst_Service::fixedAnswers()
 void tst_Service::showingWithoutAParentIsStillTrue()
 {
     Store("AB");
+    ISettingUIPlugin *setting = m_plugin.Setting();
     TraceCapture trace;
     QRect rect;
-    QVERIFY(m_plugin.Setting()->ShowSettingDialog(nullptr, rect));
-    QCOMPARE(trace.Normalised(),
-             QStringList() << "TIME: ../../src/PriorityPlugin/qprioritywidget.cpp: ShowSettingDialog: Entered "
-                           << "TIME: ../../src/PriorityPlugin/qprioritywidget.cpp: ShowSettingDialog: Exit");
+    QVERIFY(setting->ShowSettingDialog(nullptr, rect));
+    QCOMPARE(
+        trace.Normalised(),
+        QStringList() << "TIME: ../../src/PriorityPlugin/qprioritywidget.cpp: ShowSettingDialog: Entered "
+                      << "TIME: ../../src/PriorityPlugin/qprioritywidget.cpp: ShowSettingDialog: Exit");
 }
 
 QTEST_MAIN(tst_Service)

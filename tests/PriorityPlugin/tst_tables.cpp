@@ -75,7 +75,8 @@ void tst_Tables::initTestCase()
 
 void tst_Tables::cleanupTestCase()
 {
-    // The destroy part follows the primary part; its table is: two destructor entries, OnDestroy, UnSDKRegisterEvent.
+    // The destroy part follows the primary part; its table is: two destructor entries, OnDestroy,
+    // UnSDKRegisterEvent.
     void *destroyPart = static_cast<void **>(m_plugin) + 1;
     Call<void>(destroyPart, 3);
     Call<void>(destroyPart, 2);

@@ -6,7 +6,8 @@
 #include <QMap>
 #include <QStringList>
 
-/** A WLAN plug-in as a plain object behind the real interface: it answers from its members and records its calls. */
+/** A WLAN plug-in as a plain object behind the real interface: it answers from its members and records its
+ * calls. */
 class FakeWLAN : public QObject, public IWLANUIPlugin
 {
     Q_OBJECT

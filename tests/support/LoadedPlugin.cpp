@@ -1,6 +1,8 @@
 #include "LoadedPlugin.h"
 
-#include <QStringList>
+#include <QLabel>
+#include <QPixmap>
+#include <QVariant>
 
 typedef QObject *(*InstanceFunction)();
 
@@ -18,7 +20,8 @@ QString LoadedPlugin::FileName()
 
 QObject *LoadedPlugin::Root()
 {
-    const InstanceFunction instance = reinterpret_cast<InstanceFunction>(m_library.resolve("qt_plugin_instance"));
+    const InstanceFunction instance =
+        reinterpret_cast<InstanceFunction>(m_library.resolve("qt_plugin_instance"));
     return instance();
 }
 
@@ -64,4 +67,9 @@ QStringList AsTexts(const QList<PriorityList> &list)
         texts.append(list.at(i).name + QLatin1Char('/') + list.at(i).type);
     }
     return texts;
+}
+
+QImage Picture(const QLabel *label)
+{
+    return label->property("pixmap").value<QPixmap>().toImage();
 }

@@ -6,9 +6,11 @@
 #include <ISettingUIPlugin.h>
 #include <IUIPlugin.h>
 
+#include <QImage>
 #include <QLibrary>
+#include <QStringList>
 
-class QWidget;
+class QLabel;
 
 /** The plug-in library, loaded the way a host loads it. */
 class LoadedPlugin
@@ -37,5 +39,8 @@ private:
 /** Lists for comparisons: "name/type" each. */
 PriorityList Entry(const QString &name, const QString &type = QLatin1String("1"));
 QStringList AsTexts(const QList<PriorityList> &list);
+
+/** A label's picture as an image; null when it has none. */
+QImage Picture(const QLabel *label);
 
 #endif

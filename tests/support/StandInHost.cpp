@@ -86,8 +86,8 @@ int CommonUtils::ShowMessage(QMessageBox::Icon icon, QWidget *parent, QString ti
     return StandInHost::messageAnswer;
 }
 
-ExtendDialog::ExtendDialog(QWidget *parent, Qt::WindowFlags flags, enWidgetType) :
-    QDialog(parent, flags), m_titleLabel(nullptr)
+ExtendDialog::ExtendDialog(QWidget *parent, Qt::WindowFlags flags, enWidgetType)
+    : QDialog(parent, flags), m_titleLabel(nullptr)
 {
 }
 

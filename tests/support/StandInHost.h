@@ -36,13 +36,15 @@ public:
 };
 
 /**
- * The host services as the test program defines them itself. Change::tr answers "<language>:<id>", and "<context>?<id>"
- * for any context but the plug-in's, so that texts show which language and context they were asked in.
+ * The host services as the test program defines them itself. Change::tr answers "<language>:<id>", and
+ * "<context>?<id>" for any context but the plug-in's, so that texts show which language and context they were
+ * asked in.
  */
 class StandInHost
 {
 public:
-    /** Back to: no container, language "en", the build's plug-in library path, directory known, answers OK. */
+    /** Back to: no container, language "en", the build's plug-in library path, directory known, answers OK.
+     */
     static void Reset(const QString &userDataDirectory);
 
     static QString userDataDirectory;

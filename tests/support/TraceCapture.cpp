@@ -46,7 +46,8 @@ void TraceCapture::Clear()
 QStringList TraceCapture::Normalised() const
 {
     QStringList lines = Lines();
-    lines.replaceInStrings(QRegExp(QLatin1String("\\b\\d\\d:\\d\\d:\\d\\d:\\d\\d\\d\\b")), QLatin1String("TIME"));
+    lines.replaceInStrings(QRegExp(QLatin1String("\\b\\d\\d:\\d\\d:\\d\\d:\\d\\d\\d\\b")),
+                           QLatin1String("TIME"));
     lines.replaceInStrings(QRegExp(QLatin1String("\\b\\d\\d:\\d\\d:\\d\\d\\b")), QLatin1String("BUILD"));
     return lines;
 }
