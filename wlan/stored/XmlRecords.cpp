@@ -1,5 +1,6 @@
 #include "XmlRecords.h"
 
+#include <QTextCodec>
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
@@ -80,6 +81,58 @@ bool AcceptElement(const QXmlStreamReader &reader, const XmlRecordFormat &format
     return true;
 }
 
+/** The length of the lines before the first that isn't UTF-8, with the number of that line or 0. */
+int SoundLength(const QByteArray &bytes, qint64 *unsoundLine)
+{
+    const QTextCodec *codec = QTextCodec::codecForName("UTF-8");
+    qint64 line = 1;
+    for (int begin = 0; begin < bytes.size(); ++line) {
+        const int lineEnd = bytes.indexOf('\n', begin);
+        const int end = lineEnd < 0 ? bytes.size() : lineEnd + 1;
+        QTextCodec::ConverterState state;
+        codec->toUnicode(bytes.constData() + begin, end - begin, &state);
+        if (state.invalidChars > 0 || state.remainingChars > 0) {
+            *unsoundLine = line;
+            return begin;
+        }
+        begin = end;
+    }
+    *unsoundLine = 0;
+    return bytes.size();
+}
+
+qint64 ReadSound(const QByteArray &bytes, const XmlRecordFormat &format, QList<XmlRecord> *records)
+{
+    QXmlStreamReader reader(bytes);
+    int depth = 0;
+    while (!reader.atEnd()) {
+        bool accepted = true;
+        switch (reader.readNext()) {
+        case QXmlStreamReader::StartElement:
+            accepted = AcceptElement(reader, format, depth, records);
+            ++depth;
+            break;
+        case QXmlStreamReader::EndElement:
+            --depth;
+            break;
+        case QXmlStreamReader::Characters:
+            accepted = reader.isWhitespace();
+            break;
+        case QXmlStreamReader::DTD:
+        case QXmlStreamReader::EntityReference:
+        case QXmlStreamReader::ProcessingInstruction:
+            accepted = false;
+            break;
+        default:
+            break;
+        }
+        if (!accepted) {
+            return reader.lineNumber();
+        }
+    }
+    return reader.hasError() ? reader.lineNumber() : 0;
+}
+
 } // namespace
 
 QString XmlRecords::Escape(const QString &text)
@@ -134,34 +187,14 @@ QString XmlRecords::Unescape(const QString &text)
 
 qint64 XmlRecords::Read(const QByteArray &bytes, const XmlRecordFormat &format, QList<XmlRecord> *records)
 {
-    QXmlStreamReader reader(bytes);
-    int depth = 0;
-    while (!reader.atEnd()) {
-        bool accepted = true;
-        switch (reader.readNext()) {
-        case QXmlStreamReader::StartElement:
-            accepted = AcceptElement(reader, format, depth, records);
-            ++depth;
-            break;
-        case QXmlStreamReader::EndElement:
-            --depth;
-            break;
-        case QXmlStreamReader::Characters:
-            accepted = reader.isWhitespace();
-            break;
-        case QXmlStreamReader::DTD:
-        case QXmlStreamReader::EntityReference:
-        case QXmlStreamReader::ProcessingInstruction:
-            accepted = false;
-            break;
-        default:
-            break;
-        }
-        if (!accepted) {
-            return reader.lineNumber();
-        }
+    // The stream reader decodes ahead and would lose, for one wrong byte, all records before it.
+    qint64 unsoundLine = 0;
+    const int length = SoundLength(bytes, &unsoundLine);
+    const qint64 fault = ReadSound(QByteArray::fromRawData(bytes.constData(), length), format, records);
+    if (unsoundLine == 0) {
+        return fault;
     }
-    return reader.hasError() ? reader.lineNumber() : 0;
+    return fault == 0 ? unsoundLine : qMin(fault, unsoundLine);
 }
 
 QByteArray XmlRecords::Write(const XmlRecordFormat &format, const QList<XmlRecord> &records)

@@ -31,8 +31,8 @@ struct XmlRecordFormat {
  * back as something else. They are written as \uXXXX with four hexadecimal digits, and a backslash as two; a
  * backslash that begins neither of these stands for itself.
  *
- * The reader refuses what the writer would lose on the way back: elements, attributes and text that are not
- * of the format, and document type declarations. Comments are accepted and not kept.
+ * The files are UTF-8. The reader refuses what the writer would lose on the way back: elements, attributes
+ * and text that are not of the format, and document type declarations. Comments are accepted and not kept.
  */
 namespace XmlRecords
 {
