@@ -29,7 +29,7 @@ public:
      * @param type    always enWidgetTypeDialog.
      */
     ExtendDialog(QWidget *parent, Qt::WindowFlags flags, enWidgetType type);
-    virtual ~ExtendDialog();
+    ~ExtendDialog() override;
 
     /** Places body below the title bar and takes ownership of it. Call it once; null does nothing. */
     void AddMainWidget(QWidget *body);
