@@ -124,5 +124,243 @@
 </context>
 <context>
     <name>Dashboard</name>
+    <message>
+        <source>IDS_WINDOW_TITLE</source>
+        <translation>لوحة الشبكات</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_FILE</source>
+        <translation>&amp;ملف</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_VIEW</source>
+        <translation>&amp;عرض</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_LANGUAGE</source>
+        <translation>&amp;اللغة</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_SETTINGS</source>
+        <translation>الإ&amp;عدادات…</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_REFRESH</source>
+        <translation>&amp;تحديث</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_QUIT</source>
+        <translation>إ&amp;نهاء</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_TRACE</source>
+        <translation>إظهار سجل الت&amp;تبّع</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_SETTINGS</source>
+        <translation>الإعدادات…</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_REFRESH</source>
+        <translation>تحديث</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_TRACE</source>
+        <translation>إظهار التتبّع</translation>
+    </message>
+    <message>
+        <source>IDS_TRACE_TITLE</source>
+        <translation>سجل التتبّع</translation>
+    </message>
+    <message>
+        <source>IDS_LOG_NOT_WRITABLE</source>
+        <translation>تعذّرت الكتابة في ملف السجل %1؛ يظهر التتبّع هنا فقط.</translation>
+    </message>
+    <message>
+        <source>IDS_OK</source>
+        <translation>موافق</translation>
+    </message>
+    <message>
+        <source>IDS_CANCEL</source>
+        <translation>إلغاء</translation>
+    </message>
+    <message>
+        <source>IDS_SETTINGS_TITLE</source>
+        <translation>الإعدادات</translation>
+    </message>
+    <message>
+        <source>IDS_PLUGIN_PRIORITY</source>
+        <translation>أولوية الشبكات</translation>
+    </message>
+    <message>
+        <source>IDS_PLUGIN_WLAN</source>
+        <translation>واي فاي</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_TITLE</source>
+        <translation>عام</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_LANGUAGE</source>
+        <translation>اللغة</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_PLUGINS</source>
+        <translation>الإضافات</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_PLUGIN_WORKS</source>
+        <translation>محمّلة</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_PLUGIN_MISSING</source>
+        <translation>غير متوفرة</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_PLACES</source>
+        <translation>حول هذه اللوحة</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_USER_DATA</source>
+        <translation>بياناتك:</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_PLUGIN_LIBRARY</source>
+        <translation>موضع الإضافات:</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_VERSION</source>
+        <translation>الإصدار:</translation>
+    </message>
+    <message>
+        <source>IDS_PAGE_NOT_SHOWN</source>
+        <translation>يتعذّر عرض هذه الصفحة: حُمّلت الإضافة %1 لكنها لا تقدّم صفحتها. قد يوضّح سجل التتبّع المزيد.</translation>
+    </message>
+    <message>
+        <source>IDS_KIND_WIFI</source>
+        <translation>واي فاي</translation>
+    </message>
+    <message>
+        <source>IDS_KIND_MOBILE</source>
+        <translation>النطاق العريض للجوال</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_IN_USE</source>
+        <translation>قيد الاستخدام الآن</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_IN_RANGE</source>
+        <translation>في المدى</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_OUT_OF_RANGE</source>
+        <translation>خارج المدى</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_UNKNOWN</source>
+        <translation>غير معروف إن كانت في المدى</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_FALLBACK</source>
+        <translation>جاهزة كبديل</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_IN_USE</source>
+        <translation>قيد الاستخدام الآن: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_IN_USE_WIFI</source>
+        <translation>هي أول شبكة في قائمتك تقع في المدى.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_IN_USE_MOBILE</source>
+        <translation>لا توجد في المدى شبكة واي فاي تسبقها في قائمتك.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NONE</source>
+        <translation>لا توجد شبكة قيد الاستخدام</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_EMPTY</source>
+        <translation>قائمتك فارغة، فلا يوجد ما يمكن الاختيار منه.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NOTHING_IN_RANGE</source>
+        <translation>لا توجد في المدى أي شبكة من قائمتك.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_RANGE_UNKNOWN</source>
+        <translation>إضافة الواي فاي غير متوفرة، لذلك لا يُعرف أي الشبكات في المدى.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NO_PRIORITY_PLUGIN</source>
+        <translation>الإضافة التي تحفظ القائمة غير متوفرة.</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_DAMAGED</source>
+        <translation>الملف الذي يحوي قائمتك تالف. يُعرض ما قبل موضع التلف؛ وإضافة شبكة من الإعدادات تكتب الملف من جديد.</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_NOT_OPENED</source>
+        <translation>الملف الذي يحوي قائمتك موجود لكن يتعذّر فتحه. تحقّق من أذوناته ثم حدّث العرض.</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_NOT_OFFERED</source>
+        <translation>حُمّلت الإضافة %1 لكنها لا تقدّم القائمة.</translation>
+    </message>
+    <message>
+        <source>IDS_NO_LIST_TITLE</source>
+        <translation>لا توجد قائمة لعرضها</translation>
+    </message>
+    <message>
+        <source>IDS_EMPTY_TITLE</source>
+        <translation>قائمة الأولوية فارغة</translation>
+    </message>
+    <message>
+        <source>IDS_EMPTY_HINT</source>
+        <translation>افتح الإعدادات ثم اختر «إضافة» للشبكات التي يتذكّرها هذا الحاسوب، أو «جديد» لإدخال شبكة بنفسك. تُفضَّل الشبكة الأعلى في القائمة.</translation>
+    </message>
+    <message>
+        <source>IDS_EMPTY_UNREADABLE</source>
+        <translation>لا يمكن قراءة أي شيء منها. راجع الرسالة أعلاه.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_NOT_LOADED</source>
+        <translation>الإضافة %1 غير محمّلة.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_MISSING</source>
+        <translation>الإضافة %1 غير موجودة. ثبّتها، أو شغّل اللوحة بالخيار ‎--library-path‎ مع المجلد الذي يحوي المجلد "plugins".</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_NOT_A_LIBRARY</source>
+        <translation>يتعذّر تحميل الإضافة %1 كمكتبة: %2</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_NO_VERIFICATION</source>
+        <translation>لا تذكر الإضافة %1 ما بُنيت لأجله، لذلك لا تُستخدم.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_REFUSED</source>
+        <translation>بُنيت الإضافة %1 للوحة أخرى، لذلك لا تُستخدم.
+الموجود: %2
+المتوقّع: %3</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_NO_ENTRY_POINT</source>
+        <translation>لا تحوي المكتبة %1 نقطة دخول لإضافة، لذلك لا تُستخدم.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_NULL_INSTANCE</source>
+        <translation>لم تقدّم الإضافة %1 كائنًا للعمل معه، لذلك لا تُستخدم.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_NOT_A_PLUGIN</source>
+        <translation>ما قدّمته %1 ليس إضافة لهذه اللوحة، لذلك لا يُستخدم.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_INIT_FAILED</source>
+        <translation>تفيد الإضافة %1 بأنها لا تستطيع العمل، لذلك لا تُستخدم. قد يوضّح سجل التتبّع المزيد.</translation>
+    </message>
 </context>
 </TS>

@@ -145,5 +145,243 @@ Allowed are letters, digits and these signs:
 </context>
 <context>
     <name>Dashboard</name>
+    <message>
+        <source>IDS_WINDOW_TITLE</source>
+        <translation>Network dashboard</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_FILE</source>
+        <translation>&amp;File</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_VIEW</source>
+        <translation>&amp;View</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_LANGUAGE</source>
+        <translation>&amp;Language</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_SETTINGS</source>
+        <translation>&amp;Settings…</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_REFRESH</source>
+        <translation>&amp;Refresh</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_QUIT</source>
+        <translation>&amp;Quit</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_TRACE</source>
+        <translation>Show &amp;trace</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_SETTINGS</source>
+        <translation>Settings…</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_REFRESH</source>
+        <translation>Refresh</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_TRACE</source>
+        <translation>Show trace</translation>
+    </message>
+    <message>
+        <source>IDS_TRACE_TITLE</source>
+        <translation>Trace</translation>
+    </message>
+    <message>
+        <source>IDS_LOG_NOT_WRITABLE</source>
+        <translation>The log file %1 can't be written; the trace is shown here only.</translation>
+    </message>
+    <message>
+        <source>IDS_OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>IDS_CANCEL</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>IDS_SETTINGS_TITLE</source>
+        <translation>Settings</translation>
+    </message>
+    <message>
+        <source>IDS_PLUGIN_PRIORITY</source>
+        <translation>Network priority</translation>
+    </message>
+    <message>
+        <source>IDS_PLUGIN_WLAN</source>
+        <translation>Wi-Fi</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_TITLE</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_LANGUAGE</source>
+        <translation>Language</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_PLUGINS</source>
+        <translation>Plug-ins</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_PLUGIN_WORKS</source>
+        <translation>loaded</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_PLUGIN_MISSING</source>
+        <translation>not available</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_PLACES</source>
+        <translation>About this dashboard</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_USER_DATA</source>
+        <translation>Your data:</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_PLUGIN_LIBRARY</source>
+        <translation>Plug-ins from:</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_VERSION</source>
+        <translation>Version:</translation>
+    </message>
+    <message>
+        <source>IDS_PAGE_NOT_SHOWN</source>
+        <translation>This page can't be shown: the plug-in %1 was loaded, but doesn't hand out its page. The trace may tell more.</translation>
+    </message>
+    <message>
+        <source>IDS_KIND_WIFI</source>
+        <translation>Wi-Fi</translation>
+    </message>
+    <message>
+        <source>IDS_KIND_MOBILE</source>
+        <translation>Mobile broadband</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_IN_USE</source>
+        <translation>In use now</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_IN_RANGE</source>
+        <translation>In range</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_OUT_OF_RANGE</source>
+        <translation>Out of range</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_UNKNOWN</source>
+        <translation>Not known whether in range</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_FALLBACK</source>
+        <translation>Ready as fallback</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_IN_USE</source>
+        <translation>In use now: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_IN_USE_WIFI</source>
+        <translation>It is the first network of your list that is in range.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_IN_USE_MOBILE</source>
+        <translation>No Wi-Fi network above it in your list is in range.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NONE</source>
+        <translation>No network in use</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_EMPTY</source>
+        <translation>Your list is empty, so there is nothing to choose from.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NOTHING_IN_RANGE</source>
+        <translation>None of the networks of your list is in range.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_RANGE_UNKNOWN</source>
+        <translation>The Wi-Fi plug-in is not available, so it is not known which networks are in range.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NO_PRIORITY_PLUGIN</source>
+        <translation>The plug-in that keeps the list is not available.</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_DAMAGED</source>
+        <translation>The file with your list is damaged. What stands before the damage is shown; adding a network in the settings writes the file anew.</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_NOT_OPENED</source>
+        <translation>The file with your list is there but can't be opened. Check its permissions, then refresh.</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_NOT_OFFERED</source>
+        <translation>The plug-in %1 was loaded, but doesn't hand out the list.</translation>
+    </message>
+    <message>
+        <source>IDS_NO_LIST_TITLE</source>
+        <translation>There is no list to show</translation>
+    </message>
+    <message>
+        <source>IDS_EMPTY_TITLE</source>
+        <translation>Your priority list is empty</translation>
+    </message>
+    <message>
+        <source>IDS_EMPTY_HINT</source>
+        <translation>Open the settings, then choose Add for networks that this computer remembers, or New to enter one yourself. The network highest in the list is preferred.</translation>
+    </message>
+    <message>
+        <source>IDS_EMPTY_UNREADABLE</source>
+        <translation>Nothing of it can be read. See the message above.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_NOT_LOADED</source>
+        <translation>The plug-in %1 is not loaded.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_MISSING</source>
+        <translation>The plug-in %1 is not there. Install it, or start the dashboard with --library-path and the directory that has the folder "plugins" in it.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_NOT_A_LIBRARY</source>
+        <translation>The plug-in %1 can't be loaded as a library: %2</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_NO_VERIFICATION</source>
+        <translation>The plug-in %1 doesn't say what it was built for, so it is not used.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_REFUSED</source>
+        <translation>The plug-in %1 was built for another dashboard, so it is not used.
+Found: %2
+Expected: %3</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_NO_ENTRY_POINT</source>
+        <translation>The library %1 has no entry point of a plug-in, so it is not used.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_NULL_INSTANCE</source>
+        <translation>The plug-in %1 gave no object to work with, so it is not used.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_NOT_A_PLUGIN</source>
+        <translation>What %1 gave is not a plug-in of this dashboard, so it is not used.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_INIT_FAILED</source>
+        <translation>The plug-in %1 says that it can't work, so it is not used. The trace may tell more.</translation>
+    </message>
 </context>
 </TS>

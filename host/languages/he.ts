@@ -124,5 +124,243 @@
 </context>
 <context>
     <name>Dashboard</name>
+    <message>
+        <source>IDS_WINDOW_TITLE</source>
+        <translation>לוח הרשתות</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_FILE</source>
+        <translation>&amp;קובץ</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_VIEW</source>
+        <translation>&amp;תצוגה</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_LANGUAGE</source>
+        <translation>&amp;שפה</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_SETTINGS</source>
+        <translation>ה&amp;גדרות…</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_REFRESH</source>
+        <translation>&amp;רענון</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_QUIT</source>
+        <translation>&amp;יציאה</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_TRACE</source>
+        <translation>הצגת &amp;מעקב</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_SETTINGS</source>
+        <translation>הגדרות…</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_REFRESH</source>
+        <translation>רענון</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_TRACE</source>
+        <translation>הצגת מעקב</translation>
+    </message>
+    <message>
+        <source>IDS_TRACE_TITLE</source>
+        <translation>מעקב</translation>
+    </message>
+    <message>
+        <source>IDS_LOG_NOT_WRITABLE</source>
+        <translation>לא ניתן לכתוב לקובץ היומן %1; המעקב מוצג כאן בלבד.</translation>
+    </message>
+    <message>
+        <source>IDS_OK</source>
+        <translation>אישור</translation>
+    </message>
+    <message>
+        <source>IDS_CANCEL</source>
+        <translation>ביטול</translation>
+    </message>
+    <message>
+        <source>IDS_SETTINGS_TITLE</source>
+        <translation>הגדרות</translation>
+    </message>
+    <message>
+        <source>IDS_PLUGIN_PRIORITY</source>
+        <translation>עדיפות רשתות</translation>
+    </message>
+    <message>
+        <source>IDS_PLUGIN_WLAN</source>
+        <translation>Wi-Fi</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_TITLE</source>
+        <translation>כללי</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_LANGUAGE</source>
+        <translation>שפה</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_PLUGINS</source>
+        <translation>תוספים</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_PLUGIN_WORKS</source>
+        <translation>נטען</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_PLUGIN_MISSING</source>
+        <translation>לא זמין</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_PLACES</source>
+        <translation>אודות הלוח</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_USER_DATA</source>
+        <translation>הנתונים שלך:</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_PLUGIN_LIBRARY</source>
+        <translation>מיקום התוספים:</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_VERSION</source>
+        <translation>גרסה:</translation>
+    </message>
+    <message>
+        <source>IDS_PAGE_NOT_SHOWN</source>
+        <translation>לא ניתן להציג דף זה: התוסף %1 נטען אך אינו מספק את הדף שלו. ייתכן שיש פרטים נוספים במעקב.</translation>
+    </message>
+    <message>
+        <source>IDS_KIND_WIFI</source>
+        <translation>Wi-Fi</translation>
+    </message>
+    <message>
+        <source>IDS_KIND_MOBILE</source>
+        <translation>פס רחב סלולרי</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_IN_USE</source>
+        <translation>בשימוש כעת</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_IN_RANGE</source>
+        <translation>בטווח</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_OUT_OF_RANGE</source>
+        <translation>מחוץ לטווח</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_UNKNOWN</source>
+        <translation>לא ידוע אם בטווח</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_FALLBACK</source>
+        <translation>מוכן כגיבוי</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_IN_USE</source>
+        <translation>בשימוש כעת: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_IN_USE_WIFI</source>
+        <translation>זו הרשת הראשונה ברשימה שלך הנמצאת בטווח.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_IN_USE_MOBILE</source>
+        <translation>אין בטווח רשת Wi-Fi הקודמת לו ברשימה שלך.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NONE</source>
+        <translation>אין רשת בשימוש</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_EMPTY</source>
+        <translation>הרשימה שלך ריקה, ולכן אין ממה לבחור.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NOTHING_IN_RANGE</source>
+        <translation>אף רשת מהרשימה שלך אינה בטווח.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_RANGE_UNKNOWN</source>
+        <translation>תוסף ה-Wi-Fi אינו זמין, ולכן לא ידוע אילו רשתות בטווח.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NO_PRIORITY_PLUGIN</source>
+        <translation>התוסף ששומר את הרשימה אינו זמין.</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_DAMAGED</source>
+        <translation>הקובץ עם הרשימה שלך פגום. מוצג מה שלפני הפגם; הוספת רשת בהגדרות תכתוב את הקובץ מחדש.</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_NOT_OPENED</source>
+        <translation>הקובץ עם הרשימה שלך קיים אך לא ניתן לפתוח אותו. יש לבדוק את ההרשאות שלו ולרענן.</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_NOT_OFFERED</source>
+        <translation>התוסף %1 נטען אך אינו מספק את הרשימה.</translation>
+    </message>
+    <message>
+        <source>IDS_NO_LIST_TITLE</source>
+        <translation>אין רשימה להצגה</translation>
+    </message>
+    <message>
+        <source>IDS_EMPTY_TITLE</source>
+        <translation>רשימת העדיפויות ריקה</translation>
+    </message>
+    <message>
+        <source>IDS_EMPTY_HINT</source>
+        <translation>יש לפתוח את ההגדרות ולבחור „הוספה” עבור רשתות שהמחשב זוכר, או „חדש” להזנת רשת. הרשת הגבוהה ביותר ברשימה מועדפת.</translation>
+    </message>
+    <message>
+        <source>IDS_EMPTY_UNREADABLE</source>
+        <translation>לא ניתן לקרוא ממנה דבר. יש לעיין בהודעה שלמעלה.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_NOT_LOADED</source>
+        <translation>התוסף %1 אינו טעון.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_MISSING</source>
+        <translation>התוסף %1 אינו קיים. יש להתקין אותו, או להפעיל את הלוח עם ‎--library-path‎ והתיקייה שבה נמצאת התיקייה "plugins".</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_NOT_A_LIBRARY</source>
+        <translation>לא ניתן לטעון את התוסף %1 כספרייה: %2</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_NO_VERIFICATION</source>
+        <translation>התוסף %1 אינו מציין עבור מה נבנה, ולכן אינו בשימוש.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_REFUSED</source>
+        <translation>התוסף %1 נבנה עבור לוח אחר, ולכן אינו בשימוש.
+נמצא: %2
+נדרש: %3</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_NO_ENTRY_POINT</source>
+        <translation>לספרייה %1 אין נקודת כניסה של תוסף, ולכן אינה בשימוש.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_NULL_INSTANCE</source>
+        <translation>התוסף %1 לא סיפק אובייקט לעבודה, ולכן אינו בשימוש.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_NOT_A_PLUGIN</source>
+        <translation>מה שסיפק %1 אינו תוסף של לוח זה, ולכן אינו בשימוש.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_INIT_FAILED</source>
+        <translation>התוסף %1 מדווח שאינו יכול לפעול, ולכן אינו בשימוש. ייתכן שיש פרטים נוספים במעקב.</translation>
+    </message>
 </context>
 </TS>
