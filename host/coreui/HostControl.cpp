@@ -64,10 +64,10 @@ void HostControl::ApplyLook()
 {
     const qreal accentShare = 0.35;
     QPalette palette = QApplication::palette();
+    const QColor accent = palette.color(QPalette::Active, QPalette::Highlight);
     const QPalette::ColorGroup groups[] = {QPalette::Active, QPalette::Inactive};
     for (QPalette::ColorGroup group : groups) {
         const QColor base = palette.color(group, QPalette::Base);
-        const QColor accent = palette.color(QPalette::Active, QPalette::Highlight);
         palette.setColor(group, QPalette::Highlight, Mixed(base, accent, accentShare));
         palette.setColor(group, QPalette::HighlightedText, palette.color(group, QPalette::Text));
     }

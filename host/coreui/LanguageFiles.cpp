@@ -1,5 +1,7 @@
 #include "LanguageFiles.h"
 
+#include "CompiledLanguage.h"
+
 #include <QByteArray>
 #include <QDir>
 #include <QFile>
@@ -29,7 +31,8 @@ class Language
 public:
     explicit Language(const QByteArray &bytes) : m_bytes(bytes)
     {
-        m_usable = m_translator.load(reinterpret_cast<const uchar *>(m_bytes.constData()), m_bytes.size()) &&
+        m_usable = IsIntactCompiledLanguage(m_bytes) &&
+                   m_translator.load(reinterpret_cast<const uchar *>(m_bytes.constData()), m_bytes.size()) &&
                    !m_translator.isEmpty();
     }
 

@@ -17,7 +17,7 @@ namespace
 
 const int narrowestText = 200;
 const int widestText = 330;
-const int tallestText = 320;
+const int tallestText = 200;
 
 const char *const answerProperty = "answer";
 
@@ -103,21 +103,21 @@ void MessageBox::AddText(const char *name, const QString &text)
     label->setAlignment(Qt::AlignLeading | Qt::AlignTop);
     label->setText(text);
 
-    // Measured here because a window's layout doesn't shrink the height when a text needs fewer lines than it
-    // feared.
+    // Measured here because a window's layout doesn't take back the height that a wrapped text might have
+    // needed.
     const QRect bounds =
         label->fontMetrics().boundingRect(QRect(0, 0, widestText, 1), Qt::TextWordWrap | Qt::AlignLeft, text);
     const int width = qBound(narrowestText, bounds.width() + 2, widestText);
-    label->setFixedWidth(width);
-    const int height = label->heightForWidth(width);
-    if (height <= tallestText && bounds.width() <= widestText) {
-        label->setFixedHeight(height);
+    const int height = qMax(label->heightForWidth(width), label->fontMetrics().height());
+    if (height <= tallestText && bounds.width() + 2 <= widestText) {
+        label->setFixedSize(width, height);
         m_textColumn->addWidget(label);
         return;
     }
 
     // However long a text is, the buttons stay on the screen.
-    label->setMinimumWidth(qMax(width, bounds.width() + 2));
+    const int fullWidth = qMax(widestText, bounds.width() + 2);
+    label->setFixedSize(fullWidth, label->heightForWidth(fullWidth));
     QScrollArea *area = new QScrollArea;
     area->setObjectName(QLatin1String(name) + QLatin1String("Area"));
     area->setFrameStyle(QFrame::NoFrame);
@@ -125,7 +125,7 @@ void MessageBox::AddText(const char *name, const QString &text)
     area->viewport()->setAutoFillBackground(false);
     label->setAutoFillBackground(false);
     const int scrollBar = area->verticalScrollBar()->sizeHint().width();
-    area->setFixedSize(widestText + scrollBar, qMin(height + scrollBar, tallestText));
+    area->setFixedSize(widestText + scrollBar, qMin(label->height() + scrollBar, tallestText));
     m_textColumn->addWidget(area);
 }
 

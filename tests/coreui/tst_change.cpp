@@ -1,0 +1,190 @@
+#include <Change.h>
+#include <HostControl.h>
+#include <TemporaryDirectory.h>
+
+#include <QDir>
+#include <QFile>
+#include <QtTest>
+
+namespace
+{
+
+QString Tr(const char *id, const char *context = "Sample")
+{
+    return Change::tr(QLatin1String(id), QLatin1String(context));
+}
+
+QByteArray CompiledLanguage(const char *name)
+{
+    QFile file(QLatin1String(BUILD_DIRECTORY "/tests/languages/") + QLatin1String(name));
+    if (!file.open(QIODevice::ReadOnly)) {
+        qFatal("a compiled language is missing");
+    }
+    return file.readAll();
+}
+
+} // namespace
+
+class TestChange : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+
+    void languagesAreTheFilesThere();
+    void textIsTheLanguages();
+    void textIsTheContexts();
+    void missingTextIsEnglish();
+    void textThatNoLanguageHasIsItsId();
+    void unknownContextGivesTheId();
+    void textsCanBeMissingInEnglish();
+    void damagedEnglishLeavesTheOthersUsable();
+    void unusableLanguageChangesNothing_data();
+    void unusableLanguageChangesNothing();
+    void everyCutOffFileIsSurvived();
+    void everyChangedByteIsSurvived();
+    void replacedFileDoesNotReachTheLanguageInUse();
+
+private:
+    QScopedPointer<TemporaryDirectory> m_directory;
+};
+
+void TestChange::init()
+{
+    m_directory.reset(new TemporaryDirectory);
+    m_directory->Write(QLatin1String("en.qm"), CompiledLanguage("en.qm"));
+    m_directory->Write(QLatin1String("eo.qm"), CompiledLanguage("eo.qm"));
+    HostControl::SetLanguageDirectory(m_directory->Path());
+    QVERIFY(HostControl::SetLanguage(QLatin1String("en")));
+}
+
+void TestChange::languagesAreTheFilesThere()
+{
+    m_directory->Write(QLatin1String("de.txt"), "no language");
+    m_directory->Write(QLatin1String(".qm"), "no name");
+    m_directory->Write(QLatin1String("ar.qm"), CompiledLanguage("eo.qm"));
+    QVERIFY(QDir(m_directory->Path()).mkdir(QLatin1String("folder.qm")));
+    QCOMPARE(HostControl::LanguageNames(), QString(QLatin1String("ar en eo")).split(QLatin1Char(' ')));
+}
+
+void TestChange::textIsTheLanguages()
+{
+    QCOMPARE(Tr("IDS_BOTH"), QString(QLatin1String("both")));
+    QVERIFY(HostControl::SetLanguage(QLatin1String("eo")));
+    QCOMPARE(Change::GetLangName(), QString(QLatin1String("eo")));
+    QCOMPARE(Tr("IDS_BOTH"), QString::fromUtf8("ambaŭ"));
+}
+
+void TestChange::textIsTheContexts()
+{
+    QCOMPARE(Tr("IDS_TWO_CONTEXTS", "Sample"), QString(QLatin1String("of the sample")));
+    QCOMPARE(Tr("IDS_TWO_CONTEXTS", "Other"), QString(QLatin1String("of the other")));
+}
+
+void TestChange::missingTextIsEnglish()
+{
+    QVERIFY(HostControl::SetLanguage(QLatin1String("eo")));
+    QCOMPARE(Tr("IDS_ENGLISH_ONLY"), QString(QLatin1String("English only")));
+}
+
+void TestChange::textThatNoLanguageHasIsItsId()
+{
+    QVERIFY(HostControl::SetLanguage(QLatin1String("eo")));
+    QCOMPARE(Tr("IDS_NOWHERE"), QString(QLatin1String("IDS_NOWHERE")));
+    QCOMPARE(Tr(""), QString(QLatin1String("")));
+}
+
+void TestChange::unknownContextGivesTheId()
+{
+    QCOMPARE(Tr("IDS_BOTH", "Nobody"), QString(QLatin1String("IDS_BOTH")));
+}
+
+void TestChange::textsCanBeMissingInEnglish()
+{
+    QCOMPARE(Tr("IDS_OWN_ONLY"), QString(QLatin1String("IDS_OWN_ONLY")));
+    QVERIFY(HostControl::SetLanguage(QLatin1String("eo")));
+    QCOMPARE(Tr("IDS_OWN_ONLY"), QString(QLatin1String("nur Esperante")));
+}
+
+void TestChange::damagedEnglishLeavesTheOthersUsable()
+{
+    m_directory->Write(QLatin1String("en.qm"), "damaged");
+    HostControl::SetLanguageDirectory(m_directory->Path());
+    QVERIFY(HostControl::SetLanguage(QLatin1String("eo")));
+    QCOMPARE(Tr("IDS_BOTH"), QString::fromUtf8("ambaŭ"));
+    QCOMPARE(Tr("IDS_ENGLISH_ONLY"), QString(QLatin1String("IDS_ENGLISH_ONLY")));
+}
+
+void TestChange::unusableLanguageChangesNothing_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("bytes");
+    const QByteArray whole = CompiledLanguage("eo.qm");
+    QTest::newRow("missing") << "xx" << QByteArray();
+    QTest::newRow("missing, with a region") << "en_GB" << QByteArray();
+    QTest::newRow("no name") << "" << QByteArray();
+    QTest::newRow("path out of the directory") << "../en" << QByteArray();
+    QTest::newRow("name with suffix") << "en.qm" << QByteArray();
+    QTest::newRow("empty") << "xx" << QByteArray("");
+    QTest::newRow("other format") << "xx" << QByteArray("<?xml version=\"1.0\"?><TS/>");
+    QTest::newRow("cut off in the middle") << "xx" << whole.left(whole.size() / 2);
+    QTest::newRow("signature only") << "xx" << whole.left(16);
+    QTest::newRow("no texts") << "xx" << CompiledLanguage("nothing.qm");
+}
+
+void TestChange::unusableLanguageChangesNothing()
+{
+    QFETCH(QString, name);
+    QFETCH(QByteArray, bytes);
+    if (!bytes.isNull()) {
+        m_directory->Write(name + QLatin1String(".qm"), bytes);
+    }
+    QVERIFY(HostControl::SetLanguage(QLatin1String("eo")));
+
+    QVERIFY(!HostControl::SetLanguage(name));
+    QCOMPARE(Change::GetLangName(), QString(QLatin1String("eo")));
+    QCOMPARE(Tr("IDS_BOTH"), QString::fromUtf8("ambaŭ"));
+}
+
+void TestChange::everyCutOffFileIsSurvived()
+{
+    const QByteArray whole = CompiledLanguage("eo.qm");
+    for (int length = 0; length < whole.size(); ++length) {
+        m_directory->Write(QLatin1String("xx.qm"), whole.left(length));
+        QVERIFY(HostControl::SetLanguage(QLatin1String("en")));
+        const bool used = HostControl::SetLanguage(QLatin1String("xx"));
+        const QString text = Tr("IDS_BOTH");
+        QCOMPARE(Change::GetLangName(), QString(QLatin1String(used ? "xx" : "en")));
+        // Only a cut that loses no text may pass.
+        QCOMPARE(text, used ? QString::fromUtf8("ambaŭ") : QString(QLatin1String("both")));
+    }
+}
+
+void TestChange::everyChangedByteIsSurvived()
+{
+    const QByteArray whole = CompiledLanguage("eo.qm");
+    int refused = 0;
+    for (int at = 0; at < whole.size(); ++at) {
+        for (int bit = 0; bit < 8; ++bit) {
+            QByteArray changed = whole;
+            changed[at] = static_cast<char>(changed.at(at) ^ (1 << bit));
+            m_directory->Write(QLatin1String("xx.qm"), changed);
+            refused += HostControl::SetLanguage(QLatin1String("xx")) ? 0 : 1;
+            // A longer text would be memory from behind the file.
+            QVERIFY(Tr("IDS_BOTH").size() <= 8);
+            QVERIFY(Tr("IDS_OWN_ONLY").size() <= 16);
+        }
+    }
+    QVERIFY(refused > 16 * 8);
+}
+
+void TestChange::replacedFileDoesNotReachTheLanguageInUse()
+{
+    QVERIFY(HostControl::SetLanguage(QLatin1String("eo")));
+    m_directory->Write(QLatin1String("eo.qm"), "");
+    QCOMPARE(Tr("IDS_BOTH"), QString::fromUtf8("ambaŭ"));
+}
+
+QTEST_MAIN(TestChange)
+#include "tst_change.moc"
