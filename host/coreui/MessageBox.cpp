@@ -17,6 +17,7 @@ namespace
 
 const int narrowestText = 200;
 const int widestText = 330;
+const int overhang = 6;
 const int tallestText = 200;
 
 const char *const answerProperty = "answer";
@@ -62,7 +63,7 @@ MessageBox::MessageBox(QWidget *parent, Qt::WindowFlags flags, QDialog **handle)
     column->setContentsMargins(14, 14, 14, 12);
     column->setSpacing(14);
     m_contentRow = new QHBoxLayout;
-    m_contentRow->setSpacing(12);
+    m_contentRow->setSpacing(12 - overhang);
     m_textColumn = new QVBoxLayout;
     m_textColumn->setSpacing(8);
     m_buttonRow = new QHBoxLayout;
@@ -102,21 +103,23 @@ void MessageBox::AddText(const char *name, const QString &text)
     label->setWordWrap(true);
     label->setAlignment(Qt::AlignLeading | Qt::AlignTop);
     label->setText(text);
+    // The blank at which a line of right-to-left text is broken pushes the line out at its far end.
+    label->setContentsMargins(overhang, 0, overhang, 0);
 
     // Measured here because a window's layout doesn't take back the height that a wrapped text might have
     // needed.
     const QRect bounds =
         label->fontMetrics().boundingRect(QRect(0, 0, widestText, 1), Qt::TextWordWrap | Qt::AlignLeft, text);
-    const int width = qBound(narrowestText, bounds.width() + 2, widestText);
+    const int width = qBound(narrowestText, bounds.width() + 2, widestText) + 2 * overhang;
     const int height = qMax(label->heightForWidth(width), label->fontMetrics().height());
     if (height <= tallestText && bounds.width() + 2 <= widestText) {
         label->setFixedSize(width, height);
-        m_textColumn->addWidget(label);
+        m_textColumn->addWidget(label, 0, Qt::AlignLeft);
         return;
     }
 
     // However long a text is, the buttons stay on the screen.
-    const int fullWidth = qMax(widestText, bounds.width() + 2);
+    const int fullWidth = qMax(widestText, bounds.width() + 2) + 2 * overhang;
     label->setFixedSize(fullWidth, label->heightForWidth(fullWidth));
     QScrollArea *area = new QScrollArea;
     area->setObjectName(QLatin1String(name) + QLatin1String("Area"));
@@ -125,8 +128,8 @@ void MessageBox::AddText(const char *name, const QString &text)
     area->viewport()->setAutoFillBackground(false);
     label->setAutoFillBackground(false);
     const int scrollBar = area->verticalScrollBar()->sizeHint().width();
-    area->setFixedSize(widestText + scrollBar, qMin(label->height() + scrollBar, tallestText));
-    m_textColumn->addWidget(area);
+    area->setFixedSize(widestText + 2 * overhang + scrollBar, qMin(label->height() + scrollBar, tallestText));
+    m_textColumn->addWidget(area, 0, Qt::AlignLeft);
 }
 
 void MessageBox::SetButtons(const QString &first, const QString &second, const QString &third)

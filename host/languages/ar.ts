@@ -57,31 +57,31 @@
     </message>
     <message>
         <source>IDS_LIST_NETWORK_NAME</source>
-        <translation>اسم الشبكة:</translation>
+        <translation>اسم الشبكة</translation>
     </message>
     <message>
         <source>IDS_KEY</source>
-        <translation>المفتاح:</translation>
+        <translation>المفتاح</translation>
     </message>
     <message>
         <source>IDS_KEY_CONFIRM</source>
-        <translation>تأكيد المفتاح:</translation>
+        <translation>تأكيد المفتاح</translation>
     </message>
     <message>
         <source>IDS_AUTHENTICATION</source>
-        <translation>المصادقة:</translation>
+        <translation>المصادقة</translation>
     </message>
     <message>
         <source>IDS_ENCRYPTION</source>
-        <translation>التشفير:</translation>
+        <translation>التشفير</translation>
     </message>
     <message>
         <source>IDS_KEYINDEX</source>
-        <translation>رقم المفتاح:</translation>
+        <translation>رقم المفتاح</translation>
     </message>
     <message>
         <source>IDS_EAP_METHOD</source>
-        <translation>أسلوب EAP:</translation>
+        <translation>أسلوب EAP</translation>
     </message>
     <message>
         <source>IDS_PROFILE_BOX_TITLE</source>
@@ -104,14 +104,14 @@
         <translation>المفتاح غير مناسب لـ WEP. يجب أن يتكوّن من 5 أحرف أو 13 حرفًا، أو من 10 أو 26 أو 32 رقمًا ست عشريًا (&#x202a;0-9, A-F&#x202c;).
 
 يُسمح بالحروف والأرقام والرموز التالية:
-&#x202a;- _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :&#x202c;</translation>
+- _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :</translation>
     </message>
     <message>
         <source>IDS_ERROR_KEY_WRONG_LENGTH_128</source>
         <translation>المفتاح غير مناسب لـ WPA. يجب أن يتكوّن من 8 أحرف إلى 63 حرفًا، أو من 64 رقمًا ست عشريًا (&#x202a;0-9, A-F&#x202c;).
 
 يُسمح بالحروف والأرقام والرموز التالية:
-&#x202a;- _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :&#x202c;</translation>
+- _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :</translation>
     </message>
     <message>
         <source>IDS_ERROR_KEY_DIFFERENT</source>

@@ -70,36 +70,36 @@
     </message>
     <message>
         <source>IDS_LIST_NETWORK_NAME</source>
-        <translation>Network name:</translation>
+        <translation>Network name</translation>
     </message>
     <message>
         <source>IDS_KEY</source>
         <extracomment>Label above the field for the network key or pass phrase</extracomment>
-        <translation>Key:</translation>
+        <translation>Key</translation>
     </message>
     <message>
         <source>IDS_KEY_CONFIRM</source>
-        <translation>Confirm key:</translation>
+        <translation>Confirm key</translation>
     </message>
     <message>
         <source>IDS_AUTHENTICATION</source>
         <extracomment>Label, cut off beyond 100 pixels</extracomment>
-        <translation>Authentication:</translation>
+        <translation>Security</translation>
     </message>
     <message>
         <source>IDS_ENCRYPTION</source>
         <extracomment>Label, cut off beyond 100 pixels</extracomment>
-        <translation>Encryption:</translation>
+        <translation>Encryption</translation>
     </message>
     <message>
         <source>IDS_KEYINDEX</source>
         <extracomment>Label, cut off beyond 100 pixels</extracomment>
-        <translation>Key index:</translation>
+        <translation>Key index</translation>
     </message>
     <message>
         <source>IDS_EAP_METHOD</source>
         <extracomment>Label, cut off beyond 100 pixels</extracomment>
-        <translation>EAP method:</translation>
+        <translation>EAP type</translation>
     </message>
     <message>
         <source>IDS_PROFILE_BOX_TITLE</source>
@@ -140,7 +140,7 @@ Allowed are letters, digits and these signs:
     </message>
     <message>
         <source>IDS_ERROR_WRONG_AUTHENTICATION</source>
-        <translation>Choose an authentication method.</translation>
+        <translation>Choose a security method.</translation>
     </message>
 </context>
 <context>

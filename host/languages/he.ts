@@ -57,31 +57,31 @@
     </message>
     <message>
         <source>IDS_LIST_NETWORK_NAME</source>
-        <translation>שם הרשת:</translation>
+        <translation>שם הרשת</translation>
     </message>
     <message>
         <source>IDS_KEY</source>
-        <translation>מפתח:</translation>
+        <translation>מפתח</translation>
     </message>
     <message>
         <source>IDS_KEY_CONFIRM</source>
-        <translation>אימות המפתח:</translation>
+        <translation>אימות המפתח</translation>
     </message>
     <message>
         <source>IDS_AUTHENTICATION</source>
-        <translation>שיטת אימות:</translation>
+        <translation>שיטת אימות</translation>
     </message>
     <message>
         <source>IDS_ENCRYPTION</source>
-        <translation>הצפנה:</translation>
+        <translation>הצפנה</translation>
     </message>
     <message>
         <source>IDS_KEYINDEX</source>
-        <translation>מספר מפתח:</translation>
+        <translation>מספר מפתח</translation>
     </message>
     <message>
         <source>IDS_EAP_METHOD</source>
-        <translation>שיטת EAP:</translation>
+        <translation>שיטת EAP</translation>
     </message>
     <message>
         <source>IDS_PROFILE_BOX_TITLE</source>
@@ -104,14 +104,14 @@
         <translation>המפתח אינו מתאים ל-WEP. עליו להכיל 5 או 13 תווים, או 10, 26 או 32 ספרות הקסדצימליות (&#x202a;0-9, A-F&#x202c;).
 
 מותר להשתמש באותיות, בספרות ובסימנים אלה:
-&#x202a;- _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :&#x202c;</translation>
+- _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :</translation>
     </message>
     <message>
         <source>IDS_ERROR_KEY_WRONG_LENGTH_128</source>
         <translation>המפתח אינו מתאים ל-WPA. עליו להכיל בין 8 ל-63 תווים, או 64 ספרות הקסדצימליות (&#x202a;0-9, A-F&#x202c;).
 
 מותר להשתמש באותיות, בספרות ובסימנים אלה:
-&#x202a;- _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :&#x202c;</translation>
+- _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :</translation>
     </message>
     <message>
         <source>IDS_ERROR_KEY_DIFFERENT</source>

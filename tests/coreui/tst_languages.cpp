@@ -3,6 +3,8 @@
 
 #include <QDirIterator>
 #include <QFile>
+#include <QFont>
+#include <QFontMetrics>
 #include <QMap>
 #include <QRegExp>
 #include <QSet>
@@ -92,6 +94,8 @@ private slots:
     void everyTextIsInTheCompiledFile();
     void everyIdInUseHasAText_data();
     void everyIdInUseHasAText();
+    void textsFitTheirPlaces_data();
+    void textsFitTheirPlaces();
     void keyNoticesTellWhatIsAllowed_data();
     void keyNoticesTellWhatIsAllowed();
 };
@@ -155,6 +159,40 @@ void TestLanguages::everyIdInUseHasAText()
         }
         QVERIFY2(found, qPrintable(id));
     }
+}
+
+void TestLanguages::textsFitTheirPlaces_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("id");
+    QTest::addColumn<int>("width");
+    const char *const languages[] = {"en", "ar", "he"};
+    const char *const labels[] = {"IDS_AUTHENTICATION", "IDS_ENCRYPTION", "IDS_KEYINDEX", "IDS_EAP_METHOD"};
+    const char *const buttons[] = {"IDS_PROFILE_UP",     "IDS_PROFILE_DOWN", "IDS_PROFILE_ADD",
+                                   "IDS_PROFILE_DELETE", "IDS_PROFILE_NEW",  "IDS_OK",
+                                   "IDS_CANCEL"};
+    for (const char *language : languages) {
+        for (const char *label : labels) {
+            QTest::newRow((QByteArray(language) + ' ' + label).constData()) << language << label << 100;
+        }
+        // A column of 100 pixels less its margins and the button's own.
+        for (const char *button : buttons) {
+            QTest::newRow((QByteArray(language) + ' ' + button).constData()) << language << button << 66;
+        }
+    }
+}
+
+void TestLanguages::textsFitTheirPlaces()
+{
+    QFETCH(QString, language);
+    QFETCH(QString, id);
+    QFETCH(int, width);
+    QVERIFY(HostControl::SetLanguage(language));
+    const QString text = Change::tr(id, QLatin1String("PriorityPlugin"));
+    QFont usual;
+    usual.setPixelSize(13);
+    const int needed = QFontMetrics(usual).boundingRect(text).width();
+    QVERIFY2(needed <= width, qPrintable(QString::number(needed)));
 }
 
 void TestLanguages::keyNoticesTellWhatIsAllowed_data()
