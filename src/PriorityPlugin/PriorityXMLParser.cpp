@@ -2,6 +2,7 @@
 
 #include "FunctonTrick.h"
 
+#include <CommonUtils.h>
 #include <ZeltSdk.h>
 
 #include <QBuffer>
@@ -15,6 +16,8 @@ namespace
 
 const char sourcePath[] = "../../src/PriorityPlugin/PriorityXMLParser.cpp";
 const char buildTime[] = __TIME__;
+
+const int switchMissing = -1;
 
 QString SourcePath()
 {
@@ -40,6 +43,11 @@ void TraceFileNotOpenable()
 void TraceReadError(const char *function)
 {
     qDebug("%s: %s: Read Error: n", sourcePath, function);
+}
+
+void TraceSwitch(const char *event)
+{
+    qDebug("%s : %s: %s: %s", TraceLine::CurrentTime().constData(), sourcePath, "GetEnable3GValue", event);
 }
 
 bool IsSameEntry(const PriorityList &left, const PriorityList &right)
@@ -145,6 +153,33 @@ private:
     QByteArray m_bytes;
     bool m_known;
 };
+
+int ReadSwitch(const QString &path)
+{
+    if (!QFile::exists(path)) {
+        TraceFileMissing(path);
+        return switchMissing;
+    }
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+        TraceFileNotOpenable();
+        return switchMissing;
+    }
+    int value = switchMissing;
+    QXmlStreamReader reader(&file);
+    while (!reader.atEnd()) {
+        reader.readNext();
+        if (reader.hasError()) {
+            TraceReadError("GetEnable3GValue");
+            break;
+        }
+        if (reader.isStartElement() && reader.name() == QLatin1String("item") &&
+            reader.attributes().value(QLatin1String("name")) == QLatin1String("enable3G")) {
+            value = reader.attributes().value(QLatin1String("value")).toString().toInt();
+        }
+    }
+    return value;
+}
 
 } // namespace
 
@@ -366,4 +401,13 @@ int PriorityXMLParser::AddList(QList<PriorityList> &entries, int, QList<Priority
     working += added;
     SavePriorityList(working);
     return added.isEmpty() ? -1 : FindIndex(working, added.first());
+}
+
+int PriorityXMLParser::GetEnable3GValue()
+{
+    TraceSwitch("Entered");
+    const int value =
+        ReadSwitch(CommonUtils::GetPluginLibraryPath() + QLatin1String("/plugins/PriorityPlugin/config.xml"));
+    TraceSwitch("Exit");
+    return value;
 }

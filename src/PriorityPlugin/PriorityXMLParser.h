@@ -9,9 +9,9 @@
 class QXmlStreamReader;
 
 /**
- * The store: the only code that touches the priority file, "Priority.xml" in the user data directory. It
- * holds no list of its own. Every operation reads the file afresh, changes the list and writes the whole file
- * back, so the file is always what the user sees.
+ * The store: the only code that touches the priority file, "Priority.xml" in the user data directory, and the
+ * configuration file. It holds no list of its own. Every operation reads the file afresh, changes the list
+ * and writes the whole file back, so the file is always what the user sees.
  *
  * What the file can't carry: U+0000 to U+001F but for tab, line feed and carriage return, surrogates that
  * stand alone, U+FFFE and U+FFFF are no XML characters, and written raw they would cost the entries behind
@@ -85,6 +85,12 @@ public:
      * not be read. position is ignored. The index of the first of entries; -1 when there are none.
      */
     int AddList(QList<PriorityList> &entries, int position, QList<PriorityList> *list);
+
+    /**
+     * The switch "enable3G" of "config.xml" in the plug-in's resource folder: only 1 lets mobile-broadband
+     * entries be offered for adding. -1 when the file is missing, can't be opened or has no such switch.
+     */
+    int GetEnable3GValue();
 
 private:
     Q_DISABLE_COPY(PriorityXMLParser)

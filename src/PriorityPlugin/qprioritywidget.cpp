@@ -5,6 +5,8 @@
 #include "PriorityListItem.h"
 #include "PriorityXMLParser.h"
 #include "WLANPlugin.h"
+#include "qaddprioritywidget.h"
+#include "qnewprioritywidget.h"
 
 #include <Change.h>
 #include <CommonUtils.h>
@@ -294,6 +296,8 @@ void QPriorityWidget::release()
     m_buttonLayout = nullptr;
     m_frameLayout = nullptr;
     m_leftPanelLayout = nullptr;
+    m_addDialog = nullptr;
+    m_newDialog = nullptr;
     m_mainContainer = nullptr;
     m_leftPanel = nullptr;
     m_frame = nullptr;
@@ -508,7 +512,26 @@ void QPriorityWidget::RemovePriority()
 void QPriorityWidget::AddPriority()
 {
     CFunctonTrick trick(SourcePath(), QLatin1String("AddPriority"), "");
+    delete m_addDialog;
+    m_addDialog = new QAddPriorityWidgetEx(this, Qt::WindowCloseButtonHint);
+    m_addDialog->SetRememberList(&m_workingList);
+    m_addDialog->SetMsgParnet(this);
+    m_addDialog->Init();
+    m_addDialog->setWindowTitle(tr(QLatin1String("IDS_PROFILE_ADD_TITLE")));
+    m_addDialog->setModal(true);
+    m_addDialog->setFixedSize(306, 341);
+    m_addDialog->setVisible(true);
     SetAllButtonState();
 }
 
-void QPriorityWidget::NewPriority() {}
+void QPriorityWidget::NewPriority()
+{
+    delete m_newDialog;
+    m_newDialog = new QNewPriorityWidgetEx(this, Qt::WindowCloseButtonHint);
+    m_newDialog->SetMsgParnet(this);
+    m_newDialog->Init();
+    m_newDialog->setWindowTitle(tr(QLatin1String("IDS_NEWPROFILE")));
+    m_newDialog->setModal(true);
+    m_newDialog->setFixedSize(360, 340);
+    m_newDialog->setVisible(true);
+}

@@ -4,12 +4,15 @@
 #include <PriorityList.h>
 
 #include <QList>
+#include <QPointer>
 #include <QWidget>
 
 class DragTableWidget;
+class QAddPriorityWidgetEx;
 class QFrame;
 class QHBoxLayout;
 class QLabel;
+class QNewPriorityWidgetEx;
 class QPushButton;
 class QVBoxLayout;
 
@@ -100,6 +103,7 @@ private:
     QVBoxLayout *m_buttonLayout;
     QVBoxLayout *m_frameLayout;
     QVBoxLayout *m_leftPanelLayout;
+    QPointer<QAddPriorityWidgetEx> m_addDialog;
     QWidget *m_mainContainer;
     QWidget *m_leftPanel;
     QFrame *m_frame;
@@ -113,6 +117,7 @@ private:
     QString m_wifiIconPath;
     QString m_mobileIconPath;
     QPushButton *m_newButton;
+    QPointer<QNewPriorityWidgetEx> m_newDialog;
 };
 
 #endif

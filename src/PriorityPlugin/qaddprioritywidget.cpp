@@ -1,0 +1,327 @@
+#include "qaddprioritywidget.h"
+
+#include "PriorityListItem.h"
+#include "PriorityXMLParser.h"
+#include "WLANPlugin.h"
+#include "qprioritywidget.h"
+
+#include <Change.h>
+#include <CommonUtils.h>
+#include <IWLANUIPlugin.h>
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+namespace
+{
+
+const int mobileEnabled = 1;
+const int switchUnknown = -1;
+
+bool IsWifi(const RememberedList &network)
+{
+    return network.type == QString::number(1);
+}
+
+RememberListItem *RowItem(const QTableWidget *table, int row)
+{
+    // The dialog puts nothing else into its cells.
+    return static_cast<RememberListItem *>(table->cellWidget(row, 0));
+}
+
+bool IsTicked(const RememberListItem *item)
+{
+    return item && item->GetChechItem() && item->GetChechItem()->checkState() == Qt::Checked;
+}
+
+} // namespace
+
+QAddPriorityWidget::QAddPriorityWidget(QWidget *parent, Qt::WindowFlags flags)
+    : QWidget(parent, flags), m_okButton(nullptr), m_cancelButton(nullptr), m_buttonLayout(nullptr),
+      m_buttonBar(nullptr), m_table(nullptr), m_mainLayout(nullptr), m_priorityList(nullptr), m_page(nullptr),
+      m_frame(nullptr)
+{
+    setObjectName(QLatin1String("addDialogBody"));
+}
+
+QAddPriorityWidget::~QAddPriorityWidget()
+{
+    release();
+}
+
+void QAddPriorityWidget::SetRememberList(QList<PriorityList> *list)
+{
+    if (list) {
+        m_priorityList = list;
+    }
+}
+
+void QAddPriorityWidget::SetMsgParnet(QPriorityWidget *page)
+{
+    if (page) {
+        m_page = page;
+    }
+}
+
+void QAddPriorityWidget::Init()
+{
+    const QString resourceDirectory =
+        CommonUtils::GetPluginLibraryPath() + QLatin1String("/plugins/PriorityPlugin/");
+    m_wifiIconPath = resourceDirectory + QLatin1String("wifi.png");
+    m_mobileIconPath = resourceDirectory + QLatin1String("3G .png");
+
+    CreateLayoput();
+    CreateAllWidget();
+    CreateAllButton();
+
+    IWLANUIPlugin *wlan = FindWLANPlugin();
+    if (!wlan) {
+        return;
+    }
+    QList<RememberedList> remembered;
+    wlan->GetRememberedList(&remembered);
+    CheckRememberList(&remembered);
+    SetRememberedList();
+}
+
+QString QAddPriorityWidget::tr(QString id)
+{
+    return Change::tr(id, QLatin1String("PriorityPlugin"));
+}
+
+void QAddPriorityWidget::CreateLayoput()
+{
+    m_mainLayout = new QVBoxLayout;
+    m_buttonLayout = new QHBoxLayout;
+}
+
+void QAddPriorityWidget::CreateAllWidget()
+{
+    if (!m_mainLayout) {
+        return;
+    }
+    m_table = new QTableWidget(this);
+    m_table->setObjectName(QLatin1String("rememberTable"));
+    m_table->setAccessibleName(tr(QLatin1String("IDS_PROFILE_ADD_TITLE")));
+    m_mainLayout->addWidget(m_table);
+    m_buttonBar = new QWidget(this);
+    m_buttonBar->setObjectName(QLatin1String("addButtonBar"));
+    m_mainLayout->addWidget(m_buttonBar);
+    setLayout(m_mainLayout);
+}
+
+QPushButton *QAddPriorityWidget::CreateButton(const char *objectName, const char *id, const char *slot)
+{
+    QPushButton *button = new QPushButton(tr(QLatin1String(id)), m_buttonBar);
+    button->setObjectName(QLatin1String(objectName));
+    connect(button, SIGNAL(clicked()), this, slot);
+    m_buttonLayout->addWidget(button);
+    return button;
+}
+
+void QAddPriorityWidget::CreateAllButton()
+{
+    if (!m_buttonLayout) {
+        return;
+    }
+    m_okButton = CreateButton("addOkButton", "IDS_OK", SLOT(OnOK()));
+    m_okButton->setDefault(true);
+    m_cancelButton = CreateButton("addCancelButton", "IDS_CANCEL", SLOT(OnCanel()));
+    if (m_buttonBar) {
+        m_buttonBar->setLayout(m_buttonLayout);
+    }
+}
+
+void QAddPriorityWidget::SetTabWidget()
+{
+    if (!m_table) {
+        return;
+    }
+    m_table->clear();
+    m_table->setColumnCount(1);
+    m_table->setColumnWidth(0, 300);
+    m_table->horizontalHeader()->setVisible(false);
+    m_table->verticalHeader()->setVisible(false);
+    m_table->setShowGrid(false);
+    m_table->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    m_table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
+    // Else the key only goes round the cells, and the check boxes in them are out of a keyboard's reach.
+    m_table->setTabKeyNavigation(false);
+}
+
+void QAddPriorityWidget::SetRememberedList()
+{
+    SetTabWidget();
+    if (!m_candidates.isEmpty()) {
+        SetTabItem();
+    }
+}
+
+void QAddPriorityWidget::SetTabItem()
+{
+    QList<RememberedList> shown;
+    for (int i = 0; i < m_candidates.size(); ++i) {
+        if (IsRemeberPriority(m_candidates.at(i).name)) {
+            shown.append(m_candidates.at(i));
+        }
+    }
+    m_rows += shown;
+    if (!m_table || shown.isEmpty()) {
+        return;
+    }
+    // Every row inserted re-places all cell widgets there are, so all rows come before the first of these.
+    m_table->model()->insertRows(0, shown.size());
+    for (int row = 0; row < shown.size(); ++row) {
+        const RememberedList &network = shown.at(row);
+        RememberListItem *item = new RememberListItem;
+        item->UpdateLabelContents(IsWifi(network) ? m_wifiIconPath : m_mobileIconPath, network.name);
+        m_table->setCellWidget(row, 0, item);
+    }
+    SetRowTabOrder();
+}
+
+void QAddPriorityWidget::SetRowTabOrder()
+{
+    if (!m_okButton || !m_cancelButton) {
+        return;
+    }
+    // The rows are younger than the buttons and would come after them.
+    setTabOrder(RowItem(m_table, m_table->rowCount() - 1)->GetChechItem(), m_okButton);
+    setTabOrder(m_okButton, m_cancelButton);
+    RowItem(m_table, 0)->GetChechItem()->setFocus();
+}
+
+void QAddPriorityWidget::CheckRememberList(const QList<RememberedList> *list)
+{
+    PriorityXMLParser *store = PriorityXMLParser::GetInstance();
+    const int mobile = store ? store->GetEnable3GValue() : switchUnknown;
+    for (int i = 0; i < list->size(); ++i) {
+        const RememberedList &network = list->at(i);
+        if (!IsRepeatNetworkName(network.name) && (IsWifi(network) || mobile == mobileEnabled)) {
+            m_candidates.append(network);
+        }
+    }
+}
+
+bool QAddPriorityWidget::IsRepeatNetworkName(const QString &name)
+{
+    for (int i = 0; i < m_candidates.size(); ++i) {
+        if (m_candidates.at(i).name == name) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool QAddPriorityWidget::IsRemeberPriority(const QString &name)
+{
+    if (!m_priorityList) {
+        return true;
+    }
+    for (int i = 0; i < m_priorityList->size(); ++i) {
+        if (m_priorityList->at(i).name == name) {
+            return false;
+        }
+    }
+    return true;
+}
+
+void QAddPriorityWidget::SendPriorityList()
+{
+    if (!m_table) {
+        return;
+    }
+    QList<PriorityList> ticked;
+    for (int row = 0; row < m_table->rowCount(); ++row) {
+        if (IsTicked(RowItem(m_table, row))) {
+            const RememberedList network = m_rows.value(row);
+            PriorityList entry;
+            entry.name = network.name;
+            entry.type = network.type;
+            ticked.append(entry);
+        }
+    }
+    if (m_page) {
+        m_page->AddPriorityNode(ticked);
+    }
+}
+
+void QAddPriorityWidget::OnOK()
+{
+    if (m_page) {
+        SendPriorityList();
+    }
+    close();
+}
+
+void QAddPriorityWidget::OnCanel()
+{
+    close();
+}
+
+void QAddPriorityWidget::closeEvent(QCloseEvent *)
+{
+    if (m_frame) {
+        m_frame->close();
+    }
+}
+
+void QAddPriorityWidget::release()
+{
+    m_cancelButton = nullptr;
+    m_buttonLayout = nullptr;
+    m_buttonBar = nullptr;
+    m_table = nullptr;
+    m_mainLayout = nullptr;
+    m_priorityList = nullptr;
+    m_page = nullptr;
+}
+
+QAddPriorityWidgetEx::QAddPriorityWidgetEx(QWidget *parent, Qt::WindowFlags flags)
+    : ExtendDialog(parent, flags, enWidgetTypeDialog)
+{
+    setObjectName(QLatin1String("addDialog"));
+    m_body = new QAddPriorityWidget(this, flags);
+    AddMainWidget(m_body);
+    m_body->SetFrame(this);
+    m_body->setVisible(true);
+}
+
+QAddPriorityWidgetEx::~QAddPriorityWidgetEx()
+{
+    delete m_body;
+}
+
+void QAddPriorityWidgetEx::release()
+{
+    if (m_body) {
+        m_body->release();
+    }
+}
+
+void QAddPriorityWidgetEx::SetRememberList(QList<PriorityList> *list)
+{
+    if (m_body) {
+        m_body->SetRememberList(list);
+    }
+}
+
+void QAddPriorityWidgetEx::SetMsgParnet(QPriorityWidget *page)
+{
+    if (m_body) {
+        m_body->SetMsgParnet(page);
+    }
+}
+
+void QAddPriorityWidgetEx::Init()
+{
+    if (m_body) {
+        m_body->Init();
+    }
+}
