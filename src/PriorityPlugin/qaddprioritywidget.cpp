@@ -10,6 +10,7 @@
 #include <IWLANUIPlugin.h>
 
 #include <QCheckBox>
+#include <QFocusEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QPushButton>
@@ -32,6 +33,28 @@ RememberListItem *RowItem(const QTableWidget *table, int row)
     // The dialog puts nothing else into its cells.
     return static_cast<RememberListItem *>(table->cellWidget(row, 0));
 }
+
+/** Brings the row into view whose check box the focus reaches by key; a table does that for its items only.
+ */
+class FocusFollower : public QObject
+{
+public:
+    explicit FocusFollower(QTableWidget *table) : QObject(table), m_table(table) {}
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        // A row that moves under the mouse would miss the rest of the click.
+        if (event->type() == QEvent::FocusIn &&
+            static_cast<QFocusEvent *>(event)->reason() != Qt::MouseFocusReason) {
+            const QWidget *row = static_cast<QWidget *>(watched)->parentWidget();
+            m_table->scrollTo(m_table->indexAt(row->geometry().center()));
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    QTableWidget *m_table;
+};
 
 bool IsTicked(const RememberListItem *item)
 {
@@ -183,13 +206,17 @@ void QAddPriorityWidget::SetTabItem()
         item->UpdateLabelContents(IsWifi(network) ? m_wifiIconPath : m_mobileIconPath, network.name);
         m_table->setCellWidget(row, 0, item);
     }
-    SetRowTabOrder();
+    MakeRowsReachable();
 }
 
-void QAddPriorityWidget::SetRowTabOrder()
+void QAddPriorityWidget::MakeRowsReachable()
 {
     if (!m_okButton || !m_cancelButton) {
         return;
+    }
+    FocusFollower *follower = new FocusFollower(m_table);
+    for (int row = 0; row < m_table->rowCount(); ++row) {
+        RowItem(m_table, row)->GetChechItem()->installEventFilter(follower);
     }
     // The rows are younger than the buttons and would come after them.
     setTabOrder(RowItem(m_table, m_table->rowCount() - 1)->GetChechItem(), m_okButton);

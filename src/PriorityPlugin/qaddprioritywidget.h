@@ -73,7 +73,7 @@ private:
     Q_DISABLE_COPY(QAddPriorityWidget)
 
     QPushButton *CreateButton(const char *objectName, const char *id, const char *slot);
-    void SetRowTabOrder();
+    void MakeRowsReachable();
 
     QPushButton *m_okButton;
     QPushButton *m_cancelButton;

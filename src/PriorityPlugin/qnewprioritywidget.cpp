@@ -26,6 +26,7 @@ namespace
 
 const int rowSpacing = 10;
 const int buttonWidth = 90;
+const int nameLength = 16;
 
 const int maxAuthentications = 6;
 const int maxEncryptions = 4;
@@ -228,6 +229,9 @@ void QNewPriorityWidget::CreateNetworkName()
     m_nameBox->setAccessibleName(tr(QLatin1String("IDS_LIST_NETWORK_NAME")));
     m_nameBox->setContextMenuPolicy(Qt::NoContextMenu);
     m_nameBox->setEditable(true);
+    // A long name in range must not push the other fields out of the dialog.
+    m_nameBox->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_nameBox->setMinimumContentsLength(nameLength);
     // Names that differ in case only are different networks; the typed one counts.
     m_nameBox->completer()->setCaseSensitivity(Qt::CaseSensitive);
     m_nameLabel->setBuddy(m_nameBox);
