@@ -49,7 +49,7 @@ public:
         if (!Has(length)) {
             return QByteArray();
         }
-        const QByteArray run = m_bytes.mid(m_position, static_cast<int>(length));
+        QByteArray run = m_bytes.mid(m_position, static_cast<int>(length));
         m_position += static_cast<int>(length);
         return run;
     }

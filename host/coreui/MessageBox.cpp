@@ -109,7 +109,7 @@ void MessageBox::AddText(const char *name, const QString &text)
     // Measured here because a window's layout doesn't take back the height that a wrapped text might have
     // needed.
     const QRect bounds =
-        label->fontMetrics().boundingRect(QRect(0, 0, widestText, 1), Qt::TextWordWrap | Qt::AlignLeft, text);
+        label->fontMetrics().boundingRect(QRect(0, 0, widestText, 1), Qt::TextWordWrap, text);
     const int width = qBound(narrowestText, bounds.width() + 2, widestText) + 2 * overhang;
     const int height = qMax(label->heightForWidth(width), label->fontMetrics().height());
     if (height <= tallestText && bounds.width() + 2 <= widestText) {

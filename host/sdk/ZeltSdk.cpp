@@ -22,7 +22,7 @@ bool IsAbsolute(const QByteArray &path)
 /** Where the user's data lies, in the file system's own encoding; empty when the user has no home. */
 QByteArray DataHome()
 {
-    const QByteArray dataHome = qgetenv("XDG_DATA_HOME");
+    QByteArray dataHome = qgetenv("XDG_DATA_HOME");
     if (IsAbsolute(dataHome)) {
         return dataHome;
     }
