@@ -1,8 +1,113 @@
 #include "Arguments.h"
+#include "DashboardLanguage.h"
+#include "HostControl.h"
+#include "MainWindow.h"
+#include "PluginHost.h"
+#include "Tour.h"
+#include "TraceLog.h"
+#include "UserData.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QLocale>
+#include <QScopedPointer>
 
 #include <cstdio>
+
+namespace
+{
+
+const int exitNoDisplay = 1;
+const int exitRefused = 2;
+
+void PrintOut(const QString &text)
+{
+    std::fputs(text.toLocal8Bit().constData(), stdout);
+}
+
+int Refuse(const QString &problem, int status)
+{
+    std::fprintf(stderr, "dashboard: %s\n", problem.toLocal8Bit().constData());
+    return status;
+}
+
+/** Whether there is something to show windows on; the toolkit would abort when there is nothing. */
+bool HasDisplay()
+{
+    return !qgetenv("QT_QPA_PLATFORM").isEmpty() || !qgetenv("DISPLAY").isEmpty() ||
+           !qgetenv("WAYLAND_DISPLAY").isEmpty();
+}
+
+QString LibraryPath(const Arguments &arguments)
+{
+    const QString path = arguments.libraryPath.isNull()
+                             ? QApplication::applicationDirPath() + QLatin1String("/..")
+                             : arguments.libraryPath;
+    return QDir::cleanPath(QDir().absoluteFilePath(path));
+}
+
+/** Null, or why the language that was asked for can't be had. */
+QString StartLanguage(const Arguments &arguments)
+{
+    const QStringList available = HostControl::LanguageNames();
+    if (!arguments.language.isNull() && !available.contains(arguments.language)) {
+        return QString::fromLatin1("there is no language \"%1\"; there are: %2")
+            .arg(arguments.language, available.join(QLatin1String(", ")));
+    }
+    // A tour looks the same wherever it is taken.
+    const bool isTour = !arguments.tourDirectory.isNull();
+    const QString language =
+        DashboardLanguage::Choose(arguments.language, isTour ? QString() : DashboardLanguage::Stored(),
+                                  isTour ? QString() : QLocale::system().name(), available);
+    if (!DashboardLanguage::Apply(language)) {
+        TraceLog::Warn(
+            QString::fromLatin1("the texts for the language \"%1\" are missing; their names are shown")
+                .arg(language));
+    }
+    return QString();
+}
+
+int Run(const Arguments &arguments, const TourDirectory &tourDirectory)
+{
+    TraceLog log(UserData::FilePath(QLatin1String("dashboard.log")));
+    if (UserData::Directory().isEmpty()) {
+        TraceLog::Warn(QLatin1String("there is no directory for your data and none can be made; "
+                                     "what you change will not be kept"));
+    }
+    const QString libraryPath = LibraryPath(arguments);
+    if (!QFileInfo(libraryPath).isDir()) {
+        return Refuse(QString::fromLatin1("there is no directory %1").arg(libraryPath), exitRefused);
+    }
+    HostControl::SetPluginLibraryPath(libraryPath);
+    HostControl::SetLanguageDirectory(QDir::cleanPath(
+        QApplication::applicationDirPath() + QLatin1String("/../share/priority-dashboard/languages")));
+    const QString languageProblem = StartLanguage(arguments);
+    if (!languageProblem.isNull()) {
+        return Refuse(languageProblem, exitRefused);
+    }
+    HostControl::ApplyLook();
+
+    PluginHost plugins(libraryPath, PluginHost::KnownPlugins());
+    plugins.Load();
+    const QList<PluginHost::Plugin> loaded = plugins.Plugins();
+    for (int i = 0; i < loaded.size(); ++i) {
+        if (loaded.at(i).state != PluginReady) {
+            TraceLog::Warn(PluginHost::ProblemText(loaded.at(i)));
+        }
+    }
+    DashboardLanguage language(&plugins, nullptr);
+    MainWindow window(&plugins, &language, &log);
+    window.show();
+    QScopedPointer<Tour> tour;
+    if (!arguments.tourDirectory.isNull()) {
+        tour.reset(new Tour(&window, tourDirectory));
+        tour->Start();
+    }
+    return QApplication::exec();
+}
+
+} // namespace
 
 int main(int argc, char **argv)
 {
@@ -13,18 +118,36 @@ int main(int argc, char **argv)
     const Arguments arguments = Arguments::Parse(given);
     switch (arguments.action) {
     case Arguments::Help:
-        std::fputs(Arguments::HelpText().toLocal8Bit().constData(), stdout);
+        PrintOut(Arguments::HelpText());
         return 0;
     case Arguments::Version:
-        std::fputs(Arguments::VersionText().toLocal8Bit().constData(), stdout);
+        PrintOut(Arguments::VersionText());
         return 0;
     case Arguments::Refuse:
-        std::fprintf(stderr, "dashboard: %s\n", arguments.problem.toLocal8Bit().constData());
-        return 2;
+        return Refuse(arguments.problem, exitRefused);
     case Arguments::Run:
         break;
     }
 
+    TourDirectory tourDirectory(arguments.tourDirectory);
+    if (!arguments.tourDirectory.isNull()) {
+        const QString problem = tourDirectory.Prepare();
+        if (!problem.isNull()) {
+            return Refuse(problem, exitRefused);
+        }
+        qputenv("XDG_DATA_HOME", QFile::encodeName(tourDirectory.DataPath()));
+        if (qgetenv("QT_QPA_PLATFORM").isEmpty()) {
+            qputenv("QT_QPA_PLATFORM", "offscreen");
+        }
+    }
+    if (!HasDisplay()) {
+        return Refuse(QLatin1String("there is no display to open a window on; "
+                                    "set DISPLAY, or look at a tour with --tour DIR"),
+                      exitNoDisplay);
+    }
+
     const QApplication application(argc, argv);
-    return QApplication::exec();
+    QApplication::setApplicationName(QLatin1String("dashboard"));
+    QApplication::setApplicationVersion(Arguments::VersionText().section(QLatin1Char(' '), 1).trimmed());
+    return Run(arguments, tourDirectory);
 }

@@ -1,0 +1,45 @@
+#ifndef DASHBOARDLANGUAGE_H
+#define DASHBOARDLANGUAGE_H
+
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+class PluginHost;
+
+/** Which language the dashboard speaks, and the switching of it. */
+class DashboardLanguage : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** @param plugins  told of every switch; not owned. */
+    DashboardLanguage(PluginHost *plugins, QObject *parent);
+
+    /**
+     * The language to start with: the wanted one, then the one chosen last time, then the system's, then
+     * English; the first of them that available has.
+     */
+    static QString Choose(const QString &wanted, const QString &stored, const QString &system,
+                          const QStringList &available);
+
+    /** The language that the user chose last time, or empty. */
+    static QString Stored();
+
+    /** What the speakers of a language call it, such as "العربية" for "ar". */
+    static QString NativeName(const QString &language);
+
+    /** Makes language the one of the texts and of the reading direction, without telling anybody. */
+    static bool Apply(const QString &language);
+
+    /** Switches the language, tells the plug-ins, and keeps the choice. False: there is no such language. */
+    bool Switch(const QString &language);
+
+signals:
+    void Switched();
+
+private:
+    PluginHost *const m_plugins;
+};
+
+#endif

@@ -1,0 +1,420 @@
+#include "MainWindow.h"
+
+#include "DashboardLanguage.h"
+#include "DashboardText.h"
+#include "GeneralPage.h"
+#include "HostControl.h"
+#include "ListWatcher.h"
+#include "OverviewDelegate.h"
+#include "PluginHost.h"
+#include "PluginObjects.h"
+#include "PluginPage.h"
+#include "Settings.h"
+#include "SettingsDialog.h"
+#include "TracePanel.h"
+#include "UserData.h"
+
+#include <Change.h>
+
+#include <QActionGroup>
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+namespace
+{
+
+// What IPriorityPlugin::GetPriorityList answers.
+const int listRead = 0;
+const int listDamaged = 6;
+const int listMissing = 23;
+const int listNotOpened = 25;
+
+QString GeometryKey()
+{
+    return QLatin1String("window/geometry");
+}
+
+QString TraceShownKey()
+{
+    return QLatin1String("trace/shown");
+}
+
+QLabel *MakeLabel(const char *name, qreal sizeFactor, bool isBold)
+{
+    QLabel *label = new QLabel;
+    label->setObjectName(QLatin1String(name));
+    label->setWordWrap(true);
+    label->setTextFormat(Qt::PlainText);
+    QFont font = label->font();
+    if (font.pointSizeF() > 0) {
+        font.setPointSizeF(font.pointSizeF() * sizeFactor);
+    }
+    font.setBold(isBold);
+    label->setFont(font);
+    return label;
+}
+
+QPushButton *MakeButton(const char *name)
+{
+    QPushButton *button = new QPushButton;
+    button->setObjectName(QLatin1String(name));
+    return button;
+}
+
+QString KindText(const Overview::Entry &entry)
+{
+    return DashboardText(entry.IsWifi() ? "IDS_KIND_WIFI" : "IDS_KIND_MOBILE");
+}
+
+QString StateText(const Overview::Entry &entry)
+{
+    if (entry.isInUse) {
+        return DashboardText("IDS_STATE_IN_USE");
+    }
+    if (!entry.IsWifi()) {
+        return DashboardText("IDS_STATE_FALLBACK");
+    }
+    switch (entry.range) {
+    case Overview::InRange:
+        return DashboardText("IDS_STATE_IN_RANGE");
+    case Overview::OutOfRange:
+        return DashboardText("IDS_STATE_OUT_OF_RANGE");
+    case Overview::RangeUnknown:
+        break;
+    }
+    return DashboardText("IDS_STATE_UNKNOWN");
+}
+
+} // namespace
+
+MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLog *log)
+    : m_plugins(plugins), m_language(language)
+{
+    setObjectName(QLatin1String("mainWindow"));
+    m_trace = new TracePanel(log, this);
+    addDockWidget(Qt::BottomDockWidgetArea, m_trace);
+    m_trace->setVisible(Settings::Read(TraceShownKey()).toBool());
+
+    CreateMenus();
+    QWidget *central = new QWidget;
+    central->setObjectName(QLatin1String("central"));
+    QVBoxLayout *layout = new QVBoxLayout(central);
+    layout->setContentsMargins(18, 16, 18, 14);
+    layout->setSpacing(12);
+    layout->addWidget(CreateHead());
+
+    m_problems = MakeLabel("problemsLabel", 1, false);
+    m_problems->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_problems->setAutoFillBackground(true);
+    m_problems->setBackgroundRole(QPalette::ToolTipBase);
+    m_problems->setForegroundRole(QPalette::ToolTipText);
+    m_problems->setMargin(10);
+    layout->addWidget(m_problems);
+
+    m_list = new QListWidget;
+    m_list->setObjectName(QLatin1String("overviewList"));
+    m_list->setItemDelegate(new OverviewDelegate(m_list));
+    m_list->setSelectionMode(QAbstractItemView::NoSelection);
+    m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_list->setUniformItemSizes(true);
+    m_body = new QStackedWidget;
+    m_body->setObjectName(QLatin1String("body"));
+    m_body->addWidget(m_list);
+    m_body->addWidget(CreateMessagePage());
+    layout->addWidget(m_body, 1);
+    layout->addWidget(CreateFoot());
+    setCentralWidget(central);
+
+    if (QObject *service = PluginObjects::PriorityService()) {
+        connect(service, SIGNAL(OnUpdataPriorityView()), this, SLOT(Refresh()));
+    }
+    ListWatcher *watcher = new ListWatcher(UserData::FilePath(QLatin1String("Priority.xml")), this);
+    connect(watcher, SIGNAL(Changed()), this, SLOT(Refresh()));
+    connect(m_language, SIGNAL(Switched()), this, SLOT(Retranslate()));
+
+    resize(760, 560);
+    restoreGeometry(Settings::Read(GeometryKey()).toByteArray());
+    Retranslate();
+}
+
+MainWindow::~MainWindow()
+{
+    // The pages are the plug-ins'; they are out of the dialog before it is deleted as a child of this window.
+    delete m_settings.data();
+}
+
+void MainWindow::CreateMenus()
+{
+    m_fileMenu = menuBar()->addMenu(QString());
+    m_viewMenu = menuBar()->addMenu(QString());
+    m_languageMenu = menuBar()->addMenu(QString());
+    menuBar()->setObjectName(QLatin1String("menuBar"));
+    m_fileMenu->setObjectName(QLatin1String("fileMenu"));
+    m_viewMenu->setObjectName(QLatin1String("viewMenu"));
+    m_languageMenu->setObjectName(QLatin1String("languageMenu"));
+
+    m_settingsAction = m_fileMenu->addAction(QString(), this, SLOT(OpenSettings()));
+    m_settingsAction->setShortcut(QKeySequence(QLatin1String("Ctrl+,")));
+    m_refreshAction = m_fileMenu->addAction(QString(), this, SLOT(Refresh()));
+    m_refreshAction->setShortcut(QKeySequence(QLatin1String("F5")));
+    m_fileMenu->addSeparator();
+    m_quitAction = m_fileMenu->addAction(QString(), this, SLOT(close()));
+    m_quitAction->setShortcut(QKeySequence(QLatin1String("Ctrl+Q")));
+    m_trace->toggleViewAction()->setShortcut(QKeySequence(QLatin1String("F12")));
+    m_viewMenu->addAction(m_trace->toggleViewAction());
+    CreateLanguageActions();
+}
+
+void MainWindow::CreateLanguageActions()
+{
+    m_languageActions = new QActionGroup(this);
+    const QStringList names = HostControl::LanguageNames();
+    for (int i = 0; i < names.size(); ++i) {
+        QAction *action = m_languageMenu->addAction(DashboardLanguage::NativeName(names.at(i)));
+        action->setObjectName(QLatin1String("languageAction_") + names.at(i));
+        action->setCheckable(true);
+        action->setData(names.at(i));
+        m_languageActions->addAction(action);
+    }
+    connect(m_languageActions, SIGNAL(triggered(QAction *)), this, SLOT(ChooseLanguage(QAction *)));
+}
+
+QWidget *MainWindow::CreateHead()
+{
+    m_headline = MakeLabel("headlineLabel", 1.5, true);
+    m_explanation = MakeLabel("explanationLabel", 1, false);
+    m_settingsButton = MakeButton("settingsButton");
+    m_settingsButton->setMinimumHeight(38);
+    connect(m_settingsButton, SIGNAL(clicked()), this, SLOT(OpenSettings()));
+
+    QWidget *head = new QWidget;
+    head->setObjectName(QLatin1String("head"));
+    QVBoxLayout *texts = new QVBoxLayout;
+    texts->setSpacing(4);
+    texts->addWidget(m_headline);
+    texts->addWidget(m_explanation);
+    QHBoxLayout *layout = new QHBoxLayout(head);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(16);
+    layout->addLayout(texts, 1);
+    layout->addWidget(m_settingsButton, 0, Qt::AlignTop);
+    return head;
+}
+
+QWidget *MainWindow::CreateMessagePage()
+{
+    m_messageTitle = MakeLabel("messageTitle", 1.2, true);
+    m_messageText = MakeLabel("messageText", 1, false);
+    m_messageTitle->setAlignment(Qt::AlignCenter);
+    m_messageText->setAlignment(Qt::AlignCenter);
+    m_messagePage = new QWidget;
+    m_messagePage->setObjectName(QLatin1String("messagePage"));
+    m_messagePage->setAutoFillBackground(true);
+    m_messagePage->setBackgroundRole(QPalette::Base);
+    QVBoxLayout *layout = new QVBoxLayout(m_messagePage);
+    layout->setContentsMargins(60, 20, 60, 20);
+    layout->setSpacing(10);
+    layout->addStretch();
+    layout->addWidget(m_messageTitle);
+    layout->addWidget(m_messageText);
+    layout->addStretch();
+    return m_messagePage;
+}
+
+QWidget *MainWindow::CreateFoot()
+{
+    m_refreshButton = MakeButton("refreshButton");
+    connect(m_refreshButton, SIGNAL(clicked()), this, SLOT(Refresh()));
+    m_languageButton = MakeButton("languageButton");
+    m_languageButton->setMenu(m_languageMenu);
+    m_traceButton = MakeButton("traceButton");
+    m_traceButton->setCheckable(true);
+    m_traceButton->setChecked(m_trace->toggleViewAction()->isChecked());
+    connect(m_traceButton, SIGNAL(toggled(bool)), m_trace, SLOT(setVisible(bool)));
+    connect(m_trace->toggleViewAction(), SIGNAL(toggled(bool)), m_traceButton, SLOT(setChecked(bool)));
+
+    QWidget *foot = new QWidget;
+    foot->setObjectName(QLatin1String("foot"));
+    QHBoxLayout *layout = new QHBoxLayout(foot);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_refreshButton);
+    layout->addStretch();
+    layout->addWidget(m_languageButton);
+    layout->addWidget(m_traceButton);
+    return foot;
+}
+
+void MainWindow::Retranslate()
+{
+    setWindowTitle(DashboardText("IDS_WINDOW_TITLE"));
+    m_fileMenu->setTitle(DashboardText("IDS_MENU_FILE"));
+    m_viewMenu->setTitle(DashboardText("IDS_MENU_VIEW"));
+    m_languageMenu->setTitle(DashboardText("IDS_MENU_LANGUAGE"));
+    m_settingsAction->setText(DashboardText("IDS_ACTION_SETTINGS"));
+    m_refreshAction->setText(DashboardText("IDS_ACTION_REFRESH"));
+    m_quitAction->setText(DashboardText("IDS_ACTION_QUIT"));
+    m_settingsButton->setText(DashboardText("IDS_BUTTON_SETTINGS"));
+    m_refreshButton->setText(DashboardText("IDS_BUTTON_REFRESH"));
+    m_traceButton->setText(DashboardText("IDS_BUTTON_TRACE"));
+    m_trace->Retranslate();
+    m_trace->toggleViewAction()->setText(DashboardText("IDS_ACTION_TRACE"));
+    const QList<QAction *> actions = m_languageActions->actions();
+    for (int i = 0; i < actions.size(); ++i) {
+        actions.at(i)->setChecked(actions.at(i)->data().toString() == Change::GetLangName());
+    }
+    m_languageButton->setText(DashboardLanguage::NativeName(Change::GetLangName()));
+    if (m_settings) {
+        m_settings->Retranslate();
+    }
+    Refresh();
+}
+
+void MainWindow::Refresh()
+{
+    const Overview overview = Overview::Read();
+    ShowHead(overview);
+    ShowProblems(overview);
+    ShowList(overview);
+}
+
+void MainWindow::ShowHead(const Overview &overview)
+{
+    const Overview::Entry *inUse = overview.InUse();
+    if (inUse) {
+        m_headline->setText(DashboardText("IDS_HEAD_IN_USE").arg(inUse->entry.name));
+        m_explanation->setText(
+            DashboardText(inUse->IsWifi() ? "IDS_HEAD_IN_USE_WIFI" : "IDS_HEAD_IN_USE_MOBILE"));
+        return;
+    }
+    m_headline->setText(DashboardText("IDS_HEAD_NONE"));
+    if (overview.status < 0) {
+        m_explanation->setText(DashboardText("IDS_HEAD_NO_PRIORITY_PLUGIN"));
+    } else if (overview.entries.isEmpty()) {
+        m_explanation->setText(DashboardText("IDS_HEAD_EMPTY"));
+    } else {
+        m_explanation->setText(
+            DashboardText(overview.isRangeKnown ? "IDS_HEAD_NOTHING_IN_RANGE" : "IDS_HEAD_RANGE_UNKNOWN"));
+    }
+}
+
+void MainWindow::ShowProblems(const Overview &overview)
+{
+    QStringList problems;
+    const QList<PluginHost::Plugin> plugins = m_plugins->Plugins();
+    for (int i = 0; i < plugins.size(); ++i) {
+        // Where there is no list, that of its plug-in stands in place of the list.
+        const PluginHost::Plugin &plugin = plugins.at(i);
+        if (plugin.state != PluginReady && !(overview.status < 0 && plugin.known.hasSettingsPage)) {
+            problems.append(PluginHost::ProblemText(plugin));
+        }
+    }
+    if (overview.status == listDamaged) {
+        problems.append(DashboardText("IDS_LIST_DAMAGED"));
+    } else if (overview.status == listNotOpened) {
+        problems.append(DashboardText("IDS_LIST_NOT_OPENED"));
+    }
+    m_problems->setText(problems.join(QLatin1String("\n\n")));
+    m_problems->setVisible(!problems.isEmpty());
+}
+
+void MainWindow::ShowList(const Overview &overview)
+{
+    if (overview.status < 0) {
+        const QList<PluginHost::Plugin> plugins = m_plugins->Plugins();
+        QStringList problems;
+        for (int i = 0; i < plugins.size(); ++i) {
+            if (plugins.at(i).known.hasSettingsPage) {
+                const QString problem = PluginHost::ProblemText(plugins.at(i));
+                problems.append(problem.isEmpty()
+                                    ? DashboardText("IDS_LIST_NOT_OFFERED").arg(plugins.at(i).file)
+                                    : problem);
+            }
+        }
+        m_messageTitle->setText(DashboardText("IDS_NO_LIST_TITLE"));
+        m_messageText->setText(problems.join(QLatin1String("\n\n")));
+        m_body->setCurrentWidget(m_messagePage);
+        return;
+    }
+    if (overview.entries.isEmpty()) {
+        m_messageTitle->setText(DashboardText("IDS_EMPTY_TITLE"));
+        m_messageText->setText(DashboardText(overview.status == listRead || overview.status == listMissing
+                                                 ? "IDS_EMPTY_HINT"
+                                                 : "IDS_EMPTY_UNREADABLE"));
+        m_body->setCurrentWidget(m_messagePage);
+        return;
+    }
+    const int scrolledTo = m_list->verticalScrollBar()->value();
+    m_list->clear();
+    for (int i = 0; i < overview.entries.size(); ++i) {
+        const Overview::Entry &entry = overview.entries.at(i);
+        QListWidgetItem *item = new QListWidgetItem(entry.entry.name, m_list);
+        const QString kind = KindText(entry);
+        const QString state = StateText(entry);
+        item->setData(OverviewDelegate::KindTextRole, kind);
+        item->setData(OverviewDelegate::StateTextRole, state);
+        item->setData(OverviewDelegate::IsWifiRole, entry.IsWifi());
+        item->setData(OverviewDelegate::IsAvailableRole, entry.range != Overview::OutOfRange);
+        item->setData(OverviewDelegate::IsInUseRole, entry.isInUse);
+        item->setData(Qt::AccessibleTextRole,
+                      QString::fromLatin1("%1, %2, %3").arg(entry.entry.name, kind, state));
+    }
+    m_body->setCurrentWidget(m_list);
+    m_list->verticalScrollBar()->setValue(scrolledTo);
+}
+
+void MainWindow::ChooseLanguage(QAction *action)
+{
+    m_language->Switch(action->data().toString());
+}
+
+void MainWindow::OpenSettings()
+{
+    if (m_settings) {
+        m_settings->raise();
+        m_settings->activateWindow();
+        return;
+    }
+    m_settings = new SettingsDialog(this);
+    m_settings->AddPage(new GeneralPage(m_language, m_plugins));
+    int firstPluginPage = 0;
+    const QList<PluginHost::Plugin> plugins = m_plugins->Plugins();
+    int pages = 1;
+    for (int i = 0; i < plugins.size(); ++i) {
+        if (PluginPage *page = PluginPage::Make(plugins.at(i), m_plugins)) {
+            m_settings->AddPage(page);
+            // The settings are opened for the sake of the list, so its page comes first.
+            firstPluginPage =
+                plugins.at(i).known.hasSettingsPage && firstPluginPage == 0 ? pages : firstPluginPage;
+            ++pages;
+        }
+    }
+    m_settings->SelectPage(firstPluginPage);
+    connect(m_settings.data(), SIGNAL(finished(int)), this, SLOT(SettingsClosed()));
+    m_settings->setModal(true);
+    m_settings->show();
+}
+
+void MainWindow::SettingsClosed()
+{
+    if (m_settings) {
+        m_settings->deleteLater();
+        m_settings = nullptr;
+    }
+    Refresh();
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    Settings::Write(GeometryKey(), saveGeometry());
+    Settings::Write(TraceShownKey(), m_trace->toggleViewAction()->isChecked());
+    QMainWindow::closeEvent(event);
+}

@@ -1,0 +1,80 @@
+#ifndef MAINWINDOW_H
+#define MAINWINDOW_H
+
+#include "Overview.h"
+
+#include <QMainWindow>
+#include <QPointer>
+
+class DashboardLanguage;
+class PluginHost;
+class QAction;
+class QActionGroup;
+class QLabel;
+class QListWidget;
+class QMenu;
+class QPushButton;
+class QStackedWidget;
+class SettingsDialog;
+class TraceLog;
+class TracePanel;
+
+/** Shows the priority list and what the connection manager would make of it now. */
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLog *log);
+    ~MainWindow() override;
+
+public slots:
+    void Refresh();
+    void OpenSettings();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private slots:
+    void Retranslate();
+    void ChooseLanguage(QAction *action);
+    void SettingsClosed();
+
+private:
+    void CreateMenus();
+    void CreateLanguageActions();
+    QWidget *CreateHead();
+    QWidget *CreateMessagePage();
+    QWidget *CreateFoot();
+    void ShowHead(const Overview &overview);
+    void ShowProblems(const Overview &overview);
+    void ShowList(const Overview &overview);
+
+    PluginHost *const m_plugins;
+    DashboardLanguage *const m_language;
+    TracePanel *m_trace;
+    QPointer<SettingsDialog> m_settings;
+
+    QMenu *m_fileMenu;
+    QMenu *m_viewMenu;
+    QMenu *m_languageMenu;
+    QAction *m_settingsAction;
+    QAction *m_refreshAction;
+    QAction *m_quitAction;
+    QActionGroup *m_languageActions;
+
+    QLabel *m_headline;
+    QLabel *m_explanation;
+    QLabel *m_problems;
+    QStackedWidget *m_body;
+    QListWidget *m_list;
+    QWidget *m_messagePage;
+    QLabel *m_messageTitle;
+    QLabel *m_messageText;
+    QPushButton *m_settingsButton;
+    QPushButton *m_refreshButton;
+    QPushButton *m_languageButton;
+    QPushButton *m_traceButton;
+};
+
+#endif

@@ -1,0 +1,38 @@
+#ifndef OVERVIEW_H
+#define OVERVIEW_H
+
+#include <PriorityList.h>
+
+#include <QList>
+#include <QString>
+
+/** What the connection manager would make of the priority list now. */
+struct Overview {
+    enum Range { OutOfRange, InRange, RangeUnknown };
+
+    struct Entry {
+        PriorityList entry;
+        Range range = RangeUnknown;
+        bool isInUse = false;
+
+        bool IsWifi() const;
+    };
+
+    /** How the list was read, as IPriorityPlugin::GetPriorityList tells; -1: there is no priority plug-in to
+     * ask. */
+    int status = -1;
+    bool isRangeKnown = false;
+    QList<Entry> entries;
+
+    /** Asks the plug-ins behind the host's container. */
+    static Overview Read();
+
+    /** As Read, from what the plug-ins have answered. networksInRange counts only when isRangeKnown. */
+    static Overview Make(int status, const QList<PriorityList> &list, bool isRangeKnown,
+                         const QList<QString> &networksInRange);
+
+    /** The entry in use, or null. */
+    const Entry *InUse() const;
+};
+
+#endif

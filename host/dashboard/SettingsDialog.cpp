@@ -1,0 +1,136 @@
+#include "SettingsDialog.h"
+
+#include "DashboardText.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+namespace
+{
+
+// Plug-ins place the parts of their pages by pixels within this.
+const int pageWidth = 420;
+const int pageHeight = 374;
+
+} // namespace
+
+SettingsDialog::SettingsDialog(QWidget *parent) : QDialog(parent)
+{
+    setObjectName(QLatin1String("settingsDialog"));
+    setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
+
+    m_list = new QListWidget(this);
+    m_list->setObjectName(QLatin1String("pageList"));
+    m_list->setFixedWidth(170);
+    m_list->setSpacing(2);
+    m_list->setWordWrap(true);
+    connect(m_list, SIGNAL(currentRowChanged(int)), this, SLOT(ShowPage(int)));
+
+    m_stack = new QStackedWidget(this);
+    m_stack->setObjectName(QLatin1String("pageArea"));
+    m_stack->setFixedSize(pageWidth, pageHeight);
+
+    m_okButton = new QPushButton(this);
+    m_okButton->setObjectName(QLatin1String("settingsOkButton"));
+    m_okButton->setDefault(true);
+    connect(m_okButton, SIGNAL(clicked()), this, SLOT(accept()));
+    m_cancelButton = new QPushButton(this);
+    m_cancelButton->setObjectName(QLatin1String("settingsCancelButton"));
+    m_cancelButton->setAutoDefault(false);
+    connect(m_cancelButton, SIGNAL(clicked()), this, SLOT(reject()));
+
+    QHBoxLayout *body = new QHBoxLayout;
+    body->setSpacing(16);
+    body->addWidget(m_list);
+    body->addWidget(m_stack, 1);
+    QHBoxLayout *buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(m_okButton);
+    buttons->addWidget(m_cancelButton);
+    QVBoxLayout *layout = new QVBoxLayout(this);
+    layout->setSpacing(12);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    layout->addLayout(body, 1);
+    layout->addLayout(buttons);
+    Retranslate();
+}
+
+SettingsDialog::~SettingsDialog()
+{
+    ClosePages(SettingsPage::NoAnswer);
+}
+
+void SettingsDialog::AddPage(SettingsPage *page)
+{
+    Place place;
+    place.page = QSharedPointer<SettingsPage>(page);
+    place.widget = new QWidget;
+    place.widget->setObjectName(QString::fromLatin1("pagePlace%1").arg(m_places.size()));
+    place.widget->setMinimumSize(pageWidth, pageHeight);
+    m_stack->addWidget(place.widget);
+    m_places.append(place);
+    m_list->addItem(page->Title());
+}
+
+void SettingsDialog::SelectPage(int index)
+{
+    m_list->setCurrentRow(index);
+}
+
+void SettingsDialog::done(int result)
+{
+    ClosePages(result == Accepted ? SettingsPage::Ok : SettingsPage::Cancel);
+    QDialog::done(result);
+}
+
+void SettingsDialog::Retranslate()
+{
+    setWindowTitle(DashboardText("IDS_SETTINGS_TITLE"));
+    m_okButton->setText(DashboardText("IDS_OK"));
+    m_cancelButton->setText(DashboardText("IDS_CANCEL"));
+    for (int i = 0; i < m_places.size(); ++i) {
+        const Place &place = m_places.at(i);
+        m_list->item(i)->setText(place.page->Title());
+        place.page->Retranslate();
+        if (place.problem) {
+            place.problem->setText(place.page->ProblemText());
+        }
+    }
+}
+
+void SettingsDialog::ShowPage(int index)
+{
+    if (index < 0 || index >= m_places.size()) {
+        return;
+    }
+    Place &place = m_places[index];
+    m_stack->setCurrentIndex(index);
+    if (place.isShown || place.problem) {
+        return;
+    }
+    place.isShown = place.page->Show(place.widget);
+    if (!place.isShown) {
+        place.problem = new QLabel(place.page->ProblemText());
+        place.problem->setObjectName(QLatin1String("pageProblem"));
+        place.problem->setWordWrap(true);
+        place.problem->setTextFormat(Qt::PlainText);
+        place.problem->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        place.problem->setAlignment(Qt::AlignLeading | Qt::AlignTop);
+        QVBoxLayout *layout = new QVBoxLayout(place.widget);
+        layout->addWidget(place.problem);
+    }
+}
+
+void SettingsDialog::ClosePages(SettingsPage::Answer answer)
+{
+    for (int i = 0; i < m_places.size(); ++i) {
+        if (m_places.at(i).isShown) {
+            m_places[i].isShown = false;
+            m_places.at(i).page->Close(answer);
+        }
+    }
+}

@@ -1,0 +1,59 @@
+#ifndef SETTINGSDIALOG_H
+#define SETTINGSDIALOG_H
+
+#include "SettingsPage.h"
+
+#include <QDialog>
+#include <QList>
+#include <QSharedPointer>
+
+class QLabel;
+class QListWidget;
+class QPushButton;
+class QStackedWidget;
+
+/**
+ * The settings: a list of pages and the page that is chosen. A page is put in its place when it is chosen for
+ * the first time, and only pages that were shown hear of OK or Cancel: one that was not has nothing to store.
+ */
+class SettingsDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit SettingsDialog(QWidget *parent);
+
+    /** Takes the pages out that are still shown. */
+    ~SettingsDialog() override;
+
+    /** Takes ownership of page. */
+    void AddPage(SettingsPage *page);
+    void SelectPage(int index);
+
+    /** Every way out of the dialog leads here; all but OK are Cancel. */
+    void done(int result) override;
+
+public slots:
+    void Retranslate();
+
+private slots:
+    void ShowPage(int index);
+
+private:
+    struct Place {
+        QSharedPointer<SettingsPage> page;
+        QWidget *widget = nullptr;
+        QLabel *problem = nullptr;
+        bool isShown = false;
+    };
+
+    void ClosePages(SettingsPage::Answer answer);
+
+    QList<Place> m_places;
+    QListWidget *m_list;
+    QStackedWidget *m_stack;
+    QPushButton *m_okButton;
+    QPushButton *m_cancelButton;
+};
+
+#endif

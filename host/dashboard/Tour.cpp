@@ -1,0 +1,696 @@
+#include "Tour.h"
+
+#include "PluginObjects.h"
+#include "UserActions.h"
+#include "UserData.h"
+
+#include <Change.h>
+#include <IPriorityPlugin.h>
+#include <IWLANUIPlugin.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QFile>
+#include <QImage>
+#include <QListWidget>
+#include <QPainter>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QTimer>
+#include <QXmlStreamReader>
+
+#include <cstdio>
+
+#include <csignal>
+#include <unistd.h>
+
+namespace
+{
+
+const unsigned int longestTourSeconds = 120;
+const int exitHung = 3;
+
+// Some effects need a moment, such as that of a changed file on the main window.
+const int checkMilliseconds = 50;
+const int checkTries = 60;
+const int answerTries = 100;
+
+void GiveUp(int)
+{
+    const char message[] = "tour: gave up, it took too long\n";
+    const ssize_t written = write(STDOUT_FILENO, message, sizeof(message) - 1);
+    _exit(written < 0 ? exitHung + 1 : exitHung);
+}
+
+void Print(const QString &line)
+{
+    std::printf("%s\n", line.toLocal8Bit().constData());
+    std::fflush(stdout);
+}
+
+bool IsSame(const PriorityList &left, const PriorityList &right)
+{
+    return left.name == right.name && left.type == right.type;
+}
+
+bool IsSame(const QList<PriorityList> &left, const QList<PriorityList> &right)
+{
+    if (left.size() != right.size()) {
+        return false;
+    }
+    for (int i = 0; i < left.size(); ++i) {
+        if (!IsSame(left.at(i), right.at(i))) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool IsWifi(const PriorityList &entry)
+{
+    return entry.type == QLatin1String("1");
+}
+
+bool IsReadOnly(const PriorityList &entry)
+{
+    WLANProfile profile;
+    if (IWLANUIPlugin *wlan = PluginObjects::Wlan()) {
+        wlan->GetProfileByName(entry.name, &profile);
+    }
+    return IsWifi(entry) && profile.readOnly == QLatin1String("true");
+}
+
+/** The list as the file has it, read without any help of the plug-in that wrote it. */
+QList<PriorityList> ReadFile()
+{
+    QList<PriorityList> list;
+    QFile file(UserData::FilePath(QLatin1String("Priority.xml")));
+    if (!file.open(QIODevice::ReadOnly)) {
+        return list;
+    }
+    QXmlStreamReader reader(&file);
+    while (!reader.atEnd()) {
+        if (reader.readNext() == QXmlStreamReader::StartElement && reader.name() == QLatin1String("item")) {
+            PriorityList entry;
+            entry.name = reader.attributes().value(QLatin1String("name")).toString();
+            entry.type = reader.attributes().value(QLatin1String("type")).toString();
+            list.append(entry);
+        }
+    }
+    return list;
+}
+
+QStringList NamesOf(const QList<PriorityList> &list)
+{
+    QStringList names;
+    for (int i = 0; i < list.size(); ++i) {
+        names.append(list.at(i).name);
+    }
+    return names;
+}
+
+QStringList NamesOf(const QTableWidget *table)
+{
+    QStringList names;
+    for (int i = 0; i < table->rowCount(); ++i) {
+        const QWidget *cell = table->cellWidget(i, 0);
+        names.append(cell ? cell->accessibleName() : QString());
+    }
+    return names;
+}
+
+QStringList NamesOf(const QListWidget *list)
+{
+    QStringList names;
+    for (int i = 0; i < list->count(); ++i) {
+        names.append(list->item(i)->text());
+    }
+    return names;
+}
+
+QString Differs(const char *what, const QStringList &found, const QStringList &expected)
+{
+    return QString::fromLatin1("%1 holds [%2] and should hold [%3]")
+        .arg(QLatin1String(what), found.join(QLatin1String(", ")), expected.join(QLatin1String(", ")));
+}
+
+PriorityList Entry(const QString &name, const QString &type)
+{
+    PriorityList entry;
+    entry.name = name;
+    entry.type = type;
+    return entry;
+}
+
+QImage ImageOf(QWidget *widget)
+{
+    QImage image(widget->size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(0);
+    widget->render(&image);
+    return image;
+}
+
+/** window with the dialogs that are open before it, each in the middle. */
+QImage Composed(QWidget *window)
+{
+    QList<QImage> layers;
+    for (QWidget *top = QApplication::activeModalWidget(); top && top != window;
+         top = top->parentWidget() ? top->parentWidget()->window() : nullptr) {
+        layers.prepend(ImageOf(top));
+    }
+    layers.prepend(ImageOf(window));
+    QSize size = layers.first().size();
+    for (int i = 1; i < layers.size(); ++i) {
+        size = size.expandedTo(layers.at(i).size() + QSize(2, 2));
+    }
+    QImage picture(size, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(QApplication::palette().color(QPalette::Window).rgb());
+    QPainter painter(&picture);
+    for (int i = 0; i < layers.size(); ++i) {
+        const QSize rest = (size - layers.at(i).size()) / 2;
+        const QRect place(QPoint(rest.width(), rest.height()), layers.at(i).size());
+        if (i > 0) {
+            painter.fillRect(picture.rect(), QColor(0, 0, 0, 60));
+            painter.fillRect(place.adjusted(-1, -1, 1, 1), QApplication::palette().color(QPalette::Shadow));
+        }
+        painter.drawImage(place.topLeft(), layers.at(i));
+    }
+    return picture;
+}
+
+} // namespace
+
+const Tour::Step Tour::steps[] = {
+    {"empty", "the dashboard opens; there is no list yet", &Tour::ActStart, &Tour::CheckStart},
+    {"filled", "another plug-in adds the networks it remembers", &Tour::ActSeed, nullptr},
+    {"settings", "the Settings button opens the page with the list", &Tour::ActOpen, &Tour::CheckOpen},
+    {"select", "a click selects the second network", &Tour::ActSelect, &Tour::CheckSelect},
+    {"down-button", "the Down button moves it down", &Tour::ActDownButton, &Tour::CheckMovedDown},
+    {"up-button", "the Up button moves it up again", &Tour::ActUpButton, &Tour::CheckMovedUp},
+    {"down-key", "the down arrow key moves it down", &Tour::ActDownKey, &Tour::CheckMovedDown},
+    {"up-key", "the up arrow key moves it up again", &Tour::ActUpKey, &Tour::CheckMovedUp},
+    {"delete-cancel", "Delete, then Cancel in the question: nothing is deleted", &Tour::ActDeleteCancel,
+     &Tour::CheckNothingSelected},
+    {"delete-ok", "Delete, then OK in the question: the network is gone", &Tour::ActDeleteOk,
+     &Tour::CheckNothingSelected},
+    {"read-only", "a network that is read-only can be moved but not deleted", &Tour::ActReadOnly,
+     &Tour::CheckReadOnly},
+    {"added-elsewhere", "another plug-in puts a network on top; the open page follows", &Tour::ActForeignTop,
+     nullptr},
+    {"arabic", "the language is switched to Arabic while the page is open", &Tour::ActArabic,
+     &Tour::CheckArabic},
+    {"language-back", "the language is switched back", &Tour::ActBack, &Tour::CheckBack},
+    {"ok", "OK closes the settings; the main window shows the list", &Tour::ActConfirm, &Tour::CheckClosed},
+    {"reopened", "the settings are opened again; the order was kept", &Tour::ActReopen, &Tour::CheckOpen},
+    {"cancel", "Cancel closes the settings; what was changed stays", &Tour::ActDismiss, &Tour::CheckClosed},
+};
+
+const int Tour::stepCount = sizeof(Tour::steps) / sizeof(Tour::steps[0]);
+
+Tour::Tour(QWidget *window, const TourDirectory &directory)
+    : m_window(window), m_directory(directory), m_step(0), m_failedSteps(0), m_checksLeft(0),
+      m_answerTriesLeft(0)
+{
+}
+
+void Tour::Start()
+{
+    // Not a timer of the toolkit's: a tour that hangs may hang outside of any event loop.
+    std::signal(SIGALRM, GiveUp);
+    alarm(longestTourSeconds);
+    QTimer::singleShot(0, this, SLOT(Act()));
+}
+
+void Tour::Act()
+{
+    if (m_step == stepCount) {
+        Finish();
+        return;
+    }
+    m_failures.clear();
+    (this->*steps[m_step].act)();
+    // What couldn't be done has no effect to wait for.
+    m_checksLeft = m_failures.isEmpty() ? checkTries : 0;
+    QTimer::singleShot(checkMilliseconds, this, SLOT(Check()));
+}
+
+void Tour::Check()
+{
+    const QStringList failuresOfAct = m_failures;
+    if (failuresOfAct.isEmpty()) {
+        ExpectListEverywhere();
+        if (steps[m_step].check) {
+            (this->*steps[m_step].check)();
+        }
+        if (!m_failures.isEmpty() && m_checksLeft-- > 0) {
+            m_failures.clear();
+            QTimer::singleShot(checkMilliseconds, this, SLOT(Check()));
+            return;
+        }
+    }
+    Report();
+    ++m_step;
+    QTimer::singleShot(0, this, SLOT(Act()));
+}
+
+void Tour::Report()
+{
+    const Step &step = steps[m_step];
+    SavePicture(QLatin1String(step.name));
+    Print(QString::fromLatin1("step %1: %2").arg(m_step + 1).arg(QLatin1String(step.what)));
+    const QList<PriorityList> list = ReadFile();
+    for (int i = 0; i < list.size(); ++i) {
+        Print(QString::fromLatin1("  %1. %2 (%3)")
+                  .arg(i + 1, 2)
+                  .arg(list.at(i).name.simplified(),
+                       QLatin1String(IsWifi(list.at(i)) ? "Wi-Fi" : "mobile broadband")));
+    }
+    if (list.isEmpty()) {
+        Print(QLatin1String("  (the list is empty)"));
+    }
+    for (int i = 0; i < m_failures.size(); ++i) {
+        Print(QLatin1String("FAILED: ") + m_failures.at(i));
+    }
+    if (!m_failures.isEmpty()) {
+        ++m_failedSteps;
+        // The next step is judged by its own effect.
+        m_expected = list;
+    }
+}
+
+void Tour::SavePicture(const QString &name)
+{
+    const QString fileName =
+        QString::fromLatin1("%1-%2.png").arg(m_step + 1, 2, 10, QLatin1Char('0')).arg(name);
+    const QString path = m_directory.Claim(fileName);
+    if (path.isEmpty() || !Composed(m_window).save(path, "PNG")) {
+        Fail(QString::fromLatin1("the picture %1 can't be saved").arg(fileName));
+    }
+}
+
+void Tour::Finish()
+{
+    alarm(0);
+    Print(QString::fromLatin1("tour: %1 steps, %2 failed").arg(stepCount).arg(m_failedSteps));
+    QApplication::exit(m_failedSteps == 0 ? 0 : 1);
+}
+
+void Tour::Fail(const QString &problem)
+{
+    m_failures.append(problem);
+}
+
+void Tour::Expect(bool condition, const char *rule)
+{
+    if (!condition) {
+        Fail(QString::fromLatin1("it is not so that %1").arg(QLatin1String(rule)));
+    }
+}
+
+QWidget *Tour::Find(const char *name)
+{
+    return FindOf<QWidget>(name);
+}
+
+template <class Widget> Widget *Tour::FindOf(const char *name)
+{
+    Widget *widget = m_window->findChild<Widget *>(QLatin1String(name));
+    if (!widget) {
+        Fail(QString::fromLatin1("there is no %1").arg(QLatin1String(name)));
+    }
+    return widget;
+}
+
+void Tour::Click(const char *name)
+{
+    QWidget *widget = Find(name);
+    const QString problem = widget ? UserActions::Click(widget) : QString();
+    if (!problem.isNull()) {
+        Fail(problem);
+    }
+}
+
+void Tour::ClickRow(const PriorityList &entry)
+{
+    m_selected = entry;
+    QTableWidget *table = FindOf<QTableWidget>("priorityTable");
+    const QString problem = table ? UserActions::ClickRow(table, PlaceOf(entry)) : QString();
+    if (!problem.isNull()) {
+        Fail(problem);
+    }
+}
+
+void Tour::PressInList(int key)
+{
+    QWidget *table = Find("priorityTable");
+    const QString problem = table ? UserActions::PressKey(key, table) : QString();
+    if (!problem.isNull()) {
+        Fail(problem);
+    }
+}
+
+void Tour::ClickAndAnswer(const char *name, const char *answer)
+{
+    // The click returns when the question is answered, so the answer is arranged first.
+    m_answer = QLatin1String(answer);
+    m_answerTriesLeft = answerTries;
+    QTimer::singleShot(0, this, SLOT(AnswerQuestion()));
+    Click(name);
+    if (m_answerTriesLeft > 0) {
+        m_answerTriesLeft = 0;
+        Fail(QLatin1String("no question was asked"));
+    }
+}
+
+void Tour::AnswerQuestion()
+{
+    if (m_answerTriesLeft <= 0) {
+        return;
+    }
+    QWidget *question = QApplication::activeModalWidget();
+    if (!question || question->objectName() != QLatin1String("messageBox")) {
+        if (--m_answerTriesLeft > 0) {
+            QTimer::singleShot(checkMilliseconds, this, SLOT(AnswerQuestion()));
+        }
+        return;
+    }
+    m_answerTriesLeft = 0;
+    SavePicture(QLatin1String(steps[m_step].name) + QLatin1String("-question"));
+    QWidget *button = question->findChild<QWidget *>(m_answer);
+    const QString problem =
+        button ? UserActions::Click(button) : QString::fromLatin1("the question has no %1").arg(m_answer);
+    if (!problem.isNull()) {
+        Fail(problem);
+        question->close();
+    }
+}
+
+void Tour::ChooseLanguage(const QString &language)
+{
+    QComboBox *box = FindOf<QComboBox>("languageBox");
+    if (!box) {
+        return;
+    }
+    box->setFocus(Qt::TabFocusReason);
+    const int wanted = box->findData(language);
+    const int key = wanted < box->currentIndex() ? Qt::Key_Up : Qt::Key_Down;
+    for (int i = box->count(); i > 0 && box->currentIndex() != wanted; --i) {
+        const QString problem = UserActions::PressKey(key, box);
+        if (!problem.isNull()) {
+            Fail(problem);
+            return;
+        }
+    }
+}
+
+void Tour::SelectPage(int row)
+{
+    QListWidget *pages = FindOf<QListWidget>("pageList");
+    if (!pages) {
+        return;
+    }
+    pages->setFocus(Qt::TabFocusReason);
+    const int key = row < pages->currentRow() ? Qt::Key_Up : Qt::Key_Down;
+    for (int i = pages->count(); i > 0 && pages->currentRow() != row; --i) {
+        const QString problem = UserActions::PressKey(key, pages);
+        if (!problem.isNull()) {
+            Fail(problem);
+            return;
+        }
+    }
+}
+
+int Tour::PlaceOf(const PriorityList &entry) const
+{
+    for (int i = 0; i < m_expected.size(); ++i) {
+        if (IsSame(m_expected.at(i), entry)) {
+            return i;
+        }
+    }
+    return -1;
+}
+
+void Tour::MoveExpected(int from, int to)
+{
+    if (from >= 0 && from < m_expected.size() && to >= 0 && to < m_expected.size()) {
+        m_expected.move(from, to);
+    } else {
+        Fail(QLatin1String("there is no such place in the list"));
+    }
+}
+
+void Tour::ExpectButtons(bool up, bool down, bool remove)
+{
+    const QWidget *upButton = Find("upButton");
+    const QWidget *downButton = Find("downButton");
+    const QWidget *deleteButton = Find("deleteButton");
+    if (upButton && downButton && deleteButton) {
+        Expect(upButton->isEnabled() == up, "the Up button is enabled when the network can go up");
+        Expect(downButton->isEnabled() == down, "the Down button is enabled when the network can go down");
+        Expect(deleteButton->isEnabled() == remove,
+               "the Delete button is enabled when the network can be deleted");
+    }
+}
+
+void Tour::ExpectSelected(int row)
+{
+    const QTableWidget *table = FindOf<QTableWidget>("priorityTable");
+    if (table) {
+        Expect(table->currentRow() == row, "the right row is selected");
+    }
+}
+
+void Tour::ExpectListEverywhere()
+{
+    const QString wrong = WrongAboutList();
+    if (!wrong.isNull()) {
+        Fail(wrong);
+    }
+}
+
+QString Tour::WrongAboutList() const
+{
+    const QList<PriorityList> list = ReadFile();
+    const QStringList expected = NamesOf(m_expected);
+    if (!IsSame(list, m_expected)) {
+        return Differs("Priority.xml", NamesOf(list), expected);
+    }
+    const QTableWidget *table = m_window->findChild<QTableWidget *>(QLatin1String("priorityTable"));
+    if (table && table->isVisible() && NamesOf(table) != expected) {
+        return Differs("the page", NamesOf(table), expected);
+    }
+    const QListWidget *overview = m_window->findChild<QListWidget *>(QLatin1String("overviewList"));
+    const QStringList shown = overview && overview->isVisible() ? NamesOf(overview) : QStringList();
+    return shown == expected ? QString() : Differs("the main window", shown, expected);
+}
+
+void Tour::ActStart()
+{
+    m_languageBefore = Change::GetLangName();
+}
+
+void Tour::CheckStart()
+{
+    const QWidget *message = Find("messageText");
+    if (message) {
+        Expect(message->isVisible(), "a hint stands in place of the empty list");
+    }
+    Expect(PluginObjects::Priority() != nullptr, "the plug-in with the priority list is there");
+    Expect(PluginObjects::Wlan() != nullptr, "the Wi-Fi plug-in is there");
+}
+
+void Tour::ActSeed()
+{
+    IPriorityPlugin *priority = PluginObjects::Priority();
+    IWLANUIPlugin *wlan = PluginObjects::Wlan();
+    if (!priority || !wlan) {
+        Fail(QLatin1String("a plug-in is missing"));
+        return;
+    }
+    QList<RememberedList> remembered;
+    wlan->GetRememberedList(&remembered);
+    for (int i = 0; i < remembered.size(); ++i) {
+        m_expected.append(Entry(remembered.at(i).name, remembered.at(i).type));
+    }
+    // One is kept back, so that there is one to add later.
+    for (int i = m_expected.size() - 1; i >= 0 && m_keptBack.isEmpty(); --i) {
+        if (IsWifi(m_expected.at(i)) && !IsReadOnly(m_expected.at(i))) {
+            m_keptBack.append(m_expected.takeAt(i));
+        }
+    }
+    if (m_expected.size() < 4) {
+        Fail(QLatin1String("the Wi-Fi plug-in remembers too few networks for a tour"));
+        return;
+    }
+    QList<PriorityList> allButTheFirst = m_expected.mid(1);
+    priority->AddPriorityList(allButTheFirst);
+    priority->AddTopPriority(m_expected.first());
+}
+
+void Tour::ActOpen()
+{
+    Click("settingsButton");
+}
+
+void Tour::CheckOpen()
+{
+    const QWidget *table = Find("priorityTable");
+    if (table) {
+        Expect(table->isVisible(), "the page is shown");
+    }
+    ExpectButtons(false, false, false);
+}
+
+void Tour::ActSelect()
+{
+    ClickRow(m_expected.value(1));
+}
+
+void Tour::CheckSelect()
+{
+    ExpectButtons(true, true, true);
+    ExpectSelected(1);
+}
+
+void Tour::ActDownButton()
+{
+    MoveExpected(1, 2);
+    Click("downButton");
+}
+
+void Tour::CheckMovedDown()
+{
+    ExpectSelected(2);
+}
+
+void Tour::ActUpButton()
+{
+    MoveExpected(2, 1);
+    Click("upButton");
+}
+
+void Tour::CheckMovedUp()
+{
+    ExpectSelected(1);
+}
+
+void Tour::ActDownKey()
+{
+    ClickRow(m_expected.value(1));
+    MoveExpected(1, 2);
+    PressInList(Qt::Key_Down);
+}
+
+void Tour::ActUpKey()
+{
+    MoveExpected(2, 1);
+    PressInList(Qt::Key_Up);
+}
+
+void Tour::ActDeleteCancel()
+{
+    ClickRow(m_expected.value(1));
+    ClickAndAnswer("deleteButton", "messageButton2");
+}
+
+void Tour::CheckNothingSelected()
+{
+    ExpectSelected(-1);
+    ExpectButtons(false, false, false);
+}
+
+void Tour::ActDeleteOk()
+{
+    ClickRow(m_expected.value(1));
+    if (m_expected.size() > 1) {
+        m_expected.removeAt(1);
+    }
+    ClickAndAnswer("deleteButton", "messageButton1");
+}
+
+void Tour::ActReadOnly()
+{
+    for (int i = 1; i < m_expected.size() - 1; ++i) {
+        if (IsReadOnly(m_expected.at(i))) {
+            ClickRow(m_expected.at(i));
+            return;
+        }
+    }
+    Fail(QLatin1String("no network in the middle of the list is read-only"));
+}
+
+void Tour::CheckReadOnly()
+{
+    ExpectSelected(PlaceOf(m_selected));
+    ExpectButtons(true, true, false);
+}
+
+void Tour::ActForeignTop()
+{
+    IPriorityPlugin *priority = PluginObjects::Priority();
+    if (!priority) {
+        Fail(QLatin1String("the plug-in with the priority list is missing"));
+        return;
+    }
+    const PriorityList entry = Entry(QLatin1String("Library"), QLatin1String("1"));
+    m_expected.prepend(entry);
+    priority->AddTopPriority(entry);
+}
+
+void Tour::ActArabic()
+{
+    SelectPage(0);
+    ChooseLanguage(QLatin1String("ar"));
+    SelectPage(1);
+}
+
+void Tour::CheckArabic()
+{
+    Expect(Change::GetLangName() == QLatin1String("ar"), "the language is Arabic");
+    Expect(QApplication::layoutDirection() == Qt::RightToLeft, "the windows read from right to left");
+    const QPushButton *button = FindOf<QPushButton>("upButton");
+    if (button) {
+        Expect(button->isVisible(), "the page is shown");
+        Expect(button->text() == Change::tr(QLatin1String("IDS_PROFILE_UP"), QLatin1String("PriorityPlugin")),
+               "the page speaks Arabic");
+    }
+}
+
+void Tour::ActBack()
+{
+    SelectPage(0);
+    ChooseLanguage(m_languageBefore);
+    SelectPage(1);
+}
+
+void Tour::CheckBack()
+{
+    Expect(Change::GetLangName() == m_languageBefore, "the language is the one before");
+    const QPushButton *button = FindOf<QPushButton>("upButton");
+    if (button) {
+        Expect(button->isVisible(), "the page is shown");
+        Expect(button->text() == Change::tr(QLatin1String("IDS_PROFILE_UP"), QLatin1String("PriorityPlugin")),
+               "the page speaks the language before");
+    }
+}
+
+void Tour::ActConfirm()
+{
+    Click("settingsOkButton");
+}
+
+void Tour::CheckClosed()
+{
+    const QWidget *dialog = m_window->findChild<QWidget *>(QLatin1String("settingsDialog"));
+    Expect(!dialog || !dialog->isVisible(), "the settings are closed");
+}
+
+void Tour::ActReopen()
+{
+    Click("settingsButton");
+}
+
+void Tour::ActDismiss()
+{
+    Click("settingsCancelButton");
+}

@@ -1,0 +1,114 @@
+#ifndef TOUR_H
+#define TOUR_H
+
+#include "TourDirectory.h"
+
+#include <PriorityList.h>
+
+#include <QList>
+#include <QObject>
+#include <QStringList>
+
+class QWidget;
+
+/**
+ * Shows the program to itself: works with a list of its own through clicks and keys, takes a picture after
+ * each step, and checks that the step had its effect on the file and in the windows. What happens is printed;
+ * the application ends with 0 when every step had its effect, with 1 otherwise, and with 3 when the tour
+ * hangs.
+ */
+class Tour : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** @param window  not owned, shown. @param directory  prepared. */
+    Tour(QWidget *window, const TourDirectory &directory);
+
+    /** Begins once the application's event loop runs. */
+    void Start();
+
+private slots:
+    void Act();
+    void Check();
+    void AnswerQuestion();
+
+private:
+    struct Step {
+        /** Part of the picture's file name. */
+        const char *name;
+        /** What happens, for the reader of the output. */
+        const char *what;
+        void (Tour::*act)();
+        /** What must be so afterwards besides that file and windows show the expected list; may be null. */
+        void (Tour::*check)();
+    };
+
+    static const Step steps[];
+    static const int stepCount;
+
+    // What the steps are made of. What fails is kept for the step's report.
+    void Fail(const QString &problem);
+    void Expect(bool condition, const char *rule);
+    QWidget *Find(const char *name);
+    template <class Widget> Widget *FindOf(const char *name);
+    void Click(const char *name);
+    void ClickRow(const PriorityList &entry);
+    void PressInList(int key);
+    void ClickAndAnswer(const char *name, const char *answer);
+    void ChooseLanguage(const QString &language);
+    void SelectPage(int row);
+    int PlaceOf(const PriorityList &entry) const;
+    void MoveExpected(int from, int to);
+    void ExpectButtons(bool up, bool down, bool remove);
+    void ExpectSelected(int row);
+    void ExpectListEverywhere();
+    QString WrongAboutList() const;
+
+    void ActStart();
+    void CheckStart();
+    void ActSeed();
+    void ActOpen();
+    void CheckOpen();
+    void ActSelect();
+    void CheckSelect();
+    void ActDownButton();
+    void CheckMovedDown();
+    void ActUpButton();
+    void CheckMovedUp();
+    void ActDownKey();
+    void ActUpKey();
+    void ActDeleteCancel();
+    void CheckNothingSelected();
+    void ActDeleteOk();
+    void ActReadOnly();
+    void CheckReadOnly();
+    void ActForeignTop();
+    void ActArabic();
+    void CheckArabic();
+    void ActBack();
+    void CheckBack();
+    void ActConfirm();
+    void CheckClosed();
+    void ActReopen();
+    void ActDismiss();
+
+    void Report();
+    void SavePicture(const QString &name);
+    void Finish();
+
+    QWidget *const m_window;
+    TourDirectory m_directory;
+    int m_step;
+    int m_failedSteps;
+    int m_checksLeft;
+    QStringList m_failures;
+    QList<PriorityList> m_expected;
+    QList<PriorityList> m_keptBack;
+    PriorityList m_selected;
+    QString m_languageBefore;
+    QString m_answer;
+    int m_answerTriesLeft;
+};
+
+#endif

@@ -1,0 +1,114 @@
+#include "UserActions.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPointer>
+#include <QTableWidget>
+
+namespace
+{
+
+bool IsSameOrInside(const QWidget *inner, const QWidget *outer)
+{
+    return inner && outer && (inner == outer || outer->isAncestorOf(inner));
+}
+
+QString NameOf(const QWidget *widget)
+{
+    return widget->objectName();
+}
+
+/** Why no user could work with widget now, or null. */
+QString Obstacle(const QWidget *widget)
+{
+    if (!widget->isVisible()) {
+        return QString::fromLatin1("%1 can't be seen").arg(NameOf(widget));
+    }
+    if (!widget->isEnabled()) {
+        return QString::fromLatin1("%1 is disabled").arg(NameOf(widget));
+    }
+    const QWidget *modal = QApplication::activeModalWidget();
+    if (modal && widget->window() != modal->window()) {
+        return QString::fromLatin1("%1 is behind the dialog %2").arg(NameOf(widget), NameOf(modal));
+    }
+    return QString();
+}
+
+void SendMouse(QEvent::Type type, QWidget *target, const QPoint &position)
+{
+    const Qt::MouseButtons held = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
+    QMouseEvent event(type, position, target->mapToGlobal(position), Qt::LeftButton, held, Qt::NoModifier);
+    QApplication::sendEvent(target, &event);
+}
+
+QString ClickAt(QWidget *widget, const QPoint &position)
+{
+    const QString obstacle = Obstacle(widget);
+    if (!obstacle.isNull()) {
+        return obstacle;
+    }
+    QWidget *window = widget->window();
+    QPointer<QWidget> target = window->childAt(widget->mapTo(window, position));
+    if (!IsSameOrInside(target.data(), widget)) {
+        return QString::fromLatin1("%1 is covered").arg(NameOf(widget));
+    }
+    const QPoint targetPosition = target->mapFrom(window, widget->mapTo(window, position));
+    SendMouse(QEvent::MouseButtonPress, target.data(), targetPosition);
+    if (target) {
+        SendMouse(QEvent::MouseButtonRelease, target.data(), targetPosition);
+    }
+    return QString();
+}
+
+QString SendKey(int key, const QString &text, QWidget *widget)
+{
+    const QString obstacle = Obstacle(widget);
+    if (!obstacle.isNull()) {
+        return obstacle;
+    }
+    QPointer<QWidget> target = QApplication::focusWidget();
+    if (!IsSameOrInside(target.data(), widget)) {
+        return QString::fromLatin1("%1 doesn't have the keyboard's focus").arg(NameOf(widget));
+    }
+    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
+    QApplication::sendEvent(target.data(), &press);
+    if (target) {
+        QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, text);
+        QApplication::sendEvent(target.data(), &release);
+    }
+    return QString();
+}
+
+} // namespace
+
+QString UserActions::Click(QWidget *widget)
+{
+    return ClickAt(widget, widget->rect().center());
+}
+
+QString UserActions::ClickRow(QTableWidget *table, int row)
+{
+    if (row < 0 || row >= table->rowCount()) {
+        return QString::fromLatin1("%1 has no row %2").arg(NameOf(table)).arg(row + 1);
+    }
+    const QModelIndex index = table->model()->index(row, 0);
+    table->scrollTo(index);
+    return ClickAt(table->viewport(), table->visualRect(index).center());
+}
+
+QString UserActions::PressKey(int key, QWidget *widget)
+{
+    return SendKey(key, QString(), widget);
+}
+
+QString UserActions::TypeText(const QString &text, QWidget *widget)
+{
+    for (int i = 0; i < text.size(); ++i) {
+        const QString problem = SendKey(0, text.mid(i, 1), widget);
+        if (!problem.isNull()) {
+            return problem;
+        }
+    }
+    return QString();
+}

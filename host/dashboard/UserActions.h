@@ -1,0 +1,25 @@
+#ifndef USERACTIONS_H
+#define USERACTIONS_H
+
+#include <QString>
+
+class QTableWidget;
+class QWidget;
+
+/**
+ * What a user does with mouse and keyboard. Each answers null, or in plain words why a user couldn't do it:
+ * nothing can be clicked that is hidden, disabled, covered, or behind a modal dialog.
+ */
+namespace UserActions
+{
+
+QString Click(QWidget *widget);
+QString ClickRow(QTableWidget *table, int row);
+
+/** Presses and releases a key where the keyboard's focus is, which has to be widget or in it. */
+QString PressKey(int key, QWidget *widget);
+QString TypeText(const QString &text, QWidget *widget);
+
+} // namespace UserActions
+
+#endif
