@@ -87,6 +87,7 @@ bool GeneralPage::Show(QWidget *place)
     placeLayout->setContentsMargins(0, 0, 0, 0);
     placeLayout->addWidget(m_page);
     Retranslate();
+    m_page->show();
     return true;
 }
 

@@ -141,7 +141,7 @@ MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLo
     connect(watcher, SIGNAL(Changed()), this, SLOT(Refresh()));
     connect(m_language, SIGNAL(Switched()), this, SLOT(Retranslate()));
 
-    resize(760, 560);
+    resize(820, 620);
     restoreGeometry(Settings::Read(GeometryKey()).toByteArray());
     Retranslate();
 }

@@ -58,7 +58,9 @@ void OverviewDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opti
     const bool isInUse = index.data(IsInUseRole).toBool();
     const bool isAvailable = index.data(IsAvailableRole).toBool();
     const QColor base = option.palette.color(QPalette::Base);
-    const QColor accent = option.palette.color(QPalette::Highlight);
+    // The application's highlight: that of lists may be a soft one, made for reading on it.
+    const QPalette application = QApplication::palette();
+    const QColor accent = application.color(QPalette::Highlight);
     const QColor strong = option.palette.color(QPalette::Text);
     const QColor text = isAvailable ? strong : Blend(strong, base, 0.55);
     const QColor faint = Blend(strong, base, isAvailable ? 0.65 : 0.5);
@@ -111,7 +113,7 @@ void OverviewDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opti
         painter->setBrush(accent);
         painter->drawRoundedRect(visualChip, stateHeight / 2.0, stateHeight / 2.0);
     }
-    painter->setPen(isInUse ? option.palette.color(QPalette::HighlightedText) : faint);
+    painter->setPen(isInUse ? application.color(QPalette::HighlightedText) : faint);
     painter->setFont(smallFont);
     painter->drawText(visualChip, Qt::AlignCenter, state);
 

@@ -36,12 +36,7 @@ QString PluginPage::Title() const
 bool PluginPage::Show(QWidget *place)
 {
     QRect area(QPoint(0, 0), place->minimumSize());
-    if (!m_page || !m_page->ShowSettingDialog(place, area)) {
-        return false;
-    }
-    // Pages stand at fixed places and mirror themselves what is to be mirrored; it must not be done twice.
-    place->setLayoutDirection(Qt::LeftToRight);
-    return true;
+    return m_page && m_page->ShowSettingDialog(place, area);
 }
 
 QString PluginPage::ProblemText() const

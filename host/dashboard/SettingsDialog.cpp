@@ -122,6 +122,7 @@ void SettingsDialog::ShowPage(int index)
         place.problem->setAlignment(Qt::AlignLeading | Qt::AlignTop);
         QVBoxLayout *layout = new QVBoxLayout(place.widget);
         layout->addWidget(place.problem);
+        place.problem->show();
     }
 }
 

@@ -1,5 +1,6 @@
 #include "Tour.h"
 
+#include "HostControl.h"
 #include "PluginObjects.h"
 #include "UserActions.h"
 #include "UserData.h"
@@ -14,6 +15,7 @@
 #include <QImage>
 #include <QListWidget>
 #include <QPainter>
+#include <QPointer>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QTimer>
@@ -142,6 +144,11 @@ PriorityList Entry(const QString &name, const QString &type)
     return entry;
 }
 
+int LanguagePlace(const QString &language)
+{
+    return HostControl::LanguageNames().indexOf(language);
+}
+
 QImage ImageOf(QWidget *widget)
 {
     QImage image(widget->size(), QImage::Format_ARGB32_Premultiplied);
@@ -193,6 +200,14 @@ const Tour::Step Tour::steps[] = {
      &Tour::CheckNothingSelected},
     {"delete-ok", "Delete, then OK in the question: the network is gone", &Tour::ActDeleteOk,
      &Tour::CheckNothingSelected},
+    {"add-dialog", "Add offers the remembered networks that are not in the list", &Tour::ActAddDialog,
+     &Tour::CheckAddDialog},
+    {"add-ok", "one is ticked; OK puts it at the end of the list", &Tour::ActAddOk, &Tour::CheckLastSelected},
+    {"new-dialog", "New asks for a network that is not remembered yet", &Tour::ActNewDialog,
+     &Tour::CheckNewDialog},
+    {"new-wrong-key", "a key that is too short is refused", &Tour::ActNewWrongKey, &Tour::CheckStillOpen},
+    {"new-ok", "with a right key the network is remembered and put at the end of the list", &Tour::ActNewOk,
+     &Tour::CheckNew},
     {"read-only", "a network that is read-only can be moved but not deleted", &Tour::ActReadOnly,
      &Tour::CheckReadOnly},
     {"added-elsewhere", "another plug-in puts a network on top; the open page follows", &Tour::ActForeignTop,
@@ -300,6 +315,13 @@ void Tour::Fail(const QString &problem)
     m_failures.append(problem);
 }
 
+void Tour::FailIf(const QString &problem)
+{
+    if (!problem.isNull()) {
+        Fail(problem);
+    }
+}
+
 void Tour::Expect(bool condition, const char *rule)
 {
     if (!condition) {
@@ -323,29 +345,23 @@ template <class Widget> Widget *Tour::FindOf(const char *name)
 
 void Tour::Click(const char *name)
 {
-    QWidget *widget = Find(name);
-    const QString problem = widget ? UserActions::Click(widget) : QString();
-    if (!problem.isNull()) {
-        Fail(problem);
+    if (QWidget *widget = Find(name)) {
+        FailIf(UserActions::Click(widget));
     }
 }
 
 void Tour::ClickRow(const PriorityList &entry)
 {
     m_selected = entry;
-    QTableWidget *table = FindOf<QTableWidget>("priorityTable");
-    const QString problem = table ? UserActions::ClickRow(table, PlaceOf(entry)) : QString();
-    if (!problem.isNull()) {
-        Fail(problem);
+    if (QTableWidget *table = FindOf<QTableWidget>("priorityTable")) {
+        FailIf(UserActions::ClickRow(table, PlaceOf(entry)));
     }
 }
 
 void Tour::PressInList(int key)
 {
-    QWidget *table = Find("priorityTable");
-    const QString problem = table ? UserActions::PressKey(key, table) : QString();
-    if (!problem.isNull()) {
-        Fail(problem);
+    if (QWidget *table = Find("priorityTable")) {
+        FailIf(UserActions::PressKey(key, table));
     }
 }
 
@@ -367,7 +383,7 @@ void Tour::AnswerQuestion()
     if (m_answerTriesLeft <= 0) {
         return;
     }
-    QWidget *question = QApplication::activeModalWidget();
+    const QPointer<QWidget> question = QApplication::activeModalWidget();
     if (!question || question->objectName() != QLatin1String("messageBox")) {
         if (--m_answerTriesLeft > 0) {
             QTimer::singleShot(checkMilliseconds, this, SLOT(AnswerQuestion()));
@@ -377,29 +393,42 @@ void Tour::AnswerQuestion()
     m_answerTriesLeft = 0;
     SavePicture(QLatin1String(steps[m_step].name) + QLatin1String("-question"));
     QWidget *button = question->findChild<QWidget *>(m_answer);
-    const QString problem =
-        button ? UserActions::Click(button) : QString::fromLatin1("the question has no %1").arg(m_answer);
-    if (!problem.isNull()) {
-        Fail(problem);
+    FailIf(button ? UserActions::Click(button) : QString::fromLatin1("the question has no %1").arg(m_answer));
+    if (question && question->isVisible()) {
+        Fail(QLatin1String("the question stays open"));
         question->close();
     }
 }
 
-void Tour::ChooseLanguage(const QString &language)
+void Tour::ChooseItem(const char *name, int item)
 {
-    QComboBox *box = FindOf<QComboBox>("languageBox");
+    QComboBox *box = FindOf<QComboBox>(name);
     if (!box) {
         return;
     }
     box->setFocus(Qt::TabFocusReason);
-    const int wanted = box->findData(language);
-    const int key = wanted < box->currentIndex() ? Qt::Key_Up : Qt::Key_Down;
-    for (int i = box->count(); i > 0 && box->currentIndex() != wanted; --i) {
-        const QString problem = UserActions::PressKey(key, box);
-        if (!problem.isNull()) {
-            Fail(problem);
-            return;
-        }
+    const int key = item < box->currentIndex() ? Qt::Key_Up : Qt::Key_Down;
+    for (int i = box->count(); i > 0 && box->currentIndex() != item; --i) {
+        FailIf(UserActions::PressKey(key, box));
+    }
+}
+
+void Tour::Tick(const PriorityList &entry)
+{
+    const QTableWidget *table = FindOf<QTableWidget>("rememberTable");
+    const int row = table ? NamesOf(table).indexOf(entry.name) : -1;
+    QWidget *checkBox =
+        row >= 0 ? table->cellWidget(row, 0)->findChild<QWidget *>(QLatin1String("rowCheckBox")) : nullptr;
+    FailIf(checkBox ? UserActions::Click(checkBox)
+                    : QString::fromLatin1("%1 can't be ticked").arg(entry.name));
+}
+
+void Tour::Fill(const char *name, const QString &text)
+{
+    if (QWidget *field = Find(name)) {
+        FailIf(UserActions::Click(field));
+        FailIf(UserActions::PressKey(Qt::Key_A, field, Qt::ControlModifier));
+        FailIf(UserActions::TypeText(text, field));
     }
 }
 
@@ -412,11 +441,7 @@ void Tour::SelectPage(int row)
     pages->setFocus(Qt::TabFocusReason);
     const int key = row < pages->currentRow() ? Qt::Key_Up : Qt::Key_Down;
     for (int i = pages->count(); i > 0 && pages->currentRow() != row; --i) {
-        const QString problem = UserActions::PressKey(key, pages);
-        if (!problem.isNull()) {
-            Fail(problem);
-            return;
-        }
+        FailIf(UserActions::PressKey(key, pages));
     }
 }
 
@@ -462,10 +487,7 @@ void Tour::ExpectSelected(int row)
 
 void Tour::ExpectListEverywhere()
 {
-    const QString wrong = WrongAboutList();
-    if (!wrong.isNull()) {
-        Fail(wrong);
-    }
+    FailIf(WrongAboutList());
 }
 
 QString Tour::WrongAboutList() const
@@ -513,9 +535,9 @@ void Tour::ActSeed()
         m_expected.append(Entry(remembered.at(i).name, remembered.at(i).type));
     }
     // One is kept back, so that there is one to add later.
-    for (int i = m_expected.size() - 1; i >= 0 && m_keptBack.isEmpty(); --i) {
+    for (int i = m_expected.size() - 1; i >= 0 && m_notListed.isEmpty(); --i) {
         if (IsWifi(m_expected.at(i)) && !IsReadOnly(m_expected.at(i))) {
-            m_keptBack.append(m_expected.takeAt(i));
+            m_notListed.append(m_expected.takeAt(i));
         }
     }
     if (m_expected.size() < 4) {
@@ -603,9 +625,96 @@ void Tour::ActDeleteOk()
 {
     ClickRow(m_expected.value(1));
     if (m_expected.size() > 1) {
-        m_expected.removeAt(1);
+        m_notListed.prepend(m_expected.takeAt(1));
     }
     ClickAndAnswer("deleteButton", "messageButton1");
+}
+
+void Tour::ActAddDialog()
+{
+    Click("addButton");
+}
+
+void Tour::CheckAddDialog()
+{
+    const QTableWidget *table = FindOf<QTableWidget>("rememberTable");
+    if (table) {
+        Expect(table->isVisible(), "the dialog is open");
+        const QStringList expected = NamesOf(m_notListed);
+        if (NamesOf(table) != expected) {
+            Fail(Differs("the dialog", NamesOf(table), expected));
+        }
+    }
+}
+
+void Tour::ActAddOk()
+{
+    if (m_notListed.isEmpty()) {
+        Fail(QLatin1String("there is no network left to add"));
+        return;
+    }
+    Tick(m_notListed.last());
+    m_expected.append(m_notListed.takeLast());
+    Click("addOkButton");
+}
+
+void Tour::CheckLastSelected()
+{
+    ExpectSelected(m_expected.size() - 1);
+    ExpectButtons(true, false, true);
+}
+
+void Tour::ActNewDialog()
+{
+    Click("newButton");
+}
+
+void Tour::CheckNewDialog()
+{
+    const QComboBox *names = FindOf<QComboBox>("networkNameBox");
+    if (names) {
+        Expect(names->isVisible(), "the dialog is open");
+        Expect(names->count() > 0, "networks in range are offered");
+    }
+}
+
+void Tour::ActNewWrongKey()
+{
+    m_new = Entry(QLatin1String("Summer house"), QLatin1String("1"));
+    Fill("networkNameBox", m_new.name);
+    if (const QComboBox *box = FindOf<QComboBox>("authenticationBox")) {
+        ChooseItem("authenticationBox", box->findText(QLatin1String("WPA2PSK")));
+    }
+    Fill("keyEdit", QLatin1String("short"));
+    Fill("confirmKeyEdit", QLatin1String("short"));
+    ClickAndAnswer("newOkButton", "messageButton1");
+}
+
+void Tour::CheckStillOpen()
+{
+    const QWidget *dialog = Find("newDialog");
+    if (dialog) {
+        Expect(dialog->isVisible(), "the dialog is still open");
+    }
+}
+
+void Tour::ActNewOk()
+{
+    Fill("keyEdit", QLatin1String("sea-and-sand"));
+    Fill("confirmKeyEdit", QLatin1String("sea-and-sand"));
+    m_expected.append(m_new);
+    Click("newOkButton");
+}
+
+void Tour::CheckNew()
+{
+    CheckLastSelected();
+    WLANProfile profile;
+    if (IWLANUIPlugin *wlan = PluginObjects::Wlan()) {
+        wlan->GetProfileByName(m_new.name, &profile);
+    }
+    Expect(profile.authentication == QLatin1String("WPA2PSK") && profile.encryption == QLatin1String("CCMP"),
+           "the Wi-Fi plug-in remembers the new network as it was entered");
 }
 
 void Tour::ActReadOnly()
@@ -640,7 +749,7 @@ void Tour::ActForeignTop()
 void Tour::ActArabic()
 {
     SelectPage(0);
-    ChooseLanguage(QLatin1String("ar"));
+    ChooseItem("languageBox", LanguagePlace(QLatin1String("ar")));
     SelectPage(1);
 }
 
@@ -659,7 +768,7 @@ void Tour::CheckArabic()
 void Tour::ActBack()
 {
     SelectPage(0);
-    ChooseLanguage(m_languageBefore);
+    ChooseItem("languageBox", LanguagePlace(m_languageBefore));
     SelectPage(1);
 }
 

@@ -49,6 +49,7 @@ private:
 
     // What the steps are made of. What fails is kept for the step's report.
     void Fail(const QString &problem);
+    void FailIf(const QString &problem);
     void Expect(bool condition, const char *rule);
     QWidget *Find(const char *name);
     template <class Widget> Widget *FindOf(const char *name);
@@ -56,7 +57,9 @@ private:
     void ClickRow(const PriorityList &entry);
     void PressInList(int key);
     void ClickAndAnswer(const char *name, const char *answer);
-    void ChooseLanguage(const QString &language);
+    void Tick(const PriorityList &entry);
+    void Fill(const char *name, const QString &text);
+    void ChooseItem(const char *name, int item);
     void SelectPage(int row);
     int PlaceOf(const PriorityList &entry) const;
     void MoveExpected(int from, int to);
@@ -81,6 +84,16 @@ private:
     void ActDeleteCancel();
     void CheckNothingSelected();
     void ActDeleteOk();
+    void ActAddDialog();
+    void CheckAddDialog();
+    void ActAddOk();
+    void CheckLastSelected();
+    void ActNewDialog();
+    void CheckNewDialog();
+    void ActNewWrongKey();
+    void CheckStillOpen();
+    void ActNewOk();
+    void CheckNew();
     void ActReadOnly();
     void CheckReadOnly();
     void ActForeignTop();
@@ -104,7 +117,8 @@ private:
     int m_checksLeft;
     QStringList m_failures;
     QList<PriorityList> m_expected;
-    QList<PriorityList> m_keptBack;
+    QList<PriorityList> m_notListed;
+    PriorityList m_new;
     PriorityList m_selected;
     QString m_languageBefore;
     QString m_answer;

@@ -42,6 +42,25 @@ void SendMouse(QEvent::Type type, QWidget *target, const QPoint &position)
     QApplication::sendEvent(target, &event);
 }
 
+/** What a window manager does: a dialog that closes leaves the keyboard to the window before it. */
+void ActivateWindowOf(QWidget *widget)
+{
+    if (QApplication::activeWindow() != widget->window()) {
+        QApplication::setActiveWindow(widget->window());
+    }
+}
+
+/** The toolkit moves the focus for the window system's clicks only. */
+void FocusByClick(QWidget *target)
+{
+    for (QWidget *widget = target; widget; widget = widget->isWindow() ? nullptr : widget->parentWidget()) {
+        if (widget->isEnabled() && (widget->focusPolicy() & Qt::ClickFocus) == Qt::ClickFocus) {
+            widget->setFocus(Qt::MouseFocusReason);
+            return;
+        }
+    }
+}
+
 QString ClickAt(QWidget *widget, const QPoint &position)
 {
     const QString obstacle = Obstacle(widget);
@@ -54,6 +73,8 @@ QString ClickAt(QWidget *widget, const QPoint &position)
         return QString::fromLatin1("%1 is covered").arg(NameOf(widget));
     }
     const QPoint targetPosition = target->mapFrom(window, widget->mapTo(window, position));
+    ActivateWindowOf(widget);
+    FocusByClick(target.data());
     SendMouse(QEvent::MouseButtonPress, target.data(), targetPosition);
     if (target) {
         SendMouse(QEvent::MouseButtonRelease, target.data(), targetPosition);
@@ -61,20 +82,21 @@ QString ClickAt(QWidget *widget, const QPoint &position)
     return QString();
 }
 
-QString SendKey(int key, const QString &text, QWidget *widget)
+QString SendKey(int key, Qt::KeyboardModifiers modifiers, const QString &text, QWidget *widget)
 {
     const QString obstacle = Obstacle(widget);
     if (!obstacle.isNull()) {
         return obstacle;
     }
+    ActivateWindowOf(widget);
     QPointer<QWidget> target = QApplication::focusWidget();
     if (!IsSameOrInside(target.data(), widget)) {
         return QString::fromLatin1("%1 doesn't have the keyboard's focus").arg(NameOf(widget));
     }
-    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
+    QKeyEvent press(QEvent::KeyPress, key, modifiers, text);
     QApplication::sendEvent(target.data(), &press);
     if (target) {
-        QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, text);
+        QKeyEvent release(QEvent::KeyRelease, key, modifiers, text);
         QApplication::sendEvent(target.data(), &release);
     }
     return QString();
@@ -97,15 +119,15 @@ QString UserActions::ClickRow(QTableWidget *table, int row)
     return ClickAt(table->viewport(), table->visualRect(index).center());
 }
 
-QString UserActions::PressKey(int key, QWidget *widget)
+QString UserActions::PressKey(int key, QWidget *widget, Qt::KeyboardModifiers modifiers)
 {
-    return SendKey(key, QString(), widget);
+    return SendKey(key, modifiers, QString(), widget);
 }
 
 QString UserActions::TypeText(const QString &text, QWidget *widget)
 {
     for (int i = 0; i < text.size(); ++i) {
-        const QString problem = SendKey(0, text.mid(i, 1), widget);
+        const QString problem = SendKey(0, Qt::NoModifier, text.mid(i, 1), widget);
         if (!problem.isNull()) {
             return problem;
         }

@@ -2,6 +2,7 @@
 #define USERACTIONS_H
 
 #include <QString>
+#include <Qt>
 
 class QTableWidget;
 class QWidget;
@@ -17,7 +18,7 @@ QString Click(QWidget *widget);
 QString ClickRow(QTableWidget *table, int row);
 
 /** Presses and releases a key where the keyboard's focus is, which has to be widget or in it. */
-QString PressKey(int key, QWidget *widget);
+QString PressKey(int key, QWidget *widget, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 QString TypeText(const QString &text, QWidget *widget);
 
 } // namespace UserActions
