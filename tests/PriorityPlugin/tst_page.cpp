@@ -34,6 +34,8 @@ private slots:
     void placeInTheDialog();
     void showingReloadsTheFile();
     void showingClearsTheSelection();
+    void showingAnOpenPageClearsTheSelection();
+    void addIsAlwaysEnabledAnew();
     void showingAgainBuildsNothingAgain();
     void initAgainBuildsAndLoadsNothing();
     void showingWithoutAParentReloadsNothing();
@@ -259,6 +261,28 @@ void tst_Page::showingClearsTheSelection()
     QVERIFY(!Child("deleteButton")->isEnabled());
     QVERIFY(Child("addButton")->isEnabled());
     QVERIFY(Child("newButton")->isEnabled());
+}
+
+void tst_Page::showingAnOpenPageClearsTheSelection()
+{
+    QTest::mouseClick(m_table->viewport(), Qt::LeftButton, Qt::NoModifier,
+                      m_table->visualRect(m_table->model()->index(1, 0)).center());
+    QRect rect;
+    m_plugin.Setting()->ShowSettingDialog(m_window.data(), rect);
+    QCOMPARE(m_table->currentRow(), -1);
+    QVERIFY(!Child("upButton")->isEnabled());
+    QVERIFY(!Child("deleteButton")->isEnabled());
+}
+
+void tst_Page::addIsAlwaysEnabledAnew()
+{
+    Child("addButton")->setEnabled(false);
+    Child("newButton")->setEnabled(false);
+    QTest::mouseClick(m_table->viewport(), Qt::LeftButton, Qt::NoModifier,
+                      m_table->visualRect(m_table->model()->index(1, 0)).center());
+    QVERIFY(Child("addButton")->isEnabled());
+    QVERIFY(!Child("newButton")->isEnabled());
+    Child("newButton")->setEnabled(true);
 }
 
 void tst_Page::showingAgainBuildsNothingAgain()

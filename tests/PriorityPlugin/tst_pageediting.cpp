@@ -49,7 +49,9 @@ private slots:
     void refreshToAShorterList();
     void refreshAfterAReadErrorShowsWhatWasRead();
     void okAfterMovesKeepsTheOrder();
-    void addAndNewLeaveTheListAlone();
+    void openingADialogLeavesTheListAlone_data();
+    void openingADialogLeavesTheListAlone();
+    void onlyAddRefreshesTheButtons();
     void duplicateEntriesAreShownAndActOnTheFirst();
 
 private:
@@ -593,16 +595,47 @@ void tst_PageEditing::okAfterMovesKeepsTheOrder()
     QCOMPARE(Rows(), QString("B A C"));
 }
 
-void tst_PageEditing::addAndNewLeaveTheListAlone()
+void tst_PageEditing::openingADialogLeavesTheListAlone_data()
 {
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<QString>("dialog");
+    QTest::newRow("Add") << "addButton"
+                         << "addDialog";
+    QTest::newRow("New") << "newButton"
+                         << "newDialog";
+}
+
+void tst_PageEditing::openingADialogLeavesTheListAlone()
+{
+    QFETCH(QString, button);
+    QFETCH(QString, dialog);
     Store(QStringList() << "A"
                         << "B");
     Show();
     const QByteArray before = m_directory->Read("Priority.xml");
-    Click("addButton");
-    Click("newButton");
+    Click(button.toLatin1());
+    QVERIFY(m_window->findChild<QWidget *>(dialog)->isVisible());
     QCOMPARE(m_directory->Read("Priority.xml"), before);
     QCOMPARE(Rows(), QString("A B"));
+    m_window->findChild<QWidget *>(dialog)->close();
+}
+
+void tst_PageEditing::onlyAddRefreshesTheButtons()
+{
+    m_wlan.AddReadOnly("B", "true");
+    Store(QStringList() << "A"
+                        << "B"
+                        << "C");
+    Show();
+    ClickRow(1);
+    QCOMPARE(Buttons(), QString("UD-"));
+    m_wlan.profiles.clear();
+    Click("newButton");
+    m_window->findChild<QWidget *>("newDialog")->close();
+    QCOMPARE(Buttons(), QString("UD-"));
+    Click("addButton");
+    m_window->findChild<QWidget *>("addDialog")->close();
+    QCOMPARE(Buttons(), QString("UDX"));
 }
 
 void tst_PageEditing::duplicateEntriesAreShownAndActOnTheFirst()
