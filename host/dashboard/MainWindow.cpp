@@ -193,7 +193,7 @@ QWidget *MainWindow::CreateHead()
     m_headline = MakeLabel("headlineLabel", 1.5, true);
     m_explanation = MakeLabel("explanationLabel", 1, false);
     m_settingsButton = MakeButton("settingsButton");
-    m_settingsButton->setMinimumHeight(38);
+    m_settingsButton->setMinimumSize(120, 38);
     connect(m_settingsButton, SIGNAL(clicked()), this, SLOT(OpenSettings()));
 
     QWidget *head = new QWidget;

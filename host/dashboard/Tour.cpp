@@ -177,7 +177,7 @@ QImage Composed(QWidget *window)
         const QSize rest = (size - layers.at(i).size()) / 2;
         const QRect place(QPoint(rest.width(), rest.height()), layers.at(i).size());
         if (i > 0) {
-            painter.fillRect(picture.rect(), QColor(0, 0, 0, 60));
+            painter.fillRect(picture.rect(), QColor(0, 0, 0, i == 1 ? 60 : 25));
             painter.fillRect(place.adjusted(-1, -1, 1, 1), QApplication::palette().color(QPalette::Shadow));
         }
         painter.drawImage(place.topLeft(), layers.at(i));

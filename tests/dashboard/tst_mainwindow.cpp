@@ -1,0 +1,336 @@
+#include "Eventually.h"
+
+#include <DashboardLanguage.h>
+#include <HostControl.h>
+#include <MainWindow.h>
+#include <OverviewDelegate.h>
+#include <PluginHost.h>
+#include <PluginObjects.h>
+#include <TemporaryDirectory.h>
+#include <TraceLog.h>
+
+#include <CommonUtils.h>
+#include <IPriorityPlugin.h>
+
+#include <QAction>
+#include <QDialog>
+#include <QDir>
+#include <QDockWidget>
+#include <QFile>
+#include <QLabel>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QtTest>
+
+namespace
+{
+
+PriorityList Entry(const QString &name, const QString &type = QLatin1String("1"))
+{
+    PriorityList entry;
+    entry.name = name;
+    entry.type = type;
+    return entry;
+}
+
+QByteArray ListFile(const QStringList &names)
+{
+    QByteArray items;
+    for (int i = 0; i < names.size(); ++i) {
+        items += "<item name=\"" + names.at(i).toUtf8() + "\" type=\"1\"/>";
+    }
+    return "<zeltdoc><profile>" + items + "</profile></zeltdoc>";
+}
+
+} // namespace
+
+/** The window over the real plug-ins. They live once in a process, so they are loaded for all tests together.
+ */
+class MainWindowTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void cleanupTestCase();
+    void init();
+    void cleanup();
+
+    void NoListIsToldWithAHint();
+    void EntriesAreShownInOrder();
+    void StateOfEachEntryIsShown();
+    void HeadlineNamesTheNetworkInUse();
+    void ChangeThroughThePluginIsShownAtOnce();
+    void ChangeOfTheFileIsFollowed();
+    void DamagedFileIsTold();
+    void SettingsOpenAtTheListsPage();
+    void SettingsOpenOnce();
+    void WindowIsRefreshedWhenSettingsClose();
+    void WindowClosedWithOpenSettingsSparesThePage();
+    void LanguageMenuSwitches();
+    void OpenSettingsFollowTheLanguage();
+    void TraceIsShownOnDemand();
+    void TraceShowsLines();
+    void LongListIsShown();
+
+private:
+    QString Text(const char *name) const
+    {
+        return m_window->findChild<QLabel *>(QLatin1String(name))->text();
+    }
+    QListWidget *List() const { return m_window->findChild<QListWidget *>("overviewList"); }
+    QStringList Names() const;
+    QStringList States() const;
+    QString ListPath() const { return m_directory->FilePath("priority-dashboard/Priority.xml"); }
+    void WriteList(const QByteArray &bytes) const;
+
+    QScopedPointer<TemporaryDirectory> m_directory;
+    QScopedPointer<TraceLog> m_log;
+    QScopedPointer<PluginHost> m_plugins;
+    QScopedPointer<DashboardLanguage> m_language;
+    QScopedPointer<MainWindow> m_window;
+};
+
+QStringList MainWindowTest::Names() const
+{
+    QStringList names;
+    for (int i = 0; i < List()->count(); ++i) {
+        names.append(List()->item(i)->text());
+    }
+    return names;
+}
+
+QStringList MainWindowTest::States() const
+{
+    QStringList states;
+    for (int i = 0; i < List()->count(); ++i) {
+        states.append(List()->item(i)->data(OverviewDelegate::StateTextRole).toString());
+    }
+    return states;
+}
+
+void MainWindowTest::WriteList(const QByteArray &bytes) const
+{
+    m_directory->Write("priority-dashboard/Priority.xml", bytes);
+}
+
+void MainWindowTest::initTestCase()
+{
+    m_directory.reset(new TemporaryDirectory);
+    qputenv("XDG_DATA_HOME", m_directory->Path().toLocal8Bit());
+    m_log.reset(new TraceLog(m_directory->FilePath("dashboard.log")));
+    HostControl::SetPluginLibraryPath(BUILD_DIRECTORY);
+    HostControl::SetLanguageDirectory(QLatin1String(BUILD_DIRECTORY "/share/priority-dashboard/languages"));
+    m_plugins.reset(new PluginHost(BUILD_DIRECTORY, PluginHost::KnownPlugins()));
+    m_plugins->Load();
+    QCOMPARE(m_plugins->Plugins().at(0).state, PluginReady);
+    QCOMPARE(m_plugins->Plugins().at(1).state, PluginReady);
+}
+
+void MainWindowTest::cleanupTestCase()
+{
+    m_plugins->Shutdown();
+}
+
+void MainWindowTest::init()
+{
+    m_directory.reset(new TemporaryDirectory);
+    qputenv("XDG_DATA_HOME", m_directory->Path().toLocal8Bit());
+    QVERIFY(QDir().mkpath(m_directory->FilePath("priority-dashboard")));
+    m_directory->Write("priority-dashboard/WLANNetworks.xml",
+                       "<wlannetworks><network name=\"Home\" signal=\"90\"/><network name=\"Library\" "
+                       "signal=\"50\"/></wlannetworks>");
+    QVERIFY(DashboardLanguage::Apply("en"));
+    m_language.reset(new DashboardLanguage(m_plugins.data(), nullptr));
+    m_window.reset(new MainWindow(m_plugins.data(), m_language.data(), m_log.data()));
+    m_window->show();
+}
+
+void MainWindowTest::cleanup()
+{
+    m_window.reset();
+}
+
+void MainWindowTest::NoListIsToldWithAHint()
+{
+    QVERIFY(!List()->isVisible());
+    QVERIFY(m_window->findChild<QWidget *>("messagePage")->isVisible());
+    QCOMPARE(Text("messageTitle"), QString("Your priority list is empty"));
+    QVERIFY(Text("messageText").contains("Open the settings"));
+    QVERIFY(!m_window->findChild<QWidget *>("problemsLabel")->isVisible());
+    QVERIFY(!QFile::exists(ListPath()));
+}
+
+void MainWindowTest::EntriesAreShownInOrder()
+{
+    WriteList(ListFile(QStringList() << "Office"
+                                     << "Home"
+                                     << "A & B <i>x</i>"));
+    m_window->Refresh();
+    QVERIFY(List()->isVisible());
+    // An ampersand alone ends the reading: what stands before is shown.
+    QCOMPARE(Names(), QStringList() << "Office"
+                                    << "Home");
+    WriteList(ListFile(QStringList() << "Office"
+                                     << "Home"
+                                     << "A &amp; B &lt;i>x&lt;/i>"));
+    m_window->Refresh();
+    QCOMPARE(Names(), QStringList() << "Office"
+                                    << "Home"
+                                    << "A & B <i>x</i>");
+}
+
+void MainWindowTest::StateOfEachEntryIsShown()
+{
+    QList<PriorityList> entries;
+    entries << Entry("Office") << Entry("Home") << Entry("Library") << Entry("Mobile", "2");
+    PluginObjects::Priority()->AddPriorityList(entries);
+    QCOMPARE(States(), QStringList() << "Out of range"
+                                     << "In use now"
+                                     << "In range"
+                                     << "Ready as fallback");
+}
+
+void MainWindowTest::HeadlineNamesTheNetworkInUse()
+{
+    QList<PriorityList> entries;
+    entries << Entry("Office");
+    PluginObjects::Priority()->AddPriorityList(entries);
+    QCOMPARE(Text("headlineLabel"), QString("No network in use"));
+    PluginObjects::Priority()->AddTopPriority(Entry("Mobile", "2"));
+    QCOMPARE(Text("headlineLabel"), QString("In use now: Mobile"));
+    PluginObjects::Priority()->AddTopPriority(Entry("Home"));
+    QCOMPARE(Text("headlineLabel"), QString("In use now: Home"));
+}
+
+void MainWindowTest::ChangeThroughThePluginIsShownAtOnce()
+{
+    PluginObjects::Priority()->AddTopPriority(Entry("Home"));
+    QCOMPARE(Names(), QStringList("Home"));
+    PluginObjects::Priority()->AddTopPriority(Entry("Library"));
+    QCOMPARE(Names(), QStringList() << "Library"
+                                    << "Home");
+}
+
+void MainWindowTest::ChangeOfTheFileIsFollowed()
+{
+    for (int i = 0; i < 2; ++i) {
+        const QString name = QString("Written %1").arg(i);
+        QFile::remove(ListPath());
+        WriteList(ListFile(QStringList(name)));
+        QVERIFY(Eventually([this, name]() { return Names() == QStringList(name); }));
+    }
+}
+
+void MainWindowTest::DamagedFileIsTold()
+{
+    WriteList("<zeltdoc><item name=\"Home\" type=\"1\"/><item");
+    m_window->Refresh();
+    QVERIFY(m_window->findChild<QWidget *>("problemsLabel")->isVisible());
+    QVERIFY(Text("problemsLabel").contains("damaged"));
+    QCOMPARE(Names(), QStringList("Home"));
+    WriteList(ListFile(QStringList("Home")));
+    m_window->Refresh();
+    QVERIFY(!m_window->findChild<QWidget *>("problemsLabel")->isVisible());
+}
+
+void MainWindowTest::SettingsOpenAtTheListsPage()
+{
+    PluginObjects::Priority()->AddTopPriority(Entry("Home"));
+    QTest::mouseClick(m_window->findChild<QPushButton *>("settingsButton"), Qt::LeftButton);
+    const QDialog *dialog = m_window->findChild<QDialog *>("settingsDialog");
+    QVERIFY(dialog && dialog->isVisible() && dialog->isModal());
+    const QListWidget *pages = dialog->findChild<QListWidget *>("pageList");
+    QCOMPARE(pages->count(), 2);
+    QCOMPARE(pages->item(0)->text(), QString("General"));
+    QCOMPARE(pages->currentItem()->text(), QString("Network priority"));
+    const QTableWidget *table = dialog->findChild<QTableWidget *>("priorityTable");
+    QVERIFY(table && table->isVisible());
+    QCOMPARE(table->rowCount(), 1);
+}
+
+void MainWindowTest::SettingsOpenOnce()
+{
+    m_window->OpenSettings();
+    m_window->OpenSettings();
+    QCOMPARE(m_window->findChildren<QDialog *>("settingsDialog").size(), 1);
+}
+
+void MainWindowTest::WindowIsRefreshedWhenSettingsClose()
+{
+    m_window->OpenSettings();
+    m_directory->Write("priority-dashboard/WLANNetworks.xml", "<wlannetworks/>");
+    WriteList(ListFile(QStringList("Home")));
+    m_window->findChild<QDialog *>("settingsDialog")->reject();
+    QCOMPARE(Names(), QStringList("Home"));
+    QCOMPARE(States(), QStringList("Out of range"));
+}
+
+void MainWindowTest::WindowClosedWithOpenSettingsSparesThePage()
+{
+    m_window->OpenSettings();
+    QVERIFY(m_window->findChild<QWidget *>("priorityPage"));
+    m_window.reset(new MainWindow(m_plugins.data(), m_language.data(), m_log.data()));
+    m_window->show();
+    m_window->OpenSettings();
+    const QWidget *page = m_window->findChild<QWidget *>("priorityPage");
+    QVERIFY(page && page->isVisible());
+}
+
+void MainWindowTest::LanguageMenuSwitches()
+{
+    PluginObjects::Priority()->AddTopPriority(Entry("Home"));
+    QAction *arabic = m_window->findChild<QAction *>("languageAction_ar");
+    QVERIFY(arabic && !arabic->isChecked());
+    arabic->trigger();
+    QVERIFY(arabic->isChecked());
+    QCOMPARE(m_window->layoutDirection(), Qt::RightToLeft);
+    QVERIFY(Text("headlineLabel").contains(QString::fromUtf8("قيد الاستخدام")));
+    QVERIFY(States().first().contains(QString::fromUtf8("قيد الاستخدام")));
+    QCOMPARE(m_window->findChild<QPushButton *>("languageButton")->text(), QString::fromUtf8("العربية"));
+}
+
+void MainWindowTest::OpenSettingsFollowTheLanguage()
+{
+    m_window->OpenSettings();
+    QVERIFY(m_language->Switch("he"));
+    const QListWidget *pages = m_window->findChild<QListWidget *>("pageList");
+    QCOMPARE(pages->item(0)->text(), QString::fromUtf8("כללי"));
+    QVERIFY(pages->item(1)->text() != QString("Network priority"));
+}
+
+void MainWindowTest::TraceIsShownOnDemand()
+{
+    QDockWidget *trace = m_window->findChild<QDockWidget *>("tracePanel");
+    QPushButton *button = m_window->findChild<QPushButton *>("traceButton");
+    QVERIFY(!trace->isVisible());
+    QTest::mouseClick(button, Qt::LeftButton);
+    QVERIFY(trace->isVisible());
+    trace->close();
+    QVERIFY(!button->isChecked());
+}
+
+void MainWindowTest::TraceShowsLines()
+{
+    qDebug("a line for the panel");
+    QPlainTextEdit *text = m_window->findChild<QPlainTextEdit *>("traceText");
+    QVERIFY(Eventually([text]() { return text->toPlainText().contains("a line for the panel"); }));
+    QVERIFY(text->isReadOnly());
+    QVERIFY(text->maximumBlockCount() > 0);
+}
+
+void MainWindowTest::LongListIsShown()
+{
+    QStringList names;
+    for (int i = 0; i < 1000; ++i) {
+        names.append(QString("Network %1").arg(i));
+    }
+    WriteList(ListFile(names));
+    m_window->Refresh();
+    QCOMPARE(Names(), names);
+}
+
+QTEST_MAIN(MainWindowTest)
+#include "tst_mainwindow.moc"

@@ -1,0 +1,115 @@
+#include <DashboardLanguage.h>
+#include <HostControl.h>
+#include <MainWindow.h>
+#include <PluginHost.h>
+#include <TemporaryDirectory.h>
+#include <TraceLog.h>
+
+#include <QDialog>
+#include <QLabel>
+#include <QListWidget>
+#include <QtTest>
+
+namespace
+{
+
+QList<KnownPlugin> KnownAs(const QString &priorityFolder, const QString &wlanFolder)
+{
+    QList<KnownPlugin> known = PluginHost::KnownPlugins();
+    known[0].folder = priorityFolder;
+    known[1].folder = wlanFolder;
+    return known;
+}
+
+} // namespace
+
+/** The window when plug-ins are missing or broken. */
+class MainWindowProblemsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void MissingListIsExplainedInItsPlace_data();
+    void MissingListIsExplainedInItsPlace();
+    void SettingsExplainItToo();
+    void OtherMissingPluginIsToldAboveTheList();
+
+private:
+    TemporaryDirectory m_directory;
+};
+
+void MainWindowProblemsTest::init()
+{
+    qputenv("XDG_DATA_HOME", m_directory.Path().toLocal8Bit());
+    HostControl::SetLanguageDirectory(QLatin1String(BUILD_DIRECTORY "/share/priority-dashboard/languages"));
+    QVERIFY(DashboardLanguage::Apply("en"));
+}
+
+void MainWindowProblemsTest::MissingListIsExplainedInItsPlace_data()
+{
+    QTest::addColumn<QString>("folder");
+    QTest::addColumn<QString>("told");
+    QTest::newRow("missing") << "Absent"
+                             << "Absent/libAbsent.so is not there";
+    QTest::newRow("refused") << "WrongVerification"
+                             << "another dashboard";
+    QTest::newRow("init fails") << "InitFails"
+                                << "can't work";
+    QTest::newRow("hands out nothing") << "QueryNull"
+                                       << "doesn't hand out the list";
+    QTest::newRow("hands out something else") << "Working"
+                                              << "doesn't hand out the list";
+}
+
+void MainWindowProblemsTest::MissingListIsExplainedInItsPlace()
+{
+    QFETCH(QString, folder);
+    QFETCH(QString, told);
+    TraceLog log(m_directory.FilePath("dashboard.log"));
+    PluginHost plugins(BUILD_DIRECTORY "/tests/fixtures", KnownAs(folder, "QueryFails"));
+    plugins.Load();
+    DashboardLanguage language(&plugins, nullptr);
+    MainWindow window(&plugins, &language, &log);
+    window.show();
+    const QLabel *message = window.findChild<QLabel *>("messageText");
+    QVERIFY(message->isVisible());
+    QVERIFY2(message->text().contains(told), qPrintable(message->text()));
+    QVERIFY(!window.findChild<QWidget *>("overviewList")->isVisible());
+}
+
+void MainWindowProblemsTest::SettingsExplainItToo()
+{
+    TraceLog log(m_directory.FilePath("dashboard.log"));
+    PluginHost plugins(BUILD_DIRECTORY "/tests/fixtures", KnownAs("Absent", "InitFails"));
+    plugins.Load();
+    DashboardLanguage language(&plugins, nullptr);
+    MainWindow window(&plugins, &language, &log);
+    window.show();
+    window.OpenSettings();
+    QDialog *dialog = window.findChild<QDialog *>("settingsDialog");
+    QListWidget *pages = dialog->findChild<QListWidget *>("pageList");
+    QCOMPARE(pages->count(), 3);
+    QCOMPARE(pages->currentRow(), 1);
+    const QLabel *problem = dialog->findChild<QLabel *>("pageProblem");
+    QVERIFY(problem && problem->text().contains("is not there"));
+    dialog->accept();
+    QVERIFY(!dialog->isVisible());
+}
+
+void MainWindowProblemsTest::OtherMissingPluginIsToldAboveTheList()
+{
+    TraceLog log(m_directory.FilePath("dashboard.log"));
+    PluginHost plugins(BUILD_DIRECTORY "/tests/fixtures", KnownAs("Absent", "InitFails"));
+    plugins.Load();
+    DashboardLanguage language(&plugins, nullptr);
+    MainWindow window(&plugins, &language, &log);
+    window.show();
+    const QLabel *problems = window.findChild<QLabel *>("problemsLabel");
+    QVERIFY(problems->isVisible());
+    QVERIFY(problems->text().contains("libInitFails.so"));
+    QVERIFY(!problems->text().contains("libAbsent.so"));
+}
+
+QTEST_MAIN(MainWindowProblemsTest)
+#include "tst_mainwindowproblems.moc"

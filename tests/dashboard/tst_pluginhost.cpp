@@ -1,0 +1,340 @@
+#include <HostControl.h>
+#include <PluginHost.h>
+#include <Startup.h>
+#include <TemporaryDirectory.h>
+#include <TraceCapture.h>
+
+#include <QDir>
+#include <QFile>
+#include <QtTest>
+
+Q_DECLARE_METATYPE(PluginState)
+
+namespace
+{
+
+const char fixtureDirectory[] = BUILD_DIRECTORY "/tests/fixtures";
+
+KnownPlugin Known(const QString &folder)
+{
+    KnownPlugin known;
+    known.folder = folder;
+    known.classId = QLatin1String("ID-OF-") + folder.toUpper();
+    known.titleId = QLatin1String("IDS_PLUGIN_WLAN");
+    return known;
+}
+
+QList<KnownPlugin> Known(const QStringList &folders)
+{
+    QList<KnownPlugin> known;
+    for (int i = 0; i < folders.size(); ++i) {
+        known.append(Known(folders.at(i)));
+    }
+    return known;
+}
+
+bool IsMapped(const QString &library)
+{
+    QFile maps("/proc/self/maps");
+    return maps.open(QIODevice::ReadOnly) && maps.readAll().contains(library.toLocal8Bit());
+}
+
+} // namespace
+
+class PluginHostTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+
+    void StateTellsHowFarItCame_data();
+    void StateTellsHowFarItCame();
+    void FileThatIsNoLibraryIsToldApart_data();
+    void FileThatIsNoLibraryIsToldApart();
+    void RefusalTellsFoundAndExpected();
+    void ProblemIsToldInEveryLanguage();
+    void PluginThatIsNotReadyIsAskedNothing_data();
+    void PluginThatIsNotReadyIsAskedNothing();
+    void LibraryOfRefusedPluginIsUnloaded_data();
+    void LibraryOfRefusedPluginIsUnloaded();
+    void BrokenPluginsDoNotHinderOthers();
+
+    void ClassIdIsComparedWithoutCase_data();
+    void ClassIdIsComparedWithoutCase();
+    void LookUpYieldsNull_data();
+    void LookUpYieldsNull();
+    void NumberIsHandedOn();
+    void HostIsTheContainerWhilePluginsLive();
+
+    void EventReachesReadyPluginsWithZeros();
+    void ShutdownGoesBackwards();
+    void ShutdownHappensOnce();
+    void NothingIsHandedOutAfterShutdown();
+
+    void KnownPluginsHaveTheirFixedIds();
+};
+
+void PluginHostTest::initTestCase()
+{
+    HostControl::SetLanguageDirectory(QLatin1String(BUILD_DIRECTORY "/share/priority-dashboard/languages"));
+    QVERIFY(HostControl::SetLanguage("en"));
+}
+
+void PluginHostTest::StateTellsHowFarItCame_data()
+{
+    QTest::addColumn<QString>("folder");
+    QTest::addColumn<PluginState>("state");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("missing") << "Absent" << PluginMissing << "is not there";
+    QTest::newRow("no verification") << "NoVerification" << PluginNoVerification << "doesn't say";
+    QTest::newRow("wrong verification") << "WrongVerification" << PluginRefused << "another dashboard";
+    QTest::newRow("no entry point") << "NoEntryPoint" << PluginNoEntryPoint << "no entry point";
+    QTest::newRow("null instance") << "NullInstance" << PluginNullInstance << "no object";
+    QTest::newRow("not a plug-in") << "NotAPlugin" << PluginNotAPlugin << "not a plug-in";
+    QTest::newRow("init fails") << "InitFails" << PluginInitFailed << "can't work";
+    QTest::newRow("ready") << "Working" << PluginReady << "";
+    QTest::newRow("ready without window") << "BaseOnly" << PluginReady << "";
+}
+
+void PluginHostTest::StateTellsHowFarItCame()
+{
+    QFETCH(QString, folder);
+    QFETCH(QString, text);
+    const TraceCapture capture;
+    PluginHost host(fixtureDirectory, Known(QStringList(folder)));
+    host.Load();
+    const PluginHost::Plugin plugin = host.Plugins().first();
+    QTEST(plugin.state, "state");
+    const QString problem = PluginHost::ProblemText(plugin);
+    if (text.isEmpty()) {
+        QCOMPARE(problem, QString());
+        return;
+    }
+    QVERIFY2(problem.contains(text), qPrintable(problem));
+    QVERIFY2(problem.contains(plugin.file), qPrintable(problem));
+    QCOMPARE(plugin.file, fixtureDirectory + QString("/plugins/%1/lib%1.so").arg(folder));
+}
+
+void PluginHostTest::FileThatIsNoLibraryIsToldApart_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("empty") << QByteArray("");
+    QTest::newRow("text") << QByteArray("not a library\n");
+    QTest::newRow("cut off") << QByteArray("\177ELF\2\1\1\0", 8);
+}
+
+void PluginHostTest::FileThatIsNoLibraryIsToldApart()
+{
+    QFETCH(QByteArray, content);
+    const TemporaryDirectory directory;
+    QVERIFY(QDir().mkpath(directory.FilePath("plugins/Broken")));
+    directory.Write("plugins/Broken/libBroken.so", content);
+    PluginHost host(directory.Path(), Known(QStringList("Broken")));
+    host.Load();
+    const PluginHost::Plugin plugin = host.Plugins().first();
+    QCOMPARE(plugin.state, PluginNotALibrary);
+    QVERIFY(!plugin.detail.isEmpty());
+    QVERIFY(PluginHost::ProblemText(plugin).contains(plugin.detail));
+}
+
+void PluginHostTest::RefusalTellsFoundAndExpected()
+{
+    PluginHost host(fixtureDirectory, Known(QStringList("WrongVerification")));
+    host.Load();
+    const QString problem = PluginHost::ProblemText(host.Plugins().first());
+    QVERIFY2(problem.contains("version=4.8.7, debug=true, buildkey=something else"), qPrintable(problem));
+    QVERIFY2(problem.contains("version=4.6.2, debug=false, buildkey=macosx macx g++-4 full-config"),
+             qPrintable(problem));
+}
+
+void PluginHostTest::ProblemIsToldInEveryLanguage()
+{
+    PluginHost host(fixtureDirectory, Known(QStringList("Absent")));
+    host.Load();
+    QSet<QString> texts;
+    const QStringList languages = HostControl::LanguageNames();
+    for (int i = 0; i < languages.size(); ++i) {
+        QVERIFY(HostControl::SetLanguage(languages.at(i)));
+        texts.insert(PluginHost::ProblemText(host.Plugins().first()));
+    }
+    QVERIFY(HostControl::SetLanguage("en"));
+    QCOMPARE(texts.size(), 3);
+}
+
+void PluginHostTest::PluginThatIsNotReadyIsAskedNothing_data()
+{
+    QTest::addColumn<QString>("folder");
+    QTest::addColumn<QStringList>("calls");
+    QTest::newRow("no verification") << "NoVerification" << QStringList();
+    QTest::newRow("wrong verification") << "WrongVerification" << QStringList();
+    QTest::newRow("init fails") << "InitFails"
+                                << (QStringList() << "InitFails made"
+                                                  << "InitFails Init"
+                                                  << "InitFails deleted");
+}
+
+void PluginHostTest::PluginThatIsNotReadyIsAskedNothing()
+{
+    QFETCH(QString, folder);
+    const TraceCapture capture;
+    {
+        PluginHost host(fixtureDirectory, Known(QStringList(folder)));
+        host.Load();
+        QVERIFY(!host.GetPluginObject(Known(folder).classId, 4098));
+        host.Notify(320);
+    }
+    QTEST(capture.Lines(), "calls");
+}
+
+void PluginHostTest::LibraryOfRefusedPluginIsUnloaded_data()
+{
+    QTest::addColumn<QString>("folder");
+    QTest::newRow("no verification") << "NoVerification";
+    QTest::newRow("wrong verification") << "WrongVerification";
+    QTest::newRow("no entry point") << "NoEntryPoint";
+}
+
+void PluginHostTest::LibraryOfRefusedPluginIsUnloaded()
+{
+    QFETCH(QString, folder);
+    PluginHost host(fixtureDirectory, Known(QStringList(folder)));
+    host.Load();
+    QVERIFY(!IsMapped("lib" + folder + ".so"));
+}
+
+void PluginHostTest::BrokenPluginsDoNotHinderOthers()
+{
+    const TraceCapture capture;
+    PluginHost host(fixtureDirectory, Known(QStringList() << "Absent"
+                                                          << "WrongVerification"
+                                                          << "InitFails"
+                                                          << "Working"));
+    host.Load();
+    QCOMPARE(host.Plugins().last().state, PluginReady);
+    QVERIFY(host.GetPluginObject("ID-OF-WORKING", 1));
+}
+
+void PluginHostTest::ClassIdIsComparedWithoutCase_data()
+{
+    QTest::addColumn<QString>("classId");
+    QTest::newRow("as known") << "ID-OF-WORKING";
+    QTest::newRow("lower case") << "id-of-working";
+    QTest::newRow("mixed") << "Id-Of-Working";
+}
+
+void PluginHostTest::ClassIdIsComparedWithoutCase()
+{
+    QFETCH(QString, classId);
+    const TraceCapture capture;
+    PluginHost host(fixtureDirectory, Known(QStringList("Working")));
+    host.Load();
+    QCOMPARE(host.GetPluginObject(classId, 4098), host.Plugins().first().root.data());
+}
+
+void PluginHostTest::LookUpYieldsNull_data()
+{
+    QTest::addColumn<QString>("classId");
+    QTest::newRow("unknown id") << "ID-OF-NOBODY";
+    QTest::newRow("empty id") << "";
+    QTest::newRow("not ready") << "ID-OF-INITFAILS";
+    QTest::newRow("the plug-in says false") << "ID-OF-QUERYFAILS";
+    QTest::newRow("the plug-in says true and hands out nothing") << "ID-OF-QUERYNULL";
+}
+
+void PluginHostTest::LookUpYieldsNull()
+{
+    QFETCH(QString, classId);
+    const TraceCapture capture;
+    PluginHost host(fixtureDirectory, Known(QStringList() << "InitFails"
+                                                          << "QueryFails"
+                                                          << "QueryNull"));
+    host.Load();
+    QVERIFY(!host.GetPluginObject(classId, 4098));
+}
+
+void PluginHostTest::NumberIsHandedOn()
+{
+    TraceCapture capture;
+    PluginHost host(fixtureDirectory, Known(QStringList("Working")));
+    host.Load();
+    capture.Clear();
+    host.GetPluginObject("ID-OF-WORKING", 4102);
+    QCOMPARE(capture.Lines(), QStringList("Working QueryInterface 4102"));
+}
+
+void PluginHostTest::HostIsTheContainerWhilePluginsLive()
+{
+    const TraceCapture capture;
+    PluginHost host(fixtureDirectory, Known(QStringList("Working")));
+    QVERIFY(!Startup::GetPluginContainer());
+    host.Load();
+    QCOMPARE(Startup::GetPluginContainer(), static_cast<IPluginContainer *>(&host));
+    host.Shutdown();
+    QVERIFY(!Startup::GetPluginContainer());
+}
+
+void PluginHostTest::EventReachesReadyPluginsWithZeros()
+{
+    TraceCapture capture;
+    PluginHost host(fixtureDirectory, Known(QStringList() << "Working"
+                                                          << "InitFails"
+                                                          << "BaseOnly"
+                                                          << "QueryNull"));
+    host.Load();
+    capture.Clear();
+    host.Notify(320);
+    QCOMPARE(capture.Lines(), QStringList() << "Working Notify 320 0 0"
+                                            << "QueryNull Notify 320 0 0");
+}
+
+void PluginHostTest::ShutdownGoesBackwards()
+{
+    TraceCapture capture;
+    PluginHost host(fixtureDirectory, Known(QStringList() << "Working"
+                                                          << "InitFails"
+                                                          << "QueryNull"));
+    host.Load();
+    capture.Clear();
+    host.Shutdown();
+    QCOMPARE(capture.Lines(), QStringList() << "QueryNull OnDestroy"
+                                            << "Working OnDestroy"
+                                            << "QueryNull deleted"
+                                            << "Working deleted");
+}
+
+void PluginHostTest::ShutdownHappensOnce()
+{
+    TraceCapture capture;
+    {
+        PluginHost host(fixtureDirectory, Known(QStringList("Working")));
+        host.Load();
+        host.Shutdown();
+        capture.Clear();
+        host.Shutdown();
+    }
+    QCOMPARE(capture.Lines(), QStringList());
+}
+
+void PluginHostTest::NothingIsHandedOutAfterShutdown()
+{
+    const TraceCapture capture;
+    PluginHost host(fixtureDirectory, Known(QStringList("Working")));
+    host.Load();
+    host.Shutdown();
+    QVERIFY(!host.GetPluginObject("ID-OF-WORKING", 4098));
+    QCOMPARE(host.Plugins().first().state, PluginClosed);
+}
+
+void PluginHostTest::KnownPluginsHaveTheirFixedIds()
+{
+    const QList<KnownPlugin> known = PluginHost::KnownPlugins();
+    QCOMPARE(known.size(), 2);
+    QCOMPARE(known.at(0).folder, QString("PriorityPlugin"));
+    QCOMPARE(known.at(0).classId, QString("D78C8E0F-7A3F-4f51-87E3-753F0F7F0E05"));
+    QCOMPARE(known.at(1).folder, QString("WLANStored"));
+    QCOMPARE(known.at(1).classId, QString("7545FB07-0E7A-4F27-A449-872DB09C106D"));
+}
+
+QTEST_MAIN(PluginHostTest)
+#include "tst_pluginhost.moc"

@@ -1,0 +1,221 @@
+#include <TemporaryDirectory.h>
+
+#include <QDir>
+#include <QImage>
+#include <QProcess>
+#include <QtTest>
+
+namespace
+{
+
+struct Outcome {
+    int status;
+    QString out;
+    QString err;
+};
+
+/** Runs the program as from a terminal; environment holds "NAME=value", or "NAME=" to take one away. */
+Outcome RunDashboard(const QStringList &arguments, const QStringList &environment)
+{
+    QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
+    for (int i = 0; i < environment.size(); ++i) {
+        const QString name = environment.at(i).section('=', 0, 0);
+        const QString value = environment.at(i).section('=', 1);
+        if (value.isEmpty()) {
+            variables.remove(name);
+        } else {
+            variables.insert(name, value);
+        }
+    }
+    QProcess process;
+    process.setProcessEnvironment(variables);
+    process.start(BUILD_DIRECTORY "/bin/dashboard", arguments);
+    Outcome outcome;
+    const bool ended = process.waitForFinished(120000);
+    outcome.status = ended && process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+    outcome.out = QString::fromLocal8Bit(process.readAllStandardOutput());
+    outcome.err = QString::fromLocal8Bit(process.readAllStandardError());
+    return outcome;
+}
+
+QString LastLine(const QString &text)
+{
+    return text.trimmed().section('\n', -1);
+}
+
+} // namespace
+
+/** The program itself, as it is started from a terminal. */
+class ProgramTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void HelpAndVersionArePrinted_data();
+    void HelpAndVersionArePrinted();
+    void WhatCannotBeFollowedIsSaidInOneLine_data();
+    void WhatCannotBeFollowedIsSaidInOneLine();
+    void MissingDisplayIsSaidInOneLine();
+
+    void TourSucceeds();
+    void TourSucceedsFromRightToLeft();
+    void TourLeavesTheUsersDataAlone();
+    void TourKeepsItsTracesOutOfTheTerminal();
+    void TourFailsWhenStepsHaveNoEffect_data();
+    void TourFailsWhenStepsHaveNoEffect();
+    void TourRefusesForeignContent();
+
+private:
+    QStringList Environment() const { return QStringList("XDG_DATA_HOME=" + m_directory->FilePath("user")); }
+    QString TourPath() const { return m_directory->FilePath("tour"); }
+
+    QScopedPointer<TemporaryDirectory> m_directory;
+};
+
+void ProgramTest::init()
+{
+    m_directory.reset(new TemporaryDirectory);
+}
+
+void ProgramTest::HelpAndVersionArePrinted_data()
+{
+    QTest::addColumn<QString>("option");
+    QTest::addColumn<QString>("start");
+    QTest::newRow("help") << "--help"
+                          << "Usage: dashboard";
+    QTest::newRow("version") << "--version"
+                             << "dashboard ";
+}
+
+void ProgramTest::HelpAndVersionArePrinted()
+{
+    QFETCH(QString, option);
+    QFETCH(QString, start);
+    const Outcome outcome = RunDashboard(QStringList(option), Environment() << "QT_QPA_PLATFORM=");
+    QCOMPARE(outcome.status, 0);
+    QVERIFY(outcome.out.startsWith(start));
+    QCOMPARE(outcome.err, QString());
+}
+
+void ProgramTest::WhatCannotBeFollowedIsSaidInOneLine_data()
+{
+    QTest::addColumn<QStringList>("given");
+    QTest::addColumn<QString>("told");
+    QTest::newRow("unknown option") << QStringList("--fast") << "--fast";
+    QTest::newRow("missing value") << QStringList("--tour") << "--tour";
+    QTest::newRow("unknown language") << (QStringList() << "--language"
+                                                        << "tlh")
+                                      << "\"tlh\"; there are: ar, en, he";
+    QTest::newRow("library path that is not there") << (QStringList() << "--library-path"
+                                                                      << "/absent/of course")
+                                                    << "/absent/of course";
+    QTest::newRow("tour in a place where nothing can be made") << (QStringList() << "--tour"
+                                                                                 << "/dev/null/tour")
+                                                               << "/dev/null/tour";
+}
+
+void ProgramTest::WhatCannotBeFollowedIsSaidInOneLine()
+{
+    QFETCH(QStringList, given);
+    QFETCH(QString, told);
+    const Outcome outcome = RunDashboard(given, Environment());
+    QCOMPARE(outcome.status, 2);
+    QVERIFY2(outcome.err.startsWith("dashboard: "), qPrintable(outcome.err));
+    QVERIFY2(outcome.err.contains(told), qPrintable(outcome.err));
+    QCOMPARE(outcome.err.count('\n'), 1);
+    QCOMPARE(outcome.out, QString());
+}
+
+void ProgramTest::MissingDisplayIsSaidInOneLine()
+{
+    const Outcome outcome = RunDashboard(QStringList(), Environment() << "QT_QPA_PLATFORM="
+                                                                      << "DISPLAY="
+                                                                      << "WAYLAND_DISPLAY=");
+    QCOMPARE(outcome.status, 1);
+    QVERIFY(outcome.err.contains("no display"));
+    QCOMPARE(outcome.err.count('\n'), 1);
+}
+
+void ProgramTest::TourSucceeds()
+{
+    const Outcome outcome =
+        RunDashboard(QStringList() << "--tour" << TourPath(), Environment() << "QT_QPA_PLATFORM=");
+    QVERIFY2(outcome.status == 0, qPrintable(outcome.out + outcome.err));
+    QVERIFY(!outcome.out.contains("FAILED"));
+    const QRegExp last("tour: (\\d+) steps, 0 failed");
+    QVERIFY2(last.exactMatch(LastLine(outcome.out)), qPrintable(outcome.out));
+    const int steps = last.cap(1).toInt();
+    QVERIFY(steps > 15);
+    const QDir directory(TourPath());
+    for (int i = 1; i <= steps; ++i) {
+        const QString number = QString("%1").arg(i, 2, 10, QChar('0'));
+        const QStringList pictures = directory.entryList(QStringList(number + "-*.png"));
+        QVERIFY2(!pictures.isEmpty(), qPrintable(number));
+        QVERIFY(!QImage(directory.filePath(pictures.first())).isNull());
+        QVERIFY(outcome.out.contains(QString("step %1: ").arg(i)));
+    }
+    QVERIFY(outcome.out.contains("\n   1. Home (Wi-Fi)\n"));
+}
+
+void ProgramTest::TourSucceedsFromRightToLeft()
+{
+    const Outcome outcome = RunDashboard(QStringList() << "--tour" << TourPath() << "--language"
+                                                       << "he",
+                                         Environment());
+    QVERIFY2(outcome.status == 0, qPrintable(outcome.out + outcome.err));
+}
+
+void ProgramTest::TourLeavesTheUsersDataAlone()
+{
+    const Outcome outcome = RunDashboard(QStringList() << "--tour" << TourPath(), Environment());
+    QCOMPARE(outcome.status, 0);
+    QVERIFY(!QDir(m_directory->FilePath("user")).exists());
+    QVERIFY(QFile::exists(TourPath() + "/data/priority-dashboard/Priority.xml"));
+}
+
+void ProgramTest::TourKeepsItsTracesOutOfTheTerminal()
+{
+    const Outcome outcome = RunDashboard(QStringList() << "--tour" << TourPath(), Environment());
+    QCOMPARE(outcome.err, QString());
+    QVERIFY(!outcome.out.contains("Entered"));
+    const QString log("tour/data/priority-dashboard/dashboard.log");
+    QVERIFY(m_directory->Read(log).contains("Entered"));
+    QVERIFY(!(QFile::permissions(m_directory->FilePath(log)) & (QFile::ReadGroup | QFile::ReadOther)));
+}
+
+void ProgramTest::TourFailsWhenStepsHaveNoEffect_data()
+{
+    QTest::addColumn<QString>("libraryPath");
+    QTest::addColumn<QString>("told");
+    QTest::newRow("the priority plug-in is missing") << BUILD_DIRECTORY "/tests/fixtures"
+                                                     << "libPriorityPlugin.so is not there";
+    QTest::newRow("the priority plug-in does nothing") << BUILD_DIRECTORY "/tests/fixtures/Idle"
+                                                       << "";
+}
+
+void ProgramTest::TourFailsWhenStepsHaveNoEffect()
+{
+    QFETCH(QString, libraryPath);
+    QFETCH(QString, told);
+    const Outcome outcome = RunDashboard(
+        QStringList() << "--tour" << TourPath() << "--library-path" << libraryPath, Environment());
+    QCOMPARE(outcome.status, 1);
+    QVERIFY(outcome.out.contains("FAILED: "));
+    QVERIFY2(QRegExp("tour: \\d+ steps, [1-9]\\d* failed").exactMatch(LastLine(outcome.out)),
+             qPrintable(outcome.out));
+    QVERIFY2(outcome.err.contains(told), qPrintable(outcome.err));
+}
+
+void ProgramTest::TourRefusesForeignContent()
+{
+    QVERIFY(QDir().mkpath(TourPath()));
+    m_directory->Write("tour/03-mine.png", "mine");
+    const Outcome outcome = RunDashboard(QStringList() << "--tour" << TourPath(), Environment());
+    QCOMPARE(outcome.status, 2);
+    QVERIFY(outcome.err.contains("03-mine.png"));
+    QCOMPARE(m_directory->Read("tour/03-mine.png"), QByteArray("mine"));
+}
+
+QTEST_GUILESS_MAIN(ProgramTest)
+#include "tst_program.moc"
