@@ -39,7 +39,10 @@ RememberListItem *RowItem(const QTableWidget *table, int row)
 class FocusFollower : public QObject
 {
 public:
-    explicit FocusFollower(QTableWidget *table) : QObject(table), m_table(table) {}
+    FocusFollower(QTableWidget *table, QCheckBox *checkBox) : QObject(checkBox), m_table(table)
+    {
+        checkBox->installEventFilter(this);
+    }
 
     bool eventFilter(QObject *watched, QEvent *event) override
     {
@@ -214,9 +217,8 @@ void QAddPriorityWidget::MakeRowsReachable()
     if (!m_okButton || !m_cancelButton) {
         return;
     }
-    FocusFollower *follower = new FocusFollower(m_table);
     for (int row = 0; row < m_table->rowCount(); ++row) {
-        RowItem(m_table, row)->GetChechItem()->installEventFilter(follower);
+        new FocusFollower(m_table, RowItem(m_table, row)->GetChechItem());
     }
     // The rows are younger than the buttons and would come after them.
     setTabOrder(RowItem(m_table, m_table->rowCount() - 1)->GetChechItem(), m_okButton);

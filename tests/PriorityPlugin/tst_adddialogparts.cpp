@@ -35,6 +35,7 @@ private slots:
     void releaseDeletesNothing();
     void releasedDialogSendsNothing();
     void releasedTableIsNotRead();
+    void releasedPageGetsNothing();
     void releasedListHidesNothing();
     void frameWithoutBody();
     void bodyWithoutFrame();
@@ -230,6 +231,18 @@ void tst_AddDialogParts::releasedTableIsNotRead()
     frame.SetMsgParnet(m_page.data());
     TraceCapture trace;
     Body(frame)->SendPriorityList();
+    QCOMPARE(trace.Lines(), QStringList());
+}
+
+void tst_AddDialogParts::releasedPageGetsNothing()
+{
+    QAddPriorityWidget body(nullptr, Qt::WindowFlags());
+    body.SetMsgParnet(m_page.data());
+    body.release();
+    body.CreateLayoput();
+    body.CreateAllWidget();
+    TraceCapture trace;
+    body.SendPriorityList();
     QCOMPARE(trace.Lines(), QStringList());
 }
 
