@@ -40,10 +40,9 @@ QLabel *AddText(const char *name, QVBoxLayout *layout)
     return label;
 }
 
-QString Line(const QString &caption, const QString &value)
+QString Line(const QString &text)
 {
-    return QString::fromLatin1("%1 %2<br>")
-        .arg(ToolkitCompat::PlainTextAsHtml(caption), ToolkitCompat::PlainTextAsHtml(value));
+    return ToolkitCompat::PlainTextAsHtml(text) + QLatin1String("<br>");
 }
 
 } // namespace
@@ -117,15 +116,16 @@ void GeneralPage::Retranslate()
     const QList<PluginHost::Plugin> plugins = m_plugins->Plugins();
     for (int i = 0; i < plugins.size(); ++i) {
         const PluginHost::Plugin &plugin = plugins.at(i);
-        lines += Line(DashboardText(plugin.known.titleId.toLatin1().constData()) + QLatin1Char(':'),
-                      DashboardText(plugin.state == PluginReady ? "IDS_GENERAL_PLUGIN_WORKS"
-                                                                : "IDS_GENERAL_PLUGIN_MISSING"));
+        lines += Line(QString::fromLatin1("%1: %2").arg(
+            DashboardText(plugin.known.titleId.toLatin1().constData()),
+            DashboardText(plugin.state == PluginReady ? "IDS_GENERAL_PLUGIN_WORKS"
+                                                      : "IDS_GENERAL_PLUGIN_MISSING")));
     }
     m_pluginsText->setText(lines);
     m_placesText->setText(
-        Line(DashboardText("IDS_GENERAL_USER_DATA"), UserData::Directory()) +
-        Line(DashboardText("IDS_GENERAL_PLUGIN_LIBRARY"), CommonUtils::GetPluginLibraryPath()) +
-        Line(DashboardText("IDS_GENERAL_VERSION"), QLatin1String(DASHBOARD_VERSION)));
+        Line(DashboardText("IDS_GENERAL_USER_DATA").arg(UserData::Directory())) +
+        Line(DashboardText("IDS_GENERAL_PLUGIN_LIBRARY").arg(CommonUtils::GetPluginLibraryPath())) +
+        Line(DashboardText("IDS_GENERAL_VERSION").arg(QLatin1String(DASHBOARD_VERSION))));
 }
 
 void GeneralPage::ChooseLanguage(int index)

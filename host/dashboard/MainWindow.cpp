@@ -4,7 +4,6 @@
 #include "DashboardText.h"
 #include "GeneralPage.h"
 #include "HostControl.h"
-#include "ListWatcher.h"
 #include "OverviewDelegate.h"
 #include "PluginHost.h"
 #include "PluginObjects.h"
@@ -96,7 +95,8 @@ QString StateText(const Overview::Entry &entry)
 } // namespace
 
 MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLog *log)
-    : m_plugins(plugins), m_language(language)
+    : m_plugins(plugins), m_language(language),
+      m_watcher(UserData::FilePath(QLatin1String("Priority.xml")), nullptr)
 {
     setObjectName(QLatin1String("mainWindow"));
     m_trace = new TracePanel(log, this);
@@ -137,8 +137,7 @@ MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLo
     if (QObject *service = PluginObjects::PriorityService()) {
         connect(service, SIGNAL(OnUpdataPriorityView()), this, SLOT(Refresh()));
     }
-    ListWatcher *watcher = new ListWatcher(UserData::FilePath(QLatin1String("Priority.xml")), this);
-    connect(watcher, SIGNAL(Changed()), this, SLOT(Refresh()));
+    connect(&m_watcher, SIGNAL(Changed()), this, SLOT(Refresh()));
     connect(m_language, SIGNAL(Switched()), this, SLOT(Retranslate()));
 
     resize(820, 620);

@@ -1,6 +1,7 @@
 #ifndef MAINWINDOW_H
 #define MAINWINDOW_H
 
+#include "ListWatcher.h"
 #include "Overview.h"
 
 #include <QMainWindow>
@@ -52,6 +53,7 @@ private:
 
     PluginHost *const m_plugins;
     DashboardLanguage *const m_language;
+    ListWatcher m_watcher;
     TracePanel *m_trace;
     QPointer<SettingsDialog> m_settings;
 

@@ -60,7 +60,7 @@ void OverviewDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opti
     const QColor base = option.palette.color(QPalette::Base);
     // The application's highlight: that of lists may be a soft one, made for reading on it.
     const QPalette application = QApplication::palette();
-    const QColor accent = application.color(QPalette::Highlight);
+    const QColor &accent = application.color(QPalette::Highlight);
     const QColor strong = option.palette.color(QPalette::Text);
     const QColor text = isAvailable ? strong : Blend(strong, base, 0.55);
     const QColor faint = Blend(strong, base, isAvailable ? 0.65 : 0.5);
@@ -127,8 +127,11 @@ void OverviewDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opti
     painter->setPen(text);
     // A name may hold line breaks; it has one line here.
     const QString name = index.data(Qt::DisplayRole).toString().simplified();
+    // The row is mirrored with the language, the name reads in its own direction.
+    painter->setLayoutDirection(name.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     painter->drawText(QStyle::visualRect(direction, row, nameLine), static_cast<int>(leading),
                       nameMetrics.elidedText(name, Qt::ElideRight, nameLine.width()));
+    painter->setLayoutDirection(direction);
     painter->setFont(smallFont);
     painter->setPen(faint);
     painter->drawText(QStyle::visualRect(direction, row, kindLine), static_cast<int>(leading),

@@ -34,7 +34,7 @@ const int exitHung = 3;
 
 // Some effects need a moment, such as that of a changed file on the main window.
 const int checkMilliseconds = 50;
-const int checkTries = 60;
+const int checkTries = 40;
 const int answerTries = 100;
 
 void GiveUp(int)
@@ -325,7 +325,7 @@ void Tour::FailIf(const QString &problem)
 void Tour::Expect(bool condition, const char *rule)
 {
     if (!condition) {
-        Fail(QString::fromLatin1("it is not so that %1").arg(QLatin1String(rule)));
+        Fail(QString::fromLatin1("it should be so that %1").arg(QLatin1String(rule)));
     }
 }
 

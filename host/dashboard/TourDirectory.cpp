@@ -90,7 +90,7 @@ QString TourDirectory::Prepare()
 
 QString TourDirectory::Claim(const QString &name)
 {
-    const QString path = m_path + QLatin1Char('/') + name;
+    QString path = m_path + QLatin1Char('/') + name;
     if (m_claims.contains(name)) {
         return path;
     }

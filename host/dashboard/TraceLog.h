@@ -29,7 +29,7 @@ public:
     static const int LineLimit = 2000;
 
     /** A file of this many bytes is set aside under the name <path>.1, in place of an earlier one. */
-    static const qint64 FileLimit = 1024 * 1024;
+    static const qint64 FileLimit = 1048576;
 
 signals:
     /** On the thread of this object, some time after the lines came. */

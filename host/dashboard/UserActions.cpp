@@ -63,7 +63,7 @@ void FocusByClick(QWidget *target)
 
 QString ClickAt(QWidget *widget, const QPoint &position)
 {
-    const QString obstacle = Obstacle(widget);
+    QString obstacle = Obstacle(widget);
     if (!obstacle.isNull()) {
         return obstacle;
     }
@@ -84,7 +84,7 @@ QString ClickAt(QWidget *widget, const QPoint &position)
 
 QString SendKey(int key, Qt::KeyboardModifiers modifiers, const QString &text, QWidget *widget)
 {
-    const QString obstacle = Obstacle(widget);
+    QString obstacle = Obstacle(widget);
     if (!obstacle.isNull()) {
         return obstacle;
     }
@@ -127,7 +127,7 @@ QString UserActions::PressKey(int key, QWidget *widget, Qt::KeyboardModifiers mo
 QString UserActions::TypeText(const QString &text, QWidget *widget)
 {
     for (int i = 0; i < text.size(); ++i) {
-        const QString problem = SendKey(0, Qt::NoModifier, text.mid(i, 1), widget);
+        QString problem = SendKey(0, Qt::NoModifier, text.mid(i, 1), widget);
         if (!problem.isNull()) {
             return problem;
         }

@@ -6,7 +6,7 @@ QString UserData::Directory()
 {
     unsigned short *path = nullptr;
     const long status = ZELT_GetUserDataDirectory(&path);
-    const QString directory = status == 0 && path ? QString::fromUtf16(path) : QString();
+    QString directory = status == 0 && path ? QString::fromUtf16(path) : QString();
     delete[] path;
     return directory;
 }

@@ -174,7 +174,7 @@
     </message>
     <message>
         <source>IDS_LOG_NOT_WRITABLE</source>
-        <translation>تعذّرت الكتابة في ملف السجل %1؛ يظهر التتبّع هنا فقط.</translation>
+        <translation>تعذّرت الكتابة في ملف السجل &#x202a;%1&#x202c;؛ يظهر التتبّع هنا فقط.</translation>
     </message>
     <message>
         <source>IDS_OK</source>
@@ -222,19 +222,19 @@
     </message>
     <message>
         <source>IDS_GENERAL_USER_DATA</source>
-        <translation>بياناتك:</translation>
+        <translation>بياناتك: &#x202a;%1&#x202c;</translation>
     </message>
     <message>
         <source>IDS_GENERAL_PLUGIN_LIBRARY</source>
-        <translation>موضع الإضافات:</translation>
+        <translation>موضع الإضافات: &#x202a;%1&#x202c;</translation>
     </message>
     <message>
         <source>IDS_GENERAL_VERSION</source>
-        <translation>الإصدار:</translation>
+        <translation>الإصدار: &#x202a;%1&#x202c;</translation>
     </message>
     <message>
         <source>IDS_PAGE_NOT_SHOWN</source>
-        <translation>يتعذّر عرض هذه الصفحة: حُمّلت الإضافة %1 لكنها لا تقدّم صفحتها. قد يوضّح سجل التتبّع المزيد.</translation>
+        <translation>يتعذّر عرض هذه الصفحة: حُمّلت الإضافة &#x202a;%1&#x202c; لكنها لا تقدّم صفحتها. قد يوضّح سجل التتبّع المزيد.</translation>
     </message>
     <message>
         <source>IDS_KIND_WIFI</source>
@@ -306,7 +306,7 @@
     </message>
     <message>
         <source>IDS_LIST_NOT_OFFERED</source>
-        <translation>حُمّلت الإضافة %1 لكنها لا تقدّم القائمة.</translation>
+        <translation>حُمّلت الإضافة &#x202a;%1&#x202c; لكنها لا تقدّم القائمة.</translation>
     </message>
     <message>
         <source>IDS_NO_LIST_TITLE</source>
@@ -326,41 +326,41 @@
     </message>
     <message>
         <source>IDS_LOAD_NOT_LOADED</source>
-        <translation>الإضافة %1 غير محمّلة.</translation>
+        <translation>الإضافة &#x202a;%1&#x202c; غير محمّلة.</translation>
     </message>
     <message>
         <source>IDS_LOAD_MISSING</source>
-        <translation>الإضافة %1 غير موجودة. ثبّتها، أو شغّل اللوحة بالخيار ‎--library-path‎ مع المجلد الذي يحوي المجلد "plugins".</translation>
+        <translation>الإضافة &#x202a;%1&#x202c; غير موجودة. ثبّتها، أو شغّل اللوحة بالخيار &#x202a;--library-path&#x202c; مع المجلد الذي يحوي المجلد "plugins".</translation>
     </message>
     <message>
         <source>IDS_LOAD_NOT_A_LIBRARY</source>
-        <translation>يتعذّر تحميل الإضافة %1 كمكتبة: %2</translation>
+        <translation>يتعذّر تحميل الإضافة &#x202a;%1&#x202c; كمكتبة: &#x202a;%2&#x202c;</translation>
     </message>
     <message>
         <source>IDS_LOAD_NO_VERIFICATION</source>
-        <translation>لا تذكر الإضافة %1 ما بُنيت لأجله، لذلك لا تُستخدم.</translation>
+        <translation>لا تذكر الإضافة &#x202a;%1&#x202c; ما بُنيت لأجله، لذلك لا تُستخدم.</translation>
     </message>
     <message>
         <source>IDS_LOAD_REFUSED</source>
-        <translation>بُنيت الإضافة %1 للوحة أخرى، لذلك لا تُستخدم.
-الموجود: %2
-المتوقّع: %3</translation>
+        <translation>بُنيت الإضافة &#x202a;%1&#x202c; للوحة أخرى، لذلك لا تُستخدم.
+الموجود: &#x202a;%2&#x202c;
+المتوقّع: &#x202a;%3&#x202c;</translation>
     </message>
     <message>
         <source>IDS_LOAD_NO_ENTRY_POINT</source>
-        <translation>لا تحوي المكتبة %1 نقطة دخول لإضافة، لذلك لا تُستخدم.</translation>
+        <translation>لا تحوي المكتبة &#x202a;%1&#x202c; نقطة دخول لإضافة، لذلك لا تُستخدم.</translation>
     </message>
     <message>
         <source>IDS_LOAD_NULL_INSTANCE</source>
-        <translation>لم تقدّم الإضافة %1 كائنًا للعمل معه، لذلك لا تُستخدم.</translation>
+        <translation>لم تقدّم الإضافة &#x202a;%1&#x202c; كائنًا للعمل معه، لذلك لا تُستخدم.</translation>
     </message>
     <message>
         <source>IDS_LOAD_NOT_A_PLUGIN</source>
-        <translation>ما قدّمته %1 ليس إضافة لهذه اللوحة، لذلك لا يُستخدم.</translation>
+        <translation>ما قدّمته &#x202a;%1&#x202c; ليس إضافة لهذه اللوحة، لذلك لا يُستخدم.</translation>
     </message>
     <message>
         <source>IDS_LOAD_INIT_FAILED</source>
-        <translation>تفيد الإضافة %1 بأنها لا تستطيع العمل، لذلك لا تُستخدم. قد يوضّح سجل التتبّع المزيد.</translation>
+        <translation>تفيد الإضافة &#x202a;%1&#x202c; بأنها لا تستطيع العمل، لذلك لا تُستخدم. قد يوضّح سجل التتبّع المزيد.</translation>
     </message>
 </context>
 </TS>

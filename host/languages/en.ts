@@ -243,15 +243,15 @@ Allowed are letters, digits and these signs:
     </message>
     <message>
         <source>IDS_GENERAL_USER_DATA</source>
-        <translation>Your data:</translation>
+        <translation>Your data: %1</translation>
     </message>
     <message>
         <source>IDS_GENERAL_PLUGIN_LIBRARY</source>
-        <translation>Plug-ins from:</translation>
+        <translation>Plug-ins from: %1</translation>
     </message>
     <message>
         <source>IDS_GENERAL_VERSION</source>
-        <translation>Version:</translation>
+        <translation>Version: %1</translation>
     </message>
     <message>
         <source>IDS_PAGE_NOT_SHOWN</source>

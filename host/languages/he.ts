@@ -174,7 +174,7 @@
     </message>
     <message>
         <source>IDS_LOG_NOT_WRITABLE</source>
-        <translation>לא ניתן לכתוב לקובץ היומן %1; המעקב מוצג כאן בלבד.</translation>
+        <translation>לא ניתן לכתוב לקובץ היומן &#x202a;%1&#x202c;; המעקב מוצג כאן בלבד.</translation>
     </message>
     <message>
         <source>IDS_OK</source>
@@ -222,19 +222,19 @@
     </message>
     <message>
         <source>IDS_GENERAL_USER_DATA</source>
-        <translation>הנתונים שלך:</translation>
+        <translation>הנתונים שלך: &#x202a;%1&#x202c;</translation>
     </message>
     <message>
         <source>IDS_GENERAL_PLUGIN_LIBRARY</source>
-        <translation>מיקום התוספים:</translation>
+        <translation>מיקום התוספים: &#x202a;%1&#x202c;</translation>
     </message>
     <message>
         <source>IDS_GENERAL_VERSION</source>
-        <translation>גרסה:</translation>
+        <translation>גרסה: &#x202a;%1&#x202c;</translation>
     </message>
     <message>
         <source>IDS_PAGE_NOT_SHOWN</source>
-        <translation>לא ניתן להציג דף זה: התוסף %1 נטען אך אינו מספק את הדף שלו. ייתכן שיש פרטים נוספים במעקב.</translation>
+        <translation>לא ניתן להציג דף זה: התוסף &#x202a;%1&#x202c; נטען אך אינו מספק את הדף שלו. ייתכן שיש פרטים נוספים במעקב.</translation>
     </message>
     <message>
         <source>IDS_KIND_WIFI</source>
@@ -306,7 +306,7 @@
     </message>
     <message>
         <source>IDS_LIST_NOT_OFFERED</source>
-        <translation>התוסף %1 נטען אך אינו מספק את הרשימה.</translation>
+        <translation>התוסף &#x202a;%1&#x202c; נטען אך אינו מספק את הרשימה.</translation>
     </message>
     <message>
         <source>IDS_NO_LIST_TITLE</source>
@@ -326,41 +326,41 @@
     </message>
     <message>
         <source>IDS_LOAD_NOT_LOADED</source>
-        <translation>התוסף %1 אינו טעון.</translation>
+        <translation>התוסף &#x202a;%1&#x202c; אינו טעון.</translation>
     </message>
     <message>
         <source>IDS_LOAD_MISSING</source>
-        <translation>התוסף %1 אינו קיים. יש להתקין אותו, או להפעיל את הלוח עם ‎--library-path‎ והתיקייה שבה נמצאת התיקייה "plugins".</translation>
+        <translation>התוסף &#x202a;%1&#x202c; אינו קיים. יש להתקין אותו, או להפעיל את הלוח עם &#x202a;--library-path&#x202c; והתיקייה שבה נמצאת התיקייה "plugins".</translation>
     </message>
     <message>
         <source>IDS_LOAD_NOT_A_LIBRARY</source>
-        <translation>לא ניתן לטעון את התוסף %1 כספרייה: %2</translation>
+        <translation>לא ניתן לטעון את התוסף &#x202a;%1&#x202c; כספרייה: &#x202a;%2&#x202c;</translation>
     </message>
     <message>
         <source>IDS_LOAD_NO_VERIFICATION</source>
-        <translation>התוסף %1 אינו מציין עבור מה נבנה, ולכן אינו בשימוש.</translation>
+        <translation>התוסף &#x202a;%1&#x202c; אינו מציין עבור מה נבנה, ולכן אינו בשימוש.</translation>
     </message>
     <message>
         <source>IDS_LOAD_REFUSED</source>
-        <translation>התוסף %1 נבנה עבור לוח אחר, ולכן אינו בשימוש.
-נמצא: %2
-נדרש: %3</translation>
+        <translation>התוסף &#x202a;%1&#x202c; נבנה עבור לוח אחר, ולכן אינו בשימוש.
+נמצא: &#x202a;%2&#x202c;
+נדרש: &#x202a;%3&#x202c;</translation>
     </message>
     <message>
         <source>IDS_LOAD_NO_ENTRY_POINT</source>
-        <translation>לספרייה %1 אין נקודת כניסה של תוסף, ולכן אינה בשימוש.</translation>
+        <translation>לספרייה &#x202a;%1&#x202c; אין נקודת כניסה של תוסף, ולכן אינה בשימוש.</translation>
     </message>
     <message>
         <source>IDS_LOAD_NULL_INSTANCE</source>
-        <translation>התוסף %1 לא סיפק אובייקט לעבודה, ולכן אינו בשימוש.</translation>
+        <translation>התוסף &#x202a;%1&#x202c; לא סיפק אובייקט לעבודה, ולכן אינו בשימוש.</translation>
     </message>
     <message>
         <source>IDS_LOAD_NOT_A_PLUGIN</source>
-        <translation>מה שסיפק %1 אינו תוסף של לוח זה, ולכן אינו בשימוש.</translation>
+        <translation>מה שסיפק &#x202a;%1&#x202c; אינו תוסף של לוח זה, ולכן אינו בשימוש.</translation>
     </message>
     <message>
         <source>IDS_LOAD_INIT_FAILED</source>
-        <translation>התוסף %1 מדווח שאינו יכול לפעול, ולכן אינו בשימוש. ייתכן שיש פרטים נוספים במעקב.</translation>
+        <translation>התוסף &#x202a;%1&#x202c; מדווח שאינו יכול לפעול, ולכן אינו בשימוש. ייתכן שיש פרטים נוספים במעקב.</translation>
     </message>
 </context>
 </TS>
