@@ -5,6 +5,8 @@
 #include <QProcess>
 #include <QtTest>
 
+#include <csignal>
+
 namespace
 {
 
@@ -64,6 +66,7 @@ private slots:
     void TourKeepsItsTracesOutOfTheTerminal();
     void TourFailsWhenStepsHaveNoEffect_data();
     void TourFailsWhenStepsHaveNoEffect();
+    void TourThatHangsEndsByItself();
     void TourRefusesForeignContent();
 
 private:
@@ -205,6 +208,27 @@ void ProgramTest::TourFailsWhenStepsHaveNoEffect()
     QVERIFY2(QRegExp("tour: \\d+ steps, [1-9]\\d* failed").exactMatch(LastLine(outcome.out)),
              qPrintable(outcome.out));
     QVERIFY2(outcome.err.contains(told), qPrintable(outcome.err));
+}
+
+void ProgramTest::TourThatHangsEndsByItself()
+{
+    // The shell tells the number of the process that it then becomes; the alarm is sent in place of the
+    // clock's.
+    QProcess process;
+    process.start("sh", QStringList() << "-c"
+                                      << "echo $$; exec \"$0\" --tour \"$1\" --library-path \"$2\""
+                                      << BUILD_DIRECTORY "/bin/dashboard" << TourPath()
+                                      << BUILD_DIRECTORY "/tests/fixtures/Idle");
+    QByteArray out;
+    while (!out.contains("step 1") && process.waitForReadyRead()) {
+        out += process.readAllStandardOutput();
+    }
+    const int number = out.left(out.indexOf('\n')).toInt();
+    QVERIFY(number > 1);
+    QCOMPARE(kill(number, SIGALRM), 0);
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(process.exitCode(), 3);
+    QVERIFY(process.readAllStandardOutput().contains("gave up"));
 }
 
 void ProgramTest::TourRefusesForeignContent()
