@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QFont>
 #include <QLocale>
 #include <QScopedPointer>
 
@@ -66,6 +67,15 @@ QString StartLanguage(const Arguments &arguments)
                 .arg(language));
     }
     return QString();
+}
+
+/** The size that desktops use; without a desktop the toolkit takes a larger one, and pictures would show
+ * that. */
+void UseDesktopFontSize()
+{
+    QFont font = QApplication::font();
+    font.setPointSize(10);
+    QApplication::setFont(font);
 }
 
 int Run(const Arguments &arguments, const TourDirectory &tourDirectory)
@@ -149,5 +159,8 @@ int main(int argc, char **argv)
     const QApplication application(argc, argv);
     QApplication::setApplicationName(QLatin1String("dashboard"));
     QApplication::setApplicationVersion(Arguments::VersionText().section(QLatin1Char(' '), 1).trimmed());
+    if (!arguments.tourDirectory.isNull()) {
+        UseDesktopFontSize();
+    }
     return Run(arguments, tourDirectory);
 }
