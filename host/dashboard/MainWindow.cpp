@@ -1,5 +1,6 @@
 #include "MainWindow.h"
 
+#include "ConnectDialog.h"
 #include "DashboardLanguage.h"
 #include "DashboardText.h"
 #include "GeneralPage.h"
@@ -161,6 +162,9 @@ void MainWindow::CreateMenus()
     m_viewMenu->setObjectName(QLatin1String("viewMenu"));
     m_languageMenu->setObjectName(QLatin1String("languageMenu"));
 
+    m_connectAction = m_fileMenu->addAction(QString(), this, SLOT(OpenConnect()));
+    m_connectAction->setObjectName(QLatin1String("connectAction"));
+    m_connectAction->setShortcut(QKeySequence(QLatin1String("Ctrl+K")));
     m_settingsAction = m_fileMenu->addAction(QString(), this, SLOT(OpenSettings()));
     m_settingsAction->setShortcut(QKeySequence(QLatin1String("Ctrl+,")));
     m_refreshAction = m_fileMenu->addAction(QString(), this, SLOT(Refresh()));
@@ -191,6 +195,9 @@ QWidget *MainWindow::CreateHead()
 {
     m_headline = MakeLabel("headlineLabel", 1.5, true);
     m_explanation = MakeLabel("explanationLabel", 1, false);
+    m_connectButton = MakeButton("connectButton");
+    m_connectButton->setMinimumSize(120, 38);
+    connect(m_connectButton, SIGNAL(clicked()), this, SLOT(OpenConnect()));
     m_settingsButton = MakeButton("settingsButton");
     m_settingsButton->setMinimumSize(120, 38);
     connect(m_settingsButton, SIGNAL(clicked()), this, SLOT(OpenSettings()));
@@ -205,7 +212,11 @@ QWidget *MainWindow::CreateHead()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(16);
     layout->addLayout(texts, 1);
-    layout->addWidget(m_settingsButton, 0, Qt::AlignTop);
+    QHBoxLayout *buttons = new QHBoxLayout;
+    buttons->setSpacing(8);
+    buttons->addWidget(m_connectButton, 0, Qt::AlignTop);
+    buttons->addWidget(m_settingsButton, 0, Qt::AlignTop);
+    layout->addLayout(buttons);
     return head;
 }
 
@@ -258,9 +269,11 @@ void MainWindow::Retranslate()
     m_fileMenu->setTitle(DashboardText("IDS_MENU_FILE"));
     m_viewMenu->setTitle(DashboardText("IDS_MENU_VIEW"));
     m_languageMenu->setTitle(DashboardText("IDS_MENU_LANGUAGE"));
+    m_connectAction->setText(DashboardText("IDS_ACTION_CONNECT"));
     m_settingsAction->setText(DashboardText("IDS_ACTION_SETTINGS"));
     m_refreshAction->setText(DashboardText("IDS_ACTION_REFRESH"));
     m_quitAction->setText(DashboardText("IDS_ACTION_QUIT"));
+    m_connectButton->setText(DashboardText("IDS_BUTTON_CONNECT"));
     m_settingsButton->setText(DashboardText("IDS_BUTTON_SETTINGS"));
     m_refreshButton->setText(DashboardText("IDS_BUTTON_REFRESH"));
     m_traceButton->setText(DashboardText("IDS_BUTTON_TRACE"));
@@ -274,15 +287,32 @@ void MainWindow::Retranslate()
     if (m_settings) {
         m_settings->Retranslate();
     }
+    if (m_connect) {
+        m_connect->Retranslate();
+    }
     Refresh();
 }
 
 void MainWindow::Refresh()
 {
     const Overview overview = Overview::Read();
+    ShowConnect(overview);
     ShowHead(overview);
     ShowProblems(overview);
     ShowList(overview);
+}
+
+void MainWindow::ShowConnect(const Overview &overview)
+{
+    const char *obstacle = nullptr;
+    if (!overview.isRangeKnown) {
+        obstacle = "IDS_CONNECT_NO_WLAN";
+    } else if (overview.status < 0) {
+        obstacle = "IDS_CONNECT_NO_PRIORITY";
+    }
+    m_connectAction->setEnabled(!obstacle);
+    m_connectButton->setEnabled(!obstacle);
+    m_connectButton->setToolTip(obstacle ? DashboardText(obstacle) : QString());
 }
 
 void MainWindow::ShowHead(const Overview &overview)
@@ -407,6 +437,28 @@ void MainWindow::SettingsClosed()
     if (m_settings) {
         m_settings->deleteLater();
         m_settings = nullptr;
+    }
+    Refresh();
+}
+
+void MainWindow::OpenConnect()
+{
+    if (m_connect) {
+        m_connect->raise();
+        m_connect->activateWindow();
+        return;
+    }
+    m_connect = new ConnectDialog(this);
+    connect(m_connect.data(), SIGNAL(finished(int)), this, SLOT(ConnectClosed()));
+    m_connect->setModal(true);
+    m_connect->show();
+}
+
+void MainWindow::ConnectClosed()
+{
+    if (m_connect) {
+        m_connect->deleteLater();
+        m_connect = nullptr;
     }
     Refresh();
 }

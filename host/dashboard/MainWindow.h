@@ -7,6 +7,7 @@
 #include <QMainWindow>
 #include <QPointer>
 
+class ConnectDialog;
 class DashboardLanguage;
 class PluginHost;
 class QAction;
@@ -32,6 +33,7 @@ public:
 public slots:
     void Refresh();
     void OpenSettings();
+    void OpenConnect();
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -40,6 +42,7 @@ private slots:
     void Retranslate();
     void ChooseLanguage(QAction *action);
     void SettingsClosed();
+    void ConnectClosed();
 
 private:
     void CreateMenus();
@@ -47,6 +50,7 @@ private:
     QWidget *CreateHead();
     QWidget *CreateMessagePage();
     QWidget *CreateFoot();
+    void ShowConnect(const Overview &overview);
     void ShowHead(const Overview &overview);
     void ShowProblems(const Overview &overview);
     void ShowList(const Overview &overview);
@@ -56,10 +60,12 @@ private:
     ListWatcher m_watcher;
     TracePanel *m_trace;
     QPointer<SettingsDialog> m_settings;
+    QPointer<ConnectDialog> m_connect;
 
     QMenu *m_fileMenu;
     QMenu *m_viewMenu;
     QMenu *m_languageMenu;
+    QAction *m_connectAction;
     QAction *m_settingsAction;
     QAction *m_refreshAction;
     QAction *m_quitAction;
@@ -73,6 +79,7 @@ private:
     QWidget *m_messagePage;
     QLabel *m_messageTitle;
     QLabel *m_messageText;
+    QPushButton *m_connectButton;
     QPushButton *m_settingsButton;
     QPushButton *m_refreshButton;
     QPushButton *m_languageButton;

@@ -10,9 +10,11 @@
 #include <IWLANUIPlugin.h>
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QFile>
 #include <QImage>
+#include <QLabel>
 #include <QListWidget>
 #include <QPainter>
 #include <QPointer>
@@ -111,12 +113,18 @@ QStringList NamesOf(const QList<PriorityList> &list)
     return names;
 }
 
+QString NameIn(const QTableWidget *table, int row)
+{
+    const QWidget *cell = table->cellWidget(row, 0);
+    const QTableWidgetItem *item = table->item(row, 0);
+    return cell ? cell->accessibleName() : item ? item->text() : QString();
+}
+
 QStringList NamesOf(const QTableWidget *table)
 {
     QStringList names;
     for (int i = 0; i < table->rowCount(); ++i) {
-        const QWidget *cell = table->cellWidget(i, 0);
-        names.append(cell ? cell->accessibleName() : QString());
+        names.append(NameIn(table, i));
     }
     return names;
 }
@@ -142,6 +150,37 @@ PriorityList Entry(const QString &name, const QString &type)
     entry.name = name;
     entry.type = type;
     return entry;
+}
+
+QString PluginText(const char *id)
+{
+    return Change::tr(QLatin1String(id), QLatin1String("PriorityPlugin"));
+}
+
+QStringList NetworksInRange()
+{
+    QStringList names;
+    QList<WlanAvilableNetworkInfo> networks;
+    if (IWLANUIPlugin *wlan = PluginObjects::Wlan()) {
+        wlan->GetAvailableNetworks(&networks);
+    }
+    for (int i = 0; i < networks.size(); ++i) {
+        names.append(networks.at(i).networkName);
+    }
+    return names;
+}
+
+QStringList RememberedNames()
+{
+    QStringList names;
+    QList<RememberedList> remembered;
+    if (IWLANUIPlugin *wlan = PluginObjects::Wlan()) {
+        wlan->GetRememberedList(&remembered);
+    }
+    for (int i = 0; i < remembered.size(); ++i) {
+        names.append(remembered.at(i).name);
+    }
+    return names;
 }
 
 int LanguagePlace(const QString &language)
@@ -202,12 +241,21 @@ const Tour::Step Tour::steps[] = {
      &Tour::CheckNothingSelected},
     {"add-dialog", "Add offers the remembered networks that are not in the list", &Tour::ActAddDialog,
      &Tour::CheckAddDialog},
-    {"add-ok", "one is ticked; OK puts it at the end of the list", &Tour::ActAddOk, &Tour::CheckLastSelected},
+    {"add-elsewhere", "both are ticked; meanwhile another plug-in puts the first of them on top",
+     &Tour::ActAddElsewhere, &Tour::CheckAddElsewhere},
+    {"add-ok", "OK puts both at the end of the list, and none stands in it twice", &Tour::ActAddOk,
+     &Tour::CheckAdded},
     {"new-dialog", "New asks for a network that is not remembered yet", &Tour::ActNewDialog,
      &Tour::CheckNewDialog},
-    {"new-wrong-key", "a key that is too short is refused", &Tour::ActNewWrongKey, &Tour::CheckStillOpen},
+    {"new-wrong-key", "a key that is too short is refused", &Tour::ActNewShortKey, &Tour::CheckNewRefused},
+    {"new-different-keys", "two keys that are not the same are refused", &Tour::ActNewDifferentKeys,
+     &Tour::CheckNewRefused},
     {"new-ok", "with a right key the network is remembered and put at the end of the list", &Tour::ActNewOk,
      &Tour::CheckNew},
+    {"new-repeated", "New once more with the same name: it is refused, the list has it already",
+     &Tour::ActNewRepeated, &Tour::CheckNewStillOpen},
+    {"new-cancel", "Cancel closes the dialog; the list is as before", &Tour::ActNewCancel,
+     &Tour::CheckNewClosed},
     {"read-only", "a network that is read-only can be moved but not deleted", &Tour::ActReadOnly,
      &Tour::CheckReadOnly},
     {"added-elsewhere", "another plug-in puts a network on top; the open page follows", &Tour::ActForeignTop,
@@ -218,6 +266,10 @@ const Tour::Step Tour::steps[] = {
     {"ok", "OK closes the settings; the main window shows the list", &Tour::ActConfirm, &Tour::CheckClosed},
     {"reopened", "the settings are opened again; the order was kept", &Tour::ActReopen, &Tour::CheckOpen},
     {"cancel", "Cancel closes the settings; what was changed stays", &Tour::ActDismiss, &Tour::CheckClosed},
+    {"connect-dialog", "the Connect button lists the networks in range", &Tour::ActConnectDialog,
+     &Tour::CheckConnectDialog},
+    {"connect-ok", "one is chosen; to be connected puts it on top of the list", &Tour::ActConnectOk,
+     &Tour::CheckConnected},
 };
 
 const int Tour::stepCount = sizeof(Tour::steps) / sizeof(Tour::steps[0]);
@@ -365,10 +417,11 @@ void Tour::PressInList(int key)
     }
 }
 
-void Tour::ClickAndAnswer(const char *name, const char *answer)
+void Tour::ClickAndAnswer(const char *name, const char *answer, const char *textId)
 {
     // The click returns when the question is answered, so the answer is arranged first.
     m_answer = QLatin1String(answer);
+    m_question = PluginText(textId);
     m_answerTriesLeft = answerTries;
     QTimer::singleShot(0, this, SLOT(AnswerQuestion()));
     Click(name);
@@ -392,6 +445,10 @@ void Tour::AnswerQuestion()
     }
     m_answerTriesLeft = 0;
     SavePicture(QLatin1String(steps[m_step].name) + QLatin1String("-question"));
+    const QLabel *text = question->findChild<QLabel *>(QLatin1String("messageText"));
+    if (!text || text->text() != m_question) {
+        Fail(QString::fromLatin1("the question should be: %1").arg(m_question));
+    }
     QWidget *button = question->findChild<QWidget *>(m_answer);
     FailIf(button ? UserActions::Click(button) : QString::fromLatin1("the question has no %1").arg(m_answer));
     if (question && question->isVisible()) {
@@ -430,6 +487,20 @@ void Tour::Fill(const char *name, const QString &text)
         FailIf(UserActions::PressKey(Qt::Key_A, field, Qt::ControlModifier));
         FailIf(UserActions::TypeText(text, field));
     }
+}
+
+void Tour::EnterNew(const QString &name)
+{
+    Fill("networkNameBox", name);
+    if (const QComboBox *box = FindOf<QComboBox>("authenticationBox")) {
+        ChooseItem("authenticationBox", box->findText(QLatin1String("WPA2PSK")));
+    }
+}
+
+void Tour::EnterKeys(const char *key, const char *confirmation)
+{
+    Fill("keyEdit", QLatin1String(key));
+    Fill("confirmKeyEdit", QLatin1String(confirmation));
 }
 
 void Tour::SelectPage(int row)
@@ -612,7 +683,7 @@ void Tour::ActUpKey()
 void Tour::ActDeleteCancel()
 {
     ClickRow(m_expected.value(1));
-    ClickAndAnswer("deleteButton", "messageButton2");
+    ClickAndAnswer("deleteButton", "messageButton2", "IDS_WARNING_DELETE");
 }
 
 void Tour::CheckNothingSelected()
@@ -627,7 +698,7 @@ void Tour::ActDeleteOk()
     if (m_expected.size() > 1) {
         m_notListed.prepend(m_expected.takeAt(1));
     }
-    ClickAndAnswer("deleteButton", "messageButton1");
+    ClickAndAnswer("deleteButton", "messageButton1", "IDS_WARNING_DELETE");
 }
 
 void Tour::ActAddDialog()
@@ -647,21 +718,46 @@ void Tour::CheckAddDialog()
     }
 }
 
-void Tour::ActAddOk()
+void Tour::ActAddElsewhere()
 {
-    if (m_notListed.isEmpty()) {
-        Fail(QLatin1String("there is no network left to add"));
+    IPriorityPlugin *priority = PluginObjects::Priority();
+    if (!priority || m_notListed.size() != 2) {
+        Fail(QLatin1String("there are no two networks left to add"));
         return;
     }
+    Tick(m_notListed.first());
     Tick(m_notListed.last());
-    m_expected.append(m_notListed.takeLast());
+    m_expected.prepend(m_notListed.first());
+    priority->AddTopPriority(m_notListed.first());
+}
+
+void Tour::CheckAddElsewhere()
+{
+    CheckAddDialog();
+    const QTableWidget *table = FindOf<QTableWidget>("rememberTable");
+    for (int row = 0; table && row < table->rowCount(); ++row) {
+        const QCheckBox *box =
+            table->cellWidget(row, 0)->findChild<QCheckBox *>(QLatin1String("rowCheckBox"));
+        Expect(box && box->isChecked(), "both stay ticked");
+    }
+}
+
+void Tour::ActAddOk()
+{
+    if (m_notListed.size() != 2 || m_expected.isEmpty()) {
+        Fail(QLatin1String("there are no two networks left to add"));
+        return;
+    }
+    m_expected.removeFirst();
+    m_expected += m_notListed;
+    m_notListed.clear();
     Click("addOkButton");
 }
 
-void Tour::CheckLastSelected()
+void Tour::CheckAdded()
 {
-    ExpectSelected(m_expected.size() - 1);
-    ExpectButtons(true, false, true);
+    ExpectSelected(m_expected.size() - 2);
+    ExpectButtons(true, true, true);
 }
 
 void Tour::ActNewDialog()
@@ -678,19 +774,21 @@ void Tour::CheckNewDialog()
     }
 }
 
-void Tour::ActNewWrongKey()
+void Tour::ActNewShortKey()
 {
     m_new = Entry(QLatin1String("Summer house"), QLatin1String("1"));
-    Fill("networkNameBox", m_new.name);
-    if (const QComboBox *box = FindOf<QComboBox>("authenticationBox")) {
-        ChooseItem("authenticationBox", box->findText(QLatin1String("WPA2PSK")));
-    }
-    Fill("keyEdit", QLatin1String("short"));
-    Fill("confirmKeyEdit", QLatin1String("short"));
-    ClickAndAnswer("newOkButton", "messageButton1");
+    EnterNew(m_new.name);
+    EnterKeys("sand", "sand");
+    ClickAndAnswer("newOkButton", "messageButton1", "IDS_ERROR_KEY_WRONG_LENGTH_128");
 }
 
-void Tour::CheckStillOpen()
+void Tour::ActNewDifferentKeys()
+{
+    EnterKeys("sea-and-sand", "sea-and-land");
+    ClickAndAnswer("newOkButton", "messageButton1", "IDS_ERROR_KEY_DIFFERENT");
+}
+
+void Tour::CheckNewStillOpen()
 {
     const QWidget *dialog = Find("newDialog");
     if (dialog) {
@@ -698,23 +796,52 @@ void Tour::CheckStillOpen()
     }
 }
 
+void Tour::CheckNewRefused()
+{
+    CheckNewStillOpen();
+    Expect(!RememberedNames().contains(m_new.name), "the Wi-Fi plug-in hasn't heard of the network");
+}
+
 void Tour::ActNewOk()
 {
-    Fill("keyEdit", QLatin1String("sea-and-sand"));
-    Fill("confirmKeyEdit", QLatin1String("sea-and-sand"));
+    EnterKeys("sea-and-sand", "sea-and-sand");
     m_expected.append(m_new);
     Click("newOkButton");
 }
 
 void Tour::CheckNew()
 {
-    CheckLastSelected();
+    CheckNewClosed();
+    ExpectSelected(m_expected.size() - 1);
+    ExpectButtons(true, false, true);
     WLANProfile profile;
     if (IWLANUIPlugin *wlan = PluginObjects::Wlan()) {
         wlan->GetProfileByName(m_new.name, &profile);
     }
-    Expect(profile.authentication == QLatin1String("WPA2PSK") && profile.encryption == QLatin1String("CCMP"),
-           "the Wi-Fi plug-in remembers the new network as it was entered");
+    Expect(RememberedNames().contains(m_new.name), "the Wi-Fi plug-in remembers the new network");
+    Expect(profile.authentication == QLatin1String("WPA2PSK") &&
+               profile.encryption == QLatin1String("CCMP") &&
+               profile.keyMaterial == QLatin1String("sea-and-sand"),
+           "the new network is remembered as it was entered");
+}
+
+void Tour::ActNewRepeated()
+{
+    Click("newButton");
+    EnterNew(m_new.name);
+    EnterKeys("sea-and-sand", "sea-and-sand");
+    ClickAndAnswer("newOkButton", "messageButton1", "IDS_PROFILE_NAME_REPEAT");
+}
+
+void Tour::ActNewCancel()
+{
+    Click("newCancelButton");
+}
+
+void Tour::CheckNewClosed()
+{
+    const QWidget *dialog = m_window->findChild<QWidget *>(QLatin1String("newDialog"));
+    Expect(!dialog || !dialog->isVisible(), "the dialog is closed");
 }
 
 void Tour::ActReadOnly()
@@ -760,8 +887,7 @@ void Tour::CheckArabic()
     const QPushButton *button = FindOf<QPushButton>("upButton");
     if (button) {
         Expect(button->isVisible(), "the page is shown");
-        Expect(button->text() == Change::tr(QLatin1String("IDS_PROFILE_UP"), QLatin1String("PriorityPlugin")),
-               "the page speaks Arabic");
+        Expect(button->text() == PluginText("IDS_PROFILE_UP"), "the page speaks Arabic");
     }
 }
 
@@ -778,8 +904,7 @@ void Tour::CheckBack()
     const QPushButton *button = FindOf<QPushButton>("upButton");
     if (button) {
         Expect(button->isVisible(), "the page is shown");
-        Expect(button->text() == Change::tr(QLatin1String("IDS_PROFILE_UP"), QLatin1String("PriorityPlugin")),
-               "the page speaks the language before");
+        Expect(button->text() == PluginText("IDS_PROFILE_UP"), "the page speaks the language before");
     }
 }
 
@@ -802,4 +927,48 @@ void Tour::ActReopen()
 void Tour::ActDismiss()
 {
     Click("settingsCancelButton");
+}
+
+void Tour::ActConnectDialog()
+{
+    Click("connectButton");
+}
+
+void Tour::CheckConnectDialog()
+{
+    const QTableWidget *table = FindOf<QTableWidget>("connectList");
+    if (table) {
+        Expect(table->isVisible(), "the dialog is open");
+        Expect(table->hasFocus(), "the networks can be chosen by key");
+        if (NamesOf(table) != NetworksInRange()) {
+            Fail(Differs("the dialog", NamesOf(table), NetworksInRange()));
+        }
+    }
+}
+
+void Tour::ActConnectOk()
+{
+    QTableWidget *table = FindOf<QTableWidget>("connectList");
+    if (!table) {
+        return;
+    }
+    const int row = table->rowCount() - 1;
+    m_selected = Entry(NetworksInRange().value(row), QLatin1String("1"));
+    FailIf(UserActions::ClickRow(table, row));
+    const int place = PlaceOf(m_selected);
+    if (place >= 0) {
+        m_expected.removeAt(place);
+    }
+    m_expected.prepend(m_selected);
+    Click("connectOkButton");
+}
+
+void Tour::CheckConnected()
+{
+    const QWidget *dialog = m_window->findChild<QWidget *>(QLatin1String("connectDialog"));
+    Expect(!dialog || !dialog->isVisible(), "the dialog is closed");
+    const QLabel *headline = FindOf<QLabel>("headlineLabel");
+    if (headline) {
+        Expect(headline->text().contains(m_selected.name), "the main window tells that it is in use");
+    }
 }

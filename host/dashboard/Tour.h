@@ -56,11 +56,13 @@ private:
     void Click(const char *name);
     void ClickRow(const PriorityList &entry);
     void PressInList(int key);
-    void ClickAndAnswer(const char *name, const char *answer);
+    void ClickAndAnswer(const char *name, const char *answer, const char *textId);
     void Tick(const PriorityList &entry);
     void Fill(const char *name, const QString &text);
     void ChooseItem(const char *name, int item);
     void SelectPage(int row);
+    void EnterNew(const QString &name);
+    void EnterKeys(const char *key, const char *confirmation);
     int PlaceOf(const PriorityList &entry) const;
     void MoveExpected(int from, int to);
     void ExpectButtons(bool up, bool down, bool remove);
@@ -86,14 +88,21 @@ private:
     void ActDeleteOk();
     void ActAddDialog();
     void CheckAddDialog();
+    void ActAddElsewhere();
+    void CheckAddElsewhere();
     void ActAddOk();
-    void CheckLastSelected();
+    void CheckAdded();
     void ActNewDialog();
     void CheckNewDialog();
-    void ActNewWrongKey();
-    void CheckStillOpen();
+    void ActNewShortKey();
+    void ActNewDifferentKeys();
+    void CheckNewRefused();
     void ActNewOk();
     void CheckNew();
+    void ActNewRepeated();
+    void CheckNewStillOpen();
+    void ActNewCancel();
+    void CheckNewClosed();
     void ActReadOnly();
     void CheckReadOnly();
     void ActForeignTop();
@@ -105,6 +114,10 @@ private:
     void CheckClosed();
     void ActReopen();
     void ActDismiss();
+    void ActConnectDialog();
+    void CheckConnectDialog();
+    void ActConnectOk();
+    void CheckConnected();
 
     void Report();
     void SavePicture(const QString &name);
@@ -122,6 +135,7 @@ private:
     PriorityList m_selected;
     QString m_languageBefore;
     QString m_answer;
+    QString m_question;
     int m_answerTriesLeft;
 };
 

@@ -141,6 +141,10 @@
         <translation>&amp;اللغة</translation>
     </message>
     <message>
+        <source>IDS_ACTION_CONNECT</source>
+        <translation>ات&amp;صال…</translation>
+    </message>
+    <message>
         <source>IDS_ACTION_SETTINGS</source>
         <translation>الإ&amp;عدادات…</translation>
     </message>
@@ -155,6 +159,10 @@
     <message>
         <source>IDS_ACTION_TRACE</source>
         <translation>إظهار سجل الت&amp;تبّع</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_CONNECT</source>
+        <translation>اتصال…</translation>
     </message>
     <message>
         <source>IDS_BUTTON_SETTINGS</source>
@@ -183,6 +191,42 @@
     <message>
         <source>IDS_CANCEL</source>
         <translation>إلغاء</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_TITLE</source>
+        <translation>الاتصال بشبكة</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_HINT</source>
+        <translation>توضع الشبكة التي تتصل بها في أعلى قائمتك.</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NETWORK</source>
+        <translation>الشبكة</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_SIGNAL</source>
+        <translation>الإشارة</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_PERCENT</source>
+        <translation>%1٪</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_OK</source>
+        <translation>اتصال</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NONE</source>
+        <translation>لا توجد شبكة في المدى. عندما توجد واحدة، افتح هذه النافذة من جديد.</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NO_WLAN</source>
+        <translation>إضافة الواي فاي غير متوفرة، لذلك لا توجد شبكة للاتصال بها.</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NO_PRIORITY</source>
+        <translation>الإضافة التي تحفظ القائمة غير متوفرة، لذلك لا يمكن وضع شبكة في أعلاها.</translation>
     </message>
     <message>
         <source>IDS_SETTINGS_TITLE</source>

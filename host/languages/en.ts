@@ -162,6 +162,10 @@ Allowed are letters, digits and these signs:
         <translation>&amp;Language</translation>
     </message>
     <message>
+        <source>IDS_ACTION_CONNECT</source>
+        <translation>&amp;Connect…</translation>
+    </message>
+    <message>
         <source>IDS_ACTION_SETTINGS</source>
         <translation>&amp;Settings…</translation>
     </message>
@@ -176,6 +180,10 @@ Allowed are letters, digits and these signs:
     <message>
         <source>IDS_ACTION_TRACE</source>
         <translation>Show &amp;trace</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_CONNECT</source>
+        <translation>Connect…</translation>
     </message>
     <message>
         <source>IDS_BUTTON_SETTINGS</source>
@@ -204,6 +212,42 @@ Allowed are letters, digits and these signs:
     <message>
         <source>IDS_CANCEL</source>
         <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_TITLE</source>
+        <translation>Connect to a network</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_HINT</source>
+        <translation>The network that you connect to goes to the top of your list.</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NETWORK</source>
+        <translation>Network</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_SIGNAL</source>
+        <translation>Signal</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_PERCENT</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_OK</source>
+        <translation>Connect</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NONE</source>
+        <translation>No network is in range. Once there is one, open this again.</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NO_WLAN</source>
+        <translation>The Wi-Fi plug-in is not available, so there is no network to connect to.</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NO_PRIORITY</source>
+        <translation>The plug-in that keeps the list is not available, so no network can be put on top of it.</translation>
     </message>
     <message>
         <source>IDS_SETTINGS_TITLE</source>

@@ -141,6 +141,10 @@
         <translation>&amp;שפה</translation>
     </message>
     <message>
+        <source>IDS_ACTION_CONNECT</source>
+        <translation>הת&amp;חברות…</translation>
+    </message>
+    <message>
         <source>IDS_ACTION_SETTINGS</source>
         <translation>ה&amp;גדרות…</translation>
     </message>
@@ -155,6 +159,10 @@
     <message>
         <source>IDS_ACTION_TRACE</source>
         <translation>הצגת &amp;מעקב</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_CONNECT</source>
+        <translation>התחברות…</translation>
     </message>
     <message>
         <source>IDS_BUTTON_SETTINGS</source>
@@ -183,6 +191,42 @@
     <message>
         <source>IDS_CANCEL</source>
         <translation>ביטול</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_TITLE</source>
+        <translation>התחברות לרשת</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_HINT</source>
+        <translation>הרשת שמתחברים אליה עוברת לראש הרשימה שלך.</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NETWORK</source>
+        <translation>רשת</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_SIGNAL</source>
+        <translation>עוצמת אות</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_PERCENT</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_OK</source>
+        <translation>התחברות</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NONE</source>
+        <translation>אין רשת בטווח. כאשר תהיה אחת, יש לפתוח חלון זה שוב.</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NO_WLAN</source>
+        <translation>תוסף ה-Wi-Fi אינו זמין, ולכן אין רשת להתחבר אליה.</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NO_PRIORITY</source>
+        <translation>התוסף ששומר את הרשימה אינו זמין, ולכן לא ניתן להעביר רשת לראשה.</translation>
     </message>
     <message>
         <source>IDS_SETTINGS_TITLE</source>
