@@ -115,9 +115,11 @@ QStringList NamesOf(const QList<PriorityList> &list)
 
 QString NameIn(const QTableWidget *table, int row)
 {
-    const QWidget *cell = table->cellWidget(row, 0);
+    if (const QWidget *cell = table->cellWidget(row, 0)) {
+        return cell->accessibleName();
+    }
     const QTableWidgetItem *item = table->item(row, 0);
-    return cell ? cell->accessibleName() : item ? item->text() : QString();
+    return item ? item->text() : QString();
 }
 
 QStringList NamesOf(const QTableWidget *table)

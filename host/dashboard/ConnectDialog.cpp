@@ -1,0 +1,242 @@
+#include "ConnectDialog.h"
+
+#include "DashboardText.h"
+#include "PluginObjects.h"
+
+#include <IPriorityPlugin.h>
+#include <IWLANUIPlugin.h>
+#include <ToolkitCompat.h>
+
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QSet>
+#include <QStackedWidget>
+#include <QStyledItemDelegate>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+namespace
+{
+
+const int dialogWidth = 400;
+const int dialogHeight = 380;
+const int nameWidth = 280;
+
+enum Column { NameColumn, SignalColumn, ColumnCount };
+
+/** What an item holds besides its text: the full name, or the signal as the Wi-Fi plug-in gave it. */
+const int valueRole = Qt::UserRole;
+
+/** Lets every name read in its own direction, whichever one the row has. */
+class NameDelegate : public QStyledItemDelegate
+{
+public:
+    explicit NameDelegate(QObject *parent) : QStyledItemDelegate(parent) {}
+
+    QString displayText(const QVariant &value, const QLocale &) const override
+    {
+        const ushort leftToRightEmbedding = 0x202a;
+        const ushort rightToLeftEmbedding = 0x202b;
+        const ushort endOfEmbedding = 0x202c;
+        const QString name = value.toString();
+        return QChar(name.isRightToLeft() ? rightToLeftEmbedding : leftToRightEmbedding) + name +
+               QChar(endOfEmbedding);
+    }
+};
+
+/** The Wi-Fi plug-ins of this dashboard put the percentage there; another may put there what it likes. */
+QString SignalText(int value)
+{
+    return value >= 0 && value <= 100 ? DashboardText("IDS_CONNECT_PERCENT").arg(value) : QString();
+}
+
+} // namespace
+
+ConnectDialog::ConnectDialog(QWidget *parent)
+    : ExtendDialog(parent, Qt::WindowCloseButtonHint, enWidgetTypeDialog), m_isWlanMissing(false),
+      m_hint(nullptr), m_body(nullptr), m_table(nullptr), m_empty(nullptr), m_problem(nullptr),
+      m_okButton(nullptr), m_cancelButton(nullptr)
+{
+    setObjectName(QLatin1String("connectDialog"));
+    QWidget *content = new QWidget(this);
+    content->setObjectName(QLatin1String("connectContent"));
+    QVBoxLayout *layout = new QVBoxLayout(content);
+    layout->setSpacing(10);
+    m_hint = CreateLabel("connectHintLabel");
+    layout->addWidget(m_hint);
+
+    CreateTable();
+    m_empty = CreateLabel("connectEmptyLabel");
+    m_empty->setAlignment(Qt::AlignCenter);
+    m_empty->setMargin(24);
+    m_empty->setAutoFillBackground(true);
+    m_empty->setBackgroundRole(QPalette::Base);
+    m_body = new QStackedWidget;
+    m_body->setObjectName(QLatin1String("connectBody"));
+    m_body->addWidget(m_table);
+    m_body->addWidget(m_empty);
+    layout->addWidget(m_body, 1);
+
+    m_problem = CreateLabel("connectProblemLabel");
+    m_problem->hide();
+    layout->addWidget(m_problem);
+    layout->addWidget(CreateButtons());
+    AddMainWidget(content);
+    setFixedSize(dialogWidth, dialogHeight);
+
+    ListNetworks();
+    FollowChoice();
+    connect(m_table, SIGNAL(itemSelectionChanged()), this, SLOT(FollowChoice()));
+    connect(m_table, SIGNAL(cellDoubleClicked(int, int)), this, SLOT(accept()));
+    Retranslate();
+}
+
+void ConnectDialog::CreateTable()
+{
+    m_table = new QTableWidget(0, ColumnCount);
+    m_table->setObjectName(QLatin1String("connectList"));
+    m_table->setItemDelegateForColumn(NameColumn, new NameDelegate(m_table));
+    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_table->setTabKeyNavigation(false);
+    m_table->setShowGrid(false);
+    m_table->setWordWrap(false);
+    m_table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_table->verticalHeader()->hide();
+    QHeaderView *header = m_table->horizontalHeader();
+    header->setObjectName(QLatin1String("connectHeader"));
+    header->setHighlightSections(false);
+    header->setStretchLastSection(true);
+    // A column can't be chosen or sorted by.
+    header->setAttribute(Qt::WA_TransparentForMouseEvents);
+    m_table->setColumnWidth(NameColumn, nameWidth);
+    for (int column = 0; column < ColumnCount; ++column) {
+        QTableWidgetItem *title = new QTableWidgetItem;
+        title->setTextAlignment((column == NameColumn ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+        m_table->setHorizontalHeaderItem(column, title);
+    }
+}
+
+QLabel *ConnectDialog::CreateLabel(const char *name)
+{
+    QLabel *label = new QLabel;
+    label->setObjectName(QLatin1String(name));
+    label->setWordWrap(true);
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+QWidget *ConnectDialog::CreateButtons()
+{
+    QWidget *bar = new QWidget;
+    bar->setObjectName(QLatin1String("connectButtonBar"));
+    m_okButton = new QPushButton(bar);
+    m_okButton->setObjectName(QLatin1String("connectOkButton"));
+    m_okButton->setDefault(true);
+    connect(m_okButton, SIGNAL(clicked()), this, SLOT(accept()));
+    m_cancelButton = new QPushButton(bar);
+    m_cancelButton->setObjectName(QLatin1String("connectCancelButton"));
+    m_cancelButton->setAutoDefault(false);
+    connect(m_cancelButton, SIGNAL(clicked()), this, SLOT(reject()));
+    QHBoxLayout *row = new QHBoxLayout(bar);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addStretch();
+    row->addWidget(m_okButton);
+    row->addWidget(m_cancelButton);
+    return bar;
+}
+
+void ConnectDialog::ListNetworks()
+{
+    QList<WlanAvilableNetworkInfo> networks;
+    IWLANUIPlugin *wlan = PluginObjects::Wlan();
+    m_isWlanMissing = !wlan;
+    if (wlan) {
+        wlan->GetAvailableNetworks(&networks);
+    }
+    QSet<QString> listed;
+    for (int i = 0; i < networks.size(); ++i) {
+        const WlanAvilableNetworkInfo &network = networks.at(i);
+        // The list knows networks by their name alone: one without can't be put on top, and of several
+        // stations of one network the first is the best.
+        if (network.networkName.isEmpty() || listed.contains(network.networkName)) {
+            continue;
+        }
+        listed.insert(network.networkName);
+        const int row = m_table->rowCount();
+        m_table->setRowCount(row + 1);
+        // A name may hold line breaks; it has one line here.
+        QTableWidgetItem *name = new QTableWidgetItem(network.networkName.simplified());
+        name->setData(valueRole, network.networkName);
+        name->setToolTip(ToolkitCompat::PlainTextAsHtml(network.networkName));
+        m_table->setItem(row, NameColumn, name);
+        QTableWidgetItem *signal = new QTableWidgetItem;
+        signal->setData(valueRole, network.value1);
+        signal->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        m_table->setItem(row, SignalColumn, signal);
+    }
+    if (m_table->rowCount() > 0) {
+        m_body->setCurrentWidget(m_table);
+        m_table->setCurrentCell(0, NameColumn);
+        m_table->setFocus();
+    } else {
+        m_body->setCurrentWidget(m_empty);
+    }
+}
+
+void ConnectDialog::Retranslate()
+{
+    setWindowTitle(DashboardText("IDS_CONNECT_TITLE"));
+    m_hint->setText(DashboardText("IDS_CONNECT_HINT"));
+    m_table->setAccessibleName(DashboardText("IDS_CONNECT_TITLE"));
+    m_table->horizontalHeaderItem(NameColumn)->setText(DashboardText("IDS_CONNECT_NETWORK"));
+    m_table->horizontalHeaderItem(SignalColumn)->setText(DashboardText("IDS_CONNECT_SIGNAL"));
+    for (int row = 0; row < m_table->rowCount(); ++row) {
+        QTableWidgetItem *signal = m_table->item(row, SignalColumn);
+        signal->setText(SignalText(signal->data(valueRole).toInt()));
+    }
+    m_empty->setText(DashboardText(m_isWlanMissing ? "IDS_CONNECT_NO_WLAN" : "IDS_CONNECT_NONE"));
+    m_problem->setText(DashboardText("IDS_CONNECT_NO_PRIORITY"));
+    m_okButton->setText(DashboardText("IDS_CONNECT_OK"));
+    m_cancelButton->setText(DashboardText("IDS_CANCEL"));
+}
+
+void ConnectDialog::FollowChoice()
+{
+    m_okButton->setEnabled(!ChosenNetwork().isEmpty());
+}
+
+QString ConnectDialog::ChosenNetwork() const
+{
+    const QModelIndexList chosen = m_table->selectionModel()->selectedRows(NameColumn);
+    return chosen.isEmpty() ? QString() : chosen.first().data(valueRole).toString();
+}
+
+bool ConnectDialog::Connect(const QString &network)
+{
+    IPriorityPlugin *priority = PluginObjects::Priority();
+    if (!priority) {
+        return false;
+    }
+    PriorityList entry;
+    entry.name = network;
+    entry.type = QLatin1String("1");
+    priority->AddTopPriority(entry);
+    return true;
+}
+
+void ConnectDialog::accept()
+{
+    const QString network = ChosenNetwork();
+    if (network.isEmpty()) {
+        return;
+    }
+    if (!Connect(network)) {
+        m_problem->show();
+        return;
+    }
+    ExtendDialog::accept();
+}

@@ -1,0 +1,54 @@
+#ifndef CONNECTDIALOG_H
+#define CONNECTDIALOG_H
+
+#include <ExtendDialog.h>
+
+#include <QString>
+
+class QLabel;
+class QPushButton;
+class QStackedWidget;
+class QTableWidget;
+
+/**
+ * Lists the networks in range. The one that the user connects to goes to the top of the priority list, as it
+ * does when a plug-in has connected to it.
+ */
+class ConnectDialog : public ExtendDialog
+{
+    Q_OBJECT
+
+public:
+    explicit ConnectDialog(QWidget *parent);
+
+    /** Puts the Wi-Fi network of that name on top, in range or not. False: there is no priority plug-in to
+     * ask. */
+    static bool Connect(const QString &network);
+
+    /** Stays open, and says why, when the chosen network can't be put on top. */
+    void accept() override;
+
+public slots:
+    void Retranslate();
+
+private slots:
+    void FollowChoice();
+
+private:
+    void CreateTable();
+    QLabel *CreateLabel(const char *name);
+    QWidget *CreateButtons();
+    void ListNetworks();
+    QString ChosenNetwork() const;
+
+    bool m_isWlanMissing;
+    QLabel *m_hint;
+    QStackedWidget *m_body;
+    QTableWidget *m_table;
+    QLabel *m_empty;
+    QLabel *m_problem;
+    QPushButton *m_okButton;
+    QPushButton *m_cancelButton;
+};
+
+#endif
