@@ -11,4 +11,8 @@ public:
     ~DragTableWidget() override;
 };
 
+/** What the tables of both lists have in common: one column of cell widgets, nothing to edit, one row at a
+ * time. */
+void SetUpListTable(QTableWidget *table);
+
 #endif

@@ -1,5 +1,6 @@
 #include "qaddprioritywidget.h"
 
+#include "DragTableWidget.h"
 #include "PriorityListItem.h"
 #include "PriorityXMLParser.h"
 #include "WLANPlugin.h"
@@ -12,7 +13,6 @@
 #include <QCheckBox>
 #include <QFocusEvent>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QVBoxLayout>
@@ -168,15 +168,7 @@ void QAddPriorityWidget::SetTabWidget()
         return;
     }
     m_table->clear();
-    m_table->setColumnCount(1);
-    m_table->setColumnWidth(0, 300);
-    m_table->horizontalHeader()->setVisible(false);
-    m_table->verticalHeader()->setVisible(false);
-    m_table->setShowGrid(false);
-    m_table->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    m_table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
+    SetUpListTable(m_table);
     // Else the key only goes round the cells, and the check boxes in them are out of a keyboard's reach.
     m_table->setTabKeyNavigation(false);
 }

@@ -15,7 +15,6 @@
 
 #include <QFrame>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPointer>
@@ -198,18 +197,9 @@ void QPriorityWidget::CreateList()
 void QPriorityWidget::InitTabWidget()
 {
     CFunctonTrick trick(SourcePath(), QLatin1String("InitTabWidget"), "");
-    if (!m_table) {
-        return;
+    if (m_table) {
+        SetUpListTable(m_table);
     }
-    m_table->setColumnCount(1);
-    m_table->setColumnWidth(0, 300);
-    m_table->horizontalHeader()->setVisible(false);
-    m_table->verticalHeader()->setVisible(false);
-    m_table->setShowGrid(false);
-    m_table->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    m_table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
 }
 
 void QPriorityWidget::SetLanguage()
