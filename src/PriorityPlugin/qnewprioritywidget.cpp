@@ -213,10 +213,13 @@ void QNewPriorityWidget::CreateChoice(QVBoxLayout *column, const QString &name, 
 
 void QNewPriorityWidget::AddRow(QBoxLayout *row)
 {
-    if (m_mainLayout) {
-        m_mainLayout->addSpacing(rowSpacing);
-        m_mainLayout->addLayout(row);
+    if (!m_mainLayout) {
+        // Nobody else would own it.
+        row->setParent(this);
+        return;
     }
+    m_mainLayout->addSpacing(rowSpacing);
+    m_mainLayout->addLayout(row);
 }
 
 void QNewPriorityWidget::CreateNetworkName()

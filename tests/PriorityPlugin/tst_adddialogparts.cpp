@@ -241,6 +241,7 @@ void tst_AddDialogParts::releasedPageGetsNothing()
     body.release();
     body.CreateLayoput();
     body.CreateAllWidget();
+    body.CreateAllButton();
     TraceCapture trace;
     body.SendPriorityList();
     QCOMPARE(trace.Lines(), QStringList());
