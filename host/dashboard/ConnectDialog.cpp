@@ -13,6 +13,7 @@
 #include <QPushButton>
 #include <QSet>
 #include <QStackedWidget>
+#include <QStyle>
 #include <QStyledItemDelegate>
 #include <QTableWidget>
 #include <QVBoxLayout>
@@ -22,7 +23,8 @@ namespace
 
 const int dialogWidth = 400;
 const int dialogHeight = 380;
-const int nameWidth = 280;
+// Leaves the signal enough beside a scroll bar.
+const int nameWidth = 250;
 
 enum Column { NameColumn, SignalColumn, ColumnCount };
 
@@ -114,9 +116,7 @@ void ConnectDialog::CreateTable()
     header->setAttribute(Qt::WA_TransparentForMouseEvents);
     m_table->setColumnWidth(NameColumn, nameWidth);
     for (int column = 0; column < ColumnCount; ++column) {
-        QTableWidgetItem *title = new QTableWidgetItem;
-        title->setTextAlignment((column == NameColumn ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
-        m_table->setHorizontalHeaderItem(column, title);
+        m_table->setHorizontalHeaderItem(column, new QTableWidgetItem);
     }
 }
 
@@ -192,8 +192,8 @@ void ConnectDialog::Retranslate()
     setWindowTitle(DashboardText("IDS_CONNECT_TITLE"));
     m_hint->setText(DashboardText("IDS_CONNECT_HINT"));
     m_table->setAccessibleName(DashboardText("IDS_CONNECT_TITLE"));
-    m_table->horizontalHeaderItem(NameColumn)->setText(DashboardText("IDS_CONNECT_NETWORK"));
-    m_table->horizontalHeaderItem(SignalColumn)->setText(DashboardText("IDS_CONNECT_SIGNAL"));
+    SetHeader(NameColumn, "IDS_CONNECT_NETWORK", Qt::AlignLeft);
+    SetHeader(SignalColumn, "IDS_CONNECT_SIGNAL", Qt::AlignRight);
     for (int row = 0; row < m_table->rowCount(); ++row) {
         QTableWidgetItem *signal = m_table->item(row, SignalColumn);
         signal->setText(SignalText(signal->data(valueRole).toInt()));
@@ -202,6 +202,15 @@ void ConnectDialog::Retranslate()
     m_problem->setText(DashboardText("IDS_CONNECT_NO_PRIORITY"));
     m_okButton->setText(DashboardText("IDS_CONNECT_OK"));
     m_cancelButton->setText(DashboardText("IDS_CANCEL"));
+}
+
+void ConnectDialog::SetHeader(int column, const char *textId, Qt::Alignment side)
+{
+    // Unlike a table, its header doesn't mirror the alignment of its texts.
+    const Qt::Alignment alignment = QStyle::visualAlignment(layoutDirection(), side | Qt::AlignVCenter);
+    QTableWidgetItem *header = m_table->horizontalHeaderItem(column);
+    header->setText(DashboardText(textId));
+    header->setTextAlignment(alignment | Qt::AlignAbsolute);
 }
 
 void ConnectDialog::FollowChoice()

@@ -39,6 +39,7 @@ private:
     QLabel *CreateLabel(const char *name);
     QWidget *CreateButtons();
     void ListNetworks();
+    void SetHeader(int column, const char *textId, Qt::Alignment side);
     QString ChosenNetwork() const;
 
     bool m_isWlanMissing;

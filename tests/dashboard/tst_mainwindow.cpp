@@ -1,5 +1,6 @@
 #include "Eventually.h"
 
+#include <ConnectDialog.h>
 #include <DashboardLanguage.h>
 #include <HostControl.h>
 #include <MainWindow.h>
@@ -19,6 +20,7 @@
 #include <QFile>
 #include <QLabel>
 #include <QListWidget>
+#include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTableWidget>
@@ -69,6 +71,12 @@ private slots:
     void SettingsOpenOnce();
     void WindowIsRefreshedWhenSettingsClose();
     void WindowClosedWithOpenSettingsSparesThePage();
+    void ConnectPutsTheNetworkOnTop_data();
+    void ConnectPutsTheNetworkOnTop();
+    void ConnectMovesAListedNetworkToTheTop();
+    void ConnectOpensOnceAndAgain();
+    void OpenPageFollowsAConnection();
+    void OpenConnectFollowsTheLanguage();
     void LanguageMenuSwitches();
     void OpenSettingsFollowTheLanguage();
     void TraceIsShownOnDemand();
@@ -277,6 +285,88 @@ void MainWindowTest::WindowClosedWithOpenSettingsSparesThePage()
     m_window->OpenSettings();
     const QWidget *page = m_window->findChild<QWidget *>("priorityPage");
     QVERIFY(page && page->isVisible());
+}
+
+void MainWindowTest::ConnectPutsTheNetworkOnTop_data()
+{
+    QTest::addColumn<bool>("byMenu");
+    QTest::newRow("button") << false;
+    QTest::newRow("File menu") << true;
+}
+
+void MainWindowTest::ConnectPutsTheNetworkOnTop()
+{
+    QFETCH(bool, byMenu);
+    m_window->Refresh();
+    if (byMenu) {
+        QAction *action = m_window->findChild<QAction *>("connectAction");
+        QVERIFY(m_window->findChild<QMenu *>("fileMenu")->actions().contains(action));
+        action->trigger();
+    } else {
+        QTest::mouseClick(m_window->findChild<QPushButton *>("connectButton"), Qt::LeftButton);
+    }
+    QTableWidget *list = m_window->findChild<QTableWidget *>("connectList");
+    QVERIFY(list && list->isVisible() && list->window()->isModal());
+    QCOMPARE(list->rowCount(), 2);
+    QTest::keyClick(list, Qt::Key_Down);
+    QTest::mouseClick(m_window->findChild<QPushButton *>("connectOkButton"), Qt::LeftButton);
+    QCOMPARE(Names(), QStringList("Library"));
+    QCOMPARE(Text("headlineLabel"), QString("In use now: Library"));
+    QVERIFY(m_directory->Read("priority-dashboard/Priority.xml").contains("name=\"Library\" type=\"1\""));
+}
+
+void MainWindowTest::ConnectMovesAListedNetworkToTheTop()
+{
+    QList<PriorityList> entries;
+    entries << Entry("Office") << Entry("Mobile", "2") << Entry("Home");
+    PluginObjects::Priority()->AddPriorityList(entries);
+    m_window->OpenConnect();
+    QTest::keyClick(m_window->findChild<QTableWidget *>("connectList"), Qt::Key_Return);
+    QCOMPARE(Names(), QStringList() << "Home"
+                                    << "Office"
+                                    << "Mobile");
+}
+
+void MainWindowTest::ConnectOpensOnceAndAgain()
+{
+    m_window->OpenConnect();
+    m_window->OpenConnect();
+    QCOMPARE(m_window->findChildren<QDialog *>("connectDialog").size(), 1);
+    m_window->findChild<QDialog *>("connectDialog")->reject();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCOMPARE(m_window->findChildren<QDialog *>("connectDialog").size(), 0);
+    m_window->OpenConnect();
+    QVERIFY(m_window->findChild<QDialog *>("connectDialog")->isVisible());
+}
+
+void MainWindowTest::OpenPageFollowsAConnection()
+{
+    PluginObjects::Priority()->AddTopPriority(Entry("Office"));
+    m_window->OpenSettings();
+    const QTableWidget *table = m_window->findChild<QTableWidget *>("priorityTable");
+    QCOMPARE(table->rowCount(), 1);
+    QVERIFY(ConnectDialog::Connect("Home"));
+    QCOMPARE(table->rowCount(), 2);
+    QCOMPARE(table->cellWidget(0, 0)->accessibleName(), QString("Home"));
+
+    m_window->OpenConnect();
+    QTableWidget *networks = m_window->findChild<QTableWidget *>("connectList");
+    QTest::keyClick(networks, Qt::Key_Down);
+    QTest::mouseClick(m_window->findChild<QPushButton *>("connectOkButton"), Qt::LeftButton);
+    QCOMPARE(table->rowCount(), 3);
+    QCOMPARE(table->cellWidget(0, 0)->accessibleName(), QString("Library"));
+    QVERIFY(table->isVisible());
+    QCOMPARE(Names(), QStringList() << "Library"
+                                    << "Home"
+                                    << "Office");
+}
+
+void MainWindowTest::OpenConnectFollowsTheLanguage()
+{
+    m_window->OpenConnect();
+    QVERIFY(m_language->Switch("he"));
+    QCOMPARE(m_window->findChild<QDialog *>("connectDialog")->windowTitle(),
+             QString::fromUtf8("התחברות לרשת"));
 }
 
 void MainWindowTest::LanguageMenuSwitches()

@@ -1,13 +1,19 @@
+#include "FakePriority.h"
+
 #include <DashboardLanguage.h>
+#include <FakeWLAN.h>
 #include <HostControl.h>
+#include <IPluginContainer.h>
 #include <MainWindow.h>
 #include <PluginHost.h>
 #include <TemporaryDirectory.h>
 #include <TraceLog.h>
 
+#include <QAction>
 #include <QDialog>
 #include <QLabel>
 #include <QListWidget>
+#include <QPushButton>
 #include <QtTest>
 
 namespace
@@ -20,6 +26,22 @@ QList<KnownPlugin> KnownAs(const QString &priorityFolder, const QString &wlanFol
     known[1].folder = wlanFolder;
     return known;
 }
+
+/** Hands out the same two objects, which may be null. */
+class FixedContainer : public IPluginContainer
+{
+public:
+    FixedContainer(QObject *wlan, QObject *priority) : m_wlan(wlan), m_priority(priority) {}
+
+    QObject *GetPluginObject(const QString &, int interfaceNumber) override
+    {
+        return interfaceNumber == 4102 ? m_wlan : m_priority;
+    }
+
+private:
+    QObject *const m_wlan;
+    QObject *const m_priority;
+};
 
 } // namespace
 
@@ -34,6 +56,8 @@ private slots:
     void MissingListIsExplainedInItsPlace();
     void SettingsExplainItToo();
     void OtherMissingPluginIsToldAboveTheList();
+    void ConnectTellsWhyItCannotBeUsed_data();
+    void ConnectTellsWhyItCannotBeUsed();
 
 private:
     TemporaryDirectory m_directory;
@@ -109,6 +133,39 @@ void MainWindowProblemsTest::OtherMissingPluginIsToldAboveTheList()
     QVERIFY(problems->isVisible());
     QVERIFY(problems->text().contains("libInitFails.so"));
     QVERIFY(!problems->text().contains("libAbsent.so"));
+}
+
+void MainWindowProblemsTest::ConnectTellsWhyItCannotBeUsed_data()
+{
+    QTest::addColumn<bool>("hasWlan");
+    QTest::addColumn<bool>("hasPriority");
+    QTest::addColumn<QString>("told");
+    QTest::newRow("Wi-Fi plug-in missing") << false << true << "The Wi-Fi plug-in is not available";
+    QTest::newRow("priority plug-in missing") << true << false << "The plug-in that keeps the list";
+    QTest::newRow("both missing") << false << false << "The Wi-Fi plug-in is not available";
+    QTest::newRow("both there") << true << true << "";
+}
+
+void MainWindowProblemsTest::ConnectTellsWhyItCannotBeUsed()
+{
+    QFETCH(bool, hasWlan);
+    QFETCH(bool, hasPriority);
+    QFETCH(QString, told);
+    TraceLog log(m_directory.FilePath("dashboard.log"));
+    PluginHost plugins(BUILD_DIRECTORY "/tests/fixtures", QList<KnownPlugin>());
+    FakeWLAN wlan;
+    FakePriority priority;
+    FixedContainer container(hasWlan ? &wlan : nullptr, hasPriority ? &priority : nullptr);
+    HostControl::SetPluginContainer(&container);
+    DashboardLanguage language(&plugins, nullptr);
+    MainWindow window(&plugins, &language, &log);
+    window.show();
+    HostControl::SetPluginContainer(nullptr);
+    const QPushButton *button = window.findChild<QPushButton *>("connectButton");
+    QCOMPARE(button->isEnabled(), told.isEmpty());
+    QCOMPARE(window.findChild<QAction *>("connectAction")->isEnabled(), told.isEmpty());
+    QCOMPARE(button->toolTip().left(told.size()), told);
+    QCOMPARE(button->toolTip().isEmpty(), told.isEmpty());
 }
 
 QTEST_MAIN(MainWindowProblemsTest)
