@@ -5,7 +5,6 @@
 #include <CommonUtils.h>
 #include <ZeltSdk.h>
 
-#include <QBuffer>
 #include <QFile>
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
