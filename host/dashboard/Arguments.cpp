@@ -12,7 +12,7 @@ struct ValueOption {
 
 const ValueOption valueOptions[] = {
     {"--language", &Arguments::language},
-    {"--library-path", &Arguments::libraryPath},
+    {"--library-path", &Arguments::pluginLibraryPath},
     {"--tour", &Arguments::tourDirectory},
 };
 

@@ -13,7 +13,7 @@ struct Arguments {
 
     /** Each is null when it wasn't given. */
     QString language;
-    QString libraryPath;
+    QString pluginLibraryPath;
     QString tourDirectory;
 
     /** @param arguments  without the program's name. */

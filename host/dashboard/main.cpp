@@ -42,9 +42,9 @@ bool HasDisplay()
 
 QString LibraryPath(const Arguments &arguments)
 {
-    const QString path = arguments.libraryPath.isNull()
+    const QString path = arguments.pluginLibraryPath.isNull()
                              ? QApplication::applicationDirPath() + QLatin1String("/..")
-                             : arguments.libraryPath;
+                             : arguments.pluginLibraryPath;
     return QDir::cleanPath(QDir().absoluteFilePath(path));
 }
 

@@ -22,7 +22,7 @@ void ArgumentsTest::NothingGivenRuns()
 {
     const Arguments arguments = Arguments::Parse(QStringList());
     QCOMPARE(arguments.action, Arguments::Run);
-    QVERIFY(arguments.language.isNull() && arguments.libraryPath.isNull() &&
+    QVERIFY(arguments.language.isNull() && arguments.pluginLibraryPath.isNull() &&
             arguments.tourDirectory.isNull());
 }
 
@@ -59,7 +59,7 @@ void ArgumentsTest::ValuesAreTaken()
     const Arguments arguments = Arguments::Parse(given);
     QCOMPARE(arguments.action, Arguments::Run);
     QTEST(arguments.language, "language");
-    QTEST(arguments.libraryPath, "libraryPath");
+    QTEST(arguments.pluginLibraryPath, "libraryPath");
     QTEST(arguments.tourDirectory, "tour");
 }
 
