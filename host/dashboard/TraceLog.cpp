@@ -18,7 +18,12 @@ namespace
 {
 
 TraceLog *currentLog = nullptr;
-QMutex currentLogLock;
+
+QMutex *CurrentLogLock()
+{
+    static QMutex lock;
+    return &lock;
+}
 
 const mode_t ownerOnly = S_IRUSR | S_IWUSR;
 
@@ -50,7 +55,7 @@ TraceLog::TraceLog(const QString &path)
       m_failureTold(false)
 {
     {
-        QMutexLocker locker(&currentLogLock);
+        QMutexLocker locker(CurrentLogLock());
         currentLog = this;
     }
     ToolkitCompat::InstallTextMessageHandler(Receive);
@@ -60,7 +65,7 @@ TraceLog::~TraceLog()
 {
     // The handler stays: a message of another thread may be on its way to it.
     {
-        QMutexLocker locker(&currentLogLock);
+        QMutexLocker locker(CurrentLogLock());
         currentLog = nullptr;
     }
     CloseFile();
@@ -74,7 +79,7 @@ QStringList TraceLog::Lines() const
 
 void TraceLog::Warn(const QString &text)
 {
-    QMutexLocker locker(&currentLogLock);
+    QMutexLocker locker(CurrentLogLock());
     WriteToTerminal(text);
     if (currentLog) {
         currentLog->Add(QtWarningMsg, text);
@@ -86,7 +91,7 @@ void TraceLog::Receive(QtMsgType type, const QString &text)
     if (type == QtFatalMsg) {
         WriteToTerminal(text);
     }
-    QMutexLocker locker(&currentLogLock);
+    QMutexLocker locker(CurrentLogLock());
     if (currentLog) {
         currentLog->Add(type, text);
     } else if (type != QtDebugMsg && type != QtFatalMsg) {
