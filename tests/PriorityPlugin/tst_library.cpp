@@ -4,9 +4,7 @@
 
 #include <TemporaryDirectory.h>
 
-#include <QLibrary>
 #include <QPluginLoader>
-#include <QProcess>
 #include <QTableWidget>
 #include <QtTest>
 
@@ -16,36 +14,12 @@ class tst_Library : public QObject
     Q_OBJECT
 
 private slots:
-    void exportsTheEntryPointsOnly();
     void resourcesLieBesideIt();
-    void verificationText();
     void loadsThroughThePluginLoader();
 
 private:
     static QString Directory() { return BUILD_DIRECTORY "/plugins/PriorityPlugin/"; }
 };
-
-void tst_Library::exportsTheEntryPointsOnly()
-{
-    QProcess nm;
-    nm.start("nm", QStringList() << "-D"
-                                 << "--defined-only" << Directory() + "libPriorityPlugin.so");
-    QVERIFY2(nm.waitForFinished() && nm.exitCode() == 0, "nm of binutils is needed");
-    QStringList names;
-    const QStringList lines = QString::fromLatin1(nm.readAllStandardOutput()).split('\n');
-    for (int i = 0; i < lines.size(); ++i) {
-        const QString name = lines.at(i).section(' ', 2, 2);
-        if (!name.isEmpty()) {
-            names << name;
-        }
-    }
-    names.sort();
-    QVERIFY(names.removeOne("qt_plugin_instance"));
-    QVERIFY(names.removeOne("qt_plugin_query_verification_data"));
-    // The toolkit's own metadata, from its fifth generation on.
-    names.removeOne("qt_plugin_query_metadata");
-    QCOMPARE(names, QStringList());
-}
 
 void tst_Library::resourcesLieBesideIt()
 {
@@ -59,19 +33,6 @@ void tst_Library::resourcesLieBesideIt()
         QVERIFY(source.open(QIODevice::ReadOnly));
         QCOMPARE(built.readAll(), source.readAll());
     }
-}
-
-void tst_Library::verificationText()
-{
-    QLibrary library(Directory() + "libPriorityPlugin.so");
-    QVERIFY2(library.load(), qPrintable(library.errorString()));
-    typedef const char *(*VerificationFunction)();
-    const VerificationFunction verification =
-        reinterpret_cast<VerificationFunction>(library.resolve("qt_plugin_query_verification_data"));
-    QVERIFY(verification);
-    QCOMPARE(QByteArray(verification()),
-             QByteArray("pattern=QT_PLUGIN_VERIFICATION_DATA\nversion=4.6.2\ndebug=false\n"
-                        "buildkey=macosx macx g++-4 full-config"));
 }
 
 void tst_Library::loadsThroughThePluginLoader()

@@ -17,8 +17,6 @@ class tst_storedlibrary : public QObject
 private slots:
     void LoadsThroughThePluginLoader();
     void LoadsThroughItsEntryPoint();
-    void AnswersTheVerificationText();
-    void ExportsItsEntryPointsOnly();
     void FindsTheSdkLibraryBesideThePlugins();
     void AnswersTheHostsQuestions();
     void HandsOutTheServiceForTheWlanNumberOnly_data();
@@ -63,46 +61,6 @@ void tst_storedlibrary::LoadsThroughItsEntryPoint()
     QVERIFY(plugin);
     QCOMPARE(qobject_cast<IBasePlugin *>(root), static_cast<IBasePlugin *>(plugin));
     QVERIFY(!qobject_cast<INotify *>(root));
-}
-
-void tst_storedlibrary::AnswersTheVerificationText()
-{
-    typedef const char *(*Query)();
-    const Query query = reinterpret_cast<Query>(
-        QLibrary(StoredFixture::LibraryFile()).resolve("qt_plugin_query_verification_data"));
-    QVERIFY(query);
-    QCOMPARE(QByteArray(query()),
-             QByteArray("pattern=QT_PLUGIN_VERIFICATION_DATA\nversion=4.6.2\ndebug=false\n"
-                        "buildkey=macosx macx g++-4 full-config"));
-}
-
-void tst_storedlibrary::ExportsItsEntryPointsOnly()
-{
-    QProcess lister;
-    lister.start("nm", QStringList() << "-D"
-                                     << "--defined-only" << StoredFixture::LibraryFile());
-    QVERIFY(lister.waitForFinished());
-    QCOMPARE(lister.exitCode(), 0);
-    QStringList symbols;
-    const QList<QByteArray> lines = lister.readAllStandardOutput().split('\n');
-    for (int i = 0; i < lines.size(); ++i) {
-        if (!lines.at(i).isEmpty()) {
-            symbols.append(QString::fromLatin1(lines.at(i)).section(' ', -1));
-        }
-    }
-    QVERIFY(symbols.removeAll("qt_plugin_instance"));
-    QVERIFY(symbols.removeAll("qt_plugin_query_verification_data"));
-    // The toolkit's own addition, and what linkers define in every library.
-    const QStringList harmless = QStringList() << "qt_plugin_query_metadata"
-                                               << "_init"
-                                               << "_fini"
-                                               << "__bss_start"
-                                               << "_edata"
-                                               << "_end";
-    for (int i = 0; i < harmless.size(); ++i) {
-        symbols.removeAll(harmless.at(i));
-    }
-    QVERIFY2(symbols.isEmpty(), qPrintable(symbols.join(" ")));
 }
 
 void tst_storedlibrary::FindsTheSdkLibraryBesideThePlugins()
