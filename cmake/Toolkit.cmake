@@ -1,24 +1,17 @@
-# The toolkit behind one set of names, so that no other file names its generation.
+# The toolkit behind one set of names, so that no other file names its generation: the targets PriorityQtCore,
+# PriorityQtWidgets and PriorityQtTest, the function priority_compile_languages, and PRIORITY_CXX_STANDARD.
 
-find_package(Qt5 5.15 REQUIRED COMPONENTS Core Gui Widgets)
-find_package(Qt5LinguistTools REQUIRED)
-
-add_library(PriorityQtCore INTERFACE)
-target_link_libraries(PriorityQtCore INTERFACE Qt5::Core)
-
-add_library(PriorityQtWidgets INTERFACE)
-target_link_libraries(PriorityQtWidgets INTERFACE Qt5::Core Qt5::Gui Qt5::Widgets)
-
-if(PRIORITY_TESTS)
-    find_package(Qt5 5.15 REQUIRED COMPONENTS Test)
-    add_library(PriorityQtTest INTERFACE)
-    target_link_libraries(PriorityQtTest INTERFACE PriorityQtWidgets Qt5::Test)
+set(PRIORITY_QT "5" CACHE STRING "Generation of the toolkit to build for: 4, 5 or 6")
+set_property(CACHE PRIORITY_QT PROPERTY STRINGS 4 5 6)
+if(NOT PRIORITY_QT MATCHES "^[456]$")
+    message(FATAL_ERROR "PRIORITY_QT is \"${PRIORITY_QT}\". It names the generation of Qt to build for: "
+        "4 (4.8), 5 (5.15) or 6 (6.4).")
 endif()
 
-# priority_compile_languages(<variable for the .qm files> OUTPUT_DIRECTORY <dir> FILES <.ts>...)
-function(priority_compile_languages result)
-    cmake_parse_arguments(arg "" "OUTPUT_DIRECTORY" "FILES" ${ARGN})
-    set_source_files_properties(${arg_FILES} PROPERTIES OUTPUT_LOCATION "${arg_OUTPUT_DIRECTORY}")
-    qt5_add_translation(compiled ${arg_FILES})
-    set(${result} ${compiled} PARENT_SCOPE)
-endfunction()
+foreach(target PriorityQtCore PriorityQtWidgets PriorityQtTest)
+    add_library(${target} INTERFACE)
+endforeach()
+target_link_libraries(PriorityQtWidgets INTERFACE PriorityQtCore)
+target_link_libraries(PriorityQtTest INTERFACE PriorityQtWidgets)
+
+include(ToolkitQt${PRIORITY_QT})

@@ -7,6 +7,8 @@
  * function-like macro.
  */
 
+#include <QComboBox>
+#include <QMouseEvent>
 #include <QString>
 #include <QWidget>
 
@@ -14,6 +16,13 @@
 
 #if QT_VERSION < 0x050000
 #include <QTextDocument>
+#endif
+#if QT_VERSION < 0x060000
+#include <QRegExpValidator>
+#include <QTextCodec>
+#else
+#include <QRegularExpressionValidator>
+#include <QStringDecoder>
 #endif
 #if QT_VERSION >= 0x050f00
 #include <QWindow>
@@ -31,6 +40,31 @@ inline QString FormatText(const char *format, va_list arguments)
     QString text;
     text.vsprintf(format, arguments);
     return text;
+#endif
+}
+
+/** The text of zero-terminated UTF-16 code units. */
+inline QString FromUtf16(const unsigned short *units)
+{
+#if QT_VERSION >= 0x060000
+    return QString::fromUtf16(reinterpret_cast<const char16_t *>(units));
+#else
+    return QString::fromUtf16(units);
+#endif
+}
+
+/** Whether bytes, from the first to the last, are UTF-8. */
+inline bool IsUtf8(const QByteArray &bytes)
+{
+#if QT_VERSION >= 0x060000
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    const QString text = decoder(bytes);
+    Q_UNUSED(text);
+    return !decoder.hasError();
+#else
+    QTextCodec::ConverterState state;
+    QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
+    return state.invalidChars == 0 && state.remainingChars == 0;
 #endif
 }
 
@@ -66,6 +100,68 @@ inline bool LetSystemMove(QWidget *window)
 #else
     Q_UNUSED(window);
     return false;
+#endif
+}
+
+/** Where the mouse was, in the screen's coordinates. */
+inline QPoint GlobalPosition(const QMouseEvent *event)
+{
+#if QT_VERSION >= 0x060000
+    return event->globalPosition().toPoint();
+#else
+    return event->globalPos();
+#endif
+}
+
+/**
+ * Calls receiver's slot, which takes a QString, with the text of every item of a box that can't be edited:
+ * when the user's choice moves over the item, and when it becomes the current one.
+ */
+inline void ConnectItemTexts(QComboBox *box, QObject *receiver, const char *slot)
+{
+#if QT_VERSION >= 0x060000
+    QObject::connect(box, SIGNAL(textHighlighted(QString)), receiver, slot);
+    QObject::connect(box, SIGNAL(currentTextChanged(QString)), receiver, slot);
+#else
+    QObject::connect(box, SIGNAL(highlighted(QString)), receiver, slot);
+    QObject::connect(box, SIGNAL(currentIndexChanged(QString)), receiver, slot);
+#endif
+}
+
+#if QT_VERSION >= 0x060000
+/** Knows characters by their 16-bit units, as QRegExp does: those beyond U+FFFF are no word characters. */
+class UnitPatternValidator : public QRegularExpressionValidator
+{
+public:
+    UnitPatternValidator(const QRegularExpression &pattern, QObject *parent)
+        : QRegularExpressionValidator(pattern, parent)
+    {
+    }
+
+    State validate(QString &text, int &position) const override
+    {
+        for (const QChar unit : text) {
+            if (unit.isSurrogate()) {
+                return Invalid;
+            }
+        }
+        return QRegularExpressionValidator::validate(text, position);
+    }
+};
+#endif
+
+/**
+ * Accepts texts that match pattern as a whole. A \w in pattern stands inside a set, and for the letters,
+ * digits and marks of all scripts and the underscore.
+ */
+inline QValidator *NewPatternValidator(const QString &pattern, QObject *parent)
+{
+#if QT_VERSION >= 0x060000
+    QString expression = pattern;
+    expression.replace(QLatin1String("\\w"), QLatin1String("\\p{L}\\p{N}\\p{M}_"));
+    return new UnitPatternValidator(QRegularExpression(expression), parent);
+#else
+    return new QRegExpValidator(QRegExp(pattern), parent);
 #endif
 }
 

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QEventLoop>
+#include <QFontMetrics>
 #include <QLabel>
 #include <QPointer>
 
@@ -31,6 +32,17 @@ int TextWidth(const QLabel *label)
     return qMax(0, label->contentsRect().width() - 2 * label->margin() - indent);
 }
 
+QString Elided(const QString &text, Qt::TextElideMode mode, const QFontMetrics &metrics, int width)
+{
+    QString shown = metrics.elidedText(text, mode, width);
+    // Joined letters that are cut apart can come out wider than the toolkit took them to be.
+    for (int room = width - 1; room > 0 && shown != text && metrics.boundingRect(shown).width() > width;
+         --room) {
+        shown = metrics.elidedText(text, mode, room);
+    }
+    return shown;
+}
+
 } // namespace
 
 QString CommonUtils::GetPluginLibraryPath()
@@ -46,7 +58,7 @@ void CommonUtils::ElidedText(QLabel *label, QString text, Qt::TextElideMode mode
         return;
     }
     label->setTextFormat(Qt::PlainText);
-    label->setText(label->fontMetrics().elidedText(OneLine(text), mode, TextWidth(label)));
+    label->setText(Elided(OneLine(text), mode, label->fontMetrics(), TextWidth(label)));
 }
 
 int CommonUtils::ShowMessage(QMessageBox::Icon icon, QWidget *parent, QString title, QString text,

@@ -85,8 +85,8 @@ bool LanguageFiles::Use(const QString &name)
     if (!Names().contains(name)) {
         return false;
     }
-    QScopedPointer<Language> language(Load(name));
-    if (language.isNull()) {
+    std::unique_ptr<Language> language(Load(name));
+    if (!language) {
         return false;
     }
     m_inUse.swap(language);
@@ -99,10 +99,10 @@ QString LanguageFiles::Text(const QString &id, const QString &context) const
     const QByteArray idBytes = id.toUtf8();
     const QByteArray contextBytes = context.toUtf8();
     QString text;
-    if (!m_inUse.isNull()) {
+    if (m_inUse) {
         text = m_inUse->Text(idBytes, contextBytes);
     }
-    if (text.isEmpty() && !m_english.isNull()) {
+    if (text.isEmpty() && m_english) {
         text = m_english->Text(idBytes, contextBytes);
     }
     return text.isEmpty() ? id : text;
@@ -114,6 +114,6 @@ Language *LanguageFiles::Load(const QString &name) const
     if (m_directory.isEmpty() || !file.open(QIODevice::ReadOnly)) {
         return nullptr;
     }
-    QScopedPointer<Language> language(new Language(file.readAll()));
-    return language->IsUsable() ? language.take() : nullptr;
+    std::unique_ptr<Language> language(new Language(file.readAll()));
+    return language->IsUsable() ? language.release() : nullptr;
 }

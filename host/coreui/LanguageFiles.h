@@ -1,9 +1,10 @@
 #ifndef LANGUAGEFILES_H
 #define LANGUAGEFILES_H
 
-#include <QScopedPointer>
 #include <QString>
 #include <QStringList>
+
+#include <memory>
 
 class Language;
 
@@ -31,8 +32,8 @@ private:
 
     QString m_directory;
     QString m_nameInUse;
-    QScopedPointer<Language> m_inUse;
-    QScopedPointer<Language> m_english;
+    std::unique_ptr<Language> m_inUse;
+    std::unique_ptr<Language> m_english;
 };
 
 #endif

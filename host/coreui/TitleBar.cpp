@@ -105,14 +105,14 @@ void TitleBar::mousePressEvent(QMouseEvent *event)
     }
     if (!ToolkitCompat::LetSystemMove(window())) {
         m_dragging = true;
-        m_grip = event->globalPos() - window()->pos();
+        m_grip = ToolkitCompat::GlobalPosition(event) - window()->pos();
     }
 }
 
 void TitleBar::mouseMoveEvent(QMouseEvent *event)
 {
     if (m_dragging && (event->buttons() & Qt::LeftButton)) {
-        window()->move(event->globalPos() - m_grip);
+        window()->move(ToolkitCompat::GlobalPosition(event) - m_grip);
     }
 }
 

@@ -3,12 +3,6 @@
 #include "FunctonTrick.h"
 #include "PriorityService.h"
 
-#include <QtPlugin>
-
-#if QT_VERSION < 0x050000
-#include <QPointer>
-#endif
-
 namespace
 {
 
@@ -20,24 +14,7 @@ const unsigned int languageChangeEvent = 0x140;
 
 } // namespace
 
-extern "C" Q_DECL_EXPORT const char *qt_plugin_query_verification_data()
-{
-    return "pattern=QT_PLUGIN_VERIFICATION_DATA\n"
-           "version=4.6.2\n"
-           "debug=false\n"
-           "buildkey=macosx macx g++-4 full-config";
-}
-
-#if QT_VERSION < 0x050000
-extern "C" Q_DECL_EXPORT QObject *qt_plugin_instance()
-{
-    static QPointer<QObject> instance;
-    if (!instance) {
-        instance = new CPriorityPlugin;
-    }
-    return instance;
-}
-#endif
+TOOLKIT_EXPORT_PLUGIN(CPriorityPlugin)
 
 CPriorityPlugin::CPriorityPlugin() : QObject(nullptr), m_service(nullptr) {}
 

@@ -3,6 +3,7 @@
 
 #include <INotify.h>
 #include <IUIPlugin.h>
+#include <ToolkitPlugin.h>
 
 class CPriorityService;
 
@@ -14,9 +15,7 @@ class CPriorityPlugin : public QObject, public IUIPlugin, public INotify
 {
     Q_OBJECT
     Q_INTERFACES(IBasePlugin IUIPlugin INotify)
-#if QT_VERSION >= 0x050000
-    Q_PLUGIN_METADATA(IID "com.torvik.netquillforge.plugin.IUIPlugin")
-#endif
+    TOOLKIT_PLUGIN_METADATA("com.torvik.netquillforge.plugin.IUIPlugin")
 
 public:
     CPriorityPlugin();

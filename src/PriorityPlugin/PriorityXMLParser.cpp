@@ -3,6 +3,7 @@
 #include "FunctonTrick.h"
 
 #include <CommonUtils.h>
+#include <ToolkitCompat.h>
 #include <ZeltSdk.h>
 
 #include <QFile>
@@ -218,7 +219,7 @@ QString PriorityXMLParser::getUserDataDirectory()
     qDebug("%s: %s: %s after calling ZELT_GetUserDataDirectory(), retVal=%ld", buildTime, sourcePath,
            "getUserDataDirectory", status);
     if (status == 0 && path) {
-        directory = QString::fromUtf16(path);
+        directory = ToolkitCompat::FromUtf16(path);
     }
     delete[] path;
     return directory;

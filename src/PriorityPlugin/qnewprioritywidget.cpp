@@ -10,14 +10,13 @@
 #include <CommonUtils.h>
 #include <ExtendLineEdit.h>
 #include <IWLANUIPlugin.h>
+#include <ToolkitCompat.h>
 
 #include <QComboBox>
 #include <QCompleter>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QRegExp>
-#include <QRegExpValidator>
 #include <QStringList>
 #include <QVBoxLayout>
 
@@ -150,7 +149,7 @@ void QNewPriorityWidget::Init()
 {
     m_mainLayout = new QVBoxLayout;
     m_keyValidator =
-        new QRegExpValidator(QRegExp(QLatin1String("^[\\w\\-~!@#$%^&*()+{}[\\]:]{1,128}")), this);
+        ToolkitCompat::NewPatternValidator(QLatin1String("^[\\w\\-~!@#$%^&*()+{}[\\]:]{1,128}"), this);
     // Looked up under this spelling.
     m_keyValidator->setObjectName(QLatin1String("NewPriroity_RegExpValidator"));
 
@@ -287,15 +286,8 @@ void QNewPriorityWidget::CreateExtenWidget()
     m_securityRow->addLayout(m_authenticationColumn);
     m_securityRow->addLayout(m_encryptionColumn);
     m_securityRow->addLayout(m_keyIndexColumn);
-    ConnectAuthenticationBox();
+    ToolkitCompat::ConnectItemTexts(m_authenticationBox, this, SLOT(onHighLighted(QString)));
     AddRow(m_securityRow);
-}
-
-// The only signals in use that carry an item's text; the newest toolkit has them no more.
-void QNewPriorityWidget::ConnectAuthenticationBox()
-{
-    connect(m_authenticationBox, SIGNAL(highlighted(QString)), this, SLOT(onHighLighted(QString)));
-    connect(m_authenticationBox, SIGNAL(currentIndexChanged(QString)), this, SLOT(onHighLighted(QString)));
 }
 
 QPushButton *QNewPriorityWidget::CreateButton(const char *objectName, const char *id, const char *slot)

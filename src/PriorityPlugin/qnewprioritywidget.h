@@ -17,8 +17,8 @@ class QLabel;
 class QNewPriorityWidgetEx;
 class QPriorityWidget;
 class QPushButton;
-class QRegExpValidator;
 class QVBoxLayout;
+class QValidator;
 
 /**
  * Body of the new-network dialog: lets the user describe a Wi-Fi network, has the WLAN plug-in create its
@@ -113,7 +113,6 @@ private:
                       QComboBox *&box);
     QPushButton *CreateButton(const char *objectName, const char *id, const char *slot);
     void AddRow(QBoxLayout *row);
-    void ConnectAuthenticationBox();
 
     void ShowKeyIndex(bool shown);
     void EnableKeyIndex(bool enabled);
@@ -125,7 +124,7 @@ private:
     QHBoxLayout *m_nameRow;
     QLabel *m_nameLabel;
     QComboBox *m_nameBox;
-    QRegExpValidator *m_keyValidator;
+    QValidator *m_keyValidator;
     QLabel *m_keyLabel;
     ExtendLineEdit *m_keyField;
     QVBoxLayout *m_keyColumn;

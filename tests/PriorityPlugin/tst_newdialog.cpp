@@ -8,7 +8,7 @@
 #include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
-#include <QRegExpValidator>
+#include <QValidator>
 #include <QtTest>
 
 /** The new-network dialog: its widgets, the names it offers, what choosing one does, and closing it. */

@@ -1,12 +1,12 @@
 #include <Change.h>
 #include <HostControl.h>
+#include <TextPattern.h>
 
 #include <QDirIterator>
 #include <QFile>
 #include <QFont>
 #include <QFontMetrics>
 #include <QMap>
-#include <QRegExp>
 #include <QSet>
 #include <QStringList>
 #include <QXmlStreamReader>
@@ -61,9 +61,9 @@ QSet<QString> IdsUsedIn(const QString &directory)
             qFatal("a source file can't be read");
         }
         const QString source = QString::fromUtf8(file.readAll());
-        QRegExp id(QLatin1String("\"(IDS_[A-Z0-9_]*[A-Z0-9])\""));
-        for (int at = id.indexIn(source); at != -1; at = id.indexIn(source, at + id.matchedLength())) {
-            ids.insert(id.cap(1));
+        foreach (const QString &id,
+                 TextPattern::FindAll(source, QLatin1String("\"(IDS_[A-Z0-9_]*[A-Z0-9])\""))) {
+            ids.insert(id);
         }
     }
     return ids;
@@ -218,7 +218,7 @@ void TestLanguages::keyNoticesTellWhatIsAllowed()
     QFETCH(QString, lengths);
     const QString text = TextsOf(language).value(QLatin1String("PriorityPlugin/") + id);
     foreach (const QString &length, lengths.split(QLatin1Char(' '))) {
-        QVERIFY2(QRegExp(QLatin1String("(^|\\D)") + length + QLatin1String("(\\D|$)")).indexIn(text) != -1,
+        QVERIFY2(TextPattern::IsIn(text, QLatin1String("(^|\\D)") + length + QLatin1String("(\\D|$)")),
                  qPrintable(length));
     }
     const QString signs = QLatin1String("- _ ~ ! @ # $ % ^ & * ( ) + { } [ ] :");

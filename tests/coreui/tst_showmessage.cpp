@@ -114,7 +114,8 @@ void User::Act()
     if (m_deed == QLatin1String("delete")) {
         delete m_victim;
     } else if (m_deed == QLatin1String("quit")) {
-        QCoreApplication::quit();
+        // quit() would do this only while the application itself runs its loop, from the sixth generation on.
+        QCoreApplication::exit();
         return;
     } else if (m_deed == QLatin1String("hide")) {
         box->hide();

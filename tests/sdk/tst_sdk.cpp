@@ -1,4 +1,5 @@
 #include <TemporaryDirectory.h>
+#include <ToolkitCompat.h>
 #include <ZeltSdk.h>
 #include <ZeltSdkStatus.h>
 
@@ -26,7 +27,7 @@ Answer Ask()
     Answer answer;
     answer.status = ZELT_GetUserDataDirectory(&path);
     answer.isNull = !path;
-    answer.path = path ? QString::fromUtf16(path) : QString();
+    answer.path = path ? ToolkitCompat::FromUtf16(path) : QString();
     delete[] path;
     return answer;
 }

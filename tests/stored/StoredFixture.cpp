@@ -1,6 +1,7 @@
 #include "StoredFixture.h"
 
 #include <IUIPlugin.h>
+#include <ToolkitCompat.h>
 #include <ZeltSdk.h>
 
 #include <QFile>
@@ -13,7 +14,7 @@ StoredFixture::StoredFixture()
     if (ZELT_GetUserDataDirectory(&path) != 0) {
         qFatal("no directory for the user's data");
     }
-    m_userData = QString::fromUtf16(path);
+    m_userData = ToolkitCompat::FromUtf16(path);
     delete[] path;
 }
 

@@ -1,10 +1,11 @@
 #include "TraceCapture.h"
 
+#include "TextPattern.h"
+
 #include <ToolkitCompat.h>
 
 #include <QMutex>
 #include <QMutexLocker>
-#include <QRegExp>
 
 namespace
 {
@@ -46,8 +47,11 @@ void TraceCapture::Clear()
 QStringList TraceCapture::Normalised() const
 {
     QStringList lines = Lines();
-    lines.replaceInStrings(QRegExp(QLatin1String("\\b\\d\\d:\\d\\d:\\d\\d:\\d\\d\\d\\b")),
-                           QLatin1String("TIME"));
-    lines.replaceInStrings(QRegExp(QLatin1String("\\b\\d\\d:\\d\\d:\\d\\d\\b")), QLatin1String("BUILD"));
+    for (int i = 0; i < lines.size(); ++i) {
+        const QString timed = TextPattern::Replaced(
+            lines.at(i), QLatin1String("\\b\\d\\d:\\d\\d:\\d\\d:\\d\\d\\d\\b"), QLatin1String("TIME"));
+        lines[i] =
+            TextPattern::Replaced(timed, QLatin1String("\\b\\d\\d:\\d\\d:\\d\\d\\b"), QLatin1String("BUILD"));
+    }
     return lines;
 }

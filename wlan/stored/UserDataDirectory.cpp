@@ -1,5 +1,6 @@
 #include "UserDataDirectory.h"
 
+#include <ToolkitCompat.h>
 #include <ZeltSdk.h>
 
 QString UserDataDirectory()
@@ -8,7 +9,7 @@ QString UserDataDirectory()
     const long status = ZELT_GetUserDataDirectory(&path);
     QString directory;
     if (status == 0 && path) {
-        directory = QString::fromUtf16(path);
+        directory = ToolkitCompat::FromUtf16(path);
     }
     delete[] path;
     return directory;

@@ -2,8 +2,6 @@
 
 #include "StoredWLANService.h"
 
-#include <QtPlugin>
-
 namespace
 {
 
@@ -11,24 +9,7 @@ const int wlanInterfaceNumber = 0x1006;
 
 } // namespace
 
-extern "C" Q_DECL_EXPORT const char *qt_plugin_query_verification_data()
-{
-    return "pattern=QT_PLUGIN_VERIFICATION_DATA\n"
-           "version=4.6.2\n"
-           "debug=false\n"
-           "buildkey=macosx macx g++-4 full-config";
-}
-
-#if QT_VERSION < 0x050000
-extern "C" Q_DECL_EXPORT QObject *qt_plugin_instance()
-{
-    static QPointer<QObject> instance;
-    if (!instance) {
-        instance = new CWLANPlugin;
-    }
-    return instance;
-}
-#endif
+TOOLKIT_EXPORT_PLUGIN(CWLANPlugin)
 
 CWLANPlugin::CWLANPlugin() : QObject(nullptr) {}
 

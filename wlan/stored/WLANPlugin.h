@@ -2,6 +2,7 @@
 #define WLANPLUGIN_H
 
 #include <IUIPlugin.h>
+#include <ToolkitPlugin.h>
 
 #include <QPointer>
 
@@ -13,9 +14,7 @@ class CWLANPlugin : public QObject, public IUIPlugin
 {
     Q_OBJECT
     Q_INTERFACES(IBasePlugin IUIPlugin)
-#if QT_VERSION >= 0x050000
-    Q_PLUGIN_METADATA(IID "com.torvik.netquillforge.plugin.IUIPlugin")
-#endif
+    TOOLKIT_PLUGIN_METADATA("com.torvik.netquillforge.plugin.IUIPlugin")
 
 public:
     CWLANPlugin();

@@ -1,6 +1,7 @@
 #include "XmlRecords.h"
 
-#include <QTextCodec>
+#include <ToolkitCompat.h>
+
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
@@ -84,14 +85,11 @@ bool AcceptElement(const QXmlStreamReader &reader, const XmlRecordFormat &format
 /** The length of the lines before the first that isn't UTF-8, with the number of that line or 0. */
 int SoundLength(const QByteArray &bytes, qint64 *unsoundLine)
 {
-    const QTextCodec *codec = QTextCodec::codecForName("UTF-8");
     qint64 line = 1;
     for (int begin = 0; begin < bytes.size(); ++line) {
         const int lineEnd = bytes.indexOf('\n', begin);
         const int end = lineEnd < 0 ? bytes.size() : lineEnd + 1;
-        QTextCodec::ConverterState state;
-        codec->toUnicode(bytes.constData() + begin, end - begin, &state);
-        if (state.invalidChars > 0 || state.remainingChars > 0) {
+        if (!ToolkitCompat::IsUtf8(QByteArray::fromRawData(bytes.constData() + begin, end - begin))) {
             *unsoundLine = line;
             return begin;
         }

@@ -1,0 +1,18 @@
+set(PRIORITY_CXX_STANDARD 17)
+
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets LinguistTools)
+target_link_libraries(PriorityQtCore INTERFACE Qt6::Core)
+target_link_libraries(PriorityQtWidgets INTERFACE Qt6::Gui Qt6::Widgets)
+
+if(PRIORITY_TESTS)
+    find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
+    target_link_libraries(PriorityQtTest INTERFACE Qt6::Test)
+endif()
+
+# priority_compile_languages(<variable for the .qm files> OUTPUT_DIRECTORY <dir> FILES <.ts>...)
+function(priority_compile_languages result)
+    cmake_parse_arguments(arg "" "OUTPUT_DIRECTORY" "FILES" ${ARGN})
+    set_source_files_properties(${arg_FILES} PROPERTIES OUTPUT_LOCATION "${arg_OUTPUT_DIRECTORY}")
+    qt6_add_translation(compiled ${arg_FILES})
+    set(${result} ${compiled} PARENT_SCOPE)
+endfunction()
