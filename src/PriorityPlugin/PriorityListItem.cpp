@@ -16,6 +16,9 @@ namespace
 
 const int nameWidth = 200;
 
+// Far more than fits; laying out a name of megabytes would hold up the host.
+const int mostCharactersShown = 4096;
+
 QString SourcePath()
 {
     return QLatin1String("../../src/PriorityPlugin/PriorityListItem.cpp");
@@ -62,10 +65,11 @@ QString PlainToolTip(const QString &text)
 
 void ShowElidedName(QWidget *row, QLabel *label, const QString &name)
 {
-    CommonUtils::ElidedText(label, name, Qt::ElideRight);
+    const QString shown = name.left(mostCharactersShown);
+    CommonUtils::ElidedText(label, shown, Qt::ElideRight);
     row->setAccessibleName(name);
     if (label->text() != name) {
-        row->setToolTip(PlainToolTip(name));
+        row->setToolTip(PlainToolTip(shown));
     }
 }
 
@@ -91,7 +95,7 @@ void PriorityListItem::UpdateLabelContents(QString strIcon, QString strName)
                         strIcon.toUtf8().constData(), strName.toUtf8().constData());
     m_iconLabel = CreateIconLabel(this, strIcon);
     m_nameLabel = CreateNameLabel(this);
-    m_nameLabel->setText(strName);
+    m_nameLabel->setText(strName.left(mostCharactersShown));
     ShowElidedName(this, m_nameLabel, strName);
 
     QString language = Change::GetLangName();

@@ -7,6 +7,7 @@
 #include <ZeltSdk.h>
 
 #include <QFile>
+#include <QFileInfo>
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 #include <QtDebug>
@@ -112,6 +113,12 @@ QByteArray PriorityDocument(const QList<PriorityList> &list)
     return document;
 }
 
+/** Never a pipe or a device, which would hold up the reader or have no end. */
+bool OpenToRead(QFile &file, QIODevice::OpenMode mode)
+{
+    return QFileInfo(file).isFile() && file.open(mode);
+}
+
 bool WriteToItsEnd(QFile &file, const QByteArray &bytes)
 {
     const bool written = file.write(bytes) == bytes.size() && file.flush();
@@ -121,7 +128,10 @@ bool WriteToItsEnd(QFile &file, const QByteArray &bytes)
 
 bool OpenAnew(QFile &file)
 {
-    // Truncated, because a directory without write permission keeps the old file from being deleted.
+    // A directory without write permission keeps what stands in the file's place from being deleted.
+    if (file.exists() && !QFileInfo(file).isFile()) {
+        return false;
+    }
     return file.open(QIODevice::ReadWrite | QIODevice::Text | QIODevice::Truncate);
 }
 
@@ -132,7 +142,7 @@ public:
     explicit PreviousContent(const QString &path) : m_path(path), m_known(false)
     {
         QFile file(path);
-        if (file.open(QIODevice::ReadOnly)) {
+        if (OpenToRead(file, QIODevice::ReadOnly)) {
             m_bytes = file.readAll();
             m_known = file.error() == QFile::NoError;
         }
@@ -161,7 +171,7 @@ int ReadSwitch(const QString &path)
         return switchMissing;
     }
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+    if (!OpenToRead(file, QIODevice::ReadOnly | QIODevice::Text)) {
         TraceFileNotOpenable();
         return switchMissing;
     }
@@ -239,7 +249,7 @@ int PriorityXMLParser::GetPriorityList(QList<PriorityList> *out)
         return FileMissing;
     }
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+    if (!OpenToRead(file, QIODevice::ReadOnly | QIODevice::Text)) {
         TraceFileNotOpenable();
         return FileNotOpenable;
     }
