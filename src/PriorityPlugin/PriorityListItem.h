@@ -1,10 +1,10 @@
 #ifndef PRIORITYLISTITEM_H
 #define PRIORITYLISTITEM_H
 
+#include <QCheckBox>
+#include <QLabel>
+#include <QPointer>
 #include <QWidget>
-
-class QCheckBox;
-class QLabel;
 
 /**
  * One row of the priority page's table: an icon and a name at fixed places, mirrored for right-to-left
@@ -28,8 +28,8 @@ public:
 private:
     Q_DISABLE_COPY(PriorityListItem)
 
-    QLabel *m_iconLabel;
-    QLabel *m_nameLabel;
+    QPointer<QLabel> m_iconLabel;
+    QPointer<QLabel> m_nameLabel;
 };
 
 /** One row of the add dialog's table: as above, with a check box before the icon. */
@@ -50,9 +50,9 @@ public:
 private:
     Q_DISABLE_COPY(RememberListItem)
 
-    QCheckBox *m_checkBox;
-    QLabel *m_iconLabel;
-    QLabel *m_nameLabel;
+    QPointer<QCheckBox> m_checkBox;
+    QPointer<QLabel> m_iconLabel;
+    QPointer<QLabel> m_nameLabel;
 };
 
 #endif

@@ -75,15 +75,15 @@ private:
     QPushButton *CreateButton(const char *objectName, const char *id, const char *slot);
     void MakeRowsReachable();
 
-    QPushButton *m_okButton;
-    QPushButton *m_cancelButton;
-    QHBoxLayout *m_buttonLayout;
-    QWidget *m_buttonBar;
-    QTableWidget *m_table;
-    QVBoxLayout *m_mainLayout;
+    QPointer<QPushButton> m_okButton;
+    QPointer<QPushButton> m_cancelButton;
+    QPointer<QHBoxLayout> m_buttonLayout;
+    QPointer<QWidget> m_buttonBar;
+    QPointer<QTableWidget> m_table;
+    QPointer<QVBoxLayout> m_mainLayout;
     QList<RememberedList> m_candidates;
     QList<PriorityList> *m_priorityList;
-    QPriorityWidget *m_page;
+    QPointer<QPriorityWidget> m_page;
 
     /** Entry i belongs to row i of the table. */
     QList<RememberedList> m_rows;

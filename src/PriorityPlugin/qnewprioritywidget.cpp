@@ -194,7 +194,7 @@ ExtendLineEdit *QNewPriorityWidget::CreateKeyField(const char *objectName, const
 }
 
 void QNewPriorityWidget::CreateChoice(QVBoxLayout *column, const QString &name, const char *id, int maxCount,
-                                      QLabel *&label, QComboBox *&box)
+                                      QPointer<QLabel> &label, QPointer<QComboBox> &box)
 {
     const QString text = tr(QLatin1String(id));
     label = new QLabel(this);
@@ -489,9 +489,9 @@ bool QNewPriorityWidget::CheckPasswordAndAuth()
         fault = "IDS_ERROR_KEY_WRONG_LENGTH_40";
     } else if (keyFault == KeyRules::UnfitForWpa) {
         fault = "IDS_ERROR_KEY_WRONG_LENGTH_128";
-    } else if (m_keyField->text() != m_confirmField->text()) {
+    } else if (m_keyField && m_confirmField && m_keyField->text() != m_confirmField->text()) {
         fault = "IDS_ERROR_KEY_DIFFERENT";
-    } else if (m_authenticationBox->currentText().isEmpty()) {
+    } else if (m_authenticationBox && m_authenticationBox->currentText().isEmpty()) {
         fault = "IDS_ERROR_WRONG_AUTHENTICATION";
     }
     if (fault) {

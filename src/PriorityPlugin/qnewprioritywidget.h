@@ -79,7 +79,7 @@ public:
     int CheckKeyLength();
 
     /** Tells the user about the first fault found in the key and the authentication; false when there is one.
-     * Needs the authentication box and both key fields. */
+     */
     bool CheckPasswordAndAuth();
 
     void GetProfileData(WLANProfile &profile);
@@ -109,8 +109,8 @@ private:
 
     QLabel *CreateLabel(const char *objectName);
     ExtendLineEdit *CreateKeyField(const char *objectName, const char *id);
-    void CreateChoice(QVBoxLayout *column, const QString &name, const char *id, int maxCount, QLabel *&label,
-                      QComboBox *&box);
+    void CreateChoice(QVBoxLayout *column, const QString &name, const char *id, int maxCount,
+                      QPointer<QLabel> &label, QPointer<QComboBox> &box);
     QPushButton *CreateButton(const char *objectName, const char *id, const char *slot);
     void AddRow(QBoxLayout *row);
 
@@ -121,34 +121,34 @@ private:
     /** Item i of the name box is entry i. */
     QList<WlanAvilableNetworkInfo> m_networks;
 
-    QHBoxLayout *m_nameRow;
-    QLabel *m_nameLabel;
-    QComboBox *m_nameBox;
-    QValidator *m_keyValidator;
-    QLabel *m_keyLabel;
-    ExtendLineEdit *m_keyField;
-    QVBoxLayout *m_keyColumn;
-    QLabel *m_confirmLabel;
-    ExtendLineEdit *m_confirmField;
-    QVBoxLayout *m_confirmColumn;
-    QWidget *m_buttonBar;
-    QPushButton *m_okButton;
-    QPushButton *m_cancelButton;
-    QHBoxLayout *m_buttonRow;
-    QVBoxLayout *m_authenticationColumn;
-    QLabel *m_authenticationLabel;
-    QComboBox *m_authenticationBox;
-    QVBoxLayout *m_encryptionColumn;
-    QLabel *m_encryptionLabel;
-    QComboBox *m_encryptionBox;
-    QVBoxLayout *m_keyIndexColumn;
-    QLabel *m_keyIndexLabel;
-    QComboBox *m_keyIndexBox;
-    QLabel *m_eapLabel;
-    QComboBox *m_eapBox;
-    QHBoxLayout *m_securityRow;
-    QVBoxLayout *m_mainLayout;
-    QPriorityWidget *m_page;
+    QPointer<QHBoxLayout> m_nameRow;
+    QPointer<QLabel> m_nameLabel;
+    QPointer<QComboBox> m_nameBox;
+    QPointer<QValidator> m_keyValidator;
+    QPointer<QLabel> m_keyLabel;
+    QPointer<ExtendLineEdit> m_keyField;
+    QPointer<QVBoxLayout> m_keyColumn;
+    QPointer<QLabel> m_confirmLabel;
+    QPointer<ExtendLineEdit> m_confirmField;
+    QPointer<QVBoxLayout> m_confirmColumn;
+    QPointer<QWidget> m_buttonBar;
+    QPointer<QPushButton> m_okButton;
+    QPointer<QPushButton> m_cancelButton;
+    QPointer<QHBoxLayout> m_buttonRow;
+    QPointer<QVBoxLayout> m_authenticationColumn;
+    QPointer<QLabel> m_authenticationLabel;
+    QPointer<QComboBox> m_authenticationBox;
+    QPointer<QVBoxLayout> m_encryptionColumn;
+    QPointer<QLabel> m_encryptionLabel;
+    QPointer<QComboBox> m_encryptionBox;
+    QPointer<QVBoxLayout> m_keyIndexColumn;
+    QPointer<QLabel> m_keyIndexLabel;
+    QPointer<QComboBox> m_keyIndexBox;
+    QPointer<QLabel> m_eapLabel;
+    QPointer<QComboBox> m_eapBox;
+    QPointer<QHBoxLayout> m_securityRow;
+    QPointer<QVBoxLayout> m_mainLayout;
+    QPointer<QPriorityWidget> m_page;
     WLANConfigData m_config;
     QNewPriorityWidgetEx *m_frame;
 };

@@ -39,6 +39,20 @@ bool IsWifi(const PriorityList &entry)
     return entry.type == QString::number(1);
 }
 
+template <typename Widget> void SetText(Widget *widget, const QString &text)
+{
+    if (widget) {
+        widget->setText(text);
+    }
+}
+
+void SetDirection(QWidget *widget, Qt::LayoutDirection direction)
+{
+    if (widget) {
+        widget->setLayoutDirection(direction);
+    }
+}
+
 void SetEnabled(QWidget *widget, bool enabled)
 {
     if (widget) {
@@ -207,17 +221,20 @@ void QPriorityWidget::SetLanguage()
     if (!m_mainContainer) {
         return;
     }
-    m_upButton->setText(tr(QLatin1String("IDS_PROFILE_UP")));
-    m_downButton->setText(tr(QLatin1String("IDS_PROFILE_DOWN")));
-    m_deleteButton->setText(tr(QLatin1String("IDS_PROFILE_DELETE")));
-    m_addButton->setText(tr(QLatin1String("IDS_PROFILE_ADD")));
-    m_nameLabel->setText(tr(QLatin1String("IDS_SETTING_NAME")) + QLatin1Char(':'));
-    m_infoLabel->setText(tr(QLatin1String("IDS_PROFILE_INFO")));
-    m_newButton->setText(tr(QLatin1String("IDS_PROFILE_NEW")));
+    SetText(m_upButton.data(), tr(QLatin1String("IDS_PROFILE_UP")));
+    SetText(m_downButton.data(), tr(QLatin1String("IDS_PROFILE_DOWN")));
+    SetText(m_deleteButton.data(), tr(QLatin1String("IDS_PROFILE_DELETE")));
+    SetText(m_addButton.data(), tr(QLatin1String("IDS_PROFILE_ADD")));
+    SetText(m_nameLabel.data(), tr(QLatin1String("IDS_SETTING_NAME")) + QLatin1Char(':'));
+    SetText(m_infoLabel.data(), tr(QLatin1String("IDS_PROFILE_INFO")));
+    SetText(m_newButton.data(), tr(QLatin1String("IDS_PROFILE_NEW")));
 
-    m_leftPanel->setLayoutDirection(layoutDirection());
-    m_buttonColumn->setLayoutDirection(layoutDirection());
+    SetDirection(m_leftPanel, layoutDirection());
+    SetDirection(m_buttonColumn, layoutDirection());
 
+    if (!m_table) {
+        return;
+    }
     QString language = Change::GetLangName();
     for (int row = 0; row < m_table->rowCount(); ++row) {
         // The page puts nothing else into its cells.

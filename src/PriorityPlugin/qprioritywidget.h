@@ -92,22 +92,23 @@ private:
     static QPriorityWidget *_pPriorityWidget_;
     static bool _bDestoryed_;
 
-    QPushButton *m_upButton;
-    QPushButton *m_downButton;
-    QPushButton *m_addButton;
-    QPushButton *m_deleteButton;
-    QLabel *m_nameLabel;
-    QLabel *m_infoLabel;
-    DragTableWidget *m_table;
-    QHBoxLayout *m_mainLayout;
-    QVBoxLayout *m_buttonLayout;
-    QVBoxLayout *m_frameLayout;
-    QVBoxLayout *m_leftPanelLayout;
+    // Guarded: the widgets stand in the host's dialog, where the host can delete them.
+    QPointer<QPushButton> m_upButton;
+    QPointer<QPushButton> m_downButton;
+    QPointer<QPushButton> m_addButton;
+    QPointer<QPushButton> m_deleteButton;
+    QPointer<QLabel> m_nameLabel;
+    QPointer<QLabel> m_infoLabel;
+    QPointer<DragTableWidget> m_table;
+    QPointer<QHBoxLayout> m_mainLayout;
+    QPointer<QVBoxLayout> m_buttonLayout;
+    QPointer<QVBoxLayout> m_frameLayout;
+    QPointer<QVBoxLayout> m_leftPanelLayout;
     QPointer<QAddPriorityWidgetEx> m_addDialog;
-    QWidget *m_mainContainer;
-    QWidget *m_leftPanel;
-    QFrame *m_frame;
-    QWidget *m_buttonColumn;
+    QPointer<QWidget> m_mainContainer;
+    QPointer<QWidget> m_leftPanel;
+    QPointer<QFrame> m_frame;
+    QPointer<QWidget> m_buttonColumn;
     QList<PriorityList> m_workingList;
 
     /** -1 for none. The store's result of a move is kept as it comes, so -2 is possible too. */
@@ -116,7 +117,7 @@ private:
 
     QString m_wifiIconPath;
     QString m_mobileIconPath;
-    QPushButton *m_newButton;
+    QPointer<QPushButton> m_newButton;
     QPointer<QNewPriorityWidgetEx> m_newDialog;
 };
 

@@ -163,16 +163,16 @@ void tst_KilledSave::leavesAListOrItsBeginningOrNothing_data()
 {
     QTest::addColumn<int>("count");
     QTest::addColumn<int>("nameLength");
-    QTest::addColumn<int>("share");
-    QTest::newRow("a list of ordinary size") << 5 << 12 << 2;
-    QTest::newRow("a list of a megabyte") << 10 << 100000 << 2;
+    QTest::addColumn<int>("longestLife");
+    QTest::newRow("a list of ordinary size") << 5 << 12 << 6000;
+    QTest::newRow("a list of a megabyte") << 10 << 100000 << 60000;
 }
 
 void tst_KilledSave::leavesAListOrItsBeginningOrNothing()
 {
     QFETCH(int, count);
     QFETCH(int, nameLength);
-    QFETCH(int, share);
+    QFETCH(int, longestLife);
     std::vector<Model::Entry> entries;
     for (int i = 0; i < count; ++i) {
         entries.push_back(Model::Entry{Name(i, nameLength), u"1"});
@@ -188,14 +188,14 @@ void tst_KilledSave::leavesAListOrItsBeginningOrNothing()
     }
     Model::Entries initial(entries.rbegin(), entries.rend());
     int found[] = {0, 0, 0};
-    for (int i = 0; i < Kills() / share; ++i) {
+    for (int i = 0; i < Kills() / 2; ++i) {
         m_directory->Write("Priority.xml", Bytes(Model::ProductDocument(initial)));
-        StartAndKill(entries, (i * 397) % 6000);
+        StartAndKill(entries, (i * 397 * longestLife / 6000) % longestLife);
         const Found what = WhatIsThere(lists);
         QVERIFY2(what != SomethingElse, m_directory->Read("Priority.xml").left(2000).constData());
         ++found[what];
     }
-    fprintf(stderr, "killed %d times: %d whole, %d cut off, %d missing\n", Kills() / share, found[Whole],
+    fprintf(stderr, "killed %d times: %d whole, %d cut off, %d missing\n", Kills() / 2, found[Whole],
             found[Beginning], found[Missing]);
 }
 
