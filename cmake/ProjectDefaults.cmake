@@ -15,6 +15,10 @@ set(PRIORITY_LIBRARY_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
 set(PRIORITY_PLUGIN_DIRECTORY "${CMAKE_BINARY_DIR}/plugins")
 set(PRIORITY_LANGUAGE_DIRECTORY "${CMAKE_BINARY_DIR}/share/priority-dashboard/languages")
 
+# The number in the names of the host libraries: raised when what was linked against them can't run any more, and only
+# then. The check in .ci/abi tells.
+set(PRIORITY_HOST_ABI 1)
+
 add_compile_options(-Wall -Wextra -Wpedantic -Wnon-virtual-dtor -Woverloaded-virtual -Wshadow)
 # For product code: implicit conversions are where the names of networks get damaged.
 macro(priority_strict_text)
