@@ -1,6 +1,7 @@
 #include "Arguments.h"
 #include "DashboardLanguage.h"
 #include "HostControl.h"
+#include "Installation.h"
 #include "MainWindow.h"
 #include "PluginHost.h"
 #include "Tour.h"
@@ -43,7 +44,7 @@ bool HasDisplay()
 QString LibraryPath(const Arguments &arguments)
 {
     const QString path = arguments.pluginLibraryPath.isNull()
-                             ? QApplication::applicationDirPath() + QLatin1String("/..")
+                             ? Installation::LibraryPath(QApplication::applicationDirPath())
                              : arguments.pluginLibraryPath;
     return QDir::cleanPath(QDir().absoluteFilePath(path));
 }
@@ -90,8 +91,7 @@ int Run(const Arguments &arguments, const TourDirectory &tourDirectory)
         return Refuse(QString::fromLatin1("there is no directory %1").arg(libraryPath), exitRefused);
     }
     HostControl::SetPluginLibraryPath(libraryPath);
-    HostControl::SetLanguageDirectory(QDir::cleanPath(
-        QApplication::applicationDirPath() + QLatin1String("/../share/priority-dashboard/languages")));
+    HostControl::SetLanguageDirectory(Installation::LanguageDirectory(QApplication::applicationDirPath()));
     const QString languageProblem = StartLanguage(arguments);
     if (!languageProblem.isNull()) {
         return Refuse(languageProblem, exitRefused);
