@@ -1,0 +1,28 @@
+# Called by CPack with the staged files of all components: adds to each what every Debian package has.
+
+function(compress file)
+    execute_process(COMMAND gzip -9n "${file}" COMMAND_ERROR_IS_FATAL ANY)
+endfunction()
+
+string(TIMESTAMP date "%a, %d %b %Y %H:%M:%S +0000" UTC)
+set(entry "${CPACK_DEBIAN_PACKAGE_SOURCE} (${CPACK_PACKAGE_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE}) unstable; \
+urgency=medium
+
+  * Built from the sources of version ${CPACK_PACKAGE_VERSION}; changelog.gz tells what changed.
+
+ -- ${CPACK_PACKAGE_CONTACT}  ${date}
+")
+
+foreach(component ${CPACK_COMPONENTS_ALL})
+    set(stage "${CPACK_TEMPORARY_DIRECTORY}/${component}")
+    string(TOUPPER ${component} component_in_names)
+    set(documents "${stage}/usr/share/doc/${CPACK_DEBIAN_${component_in_names}_PACKAGE_NAME}")
+    file(MAKE_DIRECTORY "${documents}")
+    configure_file("${CPACK_PRIORITY_SOURCE_DIRECTORY}/CHANGELOG.md" "${documents}/changelog" COPYONLY)
+    file(WRITE "${documents}/changelog.Debian" "${entry}")
+    file(GLOB manuals "${stage}/usr/share/man/man*/*.[0-9]")
+    foreach(file "${documents}/changelog" "${documents}/changelog.Debian" ${manuals})
+        file(CHMOD "${file}" PERMISSIONS OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
+        compress("${file}")
+    endforeach()
+endforeach()
