@@ -31,8 +31,8 @@ void MakeFail(Call call, int number, int error);
 bool HasFailed();
 
 /**
- * At the number-th call of any kind on the watched files the process is killed; when that call writes, after so
- * many of its bytes.
+ * At the number-th call of any kind on the watched files the process is killed; when that call writes, after
+ * so many of its bytes.
  */
 void MakeDie(int number, int bytes);
 
