@@ -1,6 +1,7 @@
 #include "qnewprioritywidget.h"
 
 #include "FunctonTrick.h"
+#include "KeyMaterial.h"
 #include "KeyRules.h"
 #include "PriorityXMLParser.h"
 #include "WLANPlugin.h"
@@ -15,6 +16,7 @@
 #include <QComboBox>
 #include <QCompleter>
 #include <QHBoxLayout>
+#include <QHideEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QStringList>
@@ -106,6 +108,13 @@ void ShowPair(QLabel *label, QComboBox *box, bool shown)
     }
 }
 
+/** The field's text is its own: wiping it must not reach the WLAN plug-in's profile. */
+void ReplaceKey(ExtendLineEdit *field, const QString &key)
+{
+    KeyMaterial::Wipe(field);
+    field->setText(KeyMaterial::Unshared(key));
+}
+
 void EnableKeyField(ExtendLineEdit *field, bool enabled)
 {
     if (!field) {
@@ -114,7 +123,7 @@ void EnableKeyField(ExtendLineEdit *field, bool enabled)
     field->setEnabled(enabled);
     field->setFocusPolicy(enabled ? Qt::StrongFocus : Qt::NoFocus);
     if (!enabled) {
-        field->setText(QString());
+        KeyMaterial::Wipe(field);
     }
 }
 
@@ -135,6 +144,7 @@ QNewPriorityWidget::QNewPriorityWidget(QWidget *parent, Qt::WindowFlags flags)
 
 QNewPriorityWidget::~QNewPriorityWidget()
 {
+    WipeKeys();
     release();
 }
 
@@ -394,6 +404,7 @@ void QNewPriorityWidget::OnNetworkNameComboxSelChenged(int index)
         SetEncryptionInfo(profile.encryption);
         SetKeyIndexInfo(profile.keyIndex);
         SetKeyMaterialInfo(profile.keyMaterial);
+        KeyMaterial::Wipe(&profile.keyMaterial);
     }
 }
 
@@ -463,8 +474,8 @@ void QNewPriorityWidget::SetKeyIndexInfo(QString text)
 void QNewPriorityWidget::SetKeyMaterialInfo(QString text)
 {
     if (m_keyField && m_confirmField) {
-        m_keyField->setText(text);
-        m_confirmField->setText(text);
+        ReplaceKey(m_keyField, text);
+        ReplaceKey(m_confirmField, text);
     }
 }
 
@@ -522,6 +533,7 @@ void QNewPriorityWidget::OnOK()
     GetProfileData(profile);
     // Created even when the name then turns out to be in the list; only the list refuses it.
     CreateProfile(profile);
+    KeyMaterial::Wipe(&profile.keyMaterial);
     if (isProfileList(profile.profileName)) {
         ShowNotice("IDS_PROFILE_NAME_REPEAT");
         return;
@@ -545,7 +557,7 @@ void QNewPriorityWidget::GetProfileData(WLANProfile &profile)
     profile.keyIndex = QLatin1String("0");
     profile.text16 = QString::fromLatin1("");
     if (m_keyField) {
-        profile.keyMaterial = m_keyField->text();
+        profile.keyMaterial = KeyMaterial::Unshared(m_keyField->text());
     }
     if (m_authenticationBox && m_authenticationBox->isEnabled()) {
         profile.authentication = m_authenticationBox->currentText();
@@ -603,6 +615,25 @@ void QNewPriorityWidget::closeEvent(QCloseEvent *)
 {
     if (m_frame) {
         m_frame->close();
+    }
+}
+
+void QNewPriorityWidget::hideEvent(QHideEvent *event)
+{
+    // However the dialog was closed; a window that is only minimised keeps its fields.
+    if (!event->spontaneous()) {
+        WipeKeys();
+    }
+    QWidget::hideEvent(event);
+}
+
+void QNewPriorityWidget::WipeKeys()
+{
+    if (m_keyField) {
+        KeyMaterial::Wipe(m_keyField);
+    }
+    if (m_confirmField) {
+        KeyMaterial::Wipe(m_confirmField);
     }
 }
 

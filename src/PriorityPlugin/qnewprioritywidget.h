@@ -103,6 +103,7 @@ public slots:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
 
 private:
     Q_DISABLE_COPY(QNewPriorityWidget)
@@ -117,6 +118,9 @@ private:
     void ShowKeyIndex(bool shown);
     void EnableKeyIndex(bool enabled);
     void ShowNotice(const char *id);
+
+    /** A dialog that is closed stays until the next one is opened; the key in it doesn't. */
+    void WipeKeys();
 
     /** Item i of the name box is entry i. */
     QList<WlanAvilableNetworkInfo> m_networks;
