@@ -36,7 +36,7 @@ public:
     /**
      * Shows the page as a child of parent.
      *
-     * @param parent  not owned; takes the page as its child until the page is hidden.
+     * @param parent  not owned; takes the page as its child until the page is hidden. Null: nothing is shown.
      * @param rect    where, in parent's coordinates and pixels. Only the top left corner counts: the page has
      * a fixed size of 420 x 374.
      * @return false when there is no page any more, that is after OnDestroy. The page freshly loads its
