@@ -26,6 +26,7 @@ private slots:
     void keyOfARepeatedName();
     void keyFieldsShowNoCharacter();
     void keyCannotBeCopied();
+    void keyIsNotReadOutByAssistiveTools();
 
 private:
     QLineEdit *Field(const char *name) { return m_scene.Find<QLineEdit>(name); }
@@ -167,6 +168,24 @@ void tst_KeySecrecy::keyCannotBeCopied()
     QTest::keyClick(Field("keyEdit"), Qt::Key_C, Qt::ControlModifier);
     QTest::keyClick(m_scene.Box("networkNameBox"), Qt::Key_V, Qt::ControlModifier);
     QVERIFY(!m_scene.Box("networkNameBox")->currentText().contains(secret));
+}
+
+void tst_KeySecrecy::keyIsNotReadOutByAssistiveTools()
+{
+    m_scene.Open("newButton");
+    const char *const keyFields[] = {"keyEdit", "confirmKeyEdit"};
+    for (const char *name : keyFields) {
+        QTest::keyClicks(Field(name), secret);
+        QAccessibleInterface *field = QAccessible::queryAccessibleInterface(Field(name));
+        QVERIFY(field);
+        const QAccessible::Text texts[] = {QAccessible::Name, QAccessible::Description, QAccessible::Value,
+                                           QAccessible::Help, QAccessible::Accelerator};
+        for (const QAccessible::Text text : texts) {
+            QVERIFY(!field->text(text).contains(secret));
+        }
+        // Were the field no password field to them, its value would be what is typed.
+        QCOMPARE(field->text(QAccessible::Value).size(), int(qstrlen(secret)));
+    }
 }
 
 QTEST_MAIN(tst_KeySecrecy)
