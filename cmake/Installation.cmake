@@ -105,11 +105,8 @@ foreach(size 48 128)
     install(FILES "${PROJECT_SOURCE_DIR}/packaging/priority-dashboard-${size}.png"
         DESTINATION "${icon_directory}/${size}x${size}/apps" COMPONENT dashboard RENAME priority-dashboard.png)
 endforeach()
-foreach(manual packaging/dashboard.1 docs/dashboard.1)
-    if(EXISTS "${PROJECT_SOURCE_DIR}/${manual}")
-        install(FILES "${PROJECT_SOURCE_DIR}/${manual}" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT dashboard)
-    endif()
-endforeach()
+install(FILES "${PROJECT_SOURCE_DIR}/packaging/dashboard.1"
+    DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT dashboard)
 
 # Where the installed dashboard finds the rest, seen from its own directory.
 set(library_path_from_program "${host_libraries_from_program}/priority-dashboard")

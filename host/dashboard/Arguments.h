@@ -1,6 +1,9 @@
 #ifndef ARGUMENTS_H
 #define ARGUMENTS_H
 
+#include "ListCommands.h"
+
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -15,6 +18,12 @@ struct Arguments {
     QString language;
     QString pluginLibraryPath;
     QString tourDirectory;
+
+    /** What to do with the list, in this order, instead of opening a window. */
+    QList<ListCommand> commands;
+
+    /** What main was given. Arguments are UTF-8, or text in the locale's encoding when they aren't. */
+    static Arguments Read(int count, const char *const *arguments);
 
     /** @param arguments  without the program's name. */
     static Arguments Parse(const QStringList &arguments);

@@ -9,6 +9,7 @@
 #include "PluginHost.h"
 #include "PluginObjects.h"
 #include "PluginPage.h"
+#include "PriorityResult.h"
 #include "Settings.h"
 #include "SettingsDialog.h"
 #include "TracePanel.h"
@@ -30,12 +31,6 @@
 
 namespace
 {
-
-// What IPriorityPlugin::GetPriorityList answers.
-const int listRead = 0;
-const int listDamaged = 6;
-const int listMissing = 23;
-const int listNotOpened = 25;
 
 QString GeometryKey()
 {
@@ -346,9 +341,9 @@ void MainWindow::ShowProblems(const Overview &overview)
             problems.append(PluginHost::ProblemText(plugin));
         }
     }
-    if (overview.status == listDamaged) {
+    if (overview.status == PriorityDamaged) {
         problems.append(DashboardText("IDS_LIST_DAMAGED"));
-    } else if (overview.status == listNotOpened) {
+    } else if (overview.status == PriorityNotOpened) {
         problems.append(DashboardText("IDS_LIST_NOT_OPENED"));
     }
     m_problems->setText(problems.join(QLatin1String("\n\n")));
@@ -375,9 +370,9 @@ void MainWindow::ShowList(const Overview &overview)
     }
     if (overview.entries.isEmpty()) {
         m_messageTitle->setText(DashboardText("IDS_EMPTY_TITLE"));
-        m_messageText->setText(DashboardText(overview.status == listRead || overview.status == listMissing
-                                                 ? "IDS_EMPTY_HINT"
-                                                 : "IDS_EMPTY_UNREADABLE"));
+        m_messageText->setText(DashboardText(
+            overview.status == PriorityRead || overview.status == PriorityMissing ? "IDS_EMPTY_HINT"
+                                                                                  : "IDS_EMPTY_UNREADABLE"));
         m_body->setCurrentWidget(m_messagePage);
         return;
     }

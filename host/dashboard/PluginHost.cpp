@@ -107,20 +107,24 @@ PluginHost::~PluginHost()
     Shutdown();
 }
 
-QList<KnownPlugin> PluginHost::KnownPlugins()
+KnownPlugin PluginHost::PriorityPlugin()
 {
     KnownPlugin priority;
     priority.folder = QLatin1String("PriorityPlugin");
     priority.classId = QLatin1String("D78C8E0F-7A3F-4f51-87E3-753F0F7F0E05");
     priority.titleId = QLatin1String("IDS_PLUGIN_PRIORITY");
     priority.hasSettingsPage = true;
+    return priority;
+}
 
+QList<KnownPlugin> PluginHost::KnownPlugins()
+{
     KnownPlugin wlan;
     wlan.folder = QLatin1String("WLANStored");
     wlan.classId = QLatin1String("7545FB07-0E7A-4F27-A449-872DB09C106D");
     wlan.titleId = QLatin1String("IDS_PLUGIN_WLAN");
 
-    return QList<KnownPlugin>() << priority << wlan;
+    return QList<KnownPlugin>() << PriorityPlugin() << wlan;
 }
 
 QString PluginHost::VerificationText()

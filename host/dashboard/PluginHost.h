@@ -62,6 +62,9 @@ public:
 
     static QList<KnownPlugin> KnownPlugins();
 
+    /** The one of them that keeps the list. */
+    static KnownPlugin PriorityPlugin();
+
     /** The text that a plug-in has to answer with. */
     static QString VerificationText();
 

@@ -1,6 +1,7 @@
 #include "TraceLog.h"
 
 #include "DashboardText.h"
+#include "Terminal.h"
 
 #include <ToolkitCompat.h>
 
@@ -43,11 +44,6 @@ char KindOf(QtMsgType type)
     }
 }
 
-void WriteToTerminal(const QString &text)
-{
-    std::fprintf(stderr, "dashboard: %s\n", text.toLocal8Bit().constData());
-}
-
 } // namespace
 
 TraceLog::TraceLog(const QString &path)
@@ -80,7 +76,7 @@ QStringList TraceLog::Lines() const
 void TraceLog::Warn(const QString &text)
 {
     QMutexLocker locker(CurrentLogLock());
-    WriteToTerminal(text);
+    Terminal::Complain(text);
     if (currentLog) {
         currentLog->Add(QtWarningMsg, text);
     }
@@ -89,13 +85,30 @@ void TraceLog::Warn(const QString &text)
 void TraceLog::Receive(QtMsgType type, const QString &text)
 {
     if (type == QtFatalMsg) {
-        WriteToTerminal(text);
+        Terminal::Complain(text);
     }
     QMutexLocker locker(CurrentLogLock());
     if (currentLog) {
         currentLog->Add(type, text);
+        currentLog->FollowWarnings(type, text);
     } else if (type != QtDebugMsg && type != QtFatalMsg) {
-        WriteToTerminal(text);
+        Terminal::Complain(text);
+    }
+}
+
+/** Keeps warnings for the case that the program has to end, and tells them then. */
+void TraceLog::FollowWarnings(QtMsgType type, const QString &text)
+{
+    QMutexLocker locker(&m_lock);
+    if (type == QtFatalMsg) {
+        for (int i = 0; i < m_warnings.size(); ++i) {
+            Terminal::Complain(m_warnings.at(i));
+        }
+    } else if (type == QtWarningMsg || type == QtCriticalMsg) {
+        m_warnings.append(text);
+        if (m_warnings.size() > WarningLimit) {
+            m_warnings.removeFirst();
+        }
     }
 }
 

@@ -23,10 +23,14 @@ public:
     /** The lines since the start, the last LineLimit of them. */
     QStringList Lines() const;
 
-    /** Says something that somebody who started the program in a terminal should see there too. */
+    /** Says something that somebody who started the program in a terminal should see there too. What ends
+     * the program is said there anyway, and the last warnings before it, which tell why. */
     static void Warn(const QString &text);
 
     static const int LineLimit = 2000;
+
+    /** So many warnings are told when the program has to end. */
+    static const int WarningLimit = 5;
 
     /** A file of this many bytes is set aside under the name <path>.1, in place of an earlier one. */
     static const qint64 FileLimit = 1048576;
@@ -43,6 +47,7 @@ private:
 
     static void Receive(QtMsgType type, const QString &text);
     void Add(QtMsgType type, const QString &text);
+    void FollowWarnings(QtMsgType type, const QString &text);
     void Keep(const QString &line);
     bool WriteToFile(const QByteArray &bytes);
     bool OpenFile();
@@ -51,6 +56,7 @@ private:
     const QString m_path;
     mutable QMutex m_lock;
     QStringList m_lines;
+    QStringList m_warnings;
     QStringList m_fresh;
     bool m_handOutPending;
     int m_file;

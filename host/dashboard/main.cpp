@@ -2,8 +2,10 @@
 #include "DashboardLanguage.h"
 #include "HostControl.h"
 #include "Installation.h"
+#include "ListCommands.h"
 #include "MainWindow.h"
 #include "PluginHost.h"
+#include "Terminal.h"
 #include "Tour.h"
 #include "TraceLog.h"
 #include "UserData.h"
@@ -15,6 +17,7 @@
 #include <QLocale>
 #include <QScopedPointer>
 
+#include <clocale>
 #include <cstdio>
 
 namespace
@@ -30,7 +33,7 @@ void PrintOut(const QString &text)
 
 int Refuse(const QString &problem, int status)
 {
-    std::fprintf(stderr, "dashboard: %s\n", problem.toLocal8Bit().constData());
+    Terminal::Complain(problem);
     return status;
 }
 
@@ -49,25 +52,18 @@ QString LibraryPath(const Arguments &arguments)
     return QDir::cleanPath(QDir().absoluteFilePath(path));
 }
 
-/** Null, or why the language that was asked for can't be had. */
-QString StartLanguage(const Arguments &arguments)
+void StartLanguage(const Arguments &arguments)
 {
-    const QStringList available = HostControl::LanguageNames();
-    if (!arguments.language.isNull() && !available.contains(arguments.language)) {
-        return QString::fromLatin1("there is no language \"%1\"; there are: %2")
-            .arg(arguments.language, available.join(QLatin1String(", ")));
-    }
-    // A tour looks the same wherever it is taken.
-    const bool isTour = !arguments.tourDirectory.isNull();
-    const QString language =
-        DashboardLanguage::Choose(arguments.language, isTour ? QString() : DashboardLanguage::Stored(),
-                                  isTour ? QString() : QLocale::system().name(), available);
+    // A tour looks the same wherever it is taken, and scripts are told the same everywhere.
+    const bool isTheUsers = arguments.tourDirectory.isNull() && arguments.commands.isEmpty();
+    const QString language = DashboardLanguage::Choose(
+        arguments.language, isTheUsers ? DashboardLanguage::Stored() : QString(),
+        isTheUsers ? QLocale::system().name() : QString(), HostControl::LanguageNames());
     if (!DashboardLanguage::Apply(language)) {
         TraceLog::Warn(
             QString::fromLatin1("the texts for the language \"%1\" are missing; their names are shown")
                 .arg(language));
     }
-    return QString();
 }
 
 /** The size that desktops use; without a desktop the toolkit takes a larger one, and pictures would show
@@ -79,26 +75,52 @@ void UseDesktopFontSize()
     QApplication::setFont(font);
 }
 
-int Run(const Arguments &arguments, const TourDirectory &tourDirectory)
+/** Sets up where plug-ins and languages are looked for. Null, or what of the command line can't be followed.
+ */
+QString PrepareHost(const Arguments &arguments)
 {
-    TraceLog log(UserData::FilePath(QLatin1String("dashboard.log")));
+    const QString libraryPath = LibraryPath(arguments);
+    if (!QFileInfo(libraryPath).isDir()) {
+        return QString::fromLatin1("there is no directory %1").arg(libraryPath);
+    }
+    HostControl::SetPluginLibraryPath(libraryPath);
+    HostControl::SetLanguageDirectory(Installation::LanguageDirectory(QApplication::applicationDirPath()));
+    const QStringList available = HostControl::LanguageNames();
+    if (!arguments.language.isNull() && !available.contains(arguments.language)) {
+        return QString::fromLatin1("there is no language \"%1\"; there are: %2")
+            .arg(arguments.language, available.join(QLatin1String(", ")));
+    }
+    return QString();
+}
+
+int RunCommands(const Arguments &arguments)
+{
+    const QString listPath = UserData::FilePath(QLatin1String("Priority.xml"));
+    if (listPath.isEmpty()) {
+        return Refuse(QLatin1String("there is no directory for your data and none can be made"),
+                      ListCommands::FileNotOpened);
+    }
+    PluginHost plugins(LibraryPath(arguments), QList<KnownPlugin>() << PluginHost::PriorityPlugin());
+    plugins.Load();
+    const PluginHost::Plugin priority = plugins.Plugins().at(0);
+    if (priority.state != PluginReady) {
+        return Refuse(PluginHost::ProblemText(priority), ListCommands::NoPlugin);
+    }
+    return ListCommands(listPath).Run(arguments.commands);
+}
+
+int RunWindow(const Arguments &arguments, const TourDirectory &tourDirectory, TraceLog *log)
+{
+    if (!arguments.tourDirectory.isNull()) {
+        UseDesktopFontSize();
+    }
     if (UserData::Directory().isEmpty()) {
         TraceLog::Warn(QLatin1String("there is no directory for your data and none can be made; "
                                      "what you change will not be kept"));
     }
-    const QString libraryPath = LibraryPath(arguments);
-    if (!QFileInfo(libraryPath).isDir()) {
-        return Refuse(QString::fromLatin1("there is no directory %1").arg(libraryPath), exitRefused);
-    }
-    HostControl::SetPluginLibraryPath(libraryPath);
-    HostControl::SetLanguageDirectory(Installation::LanguageDirectory(QApplication::applicationDirPath()));
-    const QString languageProblem = StartLanguage(arguments);
-    if (!languageProblem.isNull()) {
-        return Refuse(languageProblem, exitRefused);
-    }
     HostControl::ApplyLook();
 
-    PluginHost plugins(libraryPath, PluginHost::KnownPlugins());
+    PluginHost plugins(LibraryPath(arguments), PluginHost::KnownPlugins());
     plugins.Load();
     const QList<PluginHost::Plugin> loaded = plugins.Plugins();
     for (int i = 0; i < loaded.size(); ++i) {
@@ -107,7 +129,7 @@ int Run(const Arguments &arguments, const TourDirectory &tourDirectory)
         }
     }
     DashboardLanguage language(&plugins, nullptr);
-    MainWindow window(&plugins, &language, &log);
+    MainWindow window(&plugins, &language, log);
     window.show();
     QScopedPointer<Tour> tour;
     if (!arguments.tourDirectory.isNull()) {
@@ -121,11 +143,9 @@ int Run(const Arguments &arguments, const TourDirectory &tourDirectory)
 
 int main(int argc, char **argv)
 {
-    QStringList given;
-    for (int i = 1; i < argc; ++i) {
-        given.append(QString::fromLocal8Bit(argv[i]));
-    }
-    const Arguments arguments = Arguments::Parse(given);
+    // As the toolkit does when it starts; until then nobody knows in which encoding the arguments are.
+    std::setlocale(LC_ALL, "");
+    const Arguments arguments = Arguments::Read(argc, argv);
     switch (arguments.action) {
     case Arguments::Help:
         PrintOut(Arguments::HelpText());
@@ -146,21 +166,30 @@ int main(int argc, char **argv)
             return Refuse(problem, exitRefused);
         }
         qputenv("XDG_DATA_HOME", QFile::encodeName(tourDirectory.DataPath()));
-        if (qgetenv("QT_QPA_PLATFORM").isEmpty()) {
-            qputenv("QT_QPA_PLATFORM", "offscreen");
-        }
+    }
+    const bool isForScripts = !arguments.commands.isEmpty();
+    // Whatever a desktop has set: scripts run where its display is out of reach.
+    if (isForScripts || (!arguments.tourDirectory.isNull() && qgetenv("QT_QPA_PLATFORM").isEmpty())) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     if (!HasDisplay()) {
-        return Refuse(QLatin1String("there is no display to open a window on; "
-                                    "set DISPLAY, or look at a tour with --tour DIR"),
-                      exitNoDisplay);
+        const QCoreApplication application(argc, argv);
+        const QString problem = PrepareHost(arguments);
+        return problem.isNull() ? Refuse(QLatin1String("there is no display to open a window on; "
+                                                       "set DISPLAY, or look at a tour with --tour DIR"),
+                                         exitNoDisplay)
+                                : Refuse(problem, exitRefused);
     }
 
+    // The log before the toolkit, which has things to say while it starts.
+    TraceLog log(UserData::FilePath(QLatin1String("dashboard.log")));
     const QApplication application(argc, argv);
     QApplication::setApplicationName(QLatin1String("dashboard"));
     QApplication::setApplicationVersion(Arguments::VersionText().section(QLatin1Char(' '), 1).trimmed());
-    if (!arguments.tourDirectory.isNull()) {
-        UseDesktopFontSize();
+    const QString problem = PrepareHost(arguments);
+    if (!problem.isNull()) {
+        return Refuse(problem, exitRefused);
     }
-    return Run(arguments, tourDirectory);
+    StartLanguage(arguments);
+    return isForScripts ? RunCommands(arguments) : RunWindow(arguments, tourDirectory, &log);
 }

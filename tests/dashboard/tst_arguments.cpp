@@ -11,6 +11,9 @@ private slots:
     void ValuesAreTaken_data();
     void ValuesAreTaken();
     void LastValueCounts();
+    void CommandsAreTakenInOrder();
+    void NothingIsDoneWhenSomethingIsRefused();
+    void ArgumentsAreUtf8OrTheLocales();
     void RefusalNamesWhatIsWrong_data();
     void RefusalNamesWhatIsWrong();
     void HelpCountsBeforeWhatFollows();
@@ -24,6 +27,7 @@ void ArgumentsTest::NothingGivenRuns()
     QCOMPARE(arguments.action, Arguments::Run);
     QVERIFY(arguments.language.isNull() && arguments.pluginLibraryPath.isNull() &&
             arguments.tourDirectory.isNull());
+    QVERIFY(arguments.commands.isEmpty());
 }
 
 void ArgumentsTest::ValuesAreTaken_data()
@@ -68,6 +72,48 @@ void ArgumentsTest::LastValueCounts()
     const Arguments arguments = Arguments::Parse(QStringList() << "--language=ar"
                                                                << "--language=he");
     QCOMPARE(arguments.language, QString("he"));
+}
+
+void ArgumentsTest::CommandsAreTakenInOrder()
+{
+    const Arguments arguments = Arguments::Parse(QStringList() << "--list"
+                                                               << "--add"
+                                                               << "Home"
+                                                               << "--library-path=x"
+                                                               << "--add-top=Phone:mobile"
+                                                               << "--check");
+    QCOMPARE(arguments.action, Arguments::Run);
+    QCOMPARE(arguments.pluginLibraryPath, QString("x"));
+    QCOMPARE(static_cast<int>(arguments.commands.size()), 4);
+    QCOMPARE(arguments.commands.at(0).kind, ListCommand::List);
+    QCOMPARE(arguments.commands.at(1).kind, ListCommand::Add);
+    QCOMPARE(arguments.commands.at(1).entry.name, QString("Home"));
+    QCOMPARE(arguments.commands.at(1).entry.type, QString("1"));
+    QCOMPARE(arguments.commands.at(2).kind, ListCommand::AddTop);
+    QCOMPARE(arguments.commands.at(2).entry.name, QString("Phone"));
+    QCOMPARE(arguments.commands.at(2).entry.type, QString("2"));
+    QCOMPARE(arguments.commands.at(3).kind, ListCommand::Check);
+}
+
+void ArgumentsTest::NothingIsDoneWhenSomethingIsRefused()
+{
+    const Arguments arguments = Arguments::Parse(QStringList() << "--add=Home"
+                                                               << "--fast");
+    QCOMPARE(arguments.action, Arguments::Refuse);
+    QVERIFY(arguments.commands.isEmpty());
+}
+
+void ArgumentsTest::ArgumentsAreUtf8OrTheLocales()
+{
+    const char *const given[] = {"dashboard", "--add", "Caf\xc3\xa9"};
+    const Arguments arguments = Arguments::Read(3, given);
+    QCOMPARE(static_cast<int>(arguments.commands.size()), 1);
+    QCOMPARE(arguments.commands.first().entry.name, QString::fromUtf8("Caf\xc3\xa9"));
+
+    const char *const noText[] = {"dashboard", "--add", "Caf\xe9\xff"};
+    const Arguments refused = Arguments::Read(3, noText);
+    QCOMPARE(refused.action, Arguments::Refuse);
+    QVERIFY2(refused.problem.startsWith("argument 2 is no text"), qPrintable(refused.problem));
 }
 
 void ArgumentsTest::RefusalNamesWhatIsWrong_data()
@@ -116,6 +162,10 @@ void ArgumentsTest::HelpNamesEveryOption_data()
     QTest::newRow("language") << "--language";
     QTest::newRow("library path") << "--library-path";
     QTest::newRow("tour") << "--tour";
+    QTest::newRow("list") << "--list";
+    QTest::newRow("check") << "--check";
+    QTest::newRow("add") << "--add";
+    QTest::newRow("add on top") << "--add-top";
     QTest::newRow("version") << "--version";
     QTest::newRow("help") << "--help";
 }
@@ -123,7 +173,7 @@ void ArgumentsTest::HelpNamesEveryOption_data()
 void ArgumentsTest::HelpNamesEveryOption()
 {
     QFETCH(QString, option);
-    QVERIFY(Arguments::HelpText().contains("  " + option));
+    QVERIFY(Arguments::HelpText().contains(' ' + option + ' '));
 }
 
 QTEST_APPLESS_MAIN(ArgumentsTest)

@@ -1,3 +1,5 @@
+#include "DashboardProcess.h"
+
 #include <TemporaryDirectory.h>
 #include <TextPattern.h>
 
@@ -10,36 +12,6 @@
 
 namespace
 {
-
-struct Outcome {
-    int status;
-    QString out;
-    QString err;
-};
-
-/** Runs the program as from a terminal; environment holds "NAME=value", or "NAME=" to take one away. */
-Outcome RunDashboard(const QStringList &arguments, const QStringList &environment)
-{
-    QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
-    for (int i = 0; i < environment.size(); ++i) {
-        const QString name = environment.at(i).section('=', 0, 0);
-        const QString value = environment.at(i).section('=', 1);
-        if (value.isEmpty()) {
-            variables.remove(name);
-        } else {
-            variables.insert(name, value);
-        }
-    }
-    QProcess process;
-    process.setProcessEnvironment(variables);
-    process.start(BUILD_DIRECTORY "/bin/dashboard", arguments);
-    Outcome outcome;
-    const bool ended = process.waitForFinished(120000);
-    outcome.status = ended && process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
-    outcome.out = QString::fromLocal8Bit(process.readAllStandardOutput());
-    outcome.err = QString::fromLocal8Bit(process.readAllStandardError());
-    return outcome;
-}
 
 QString LastLine(const QString &text)
 {
@@ -70,7 +42,9 @@ private slots:
     void HelpAndVersionArePrinted();
     void WhatCannotBeFollowedIsSaidInOneLine_data();
     void WhatCannotBeFollowedIsSaidInOneLine();
+    void BadArgumentCountsBeforeAMissingDisplay();
     void MissingDisplayIsSaidInOneLine();
+    void ToolkitThatCannotStartSaysWhy();
 
     void TourSucceeds();
     void TourShowsConnectingAddingAndCreating();
@@ -136,12 +110,22 @@ void ProgramTest::WhatCannotBeFollowedIsSaidInOneLine()
 {
     QFETCH(QStringList, given);
     QFETCH(QString, told);
-    const Outcome outcome = RunDashboard(given, Environment());
+    const Outcome outcome = RunDashboard(given, Environment() << "XDG_RUNTIME_DIR=");
     QCOMPARE(outcome.status, 2);
     QVERIFY2(outcome.err.startsWith("dashboard: "), qPrintable(outcome.err));
     QVERIFY2(outcome.err.contains(told), qPrintable(outcome.err));
     QCOMPARE(outcome.err.count('\n'), 1);
     QCOMPARE(outcome.out, QString());
+}
+
+void ProgramTest::BadArgumentCountsBeforeAMissingDisplay()
+{
+    const Outcome outcome = RunDashboard(QStringList("--language=tlh"), Environment() << "QT_QPA_PLATFORM="
+                                                                                      << "DISPLAY="
+                                                                                      << "WAYLAND_DISPLAY=");
+    QCOMPARE(outcome.status, 2);
+    QVERIFY2(outcome.err.contains("\"tlh\""), qPrintable(outcome.err));
+    QCOMPARE(static_cast<int>(outcome.err.count('\n')), 1);
 }
 
 void ProgramTest::MissingDisplayIsSaidInOneLine()
@@ -152,6 +136,22 @@ void ProgramTest::MissingDisplayIsSaidInOneLine()
     QCOMPARE(outcome.status, 1);
     QVERIFY(outcome.err.contains("no display"));
     QCOMPARE(outcome.err.count('\n'), 1);
+}
+
+void ProgramTest::ToolkitThatCannotStartSaysWhy()
+{
+    if (QString(qVersion()).startsWith("4.")) {
+        qWarning("this generation of the toolkit has no platforms to choose from");
+        return;
+    }
+    const Outcome outcome = RunDashboard(QStringList(), Environment() << "QT_QPA_PLATFORM=nonsense");
+    QCOMPARE(outcome.status, -1);
+    const QStringList lines = outcome.err.trimmed().split('\n');
+    QVERIFY2(lines.size() > 1, qPrintable(outcome.err));
+    QVERIFY2(outcome.err.contains("\"nonsense\""), qPrintable(outcome.err));
+    for (int i = 0; i < lines.size(); ++i) {
+        QVERIFY2(lines.at(i).startsWith("dashboard: "), qPrintable(lines.at(i)));
+    }
 }
 
 void ProgramTest::TourSucceeds()
@@ -220,7 +220,8 @@ void ProgramTest::TourLeavesTheUsersDataAlone()
 
 void ProgramTest::TourKeepsItsTracesOutOfTheTerminal()
 {
-    const Outcome outcome = RunDashboard(QStringList() << "--tour" << TourPath(), Environment());
+    const Outcome outcome =
+        RunDashboard(QStringList() << "--tour" << TourPath(), Environment() << "XDG_RUNTIME_DIR=");
     QCOMPARE(outcome.err, QString());
     QVERIFY(!outcome.out.contains("Entered"));
     const QString log("tour/data/priority-dashboard/dashboard.log");

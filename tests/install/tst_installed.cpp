@@ -217,15 +217,15 @@ void InstalledTest::componentsHaveTheirFiles_data()
     }
     QTest::newRow("development") << "development" << development;
     QTest::newRow("dashboard") << "dashboard"
-                               << (QStringList()
-                                   << "bin/dashboard" << plugins + "WLANStored/libWLANStored.so"
-                                   << "share/priority-dashboard/languages/ar.qm"
-                                   << "share/priority-dashboard/languages/en.qm"
-                                   << "share/priority-dashboard/languages/he.qm"
-                                   << "share/applications/priority-dashboard.desktop"
-                                   << "share/icons/hicolor/48x48/apps/priority-dashboard.png"
-                                   << "share/icons/hicolor/128x128/apps/priority-dashboard.png"
-                                   << "share/icons/hicolor/scalable/apps/priority-dashboard.svg");
+                               << (QStringList() << "bin/dashboard" << plugins + "WLANStored/libWLANStored.so"
+                                                 << "share/priority-dashboard/languages/ar.qm"
+                                                 << "share/priority-dashboard/languages/en.qm"
+                                                 << "share/priority-dashboard/languages/he.qm"
+                                                 << "share/applications/priority-dashboard.desktop"
+                                                 << "share/icons/hicolor/48x48/apps/priority-dashboard.png"
+                                                 << "share/icons/hicolor/128x128/apps/priority-dashboard.png"
+                                                 << "share/icons/hicolor/scalable/apps/priority-dashboard.svg"
+                                                 << "share/man/man1/dashboard.1");
 }
 
 void InstalledTest::componentsHaveTheirFiles()
