@@ -65,7 +65,7 @@ void tst_CellWidgets::filledRow()
     PriorityListItem item;
     item.UpdateLabelContents(m_wifi, "Home");
     QCOMPARE(item.GetLabelIcon()->parentWidget(), static_cast<QWidget *>(&item));
-    QCOMPARE(Picture(item.GetLabelIcon()).size(), QSize(24, 24));
+    QCOMPARE(Picture(item.GetLabelIcon()).size(), QSize(20, 24));
     QCOMPARE(item.GetLabelName()->text(), QString("Home"));
     QCOMPARE(item.GetLabelName()->minimumWidth(), 200);
     QCOMPARE(item.GetLabelName()->maximumWidth(), 200);
@@ -213,7 +213,7 @@ void tst_CellWidgets::rememberRow()
     QCOMPARE(labels.size(), 2);
     QVERIFY(item.GetChechItem()->text().isEmpty());
     QVERIFY(!item.GetChechItem()->isChecked());
-    QCOMPARE(Picture(labels.at(0)).size(), QSize(24, 24));
+    QCOMPARE(Picture(labels.at(0)).size(), QSize(20, 24));
     QCOMPARE(labels.at(1)->text(), QString("Home"));
     QCOMPARE(labels.at(1)->minimumWidth(), 200);
     QCOMPARE(int(labels.at(1)->alignment()), int(Qt::AlignLeft));
