@@ -210,6 +210,9 @@ void QNewPriorityWidget::CreateChoice(QVBoxLayout *column, const QString &name, 
     label = new QLabel(this);
     label->setObjectName(name + QLatin1String("Label"));
     CommonUtils::ElidedText(label, text, Qt::ElideRight);
+    if (label->text() != text) {
+        label->setToolTip(text);
+    }
     column->addWidget(label);
 
     box = new QComboBox(this);
