@@ -1,5 +1,6 @@
 #include "ConnectDialog.h"
 
+#include "BidiText.h"
 #include "DashboardText.h"
 #include "PluginObjects.h"
 
@@ -39,12 +40,7 @@ public:
 
     QString displayText(const QVariant &value, const QLocale &) const override
     {
-        const ushort leftToRightEmbedding = 0x202a;
-        const ushort rightToLeftEmbedding = 0x202b;
-        const ushort endOfEmbedding = 0x202c;
-        const QString name = value.toString();
-        return QChar(name.isRightToLeft() ? rightToLeftEmbedding : leftToRightEmbedding) + name +
-               QChar(endOfEmbedding);
+        return InOwnDirection(value.toString());
     }
 };
 

@@ -1,5 +1,6 @@
 #include "MainWindow.h"
 
+#include "BidiText.h"
 #include "ConnectDialog.h"
 #include "DashboardLanguage.h"
 #include "DashboardText.h"
@@ -314,7 +315,7 @@ void MainWindow::ShowHead(const Overview &overview)
 {
     const Overview::Entry *inUse = overview.InUse();
     if (inUse) {
-        m_headline->setText(DashboardText("IDS_HEAD_IN_USE").arg(inUse->entry.name));
+        m_headline->setText(DashboardText("IDS_HEAD_IN_USE").arg(InOwnDirection(inUse->entry.name)));
         m_explanation->setText(
             DashboardText(inUse->IsWifi() ? "IDS_HEAD_IN_USE_WIFI" : "IDS_HEAD_IN_USE_MOBILE"));
         return;
