@@ -238,11 +238,12 @@ void SymbolsTest::MetadataNamesTheInterface()
 {
     QFETCH(QString, name);
     const QString file = LoadedLibrary::FileName(name);
-    const QByteArray section = ".qtmetadata";
+    const bool isSixthGeneration = QString(qVersion()).startsWith("6.");
+    const QString section = isSixthGeneration ? ".note.qt.metadata" : ".qtmetadata";
     const bool hasMetadata = !Symbols(file, "--defined-only").filter("qt_plugin_query_metadata").isEmpty();
     QCOMPARE(Run("readelf", QStringList() << "-S"
                                           << "-W" << file)
-                 .contains(section),
+                 .contains(section.toLatin1()),
              hasMetadata);
     if (hasMetadata) {
         const QByteArray texts = Run("readelf", QStringList() << "-p" << section << file);
