@@ -190,7 +190,7 @@ void tst_KilledSave::leavesAListOrItsBeginningOrNothing()
     int found[] = {0, 0, 0};
     for (int i = 0; i < Kills() / 2; ++i) {
         m_directory->Write("Priority.xml", Bytes(Model::ProductDocument(initial)));
-        StartAndKill(entries, (i * 397 * longestLife / 6000) % longestLife);
+        StartAndKill(entries, int(qint64(i) * 397 * longestLife / 6000 % longestLife));
         const Found what = WhatIsThere(lists);
         QVERIFY2(what != SomethingElse, m_directory->Read("Priority.xml").left(2000).constData());
         ++found[what];
