@@ -9,6 +9,10 @@ class DragTableWidget : public QTableWidget
 public:
     explicit DragTableWidget(QWidget *parent);
     ~DragTableWidget() override;
+
+protected:
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index,
+                                                         const QEvent *event) const override;
 };
 
 /** What the tables of both lists have in common: one column of cell widgets, nothing to edit, one row at a

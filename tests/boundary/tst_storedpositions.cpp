@@ -4,6 +4,7 @@
 #include "RootTable.h"
 
 #include <TemporaryDirectory.h>
+#include <ToolkitTest.h>
 
 #include <QPointer>
 #include <QScopedPointer>

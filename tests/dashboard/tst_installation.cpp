@@ -1,6 +1,7 @@
 #include "Installation.h"
 
 #include <TemporaryDirectory.h>
+#include <ToolkitTest.h>
 
 #include <QDir>
 #include <QtTest>

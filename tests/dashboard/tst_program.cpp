@@ -2,6 +2,7 @@
 
 #include <TemporaryDirectory.h>
 #include <TextPattern.h>
+#include <ToolkitTest.h>
 
 #include <QDir>
 #include <QImage>

@@ -65,8 +65,7 @@ static Model::Text Name(int number, int length)
 
 static PriorityList ToProduct(const Model::Entry &entry)
 {
-    return Entry(
-        QString::fromUtf16(reinterpret_cast<const ushort *>(entry.name.data()), int(entry.name.size())));
+    return Entry(QString(reinterpret_cast<const QChar *>(entry.name.data()), int(entry.name.size())));
 }
 
 static void Discard(QtMsgType, const QString &) {}

@@ -56,15 +56,16 @@ void tst_TruncatedFile::Put(const Model::Document &document)
     m_directory.Write("Priority.xml", QByteArray(document.bytes.data(), int(document.bytes.size())));
 }
 
+static QString ToText(const Model::Text &text)
+{
+    return QString(reinterpret_cast<const QChar *>(text.data()), int(text.size()));
+}
+
 QStringList tst_TruncatedFile::Texts(const Model::Entries &entries)
 {
     QStringList texts;
     for (const Model::Entry &entry : entries) {
-        texts << QString::fromUtf16(reinterpret_cast<const ushort *>(entry.name.data()),
-                                    int(entry.name.size())) +
-                     QLatin1Char('/') +
-                     QString::fromUtf16(reinterpret_cast<const ushort *>(entry.type.data()),
-                                        int(entry.type.size()));
+        texts << ToText(entry.name) + QLatin1Char('/') + ToText(entry.type);
     }
     return texts;
 }

@@ -1,4 +1,5 @@
 #include <TemporaryDirectory.h>
+#include <ToolkitTest.h>
 
 #include <QDir>
 #include <QDirIterator>
