@@ -2,6 +2,7 @@
 
 #include "DashboardText.h"
 #include "HostControl.h"
+#include "LibraryFile.h"
 
 #include <IBasePlugin.h>
 #include <INotify.h>
@@ -23,6 +24,27 @@ IBasePlugin *BaseOf(QObject *root)
         return plugin;
     }
     return qobject_cast<IBasePlugin *>(root);
+}
+
+int GenerationOfThisProgram()
+{
+    return QByteArray(qVersion()).split('.').first().toInt();
+}
+
+/** What keeps the file from being loaded at all; PluginNotLoaded when nothing does. */
+PluginState ObstacleIn(const QString &file, QString *detail)
+{
+    const LibraryFile library = LibraryFile::Read(file);
+    if (library.isCut) {
+        return PluginCut;
+    }
+    for (int i = 0; i < library.toolkits.size(); ++i) {
+        if (library.toolkits.at(i).generation != GenerationOfThisProgram()) {
+            *detail = library.toolkits.at(i).Text();
+            return PluginOtherToolkit;
+        }
+    }
+    return PluginNotLoaded;
 }
 
 /**
@@ -56,6 +78,11 @@ void LoadPlugin(PluginHost::Plugin *plugin)
     const QFileInfo info(plugin->file);
     if (!info.exists()) {
         plugin->state = PluginMissing;
+        return;
+    }
+    const PluginState obstacle = info.isFile() ? ObstacleIn(plugin->file, &plugin->detail) : PluginNotLoaded;
+    if (obstacle != PluginNotLoaded) {
+        plugin->state = obstacle;
         return;
     }
     QLibrary library(plugin->file);
@@ -171,6 +198,11 @@ QString PluginHost::ProblemText(const Plugin &plugin)
         return DashboardText("IDS_LOAD_NOT_LOADED").arg(plugin.file);
     case PluginMissing:
         return DashboardText("IDS_LOAD_MISSING").arg(plugin.file);
+    case PluginCut:
+        return DashboardText("IDS_LOAD_CUT").arg(plugin.file);
+    case PluginOtherToolkit:
+        return DashboardText("IDS_LOAD_OTHER_TOOLKIT")
+            .arg(plugin.file, plugin.detail, QLatin1String(qVersion()));
     case PluginNotALibrary:
         return DashboardText("IDS_LOAD_NOT_A_LIBRARY").arg(plugin.file, plugin.detail);
     case PluginNoVerification:

@@ -25,6 +25,8 @@ struct KnownPlugin {
 enum PluginState {
     PluginNotLoaded,
     PluginMissing,        /**< There is no such file. */
+    PluginCut,            /**< The file is a library, but only the first part of it. */
+    PluginOtherToolkit,   /**< It was built for another generation of the toolkit. */
     PluginNotALibrary,    /**< The file can't be loaded as a library. */
     PluginNoVerification, /**< The library doesn't say what it was built for. */
     PluginRefused,        /**< It was built for something else. */
@@ -48,7 +50,7 @@ public:
         KnownPlugin known;
         QString file;
         PluginState state = PluginNotLoaded;
-        /** What the toolkit said of the file, or the verification text that was found. */
+        /** What the toolkit said of the file, or the toolkit or the verification text that was found. */
         QString detail;
         QPointer<QObject> root;
         IBasePlugin *base = nullptr;

@@ -377,6 +377,16 @@
         <translation>الإضافة &#x202a;%1&#x202c; غير موجودة. ثبّتها، أو شغّل اللوحة بالخيار &#x202a;--library-path&#x202c; مع المجلد الذي يحوي المجلد "plugins".</translation>
     </message>
     <message>
+        <source>IDS_LOAD_CUT</source>
+        <translation>الإضافة &#x202a;%1&#x202c; ناقصة: ينتهي ملفها قبل أوانه، لذلك لا تُستخدم. أعد تثبيتها.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_OTHER_TOOLKIT</source>
+        <translation>بُنيت الإضافة &#x202a;%1&#x202c; لجيل آخر من Qt، لذلك لا تُستخدم.
+الموجود: &#x202a;Qt %2&#x202c;
+المتوقّع: &#x202a;Qt %3&#x202c;</translation>
+    </message>
+    <message>
         <source>IDS_LOAD_NOT_A_LIBRARY</source>
         <translation>يتعذّر تحميل الإضافة &#x202a;%1&#x202c; كمكتبة: &#x202a;%2&#x202c;</translation>
     </message>

@@ -398,6 +398,16 @@ Allowed are letters, digits and these signs:
         <translation>The plug-in %1 is not there. Install it, or start the dashboard with --library-path and the directory that has the folder "plugins" in it.</translation>
     </message>
     <message>
+        <source>IDS_LOAD_CUT</source>
+        <translation>The plug-in %1 is not whole: its file ends too early, so it is not used. Install it again.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_OTHER_TOOLKIT</source>
+        <translation>The plug-in %1 was built for another generation of Qt, so it is not used.
+Found: Qt %2
+Expected: Qt %3</translation>
+    </message>
+    <message>
         <source>IDS_LOAD_NOT_A_LIBRARY</source>
         <translation>The plug-in %1 can't be loaded as a library: %2</translation>
     </message>

@@ -377,6 +377,16 @@
         <translation>התוסף &#x202a;%1&#x202c; אינו קיים. יש להתקין אותו, או להפעיל את הלוח עם &#x202a;--library-path&#x202c; והתיקייה שבה נמצאת התיקייה "plugins".</translation>
     </message>
     <message>
+        <source>IDS_LOAD_CUT</source>
+        <translation>התוסף &#x202a;%1&#x202c; אינו שלם: הקובץ שלו נגמר מוקדם מדי, ולכן אינו בשימוש. יש להתקין אותו מחדש.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_OTHER_TOOLKIT</source>
+        <translation>התוסף &#x202a;%1&#x202c; נבנה עבור דור אחר של Qt, ולכן אינו בשימוש.
+נמצא: &#x202a;Qt %2&#x202c;
+נדרש: &#x202a;Qt %3&#x202c;</translation>
+    </message>
+    <message>
         <source>IDS_LOAD_NOT_A_LIBRARY</source>
         <translation>לא ניתן לטעון את התוסף &#x202a;%1&#x202c; כספרייה: &#x202a;%2&#x202c;</translation>
     </message>

@@ -2,6 +2,8 @@
 #include <PluginHost.h>
 #include <Startup.h>
 #include <TemporaryDirectory.h>
+#include <TextPattern.h>
+#include <ToolkitTest.h>
 #include <TraceCapture.h>
 
 #include <QDir>
@@ -52,6 +54,10 @@ private slots:
     void StateTellsHowFarItCame();
     void FileThatIsNoLibraryIsToldApart_data();
     void FileThatIsNoLibraryIsToldApart();
+    void LibraryThatIsCutIsNotLoaded_data();
+    void LibraryThatIsCutIsNotLoaded();
+    void LibraryOfOtherToolkitIsNotLoaded_data();
+    void LibraryOfOtherToolkitIsNotLoaded();
     void RefusalTellsFoundAndExpected();
     void ProblemIsToldInEveryLanguage();
     void PluginThatIsNotReadyIsAskedNothing_data();
@@ -136,6 +142,80 @@ void PluginHostTest::FileThatIsNoLibraryIsToldApart()
     QCOMPARE(plugin.state, PluginNotALibrary);
     QVERIFY(!plugin.detail.isEmpty());
     QVERIFY(PluginHost::ProblemText(plugin).contains(plugin.detail));
+}
+
+void PluginHostTest::LibraryThatIsCutIsNotLoaded_data()
+{
+    QTest::addColumn<int>("size");
+    QTest::newRow("in the table of segments") << 100;
+    QTest::newRow("in the symbols") << 1000;
+    QTest::newRow("before the code") << 4096;
+    QTest::newRow("behind the code") << 8192;
+}
+
+void PluginHostTest::LibraryThatIsCutIsNotLoaded()
+{
+    QFETCH(int, size);
+    QFile whole(fixtureDirectory + QString("/plugins/NeedsGeneration7/libNeedsGeneration7.so"));
+    QVERIFY(whole.open(QIODevice::ReadOnly));
+    const TemporaryDirectory directory;
+    QVERIFY(QDir().mkpath(directory.FilePath("plugins/Cut")));
+    directory.Write("plugins/Cut/libCut.so", whole.read(size));
+    PluginHost host(directory.Path(), Known(QStringList("Cut")));
+    host.Load();
+    const PluginHost::Plugin plugin = host.Plugins().first();
+    const QString problem = PluginHost::ProblemText(plugin);
+    QCOMPARE(plugin.state, PluginCut);
+    QVERIFY2(problem.contains("not whole") && problem.contains(plugin.file), qPrintable(problem));
+}
+
+void PluginHostTest::LibraryOfOtherToolkitIsNotLoaded_data()
+{
+    QTest::addColumn<QString>("folder");
+    QTest::addColumn<QString>("version");
+    QTest::newRow("needs a newer one") << "NeedsGeneration7"
+                                       << "7\\.2";
+    QTest::newRow("needs a newer one beside ours") << "MixesGenerations"
+                                                   << "7\\.2";
+    QTest::newRow("metadata in a section") << "MetadataInSection"
+                                           << "8\\.1";
+    QTest::newRow("metadata in a note") << "MetadataInNote"
+                                        << "8\\.1";
+    const QString running(qVersion());
+    if (!running.startsWith("4.")) {
+        QTest::newRow("needs 4") << "NeedsGeneration4"
+                                 << "4";
+    }
+    if (!running.startsWith("5.")) {
+        QTest::newRow("built for 5") << "Installed5"
+                                     << "5\\.[0-9]+";
+    }
+    if (!running.startsWith("6.")) {
+        QTest::newRow("built for 6") << "Installed6"
+                                     << "6\\.[0-9]+";
+    }
+}
+
+void PluginHostTest::LibraryOfOtherToolkitIsNotLoaded()
+{
+    QFETCH(QString, folder);
+    QFETCH(QString, version);
+    if (folder.startsWith("Installed") && !QFile::exists(fixtureDirectory + ("/plugins/" + folder))) {
+        SKIP_TEST("The development files of that generation were not there when this was built.");
+    }
+    PluginHost host(fixtureDirectory, Known(QStringList(folder)));
+    host.Load();
+    const PluginHost::Plugin plugin = host.Plugins().first();
+    QCOMPARE(plugin.state, PluginOtherToolkit);
+    QVERIFY2(TextPattern::Fits(plugin.detail, version), qPrintable(plugin.detail));
+    QCOMPARE(PluginHost::ProblemText(plugin),
+             QString("The plug-in %1 was built for another generation of Qt, so it is not used.\n"
+                     "Found: Qt %2\n"
+                     "Expected: Qt %3")
+                 .arg(plugin.file, plugin.detail, QString(qVersion())));
+    QVERIFY(!IsMapped("lib" + folder + ".so"));
+    QVERIFY(qgetenv("FOREIGN_PLUGIN_LOADED").isEmpty());
+    QVERIFY(!host.GetPluginObject(plugin.known.classId, 4098));
 }
 
 void PluginHostTest::RefusalTellsFoundAndExpected()
