@@ -5,7 +5,7 @@
 
 #include <QMessageBox>
 #include <QString>
-#include <Qt>
+#include <qnamespace.h>
 
 class QDialog;
 class QLabel;

@@ -103,6 +103,17 @@ inline bool LetSystemMove(QWidget *window)
 #endif
 }
 
+/** Whether there is something to show windows on; the toolkit aborts the program when there is nothing. */
+inline bool HasDisplay()
+{
+#if QT_VERSION >= 0x050000
+    return !qgetenv("QT_QPA_PLATFORM").isEmpty() || !qgetenv("DISPLAY").isEmpty() ||
+           !qgetenv("WAYLAND_DISPLAY").isEmpty();
+#else
+    return !qgetenv("DISPLAY").isEmpty();
+#endif
+}
+
 /** Where the mouse was, in the screen's coordinates. */
 inline QPoint GlobalPosition(const QMouseEvent *event)
 {

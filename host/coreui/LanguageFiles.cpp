@@ -72,7 +72,7 @@ QStringList LanguageFiles::Names() const
     const QStringList pattern(QString(QLatin1Char('*')) + Suffix());
     names = QDir(m_directory).entryList(pattern, QDir::Files | QDir::Readable, QDir::Name);
     for (int i = 0; i < names.size(); ++i) {
-        names[i].chop(Suffix().size());
+        names[i].chop(QString(Suffix()).size());
     }
     names.removeAll(QString());
     names.sort();

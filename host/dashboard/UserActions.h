@@ -2,7 +2,7 @@
 #define USERACTIONS_H
 
 #include <QString>
-#include <Qt>
+#include <qnamespace.h>
 
 class QTableWidget;
 class QWidget;

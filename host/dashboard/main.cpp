@@ -10,6 +10,8 @@
 #include "TraceLog.h"
 #include "UserData.h"
 
+#include <ToolkitCompat.h>
+
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
@@ -35,13 +37,6 @@ int Refuse(const QString &problem, int status)
 {
     Terminal::Complain(problem);
     return status;
-}
-
-/** Whether there is something to show windows on; the toolkit would abort when there is nothing. */
-bool HasDisplay()
-{
-    return !qgetenv("QT_QPA_PLATFORM").isEmpty() || !qgetenv("DISPLAY").isEmpty() ||
-           !qgetenv("WAYLAND_DISPLAY").isEmpty();
 }
 
 QString LibraryPath(const Arguments &arguments)
@@ -172,7 +167,7 @@ int main(int argc, char **argv)
     if (isForScripts || (!arguments.tourDirectory.isNull() && qgetenv("QT_QPA_PLATFORM").isEmpty())) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
-    if (!HasDisplay()) {
+    if (!ToolkitCompat::HasDisplay()) {
         const QCoreApplication application(argc, argv);
         const QString problem = PrepareHost(arguments);
         return problem.isNull() ? Refuse(QLatin1String("there is no display to open a window on; "
