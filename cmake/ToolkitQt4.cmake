@@ -10,6 +10,9 @@ target_link_libraries(PriorityQtCore INTERFACE Qt4::QtCore)
 target_link_libraries(PriorityQtWidgets INTERFACE Qt4::QtGui)
 if(PRIORITY_TESTS)
     target_link_libraries(PriorityQtTest INTERFACE Qt4::QtTest)
+    # In front of every test: what its test library leaves out is not seen where the others are at hand.
+    target_compile_options(PriorityQtTest INTERFACE
+        "SHELL:-include ${PROJECT_SOURCE_DIR}/tests/support/ToolkitTest.h")
 endif()
 
 # The compiled language files are the same in all generations.
