@@ -179,7 +179,7 @@ void LibraryFileTest::ChangedByteDoesNoHarm()
     directory.Write("library", content);
     QFile file(path);
     QVERIFY(file.open(QIODevice::ReadWrite));
-    const char values[] = {'\0', '\1', '\x7f', '\xff'};
+    const char values[] = {'\0', '\xff'};
     int unlike = 0;
     for (int at = 0; at < content.size(); ++at) {
         for (char value : values) {
