@@ -120,7 +120,7 @@ int NewestRelease(const QByteArray &names, int generation)
     int newest = -1;
     for (int at = names.indexOf(prefix); at >= 0; at = names.indexOf(prefix, at + 1)) {
         bool isNumber = false;
-        const int release = TextAt(names, quint64(at + prefix.size())).toInt(&isNumber);
+        const int release = TextAt(names, quint64(at) + quint64(prefix.size())).toInt(&isNumber);
         if (isNumber) {
             newest = qMax(newest, release);
         }
