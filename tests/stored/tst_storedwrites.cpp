@@ -104,7 +104,7 @@ void tst_StoredWrites::killedAtAnyMomentLeavesTheFileWholeAndPrivate()
     QVERIFY(after != before);
 
     const QString temporaryPath = fixture.ProfilesPath() + ".new";
-    const int lengths[] = {0, 1, before.size(), after.size()};
+    const int lengths[] = {0, 1, int(before.size()), int(after.size())};
     int foundBefore = 0;
     int foundAfter = 0;
     int foundTemporary = 0;
