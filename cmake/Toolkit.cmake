@@ -1,5 +1,6 @@
 # The toolkit behind one set of names, so that no other file names its generation: the targets PriorityQtCore,
-# PriorityQtWidgets and PriorityQtTest, the function priority_compile_languages, and PRIORITY_CXX_STANDARD.
+# PriorityQtWidgets and PriorityQtTest, the function priority_compile_languages with its PRIORITY_LANGUAGE_COMPILER, and
+# PRIORITY_CXX_STANDARD.
 
 set(PRIORITY_QT "5" CACHE STRING "Generation of the toolkit to build for: 4, 5 or 6")
 set_property(CACHE PRIORITY_QT PROPERTY STRINGS 4 5 6)

@@ -21,6 +21,8 @@ if(NOT QT_LRELEASE_EXECUTABLE)
     set(QT_LRELEASE_EXECUTABLE "${PRIORITY_LRELEASE}")
 endif()
 
+set(PRIORITY_LANGUAGE_COMPILER "${QT_LRELEASE_EXECUTABLE}")
+
 # priority_compile_languages(<variable for the .qm files> OUTPUT_DIRECTORY <dir> FILES <.ts>...)
 function(priority_compile_languages result)
     cmake_parse_arguments(arg "" "OUTPUT_DIRECTORY" "FILES" ${ARGN})

@@ -9,6 +9,8 @@ if(PRIORITY_TESTS)
     target_link_libraries(PriorityQtTest INTERFACE Qt5::Test)
 endif()
 
+set(PRIORITY_LANGUAGE_COMPILER "$<TARGET_FILE:Qt5::lrelease>")
+
 # priority_compile_languages(<variable for the .qm files> OUTPUT_DIRECTORY <dir> FILES <.ts>...)
 function(priority_compile_languages result)
     cmake_parse_arguments(arg "" "OUTPUT_DIRECTORY" "FILES" ${ARGN})

@@ -8,6 +8,7 @@
  */
 
 #include <QComboBox>
+#include <QLibraryInfo>
 #include <QMouseEvent>
 #include <QString>
 #include <QWidget>
@@ -86,6 +87,16 @@ inline QString PlainTextAsHtml(const QString &text)
     return text.toHtmlEscaped();
 #else
     return Qt::escape(text);
+#endif
+}
+
+/** Where the translations of the toolkit's own texts are installed. */
+inline QString TranslationDirectory()
+{
+#if QT_VERSION >= 0x060000
+    return QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+#else
+    return QLibraryInfo::location(QLibraryInfo::TranslationsPath);
 #endif
 }
 

@@ -30,6 +30,8 @@ public:
 
     bool HasFailed() const { return m_failed; }
     bool IsAtEnd() const { return m_failed || m_position == m_bytes.size(); }
+
+    /** Where the next byte is taken, or where it was that too little was left. */
     int Position() const { return m_position; }
 
     quint8 Take8() { return Has(1) ? static_cast<quint8>(m_bytes.at(m_position++)) : 0; }
@@ -66,14 +68,37 @@ private:
     bool m_failed;
 };
 
-/** Where the messages of the block begin; empty when they aren't whole. */
-QSet<quint32> MessageStarts(const QByteArray &block)
+const int undamaged = -1;
+
+struct Block {
+    Block() : position(0) {}
+
+    QByteArray bytes;
+    /** In the file. */
+    int position;
+};
+
+int DamageOfSignature(const QByteArray &bytes)
 {
-    QSet<quint32> starts;
+    const int length = static_cast<int>(sizeof signature);
+    for (int i = 0; i < length; ++i) {
+        if (i >= bytes.size() || static_cast<unsigned char>(bytes.at(i)) != signature[i]) {
+            return i;
+        }
+    }
+    return undamaged;
+}
+
+/** Where the block's messages are damaged. @param starts  gets the places in the block where they begin. */
+int DamageOfMessages(const QByteArray &block, QSet<quint32> *starts)
+{
     Bytes messages(block);
     while (!messages.IsAtEnd()) {
-        starts.insert(static_cast<quint32>(messages.Position()));
-        for (quint8 tag = messages.Take8(); tag != EndTag; tag = messages.Take8()) {
+        starts->insert(static_cast<quint32>(messages.Position()));
+        quint8 tag = 0;
+        while (!messages.HasFailed() && tag != EndTag) {
+            const int position = messages.Position();
+            tag = messages.Take8();
             switch (tag) {
             case TranslationTag:
             case SourceText16Tag:
@@ -86,49 +111,79 @@ QSet<quint32> MessageStarts(const QByteArray &block)
             case HashTag:
                 messages.Take32();
                 break;
+            case EndTag:
+                break;
             default:
-                return QSet<quint32>();
+                return position;
             }
         }
     }
-    return messages.HasFailed() ? QSet<quint32>() : starts;
+    return messages.HasFailed() ? messages.Position() : undamaged;
 }
 
-} // namespace
-
-bool IsIntactCompiledLanguage(const QByteArray &bytes)
+/** Where the block names a place at which no message begins. */
+int DamageOfOffsets(const QByteArray &block, const QSet<quint32> &starts)
 {
-    Bytes file(bytes);
-    if (file.Take(sizeof signature) !=
-        QByteArray(reinterpret_cast<const char *>(signature), sizeof signature)) {
-        return false;
+    Bytes offsets(block);
+    while (!offsets.IsAtEnd()) {
+        offsets.Take32(); // the hash of the id
+        const int position = offsets.Position();
+        if (!starts.contains(offsets.Take32()) || offsets.HasFailed()) {
+            return position;
+        }
     }
-    QByteArray offsetsBlock;
-    QByteArray messagesBlock;
+    return offsets.HasFailed() ? offsets.Position() : undamaged;
+}
+
+int Damage(const QByteArray &bytes)
+{
+    const int damageOfSignature = DamageOfSignature(bytes);
+    if (damageOfSignature != undamaged) {
+        return damageOfSignature;
+    }
+    Bytes file(bytes);
+    file.Take(sizeof signature);
+    Block offsets;
+    Block messages;
     while (!file.IsAtEnd()) {
+        const int tagPosition = file.Position();
         const quint8 tag = file.Take8();
-        const QByteArray block = file.Take(file.Take32());
+        Block block;
+        const quint32 length = file.Take32();
+        block.position = file.Position();
+        block.bytes = file.Take(length);
         switch (tag) {
         case OffsetsBlock:
-            offsetsBlock = block;
+            offsets = block;
             break;
         case MessagesBlock:
-            messagesBlock = block;
+            messages = block;
             break;
         case NumerusBlock:
         case LanguageBlock:
             break;
         default:
-            return false;
+            return tagPosition;
         }
     }
-    const QSet<quint32> starts = MessageStarts(messagesBlock);
-    Bytes offsets(offsetsBlock);
-    while (!offsets.IsAtEnd()) {
-        offsets.Take32(); // the hash of the id
-        if (!starts.contains(offsets.Take32())) {
-            return false;
-        }
+    if (file.HasFailed()) {
+        return file.Position();
     }
-    return !file.HasFailed() && !offsets.HasFailed() && !offsetsBlock.isEmpty();
+    QSet<quint32> starts;
+    const int damageOfMessages = DamageOfMessages(messages.bytes, &starts);
+    if (damageOfMessages != undamaged) {
+        return messages.position + damageOfMessages;
+    }
+    if (offsets.bytes.isEmpty() != messages.bytes.isEmpty()) {
+        return bytes.size();
+    }
+    const int damageOfOffsets = DamageOfOffsets(offsets.bytes, starts);
+    return damageOfOffsets == undamaged ? undamaged : offsets.position + damageOfOffsets;
+}
+
+} // namespace
+
+int DamagedByte(const QByteArray &bytes)
+{
+    return Damage(bytes) + 1;
 }

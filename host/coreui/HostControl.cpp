@@ -50,6 +50,16 @@ QStringList HostControl::LanguageNames()
     return HostState::Instance().languages.Names();
 }
 
+QList<LanguageProblem> HostControl::LanguageProblems()
+{
+    return HostState::Instance().languages.Problems();
+}
+
+QString HostControl::TextIn(const QString &language, const QString &id, const QString &context)
+{
+    return HostState::Instance().languages.TextIn(language, id, context);
+}
+
 bool HostControl::SetLanguage(const QString &name)
 {
     return HostState::Instance().languages.Use(name);

@@ -3,10 +3,29 @@
 
 #include <HostExport.h>
 
+#include <QList>
 #include <QString>
 #include <QStringList>
 
 class IPluginContainer;
+
+/** Why a language file that is there is not used. */
+struct LanguageProblem {
+    enum Kind {
+        /** reason has what the system says. */
+        Unreadable,
+        /** From damagedByte on, counted from 1. */
+        Damaged,
+        NoTexts
+    };
+
+    LanguageProblem() : kind(NoTexts), damagedByte(0) {}
+
+    QString path;
+    Kind kind;
+    QString reason;
+    int damagedByte;
+};
 
 /**
  * The host application's side of the core UI library: what it sets here is what plug-ins get from Startup,
@@ -25,8 +44,15 @@ public:
     /** @param directory  where the compiled language files (<language>.qm) lie. */
     static void SetLanguageDirectory(const QString &directory);
 
-    /** Names of the languages found there, such as "ar", "en", "he", sorted. */
+    /** Names of the languages found there that can be used, such as "ar", "en", "pt_BR", sorted. */
     static QStringList LanguageNames();
+
+    /** The files found there that can't be used, and why. */
+    static QList<LanguageProblem> LanguageProblems();
+
+    /** What Change::tr would answer in another language than the one in use; empty when that has no such
+     * text. */
+    static QString TextIn(const QString &language, const QString &id, const QString &context);
 
     /**
      * Switches the language that Change answers for. Does not send the language-change event; that is the

@@ -31,17 +31,16 @@ class Language
 public:
     explicit Language(const QByteArray &bytes) : m_bytes(bytes)
     {
-        m_usable = IsIntactCompiledLanguage(m_bytes) &&
-                   m_translator.load(reinterpret_cast<const uchar *>(m_bytes.constData()), m_bytes.size()) &&
+        m_usable = m_translator.load(reinterpret_cast<const uchar *>(m_bytes.constData()), m_bytes.size()) &&
                    !m_translator.isEmpty();
     }
 
     bool IsUsable() const { return m_usable; }
 
     /** Empty when the language has no such text. */
-    QString Text(const QByteArray &id, const QByteArray &context) const
+    QString Text(const QString &id, const QString &context) const
     {
-        return m_translator.translate(context.constData(), id.constData());
+        return m_translator.translate(context.toUtf8().constData(), id.toUtf8().constData());
     }
 
 private:
@@ -60,17 +59,18 @@ LanguageFiles::~LanguageFiles() = default;
 void LanguageFiles::SetDirectory(const QString &directory)
 {
     m_directory = directory;
-    m_english.reset(Load(EnglishName()));
+    LanguageProblem ignored;
+    m_english = Load(EnglishName(), &ignored);
 }
 
-QStringList LanguageFiles::Names() const
+QStringList LanguageFiles::Listed() const
 {
     QStringList names;
     if (m_directory.isEmpty()) {
         return names;
     }
     const QStringList pattern(QString(QLatin1Char('*')) + Suffix());
-    names = QDir(m_directory).entryList(pattern, QDir::Files | QDir::Readable, QDir::Name);
+    names = QDir(m_directory).entryList(pattern, QDir::Files, QDir::Name);
     for (int i = 0; i < names.size(); ++i) {
         names[i].chop(QString(Suffix()).size());
     }
@@ -79,14 +79,43 @@ QStringList LanguageFiles::Names() const
     return names;
 }
 
+QString LanguageFiles::PathOf(const QString &name) const
+{
+    return QDir(m_directory).filePath(name + Suffix());
+}
+
+QStringList LanguageFiles::Names() const
+{
+    QStringList names;
+    const QStringList listed = Listed();
+    for (int i = 0; i < listed.size(); ++i) {
+        LanguageProblem ignored;
+        if (Load(listed.at(i), &ignored)) {
+            names.append(listed.at(i));
+        }
+    }
+    return names;
+}
+
+QList<LanguageProblem> LanguageFiles::Problems() const
+{
+    QList<LanguageProblem> problems;
+    const QStringList listed = Listed();
+    for (int i = 0; i < listed.size(); ++i) {
+        LanguageProblem problem;
+        if (!Load(listed.at(i), &problem)) {
+            problems.append(problem);
+        }
+    }
+    return problems;
+}
+
 bool LanguageFiles::Use(const QString &name)
 {
     // Only what lies in the directory itself is a language; no name leads out of it.
-    if (!Names().contains(name)) {
-        return false;
-    }
-    std::unique_ptr<Language> language(Load(name));
-    if (!language) {
+    LanguageProblem ignored;
+    std::unique_ptr<Language> language;
+    if (!Listed().contains(name) || !(language = Load(name, &ignored))) {
         return false;
     }
     m_inUse.swap(language);
@@ -96,24 +125,46 @@ bool LanguageFiles::Use(const QString &name)
 
 QString LanguageFiles::Text(const QString &id, const QString &context) const
 {
-    const QByteArray idBytes = id.toUtf8();
-    const QByteArray contextBytes = context.toUtf8();
     QString text;
     if (m_inUse) {
-        text = m_inUse->Text(idBytes, contextBytes);
+        text = m_inUse->Text(id, context);
     }
     if (text.isEmpty() && m_english) {
-        text = m_english->Text(idBytes, contextBytes);
+        text = m_english->Text(id, context);
     }
     return text.isEmpty() ? id : text;
 }
 
-Language *LanguageFiles::Load(const QString &name) const
+QString LanguageFiles::TextIn(const QString &name, const QString &id, const QString &context) const
 {
-    QFile file(QDir(m_directory).filePath(name + Suffix()));
-    if (m_directory.isEmpty() || !file.open(QIODevice::ReadOnly)) {
-        return nullptr;
+    LanguageProblem ignored;
+    const std::unique_ptr<Language> language =
+        Listed().contains(name) ? Load(name, &ignored) : std::unique_ptr<Language>();
+    return language ? language->Text(id, context) : QString();
+}
+
+std::unique_ptr<Language> LanguageFiles::Load(const QString &name, LanguageProblem *problem) const
+{
+    if (m_directory.isEmpty()) {
+        return std::unique_ptr<Language>();
     }
-    std::unique_ptr<Language> language(new Language(file.readAll()));
-    return language->IsUsable() ? language.release() : nullptr;
+    problem->path = PathOf(name);
+    QFile file(problem->path);
+    const QByteArray bytes = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    if (file.error() != QFile::NoError) {
+        problem->kind = LanguageProblem::Unreadable;
+        problem->reason = file.errorString();
+        return std::unique_ptr<Language>();
+    }
+    problem->damagedByte = DamagedByte(bytes);
+    if (problem->damagedByte > 0) {
+        problem->kind = LanguageProblem::Damaged;
+        return std::unique_ptr<Language>();
+    }
+    std::unique_ptr<Language> language(new Language(bytes));
+    if (!language->IsUsable()) {
+        problem->kind = LanguageProblem::NoTexts;
+        return std::unique_ptr<Language>();
+    }
+    return language;
 }

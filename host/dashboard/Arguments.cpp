@@ -202,7 +202,7 @@ QString Arguments::HelpText()
         "Usage: dashboard [options]\n"
         "Shows the priority list of a connection manager and its settings.\n"
         "\n"
-        "  --language NAME      start in this language, such as en, ar or he\n"
+        "  --language NAME      start in this language, such as en, ar or pt_BR\n"
         "  --library-path DIR   look for plug-ins in DIR/plugins\n"
         "  --tour DIR           show the whole program to itself: work with a list of its own,\n"
         "                       save a picture of each step in DIR, and check each effect\n"

@@ -5,7 +5,6 @@
 #include "DashboardLanguage.h"
 #include "DashboardText.h"
 #include "GeneralPage.h"
-#include "HostControl.h"
 #include "OverviewDelegate.h"
 #include "PluginHost.h"
 #include "PluginObjects.h"
@@ -92,7 +91,7 @@ QString StateText(const Overview::Entry &entry)
 } // namespace
 
 MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLog *log)
-    : m_plugins(plugins), m_language(language),
+    : m_plugins(plugins), m_language(language), m_languageProblems(HostControl::LanguageProblems()),
       m_watcher(UserData::FilePath(QLatin1String("Priority.xml")), nullptr)
 {
     setObjectName(QLatin1String("mainWindow"));
@@ -341,6 +340,9 @@ void MainWindow::ShowProblems(const Overview &overview)
         if (plugin.state != PluginReady && !(overview.status < 0 && plugin.known.hasSettingsPage)) {
             problems.append(PluginHost::ProblemText(plugin));
         }
+    }
+    for (int i = 0; i < m_languageProblems.size(); ++i) {
+        problems.append(DashboardLanguage::ProblemText(m_languageProblems.at(i)));
     }
     if (overview.status == PriorityDamaged) {
         problems.append(DashboardText("IDS_LIST_DAMAGED"));

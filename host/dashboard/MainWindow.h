@@ -1,6 +1,7 @@
 #ifndef MAINWINDOW_H
 #define MAINWINDOW_H
 
+#include "HostControl.h"
 #include "ListWatcher.h"
 #include "Overview.h"
 
@@ -57,6 +58,7 @@ private:
 
     PluginHost *const m_plugins;
     DashboardLanguage *const m_language;
+    const QList<LanguageProblem> m_languageProblems;
     ListWatcher m_watcher;
     TracePanel *m_trace;
     QPointer<SettingsDialog> m_settings;

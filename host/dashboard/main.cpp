@@ -16,7 +16,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QFont>
-#include <QLocale>
 #include <QScopedPointer>
 
 #include <clocale>
@@ -47,13 +46,28 @@ QString LibraryPath(const Arguments &arguments)
     return QDir::cleanPath(QDir().absoluteFilePath(path));
 }
 
+/** Whether there is a file for the language at all, useful or not. */
+bool IsKnown(const QString &language)
+{
+    bool isKnown = HostControl::LanguageNames().contains(language);
+    const QList<LanguageProblem> problems = HostControl::LanguageProblems();
+    for (int i = 0; i < problems.size(); ++i) {
+        isKnown = isKnown || QFileInfo(problems.at(i).path).completeBaseName() == language;
+    }
+    return isKnown;
+}
+
 void StartLanguage(const Arguments &arguments)
 {
+    const QList<LanguageProblem> problems = HostControl::LanguageProblems();
+    for (int i = 0; i < problems.size(); ++i) {
+        TraceLog::Warn(DashboardLanguage::ProblemText(problems.at(i)));
+    }
     // A tour looks the same wherever it is taken, and scripts are told the same everywhere.
     const bool isTheUsers = arguments.tourDirectory.isNull() && arguments.commands.isEmpty();
     const QString language = DashboardLanguage::Choose(
         arguments.language, isTheUsers ? DashboardLanguage::Stored() : QString(),
-        isTheUsers ? QLocale::system().name() : QString(), HostControl::LanguageNames());
+        isTheUsers ? DashboardLanguage::OfSystem() : QStringList(), HostControl::LanguageNames());
     if (!DashboardLanguage::Apply(language)) {
         TraceLog::Warn(
             QString::fromLatin1("the texts for the language \"%1\" are missing; their names are shown")
@@ -80,10 +94,9 @@ QString PrepareHost(const Arguments &arguments)
     }
     HostControl::SetPluginLibraryPath(libraryPath);
     HostControl::SetLanguageDirectory(Installation::LanguageDirectory(QApplication::applicationDirPath()));
-    const QStringList available = HostControl::LanguageNames();
-    if (!arguments.language.isNull() && !available.contains(arguments.language)) {
+    if (!arguments.language.isNull() && !IsKnown(arguments.language)) {
         return QString::fromLatin1("there is no language \"%1\"; there are: %2")
-            .arg(arguments.language, available.join(QLatin1String(", ")));
+            .arg(arguments.language, HostControl::LanguageNames().join(QLatin1String(", ")));
     }
     return QString();
 }

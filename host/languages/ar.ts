@@ -17,11 +17,11 @@
     </message>
     <message>
         <source>IDS_PROFILE_UP</source>
-        <translation>أعلى</translation>
+        <translation>لأعلى</translation>
     </message>
     <message>
         <source>IDS_PROFILE_DOWN</source>
-        <translation>أسفل</translation>
+        <translation>لأسفل</translation>
     </message>
     <message>
         <source>IDS_PROFILE_ADD</source>
@@ -29,11 +29,11 @@
     </message>
     <message>
         <source>IDS_PROFILE_DELETE</source>
-        <translation>حذف</translation>
+        <translation>إزالة</translation>
     </message>
     <message>
         <source>IDS_PROFILE_NEW</source>
-        <translation>جديد</translation>
+        <translation>جديدة</translation>
     </message>
     <message>
         <source>IDS_PROFILE_ADD_TITLE</source>
@@ -101,17 +101,17 @@
     </message>
     <message>
         <source>IDS_ERROR_KEY_WRONG_LENGTH_40</source>
-        <translation>المفتاح غير مناسب لـ WEP. يجب أن يتكوّن من 5 أحرف أو 13 حرفًا، أو من 10 أو 26 أو 32 رقمًا ست عشريًا (&#x202a;0-9, A-F&#x202c;).
+        <translation>المفتاح غير مناسب لـ WEP. يجب أن يتكوّن من 5 أحرف أو 13 حرفًا، أو من 10 أو 26 أو 32 رقمًا ست عشريًا (&#x202a;0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F&#x202c;).
 
 يُسمح بالحروف والأرقام والرموز التالية:
-- _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :</translation>
+&#x200e;- _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :&#x200e;</translation>
     </message>
     <message>
         <source>IDS_ERROR_KEY_WRONG_LENGTH_128</source>
-        <translation>المفتاح غير مناسب لـ WPA. يجب أن يتكوّن من 8 أحرف إلى 63 حرفًا، أو من 64 رقمًا ست عشريًا (&#x202a;0-9, A-F&#x202c;).
+        <translation>المفتاح غير مناسب لـ WPA. يجب أن يتكوّن من 8 أحرف إلى 63 حرفًا، أو من 64 رقمًا ست عشريًا (&#x202a;0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F&#x202c;).
 
 يُسمح بالحروف والأرقام والرموز التالية:
-- _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :</translation>
+&#x200e;- _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :&#x200e;</translation>
     </message>
     <message>
         <source>IDS_ERROR_KEY_DIFFERENT</source>
@@ -124,6 +124,10 @@
 </context>
 <context>
     <name>Dashboard</name>
+    <message>
+        <source>IDS_LANGUAGE_NAME</source>
+        <translation>العربية</translation>
+    </message>
     <message>
         <source>IDS_WINDOW_TITLE</source>
         <translation>لوحة الشبكات</translation>
@@ -362,7 +366,7 @@
     </message>
     <message>
         <source>IDS_EMPTY_HINT</source>
-        <translation>افتح الإعدادات ثم اختر «إضافة» للشبكات التي يتذكّرها هذا الحاسوب، أو «جديد» لإدخال شبكة بنفسك. تُفضَّل الشبكة الأعلى في القائمة.</translation>
+        <translation>افتح الإعدادات ثم اختر «إضافة» للشبكات التي يتذكّرها هذا الحاسوب، أو «جديدة» لإدخال شبكة بنفسك. تُفضَّل الشبكة الأعلى في القائمة.</translation>
     </message>
     <message>
         <source>IDS_EMPTY_UNREADABLE</source>
@@ -374,7 +378,7 @@
     </message>
     <message>
         <source>IDS_LOAD_MISSING</source>
-        <translation>الإضافة &#x202a;%1&#x202c; غير موجودة. ثبّتها، أو شغّل اللوحة بالخيار &#x202a;--library-path&#x202c; مع المجلد الذي يحوي المجلد "plugins".</translation>
+        <translation>الإضافة &#x202a;%1&#x202c; غير موجودة. ثبّتها، أو شغّل اللوحة بالخيار &#x202a;--library-path&#x202c; مع المجلد الذي يحوي المجلد &#x202a;plugins/&#x202c;.</translation>
     </message>
     <message>
         <source>IDS_LOAD_CUT</source>
@@ -415,6 +419,18 @@
     <message>
         <source>IDS_LOAD_INIT_FAILED</source>
         <translation>تفيد الإضافة &#x202a;%1&#x202c; بأنها لا تستطيع العمل، لذلك لا تُستخدم. قد يوضّح سجل التتبّع المزيد.</translation>
+    </message>
+    <message>
+        <source>IDS_LANGUAGE_UNREADABLE</source>
+        <translation>تتعذّر قراءة ملف اللغة &#x202a;%1&#x202c;: &#x202a;%2&#x202c;</translation>
+    </message>
+    <message>
+        <source>IDS_LANGUAGE_DAMAGED</source>
+        <translation>ملف اللغة &#x202a;%1&#x202c; تالف بدءًا من البايت %2، لذلك لا يُستخدم.</translation>
+    </message>
+    <message>
+        <source>IDS_LANGUAGE_NO_TEXTS</source>
+        <translation>لا يحوي ملف اللغة &#x202a;%1&#x202c; نصوصًا صالحة، لذلك لا يُستخدم.</translation>
     </message>
 </context>
 </TS>

@@ -121,7 +121,7 @@
     <message>
         <source>IDS_ERROR_KEY_WRONG_LENGTH_40</source>
         <extracomment>WEP key of wrong length or form</extracomment>
-        <translation>The key doesn't fit WEP. It must have 5 or 13 characters, or 10, 26 or 32 hexadecimal digits (0-9, A-F).
+        <translation>The key does not fit WEP. It must have 5 or 13 characters, or 10, 26 or 32 hexadecimal digits (0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F).
 
 Allowed are letters, digits and these signs:
 - _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :</translation>
@@ -129,7 +129,7 @@ Allowed are letters, digits and these signs:
     <message>
         <source>IDS_ERROR_KEY_WRONG_LENGTH_128</source>
         <extracomment>WPA or WPA2 key of wrong length or form</extracomment>
-        <translation>The key doesn't fit WPA. It must have 8 to 63 characters, or 64 hexadecimal digits (0-9, A-F).
+        <translation>The key does not fit WPA. It must have 8 to 63 characters, or 64 hexadecimal digits (0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F).
 
 Allowed are letters, digits and these signs:
 - _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :</translation>
@@ -145,6 +145,11 @@ Allowed are letters, digits and these signs:
 </context>
 <context>
     <name>Dashboard</name>
+    <message>
+        <source>IDS_LANGUAGE_NAME</source>
+        <extracomment>What speakers of this language call it; in menus</extracomment>
+        <translation>English</translation>
+    </message>
     <message>
         <source>IDS_WINDOW_TITLE</source>
         <translation>Network dashboard</translation>
@@ -203,7 +208,7 @@ Allowed are letters, digits and these signs:
     </message>
     <message>
         <source>IDS_LOG_NOT_WRITABLE</source>
-        <translation>The log file %1 can't be written; the trace is shown here only.</translation>
+        <translation>The log file %1 cannot be written; the trace is shown here only.</translation>
     </message>
     <message>
         <source>IDS_OK</source>
@@ -231,6 +236,7 @@ Allowed are letters, digits and these signs:
     </message>
     <message>
         <source>IDS_CONNECT_PERCENT</source>
+        <extracomment>Signal strength, as this language writes percentages</extracomment>
         <translation>%1%</translation>
     </message>
     <message>
@@ -299,7 +305,7 @@ Allowed are letters, digits and these signs:
     </message>
     <message>
         <source>IDS_PAGE_NOT_SHOWN</source>
-        <translation>This page can't be shown: the plug-in %1 was loaded, but doesn't hand out its page. The trace may tell more.</translation>
+        <translation>This page cannot be shown: the plug-in %1 was loaded, but does not hand out its page. The trace may tell more.</translation>
     </message>
     <message>
         <source>IDS_KIND_WIFI</source>
@@ -367,11 +373,11 @@ Allowed are letters, digits and these signs:
     </message>
     <message>
         <source>IDS_LIST_NOT_OPENED</source>
-        <translation>The file with your list is there but can't be opened. Check its permissions, then refresh.</translation>
+        <translation>The file with your list is there but cannot be opened. Check its permissions, then refresh.</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_OFFERED</source>
-        <translation>The plug-in %1 was loaded, but doesn't hand out the list.</translation>
+        <translation>The plug-in %1 was loaded, but does not hand out the list.</translation>
     </message>
     <message>
         <source>IDS_NO_LIST_TITLE</source>
@@ -383,7 +389,8 @@ Allowed are letters, digits and these signs:
     </message>
     <message>
         <source>IDS_EMPTY_HINT</source>
-        <translation>Open the settings, then choose Add for networks that this computer remembers, or New to enter one yourself. The network highest in the list is preferred.</translation>
+        <extracomment>Names the buttons of the priority page by their captions</extracomment>
+        <translation>Open the settings, then choose “Add” for networks that this computer remembers, or “New” to enter one yourself. The network highest in the list is preferred.</translation>
     </message>
     <message>
         <source>IDS_EMPTY_UNREADABLE</source>
@@ -395,7 +402,7 @@ Allowed are letters, digits and these signs:
     </message>
     <message>
         <source>IDS_LOAD_MISSING</source>
-        <translation>The plug-in %1 is not there. Install it, or start the dashboard with --library-path and the directory that has the folder "plugins" in it.</translation>
+        <translation>The plug-in %1 is not there. Install it, or start the dashboard with --library-path and the directory that has the folder plugins/ in it.</translation>
     </message>
     <message>
         <source>IDS_LOAD_CUT</source>
@@ -409,11 +416,11 @@ Expected: Qt %3</translation>
     </message>
     <message>
         <source>IDS_LOAD_NOT_A_LIBRARY</source>
-        <translation>The plug-in %1 can't be loaded as a library: %2</translation>
+        <translation>The plug-in %1 cannot be loaded as a library: %2</translation>
     </message>
     <message>
         <source>IDS_LOAD_NO_VERIFICATION</source>
-        <translation>The plug-in %1 doesn't say what it was built for, so it is not used.</translation>
+        <translation>The plug-in %1 does not say what it was built for, so it is not used.</translation>
     </message>
     <message>
         <source>IDS_LOAD_REFUSED</source>
@@ -435,7 +442,21 @@ Expected: %3</translation>
     </message>
     <message>
         <source>IDS_LOAD_INIT_FAILED</source>
-        <translation>The plug-in %1 says that it can't work, so it is not used. The trace may tell more.</translation>
+        <translation>The plug-in %1 says that it cannot work, so it is not used. The trace may tell more.</translation>
+    </message>
+    <message>
+        <source>IDS_LANGUAGE_UNREADABLE</source>
+        <extracomment>%1 is a path, %2 the operating system's reason</extracomment>
+        <translation>The language file %1 cannot be read: %2</translation>
+    </message>
+    <message>
+        <source>IDS_LANGUAGE_DAMAGED</source>
+        <extracomment>%1 is a path, %2 a number</extracomment>
+        <translation>The language file %1 is damaged from byte %2 on, so it is not used.</translation>
+    </message>
+    <message>
+        <source>IDS_LANGUAGE_NO_TEXTS</source>
+        <translation>The language file %1 has no texts that can be used, so it is not used.</translation>
     </message>
 </context>
 </TS>

@@ -29,11 +29,11 @@
     </message>
     <message>
         <source>IDS_PROFILE_DELETE</source>
-        <translation>מחיקה</translation>
+        <translation>הסרה</translation>
     </message>
     <message>
         <source>IDS_PROFILE_NEW</source>
-        <translation>חדש</translation>
+        <translation>חדשה</translation>
     </message>
     <message>
         <source>IDS_PROFILE_ADD_TITLE</source>
@@ -101,17 +101,17 @@
     </message>
     <message>
         <source>IDS_ERROR_KEY_WRONG_LENGTH_40</source>
-        <translation>המפתח אינו מתאים ל-WEP. עליו להכיל 5 או 13 תווים, או 10, 26 או 32 ספרות הקסדצימליות (&#x202a;0-9, A-F&#x202c;).
+        <translation>המפתח אינו מתאים ל-WEP. עליו להכיל 5 או 13 תווים, או 10, 26 או 32 ספרות הקסדצימליות (&#x202a;0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F&#x202c;).
 
 מותר להשתמש באותיות, בספרות ובסימנים אלה:
-- _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :</translation>
+&#x200e;- _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :&#x200e;</translation>
     </message>
     <message>
         <source>IDS_ERROR_KEY_WRONG_LENGTH_128</source>
-        <translation>המפתח אינו מתאים ל-WPA. עליו להכיל בין 8 ל-63 תווים, או 64 ספרות הקסדצימליות (&#x202a;0-9, A-F&#x202c;).
+        <translation>המפתח אינו מתאים ל-WPA. עליו להכיל בין 8 ל-63 תווים, או 64 ספרות הקסדצימליות (&#x202a;0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F&#x202c;).
 
 מותר להשתמש באותיות, בספרות ובסימנים אלה:
-- _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :</translation>
+&#x200e;- _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :&#x200e;</translation>
     </message>
     <message>
         <source>IDS_ERROR_KEY_DIFFERENT</source>
@@ -124,6 +124,10 @@
 </context>
 <context>
     <name>Dashboard</name>
+    <message>
+        <source>IDS_LANGUAGE_NAME</source>
+        <translation>עברית</translation>
+    </message>
     <message>
         <source>IDS_WINDOW_TITLE</source>
         <translation>לוח הרשתות</translation>
@@ -362,7 +366,7 @@
     </message>
     <message>
         <source>IDS_EMPTY_HINT</source>
-        <translation>יש לפתוח את ההגדרות ולבחור „הוספה” עבור רשתות שהמחשב זוכר, או „חדש” להזנת רשת. הרשת הגבוהה ביותר ברשימה מועדפת.</translation>
+        <translation>יש לפתוח את ההגדרות ולבחור ״הוספה״ עבור רשתות שהמחשב זוכר, או ״חדשה״ להזנת רשת. הרשת הגבוהה ביותר ברשימה מועדפת.</translation>
     </message>
     <message>
         <source>IDS_EMPTY_UNREADABLE</source>
@@ -374,7 +378,7 @@
     </message>
     <message>
         <source>IDS_LOAD_MISSING</source>
-        <translation>התוסף &#x202a;%1&#x202c; אינו קיים. יש להתקין אותו, או להפעיל את הלוח עם &#x202a;--library-path&#x202c; והתיקייה שבה נמצאת התיקייה "plugins".</translation>
+        <translation>התוסף &#x202a;%1&#x202c; אינו קיים. יש להתקין אותו, או להפעיל את הלוח עם &#x202a;--library-path&#x202c; והתיקייה שבה נמצאת התיקייה &#x202a;plugins/&#x202c;.</translation>
     </message>
     <message>
         <source>IDS_LOAD_CUT</source>
@@ -415,6 +419,18 @@
     <message>
         <source>IDS_LOAD_INIT_FAILED</source>
         <translation>התוסף &#x202a;%1&#x202c; מדווח שאינו יכול לפעול, ולכן אינו בשימוש. ייתכן שיש פרטים נוספים במעקב.</translation>
+    </message>
+    <message>
+        <source>IDS_LANGUAGE_UNREADABLE</source>
+        <translation>לא ניתן לקרוא את קובץ השפה &#x202a;%1&#x202c;: &#x202a;%2&#x202c;</translation>
+    </message>
+    <message>
+        <source>IDS_LANGUAGE_DAMAGED</source>
+        <translation>קובץ השפה &#x202a;%1&#x202c; פגום החל מבית %2, ולכן אינו בשימוש.</translation>
+    </message>
+    <message>
+        <source>IDS_LANGUAGE_NO_TEXTS</source>
+        <translation>קובץ השפה &#x202a;%1&#x202c; אינו מכיל טקסטים שמישים, ולכן אינו בשימוש.</translation>
     </message>
 </context>
 </TS>

@@ -45,6 +45,14 @@ private slots:
     void everyCutOffFileIsSurvived();
     void everyChangedByteIsSurvived();
     void replacedFileDoesNotReachTheLanguageInUse();
+    void textInAnotherLanguage_data();
+    void textInAnotherLanguage();
+    void damagedFileIsNamedWithItsFirstWrongByte_data();
+    void damagedFileIsNamedWithItsFirstWrongByte();
+    void fileThatCannotBeReadIsNamedWithTheReason();
+    void fileWithoutTextsIsNamed_data();
+    void fileWithoutTextsIsNamed();
+    void wholeFilesAreNoProblem();
 
 private:
     QScopedPointer<TemporaryDirectory> m_directory;
@@ -184,6 +192,116 @@ void TestChange::replacedFileDoesNotReachTheLanguageInUse()
     QVERIFY(HostControl::SetLanguage(QLatin1String("eo")));
     m_directory->Write(QLatin1String("eo.qm"), "");
     QCOMPARE(Tr("IDS_BOTH"), QString::fromUtf8("ambaŭ"));
+}
+
+void TestChange::textInAnotherLanguage_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("id");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("there") << "eo"
+                           << "IDS_BOTH" << QString::fromUtf8("ambaŭ");
+    QTest::newRow("in use") << "en"
+                            << "IDS_BOTH"
+                            << "both";
+    QTest::newRow("in English only") << "eo"
+                                     << "IDS_ENGLISH_ONLY"
+                                     << "";
+    QTest::newRow("no such language") << "xx"
+                                      << "IDS_BOTH"
+                                      << "";
+    QTest::newRow("path out of the directory") << "../en"
+                                               << "IDS_BOTH"
+                                               << "";
+}
+
+void TestChange::textInAnotherLanguage()
+{
+    QFETCH(QString, language);
+    QFETCH(QString, id);
+    QTEST(HostControl::TextIn(language, id, QLatin1String("Sample")), "text");
+    QCOMPARE(Change::GetLangName(), QString(QLatin1String("en")));
+}
+
+void TestChange::damagedFileIsNamedWithItsFirstWrongByte_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<int>("byte");
+    const QByteArray whole = CompiledLanguage("eo.qm");
+    QByteArray signature = whole;
+    signature[4] = 'x';
+    QTest::newRow("signature") << signature << 5;
+    QTest::newRow("signature cut off") << whole.left(7) << 8;
+    QTest::newRow("empty") << QByteArray("") << 1;
+    // Both begin with "<".
+    QTest::newRow("text") << QByteArray("<?xml version=\"1.0\"?>") << 2;
+    QTest::newRow("unknown block behind the others")
+        << whole + QByteArray("\x77\0\0\0\0", 5) << whole.size() + 1;
+    QTest::newRow("block that is longer than the file")
+        << whole + QByteArray("\x69\0\0\0\7abc", 8) << whole.size() + 6;
+    QTest::newRow("block without a length") << whole + QByteArray("\x69\0", 2) << whole.size() + 2;
+    const QByteArray text("\0\x61\0\x6d\0\x62", 6);
+    QByteArray message = whole;
+    const int translation = message.indexOf(text) - 5;
+    QVERIFY(translation > 0 && message.at(translation) == 3);
+    message[translation] = 'x';
+    QTest::newRow("message") << message << translation + 1;
+    QByteArray offset = whole;
+    const int offsets = offset.indexOf(0x42, 16);
+    offset[offsets + 5 + 7] = 1;
+    QTest::newRow("place of a message") << offset << offsets + 5 + 4 + 1;
+}
+
+void TestChange::damagedFileIsNamedWithItsFirstWrongByte()
+{
+    QFETCH(QByteArray, bytes);
+    m_directory->Write(QLatin1String("xx.qm"), bytes);
+    const QList<LanguageProblem> problems = HostControl::LanguageProblems();
+    QCOMPARE(problems.size(), 1);
+    QCOMPARE(problems.first().path, m_directory->FilePath(QLatin1String("xx.qm")));
+    QCOMPARE(problems.first().kind, LanguageProblem::Damaged);
+    QTEST(problems.first().damagedByte, "byte");
+    QVERIFY(!HostControl::LanguageNames().contains(QLatin1String("xx")));
+    QCOMPARE(m_directory->Read(QLatin1String("xx.qm")), bytes);
+}
+
+void TestChange::fileThatCannotBeReadIsNamedWithTheReason()
+{
+    // Root may read every file, but nobody can read this one from its start.
+    QVERIFY(QFile::link(QLatin1String("/proc/self/mem"), m_directory->FilePath(QLatin1String("xx.qm"))));
+    const QList<LanguageProblem> problems = HostControl::LanguageProblems();
+    QCOMPARE(problems.size(), 1);
+    QCOMPARE(problems.first().path, m_directory->FilePath(QLatin1String("xx.qm")));
+    QCOMPARE(problems.first().kind, LanguageProblem::Unreadable);
+    QVERIFY(!problems.first().reason.isEmpty());
+    QVERIFY(!HostControl::LanguageNames().contains(QLatin1String("xx")));
+    QVERIFY(!HostControl::SetLanguage(QLatin1String("xx")));
+}
+
+void TestChange::fileWithoutTextsIsNamed_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("no texts") << CompiledLanguage("nothing.qm");
+    QTest::newRow("signature only") << CompiledLanguage("eo.qm").left(16);
+}
+
+void TestChange::fileWithoutTextsIsNamed()
+{
+    QFETCH(QByteArray, bytes);
+    m_directory->Write(QLatin1String("xx.qm"), bytes);
+    const QList<LanguageProblem> problems = HostControl::LanguageProblems();
+    QCOMPARE(problems.size(), 1);
+    QCOMPARE(problems.first().kind, LanguageProblem::NoTexts);
+    QVERIFY(!HostControl::LanguageNames().contains(QLatin1String("xx")));
+}
+
+void TestChange::wholeFilesAreNoProblem()
+{
+    QVERIFY(HostControl::LanguageProblems().isEmpty());
+    HostControl::SetLanguageDirectory(QString());
+    QVERIFY(HostControl::LanguageProblems().isEmpty());
+    HostControl::SetLanguageDirectory(m_directory->FilePath(QLatin1String("absent")));
+    QVERIFY(HostControl::LanguageProblems().isEmpty());
 }
 
 QTEST_MAIN(TestChange)

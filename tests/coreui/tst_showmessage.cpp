@@ -238,7 +238,7 @@ void TestShowMessage::captionsAreTranslated_data()
                                           << "New");
     QTest::newRow("ar") << "ar"
                         << (QStringList() << QString::fromUtf8("موافق") << QString::fromUtf8("إلغاء")
-                                          << QString::fromUtf8("جديد"));
+                                          << QString::fromUtf8("جديدة"));
 }
 
 void TestShowMessage::captionsAreTranslated()

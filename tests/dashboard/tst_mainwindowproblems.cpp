@@ -79,11 +79,11 @@ void MainWindowProblemsTest::MissingListIsExplainedInItsPlace_data()
     QTest::newRow("refused") << "WrongVerification"
                              << "another dashboard";
     QTest::newRow("init fails") << "InitFails"
-                                << "can't work";
+                                << "cannot work";
     QTest::newRow("hands out nothing") << "QueryNull"
-                                       << "doesn't hand out the list";
+                                       << "does not hand out the list";
     QTest::newRow("hands out something else") << "Working"
-                                              << "doesn't hand out the list";
+                                              << "does not hand out the list";
 }
 
 void MainWindowProblemsTest::MissingListIsExplainedInItsPlace()

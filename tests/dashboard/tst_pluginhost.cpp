@@ -93,12 +93,12 @@ void PluginHostTest::StateTellsHowFarItCame_data()
     QTest::addColumn<PluginState>("state");
     QTest::addColumn<QString>("text");
     QTest::newRow("missing") << "Absent" << PluginMissing << "is not there";
-    QTest::newRow("no verification") << "NoVerification" << PluginNoVerification << "doesn't say";
+    QTest::newRow("no verification") << "NoVerification" << PluginNoVerification << "does not say";
     QTest::newRow("wrong verification") << "WrongVerification" << PluginRefused << "another dashboard";
     QTest::newRow("no entry point") << "NoEntryPoint" << PluginNoEntryPoint << "no entry point";
     QTest::newRow("null instance") << "NullInstance" << PluginNullInstance << "no object";
     QTest::newRow("not a plug-in") << "NotAPlugin" << PluginNotAPlugin << "not a plug-in";
-    QTest::newRow("init fails") << "InitFails" << PluginInitFailed << "can't work";
+    QTest::newRow("init fails") << "InitFails" << PluginInitFailed << "cannot work";
     QTest::newRow("ready") << "Working" << PluginReady << "";
     QTest::newRow("ready without window") << "BaseOnly" << PluginReady << "";
 }
@@ -239,7 +239,8 @@ void PluginHostTest::ProblemIsToldInEveryLanguage()
         texts.insert(PluginHost::ProblemText(host.Plugins().first()));
     }
     QVERIFY(HostControl::SetLanguage("en"));
-    QCOMPARE(texts.size(), 3);
+    QVERIFY(languages.size() > 1);
+    QCOMPARE(texts.size(), languages.size());
 }
 
 void PluginHostTest::PluginThatIsNotReadyIsAskedNothing_data()

@@ -175,7 +175,7 @@ void TraceLogTest::FileThatCannotBeWrittenIsSaidOnce()
     QVERIFY(Eventually([&spy]() { return spy.count() == 1; }));
     qDebug("two");
     QVERIFY(Eventually([&spy]() { return spy.count() == 2; }));
-    const QStringList notices = log.Lines().filter("can't be written");
+    const QStringList notices = log.Lines().filter("cannot be written");
     QCOMPARE(notices.size(), 1);
     QVERIFY(notices.first().contains(directory.FilePath(name)));
     QVERIFY(log.Lines().contains("one") && log.Lines().contains("two"));

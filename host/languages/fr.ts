@@ -1,0 +1,436 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr">
+<context>
+    <name>PriorityPlugin</name>
+    <message>
+        <source>IDS_PLUGIN_NAME</source>
+        <translation>Priorité des réseaux</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_NAME</source>
+        <translation>Priorité des réseaux</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_INFO</source>
+        <translation>Lorsque plusieurs de ces réseaux sont à portée, celui qui est le plus haut dans la liste est utilisé.</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_UP</source>
+        <translation>Monter</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_DOWN</source>
+        <translation>Descendre</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_ADD</source>
+        <translation>Ajouter</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_DELETE</source>
+        <translation>Retirer</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_NEW</source>
+        <translation>Nouveau</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_ADD_TITLE</source>
+        <translation>Ajouter des réseaux</translation>
+    </message>
+    <message>
+        <source>IDS_NEWPROFILE</source>
+        <translation>Nouveau réseau</translation>
+    </message>
+    <message>
+        <source>IDS_OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>IDS_CANCEL</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>IDS_CLOSE</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_NETWORK_NAME</source>
+        <translation>Nom du réseau</translation>
+    </message>
+    <message>
+        <source>IDS_KEY</source>
+        <translation>Clé</translation>
+    </message>
+    <message>
+        <source>IDS_KEY_CONFIRM</source>
+        <translation>Confirmer la clé</translation>
+    </message>
+    <message>
+        <source>IDS_AUTHENTICATION</source>
+        <translation>Sécurité</translation>
+    </message>
+    <message>
+        <source>IDS_ENCRYPTION</source>
+        <translation>Chiffrement</translation>
+    </message>
+    <message>
+        <source>IDS_KEYINDEX</source>
+        <translation>N° de clé</translation>
+    </message>
+    <message>
+        <source>IDS_EAP_METHOD</source>
+        <translation>Méthode EAP</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_BOX_TITLE</source>
+        <translation>Priorité des réseaux</translation>
+    </message>
+    <message>
+        <source>IDS_WARNING_DELETE</source>
+        <translation>Retirer le réseau sélectionné de la liste de priorité&#x202f;?</translation>
+    </message>
+    <message>
+        <source>IDS_ERROR_EMPTY_SSID</source>
+        <translation>Saisissez le nom du réseau.</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_NAME_REPEAT</source>
+        <translation>Un réseau de ce nom figure déjà dans la liste de priorité.</translation>
+    </message>
+    <message>
+        <source>IDS_ERROR_KEY_WRONG_LENGTH_40</source>
+        <translation>La clé ne convient pas à WEP. Elle doit comporter 5 ou 13 caractères, ou bien 10, 26 ou 32 chiffres hexadécimaux (0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F).
+
+Sont autorisés les lettres, les chiffres et les signes suivants&#xa0;:
+- _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :</translation>
+    </message>
+    <message>
+        <source>IDS_ERROR_KEY_WRONG_LENGTH_128</source>
+        <translation>La clé ne convient pas à WPA. Elle doit comporter de 8 à 63 caractères, ou bien 64 chiffres hexadécimaux (0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F).
+
+Sont autorisés les lettres, les chiffres et les signes suivants&#xa0;:
+- _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :</translation>
+    </message>
+    <message>
+        <source>IDS_ERROR_KEY_DIFFERENT</source>
+        <translation>Les deux clés sont différentes. Saisissez la même clé dans les deux champs, en respectant les majuscules et les minuscules.</translation>
+    </message>
+    <message>
+        <source>IDS_ERROR_WRONG_AUTHENTICATION</source>
+        <translation>Choisissez un type de sécurité.</translation>
+    </message>
+</context>
+<context>
+    <name>Dashboard</name>
+    <message>
+        <source>IDS_LANGUAGE_NAME</source>
+        <translation>Français</translation>
+    </message>
+    <message>
+        <source>IDS_WINDOW_TITLE</source>
+        <translation>Tableau de bord réseau</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_FILE</source>
+        <translation>&amp;Fichier</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_VIEW</source>
+        <translation>&amp;Affichage</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_LANGUAGE</source>
+        <translation>&amp;Langue</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_CONNECT</source>
+        <translation>Se &amp;connecter…</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_SETTINGS</source>
+        <translation>&amp;Paramètres…</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_REFRESH</source>
+        <translation>&amp;Actualiser</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_QUIT</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_TRACE</source>
+        <translation>Afficher la &amp;trace</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_CONNECT</source>
+        <translation>Se connecter…</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_SETTINGS</source>
+        <translation>Paramètres…</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_REFRESH</source>
+        <translation>Actualiser</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_TRACE</source>
+        <translation>Afficher la trace</translation>
+    </message>
+    <message>
+        <source>IDS_TRACE_TITLE</source>
+        <translation>Trace</translation>
+    </message>
+    <message>
+        <source>IDS_LOG_NOT_WRITABLE</source>
+        <translation>Impossible d’écrire dans le fichier journal %1&#x202f;; la trace n’est affichée qu’ici.</translation>
+    </message>
+    <message>
+        <source>IDS_OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>IDS_CANCEL</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_TITLE</source>
+        <translation>Se connecter à un réseau</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_HINT</source>
+        <translation>Le réseau auquel vous vous connectez passe en tête de votre liste.</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NETWORK</source>
+        <translation>Réseau</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_SIGNAL</source>
+        <translation>Signal</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_PERCENT</source>
+        <translation>%1&#x202f;%</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_OK</source>
+        <translation>Se connecter</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NONE</source>
+        <translation>Aucun réseau n’est à portée. Rouvrez cette fenêtre lorsqu’il y en aura un.</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NO_WLAN</source>
+        <translation>Le module Wi-Fi n’est pas disponible&#x202f;; il n’y a donc aucun réseau auquel se connecter.</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NO_PRIORITY</source>
+        <translation>Le module qui gère la liste n’est pas disponible&#x202f;; aucun réseau ne peut donc y être placé en tête.</translation>
+    </message>
+    <message>
+        <source>IDS_SETTINGS_TITLE</source>
+        <translation>Paramètres</translation>
+    </message>
+    <message>
+        <source>IDS_PLUGIN_PRIORITY</source>
+        <translation>Priorité des réseaux</translation>
+    </message>
+    <message>
+        <source>IDS_PLUGIN_WLAN</source>
+        <translation>Wi-Fi</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_TITLE</source>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_LANGUAGE</source>
+        <translation>Langue</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_PLUGINS</source>
+        <translation>Modules</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_PLUGIN_WORKS</source>
+        <translation>chargé</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_PLUGIN_MISSING</source>
+        <translation>non disponible</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_PLACES</source>
+        <translation>À propos de ce programme</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_USER_DATA</source>
+        <translation>Vos données&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_PLUGIN_LIBRARY</source>
+        <translation>Emplacement des modules&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_VERSION</source>
+        <translation>Version&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>IDS_PAGE_NOT_SHOWN</source>
+        <translation>Cette page ne peut pas être affichée&#xa0;: le module %1 a été chargé, mais il ne fournit pas sa page. La trace en dit peut-être plus.</translation>
+    </message>
+    <message>
+        <source>IDS_KIND_WIFI</source>
+        <translation>Wi-Fi</translation>
+    </message>
+    <message>
+        <source>IDS_KIND_MOBILE</source>
+        <translation>Haut débit mobile</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_IN_USE</source>
+        <translation>Utilisé actuellement</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_IN_RANGE</source>
+        <translation>À portée</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_OUT_OF_RANGE</source>
+        <translation>Hors de portée</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_UNKNOWN</source>
+        <translation>Portée inconnue</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_FALLBACK</source>
+        <translation>Prêt en secours</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_IN_USE</source>
+        <translation>Utilisé actuellement&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_IN_USE_WIFI</source>
+        <translation>C’est le premier réseau de votre liste qui soit à portée.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_IN_USE_MOBILE</source>
+        <translation>Aucun réseau Wi-Fi placé avant lui dans votre liste n’est à portée.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NONE</source>
+        <translation>Aucun réseau utilisé</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_EMPTY</source>
+        <translation>Votre liste est vide&#x202f;; il n’y a donc rien à choisir.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NOTHING_IN_RANGE</source>
+        <translation>Aucun des réseaux de votre liste n’est à portée.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_RANGE_UNKNOWN</source>
+        <translation>Le module Wi-Fi n’est pas disponible&#x202f;; on ne sait donc pas quels réseaux sont à portée.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NO_PRIORITY_PLUGIN</source>
+        <translation>Le module qui gère la liste n’est pas disponible.</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_DAMAGED</source>
+        <translation>Le fichier de votre liste est endommagé. Ce qui précède l’endroit endommagé est affiché&#x202f;; ajouter un réseau dans les paramètres réécrit le fichier.</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_NOT_OPENED</source>
+        <translation>Le fichier de votre liste existe, mais il ne peut pas être ouvert. Vérifiez ses droits d’accès, puis actualisez.</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_NOT_OFFERED</source>
+        <translation>Le module %1 a été chargé, mais il ne fournit pas la liste.</translation>
+    </message>
+    <message>
+        <source>IDS_NO_LIST_TITLE</source>
+        <translation>Aucune liste à afficher</translation>
+    </message>
+    <message>
+        <source>IDS_EMPTY_TITLE</source>
+        <translation>Votre liste de priorité est vide</translation>
+    </message>
+    <message>
+        <source>IDS_EMPTY_HINT</source>
+        <translation>Ouvrez les paramètres, puis choisissez «&#xa0;Ajouter&#xa0;» pour les réseaux que cet ordinateur connaît, ou «&#xa0;Nouveau&#xa0;» pour en saisir un vous-même. Le réseau le plus haut dans la liste est préféré.</translation>
+    </message>
+    <message>
+        <source>IDS_EMPTY_UNREADABLE</source>
+        <translation>Rien n’a pu en être lu. Consultez le message ci-dessus.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_NOT_LOADED</source>
+        <translation>Le module %1 n’est pas chargé.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_MISSING</source>
+        <translation>Le module %1 est absent. Installez-le, ou démarrez le programme avec --library-path et le répertoire qui contient le dossier plugins/.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_CUT</source>
+        <translation>Le module %1 est incomplet&#xa0;: son fichier s’arrête trop tôt&#x202f;; il n’est donc pas utilisé. Réinstallez-le.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_OTHER_TOOLKIT</source>
+        <translation>Le module %1 a été compilé pour une autre génération de Qt&#x202f;; il n’est donc pas utilisé.
+Trouvé&#xa0;: Qt %2
+Attendu&#xa0;: Qt %3</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_NOT_A_LIBRARY</source>
+        <translation>Le module %1 ne peut pas être chargé comme bibliothèque&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_NO_VERIFICATION</source>
+        <translation>Le module %1 n’indique pas pour quoi il a été compilé&#x202f;; il n’est donc pas utilisé.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_REFUSED</source>
+        <translation>Le module %1 a été compilé pour un autre programme&#x202f;; il n’est donc pas utilisé.
+Trouvé&#xa0;: %2
+Attendu&#xa0;: %3</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_NO_ENTRY_POINT</source>
+        <translation>La bibliothèque %1 n’a pas le point d’entrée d’un module&#x202f;; elle n’est donc pas utilisée.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_NULL_INSTANCE</source>
+        <translation>Le module %1 n’a fourni aucun objet utilisable&#x202f;; il n’est donc pas utilisé.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_NOT_A_PLUGIN</source>
+        <translation>Ce que %1 a fourni n’est pas un module de ce programme&#x202f;; il n’est donc pas utilisé.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_INIT_FAILED</source>
+        <translation>Le module %1 signale qu’il ne peut pas fonctionner&#x202f;; il n’est donc pas utilisé. La trace en dit peut-être plus.</translation>
+    </message>
+    <message>
+        <source>IDS_LANGUAGE_UNREADABLE</source>
+        <translation>Le fichier de langue %1 ne peut pas être lu&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>IDS_LANGUAGE_DAMAGED</source>
+        <translation>Le fichier de langue %1 est endommagé à partir de l’octet %2&#x202f;; il n’est donc pas utilisé.</translation>
+    </message>
+    <message>
+        <source>IDS_LANGUAGE_NO_TEXTS</source>
+        <translation>Le fichier de langue %1 ne contient aucun texte utilisable&#x202f;; il n’est donc pas utilisé.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,436 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pt_BR">
+<context>
+    <name>PriorityPlugin</name>
+    <message>
+        <source>IDS_PLUGIN_NAME</source>
+        <translation>Prioridade das redes</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_NAME</source>
+        <translation>Prioridade das redes</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_INFO</source>
+        <translation>Quando várias destas redes estão ao alcance, é usada a que está mais acima na lista.</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_UP</source>
+        <translation>Subir</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_DOWN</source>
+        <translation>Descer</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_ADD</source>
+        <translation>Adicionar</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_DELETE</source>
+        <translation>Remover</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_NEW</source>
+        <translation>Nova</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_ADD_TITLE</source>
+        <translation>Adicionar redes</translation>
+    </message>
+    <message>
+        <source>IDS_NEWPROFILE</source>
+        <translation>Nova rede</translation>
+    </message>
+    <message>
+        <source>IDS_OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>IDS_CANCEL</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>IDS_CLOSE</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_NETWORK_NAME</source>
+        <translation>Nome da rede</translation>
+    </message>
+    <message>
+        <source>IDS_KEY</source>
+        <translation>Chave</translation>
+    </message>
+    <message>
+        <source>IDS_KEY_CONFIRM</source>
+        <translation>Confirmar chave</translation>
+    </message>
+    <message>
+        <source>IDS_AUTHENTICATION</source>
+        <translation>Segurança</translation>
+    </message>
+    <message>
+        <source>IDS_ENCRYPTION</source>
+        <translation>Criptografia</translation>
+    </message>
+    <message>
+        <source>IDS_KEYINDEX</source>
+        <translation>Nº da chave</translation>
+    </message>
+    <message>
+        <source>IDS_EAP_METHOD</source>
+        <translation>Método EAP</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_BOX_TITLE</source>
+        <translation>Prioridade das redes</translation>
+    </message>
+    <message>
+        <source>IDS_WARNING_DELETE</source>
+        <translation>Remover a rede selecionada da lista de prioridades?</translation>
+    </message>
+    <message>
+        <source>IDS_ERROR_EMPTY_SSID</source>
+        <translation>Digite o nome da rede.</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_NAME_REPEAT</source>
+        <translation>Já existe uma rede com esse nome na lista de prioridades.</translation>
+    </message>
+    <message>
+        <source>IDS_ERROR_KEY_WRONG_LENGTH_40</source>
+        <translation>A chave não é válida para WEP. Ela deve ter 5 ou 13 caracteres, ou então 10, 26 ou 32 dígitos hexadecimais (0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F).
+
+São permitidos letras, números e estes sinais:
+- _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :</translation>
+    </message>
+    <message>
+        <source>IDS_ERROR_KEY_WRONG_LENGTH_128</source>
+        <translation>A chave não é válida para WPA. Ela deve ter de 8 a 63 caracteres, ou então 64 dígitos hexadecimais (0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F).
+
+São permitidos letras, números e estes sinais:
+- _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :</translation>
+    </message>
+    <message>
+        <source>IDS_ERROR_KEY_DIFFERENT</source>
+        <translation>As duas chaves são diferentes. Digite a mesma chave nos dois campos, respeitando maiúsculas e minúsculas.</translation>
+    </message>
+    <message>
+        <source>IDS_ERROR_WRONG_AUTHENTICATION</source>
+        <translation>Escolha um tipo de segurança.</translation>
+    </message>
+</context>
+<context>
+    <name>Dashboard</name>
+    <message>
+        <source>IDS_LANGUAGE_NAME</source>
+        <translation>Português (Brasil)</translation>
+    </message>
+    <message>
+        <source>IDS_WINDOW_TITLE</source>
+        <translation>Painel de redes</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_FILE</source>
+        <translation>&amp;Arquivo</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_VIEW</source>
+        <translation>E&amp;xibir</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_LANGUAGE</source>
+        <translation>&amp;Idioma</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_CONNECT</source>
+        <translation>&amp;Conectar…</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_SETTINGS</source>
+        <translation>Con&amp;figurações…</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_REFRESH</source>
+        <translation>&amp;Atualizar</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_QUIT</source>
+        <translation>&amp;Sair</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_TRACE</source>
+        <translation>Mostrar &amp;rastreamento</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_CONNECT</source>
+        <translation>Conectar…</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_SETTINGS</source>
+        <translation>Configurações…</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_REFRESH</source>
+        <translation>Atualizar</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_TRACE</source>
+        <translation>Mostrar rastreamento</translation>
+    </message>
+    <message>
+        <source>IDS_TRACE_TITLE</source>
+        <translation>Rastreamento</translation>
+    </message>
+    <message>
+        <source>IDS_LOG_NOT_WRITABLE</source>
+        <translation>Não é possível gravar no arquivo de log %1; o rastreamento é exibido apenas aqui.</translation>
+    </message>
+    <message>
+        <source>IDS_OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>IDS_CANCEL</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_TITLE</source>
+        <translation>Conectar a uma rede</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_HINT</source>
+        <translation>A rede à qual você se conectar vai para o topo da sua lista.</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NETWORK</source>
+        <translation>Rede</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_SIGNAL</source>
+        <translation>Sinal</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_PERCENT</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_OK</source>
+        <translation>Conectar</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NONE</source>
+        <translation>Não há rede ao alcance. Quando houver, abra esta janela novamente.</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NO_WLAN</source>
+        <translation>O plug-in de Wi-Fi não está disponível, portanto não há rede à qual se conectar.</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NO_PRIORITY</source>
+        <translation>O plug-in que guarda a lista não está disponível, portanto nenhuma rede pode ser colocada no topo dela.</translation>
+    </message>
+    <message>
+        <source>IDS_SETTINGS_TITLE</source>
+        <translation>Configurações</translation>
+    </message>
+    <message>
+        <source>IDS_PLUGIN_PRIORITY</source>
+        <translation>Prioridade das redes</translation>
+    </message>
+    <message>
+        <source>IDS_PLUGIN_WLAN</source>
+        <translation>Wi-Fi</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_TITLE</source>
+        <translation>Geral</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_LANGUAGE</source>
+        <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_PLUGINS</source>
+        <translation>Plug-ins</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_PLUGIN_WORKS</source>
+        <translation>carregado</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_PLUGIN_MISSING</source>
+        <translation>não disponível</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_PLACES</source>
+        <translation>Sobre este programa</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_USER_DATA</source>
+        <translation>Seus dados: %1</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_PLUGIN_LIBRARY</source>
+        <translation>Local dos plug-ins: %1</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_VERSION</source>
+        <translation>Versão: %1</translation>
+    </message>
+    <message>
+        <source>IDS_PAGE_NOT_SHOWN</source>
+        <translation>Esta página não pode ser exibida: o plug-in %1 foi carregado, mas não fornece sua página. O rastreamento talvez traga mais detalhes.</translation>
+    </message>
+    <message>
+        <source>IDS_KIND_WIFI</source>
+        <translation>Wi-Fi</translation>
+    </message>
+    <message>
+        <source>IDS_KIND_MOBILE</source>
+        <translation>Banda larga móvel</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_IN_USE</source>
+        <translation>Em uso agora</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_IN_RANGE</source>
+        <translation>Ao alcance</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_OUT_OF_RANGE</source>
+        <translation>Fora de alcance</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_UNKNOWN</source>
+        <translation>Alcance desconhecido</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_FALLBACK</source>
+        <translation>Pronta como alternativa</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_IN_USE</source>
+        <translation>Em uso agora: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_IN_USE_WIFI</source>
+        <translation>É a primeira rede da sua lista que está ao alcance.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_IN_USE_MOBILE</source>
+        <translation>Nenhuma rede Wi-Fi acima dela na sua lista está ao alcance.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NONE</source>
+        <translation>Nenhuma rede em uso</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_EMPTY</source>
+        <translation>Sua lista está vazia, portanto não há o que escolher.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NOTHING_IN_RANGE</source>
+        <translation>Nenhuma das redes da sua lista está ao alcance.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_RANGE_UNKNOWN</source>
+        <translation>O plug-in de Wi-Fi não está disponível, portanto não se sabe quais redes estão ao alcance.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NO_PRIORITY_PLUGIN</source>
+        <translation>O plug-in que guarda a lista não está disponível.</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_DAMAGED</source>
+        <translation>O arquivo da sua lista está danificado. É exibido o que vem antes do dano; adicionar uma rede nas configurações grava o arquivo novamente.</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_NOT_OPENED</source>
+        <translation>O arquivo da sua lista existe, mas não pode ser aberto. Verifique as permissões dele e atualize a exibição.</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_NOT_OFFERED</source>
+        <translation>O plug-in %1 foi carregado, mas não fornece a lista.</translation>
+    </message>
+    <message>
+        <source>IDS_NO_LIST_TITLE</source>
+        <translation>Não há lista para exibir</translation>
+    </message>
+    <message>
+        <source>IDS_EMPTY_TITLE</source>
+        <translation>Sua lista de prioridades está vazia</translation>
+    </message>
+    <message>
+        <source>IDS_EMPTY_HINT</source>
+        <translation>Abra as configurações e escolha “Adicionar” para redes que este computador já conhece ou “Nova” para inserir uma. A rede que está mais acima na lista é a preferida.</translation>
+    </message>
+    <message>
+        <source>IDS_EMPTY_UNREADABLE</source>
+        <translation>Nada dela pode ser lido. Veja a mensagem acima.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_NOT_LOADED</source>
+        <translation>O plug-in %1 não está carregado.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_MISSING</source>
+        <translation>O plug-in %1 não foi encontrado. Instale-o ou inicie o programa com --library-path e o diretório que contém a pasta plugins/.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_CUT</source>
+        <translation>O plug-in %1 está incompleto: o arquivo dele termina antes da hora, portanto não é usado. Instale-o novamente.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_OTHER_TOOLKIT</source>
+        <translation>O plug-in %1 foi compilado para outra geração do Qt, portanto não é usado.
+Encontrado: Qt %2
+Esperado: Qt %3</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_NOT_A_LIBRARY</source>
+        <translation>O plug-in %1 não pode ser carregado como biblioteca: %2</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_NO_VERIFICATION</source>
+        <translation>O plug-in %1 não informa para que foi compilado, portanto não é usado.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_REFUSED</source>
+        <translation>O plug-in %1 foi compilado para outro programa, portanto não é usado.
+Encontrado: %2
+Esperado: %3</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_NO_ENTRY_POINT</source>
+        <translation>A biblioteca %1 não tem o ponto de entrada de um plug-in, portanto não é usada.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_NULL_INSTANCE</source>
+        <translation>O plug-in %1 não forneceu nenhum objeto utilizável, portanto não é usado.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_NOT_A_PLUGIN</source>
+        <translation>O que %1 forneceu não é um plug-in deste programa, portanto não é usado.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_INIT_FAILED</source>
+        <translation>O plug-in %1 informa que não pode funcionar, portanto não é usado. O rastreamento talvez traga mais detalhes.</translation>
+    </message>
+    <message>
+        <source>IDS_LANGUAGE_UNREADABLE</source>
+        <translation>O arquivo de idioma %1 não pode ser lido: %2</translation>
+    </message>
+    <message>
+        <source>IDS_LANGUAGE_DAMAGED</source>
+        <translation>O arquivo de idioma %1 está danificado a partir do byte %2, portanto não é usado.</translation>
+    </message>
+    <message>
+        <source>IDS_LANGUAGE_NO_TEXTS</source>
+        <translation>O arquivo de idioma %1 não contém textos utilizáveis, portanto não é usado.</translation>
+    </message>
+</context>
+</TS>

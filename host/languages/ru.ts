@@ -1,0 +1,436 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ru">
+<context>
+    <name>PriorityPlugin</name>
+    <message>
+        <source>IDS_PLUGIN_NAME</source>
+        <translation>Приоритет сетей</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_NAME</source>
+        <translation>Приоритет сетей</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_INFO</source>
+        <translation>Если в зоне действия несколько этих сетей, используется та, что выше в списке.</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_UP</source>
+        <translation>Вверх</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_DOWN</source>
+        <translation>Вниз</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_ADD</source>
+        <translation>Добавить</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_DELETE</source>
+        <translation>Удалить</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_NEW</source>
+        <translation>Создать</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_ADD_TITLE</source>
+        <translation>Добавление сетей</translation>
+    </message>
+    <message>
+        <source>IDS_NEWPROFILE</source>
+        <translation>Новая сеть</translation>
+    </message>
+    <message>
+        <source>IDS_OK</source>
+        <translation>ОК</translation>
+    </message>
+    <message>
+        <source>IDS_CANCEL</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>IDS_CLOSE</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_NETWORK_NAME</source>
+        <translation>Имя сети</translation>
+    </message>
+    <message>
+        <source>IDS_KEY</source>
+        <translation>Ключ</translation>
+    </message>
+    <message>
+        <source>IDS_KEY_CONFIRM</source>
+        <translation>Подтверждение ключа</translation>
+    </message>
+    <message>
+        <source>IDS_AUTHENTICATION</source>
+        <translation>Защита</translation>
+    </message>
+    <message>
+        <source>IDS_ENCRYPTION</source>
+        <translation>Шифрование</translation>
+    </message>
+    <message>
+        <source>IDS_KEYINDEX</source>
+        <translation>Номер ключа</translation>
+    </message>
+    <message>
+        <source>IDS_EAP_METHOD</source>
+        <translation>Метод EAP</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_BOX_TITLE</source>
+        <translation>Приоритет сетей</translation>
+    </message>
+    <message>
+        <source>IDS_WARNING_DELETE</source>
+        <translation>Удалить выбранную сеть из списка приоритетов?</translation>
+    </message>
+    <message>
+        <source>IDS_ERROR_EMPTY_SSID</source>
+        <translation>Введите имя сети.</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_NAME_REPEAT</source>
+        <translation>Сеть с таким именем уже есть в списке приоритетов.</translation>
+    </message>
+    <message>
+        <source>IDS_ERROR_KEY_WRONG_LENGTH_40</source>
+        <translation>Ключ не подходит для WEP. Он должен состоять из 5 или 13 символов либо из 10, 26 или 32 шестнадцатеричных цифр (0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F).
+
+Допускаются буквы, цифры и следующие знаки:
+- _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :</translation>
+    </message>
+    <message>
+        <source>IDS_ERROR_KEY_WRONG_LENGTH_128</source>
+        <translation>Ключ не подходит для WPA. Он должен содержать от 8 до 63 символов либо 64 шестнадцатеричные цифры (0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F).
+
+Допускаются буквы, цифры и следующие знаки:
+- _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :</translation>
+    </message>
+    <message>
+        <source>IDS_ERROR_KEY_DIFFERENT</source>
+        <translation>Ключи не совпадают. Введите один и тот же ключ в оба поля с учётом регистра букв.</translation>
+    </message>
+    <message>
+        <source>IDS_ERROR_WRONG_AUTHENTICATION</source>
+        <translation>Выберите способ защиты.</translation>
+    </message>
+</context>
+<context>
+    <name>Dashboard</name>
+    <message>
+        <source>IDS_LANGUAGE_NAME</source>
+        <translation>Русский</translation>
+    </message>
+    <message>
+        <source>IDS_WINDOW_TITLE</source>
+        <translation>Панель сетей</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_FILE</source>
+        <translation>&amp;Файл</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_VIEW</source>
+        <translation>&amp;Вид</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_LANGUAGE</source>
+        <translation>&amp;Язык</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_CONNECT</source>
+        <translation>&amp;Подключиться…</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_SETTINGS</source>
+        <translation>&amp;Настройки…</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_REFRESH</source>
+        <translation>&amp;Обновить</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_QUIT</source>
+        <translation>В&amp;ыход</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_TRACE</source>
+        <translation>Показать &amp;трассировку</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_CONNECT</source>
+        <translation>Подключиться…</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_SETTINGS</source>
+        <translation>Настройки…</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_REFRESH</source>
+        <translation>Обновить</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_TRACE</source>
+        <translation>Показать трассировку</translation>
+    </message>
+    <message>
+        <source>IDS_TRACE_TITLE</source>
+        <translation>Трассировка</translation>
+    </message>
+    <message>
+        <source>IDS_LOG_NOT_WRITABLE</source>
+        <translation>Не удаётся записать файл журнала %1; трассировка отображается только здесь.</translation>
+    </message>
+    <message>
+        <source>IDS_OK</source>
+        <translation>ОК</translation>
+    </message>
+    <message>
+        <source>IDS_CANCEL</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_TITLE</source>
+        <translation>Подключение к сети</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_HINT</source>
+        <translation>Сеть, к которой вы подключаетесь, становится первой в вашем списке.</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NETWORK</source>
+        <translation>Сеть</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_SIGNAL</source>
+        <translation>Сигнал</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_PERCENT</source>
+        <translation>%1&#xa0;%</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_OK</source>
+        <translation>Подключиться</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NONE</source>
+        <translation>В зоне действия нет ни одной сети. Когда сеть появится, откройте это окно снова.</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NO_WLAN</source>
+        <translation>Модуль Wi-Fi недоступен, поэтому подключаться не к чему.</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NO_PRIORITY</source>
+        <translation>Модуль, который хранит список, недоступен, поэтому поставить сеть на первое место нельзя.</translation>
+    </message>
+    <message>
+        <source>IDS_SETTINGS_TITLE</source>
+        <translation>Настройки</translation>
+    </message>
+    <message>
+        <source>IDS_PLUGIN_PRIORITY</source>
+        <translation>Приоритет сетей</translation>
+    </message>
+    <message>
+        <source>IDS_PLUGIN_WLAN</source>
+        <translation>Wi-Fi</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_TITLE</source>
+        <translation>Общие</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_LANGUAGE</source>
+        <translation>Язык</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_PLUGINS</source>
+        <translation>Модули</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_PLUGIN_WORKS</source>
+        <translation>загружен</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_PLUGIN_MISSING</source>
+        <translation>недоступен</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_PLACES</source>
+        <translation>О программе</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_USER_DATA</source>
+        <translation>Ваши данные: %1</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_PLUGIN_LIBRARY</source>
+        <translation>Расположение модулей: %1</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_VERSION</source>
+        <translation>Версия: %1</translation>
+    </message>
+    <message>
+        <source>IDS_PAGE_NOT_SHOWN</source>
+        <translation>Показать эту страницу нельзя: модуль %1 загружен, но не предоставляет свою страницу. Подробности, возможно, есть в трассировке.</translation>
+    </message>
+    <message>
+        <source>IDS_KIND_WIFI</source>
+        <translation>Wi-Fi</translation>
+    </message>
+    <message>
+        <source>IDS_KIND_MOBILE</source>
+        <translation>Мобильная сеть</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_IN_USE</source>
+        <translation>Используется сейчас</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_IN_RANGE</source>
+        <translation>В зоне действия</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_OUT_OF_RANGE</source>
+        <translation>Вне зоны действия</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_UNKNOWN</source>
+        <translation>Доступность неизвестна</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_FALLBACK</source>
+        <translation>Готова как запасная</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_IN_USE</source>
+        <translation>Используется сейчас: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_IN_USE_WIFI</source>
+        <translation>Это первая сеть вашего списка, которая находится в зоне действия.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_IN_USE_MOBILE</source>
+        <translation>Ни одна из сетей Wi-Fi, стоящих в списке выше, не находится в зоне действия.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NONE</source>
+        <translation>Сеть не используется</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_EMPTY</source>
+        <translation>Ваш список пуст, поэтому выбирать не из чего.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NOTHING_IN_RANGE</source>
+        <translation>Ни одна из сетей вашего списка не находится в зоне действия.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_RANGE_UNKNOWN</source>
+        <translation>Модуль Wi-Fi недоступен, поэтому неизвестно, какие сети находятся в зоне действия.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NO_PRIORITY_PLUGIN</source>
+        <translation>Модуль, который хранит список, недоступен.</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_DAMAGED</source>
+        <translation>Файл с вашим списком повреждён. Показано то, что стоит до повреждённого места; при добавлении сети в настройках файл будет записан заново.</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_NOT_OPENED</source>
+        <translation>Файл с вашим списком существует, но открыть его не удаётся. Проверьте права доступа к нему и обновите окно.</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_NOT_OFFERED</source>
+        <translation>Модуль %1 загружен, но не предоставляет список.</translation>
+    </message>
+    <message>
+        <source>IDS_NO_LIST_TITLE</source>
+        <translation>Нет списка для показа</translation>
+    </message>
+    <message>
+        <source>IDS_EMPTY_TITLE</source>
+        <translation>Ваш список приоритетов пуст</translation>
+    </message>
+    <message>
+        <source>IDS_EMPTY_HINT</source>
+        <translation>Откройте настройки и нажмите «Добавить», чтобы выбрать сети, которые помнит этот компьютер, или «Создать», чтобы ввести сеть самостоятельно. Предпочтение отдаётся сети, которая стоит в списке выше.</translation>
+    </message>
+    <message>
+        <source>IDS_EMPTY_UNREADABLE</source>
+        <translation>Прочитать его не удалось. См. сообщение выше.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_NOT_LOADED</source>
+        <translation>Модуль %1 не загружен.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_MISSING</source>
+        <translation>Модуль %1 отсутствует. Установите его или запустите программу с параметром --library-path и каталогом, в котором находится папка plugins/.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_CUT</source>
+        <translation>Модуль %1 неполон: его файл обрывается раньше времени, поэтому он не используется. Установите модуль заново.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_OTHER_TOOLKIT</source>
+        <translation>Модуль %1 собран для другого поколения Qt, поэтому он не используется.
+Найдено: Qt %2
+Ожидалось: Qt %3</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_NOT_A_LIBRARY</source>
+        <translation>Модуль %1 не удаётся загрузить как библиотеку: %2</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_NO_VERIFICATION</source>
+        <translation>Модуль %1 не сообщает, для чего он собран, поэтому он не используется.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_REFUSED</source>
+        <translation>Модуль %1 собран для другой программы, поэтому он не используется.
+Найдено: %2
+Ожидалось: %3</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_NO_ENTRY_POINT</source>
+        <translation>В библиотеке %1 нет точки входа модуля, поэтому она не используется.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_NULL_INSTANCE</source>
+        <translation>Модуль %1 не предоставил объект для работы, поэтому он не используется.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_NOT_A_PLUGIN</source>
+        <translation>То, что предоставил %1, не является модулем этой программы, поэтому не используется.</translation>
+    </message>
+    <message>
+        <source>IDS_LOAD_INIT_FAILED</source>
+        <translation>Модуль %1 сообщает, что не может работать, поэтому он не используется. Подробности, возможно, есть в трассировке.</translation>
+    </message>
+    <message>
+        <source>IDS_LANGUAGE_UNREADABLE</source>
+        <translation>Не удаётся прочитать языковой файл %1: %2</translation>
+    </message>
+    <message>
+        <source>IDS_LANGUAGE_DAMAGED</source>
+        <translation>Языковой файл %1 повреждён начиная с байта %2, поэтому он не используется.</translation>
+    </message>
+    <message>
+        <source>IDS_LANGUAGE_NO_TEXTS</source>
+        <translation>В языковом файле %1 нет пригодных текстов, поэтому он не используется.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,509 @@
+#include "Screens.h"
+
+#include <CommonUtils.h>
+#include <ConnectDialog.h>
+#include <HostControl.h>
+#include <IPriorityPlugin.h>
+#include <IWLANUIPlugin.h>
+#include <MainWindow.h>
+#include <PluginObjects.h>
+#include <Settings.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDialog>
+#include <QDir>
+#include <QFile>
+#include <QFont>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QTimer>
+#include <QtTest>
+
+namespace
+{
+
+const char *const noNetworks = "<wlannetworks/>";
+const char *const longName = "Guests of the seminar hotel at the old harbour, second floor";
+
+const char *const userDirectory = "priority-dashboard";
+
+QString LanguageDirectory()
+{
+    return QLatin1String(BUILD_DIRECTORY "/share/priority-dashboard/languages");
+}
+
+QList<KnownPlugin> KnownAs(const QString &priorityFolder, const QString &wlanFolder)
+{
+    QList<KnownPlugin> known = PluginHost::KnownPlugins();
+    known[0].folder = priorityFolder;
+    known[1].folder = wlanFolder;
+    return known;
+}
+
+/** The size of desktops, which the toolkit exceeds where there is none; the family is the widest of the usual
+ * ones. */
+void UseDesktopFont()
+{
+    QFont font(QLatin1String("DejaVu Sans"));
+    font.setPointSize(10);
+    QApplication::setFont(font);
+}
+
+QByteArray StartOfALibrary()
+{
+    QFile whole(QLatin1String(BUILD_DIRECTORY "/tests/fixtures/plugins/Working/libWorking.so"));
+    if (!whole.open(QIODevice::ReadOnly)) {
+        qFatal("a plug-in can't be read");
+    }
+    return whole.read(4096);
+}
+
+/** Hands out everything but the Wi-Fi plug-in. */
+class WithoutWlan : public IPluginContainer
+{
+public:
+    explicit WithoutWlan(IPluginContainer *container) : m_container(container) {}
+
+    QObject *GetPluginObject(const QString &classId, int interfaceNumber) override
+    {
+        const int wlanInterface = 4102;
+        return interfaceNumber == wlanInterface ? nullptr
+                                                : m_container->GetPluginObject(classId, interfaceNumber);
+    }
+
+private:
+    IPluginContainer *const m_container;
+};
+
+} // namespace
+
+const Screens::Screen Screens::screens[] = {
+    {"list", &Screens::ShowList, nullptr},
+    {"list, nothing in range", &Screens::ShowList, noNetworks},
+    {"list, empty", &Screens::ShowListFile, nullptr},
+    {"list, of mobile broadband", &Screens::ShowListFile, "<z><item name='Mobile broadband' type='2'/></z>"},
+    {"list, mobile broadband second", &Screens::ShowListFile,
+     "<z><item name='Home' type='1'/><item name='Mobile broadband' type='2'/></z>"},
+    {"list, not to be opened", &Screens::ShowUnopenedList, nullptr},
+    {"list, range unknown", &Screens::ShowRangeUnknown, nullptr},
+    {"list, not handed out", &Screens::ShowListNotHandedOut, "QueryNull"},
+    {"list, damaged", &Screens::ShowListFile, "<z><item name='Home' type='1'/><item"},
+    {"list, damaged from the start", &Screens::ShowListFile, "no list"},
+    {"trace", &Screens::ShowTrace, nullptr},
+    {"File menu", &Screens::ShowMenu, "fileMenu"},
+    {"View menu", &Screens::ShowMenu, "viewMenu"},
+    {"Language menu", &Screens::ShowMenu, "languageMenu"},
+    {"plug-ins missing", &Screens::ShowBroken, "Absent"},
+    {"plug-in without verification", &Screens::ShowBroken, "NoVerification"},
+    {"plug-in refused", &Screens::ShowBroken, "WrongVerification"},
+    {"plug-in without entry point", &Screens::ShowBroken, "NoEntryPoint"},
+    {"plug-in with null instance", &Screens::ShowBroken, "NullInstance"},
+    {"plug-in that is none", &Screens::ShowBroken, "NotAPlugin"},
+    {"plug-in whose start fails", &Screens::ShowBroken, "InitFails"},
+    {"plug-in that hands out nothing", &Screens::ShowBroken, "QueryNull"},
+    {"plug-in that is no library", &Screens::ShowBroken, "NoLibrary"},
+    {"plug-in that is cut", &Screens::ShowBroken, "Cut"},
+    {"plug-in of another toolkit", &Screens::ShowBroken, "NeedsGeneration7"},
+    {"settings, plug-ins missing", &Screens::ShowBrokenSettings, "Absent"},
+    {"settings, page not handed out", &Screens::ShowBrokenSettings, "QueryNull"},
+    {"settings, general page of missing plug-ins", &Screens::ShowBrokenGeneralPage, "Absent"},
+    {"settings, general page", &Screens::ShowGeneralPage, nullptr},
+    {"settings, priority page", &Screens::ShowPriorityPage, nullptr},
+    {"add dialog", &Screens::ShowAddDialog, nullptr},
+    {"new dialog, open", &Screens::ShowNewDialog, "open"},
+    {"new dialog, shared", &Screens::ShowNewDialog, "shared"},
+    {"new dialog, WPAPSK", &Screens::ShowNewDialog, "WPAPSK"},
+    {"new dialog, WPA2PSK", &Screens::ShowNewDialog, "WPA2PSK"},
+    {"new dialog, WPA(EAP)", &Screens::ShowNewDialog, "WPA(EAP)"},
+    {"new dialog, WPA2(EAP)", &Screens::ShowNewDialog, "WPA2(EAP)"},
+    {"delete question", &Screens::ShowDeleteQuestion, nullptr},
+    {"notice, WEP key", &Screens::ShowKeyNotice, "shared WEP abc abc"},
+    {"notice, WPA key", &Screens::ShowKeyNotice, "WPA2PSK CCMP abc abc"},
+    {"notice, different keys", &Screens::ShowKeyNotice, "WPA2PSK CCMP correct-horse correct-house"},
+    {"notice, no authentication", &Screens::ShowKeyNotice, "none CCMP correct-horse correct-horse"},
+    {"notice, no name", &Screens::ShowNameNotice, ""},
+    {"notice, repeated name", &Screens::ShowNameNotice, "Home"},
+    {"connect dialog", &Screens::ShowConnect, nullptr},
+    {"connect dialog, nothing in range", &Screens::ShowConnect, noNetworks},
+    {"connect dialog, Wi-Fi plug-in missing", &Screens::ShowConnectWithout, "WLAN"},
+    {"connect dialog, priority plug-in missing", &Screens::ShowConnectWithout, "priority"},
+    {"language file damaged", &Screens::ShowDamagedLanguage, "damaged"},
+    {"language file without texts", &Screens::ShowDamagedLanguage, "empty"},
+    {"language file not readable", &Screens::ShowDamagedLanguage, "unreadable"},
+};
+
+Screens::Screens() : m_visitor(nullptr), m_visits(0)
+{
+    UseDesktopFont();
+    m_directory.reset(new TemporaryDirectory);
+    qputenv("XDG_DATA_HOME", m_directory->Path().toLocal8Bit());
+    m_log.reset(new TraceLog(m_directory->FilePath(QLatin1String("dashboard.log"))));
+    HostControl::SetPluginLibraryPath(QLatin1String(BUILD_DIRECTORY));
+    HostControl::SetLanguageDirectory(LanguageDirectory());
+    HostControl::ApplyLook();
+    m_plugins.reset(new PluginHost(QLatin1String(BUILD_DIRECTORY), PluginHost::KnownPlugins()));
+    m_plugins->Load();
+    if (m_plugins->Plugins().at(0).state != PluginReady || m_plugins->Plugins().at(1).state != PluginReady) {
+        qFatal("the plug-ins can't be loaded");
+    }
+}
+
+Screens::~Screens()
+{
+    m_window.reset();
+    m_plugins->Shutdown();
+}
+
+QStringList Screens::Names()
+{
+    QStringList names;
+    for (const Screen &screen : screens) {
+        names.append(QLatin1String(screen.name));
+    }
+    return names;
+}
+
+QStringList Screens::Languages()
+{
+    QStringList languages = QDir(LanguageDirectory()).entryList(QStringList(QLatin1String("*.qm")));
+    for (int i = 0; i < languages.size(); ++i) {
+        languages[i].chop(3);
+    }
+    return languages;
+}
+
+const Screens::Screen *Screens::Find(const QString &name)
+{
+    for (const Screen &screen : screens) {
+        if (name == QLatin1String(screen.name)) {
+            return &screen;
+        }
+    }
+    qFatal("there is no such screen");
+    return nullptr;
+}
+
+void Screens::Show(const QString &name, const QString &language, const Visitor &visitor)
+{
+    m_directory.reset(new TemporaryDirectory);
+    qputenv("XDG_DATA_HOME", m_directory->Path().toLocal8Bit());
+    HostControl::SetPluginContainer(m_plugins.data());
+    HostControl::SetLanguageDirectory(LanguageDirectory());
+    if (!DashboardLanguage::Apply(language)) {
+        qFatal("a language is missing");
+    }
+    m_language.reset(new DashboardLanguage(m_plugins.data(), nullptr));
+    m_visitor = &visitor;
+    const Screen *screen = Find(name);
+    m_visits = 0;
+    (this->*(screen->show))(screen->detail);
+    m_window.reset();
+    m_visitor = nullptr;
+    if (m_visits != 1) {
+        qFatal("the screen %s was not shown", screen->name);
+    }
+}
+
+void Screens::ShowList(const char *networksInRange)
+{
+    UseNetworksInRange(networksInRange);
+    Fill();
+    OpenWindow(m_plugins.data());
+    Visit();
+}
+
+void Screens::ShowListFile(const char *content)
+{
+    if (content) {
+        WriteUserFile(QLatin1String("Priority.xml"), content);
+    }
+    OpenWindow(m_plugins.data());
+    Visit();
+}
+
+void Screens::ShowUnopenedList(const char *)
+{
+    // A directory can't be opened as a file, not even by root.
+    QDir().mkpath(m_directory->FilePath(QLatin1String("priority-dashboard/Priority.xml")));
+    OpenWindow(m_plugins.data());
+    Visit();
+}
+
+void Screens::ShowRangeUnknown(const char *)
+{
+    Fill();
+    WithoutWlan container(m_plugins.data());
+    HostControl::SetPluginContainer(&container);
+    OpenWindow(m_plugins.data());
+    Visit();
+    m_window.reset();
+    HostControl::SetPluginContainer(m_plugins.data());
+}
+
+void Screens::ShowListNotHandedOut(const char *folder)
+{
+    PluginHost plugins(QLatin1String(BUILD_DIRECTORY "/tests/fixtures"),
+                       KnownAs(QLatin1String(folder), QLatin1String("Absent")));
+    plugins.Load();
+    OpenWindow(&plugins);
+    Visit();
+    m_window.reset();
+}
+
+void Screens::ShowTrace(const char *)
+{
+    Fill();
+    OpenWindow(m_plugins.data());
+    Click("traceButton");
+    Visit();
+}
+
+void Screens::ShowMenu(const char *menu)
+{
+    OpenWindow(m_plugins.data());
+    Child<QMenu>(menu)->popup(m_window->pos());
+    Visit();
+    Child<QMenu>(menu)->close();
+}
+
+void Screens::ShowBroken(const char *folder)
+{
+    WriteUserFile(QLatin1String("plugins/NoLibrary/libNoLibrary.so"), "no library");
+    WriteUserFile(QLatin1String("plugins/Cut/libCut.so"), StartOfALibrary());
+    const QString userPath = m_directory->FilePath(QLatin1String(userDirectory));
+    const bool isUsers = QDir(userPath + QLatin1String("/plugins")).exists(QLatin1String(folder));
+    const QString path = isUsers ? userPath : QLatin1String(BUILD_DIRECTORY "/tests/fixtures");
+    PluginHost plugins(path, KnownAs(QLatin1String("Absent"), QLatin1String(folder)));
+    plugins.Load();
+    OpenWindow(&plugins);
+    Visit();
+    m_window.reset();
+}
+
+void Screens::ShowBrokenSettings(const char *folder)
+{
+    PluginHost plugins(QLatin1String(BUILD_DIRECTORY "/tests/fixtures"),
+                       KnownAs(QLatin1String(folder), QLatin1String("Absent")));
+    plugins.Load();
+    OpenWindow(&plugins);
+    Click("settingsButton");
+    Visit();
+    m_window.reset();
+}
+
+void Screens::ShowBrokenGeneralPage(const char *folder)
+{
+    PluginHost plugins(QLatin1String(BUILD_DIRECTORY "/tests/fixtures"),
+                       KnownAs(QLatin1String(folder), QLatin1String("Absent")));
+    plugins.Load();
+    OpenWindow(&plugins);
+    Click("settingsButton");
+    Child<QListWidget>("pageList")->setCurrentRow(0);
+    Visit();
+    m_window.reset();
+}
+
+void Screens::ShowGeneralPage(const char *)
+{
+    OpenWindow(m_plugins.data());
+    Click("settingsButton");
+    Child<QListWidget>("pageList")->setCurrentRow(0);
+    Visit();
+}
+
+void Screens::ShowPriorityPage(const char *)
+{
+    OpenPage();
+    Visit();
+}
+
+void Screens::ShowAddDialog(const char *)
+{
+    OpenPage();
+    Click("addButton");
+    Visit();
+    Child<QDialog>("addDialog")->close();
+}
+
+void Screens::ShowNewDialog(const char *method)
+{
+    OpenNewDialog(method);
+    Visit();
+    Child<QDialog>("newDialog")->close();
+}
+
+void Screens::ShowDeleteQuestion(const char *)
+{
+    OpenPage();
+    ClickAndVisitMessage("deleteButton");
+}
+
+void Screens::ShowKeyNotice(const char *methodAndKeys)
+{
+    const QStringList parts = QString::fromLatin1(methodAndKeys).split(QLatin1Char(' '));
+    OpenNewDialog(parts.at(0).toLatin1().constData());
+    Child<QComboBox>("networkNameBox")->setEditText(QLatin1String("Library"));
+    QComboBox *encryption = Child<QComboBox>("encryptionBox");
+    encryption->setCurrentIndex(encryption->findText(parts.at(1)));
+    Child<QLineEdit>("keyEdit")->setText(parts.at(2));
+    Child<QLineEdit>("confirmKeyEdit")->setText(parts.at(3));
+    ClickAndVisitMessage("newOkButton");
+    Child<QDialog>("newDialog")->close();
+}
+
+void Screens::ShowNameNotice(const char *name)
+{
+    OpenNewDialog("open");
+    Child<QComboBox>("networkNameBox")->setEditText(QLatin1String(name));
+    ClickAndVisitMessage("newOkButton");
+    Child<QDialog>("newDialog")->close();
+}
+
+void Screens::ShowConnect(const char *networksInRange)
+{
+    UseNetworksInRange(networksInRange);
+    OpenWindow(m_plugins.data());
+    Click("connectButton");
+    Visit();
+}
+
+void Screens::ShowConnectWithout(const char *plugin)
+{
+    OpenWindow(m_plugins.data());
+    if (QByteArray(plugin) == "WLAN") {
+        HostControl::SetPluginContainer(nullptr);
+        m_window->Refresh();
+        m_window->OpenConnect();
+    } else {
+        Click("connectButton");
+        HostControl::SetPluginContainer(nullptr);
+        m_window->Refresh();
+        Click("connectOkButton");
+    }
+    Visit();
+}
+
+void Screens::ShowDamagedLanguage(const char *kind)
+{
+    QDir().mkdir(m_directory->FilePath(QLatin1String("languages")));
+    foreach (const QString &language, Languages()) {
+        const QString file = QLatin1Char('/') + language + QLatin1String(".qm");
+        QFile::copy(LanguageDirectory() + file, m_directory->FilePath(QLatin1String("languages")) + file);
+    }
+    const QString bad = QLatin1String("languages/xx.qm");
+    if (QByteArray(kind) == "damaged") {
+        m_directory->Write(bad, "no language");
+    } else if (QByteArray(kind) == "empty") {
+        m_directory->Write(bad, m_directory->Read(QLatin1String("languages/en.qm")).left(16));
+    } else {
+        QFile::link(QLatin1String("/proc/self/mem"), m_directory->FilePath(bad));
+    }
+    HostControl::SetLanguageDirectory(m_directory->FilePath(QLatin1String("languages")));
+    OpenWindow(m_plugins.data());
+    Visit();
+}
+
+void Screens::OpenWindow(PluginHost *plugins)
+{
+    m_window.reset(new MainWindow(plugins, m_language.data(), m_log.data()));
+    m_window->show();
+}
+
+void Screens::OpenPage()
+{
+    Fill();
+    OpenWindow(m_plugins.data());
+    Click("settingsButton");
+    QTableWidget *table = Child<QTableWidget>("priorityTable");
+    QTest::mouseClick(table->viewport(), Qt::LeftButton, Qt::NoModifier,
+                      table->visualRect(table->model()->index(1, 0)).center());
+}
+
+void Screens::OpenNewDialog(const char *method)
+{
+    OpenPage();
+    Click("newButton");
+    QComboBox *box = Child<QComboBox>("authenticationBox");
+    box->setCurrentIndex(box->findText(QLatin1String(method)));
+}
+
+void Screens::Fill()
+{
+    QList<RememberedList> remembered;
+    PluginObjects::Wlan()->GetRememberedList(&remembered);
+    QList<PriorityList> entries;
+    // One is left to be added.
+    for (int i = 0; i + 1 < remembered.size(); ++i) {
+        PriorityList entry;
+        entry.name = remembered.at(i).name;
+        entry.type = remembered.at(i).type;
+        entries.append(entry);
+    }
+    PriorityList longOne;
+    longOne.name = QLatin1String(longName);
+    longOne.type = QLatin1String("1");
+    entries.append(longOne);
+    PluginObjects::Priority()->AddPriorityList(entries);
+}
+
+void Screens::WriteUserFile(const QString &name, const QByteArray &content)
+{
+    const QString path = QLatin1String(userDirectory) + QLatin1Char('/') + name;
+    QDir().mkpath(QFileInfo(m_directory->FilePath(path)).path());
+    m_directory->Write(path, content);
+}
+
+void Screens::UseNetworksInRange(const char *content)
+{
+    if (content) {
+        WriteUserFile(QLatin1String("WLANNetworks.xml"), content);
+    }
+}
+
+void Screens::Visit()
+{
+    QApplication::processEvents();
+    QWidget *top = m_window.data();
+    if (QApplication::activeModalWidget()) {
+        top = QApplication::activeModalWidget();
+    }
+    if (QApplication::activePopupWidget()) {
+        top = QApplication::activePopupWidget();
+    }
+    ++m_visits;
+    (*m_visitor)(top);
+}
+
+void Screens::ClickAndVisitMessage(const char *button)
+{
+    QTimer::singleShot(0, this, SLOT(VisitMessage()));
+    Click(button);
+}
+
+void Screens::VisitMessage()
+{
+    QWidget *message = QApplication::activeModalWidget();
+    if (message->objectName() != QLatin1String("messageBox")) {
+        qFatal("no message is shown");
+    }
+    Visit();
+    message->close();
+}
+
+template <class Widget> Widget *Screens::Child(const char *name) const
+{
+    Widget *child = m_window->findChild<Widget *>(QLatin1String(name));
+    if (!child) {
+        qFatal("there is no %s", name);
+    }
+    return child;
+}
+
+void Screens::Click(const char *button)
+{
+    QTest::mouseClick(Child<QPushButton>(button), Qt::LeftButton);
+}

@@ -1,0 +1,94 @@
+#ifndef SCREENS_H
+#define SCREENS_H
+
+#include <DashboardLanguage.h>
+#include <PluginHost.h>
+#include <TemporaryDirectory.h>
+#include <TraceLog.h>
+
+#include <QObject>
+#include <QScopedPointer>
+#include <QStringList>
+
+#include <functional>
+
+class MainWindow;
+class QWidget;
+
+/**
+ * Everything that the program shows, screen by screen, over the real plug-ins. These live once in a process,
+ * and so does this.
+ */
+class Screens : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** Gets the topmost window of a screen while it is open. */
+    typedef std::function<void(QWidget *)> Visitor;
+
+    Screens();
+    ~Screens() override;
+
+    static QStringList Names();
+
+    /** Languages with a file of their own. */
+    static QStringList Languages();
+
+    void Show(const QString &name, const QString &language, const Visitor &visitor);
+
+private slots:
+    void VisitMessage();
+
+private:
+    struct Screen {
+        const char *name;
+        void (Screens::*show)(const char *detail);
+        const char *detail;
+    };
+
+    static const Screen screens[];
+    static const Screen *Find(const QString &name);
+
+    void ShowList(const char *networksInRange);
+    void ShowListFile(const char *content);
+    void ShowUnopenedList(const char *);
+    void ShowRangeUnknown(const char *);
+    void ShowListNotHandedOut(const char *folder);
+    void ShowTrace(const char *);
+    void ShowMenu(const char *menu);
+    void ShowBroken(const char *folder);
+    void ShowBrokenSettings(const char *folder);
+    void ShowBrokenGeneralPage(const char *folder);
+    void ShowGeneralPage(const char *);
+    void ShowPriorityPage(const char *);
+    void ShowAddDialog(const char *);
+    void ShowNewDialog(const char *method);
+    void ShowDeleteQuestion(const char *);
+    void ShowKeyNotice(const char *methodAndKeys);
+    void ShowNameNotice(const char *name);
+    void ShowConnect(const char *networksInRange);
+    void ShowConnectWithout(const char *plugin);
+    void ShowDamagedLanguage(const char *kind);
+
+    void OpenWindow(PluginHost *plugins);
+    void OpenPage();
+    void OpenNewDialog(const char *method);
+    void Fill();
+    void WriteUserFile(const QString &name, const QByteArray &content);
+    void UseNetworksInRange(const char *content);
+    void Visit();
+    void ClickAndVisitMessage(const char *button);
+    template <class Widget> Widget *Child(const char *name) const;
+    void Click(const char *button);
+
+    QScopedPointer<TemporaryDirectory> m_directory;
+    QScopedPointer<TraceLog> m_log;
+    QScopedPointer<PluginHost> m_plugins;
+    QScopedPointer<DashboardLanguage> m_language;
+    QScopedPointer<MainWindow> m_window;
+    const Visitor *m_visitor;
+    int m_visits;
+};
+
+#endif
