@@ -20,6 +20,9 @@ public:
 
     void SetDirectory(const QString &directory);
 
+    /** From now on there is also a language "pseudo", which is made from the English texts. */
+    void OfferPseudo() { m_isPseudoOffered = true; }
+
     /** Only those that can be used. */
     QStringList Names() const;
 
@@ -46,6 +49,8 @@ private:
 
     QString m_directory;
     QString m_nameInUse;
+    bool m_isPseudoOffered;
+    bool m_isPseudoInUse;
     std::unique_ptr<Language> m_inUse;
     std::unique_ptr<Language> m_english;
 };

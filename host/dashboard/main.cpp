@@ -94,6 +94,9 @@ QString PrepareHost(const Arguments &arguments)
     }
     HostControl::SetPluginLibraryPath(libraryPath);
     HostControl::SetLanguageDirectory(Installation::LanguageDirectory(QApplication::applicationDirPath()));
+    if (arguments.language == QLatin1String("pseudo")) {
+        HostControl::OfferPseudoLanguage();
+    }
     if (!arguments.language.isNull() && !IsKnown(arguments.language)) {
         return QString::fromLatin1("there is no language \"%1\"; there are: %2")
             .arg(arguments.language, HostControl::LanguageNames().join(QLatin1String(", ")));

@@ -31,6 +31,15 @@ const char *const longName = "Guests of the seminar hotel at the old harbour, se
 
 const char *const userDirectory = "priority-dashboard";
 
+/** Names of the sample networks, and what stands in the new-network dialog's boxes. */
+const char *const values[] = {longName,      "Home",    "Office",      "Café",
+                              "شبكة المنزل", "Company", "Old printer", "Mobile broadband",
+                              "Neighbour",   "Library", "Workshop",    "Campus",
+                              "WPA2PSK",     "WPAPSK",  "WPA2(EAP)",   "WPA(EAP)",
+                              "IEEE 802.1X", "open",    "shared",      "none",
+                              "WEP",         "CCMP",    "TKIP",        "AUTO",
+                              "SIM",         "AKA"};
+
 QString LanguageDirectory()
 {
     return QLatin1String(BUILD_DIRECTORY "/share/priority-dashboard/languages");
@@ -144,6 +153,7 @@ Screens::Screens() : m_visitor(nullptr), m_visits(0)
     m_log.reset(new TraceLog(m_directory->FilePath(QLatin1String("dashboard.log"))));
     HostControl::SetPluginLibraryPath(QLatin1String(BUILD_DIRECTORY));
     HostControl::SetLanguageDirectory(LanguageDirectory());
+    HostControl::OfferPseudoLanguage();
     HostControl::ApplyLook();
     m_plugins.reset(new PluginHost(QLatin1String(BUILD_DIRECTORY), PluginHost::KnownPlugins()));
     m_plugins->Load();
@@ -206,6 +216,15 @@ void Screens::Show(const QString &name, const QString &language, const Visitor &
     if (m_visits != 1) {
         qFatal("the screen %s was not shown", screen->name);
     }
+}
+
+QStringList Screens::Values()
+{
+    QStringList list;
+    for (const char *value : values) {
+        list.append(QString::fromUtf8(value));
+    }
+    return list;
 }
 
 void Screens::ShowList(const char *networksInRange)

@@ -37,6 +37,9 @@ public:
 
     void Show(const QString &name, const QString &language, const Visitor &visitor);
 
+    /** Names and technical terms on the screens, which no language translates. */
+    static QStringList Values();
+
 private slots:
     void VisitMessage();
 
