@@ -1,5 +1,6 @@
 #include <LoadedPlugin.h>
 #include <PriorityXMLParser.h>
+#include <RootRights.h>
 #include <StandInHost.h>
 #include <TemporaryDirectory.h>
 #include <TraceCapture.h>
@@ -10,6 +11,8 @@
 
 #include <csignal>
 #include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 /** Limits the size of every file this process writes while it is in scope. */
 class FileSizeLimit
@@ -45,6 +48,8 @@ private slots:
     void putsBackWhatFitsOfTheOldContent();
     void leavesNoFileWhereThereWasNone();
     void isTraced();
+    void whatIsNoFileAndCantBeReplacedIsNotWrittenTo_data();
+    void whatIsNoFileAndCantBeReplacedIsNotWrittenTo();
 
 private:
     static QList<PriorityList> LongList(int count);
@@ -143,6 +148,32 @@ void tst_FailedSave::isTraced()
     }
     QVERIFY(trace.Lines().contains("Error open file: "));
     QVERIFY(trace.Lines().last().endsWith("SavePriorityList: Exit"));
+}
+
+void tst_FailedSave::whatIsNoFileAndCantBeReplacedIsNotWrittenTo_data()
+{
+    QTest::addColumn<QString>("linkTo");
+    QTest::newRow("pipe") << "";
+    QTest::newRow("link to a pipe") << "pipe";
+    QTest::newRow("link to a device that keeps nothing") << "/dev/null";
+}
+
+void tst_FailedSave::whatIsNoFileAndCantBeReplacedIsNotWrittenTo()
+{
+    QFETCH(QString, linkTo);
+    const QByteArray path = QFile::encodeName(m_directory->FilePath("Priority.xml"));
+    const QByteArray pipe = QFile::encodeName(m_directory->FilePath("pipe"));
+    QCOMPARE(mkfifo(pipe.constData(), 0600), 0);
+    if (linkTo.isEmpty()) {
+        QCOMPARE(rename(pipe.constData(), path.constData()), 0);
+    } else {
+        QCOMPARE(symlink(QFile::encodeName(linkTo).constData(), path.constData()), 0);
+    }
+    const QByteArray directory = QFile::encodeName(m_directory->Path());
+    QCOMPARE(chmod(directory.constData(), 0500), 0);
+    const WithoutRootRights ordinary;
+    QList<PriorityList> list = LongList(1);
+    QCOMPARE(m_store->SavePriorityList(list), 25);
 }
 
 QTEST_MAIN(tst_FailedSave)
