@@ -42,6 +42,7 @@ private slots:
     void closedDialogHoldsNoKey_data() { typedKeyIsWipedOnClosing_data(); }
     void closedDialogHoldsNoKey();
     void refusedKeyStaysInTheOpenDialog();
+    void keyThatWasHandedOverStaysInTheFieldsOnly();
     void keyIsInNoCrashMessage();
 
 private:
@@ -215,6 +216,30 @@ void tst_KeyMemory::refusedKeyStaysInTheOpenDialog()
     QVERIFY(m_scene.IsOpen("newDialog"));
     QVERIFY(Field("keyEdit")->text() == Key());
     QVERIFY(Field("confirmKeyEdit")->text() == Key());
+}
+
+/** Counts while a message is open. */
+class CopyCounter : public MessageVisitor
+{
+public:
+    CopyCounter() : copies(-1) { StandInHost::messageVisitor = this; }
+    ~CopyCounter() override { StandInHost::messageVisitor = nullptr; }
+
+    void MessageIsOpen() override { copies = CopiesOfTheKey(); }
+
+    int copies;
+};
+
+void tst_KeyMemory::keyThatWasHandedOverStaysInTheFieldsOnly()
+{
+    const TraceCapture silence;
+    m_scene.Store(Words("Mine"));
+    Type("Mine");
+    const int before = CopiesOfTheKey();
+    CopyCounter counter;
+    m_scene.Click("newOkButton");
+    QCOMPARE(m_wlan.createdProfiles, 1);
+    QCOMPARE(counter.copies, before);
 }
 
 void tst_KeyMemory::keyIsInNoCrashMessage()
