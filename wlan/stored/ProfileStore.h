@@ -33,7 +33,7 @@ public:
     WLANResult Store(const WLANProfile &profile);
 
 private:
-    CComplaintLog m_complaints;
+    CComplaintLog m_complaints{"WLANStored"};
 };
 
 #endif

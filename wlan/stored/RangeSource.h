@@ -37,7 +37,7 @@ public:
     WLANResult List(QList<NetworkInRange> *networks);
 
 private:
-    CComplaintLog m_complaints;
+    CComplaintLog m_complaints{"WLANStored"};
 };
 
 #endif

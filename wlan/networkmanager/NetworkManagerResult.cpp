@@ -1,0 +1,96 @@
+#include "NetworkManagerResult.h"
+
+#include <QDBusMessage>
+#include <QString>
+#include <QStringList>
+
+namespace
+{
+
+struct NamedError {
+    const char *name;
+    NetworkManagerResult result;
+};
+
+const NamedError namedErrors[] = {
+    {"org.freedesktop.DBus.Error.Disconnected", NetworkManagerResultNoBus},
+    {"org.freedesktop.DBus.Error.NoServer", NetworkManagerResultNoBus},
+    {"org.freedesktop.DBus.Error.ServiceUnknown", NetworkManagerResultNotRunning},
+    {"org.freedesktop.DBus.Error.NameHasNoOwner", NetworkManagerResultNotRunning},
+    {"org.freedesktop.DBus.Error.NoReply", NetworkManagerResultNotAnswering},
+    {"org.freedesktop.DBus.Error.Timeout", NetworkManagerResultNotAnswering},
+    {"org.freedesktop.DBus.Error.TimedOut", NetworkManagerResultNotAnswering},
+    {"org.freedesktop.DBus.Error.InvalidSignature", NetworkManagerResultUnusableAnswer},
+    {"org.freedesktop.DBus.Error.AccessDenied", NetworkManagerResultPermissionDenied},
+};
+
+/** Those of a profile's content. */
+const char profileErrors[] = "org.freedesktop.NetworkManager.Settings.Connection.";
+const char profileError[] = "org.freedesktop.NetworkManager.Settings.InvalidConnection";
+const char permissionError[] = ".PermissionDenied";
+
+NetworkManagerResult ResultOfError(const QString &name)
+{
+    for (const NamedError &error : namedErrors) {
+        if (name == QLatin1String(error.name)) {
+            return error.result;
+        }
+    }
+    if (name.endsWith(QLatin1String(permissionError))) {
+        return NetworkManagerResultPermissionDenied;
+    }
+    if (name.startsWith(QLatin1String(profileErrors)) || name == QLatin1String(profileError)) {
+        return NetworkManagerResultProfileRefused;
+    }
+    return NetworkManagerResultFailed;
+}
+
+} // namespace
+
+NetworkManagerResult ResultOf(const QDBusMessage &reply, const char *signature)
+{
+    switch (reply.type()) {
+    case QDBusMessage::ReplyMessage:
+        return reply.signature() == QLatin1String(signature) ? NetworkManagerResultSuccess
+                                                             : NetworkManagerResultUnusableAnswer;
+    case QDBusMessage::ErrorMessage:
+        return ResultOfError(reply.errorName());
+    default:
+        return NetworkManagerResultNoBus;
+    }
+}
+
+QString DescriptionOf(NetworkManagerResult result)
+{
+    switch (result) {
+    case NetworkManagerResultSuccess:
+        break;
+    case NetworkManagerResultNullPointer:
+        return QLatin1String("there is no place for the answer");
+    case NetworkManagerResultUnusableName:
+        return QLatin1String("the profile's name is empty or can't be sent");
+    case NetworkManagerResultUnknownName:
+        return QLatin1String("there is no profile of that name");
+    case NetworkManagerResultReadOnlyProfile:
+        return QLatin1String("the profile of that name is read-only");
+    case NetworkManagerResultUnusableNetworkName:
+        return QLatin1String("a network name has 1 to 32 bytes");
+    case NetworkManagerResultUnusableSecurity:
+        return QLatin1String("authentication, encryption and key index don't go together");
+    case NetworkManagerResultNoBus:
+        return QLatin1String("there is no system bus");
+    case NetworkManagerResultNotRunning:
+        return QLatin1String("NetworkManager is not running");
+    case NetworkManagerResultNotAnswering:
+        return QLatin1String("NetworkManager does not answer");
+    case NetworkManagerResultUnusableAnswer:
+        return QLatin1String("NetworkManager's answer can't be understood");
+    case NetworkManagerResultPermissionDenied:
+        return QLatin1String("this user may not do that");
+    case NetworkManagerResultProfileRefused:
+        return QLatin1String("NetworkManager does not take the profile");
+    case NetworkManagerResultFailed:
+        return QLatin1String("NetworkManager answered with an error");
+    }
+    return QString();
+}

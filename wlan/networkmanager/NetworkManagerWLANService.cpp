@@ -1,0 +1,404 @@
+#include "NetworkManagerWLANService.h"
+
+#include "CallBatch.h"
+#include "NetworkManagerClient.h"
+#include "NetworkSecurity.h"
+#include "ProfileReader.h"
+#include "SsidText.h"
+
+#include <NetworkManagerQt/ConnectionSettings>
+#include <NetworkManagerQt/Utils>
+#include <NetworkManagerQt/WirelessSetting>
+
+#include <QDBusVariant>
+#include <QSet>
+
+#include <algorithm>
+
+using NetworkManager::ConnectionSettings;
+using NetworkManager::WirelessSetting;
+
+namespace
+{
+
+const int longestNetworkName = 32;
+const int pauseBetweenLooks = 10000;
+
+QString WirelessSection()
+{
+    return QLatin1String("802-11-wireless");
+}
+
+CTimeLimit Patience()
+{
+    return CTimeLimit(CNetworkManagerClient::patienceMilliseconds);
+}
+
+/** The first profile of that name, Wi-Fi first; null when there is none. */
+const NetworkProfile *FindByName(const QList<NetworkProfile> &profiles, const QString &name)
+{
+    const NetworkProfile *found = nullptr;
+    for (int i = 0; i < profiles.size(); ++i) {
+        const NetworkProfile &profile = profiles.at(i);
+        if (profile.name != name || profile.kind == NetworkProfile::OtherKind) {
+            continue;
+        }
+        if (profile.kind == NetworkProfile::Wifi) {
+            return &profile;
+        }
+        found = found ? found : &profile;
+    }
+    return found;
+}
+
+/** The profile for that network that was used last; null when there is none. */
+const NetworkProfile *FindBySsid(const QList<NetworkProfile> &profiles, const QByteArray &ssid)
+{
+    const NetworkProfile *found = nullptr;
+    for (int i = 0; i < profiles.size(); ++i) {
+        const NetworkProfile &profile = profiles.at(i);
+        if (profile.kind == NetworkProfile::Wifi && !profile.isHotspot && profile.ssid == ssid &&
+            (!found || profile.lastConnected > found->lastConnected)) {
+            found = &profile;
+        }
+    }
+    return found;
+}
+
+/** What reading all profiles comes to: the first thing that went wrong. */
+NetworkManagerResult OutcomeOf(const CProfileReader &reader)
+{
+    return reader.Result() != NetworkManagerResultSuccess ? reader.Result() : reader.Shortfall();
+}
+
+bool IsStronger(const AccessPoint &left, const AccessPoint &right)
+{
+    return left.strength > right.strength;
+}
+
+/** A name of zeros is how some stations hide theirs. */
+bool IsHidden(const QByteArray &ssid)
+{
+    return ssid.count('\0') == ssid.size();
+}
+
+/** The strongest station of each network that tells its name, the strongest first. */
+QList<AccessPoint> Networks(const NetworkManagerState &state)
+{
+    QList<AccessPoint> points = state.accessPoints;
+    std::stable_sort(points.begin(), points.end(), IsStronger);
+    QList<AccessPoint> networks;
+    QSet<QByteArray> listed;
+    for (int i = 0; i < points.size(); ++i) {
+        const QByteArray &ssid = points.at(i).ssid;
+        if (!IsHidden(ssid) && !listed.contains(ssid)) {
+            listed.insert(ssid);
+            networks.append(points.at(i));
+        }
+    }
+    return networks;
+}
+
+const AccessPoint *FindNetwork(const QList<AccessPoint> &networks, const QByteArray &ssid)
+{
+    for (int i = 0; i < networks.size(); ++i) {
+        if (networks.at(i).ssid == ssid) {
+            return &networks.at(i);
+        }
+    }
+    return nullptr;
+}
+
+QString InfrastructureWord()
+{
+    return QLatin1String("ESS");
+}
+
+QString AdHocWord()
+{
+    return QLatin1String("IBSS");
+}
+
+void Fill(const NetworkProfile &remembered, WLANProfile *profile)
+{
+    const QVariantMap connection = remembered.settings.value(QLatin1String("connection"));
+    profile->profileName = remembered.name;
+    profile->connectionMode =
+        QLatin1String(connection.value(QLatin1String("autoconnect"), true).toBool() ? "auto" : "manual");
+    profile->readOnly = QLatin1String(remembered.isReadOnly ? "true" : "false");
+    if (remembered.kind == NetworkProfile::Wifi) {
+        WirelessSetting wireless;
+        wireless.fromMap(remembered.settings.value(WirelessSection()));
+        profile->ssid = SsidText::FromBytes(remembered.ssid);
+        profile->bssType = wireless.mode() == WirelessSetting::Adhoc ? AdHocWord() : InfrastructureWord();
+        NetworkSecurity::Describe(remembered.settings, profile);
+    }
+}
+
+/** The texts that D-Bus carries are UTF-8 and end with the first zero. */
+bool CanBeSent(const QString &text)
+{
+    return !text.isEmpty() && !text.contains(QChar(ushort(0))) && QString::fromUtf8(text.toUtf8()) == text;
+}
+
+/** A new profile with nothing but its name; for this user alone or for everybody. */
+NMVariantMapMap NewSettings(const QString &name, bool isForUserAlone)
+{
+    QVariantMap connection;
+    connection.insert(QLatin1String("id"), name);
+    connection.insert(QLatin1String("uuid"), ConnectionSettings::createNewUuid());
+    connection.insert(QLatin1String("type"), ConnectionSettings::typeAsString(ConnectionSettings::Wireless));
+    if (isForUserAlone) {
+        connection.insert(QLatin1String("permissions"),
+                          QStringList(QString::fromLatin1("user:%1:").arg(CallerRights::UserName())));
+    }
+    NMVariantMapMap settings;
+    settings.insert(QLatin1String("connection"), connection);
+    return settings;
+}
+
+void SetNetwork(const QByteArray &ssid, bool isAdHoc, NMVariantMapMap *settings)
+{
+    QVariantMap &wireless = (*settings)[WirelessSection()];
+    wireless.insert(QLatin1String("ssid"), ssid);
+    wireless.insert(QLatin1String("mode"), QLatin1String(isAdHoc ? "adhoc" : "infrastructure"));
+    // Follows from whether there is a security section; an old one must not contradict it.
+    wireless.remove(QLatin1String("security"));
+}
+
+/** Empty methods tell that the program that does the Wi-Fi has no EAP; no answer tells nothing. */
+bool IsEapKnown(const QDBusMessage &reply)
+{
+    if (ResultOf(reply, "v") != NetworkManagerResultSuccess) {
+        return true;
+    }
+    const QVariant methods = reply.arguments().at(0).value<QDBusVariant>().variant();
+    return methods.type() != QVariant::StringList || !methods.toStringList().isEmpty();
+}
+
+QDBusMessage EapMethodsCall()
+{
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        QLatin1String("fi.w1.wpa_supplicant1"), QLatin1String("/fi/w1/wpa_supplicant1"),
+        CNetworkManagerClient::PropertiesInterface(), QLatin1String("Get"));
+    call.setAutoStartService(false);
+    call << QLatin1String("fi.w1.wpa_supplicant1") << QLatin1String("EapMethods");
+    return call;
+}
+
+} // namespace
+
+CNetworkManagerWLANService::CNetworkManagerWLANService(CNetworkManagerClient *client, QObject *parent)
+    : QObject(parent), m_client(client)
+{
+}
+
+int CNetworkManagerWLANService::CreateWLANProfile(WLANProfile profile)
+{
+    return Tell("CreateWLANProfile", Store(profile));
+}
+
+NetworkManagerResult CNetworkManagerWLANService::Store(const WLANProfile &profile)
+{
+    const QByteArray ssid = SsidText::ToBytes(profile.ssid);
+    if (!CanBeSent(profile.profileName)) {
+        return NetworkManagerResultUnusableName;
+    }
+    if (ssid.isEmpty() || ssid.size() > longestNetworkName || !CanBeSent(profile.ssid)) {
+        return NetworkManagerResultUnusableNetworkName;
+    }
+    NMVariantMapMap security;
+    const bool isKeySendable = profile.keyMaterial.isEmpty() || CanBeSent(profile.keyMaterial);
+    if (!NetworkSecurity::Apply(profile, &security) || !isKeySendable) {
+        return NetworkManagerResultUnusableSecurity;
+    }
+    const CTimeLimit limit = Patience();
+    CProfileReader reader(m_client, limit, nullptr);
+    reader.Read();
+    if (reader.Result() != NetworkManagerResultSuccess) {
+        return reader.Result();
+    }
+    const NetworkProfile *known = FindByName(reader.Profiles(), profile.profileName);
+    if (known && known->kind != NetworkProfile::Wifi) {
+        known = nullptr;
+    }
+    if (known && known->isReadOnly) {
+        return NetworkManagerResultReadOnlyProfile;
+    }
+    const CallerRights &rights = reader.Rights();
+    const bool isForUserAlone =
+        rights.changeShared != CallerRights::Allowed && rights.changeOwn == CallerRights::Allowed;
+    NMVariantMapMap settings = known ? known->settings : NewSettings(profile.profileName, isForUserAlone);
+    SetNetwork(ssid, profile.bssType == AdHocWord(), &settings);
+    NetworkSecurity::Apply(profile, &settings);
+
+    QDBusMessage call;
+    if (known) {
+        call = CNetworkManagerClient::Call(known->path, CNetworkManagerClient::ProfileInterface(),
+                                           QLatin1String("Update2"));
+        call << QVariant::fromValue(settings) << 0U << QVariantMap();
+    } else {
+        call = CNetworkManagerClient::Call(CNetworkManagerClient::SettingsPath(),
+                                           CNetworkManagerClient::SettingsInterface(),
+                                           QLatin1String("AddConnection"));
+        call << QVariant::fromValue(settings);
+    }
+    CCallBatch batch(m_client, QList<QDBusMessage>() << call, limit, nullptr);
+    batch.Start();
+    batch.Wait();
+    return ResultOf(batch.Replies().at(0), known ? "a{sv}" : "o");
+}
+
+int CNetworkManagerWLANService::GetRememberedList(QList<RememberedList> *list)
+{
+    if (!list) {
+        return NetworkManagerResultNullPointer;
+    }
+    CProfileReader reader(m_client, Patience(), nullptr);
+    reader.Read();
+    const QList<NetworkProfile> &profiles = reader.Profiles();
+    for (int i = 0; i < profiles.size(); ++i) {
+        if (profiles.at(i).kind != NetworkProfile::OtherKind) {
+            RememberedList remembered;
+            remembered.name = profiles.at(i).name;
+            remembered.type = profiles.at(i).TypeText();
+            list->append(remembered);
+        }
+    }
+    return Tell("GetRememberedList", OutcomeOf(reader));
+}
+
+int CNetworkManagerWLANService::GetProfileByName(QString name, WLANProfile *profile)
+{
+    if (!profile) {
+        return NetworkManagerResultNullPointer;
+    }
+    CProfileReader reader(m_client, Patience(), nullptr);
+    reader.Read();
+    const NetworkProfile *known = FindByName(reader.Profiles(), name);
+    if (!known) {
+        const NetworkManagerResult result = Tell("GetProfileByName", OutcomeOf(reader));
+        return result == NetworkManagerResultSuccess ? NetworkManagerResultUnknownName : result;
+    }
+    Fill(*known, profile);
+    return Tell("GetProfileByName", NetworkManagerResultSuccess);
+}
+
+int CNetworkManagerWLANService::GetConfigData(WLANConfigData *config)
+{
+    if (!config) {
+        return NetworkManagerResultNullPointer;
+    }
+    if (m_client->IsSilent()) {
+        return Tell("GetConfigData", NetworkManagerResultNotAnswering);
+    }
+    CCallBatch batch(m_client, QList<QDBusMessage>() << NetworkManagerState::Call() << EapMethodsCall(),
+                     Patience(), nullptr);
+    batch.Start();
+    batch.Wait();
+    const NetworkManagerResult result = ResultOf(batch.Replies().at(0), NetworkManagerState::Signature());
+    m_client->Note(result);
+    if (result == NetworkManagerResultSuccess) {
+        const NetworkManagerState state = NetworkManagerState::FromReply(batch.Replies().at(0));
+        config->authenticationList =
+            NetworkSecurity::Methods(state.devices, IsEapKnown(batch.Replies().at(1)));
+    }
+    return Tell("GetConfigData", result);
+}
+
+NetworkManagerResult CNetworkManagerWLANService::ReadState(NetworkManagerState *state, CallerRights *rights)
+{
+    if (m_client->IsSilent()) {
+        return NetworkManagerResultNotAnswering;
+    }
+    CCallBatch batch(m_client, QList<QDBusMessage>() << NetworkManagerState::Call() << CallerRights::Call(),
+                     Patience(), nullptr);
+    batch.Start();
+    batch.Wait();
+    const QList<QDBusMessage> replies = batch.Replies();
+    const NetworkManagerResult result = ResultOf(replies.at(0), NetworkManagerState::Signature());
+    m_client->Note(result);
+    if (result == NetworkManagerResultSuccess) {
+        *state = NetworkManagerState::FromReply(replies.at(0));
+    }
+    if (ResultOf(replies.at(1), CallerRights::Signature()) == NetworkManagerResultSuccess) {
+        *rights = CallerRights::FromReply(replies.at(1));
+    }
+    return result;
+}
+
+int CNetworkManagerWLANService::GetAvailableNetworks(QList<WlanAvilableNetworkInfo> *list)
+{
+    if (!list) {
+        return NetworkManagerResultNullPointer;
+    }
+    NetworkManagerState state;
+    CallerRights rights;
+    const NetworkManagerResult result = ReadState(&state, &rights);
+    const QList<AccessPoint> networks = Networks(state);
+    for (int i = 0; i < networks.size(); ++i) {
+        WlanAvilableNetworkInfo info;
+        info.networkName = SsidText::FromBytes(networks.at(i).ssid);
+        info.value1 = networks.at(i).strength;
+        info.value2 = NetworkManager::findChannel(networks.at(i).frequency);
+        list->append(info);
+    }
+    LookForNetworks(state, rights);
+    return Tell("GetAvailableNetworks", result);
+}
+
+void CNetworkManagerWLANService::LookForNetworks(const NetworkManagerState &state, const CallerRights &rights)
+{
+    const bool isTooSoon = m_sinceLook.isValid() && !m_sinceLook.hasExpired(pauseBetweenLooks);
+    if (state.devices.isEmpty() || rights.scan != CallerRights::Allowed || isTooSoon) {
+        return;
+    }
+    for (int i = 0; i < state.devices.size(); ++i) {
+        QDBusMessage call = CNetworkManagerClient::Call(state.devices.at(i).path,
+                                                        CNetworkManagerClient::WirelessDeviceInterface(),
+                                                        QLatin1String("RequestScan"));
+        call << QVariantMap();
+        m_client->Tell(call);
+    }
+    m_sinceLook.start();
+}
+
+int CNetworkManagerWLANService::GetNetworkProfile(const WlanAvilableNetworkInfo &network,
+                                                  WLANProfile *profile)
+{
+    if (!profile || network.networkName.isEmpty()) {
+        return 0;
+    }
+    const QByteArray ssid = SsidText::ToBytes(network.networkName);
+    CProfileReader reader(m_client, Patience(), nullptr);
+    reader.Read();
+    Tell("GetNetworkProfile", OutcomeOf(reader));
+    const QList<AccessPoint> networks = Networks(reader.State());
+    const AccessPoint *seen = FindNetwork(networks, ssid);
+    const NetworkProfile *known = FindBySsid(reader.Profiles(), ssid);
+    if (!seen && !known) {
+        return 0;
+    }
+    profile->profileName = network.networkName;
+    profile->ssid = network.networkName;
+    profile->bssType = InfrastructureWord();
+    if (known) {
+        NetworkSecurity::Describe(known->settings, profile);
+    }
+    // What the network sends out now counts more than what it was when it was remembered. With the oldest
+    // encryption it doesn't send out which of the two ways it wants, nor which key.
+    const bool isRememberedWep = known && profile->encryption == QLatin1String("WEP");
+    if (seen && !(NetworkSecurity::IsWep(*seen) && isRememberedWep)) {
+        NetworkSecurity::Describe(*seen, profile);
+    }
+    return 1;
+}
+
+NetworkManagerResult CNetworkManagerWLANService::Tell(const char *operation, NetworkManagerResult result)
+{
+    const QString text = DescriptionOf(result);
+    m_complaints.Tell(text.isEmpty()
+                          ? QStringList()
+                          : QStringList(QString::fromLatin1("%1: %2").arg(QLatin1String(operation), text)));
+    return result;
+}

@@ -1,0 +1,74 @@
+#ifndef NETWORKMANAGERWLANSERVICE_H
+#define NETWORKMANAGERWLANSERVICE_H
+
+#include "NetworkManagerResult.h"
+
+#include <ComplaintLog.h>
+#include <IWLANUIPlugin.h>
+
+#include <QElapsedTimer>
+
+class CNetworkManagerClient;
+class CProfileReader;
+struct CallerRights;
+struct NetworkManagerState;
+struct NetworkProfile;
+
+/**
+ * The WLAN interface over NetworkManager. Results are those of NetworkManagerResult.h, GetNetworkProfile's
+ * are 1 and 0. No operation keeps its caller waiting for longer than
+ * CNetworkManagerClient::patienceMilliseconds, and none asks for a key: keys go to NetworkManager and don't
+ * come back.
+ *
+ * Of a network in range, value1 is the signal in percent, value2 the channel or 0 when it is not known, and
+ * value3 to value5 are 0.
+ */
+class CNetworkManagerWLANService : public QObject, public IWLANUIPlugin
+{
+    Q_OBJECT
+    Q_INTERFACES(IWLANUIPlugin)
+
+public:
+    /** @param client  outlives the service. */
+    CNetworkManagerWLANService(CNetworkManagerClient *client, QObject *parent);
+
+    /**
+     * Stores the profile for everybody where this user may do that, and for this user alone otherwise. A
+     * Wi-Fi profile of the same name gets the new network name and security and keeps everything else.
+     *
+     * The profile connects by itself whatever its connectionMode is: it is the list that decides when.
+     */
+    int CreateWLANProfile(WLANProfile profile) override;
+
+    /** In alphabetical order. When NetworkManager gives no usable answer for all, those for which it did. */
+    int GetRememberedList(QList<RememberedList> *list) override;
+
+    /** Of several profiles of one name a Wi-Fi profile is given, and of these the one that was used last. */
+    int GetProfileByName(QString name, WLANProfile *profile) override;
+
+    /** Fills the authentication methods and leaves the other members as they are. */
+    int GetConfigData(WLANConfigData *config) override;
+
+    /** Has NetworkManager look for networks, too, so that there is news when it is asked the next time. */
+    int GetAvailableNetworks(QList<WlanAvilableNetworkInfo> *list) override;
+
+    /**
+     * A network that is out of range and remembered is filled from its profile. Fields other than
+     * profileName, ssid, bssType, authentication, encryption, keyType and keyIndex are left as they are.
+     */
+    int GetNetworkProfile(const WlanAvilableNetworkInfo &network, WLANProfile *profile) override;
+
+private:
+    Q_DISABLE_COPY(CNetworkManagerWLANService)
+
+    NetworkManagerResult ReadState(NetworkManagerState *state, CallerRights *rights);
+    NetworkManagerResult Store(const WLANProfile &profile);
+    void LookForNetworks(const NetworkManagerState &state, const CallerRights &rights);
+    NetworkManagerResult Tell(const char *operation, NetworkManagerResult result);
+
+    CNetworkManagerClient *const m_client;
+    CComplaintLog m_complaints{"WLANNetworkManager"};
+    QElapsedTimer m_sinceLook;
+};
+
+#endif

@@ -1,0 +1,110 @@
+#include "NetworkProfile.h"
+
+#include <PriorityList.h>
+
+#include <NetworkManagerQt/ConnectionSettings>
+#include <NetworkManagerQt/WirelessSetting>
+
+#include <QStringList>
+#include <QVariantMap>
+
+namespace
+{
+
+QString WifiType()
+{
+    return QLatin1String("1");
+}
+
+NetworkProfile::Kind KindOf(const QString &connectionType)
+{
+    switch (NetworkManager::ConnectionSettings::typeFromString(connectionType)) {
+    case NetworkManager::ConnectionSettings::Wireless:
+        return NetworkProfile::Wifi;
+    case NetworkManager::ConnectionSettings::Gsm:
+    case NetworkManager::ConnectionSettings::Cdma:
+        return NetworkProfile::MobileBroadband;
+    default:
+        return NetworkProfile::OtherKind;
+    }
+}
+
+/** Files there are part of the system's own set-up, or gone with the next start. */
+bool IsSystemFile(const QString &file)
+{
+    return file.startsWith(QLatin1String("/usr/")) || file.startsWith(QLatin1String("/run/"));
+}
+
+/** Entries of the permissions are "user:NAME:". */
+bool IsAmong(const QStringList &permissions, const QString &userName)
+{
+    for (int i = 0; i < permissions.size(); ++i) {
+        if (permissions.at(i).section(QLatin1Char(':'), 0, 0) == QLatin1String("user") &&
+            permissions.at(i).section(QLatin1Char(':'), 1, 1) == userName) {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+NetworkProfile NetworkProfile::Make(const ProfilePlace &place, const NMVariantMapMap &settings,
+                                    const CallerRights &rights, const QString &userName)
+{
+    const QVariantMap connection = settings.value(QLatin1String("connection"));
+    NetworkProfile profile;
+    profile.path = place.path;
+    profile.settings = settings;
+    profile.uuid = connection.value(QLatin1String("uuid")).toString();
+    profile.name = connection.value(QLatin1String("id")).toString();
+    profile.kind = KindOf(connection.value(QLatin1String("type")).toString());
+    profile.lastConnected = connection.value(QLatin1String("timestamp")).toULongLong();
+    profile.priority = connection.value(QLatin1String("autoconnect-priority")).toInt();
+    if (profile.kind == Wifi) {
+        NetworkManager::WirelessSetting wireless;
+        wireless.fromMap(settings.value(wireless.name()));
+        profile.ssid = wireless.ssid();
+        profile.isHotspot = wireless.mode() == NetworkManager::WirelessSetting::Ap;
+    }
+
+    const QStringList permissions = connection.value(QLatin1String("permissions")).toStringList();
+    const bool isOthers = !permissions.isEmpty() && !IsAmong(permissions, userName);
+    const CallerRights::Right right = permissions.size() == 1 ? rights.changeOwn : rights.changeShared;
+    profile.isPassing = place.isPassing;
+    profile.isReadOnly = place.isPassing || IsSystemFile(place.file) || isOthers ||
+                         right == CallerRights::Denied ||
+                         connection.value(QLatin1String("read-only")).toBool();
+    profile.isFreelyChangeable = !profile.isReadOnly && right == CallerRights::Allowed;
+    return profile;
+}
+
+QString NetworkProfile::TypeText() const
+{
+    return kind == Wifi ? WifiType() : QLatin1String("2");
+}
+
+QPair<bool, QString> NetworkProfile::ListKey() const
+{
+    return qMakePair(kind == Wifi, name);
+}
+
+QPair<bool, QString> NetworkProfile::ListKeyOf(const PriorityList &entry)
+{
+    return qMakePair(entry.type == WifiType(), entry.name);
+}
+
+bool NetworkProfile::ComesBefore(const NetworkProfile &left, const NetworkProfile &right)
+{
+    const int alphabetical = QString::compare(left.name, right.name, Qt::CaseInsensitive);
+    if (alphabetical != 0) {
+        return alphabetical < 0;
+    }
+    if (left.name != right.name) {
+        return left.name < right.name;
+    }
+    if (left.lastConnected != right.lastConnected) {
+        return left.lastConnected > right.lastConnected;
+    }
+    return left.uuid != right.uuid ? left.uuid < right.uuid : left.path < right.path;
+}

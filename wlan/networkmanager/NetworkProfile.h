@@ -1,0 +1,55 @@
+#ifndef NETWORKPROFILE_H
+#define NETWORKPROFILE_H
+
+#include "CallerRights.h"
+#include "NetworkManagerState.h"
+
+#include <NetworkManagerQt/GenericTypes>
+
+#include <QByteArray>
+#include <QPair>
+#include <QString>
+
+struct PriorityList;
+
+/** A profile that NetworkManager remembers, without its secrets. */
+struct NetworkProfile {
+    enum Kind { Wifi, MobileBroadband, OtherKind };
+
+    QString path;
+    QString uuid;
+    QString name;
+    Kind kind = OtherKind;
+    /** Empty but for Wi-Fi. */
+    QByteArray ssid;
+    /** A network that this computer makes itself, for others to join. */
+    bool isHotspot = false;
+    /** When it was last connected, in seconds since 1970; 0 for never. */
+    quint64 lastConnected = 0;
+    int priority = 0;
+    /** It is gone sooner or later without anybody deleting it. */
+    bool isPassing = false;
+    /** This user can't change it, or nobody should. */
+    bool isReadOnly = false;
+    /** It can be changed without anybody being asked for a password. */
+    bool isFreelyChangeable = false;
+    /** Exactly as NetworkManager gave it. */
+    NMVariantMapMap settings;
+
+    static const char *Signature() { return "a{sa{sv}}"; }
+
+    static NetworkProfile Make(const ProfilePlace &place, const NMVariantMapMap &settings,
+                               const CallerRights &rights, const QString &userName);
+
+    /** The kind as entries of the priority list have it. */
+    QString TypeText() const;
+
+    /** What a profile and the entry of the priority list that means it have in common, and no others do. */
+    QPair<bool, QString> ListKey() const;
+    static QPair<bool, QString> ListKeyOf(const PriorityList &entry);
+
+    /** By name, those of one name by their latest use, the latest first; never the same for two profiles. */
+    static bool ComesBefore(const NetworkProfile &left, const NetworkProfile &right);
+};
+
+#endif
