@@ -15,7 +15,29 @@ const ValueOption valueOptions[] = {
     {"--language", &Arguments::language},
     {"--library-path", &Arguments::pluginLibraryPath},
     {"--tour", &Arguments::tourDirectory},
+    {"--wlan", &Arguments::wlan},
 };
+
+struct WlanWord {
+    const char *word;
+    WlanChoice choice;
+};
+
+const WlanWord wlanWords[] = {
+    {"auto", WlanAutomatic},
+    {"networkmanager", WlanNetworkManager},
+    {"stored", WlanStored},
+};
+
+const WlanWord *FindWlanWord(const QString &word)
+{
+    for (const WlanWord &known : wlanWords) {
+        if (word == QLatin1String(known.word)) {
+            return &known;
+        }
+    }
+    return nullptr;
+}
 
 struct CommandOption {
     const char *name;
@@ -193,7 +215,24 @@ Arguments Arguments::Parse(const QStringList &arguments)
         return Refused(QLatin1String("a tour has a list of its own, and can't be combined with commands for "
                                      "yours; see --help"));
     }
+    if (!parsed.wlan.isNull() && !FindWlanWord(parsed.wlan)) {
+        return Refused(QString::fromLatin1("--wlan is auto, networkmanager or stored, not \"%1\"; see --help")
+                           .arg(parsed.wlan));
+    }
+    if (!parsed.tourDirectory.isNull() && parsed.wlan == QLatin1String("networkmanager")) {
+        return Refused(QLatin1String("--tour makes and deletes networks, so it leaves NetworkManager alone: "
+                                     "it can't be had with --wlan networkmanager"));
+    }
     return parsed;
+}
+
+WlanChoice Arguments::ChosenWlan() const
+{
+    if (!tourDirectory.isNull()) {
+        return WlanStored;
+    }
+    const WlanWord *given = FindWlanWord(wlan);
+    return given ? given->choice : WlanAutomatic;
 }
 
 QString Arguments::HelpText()
@@ -207,6 +246,11 @@ QString Arguments::HelpText()
         "  --library-path DIR   look for plug-ins in DIR/plugins\n"
         "  --tour DIR           show the whole program to itself: work with a list of its own,\n"
         "                       save a picture of each step in DIR, and check each effect\n"
+        "  --wlan SOURCE        where the Wi-Fi networks come from:\n"
+        "                         networkmanager  this computer's own; the list decides which is joined\n"
+        "                         stored          a file of the dashboard's; nothing real is touched\n"
+        "                         auto            the former where NetworkManager runs, else the latter\n"
+        "                       auto is the default; a tour always has stored\n"
         "  --version            print the version\n"
         "  -h, --help           print this help\n"
         "\n"

@@ -2,6 +2,7 @@
 #define ARGUMENTS_H
 
 #include "ListCommands.h"
+#include "WlanChoice.h"
 
 #include <QList>
 #include <QString>
@@ -18,6 +19,10 @@ struct Arguments {
     QString language;
     QString pluginLibraryPath;
     QString tourDirectory;
+    QString wlan;
+
+    /** A tour makes and changes profiles: it is never taken with those of the computer. */
+    WlanChoice ChosenWlan() const;
 
     /** What to do with the list, in this order, instead of opening a window. */
     QList<ListCommand> commands;

@@ -40,6 +40,18 @@ QLabel *AddText(const char *name, QVBoxLayout *layout)
     return label;
 }
 
+const char *StateTextId(PluginState state)
+{
+    switch (state) {
+    case PluginReady:
+        return "IDS_GENERAL_PLUGIN_WORKS";
+    case PluginNotNeeded:
+        return "IDS_GENERAL_PLUGIN_NOT_NEEDED";
+    default:
+        return "IDS_GENERAL_PLUGIN_MISSING";
+    }
+}
+
 QString Line(const QString &text)
 {
     return ToolkitCompat::PlainTextAsHtml(text) + QLatin1String("<br>");
@@ -116,10 +128,9 @@ void GeneralPage::Retranslate()
     const QList<PluginHost::Plugin> plugins = m_plugins->Plugins();
     for (int i = 0; i < plugins.size(); ++i) {
         const PluginHost::Plugin &plugin = plugins.at(i);
-        lines += Line(QString::fromLatin1("%1: %2").arg(
-            DashboardText(plugin.known.titleId.toLatin1().constData()),
-            DashboardText(plugin.state == PluginReady ? "IDS_GENERAL_PLUGIN_WORKS"
-                                                      : "IDS_GENERAL_PLUGIN_MISSING")));
+        lines +=
+            Line(QString::fromLatin1("%1: %2").arg(DashboardText(plugin.known.titleId.toLatin1().constData()),
+                                                   DashboardText(StateTextId(plugin.state))));
     }
     m_pluginsText->setText(lines);
     m_placesText->setText(

@@ -247,12 +247,16 @@ QWidget *MainWindow::CreateFoot()
     connect(m_traceButton, SIGNAL(toggled(bool)), m_trace, SLOT(setVisible(bool)));
     connect(m_trace->toggleViewAction(), SIGNAL(toggled(bool)), m_traceButton, SLOT(setChecked(bool)));
 
+    m_note = MakeLabel("noteLabel", 0.9, false);
+
     QWidget *foot = new QWidget;
     foot->setObjectName(QLatin1String("foot"));
     QHBoxLayout *layout = new QHBoxLayout(foot);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_refreshButton);
-    layout->addStretch();
+    layout->addSpacing(6);
+    layout->addWidget(m_note, 1);
+    layout->addSpacing(6);
     layout->addWidget(m_languageButton);
     layout->addWidget(m_traceButton);
     return foot;
@@ -295,6 +299,20 @@ void MainWindow::Refresh()
     ShowHead(overview);
     ShowProblems(overview);
     ShowList(overview);
+    ShowNote();
+}
+
+void MainWindow::ShowNote()
+{
+    QStringList notes;
+    const QList<PluginHost::Plugin> plugins = m_plugins->Plugins();
+    for (int i = 0; i < plugins.size(); ++i) {
+        const PluginHost::Plugin &plugin = plugins.at(i);
+        if (plugin.state == PluginReady && !plugin.known.noteId.isEmpty()) {
+            notes.append(DashboardText(plugin.known.noteId.toLatin1().constData()));
+        }
+    }
+    m_note->setText(notes.join(QLatin1String(" ")));
 }
 
 void MainWindow::ShowConnect(const Overview &overview)
@@ -337,7 +355,7 @@ void MainWindow::ShowProblems(const Overview &overview)
     for (int i = 0; i < plugins.size(); ++i) {
         // Where there is no list, that of its plug-in stands in place of the list.
         const PluginHost::Plugin &plugin = plugins.at(i);
-        if (plugin.state != PluginReady && !(overview.status < 0 && plugin.known.hasSettingsPage)) {
+        if (m_plugins->IsMissed(plugin) && !(overview.status < 0 && plugin.known.hasSettingsPage)) {
             problems.append(PluginHost::ProblemText(plugin));
         }
     }

@@ -55,6 +55,7 @@ private:
     void ShowHead(const Overview &overview);
     void ShowProblems(const Overview &overview);
     void ShowList(const Overview &overview);
+    void ShowNote();
 
     PluginHost *const m_plugins;
     DashboardLanguage *const m_language;
@@ -84,6 +85,7 @@ private:
     QPushButton *m_connectButton;
     QPushButton *m_settingsButton;
     QPushButton *m_refreshButton;
+    QLabel *m_note;
     QPushButton *m_languageButton;
     QPushButton *m_traceButton;
 };

@@ -144,14 +144,37 @@ KnownPlugin PluginHost::PriorityPlugin()
     return priority;
 }
 
-QList<KnownPlugin> PluginHost::KnownPlugins()
+QList<KnownPlugin> PluginHost::KnownPlugins(WlanChoice wlan)
 {
-    KnownPlugin wlan;
-    wlan.folder = QLatin1String("WLANStored");
-    wlan.classId = QLatin1String("7545FB07-0E7A-4F27-A449-872DB09C106D");
-    wlan.titleId = QLatin1String("IDS_PLUGIN_WLAN");
+    KnownPlugin networkManager;
+    networkManager.folder = QLatin1String("WLANNetworkManager");
+    networkManager.classId = QLatin1String("7545FB07-0E7A-4F27-A449-872DB09C106D");
+    networkManager.titleId = QLatin1String("IDS_PLUGIN_WLAN_NETWORKMANAGER");
+    networkManager.noteId = QLatin1String("IDS_NOTE_NETWORKMANAGER");
+    networkManager.hintId = QLatin1String("IDS_HINT_NETWORKMANAGER");
 
-    return QList<KnownPlugin>() << PriorityPlugin() << wlan;
+    KnownPlugin stored;
+    stored.folder = QLatin1String("WLANStored");
+    stored.classId = networkManager.classId;
+    stored.titleId = QLatin1String("IDS_PLUGIN_WLAN_STORED");
+    stored.noteId = QLatin1String("IDS_NOTE_STORED");
+
+    QList<KnownPlugin> known;
+    known << PriorityPlugin();
+    switch (wlan) {
+    case WlanAutomatic:
+        stored.isStandIn = true;
+        stored.noteId = QLatin1String("IDS_NOTE_STORED_STANDS_IN");
+        known << networkManager << stored;
+        break;
+    case WlanNetworkManager:
+        known << networkManager;
+        break;
+    case WlanStored:
+        known << stored;
+        break;
+    }
+    return known;
 }
 
 QString PluginHost::VerificationText()
@@ -166,7 +189,12 @@ void PluginHost::Load()
 {
     HostControl::SetPluginContainer(this);
     for (int i = 0; i < m_plugins.size(); ++i) {
-        LoadPlugin(&m_plugins[i]);
+        Plugin &plugin = m_plugins[i];
+        if (plugin.known.isStandIn && FindReady(plugin.known.classId)) {
+            plugin.state = PluginNotNeeded;
+        } else {
+            LoadPlugin(&plugin);
+        }
     }
 }
 
@@ -188,6 +216,22 @@ void PluginHost::Shutdown()
     if (Startup::GetPluginContainer() == this) {
         HostControl::SetPluginContainer(nullptr);
     }
+}
+
+const PluginHost::Plugin *PluginHost::FindReady(const QString &classId) const
+{
+    for (int i = 0; i < m_plugins.size(); ++i) {
+        const Plugin &plugin = m_plugins.at(i);
+        if (plugin.state == PluginReady && plugin.known.classId.compare(classId, Qt::CaseInsensitive) == 0) {
+            return &plugin;
+        }
+    }
+    return nullptr;
+}
+
+bool PluginHost::IsMissed(const Plugin &plugin) const
+{
+    return plugin.state != PluginReady && plugin.state != PluginNotNeeded && !FindReady(plugin.known.classId);
 }
 
 QString PluginHost::ProblemText(const Plugin &plugin)
@@ -217,8 +261,12 @@ QString PluginHost::ProblemText(const Plugin &plugin)
     case PluginNotAPlugin:
         return DashboardText("IDS_LOAD_NOT_A_PLUGIN").arg(plugin.file);
     case PluginInitFailed:
-        return DashboardText("IDS_LOAD_INIT_FAILED").arg(plugin.file);
+        return DashboardText("IDS_LOAD_INIT_FAILED").arg(plugin.file) +
+               (plugin.known.hintId.isEmpty()
+                    ? QString()
+                    : QLatin1Char(' ') + DashboardText(plugin.known.hintId.toLatin1().constData()));
     case PluginReady:
+    case PluginNotNeeded:
         break;
     }
     return QString();
@@ -238,16 +286,7 @@ void PluginHost::Notify(unsigned int event)
 
 QObject *PluginHost::GetPluginObject(const QString &classId, int interfaceNumber)
 {
-    for (int i = 0; i < m_plugins.size(); ++i) {
-        const Plugin &plugin = m_plugins.at(i);
-        if (plugin.known.classId.compare(classId, Qt::CaseInsensitive) != 0) {
-            continue;
-        }
-        QObject *object = nullptr;
-        if (plugin.state == PluginReady && plugin.base->QueryInterface(interfaceNumber, &object)) {
-            return object;
-        }
-        return nullptr;
-    }
-    return nullptr;
+    const Plugin *plugin = FindReady(classId);
+    QObject *object = nullptr;
+    return plugin && plugin->base->QueryInterface(interfaceNumber, &object) ? object : nullptr;
 }

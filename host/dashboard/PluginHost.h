@@ -1,6 +1,8 @@
 #ifndef PLUGINHOST_H
 #define PLUGINHOST_H
 
+#include "WlanChoice.h"
+
 #include <IPluginContainer.h>
 
 #include <QList>
@@ -19,6 +21,12 @@ struct KnownPlugin {
     QString titleId;
     /** Whether it has a page in the settings dialog. */
     bool hasSettingsPage = false;
+    /** Whether it is loaded only where no plug-in before it with the same class id is ready. */
+    bool isStandIn = false;
+    /** Resource id of what the main window says while it is ready; empty for nothing. */
+    QString noteId;
+    /** Resource id of what may be the matter when it can't work; empty for nothing. */
+    QString hintId;
 };
 
 /** How far the loading of a plug-in came. */
@@ -35,7 +43,8 @@ enum PluginState {
     PluginNotAPlugin,     /**< The root object is not an IBasePlugin. */
     PluginInitFailed,     /**< The plug-in says that it can't work. */
     PluginReady,
-    PluginClosed /**< It was ready and was taken down at shutdown. */
+    PluginNotNeeded, /**< It is a stand-in for one that is ready. */
+    PluginClosed     /**< It was ready and was taken down at shutdown. */
 };
 
 /**
@@ -62,7 +71,7 @@ public:
     /** Shuts down, unless that was done. */
     ~PluginHost() override;
 
-    static QList<KnownPlugin> KnownPlugins();
+    static QList<KnownPlugin> KnownPlugins(WlanChoice wlan);
 
     /** The one of them that keeps the list. */
     static KnownPlugin PriorityPlugin();
@@ -78,6 +87,9 @@ public:
 
     QList<Plugin> Plugins() const { return m_plugins; }
 
+    /** Whether a plug-in should be ready and is not, and no stand-in is there in its place. */
+    bool IsMissed(const Plugin &plugin) const;
+
     /** Why a plug-in is not ready, in plain words of the current language; empty for one that is ready. */
     static QString ProblemText(const Plugin &plugin);
 
@@ -88,6 +100,9 @@ public:
 
 private:
     Q_DISABLE_COPY(PluginHost)
+
+    /** The ready plug-in of that class id, or null. */
+    const Plugin *FindReady(const QString &classId) const;
 
     const QString m_libraryPath;
     QList<Plugin> m_plugins;

@@ -131,11 +131,11 @@ int RunWindow(const Arguments &arguments, const TourDirectory &tourDirectory, Tr
     }
     HostControl::ApplyLook();
 
-    PluginHost plugins(LibraryPath(arguments), PluginHost::KnownPlugins());
+    PluginHost plugins(LibraryPath(arguments), PluginHost::KnownPlugins(arguments.ChosenWlan()));
     plugins.Load();
     const QList<PluginHost::Plugin> loaded = plugins.Plugins();
     for (int i = 0; i < loaded.size(); ++i) {
-        if (loaded.at(i).state != PluginReady) {
+        if (plugins.IsMissed(loaded.at(i))) {
             TraceLog::Warn(PluginHost::ProblemText(loaded.at(i)));
         }
     }

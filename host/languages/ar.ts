@@ -241,8 +241,12 @@
         <translation>أولوية الشبكات</translation>
     </message>
     <message>
-        <source>IDS_PLUGIN_WLAN</source>
-        <translation>واي فاي</translation>
+        <source>IDS_PLUGIN_WLAN_NETWORKMANAGER</source>
+        <translation>واي فاي (&#x202a;NetworkManager&#x202c;)</translation>
+    </message>
+    <message>
+        <source>IDS_PLUGIN_WLAN_STORED</source>
+        <translation>واي فاي (شبكات من ملف)</translation>
     </message>
     <message>
         <source>IDS_GENERAL_TITLE</source>
@@ -263,6 +267,10 @@
     <message>
         <source>IDS_GENERAL_PLUGIN_MISSING</source>
         <translation>غير متوفرة</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_PLUGIN_NOT_NEEDED</source>
+        <translation>غير لازمة</translation>
     </message>
     <message>
         <source>IDS_GENERAL_PLACES</source>
@@ -431,6 +439,22 @@
     <message>
         <source>IDS_LANGUAGE_NO_TEXTS</source>
         <translation>لا يحوي ملف اللغة &#x202a;%1&#x202c; نصوصًا صالحة، لذلك لا يُستخدم.</translation>
+    </message>
+    <message>
+        <source>IDS_HINT_NETWORKMANAGER</source>
+        <translation>هل يعمل &#x202a;NetworkManager&#x202c;؟</translation>
+    </message>
+    <message>
+        <source>IDS_NOTE_NETWORKMANAGER</source>
+        <translation>شبكات هذا الحاسوب من &#x202a;NetworkManager&#x202c; الذي يتبع ترتيب هذه القائمة.</translation>
+    </message>
+    <message>
+        <source>IDS_NOTE_STORED</source>
+        <translation>شبكات خاصة بهذه اللوحة؛ أما شبكات هذا الحاسوب فلا تُمَسّ.</translation>
+    </message>
+    <message>
+        <source>IDS_NOTE_STORED_STANDS_IN</source>
+        <translation>لا يتوفر &#x202a;NetworkManager&#x202c; للعمل معه. هذه شبكات خاصة بهذه اللوحة؛ أما شبكات هذا الحاسوب فلا تُمَسّ.</translation>
     </message>
 </context>
 </TS>

@@ -264,8 +264,12 @@ Allowed are letters, digits and these signs:
         <translation>Network priority</translation>
     </message>
     <message>
-        <source>IDS_PLUGIN_WLAN</source>
-        <translation>Wi-Fi</translation>
+        <source>IDS_PLUGIN_WLAN_NETWORKMANAGER</source>
+        <translation>Wi-Fi (NetworkManager)</translation>
+    </message>
+    <message>
+        <source>IDS_PLUGIN_WLAN_STORED</source>
+        <translation>Wi-Fi (networks in a file)</translation>
     </message>
     <message>
         <source>IDS_GENERAL_TITLE</source>
@@ -286,6 +290,10 @@ Allowed are letters, digits and these signs:
     <message>
         <source>IDS_GENERAL_PLUGIN_MISSING</source>
         <translation>not available</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_PLUGIN_NOT_NEEDED</source>
+        <translation>not needed</translation>
     </message>
     <message>
         <source>IDS_GENERAL_PLACES</source>
@@ -457,6 +465,23 @@ Expected: %3</translation>
     <message>
         <source>IDS_LANGUAGE_NO_TEXTS</source>
         <translation>The language file %1 has no texts that can be used, so it is not used.</translation>
+    </message>
+    <message>
+        <source>IDS_HINT_NETWORKMANAGER</source>
+        <translation>Is NetworkManager running?</translation>
+    </message>
+    <message>
+        <source>IDS_NOTE_NETWORKMANAGER</source>
+        <extracomment>At the foot of the main window; two lines of 450 pixels at most</extracomment>
+        <translation>This computer's networks, from NetworkManager, which follows the order of this list.</translation>
+    </message>
+    <message>
+        <source>IDS_NOTE_STORED</source>
+        <translation>Networks of the dashboard's own; this computer's are left alone.</translation>
+    </message>
+    <message>
+        <source>IDS_NOTE_STORED_STANDS_IN</source>
+        <translation>There is no NetworkManager to work with. These are networks of the dashboard's own; this computer's are left alone.</translation>
     </message>
 </context>
 </TS>

@@ -241,8 +241,12 @@
         <translation>עדיפות רשתות</translation>
     </message>
     <message>
-        <source>IDS_PLUGIN_WLAN</source>
-        <translation>Wi-Fi</translation>
+        <source>IDS_PLUGIN_WLAN_NETWORKMANAGER</source>
+        <translation>Wi-Fi (NetworkManager)</translation>
+    </message>
+    <message>
+        <source>IDS_PLUGIN_WLAN_STORED</source>
+        <translation>Wi-Fi (רשתות מקובץ)</translation>
     </message>
     <message>
         <source>IDS_GENERAL_TITLE</source>
@@ -263,6 +267,10 @@
     <message>
         <source>IDS_GENERAL_PLUGIN_MISSING</source>
         <translation>לא זמין</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_PLUGIN_NOT_NEEDED</source>
+        <translation>לא נדרש</translation>
     </message>
     <message>
         <source>IDS_GENERAL_PLACES</source>
@@ -431,6 +439,22 @@
     <message>
         <source>IDS_LANGUAGE_NO_TEXTS</source>
         <translation>קובץ השפה &#x202a;%1&#x202c; אינו מכיל טקסטים שמישים, ולכן אינו בשימוש.</translation>
+    </message>
+    <message>
+        <source>IDS_HINT_NETWORKMANAGER</source>
+        <translation>האם &#x202a;NetworkManager&#x202c; פועל?</translation>
+    </message>
+    <message>
+        <source>IDS_NOTE_NETWORKMANAGER</source>
+        <translation>הרשתות של המחשב, מתוך &#x202a;NetworkManager&#x202c;, שפועל לפי סדר הרשימה הזו.</translation>
+    </message>
+    <message>
+        <source>IDS_NOTE_STORED</source>
+        <translation>רשתות של הלוח בלבד; הרשתות של המחשב אינן משתנות.</translation>
+    </message>
+    <message>
+        <source>IDS_NOTE_STORED_STANDS_IN</source>
+        <translation>אין &#x202a;NetworkManager&#x202c; לעבוד איתו. אלה רשתות של הלוח בלבד; הרשתות של המחשב אינן משתנות.</translation>
     </message>
 </context>
 </TS>

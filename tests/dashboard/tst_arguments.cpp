@@ -16,6 +16,10 @@ private slots:
     void ArgumentsAreUtf8OrTheLocales();
     void RefusalNamesWhatIsWrong_data();
     void RefusalNamesWhatIsWrong();
+    void WlanIsChosen_data();
+    void WlanIsChosen();
+    void WlanIsRefused_data();
+    void WlanIsRefused();
     void HelpCountsBeforeWhatFollows();
     void HelpNamesEveryOption_data();
     void HelpNamesEveryOption();
@@ -134,6 +138,7 @@ void ArgumentsTest::RefusalNamesWhatIsWrong_data()
     QTest::newRow("empty argument as value") << (QStringList() << "--library-path"
                                                                << "")
                                              << "--library-path";
+    QTest::newRow("no source of networks") << QStringList("--wlan") << "--wlan";
     QTest::newRow("no option") << (QStringList() << "Priority.xml") << "Priority.xml";
 }
 
@@ -145,6 +150,54 @@ void ArgumentsTest::RefusalNamesWhatIsWrong()
     QCOMPARE(arguments.action, Arguments::Refuse);
     QVERIFY2(arguments.problem.contains(named), qPrintable(arguments.problem));
     QVERIFY(!arguments.problem.contains('\n'));
+}
+
+void ArgumentsTest::WlanIsChosen_data()
+{
+    QTest::addColumn<QStringList>("given");
+    QTest::addColumn<int>("choice");
+    QTest::newRow("nothing") << QStringList() << int(WlanAutomatic);
+    QTest::newRow("auto") << QStringList("--wlan=auto") << int(WlanAutomatic);
+    QTest::newRow("stored") << (QStringList() << "--wlan"
+                                              << "stored")
+                            << int(WlanStored);
+    QTest::newRow("networkmanager") << QStringList("--wlan=networkmanager") << int(WlanNetworkManager);
+    QTest::newRow("tour") << QStringList("--tour=x") << int(WlanStored);
+    QTest::newRow("tour with auto") << (QStringList() << "--tour=x"
+                                                      << "--wlan=auto")
+                                    << int(WlanStored);
+}
+
+void ArgumentsTest::WlanIsChosen()
+{
+    QFETCH(QStringList, given);
+    const Arguments arguments = Arguments::Parse(given);
+    QCOMPARE(arguments.action, Arguments::Run);
+    QTEST(int(arguments.ChosenWlan()), "choice");
+}
+
+void ArgumentsTest::WlanIsRefused_data()
+{
+    QTest::addColumn<QStringList>("given");
+    QTest::addColumn<QString>("told");
+    QTest::newRow("unknown word") << QStringList("--wlan=wicd")
+                                  << "--wlan is auto, networkmanager or stored, not \"wicd\"; see --help";
+    QTest::newRow("other case")
+        << QStringList("--wlan=NetworkManager")
+        << "--wlan is auto, networkmanager or stored, not \"NetworkManager\"; see --help";
+    QTest::newRow("tour of what is real")
+        << (QStringList() << "--wlan=networkmanager"
+                          << "--tour=x")
+        << "--tour makes and deletes networks, so it leaves NetworkManager alone: "
+           "it can't be had with --wlan networkmanager";
+}
+
+void ArgumentsTest::WlanIsRefused()
+{
+    QFETCH(QStringList, given);
+    const Arguments arguments = Arguments::Parse(given);
+    QCOMPARE(arguments.action, Arguments::Refuse);
+    QTEST(arguments.problem, "told");
 }
 
 void ArgumentsTest::HelpCountsBeforeWhatFollows()
@@ -166,6 +219,7 @@ void ArgumentsTest::HelpNamesEveryOption_data()
     QTest::newRow("check") << "--check";
     QTest::newRow("add") << "--add";
     QTest::newRow("add on top") << "--add-top";
+    QTest::newRow("wlan") << "--wlan";
     QTest::newRow("version") << "--version";
     QTest::newRow("help") << "--help";
 }

@@ -905,7 +905,7 @@ void CommandsTest::WindowFollowsACommand()
     HostControl::SetPluginLibraryPath(BUILD_DIRECTORY);
     HostControl::SetLanguageDirectory(BUILD_DIRECTORY "/share/priority-dashboard/languages");
     DashboardLanguage::Apply("en");
-    PluginHost plugins(BUILD_DIRECTORY, PluginHost::KnownPlugins());
+    PluginHost plugins(BUILD_DIRECTORY, PluginHost::KnownPlugins(WlanStored));
     plugins.Load();
     DashboardLanguage language(&plugins, nullptr);
     MainWindow window(&plugins, &language, &log);

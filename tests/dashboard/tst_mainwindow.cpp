@@ -131,7 +131,7 @@ void MainWindowTest::initTestCase()
     m_log.reset(new TraceLog(m_directory->FilePath("dashboard.log")));
     HostControl::SetPluginLibraryPath(BUILD_DIRECTORY);
     HostControl::SetLanguageDirectory(QLatin1String(BUILD_DIRECTORY "/share/priority-dashboard/languages"));
-    m_plugins.reset(new PluginHost(BUILD_DIRECTORY, PluginHost::KnownPlugins()));
+    m_plugins.reset(new PluginHost(BUILD_DIRECTORY, PluginHost::KnownPlugins(WlanStored)));
     m_plugins->Load();
     QCOMPARE(m_plugins->Plugins().at(0).state, PluginReady);
     QCOMPARE(m_plugins->Plugins().at(1).state, PluginReady);

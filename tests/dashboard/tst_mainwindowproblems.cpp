@@ -21,7 +21,7 @@ namespace
 
 QList<KnownPlugin> KnownAs(const QString &priorityFolder, const QString &wlanFolder)
 {
-    QList<KnownPlugin> known = PluginHost::KnownPlugins();
+    QList<KnownPlugin> known = PluginHost::KnownPlugins(WlanStored);
     known[0].folder = priorityFolder;
     known[1].folder = wlanFolder;
     return known;
@@ -56,6 +56,9 @@ private slots:
     void MissingListIsExplainedInItsPlace();
     void SettingsExplainItToo();
     void OtherMissingPluginIsToldAboveTheList();
+    void SourceOfTheNetworksIsTold_data();
+    void SourceOfTheNetworksIsTold();
+    void MissingSourceIsToldAboveTheList();
     void ConnectTellsWhyItCannotBeUsed_data();
     void ConnectTellsWhyItCannotBeUsed();
 
@@ -133,6 +136,62 @@ void MainWindowProblemsTest::OtherMissingPluginIsToldAboveTheList()
     QVERIFY(problems->isVisible());
     QVERIFY(problems->text().contains("libInitFails.so"));
     QVERIFY(!problems->text().contains("libAbsent.so"));
+}
+
+void MainWindowProblemsTest::SourceOfTheNetworksIsTold_data()
+{
+    QTest::addColumn<int>("choice");
+    QTest::addColumn<QStringList>("folders");
+    QTest::addColumn<QString>("told");
+    QTest::newRow("networkmanager") << int(WlanNetworkManager) << QStringList("Working")
+                                    << "This computer's networks, from NetworkManager";
+    QTest::newRow("auto") << int(WlanAutomatic)
+                          << (QStringList() << "Working"
+                                            << "Absent")
+                          << "This computer's networks, from NetworkManager";
+    QTest::newRow("auto without it") << int(WlanAutomatic)
+                                     << (QStringList() << "InitFails"
+                                                       << "Working")
+                                     << "There is no NetworkManager to work with";
+    QTest::newRow("stored") << int(WlanStored) << QStringList("Working") << "Networks of the dashboard's own";
+    QTest::newRow("none") << int(WlanStored) << QStringList("Absent") << "";
+}
+
+void MainWindowProblemsTest::SourceOfTheNetworksIsTold()
+{
+    QFETCH(int, choice);
+    QFETCH(QStringList, folders);
+    QFETCH(QString, told);
+    QList<KnownPlugin> known = PluginHost::KnownPlugins(static_cast<WlanChoice>(choice));
+    known.removeFirst();
+    for (int i = 0; i < known.size(); ++i) {
+        known[i].folder = folders.at(i);
+    }
+    TraceLog log(m_directory.FilePath("dashboard.log"));
+    PluginHost plugins(BUILD_DIRECTORY "/tests/fixtures", known);
+    plugins.Load();
+    DashboardLanguage language(&plugins, nullptr);
+    MainWindow window(&plugins, &language, &log);
+    window.show();
+    const QLabel *note = window.findChild<QLabel *>("noteLabel");
+    QVERIFY2(note->text().left(told.size()) == told && note->text().isEmpty() == told.isEmpty(),
+             qPrintable(note->text()));
+}
+
+void MainWindowProblemsTest::MissingSourceIsToldAboveTheList()
+{
+    QList<KnownPlugin> known = PluginHost::KnownPlugins(WlanNetworkManager);
+    known[0].folder = "Absent";
+    known[1].folder = "InitFails";
+    TraceLog log(m_directory.FilePath("dashboard.log"));
+    PluginHost plugins(BUILD_DIRECTORY "/tests/fixtures", known);
+    plugins.Load();
+    DashboardLanguage language(&plugins, nullptr);
+    MainWindow window(&plugins, &language, &log);
+    window.show();
+    const QLabel *problems = window.findChild<QLabel *>("problemsLabel");
+    QVERIFY(problems->isVisible());
+    QVERIFY2(problems->text().contains("Is NetworkManager running?"), qPrintable(problems->text()));
 }
 
 void MainWindowProblemsTest::ConnectTellsWhyItCannotBeUsed_data()

@@ -22,7 +22,7 @@ KnownPlugin Known(const QString &folder)
     KnownPlugin known;
     known.folder = folder;
     known.classId = QLatin1String("ID-OF-") + folder.toUpper();
-    known.titleId = QLatin1String("IDS_PLUGIN_WLAN");
+    known.titleId = QLatin1String("IDS_PLUGIN_WLAN_STORED");
     return known;
 }
 
@@ -78,7 +78,12 @@ private slots:
     void ShutdownHappensOnce();
     void NothingIsHandedOutAfterShutdown();
 
+    void StandInIsLoadedWhereItIsNeeded_data();
+    void StandInIsLoadedWhereItIsNeeded();
+    void HintStandsBehindTheProblem();
     void KnownPluginsHaveTheirFixedIds();
+    void WlanPluginsFollowTheChoice_data();
+    void WlanPluginsFollowTheChoice();
 };
 
 void PluginHostTest::initTestCase()
@@ -409,12 +414,83 @@ void PluginHostTest::NothingIsHandedOutAfterShutdown()
 
 void PluginHostTest::KnownPluginsHaveTheirFixedIds()
 {
-    const QList<KnownPlugin> known = PluginHost::KnownPlugins();
+    const QList<KnownPlugin> known = PluginHost::KnownPlugins(WlanStored);
     QCOMPARE(known.size(), 2);
     QCOMPARE(known.at(0).folder, QString("PriorityPlugin"));
     QCOMPARE(known.at(0).classId, QString("D78C8E0F-7A3F-4f51-87E3-753F0F7F0E05"));
     QCOMPARE(known.at(1).folder, QString("WLANStored"));
     QCOMPARE(known.at(1).classId, QString("7545FB07-0E7A-4F27-A449-872DB09C106D"));
+}
+
+void PluginHostTest::StandInIsLoadedWhereItIsNeeded_data()
+{
+    QTest::addColumn<QString>("first");
+    QTest::addColumn<QString>("standIn");
+    QTest::addColumn<int>("standInState");
+    QTest::addColumn<bool>("isFirstMissed");
+    QTest::addColumn<bool>("isStandInMissed");
+    QTest::newRow("first works") << "Working"
+                                 << "Idle" << int(PluginNotNeeded) << false << false;
+    QTest::newRow("first can't work") << "InitFails"
+                                      << "Working" << int(PluginReady) << false << false;
+    QTest::newRow("first is not there") << "Absent"
+                                        << "Working" << int(PluginReady) << false << false;
+    QTest::newRow("neither works") << "Absent"
+                                   << "InitFails" << int(PluginInitFailed) << true << true;
+}
+
+void PluginHostTest::StandInIsLoadedWhereItIsNeeded()
+{
+    QFETCH(QString, first);
+    QFETCH(QString, standIn);
+    QFETCH(bool, isFirstMissed);
+    QFETCH(bool, isStandInMissed);
+    QList<KnownPlugin> known = Known(QStringList() << first << standIn);
+    known[0].classId = "ID";
+    known[1].classId = "id";
+    known[1].isStandIn = true;
+    PluginHost host(fixtureDirectory, known);
+    host.Load();
+    QTEST(int(host.Plugins().at(1).state), "standInState");
+    QCOMPARE(host.IsMissed(host.Plugins().at(0)), isFirstMissed);
+    QCOMPARE(host.IsMissed(host.Plugins().at(1)), isStandInMissed);
+    QCOMPARE(host.GetPluginObject("ID", 4102) != nullptr, !isFirstMissed);
+    if (host.Plugins().at(1).state == PluginNotNeeded) {
+        QCOMPARE(PluginHost::ProblemText(host.Plugins().at(1)), QString());
+    }
+}
+
+void PluginHostTest::HintStandsBehindTheProblem()
+{
+    QList<KnownPlugin> known = Known(QStringList("InitFails"));
+    known[0].hintId = "IDS_HINT_NETWORKMANAGER";
+    PluginHost host(fixtureDirectory, known);
+    host.Load();
+    const QString text = PluginHost::ProblemText(host.Plugins().at(0));
+    QVERIFY2(text.contains("libInitFails.so") && text.endsWith("Is NetworkManager running?"),
+             qPrintable(text));
+}
+
+void PluginHostTest::WlanPluginsFollowTheChoice_data()
+{
+    QTest::addColumn<int>("choice");
+    QTest::addColumn<QString>("folders");
+    QTest::newRow("auto") << int(WlanAutomatic) << "WLANNetworkManager, WLANStored in its place";
+    QTest::newRow("networkmanager") << int(WlanNetworkManager) << "WLANNetworkManager";
+    QTest::newRow("stored") << int(WlanStored) << "WLANStored";
+}
+
+void PluginHostTest::WlanPluginsFollowTheChoice()
+{
+    QFETCH(int, choice);
+    const QList<KnownPlugin> known = PluginHost::KnownPlugins(static_cast<WlanChoice>(choice));
+    QCOMPARE(known.at(0).folder, QString("PriorityPlugin"));
+    QStringList folders;
+    for (int i = 1; i < known.size(); ++i) {
+        QCOMPARE(known.at(i).classId, QString("7545FB07-0E7A-4F27-A449-872DB09C106D"));
+        folders.append(known.at(i).folder + (known.at(i).isStandIn ? " in its place" : ""));
+    }
+    QTEST(folders.join(", "), "folders");
 }
 
 QTEST_MAIN(PluginHostTest)

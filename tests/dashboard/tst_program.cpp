@@ -96,6 +96,11 @@ void ProgramTest::WhatCannotBeFollowedIsSaidInOneLine_data()
     QTest::addColumn<QString>("told");
     QTest::newRow("unknown option") << QStringList("--fast") << "--fast";
     QTest::newRow("missing value") << QStringList("--tour") << "--tour";
+    QTest::newRow("unknown source of networks") << QStringList("--wlan=wicd") << "\"wicd\"";
+    QTest::newRow("tour of this computer's networks") << (QStringList() << "--wlan=networkmanager"
+                                                                        << "--tour"
+                                                                        << "/dev/null/tour")
+                                                      << "leaves NetworkManager alone";
     QTest::newRow("unknown language") << (QStringList() << "--language"
                                                         << "tlh")
                                       << "\"tlh\"; there are: ar, de, en, ";

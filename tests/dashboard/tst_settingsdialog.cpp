@@ -289,7 +289,7 @@ void SettingsDialogTest::PageIsOffered()
     KnownPlugin known;
     known.folder = folder;
     known.classId = "ID";
-    known.titleId = "IDS_PLUGIN_WLAN";
+    known.titleId = "IDS_PLUGIN_WLAN_STORED";
     known.hasSettingsPage = hasSettingsPage;
     PluginHost host(BUILD_DIRECTORY "/tests/fixtures", QList<KnownPlugin>() << known);
     host.Load();
@@ -364,14 +364,16 @@ void SettingsDialogTest::GeneralPageTellsOfPlugins()
 {
     KnownPlugin known;
     known.folder = "Absent";
-    known.titleId = "IDS_PLUGIN_WLAN";
+    known.titleId = "IDS_PLUGIN_WLAN_STORED";
     PluginHost host(BUILD_DIRECTORY, QList<KnownPlugin>() << known);
     host.Load();
     DashboardLanguage language(&host, nullptr);
     SettingsDialog dialog(nullptr);
     dialog.AddPage(new GeneralPage(&language, &host));
     dialog.SelectPage(0);
-    QVERIFY(dialog.findChild<QLabel *>("pluginsText")->text().contains("Wi-Fi: not available"));
+    QVERIFY(dialog.findChild<QLabel *>("pluginsText")
+                ->text()
+                .contains("Wi-Fi (networks in a file): not available"));
     QVERIFY(dialog.findChild<QLabel *>("placesText")->text().contains(m_directory.Path()));
 }
 

@@ -217,16 +217,21 @@ void InstalledTest::componentsHaveTheirFiles_data()
         development << "include/priority-plugin/" + headers.at(i);
     }
     QTest::newRow("development") << "development" << development;
+    const bool hasNetworkManager = HAS_NETWORKMANAGER;
+    const QStringList siblings = hasNetworkManager
+                                     ? QStringList(plugins + "WLANNetworkManager/libWLANNetworkManager.so")
+                                     : QStringList();
     QTest::newRow("dashboard") << "dashboard"
-                               << (QStringList() << "bin/dashboard" << plugins + "WLANStored/libWLANStored.so"
-                                                 << "share/priority-dashboard/languages/ar.qm"
-                                                 << "share/priority-dashboard/languages/en.qm"
-                                                 << "share/priority-dashboard/languages/he.qm"
-                                                 << "share/applications/priority-dashboard.desktop"
-                                                 << "share/icons/hicolor/48x48/apps/priority-dashboard.png"
-                                                 << "share/icons/hicolor/128x128/apps/priority-dashboard.png"
-                                                 << "share/icons/hicolor/scalable/apps/priority-dashboard.svg"
-                                                 << "share/man/man1/dashboard.1");
+                               << (QStringList()
+                                   << "bin/dashboard" << siblings << plugins + "WLANStored/libWLANStored.so"
+                                   << "share/priority-dashboard/languages/ar.qm"
+                                   << "share/priority-dashboard/languages/en.qm"
+                                   << "share/priority-dashboard/languages/he.qm"
+                                   << "share/applications/priority-dashboard.desktop"
+                                   << "share/icons/hicolor/48x48/apps/priority-dashboard.png"
+                                   << "share/icons/hicolor/128x128/apps/priority-dashboard.png"
+                                   << "share/icons/hicolor/scalable/apps/priority-dashboard.svg"
+                                   << "share/man/man1/dashboard.1");
 }
 
 void InstalledTest::componentsHaveTheirFiles()
