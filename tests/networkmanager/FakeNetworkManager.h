@@ -1,0 +1,106 @@
+#ifndef FAKENETWORKMANAGER_H
+#define FAKENETWORKMANAGER_H
+
+#include <NetworkManagerQt/GenericTypes>
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusVirtualObject>
+#include <QHash>
+#include <QMap>
+#include <QMutex>
+#include <QStringList>
+#include <QThread>
+
+/**
+ * NetworkManager's objects and operations as far as the plug-in uses them, as a plain object on the private
+ * bus. It answers in a thread of its own, as the plug-in waits in the test's; each operation here may be
+ * called from the test.
+ */
+class FakeNetworkManager : public QDBusVirtualObject
+{
+    Q_OBJECT
+
+public:
+    /** Has no devices, no profiles and no name on the bus yet. */
+    FakeNetworkManager();
+    ~FakeNetworkManager() override;
+
+    /** Takes NetworkManager's name on the bus, or gives it back. */
+    bool Appear();
+    void Vanish();
+
+    /** The new object's path. A device can do everything unless it is told otherwise. */
+    QString AddDevice(unsigned int capabilities = 0xffff);
+    QString AddAccessPoint(const QByteArray &ssid, int strength, unsigned int flags = 0,
+                           unsigned int wpaFlags = 0, unsigned int rsnFlags = 0);
+    QString AddProfile(const QString &name, const QString &type = QLatin1String("802-11-wireless"));
+    QString AddProfile(const NMVariantMapMap &settings);
+    static NMVariantMapMap Settings(const QString &name,
+                                    const QString &type = QLatin1String("802-11-wireless"));
+
+    /** As a device that gets connected by the profile; others are told. */
+    QString Connect(const QString &profile, unsigned int state);
+    void SetConnectionState(const QString &activeConnection, unsigned int state);
+
+    void Remove(const QString &path);
+    void SetProperty(const QString &path, const QString &interface, const QString &property,
+                     const QVariant &value);
+    void SetSetting(const QString &profile, const QString &section, const QString &key,
+                    const QVariant &value);
+    void SetRight(const QString &right, const QString &value);
+
+    /** What was stored last, keys included. */
+    NMVariantMapMap SettingsOf(const QString &profile);
+    QStringList ProfilePaths();
+    /** The autoconnect-priority of a profile; 0 when none is stored. */
+    int PriorityOf(const QString &profile);
+
+    /** Has every call of that method, or of one object's, answered like that instead, until Behave. */
+    void AnswerWith(const QString &method, const QList<QVariant> &arguments, const QString &path = QString());
+    void AnswerWithError(const QString &method, const QString &error, const QString &path = QString());
+    void DoNotAnswer(const QString &method, const QString &path = QString());
+    /** For each method. */
+    void DoNotAnswerAnything();
+    void Behave();
+
+    /** Has the profile go away at the moment that it is asked for. */
+    void RemoveWhenAsked(const QString &profile);
+
+    int CallCount(const QString &method);
+    void ForgetCalls();
+
+    bool handleMessage(const QDBusMessage &message, const QDBusConnection &connection) override;
+    QString introspect(const QString &) const override { return QString(); }
+
+private:
+    Q_DISABLE_COPY(FakeNetworkManager)
+
+    struct Misbehaviour {
+        bool isSilent;
+        QString error;
+        QList<QVariant> arguments;
+    };
+
+    QString Add(const QString &kind, const QString &interface, const QVariantMap &properties);
+    void SetAnswer(const QString &method, const QString &path, bool isSilent, const QString &error,
+                   const QList<QVariant> &arguments);
+    QDBusMessage Answer(const QDBusMessage &call);
+    QDBusMessage AnswerOfProfile(const QDBusMessage &call);
+    QString Store(const NMVariantMapMap &settings);
+    void Signal(const QString &path, const QString &interface, const QString &name,
+                const QList<QVariant> &arguments);
+
+    QMutex m_mutex;
+    QThread m_thread;
+    QDBusConnection m_connection;
+    QMap<QString, NMVariantMapMap> m_objects;
+    QMap<QString, NMVariantMapMap> m_settings;
+    QMap<QString, QString> m_rights;
+    QHash<QString, Misbehaviour> m_misbehaviour;
+    QStringList m_calls;
+    QString m_leaving;
+    int m_count;
+};
+
+#endif

@@ -1,0 +1,38 @@
+#ifndef LOADEDWLAN_H
+#define LOADEDWLAN_H
+
+#include <IUIPlugin.h>
+#include <IWLANUIPlugin.h>
+
+#include <QString>
+#include <QStringList>
+
+/** The WLAN plug-in of the build tree, as a host has it. */
+namespace LoadedWLAN
+{
+
+QString FileName();
+
+/** Root object, the same until it is deleted. */
+QObject *RootObject();
+IUIPlugin *Root();
+
+/** Null where the plug-in hands out no service. */
+QObject *Service();
+IWLANUIPlugin *Wlan();
+
+/** "name/type" of every remembered profile. */
+QStringList Remembered();
+
+/** The names of the networks in range. */
+QStringList InRange();
+
+WLANProfile ProfileNamed(const QString &name);
+
+/** A profile as the dialog makes it. */
+WLANProfile NewProfile(const QString &name, const QString &authentication, const QString &encryption,
+                       const QString &key);
+
+} // namespace LoadedWLAN
+
+#endif

@@ -1,0 +1,51 @@
+#ifndef NETWORKMANAGERDAEMON_H
+#define NETWORKMANAGERDAEMON_H
+
+#include "ChildProcess.h"
+#include "PrivateBus.h"
+
+#include <QByteArray>
+#include <QStringList>
+
+/**
+ * NetworkManager itself, with profiles of its own and nothing to manage, on a private bus. To be used in a
+ * process that has entered a namespace.
+ */
+class NetworkManagerDaemon
+{
+public:
+    explicit NetworkManagerDaemon(PrivateBus *bus);
+
+    /** @param authorization  NetworkManager's own word: "false" allows everybody everything, "root-only"
+     * root. */
+    bool Start(const QString &authorization = QLatin1String("false"));
+    QString WhyNot() const { return m_whyNot; }
+    void End();
+    void Kill();
+    void Freeze() { m_daemon.Freeze(); }
+    void Thaw() { m_daemon.Thaw(); }
+
+    /** Runs NetworkManager's own program for the command line; what it printed, without the last line feed.
+     */
+    static QString Nmcli(const QStringList &arguments);
+
+    /** A profile made elsewhere; settings are nmcli's words. */
+    static bool Add(const QString &name, const QStringList &settings = QStringList());
+
+    /** "name:priority" of every profile, in alphabetical order. */
+    static QStringList Priorities();
+
+    /** The one keyfile whose name begins like that, as it is on disk. */
+    QByteArray Keyfile(const QString &name) const;
+    QStringList Keyfiles() const;
+    void RemoveProfiles() const;
+
+private:
+    Q_DISABLE_COPY(NetworkManagerDaemon)
+
+    PrivateBus *const m_bus;
+    ChildProcess m_daemon;
+    QString m_whyNot;
+};
+
+#endif

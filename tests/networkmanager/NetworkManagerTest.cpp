@@ -1,0 +1,28 @@
+#include "NetworkManagerTest.h"
+
+#include "LoadedWLAN.h"
+
+#include <StandInHost.h>
+
+#include <QtTest>
+
+void NetworkManagerTest::initTestCase()
+{
+    QVERIFY2(m_bus.Start(), qPrintable(m_bus.WhyNot()));
+}
+
+void NetworkManagerTest::init()
+{
+    m_directory.reset(new TemporaryDirectory);
+    StandInHost::Reset(m_directory->Path());
+    m_networkManager.reset(new FakeNetworkManager);
+    QVERIFY(m_networkManager->Appear());
+    QVERIFY(LoadedWLAN::Root()->Init());
+}
+
+void NetworkManagerTest::cleanup()
+{
+    LoadedWLAN::Root()->OnDestroy();
+    m_networkManager.reset();
+    StandInHost::Reset(QString());
+}

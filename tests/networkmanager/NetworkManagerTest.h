@@ -1,0 +1,32 @@
+#ifndef NETWORKMANAGERTEST_H
+#define NETWORKMANAGERTEST_H
+
+#include "FakeNetworkManager.h"
+#include "PrivateBus.h"
+
+#include <TemporaryDirectory.h>
+
+#include <QObject>
+#include <QScopedPointer>
+
+/** The plug-in, initialised, over a fake NetworkManager that is new for each test function. */
+class NetworkManagerTest : public QObject
+{
+    Q_OBJECT
+
+protected:
+    FakeNetworkManager &Fake() { return *m_networkManager; }
+    const TemporaryDirectory &Directory() const { return *m_directory; }
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+private:
+    PrivateBus m_bus;
+    QScopedPointer<TemporaryDirectory> m_directory;
+    QScopedPointer<FakeNetworkManager> m_networkManager;
+};
+
+#endif

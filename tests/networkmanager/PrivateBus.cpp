@@ -1,0 +1,76 @@
+#include "PrivateBus.h"
+
+#include <QDBusConnectionInterface>
+#include <QFile>
+#include <QtTest>
+
+namespace
+{
+
+const int steps = 500;
+const int stepMilliseconds = 20;
+
+bool WaitUntilRegistered(const QString &name, bool isRegistered)
+{
+    for (int i = 0; i < steps; ++i) {
+        if (PrivateBus::Connection().interface()->isServiceRegistered(name) == isRegistered) {
+            return true;
+        }
+        QTest::qSleep(stepMilliseconds);
+    }
+    return false;
+}
+
+} // namespace
+
+PrivateBus::PrivateBus()
+{
+    qputenv("DBUS_SYSTEM_BUS_ADDRESS", QFile::encodeName("unix:path=" + Path("bus")));
+}
+
+bool PrivateBus::Start()
+{
+    const QString program = ChildProcess::Find("dbus-daemon");
+    if (program.isEmpty()) {
+        m_whyNot = "dbus-daemon is not installed";
+        return false;
+    }
+    m_directory.Write("bus.conf", "<busconfig>\n"
+                                  "<type>system</type>\n"
+                                  "<listen>unix:path=" +
+                                      QFile::encodeName(Path("bus")) +
+                                      "</listen>\n"
+                                      "<auth>EXTERNAL</auth>\n"
+                                      "<policy context=\"default\">\n"
+                                      "<allow user=\"*\"/><allow own=\"*\"/>\n"
+                                      "<allow send_destination=\"*\"/><allow receive_sender=\"*\"/>\n"
+                                      "</policy>\n"
+                                      "</busconfig>\n");
+    // Anybody may use the bus: some tests do so as another user.
+    QFile::setPermissions(Path("."), QFile::Permissions(0x7755));
+    if (!m_daemon.Begin(program,
+                        QStringList() << "--config-file=" + Path("bus.conf") << "--nofork"
+                                      << "--nopidfile",
+                        Path("bus.log"))) {
+        m_whyNot = "dbus-daemon can't be started";
+        return false;
+    }
+    for (int i = 0; i < steps && !QFile::exists(Path("bus")); ++i) {
+        QTest::qSleep(stepMilliseconds);
+    }
+    if (!QFile::exists(Path("bus"))) {
+        m_whyNot = "dbus-daemon does not come up";
+        return false;
+    }
+    return true;
+}
+
+bool PrivateBus::WaitForService(const QString &name)
+{
+    return WaitUntilRegistered(name, true);
+}
+
+bool PrivateBus::WaitForServiceToGo(const QString &name)
+{
+    return WaitUntilRegistered(name, false);
+}

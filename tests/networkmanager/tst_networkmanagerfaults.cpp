@@ -1,0 +1,430 @@
+#include "LoadedWLAN.h"
+#include "NetworkManagerTest.h"
+
+#include <NetworkManagerResult.h>
+#include <TraceCapture.h>
+
+#include <QDBusObjectPath>
+#include <QDBusVariant>
+#include <QElapsedTimer>
+#include <QtTest>
+
+#include <functional>
+
+namespace
+{
+
+typedef QMap<QDBusObjectPath, NMVariantMapMap> ManagedObjects;
+
+const char accessPointInterface[] = "org.freedesktop.NetworkManager.AccessPoint";
+
+/** What each operation answers, in the order of their positions, and whether it left its output as it was. */
+QList<int> AnswersOfAll(bool *areOutputsUntouched)
+{
+    IWLANUIPlugin *wlan = LoadedWLAN::Wlan();
+    QList<RememberedList> remembered;
+    WLANProfile named;
+    WLANConfigData config;
+    QList<WlanAvilableNetworkInfo> networks;
+    WLANProfile near;
+    WlanAvilableNetworkInfo network;
+    network.networkName = "A";
+    QList<int> answers;
+    answers << wlan->CreateWLANProfile(LoadedWLAN::NewProfile("A", "open", "none", ""))
+            << wlan->GetRememberedList(&remembered) << wlan->GetProfileByName("A", &named)
+            << wlan->GetConfigData(&config) << wlan->GetAvailableNetworks(&networks)
+            << wlan->GetNetworkProfile(network, &near);
+    *areOutputsUntouched = remembered.isEmpty() && named.profileName.isNull() &&
+                           config.authenticationList.isEmpty() && networks.isEmpty() &&
+                           near.profileName.isNull();
+    return answers;
+}
+
+QList<int> EachBut(int result, int last)
+{
+    return QList<int>() << result << result << result << result << result << last;
+}
+
+/** The longest time in milliseconds for which an operation may hold up its caller; a slow machine takes
+ * longer to tell. */
+const int patience = 2000;
+const int allowance = 1500;
+// The toolkit's timers may be early by a twentieth.
+const int earliest = patience - patience / 20;
+
+qint64 TimeOf(const std::function<void()> &operation)
+{
+    QElapsedTimer timer;
+    timer.start();
+    operation();
+    return timer.elapsed();
+}
+
+} // namespace
+
+/** A NetworkManager that goes, comes back, hangs, refuses, or answers what it should not. */
+class tst_networkmanagerfaults : public NetworkManagerTest
+{
+    Q_OBJECT
+
+private slots:
+    void MeaninglessAnswersAreRefused_data();
+    void MeaninglessAnswersAreRefused();
+    void ErrorsAreTold_data();
+    void ErrorsAreTold();
+    void ComplaintIsWrittenOnceUntilItChanges();
+    void PropertiesOfOddTypesHarmNobody();
+    void SettingsOfOddTypesHarmNobody();
+    void UnreadablePermissionsCountAsAllowed_data();
+    void UnreadablePermissionsCountAsAllowed();
+    void OneUnreadableProfileIsToldAndTheOthersStay_data();
+    void OneUnreadableProfileIsToldAndTheOthersStay();
+    void ProfileThatGoesBetweenListingAndAskingIsLeftOut();
+    void ProfileOfSomebodyElseIsLeftOutQuietly();
+    void AnswersToStoringAreTold_data();
+    void AnswersToStoringAreTold();
+    void RefusedReplacementLeavesTheProfile();
+
+    void MissingNetworkManagerIsTold();
+    void NetworkManagerThatComesBackIsUsedAgain();
+    void NoAnswerEndsInTime();
+    void LateProfilesDoNotHideTheOthers();
+    void SilentNetworkManagerIsNotWaitedForAgain();
+    void NetworkManagerThatSpeaksAgainIsUsedAgain();
+    void ManyProfilesAndNetworksAreAllTold();
+};
+
+void tst_networkmanagerfaults::MeaninglessAnswersAreRefused_data()
+{
+    QTest::addColumn<QList<QVariant>>("arguments");
+    QTest::newRow("nothing") << QList<QVariant>();
+    QTest::newRow("a number") << (QList<QVariant>() << 42);
+    QTest::newRow("a text") << (QList<QVariant>() << QString("objects"));
+    QTest::newRow("a variant") << (QList<QVariant>()
+                                   << QVariant::fromValue(QDBusVariant(QString("objects"))));
+    QTest::newRow("settings in place of objects")
+        << (QList<QVariant>() << QVariant::fromValue(NMVariantMapMap()));
+    QTest::newRow("more than was asked for")
+        << (QList<QVariant>() << QVariant::fromValue(ManagedObjects()) << QString("and more"));
+}
+
+void tst_networkmanagerfaults::MeaninglessAnswersAreRefused()
+{
+    QFETCH(QList<QVariant>, arguments);
+    const QString path = Fake().AddProfile("A");
+    const NMVariantMapMap before = Fake().SettingsOf(path);
+    Fake().AnswerWith("GetManagedObjects", arguments);
+    TraceCapture trace;
+    bool areOutputsUntouched = false;
+    QCOMPARE(AnswersOfAll(&areOutputsUntouched), EachBut(NetworkManagerResultUnusableAnswer, 0));
+    QVERIFY(areOutputsUntouched);
+    QVERIFY(trace.Lines().contains(
+        "WLANNetworkManager: GetRememberedList: NetworkManager's answer can't be understood"));
+    QCOMPARE(Fake().SettingsOf(path), before);
+    QCOMPARE(Fake().ProfilePaths(), QStringList(path));
+
+    Fake().Behave();
+    QCOMPARE(LoadedWLAN::Remembered(), QStringList("A/1"));
+}
+
+void tst_networkmanagerfaults::ErrorsAreTold_data()
+{
+    QTest::addColumn<QString>("error");
+    QTest::addColumn<int>("result");
+    QTest::newRow("denied") << "org.freedesktop.NetworkManager.PermissionDenied"
+                            << int(NetworkManagerResultPermissionDenied);
+    QTest::newRow("denied by the bus")
+        << "org.freedesktop.DBus.Error.AccessDenied" << int(NetworkManagerResultPermissionDenied);
+    QTest::newRow("failed") << "org.freedesktop.NetworkManager.Failed" << int(NetworkManagerResultFailed);
+    QTest::newRow("unheard of") << "com.example.Error" << int(NetworkManagerResultFailed);
+    QTest::newRow("gone") << "org.freedesktop.DBus.Error.NameHasNoOwner"
+                          << int(NetworkManagerResultNotRunning);
+}
+
+void tst_networkmanagerfaults::ErrorsAreTold()
+{
+    QFETCH(QString, error);
+    QFETCH(int, result);
+    Fake().AddProfile("A");
+    Fake().AnswerWithError("GetManagedObjects", error);
+    TraceCapture trace;
+    bool areOutputsUntouched = false;
+    QCOMPARE(AnswersOfAll(&areOutputsUntouched), EachBut(result, 0));
+    QVERIFY(areOutputsUntouched);
+    QCOMPARE(trace.Lines().filter("WLANNetworkManager: ").size(), 6);
+}
+
+void tst_networkmanagerfaults::ComplaintIsWrittenOnceUntilItChanges()
+{
+    Fake().AnswerWithError("GetManagedObjects", "org.freedesktop.NetworkManager.Failed");
+    TraceCapture trace;
+    LoadedWLAN::Remembered();
+    LoadedWLAN::Remembered();
+    QCOMPARE(trace.Lines().size(), 1);
+    Fake().Behave();
+    LoadedWLAN::Remembered();
+    Fake().AnswerWithError("GetManagedObjects", "org.freedesktop.NetworkManager.Failed");
+    LoadedWLAN::Remembered();
+    QCOMPARE(trace.Lines().size(), 2);
+}
+
+void tst_networkmanagerfaults::PropertiesOfOddTypesHarmNobody()
+{
+    const QString odd = Fake().AddAccessPoint("A", 50);
+    const char *const properties[] = {"Strength", "Frequency", "Flags", "WpaFlags", "RsnFlags"};
+    for (const char *property : properties) {
+        Fake().SetProperty(odd, accessPointInterface, property,
+                           QStringList() << "not"
+                                         << "a number");
+    }
+    const QString nameless = Fake().AddAccessPoint("", 60);
+    Fake().SetProperty(nameless, accessPointInterface, "Ssid", QStringList("no bytes"));
+    Fake().AddAccessPoint("B", 70);
+    QCOMPARE(LoadedWLAN::InRange(), QStringList() << "B"
+                                                  << "A");
+    QCOMPARE(LoadedWLAN::ProfileNamed("A").authentication, QString());
+}
+
+void tst_networkmanagerfaults::SettingsOfOddTypesHarmNobody()
+{
+    NMVariantMapMap settings = FakeNetworkManager::Settings("odd");
+    settings["connection"]["autoconnect-priority"] = QString("first of all");
+    settings["connection"]["permissions"] = 7;
+    settings["connection"]["timestamp"] = QStringList("yesterday");
+    settings["802-11-wireless"]["mode"] = 3;
+    settings["802-11-wireless-security"]["key-mgmt"] = 9;
+    settings["802-11-wireless-security"]["pairwise"] = 1.5;
+    Fake().AddProfile(settings);
+    NMVariantMapMap empty;
+    empty["unheard-of"]["key"] = 1;
+    Fake().AddProfile(empty);
+    Fake().AddProfile("plain");
+    QCOMPARE(LoadedWLAN::Remembered(), QStringList() << "odd/1"
+                                                     << "plain/1");
+    QCOMPARE(LoadedWLAN::ProfileNamed("odd").ssid, QString("odd"));
+}
+
+void tst_networkmanagerfaults::UnreadablePermissionsCountAsAllowed_data()
+{
+    QTest::addColumn<QList<QVariant>>("arguments");
+    QTest::addColumn<QString>("error");
+    QTest::newRow("meaningless") << (QList<QVariant>() << 42) << "";
+    QTest::newRow("error") << QList<QVariant>() << "org.freedesktop.NetworkManager.Failed";
+}
+
+void tst_networkmanagerfaults::UnreadablePermissionsCountAsAllowed()
+{
+    QFETCH(QList<QVariant>, arguments);
+    QFETCH(QString, error);
+    Fake().AddProfile("A");
+    if (error.isEmpty()) {
+        Fake().AnswerWith("GetPermissions", arguments);
+    } else {
+        Fake().AnswerWithError("GetPermissions", error);
+    }
+    QCOMPARE(LoadedWLAN::ProfileNamed("A").readOnly, QString("false"));
+    QCOMPARE(LoadedWLAN::Remembered(), QStringList("A/1"));
+}
+
+void tst_networkmanagerfaults::OneUnreadableProfileIsToldAndTheOthersStay_data()
+{
+    QTest::addColumn<QList<QVariant>>("arguments");
+    QTest::addColumn<QString>("error");
+    QTest::addColumn<int>("result");
+    QTest::newRow("meaningless") << (QList<QVariant>() << QString("settings")) << ""
+                                 << int(NetworkManagerResultUnusableAnswer);
+    QTest::newRow("nothing") << QList<QVariant>() << "" << int(NetworkManagerResultUnusableAnswer);
+    QTest::newRow("error") << QList<QVariant>() << "org.freedesktop.NetworkManager.Settings.Failed"
+                           << int(NetworkManagerResultFailed);
+}
+
+void tst_networkmanagerfaults::OneUnreadableProfileIsToldAndTheOthersStay()
+{
+    QFETCH(QList<QVariant>, arguments);
+    QFETCH(QString, error);
+    QFETCH(int, result);
+    Fake().AddProfile("A");
+    const QString unreadable = Fake().AddProfile("B");
+    Fake().AddProfile("C");
+    if (error.isEmpty()) {
+        Fake().AnswerWith("GetSettings", arguments, unreadable);
+    } else {
+        Fake().AnswerWithError("GetSettings", error, unreadable);
+    }
+    TraceCapture trace;
+    QList<RememberedList> list;
+    QCOMPARE(LoadedWLAN::Wlan()->GetRememberedList(&list), result);
+    QCOMPARE(list.size(), 2);
+    QCOMPARE(list.at(0).name, QString("A"));
+    QCOMPARE(list.at(1).name, QString("C"));
+    QCOMPARE(trace.Lines().filter("GetRememberedList").size(), 1);
+    WLANProfile profile;
+    QCOMPARE(LoadedWLAN::Wlan()->GetProfileByName("A", &profile), 0);
+    QCOMPARE(LoadedWLAN::Wlan()->GetProfileByName("B", &profile), result);
+}
+
+void tst_networkmanagerfaults::ProfileThatGoesBetweenListingAndAskingIsLeftOut()
+{
+    Fake().AddProfile("A");
+    Fake().RemoveWhenAsked(Fake().AddProfile("B"));
+    TraceCapture trace;
+    QList<RememberedList> list;
+    QCOMPARE(LoadedWLAN::Wlan()->GetRememberedList(&list), 0);
+    QCOMPARE(list.size(), 1);
+    QCOMPARE(trace.Lines(), QStringList());
+}
+
+void tst_networkmanagerfaults::ProfileOfSomebodyElseIsLeftOutQuietly()
+{
+    Fake().AddProfile("A");
+    Fake().AnswerWithError("GetSettings", "org.freedesktop.NetworkManager.Settings.PermissionDenied",
+                           Fake().AddProfile("B"));
+    TraceCapture trace;
+    QList<RememberedList> list;
+    QCOMPARE(LoadedWLAN::Wlan()->GetRememberedList(&list), 0);
+    QCOMPARE(list.size(), 1);
+    QCOMPARE(trace.Lines(), QStringList());
+}
+
+void tst_networkmanagerfaults::AnswersToStoringAreTold_data()
+{
+    QTest::addColumn<bool>("isKnown");
+    QTest::addColumn<QString>("error");
+    QTest::addColumn<int>("result");
+    const bool areKnown[] = {false, true};
+    for (const bool isKnown : areKnown) {
+        const QByteArray kind = isKnown ? "replaced: " : "new: ";
+        QTest::newRow(kind + "denied")
+            << isKnown << "org.freedesktop.NetworkManager.Settings.PermissionDenied"
+            << int(NetworkManagerResultPermissionDenied);
+        QTest::newRow(kind + "bad key")
+            << isKnown << "org.freedesktop.NetworkManager.Settings.Connection.InvalidProperty"
+            << int(NetworkManagerResultProfileRefused);
+        QTest::newRow(kind + "bad profile")
+            << isKnown << "org.freedesktop.NetworkManager.Settings.InvalidConnection"
+            << int(NetworkManagerResultProfileRefused);
+        QTest::newRow(kind + "failed")
+            << isKnown << "org.freedesktop.NetworkManager.Settings.Failed" << int(NetworkManagerResultFailed);
+        QTest::newRow(kind + "meaningless") << isKnown << "" << int(NetworkManagerResultUnusableAnswer);
+    }
+}
+
+void tst_networkmanagerfaults::AnswersToStoringAreTold()
+{
+    QFETCH(bool, isKnown);
+    QFETCH(QString, error);
+    QFETCH(int, result);
+    const QString method = isKnown ? "Update2" : "AddConnection";
+    if (isKnown) {
+        Fake().AddProfile("A");
+    }
+    if (error.isEmpty()) {
+        Fake().AnswerWith(method, QList<QVariant>() << 42);
+    } else {
+        Fake().AnswerWithError(method, error);
+    }
+    TraceCapture trace;
+    QCOMPARE(LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("A", "open", "none", "")), result);
+    QCOMPARE(Fake().CallCount(method), 1);
+    QCOMPARE(trace.Lines().filter("CreateWLANProfile: ").size(), 1);
+}
+
+void tst_networkmanagerfaults::RefusedReplacementLeavesTheProfile()
+{
+    const QString path = Fake().AddProfile("A");
+    const NMVariantMapMap before = Fake().SettingsOf(path);
+    Fake().AnswerWithError("Update2", "org.freedesktop.NetworkManager.Settings.PermissionDenied");
+    LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("A", "WPA2PSK", "CCMP", "12345678"));
+    QCOMPARE(Fake().SettingsOf(path), before);
+    QCOMPARE(Fake().ProfilePaths(), QStringList(path));
+}
+
+void tst_networkmanagerfaults::MissingNetworkManagerIsTold()
+{
+    Fake().Vanish();
+    TraceCapture trace;
+    bool areOutputsUntouched = false;
+    QCOMPARE(AnswersOfAll(&areOutputsUntouched), EachBut(NetworkManagerResultNotRunning, 0));
+    QVERIFY(areOutputsUntouched);
+    QVERIFY(trace.Lines().contains("WLANNetworkManager: GetRememberedList: NetworkManager is not running"));
+}
+
+void tst_networkmanagerfaults::NetworkManagerThatComesBackIsUsedAgain()
+{
+    Fake().AddProfile("A");
+    Fake().Vanish();
+    QCOMPARE(LoadedWLAN::Remembered(), QStringList());
+    QVERIFY(Fake().Appear());
+    QCOMPARE(LoadedWLAN::Remembered(), QStringList("A/1"));
+}
+
+void tst_networkmanagerfaults::NoAnswerEndsInTime()
+{
+    Fake().DoNotAnswerAnything();
+    TraceCapture trace;
+    int result = 0;
+    const qint64 time = TimeOf([&result] {
+        QList<RememberedList> list;
+        result = LoadedWLAN::Wlan()->GetRememberedList(&list);
+    });
+    QCOMPARE(result, int(NetworkManagerResultNotAnswering));
+    QVERIFY2(time >= earliest && time < patience + allowance, qPrintable(QString::number(time)));
+    QVERIFY(trace.Lines().contains("WLANNetworkManager: GetRememberedList: NetworkManager does not answer"));
+}
+
+void tst_networkmanagerfaults::LateProfilesDoNotHideTheOthers()
+{
+    Fake().AddProfile("A");
+    Fake().DoNotAnswer("GetSettings", Fake().AddProfile("B"));
+    Fake().AddProfile("C");
+    QList<RememberedList> list;
+    int result = 0;
+    const qint64 time = TimeOf([&] { result = LoadedWLAN::Wlan()->GetRememberedList(&list); });
+    QCOMPARE(result, int(NetworkManagerResultNotAnswering));
+    QCOMPARE(list.size(), 2);
+    QVERIFY2(time < patience + allowance, qPrintable(QString::number(time)));
+}
+
+void tst_networkmanagerfaults::SilentNetworkManagerIsNotWaitedForAgain()
+{
+    Fake().DoNotAnswerAnything();
+    LoadedWLAN::Remembered();
+    bool areOutputsUntouched = false;
+    QList<int> answers;
+    const qint64 time = TimeOf([&] { answers = AnswersOfAll(&areOutputsUntouched); });
+    QCOMPARE(answers, EachBut(NetworkManagerResultNotAnswering, 0));
+    QVERIFY(areOutputsUntouched);
+    QVERIFY2(time < allowance, qPrintable(QString::number(time)));
+}
+
+void tst_networkmanagerfaults::NetworkManagerThatSpeaksAgainIsUsedAgain()
+{
+    Fake().AddProfile("A");
+    Fake().DoNotAnswer("GetManagedObjects");
+    QCOMPARE(LoadedWLAN::Remembered(), QStringList());
+    Fake().Behave();
+    // It is asked aside whether it speaks, and the answer needs a turn of the event loop.
+    QTRY_COMPARE(LoadedWLAN::Remembered(), QStringList("A/1"));
+}
+
+void tst_networkmanagerfaults::ManyProfilesAndNetworksAreAllTold()
+{
+    const int profileCount = 500;
+    const int networkCount = 300;
+    for (int i = 0; i < profileCount; ++i) {
+        Fake().AddProfile(QString("profile %1").arg(i));
+    }
+    for (int i = 0; i < networkCount; ++i) {
+        Fake().AddAccessPoint("network " + QByteArray::number(i), i % 100);
+    }
+    Fake().AddProfile("twice");
+    Fake().AddProfile("twice");
+    QList<RememberedList> remembered;
+    QCOMPARE(LoadedWLAN::Wlan()->GetRememberedList(&remembered), 0);
+    QCOMPARE(remembered.size(), profileCount + 2);
+    QCOMPARE(LoadedWLAN::InRange().size(), networkCount);
+    QCOMPARE(LoadedWLAN::ProfileNamed("profile 499").ssid, QString("profile 499"));
+}
+
+QTEST_GUILESS_MAIN(tst_networkmanagerfaults)
+#include "tst_networkmanagerfaults.moc"

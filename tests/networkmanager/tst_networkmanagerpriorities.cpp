@@ -1,0 +1,443 @@
+#include "LoadedWLAN.h"
+#include "NetworkManagerTest.h"
+
+#include <LoadedPlugin.h>
+#include <StandInHost.h>
+#include <TraceCapture.h>
+
+#include <QFile>
+#include <QPointer>
+#include <QtTest>
+
+namespace
+{
+
+const unsigned int activating = 1;
+const unsigned int activated = 2;
+const char priorityClass[] = "D78C8E0F-7A3F-4f51-87E3-753F0F7F0E05";
+
+/** The file as the priority plug-in writes it; entries are "name" or "name/type" with blanks between them. */
+QByteArray ListOf(const QString &entries)
+{
+    QByteArray items;
+    const QStringList all = entries.isEmpty() ? QStringList() : entries.split(' ');
+    for (int i = 0; i < all.size(); ++i) {
+        const QString type = all.at(i).section('/', 1);
+        items += QString("    <item name=\"%1\" type=\"%2\"/>\n")
+                     .arg(all.at(i).section('/', 0, 0), type.isEmpty() ? QString("1") : type)
+                     .toUtf8();
+    }
+    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<zeltdoc type=\"profile\">\n" + items +
+           "</zeltdoc>\n";
+}
+
+} // namespace
+
+/** The list that takes effect on NetworkManager, through the real priority plug-in. */
+class tst_networkmanagerpriorities : public NetworkManagerTest
+{
+    Q_OBJECT
+
+private slots:
+    void OrderIsWritten();
+    void ListThatIsThereAtTheStartIsWritten();
+    void MoveIsWritten();
+    void OnlyWhatDiffersIsWritten();
+    void OtherSettingsStayAsTheyAre();
+    void MobileBroadbandHasItsPlace();
+    void ProfilesOfOneNameHaveOnePlace();
+    void ProfilesOutsideTheListAreLeftAlone();
+    void EntryThatLeavesGetsItsFormerPriority();
+    void ForeignPriorityIsNotSetBack();
+    void RemovedListSetsAllBackAndANewOneIsFollowed();
+    void NewProfileGetsItsPlace();
+    void WorkGoesOnAfterARestartOfTheProgram();
+    void WorkGoesOnWhenNetworkManagerComesBack();
+    void ReadOnlyProfilesAreLeftAlone();
+    void ProfilesThatNeedAPasswordAreLeftAlone();
+
+    void DamagedListChangesNothing_data();
+    void DamagedListChangesNothing();
+    void MissingPriorityPluginChangesNothing();
+    void PriorityPluginThatWasTakenDownChangesNothing();
+    void RefusedWriteIsToldAndTheOthersAreMade();
+    void MeaninglessAnswerLosesNothing();
+    void UnreadableProfileIsToldAndTheOthersAreWritten();
+
+    void FirstConnectionGoesToTheTop();
+    void ConnectionIsRaisedWhenItIsMadeAndNotBefore();
+    void SecondConnectionIsNotRaised();
+    void DeletedEntryIsNotRaisedAgain();
+    void WhatWasConnectedBeforeTheFirstStartIsNotRaised();
+
+private:
+    /** Has the real priority plug-in in the container, and waits for the first comparison to be over. */
+    void Begin(const QString &entries);
+    void SetList(const QString &entries) { Directory().Write("Priority.xml", ListOf(entries)); }
+    QStringList Listed();
+    /** Gives time to whatever might still come. */
+    static void Settle() { QTest::qWait(600); }
+
+    LoadedPlugin m_plugin;
+    FakeContainer m_container;
+};
+
+void tst_networkmanagerpriorities::Begin(const QString &entries)
+{
+    LoadedWLAN::Root()->OnDestroy();
+    m_plugin.Plugin()->Init();
+    QObject *service = nullptr;
+    QVERIFY(m_plugin.Plugin()->QueryInterface(4103, &service));
+    m_container.objects[qMakePair(QString(priorityClass), 4103)] = service;
+    StandInHost::container = &m_container;
+    SetList(entries);
+    Fake().ForgetCalls();
+    QVERIFY(LoadedWLAN::Root()->Init());
+    QTRY_VERIFY(Fake().CallCount("GetManagedObjects") > 0);
+    Settle();
+}
+
+QStringList tst_networkmanagerpriorities::Listed()
+{
+    QList<PriorityList> list;
+    m_plugin.Priority()->GetPriorityList(&list);
+    return AsTexts(list);
+}
+
+void tst_networkmanagerpriorities::OrderIsWritten()
+{
+    const QString a = Fake().AddProfile("A");
+    const QString b = Fake().AddProfile("B");
+    Begin("");
+    SetList("B A");
+    QTRY_COMPARE(Fake().PriorityOf(b), 999);
+    QTRY_COMPARE(Fake().PriorityOf(a), 998);
+}
+
+void tst_networkmanagerpriorities::ListThatIsThereAtTheStartIsWritten()
+{
+    const QString a = Fake().AddProfile("A");
+    Begin("X A");
+    QCOMPARE(Fake().PriorityOf(a), 998);
+}
+
+void tst_networkmanagerpriorities::MoveIsWritten()
+{
+    const QString a = Fake().AddProfile("A");
+    const QString b = Fake().AddProfile("B");
+    Begin("A B");
+    QCOMPARE(Fake().PriorityOf(a), 999);
+    // The file is deleted and written anew, as it is for every change.
+    m_plugin.Priority()->AddTopPriority(Entry("B"));
+    QTRY_COMPARE(Fake().PriorityOf(b), 999);
+    QTRY_COMPARE(Fake().PriorityOf(a), 998);
+}
+
+void tst_networkmanagerpriorities::OnlyWhatDiffersIsWritten()
+{
+    const QString b = Fake().AddProfile("B");
+    Fake().AddProfile("A");
+    Begin("A B");
+    QCOMPARE(Fake().CallCount("Update2"), 2);
+    SetList("A X B");
+    QTRY_COMPARE(Fake().PriorityOf(b), 997);
+    Settle();
+    QCOMPARE(Fake().CallCount("Update2"), 3);
+}
+
+void tst_networkmanagerpriorities::OtherSettingsStayAsTheyAre()
+{
+    NMVariantMapMap settings = FakeNetworkManager::Settings("A");
+    settings["connection"]["metered"] = 2;
+    settings["802-11-wireless"]["hidden"] = true;
+    settings["802-11-wireless-security"]["key-mgmt"] = "wpa-psk";
+    settings["ipv4"]["dns-search"] = QStringList() << "example.com"
+                                                   << "example.org";
+    settings["user"]["unheard-of"] = QString("value");
+    const QString a = Fake().AddProfile(settings);
+    Begin("A");
+    settings["connection"]["autoconnect-priority"] = 999;
+    QCOMPARE(Fake().SettingsOf(a), settings);
+}
+
+void tst_networkmanagerpriorities::MobileBroadbandHasItsPlace()
+{
+    const QString wifi = Fake().AddProfile("A");
+    const QString mobile = Fake().AddProfile("A", "gsm");
+    Begin("A/0 A/1");
+    QCOMPARE(Fake().PriorityOf(mobile), 999);
+    QCOMPARE(Fake().PriorityOf(wifi), 998);
+}
+
+void tst_networkmanagerpriorities::ProfilesOfOneNameHaveOnePlace()
+{
+    const QString first = Fake().AddProfile("A");
+    const QString second = Fake().AddProfile("A");
+    Begin("X A");
+    QCOMPARE(Fake().PriorityOf(first), 998);
+    QCOMPARE(Fake().PriorityOf(second), 998);
+}
+
+void tst_networkmanagerpriorities::ProfilesOutsideTheListAreLeftAlone()
+{
+    const QString wifi = Fake().AddProfile("B");
+    const QString wired = Fake().AddProfile("A", "802-3-ethernet");
+    Fake().SetSetting(wifi, "connection", "autoconnect-priority", 7);
+    Fake().AddProfile("A");
+    Begin("A");
+    QCOMPARE(Fake().PriorityOf(wifi), 7);
+    QCOMPARE(Fake().PriorityOf(wired), 0);
+    QCOMPARE(Fake().CallCount("Update2"), 1);
+}
+
+void tst_networkmanagerpriorities::EntryThatLeavesGetsItsFormerPriority()
+{
+    const QString a = Fake().AddProfile("A");
+    Fake().SetSetting(a, "connection", "autoconnect-priority", 12);
+    Begin("A B");
+    QCOMPARE(Fake().PriorityOf(a), 999);
+    SetList("B");
+    QTRY_COMPARE(Fake().PriorityOf(a), 12);
+}
+
+void tst_networkmanagerpriorities::ForeignPriorityIsNotSetBack()
+{
+    const QString a = Fake().AddProfile("A");
+    Begin("A B");
+    Fake().SetSetting(a, "connection", "autoconnect-priority", 50);
+    SetList("B");
+    Settle();
+    QCOMPARE(Fake().PriorityOf(a), 50);
+    QCOMPARE(Fake().CallCount("Update2"), 1);
+}
+
+void tst_networkmanagerpriorities::RemovedListSetsAllBackAndANewOneIsFollowed()
+{
+    const QString a = Fake().AddProfile("A");
+    Begin("A");
+    QCOMPARE(Fake().PriorityOf(a), 999);
+    QVERIFY(QFile::remove(Directory().FilePath("Priority.xml")));
+    QTRY_COMPARE(Fake().PriorityOf(a), 0);
+    SetList("B A");
+    QTRY_COMPARE(Fake().PriorityOf(a), 998);
+    QVERIFY(QFile::remove(Directory().FilePath("Priority.xml")));
+    QTRY_COMPARE(Fake().PriorityOf(a), 0);
+}
+
+void tst_networkmanagerpriorities::NewProfileGetsItsPlace()
+{
+    Begin("X A");
+    const QString a = Fake().AddProfile("A");
+    QTRY_COMPARE(Fake().PriorityOf(a), 998);
+}
+
+void tst_networkmanagerpriorities::WorkGoesOnAfterARestartOfTheProgram()
+{
+    const QString a = Fake().AddProfile("A");
+    Fake().SetSetting(a, "connection", "autoconnect-priority", 12);
+    Begin("A B");
+    LoadedWLAN::Root()->OnDestroy();
+    SetList("B");
+    Settle();
+    QCOMPARE(Fake().PriorityOf(a), 999);
+    QVERIFY(LoadedWLAN::Root()->Init());
+    QTRY_COMPARE(Fake().PriorityOf(a), 12);
+}
+
+void tst_networkmanagerpriorities::WorkGoesOnWhenNetworkManagerComesBack()
+{
+    const QString a = Fake().AddProfile("A");
+    Begin("A");
+    Fake().Vanish();
+    SetList("B A");
+    Settle();
+    QCOMPARE(Fake().PriorityOf(a), 999);
+    QVERIFY(Fake().Appear());
+    QTRY_COMPARE(Fake().PriorityOf(a), 998);
+}
+
+void tst_networkmanagerpriorities::ReadOnlyProfilesAreLeftAlone()
+{
+    const QString a = Fake().AddProfile("A");
+    Fake().SetProperty(a, "org.freedesktop.NetworkManager.Settings.Connection", "Unsaved", true);
+    Begin("A");
+    QCOMPARE(Fake().CallCount("Update2"), 0);
+}
+
+void tst_networkmanagerpriorities::ProfilesThatNeedAPasswordAreLeftAlone()
+{
+    Fake().AddProfile("A");
+    Fake().SetRight("org.freedesktop.NetworkManager.settings.modify.system", "auth");
+    Begin("A");
+    QCOMPARE(Fake().CallCount("Update2"), 0);
+}
+
+void tst_networkmanagerpriorities::DamagedListChangesNothing_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("cut off") << ListOf("B A").left(100);
+    QTest::newRow("not XML") << QByteArray("\0\1\2<item", 8);
+    QTest::newRow("nothing in it") << QByteArray("");
+}
+
+void tst_networkmanagerpriorities::DamagedListChangesNothing()
+{
+    QFETCH(QByteArray, content);
+    const QString a = Fake().AddProfile("A");
+    Begin("A");
+    Directory().Write("Priority.xml", content);
+    Settle();
+    QCOMPARE(Fake().PriorityOf(a), 999);
+    QCOMPARE(Fake().CallCount("Update2"), 1);
+    QCOMPARE(Directory().Read("Priority.xml"), content);
+}
+
+void tst_networkmanagerpriorities::MissingPriorityPluginChangesNothing()
+{
+    const QString a = Fake().AddProfile("A");
+    Begin("A");
+    m_container.objects.clear();
+    SetList("B A");
+    Settle();
+    StandInHost::container = nullptr;
+    SetList("B C A");
+    Settle();
+    QCOMPARE(Fake().PriorityOf(a), 999);
+}
+
+namespace
+{
+
+/** As the priority plug-in answers once it has been taken down. */
+class TakenDown : public QObject, public IPriorityPlugin
+{
+    Q_OBJECT
+    Q_INTERFACES(IPriorityPlugin)
+
+public:
+    int GetPriorityList(QList<PriorityList> *) override { return 0; }
+    void AddPriorityList(QList<PriorityList> &) override {}
+    void AddTopPriority(PriorityList) override {}
+};
+
+} // namespace
+
+void tst_networkmanagerpriorities::PriorityPluginThatWasTakenDownChangesNothing()
+{
+    const QString a = Fake().AddProfile("A");
+    Begin("A");
+    TakenDown takenDown;
+    m_container.objects[qMakePair(QString(priorityClass), 4103)] = &takenDown;
+    SetList("B A");
+    Settle();
+    QCOMPARE(Fake().PriorityOf(a), 999);
+}
+
+void tst_networkmanagerpriorities::RefusedWriteIsToldAndTheOthersAreMade()
+{
+    const QString a = Fake().AddProfile("A");
+    const QString b = Fake().AddProfile("B");
+    Fake().AnswerWithError("Update2", "org.freedesktop.NetworkManager.Settings.PermissionDenied", a);
+    TraceCapture trace;
+    Begin("A B");
+    QCOMPARE(Fake().PriorityOf(a), 0);
+    QCOMPARE(Fake().PriorityOf(b), 998);
+    QVERIFY(trace.Lines().contains(
+        "WLANNetworkManager: the priority of \"A\" is not changed: this user may not do that"));
+}
+
+void tst_networkmanagerpriorities::MeaninglessAnswerLosesNothing()
+{
+    const QString a = Fake().AddProfile("A");
+    Begin("A");
+    Fake().AnswerWith("GetManagedObjects", QList<QVariant>() << 42);
+    TraceCapture trace;
+    SetList("B A");
+    QTRY_VERIFY(trace.Lines().contains(
+        "WLANNetworkManager: the list is not compared: NetworkManager's answer can't be understood"));
+    QCOMPARE(Fake().PriorityOf(a), 999);
+    QCOMPARE(Directory().Read("Priority.xml"), ListOf("B A"));
+    Fake().Behave();
+    SetList("C B A");
+    QTRY_COMPARE(Fake().PriorityOf(a), 997);
+}
+
+void tst_networkmanagerpriorities::UnreadableProfileIsToldAndTheOthersAreWritten()
+{
+    const QString a = Fake().AddProfile("A");
+    const QString b = Fake().AddProfile("B");
+    Fake().AnswerWith("GetSettings", QList<QVariant>() << 42, a);
+    TraceCapture trace;
+    Begin("A B");
+    QCOMPARE(Fake().PriorityOf(b), 998);
+    QCOMPARE(Fake().PriorityOf(a), 0);
+    QVERIFY(trace.Lines().contains("WLANNetworkManager: not all profiles are compared with the list: "
+                                   "NetworkManager's answer can't be understood"));
+}
+
+void tst_networkmanagerpriorities::FirstConnectionGoesToTheTop()
+{
+    const QString a = Fake().AddProfile("A");
+    const QString mobile = Fake().AddProfile("M", "gsm");
+    Begin("X Y");
+    Fake().Connect(a, activated);
+    QTRY_COMPARE(Listed(), QStringList() << "A/1"
+                                         << "X/1"
+                                         << "Y/1");
+    QTRY_COMPARE(Fake().PriorityOf(a), 999);
+    Fake().Connect(mobile, activated);
+    QTRY_COMPARE(Listed().value(0), QString("M/2"));
+    QTRY_COMPARE(Fake().PriorityOf(a), 998);
+}
+
+void tst_networkmanagerpriorities::ConnectionIsRaisedWhenItIsMadeAndNotBefore()
+{
+    const QString a = Fake().AddProfile("A");
+    Begin("X");
+    const QString connection = Fake().Connect(a, activating);
+    Settle();
+    QCOMPARE(Listed(), QStringList("X/1"));
+    Fake().SetConnectionState(connection, activated);
+    QTRY_COMPARE(Listed().value(0), QString("A/1"));
+}
+
+void tst_networkmanagerpriorities::SecondConnectionIsNotRaised()
+{
+    const QString a = Fake().AddProfile("A");
+    Begin("X A");
+    Fake().Connect(a, activated);
+    Settle();
+    QCOMPARE(Listed(), QStringList() << "X/1"
+                                     << "A/1");
+}
+
+void tst_networkmanagerpriorities::DeletedEntryIsNotRaisedAgain()
+{
+    const QString a = Fake().AddProfile("A");
+    Begin("X");
+    const QString connection = Fake().Connect(a, activated);
+    QTRY_COMPARE(Listed().value(0), QString("A/1"));
+    SetList("X");
+    Settle();
+    Fake().SetConnectionState(connection, activating);
+    Fake().SetConnectionState(connection, activated);
+    LoadedWLAN::Root()->OnDestroy();
+    QVERIFY(LoadedWLAN::Root()->Init());
+    Settle();
+    QCOMPARE(Listed(), QStringList("X/1"));
+}
+
+void tst_networkmanagerpriorities::WhatWasConnectedBeforeTheFirstStartIsNotRaised()
+{
+    const QString a = Fake().AddProfile("A");
+    Fake().Connect(a, activated);
+    const QString b = Fake().AddProfile("B");
+    Fake().SetSetting(b, "connection", "timestamp", qulonglong(1700000000));
+    // What is known of former connections is known from the first start in a new directory on.
+    Directory().Write("NetworkManager.ini", "");
+    Begin("X");
+    QCOMPARE(Listed(), QStringList("X/1"));
+}
+
+QTEST_MAIN(tst_networkmanagerpriorities)
+#include "tst_networkmanagerpriorities.moc"

@@ -1,0 +1,670 @@
+#include "LoadedWLAN.h"
+#include "NetworkManagerTest.h"
+
+#include <NetworkManagerResult.h>
+#include <TraceCapture.h>
+
+#include <QtTest>
+
+#include <pwd.h>
+#include <unistd.h>
+
+namespace
+{
+
+const char wifi[] = "802-11-wireless";
+const char security[] = "802-11-wireless-security";
+const char profileInterface[] = "org.freedesktop.NetworkManager.Settings.Connection";
+const char modifyOwn[] = "org.freedesktop.NetworkManager.settings.modify.own";
+const char modifyShared[] = "org.freedesktop.NetworkManager.settings.modify.system";
+
+QString Myself()
+{
+    return QString::fromLocal8Bit(getpwuid(geteuid())->pw_name);
+}
+
+/** "key=value" of a section, in alphabetical order. */
+QStringList Texts(const QVariantMap &section)
+{
+    QStringList texts;
+    for (QVariantMap::const_iterator i = section.constBegin(); i != section.constEnd(); ++i) {
+        const bool isList = i.value().type() == QVariant::StringList;
+        texts.append(i.key() + "=" + (isList ? i.value().toStringList().join(",") : i.value().toString()));
+    }
+    return texts;
+}
+
+} // namespace
+
+/** What the plug-in tells of profiles and what it stores. */
+class tst_networkmanagerprofiles : public NetworkManagerTest
+{
+    Q_OBJECT
+
+private slots:
+    void KindsAreTold_data();
+    void KindsAreTold();
+    void OrderIsAlphabeticalWhateverNetworkManagersIs();
+    void ProfilesOfOneNameAreAllListed();
+
+    void ProfileIsFilled();
+    void UnknownNameLeavesTheOutputAlone();
+    void NameIsCaseSensitive();
+    void OfOneNameTheLatestIsGiven();
+    void OfOneNameTheWifiProfileIsGiven();
+    void KeyIsNeverAskedFor();
+    void ReadOnlyIsToldOfWhatCannotBeChanged_data();
+    void ReadOnlyIsToldOfWhatCannotBeChanged();
+    void SecurityOfAProfileIsTold_data();
+    void SecurityOfAProfileIsTold();
+
+    void NewProfileHasTheSecurityOfTheDialog_data();
+    void NewProfileHasTheSecurityOfTheDialog();
+    void WepKeyHasItsIndex_data();
+    void WepKeyHasItsIndex();
+    void EapProfilesHaveAMethodWithoutCredentials_data();
+    void EapProfilesHaveAMethodWithoutCredentials();
+    void NetworkNameIsSentAsItsBytes();
+    void ProfileOfThatNameIsReplacedAndKeepsTheRest();
+    void ReadOnlyProfileIsNotReplaced();
+    void ProfileIsForEverybodyOrForItsMaker_data();
+    void ProfileIsForEverybodyOrForItsMaker();
+    void WhatCannotBeStoredIsRefusedBeforeItIsSent_data();
+    void WhatCannotBeStoredIsRefusedBeforeItIsSent();
+    void KeyIsInNoLine();
+};
+
+void tst_networkmanagerprofiles::KindsAreTold_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<QStringList>("told");
+
+    QTest::newRow("Wi-Fi") << "802-11-wireless" << QStringList("A/1");
+    QTest::newRow("GSM") << "gsm" << QStringList("A/2");
+    QTest::newRow("CDMA") << "cdma" << QStringList("A/2");
+    QTest::newRow("wired") << "802-3-ethernet" << QStringList();
+    QTest::newRow("VPN") << "vpn" << QStringList();
+    QTest::newRow("unheard of") << "telepathy" << QStringList();
+}
+
+void tst_networkmanagerprofiles::KindsAreTold()
+{
+    QFETCH(QString, type);
+    Fake().AddProfile("A", type);
+    QTEST(LoadedWLAN::Remembered(), "told");
+}
+
+void tst_networkmanagerprofiles::OrderIsAlphabeticalWhateverNetworkManagersIs()
+{
+    const char *const names[] = {"b", "Zoo", "a", "B", "10", "2", "\xc3\xa4"};
+    for (const char *name : names) {
+        Fake().AddProfile(QString::fromUtf8(name));
+    }
+    const QStringList told = LoadedWLAN::Remembered();
+    QCOMPARE(told.size(), 7);
+    QVERIFY(told.indexOf("a/1") < told.indexOf("B/1"));
+    QVERIFY(told.indexOf("B/1") < told.indexOf("b/1"));
+    QVERIFY(told.indexOf("b/1") < told.indexOf("Zoo/1"));
+    QCOMPARE(LoadedWLAN::Remembered(), told);
+}
+
+void tst_networkmanagerprofiles::ProfilesOfOneNameAreAllListed()
+{
+    Fake().AddProfile("A");
+    Fake().AddProfile("A");
+    QCOMPARE(LoadedWLAN::Remembered(), QStringList() << "A/1"
+                                                     << "A/1");
+}
+
+void tst_networkmanagerprofiles::ProfileIsFilled()
+{
+    NMVariantMapMap settings = FakeNetworkManager::Settings("Office");
+    settings["connection"]["autoconnect"] = false;
+    settings[wifi]["ssid"] = QByteArray("office net");
+    settings[wifi]["mode"] = "adhoc";
+    Fake().AddProfile(settings);
+
+    const WLANProfile profile = LoadedWLAN::ProfileNamed("Office");
+    QCOMPARE(profile.profileName, QString("Office"));
+    QCOMPARE(profile.ssid, QString("office net"));
+    QCOMPARE(profile.bssType, QString("IBSS"));
+    QCOMPARE(profile.connectionMode, QString("manual"));
+    QCOMPARE(profile.readOnly, QString("false"));
+    QCOMPARE(profile.authentication, QString("open"));
+    QCOMPARE(profile.encryption, QString("none"));
+    QCOMPARE(profile.keyType, QString("passPhrase"));
+    QCOMPARE(profile.keyIndex, QString("0"));
+    QVERIFY(profile.keyMaterial.isNull());
+}
+
+void tst_networkmanagerprofiles::UnknownNameLeavesTheOutputAlone()
+{
+    WLANProfile profile;
+    profile.text17 = "as it was";
+    TraceCapture trace;
+    QCOMPARE(LoadedWLAN::Wlan()->GetProfileByName("nobody", &profile), int(NetworkManagerResultUnknownName));
+    QCOMPARE(profile.text17, QString("as it was"));
+    QVERIFY(profile.profileName.isNull() && profile.readOnly.isNull());
+    QCOMPARE(trace.Lines(), QStringList());
+}
+
+void tst_networkmanagerprofiles::NameIsCaseSensitive()
+{
+    Fake().AddProfile("home");
+    WLANProfile profile;
+    QCOMPARE(LoadedWLAN::Wlan()->GetProfileByName("Home", &profile), int(NetworkManagerResultUnknownName));
+}
+
+void tst_networkmanagerprofiles::OfOneNameTheLatestIsGiven()
+{
+    const qulonglong times[] = {100, 300, 200};
+    for (const qulonglong time : times) {
+        NMVariantMapMap settings = FakeNetworkManager::Settings("A");
+        settings["connection"]["timestamp"] = time;
+        settings[wifi]["ssid"] = QByteArray::number(time);
+        Fake().AddProfile(settings);
+    }
+    QCOMPARE(LoadedWLAN::ProfileNamed("A").ssid, QString("300"));
+}
+
+void tst_networkmanagerprofiles::OfOneNameTheWifiProfileIsGiven()
+{
+    NMVariantMapMap mobile = FakeNetworkManager::Settings("A", "gsm");
+    mobile["connection"]["timestamp"] = qulonglong(300);
+    Fake().AddProfile(mobile);
+    Fake().AddProfile("A");
+    QCOMPARE(LoadedWLAN::ProfileNamed("A").ssid, QString("A"));
+}
+
+void tst_networkmanagerprofiles::KeyIsNeverAskedFor()
+{
+    NMVariantMapMap settings = FakeNetworkManager::Settings("A");
+    settings[security]["key-mgmt"] = "wpa-psk";
+    settings[security]["psk"] = "open sesame";
+    Fake().AddProfile(settings);
+    QVERIFY(LoadedWLAN::ProfileNamed("A").keyMaterial.isNull());
+    QCOMPARE(Fake().CallCount("GetSecrets"), 0);
+}
+
+void tst_networkmanagerprofiles::ReadOnlyIsToldOfWhatCannotBeChanged_data()
+{
+    QTest::addColumn<QStringList>("permissions");
+    QTest::addColumn<QString>("own");
+    QTest::addColumn<QString>("shared");
+    QTest::addColumn<QString>("property");
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<QString>("readOnly");
+
+    const QStringList everybody;
+    const QStringList mine("user:" + Myself() + ":");
+    const QStringList others("user:somebody.else:");
+    const QStringList ours = QStringList() << others << mine;
+    QTest::newRow("everybody's") << everybody << "yes"
+                                 << "yes"
+                                 << "" << QVariant() << "false";
+    QTest::newRow("mine") << mine << "yes"
+                          << "no"
+                          << "" << QVariant() << "false";
+    QTest::newRow("mine, by nobody") << mine << "no"
+                                     << "yes"
+                                     << "" << QVariant() << "true";
+    QTest::newRow("ours") << ours << "no"
+                          << "yes"
+                          << "" << QVariant() << "false";
+    QTest::newRow("others'") << others << "yes"
+                             << "yes"
+                             << "" << QVariant() << "true";
+    QTest::newRow("everybody's, by nobody") << everybody << "yes"
+                                            << "no"
+                                            << "" << QVariant() << "true";
+    QTest::newRow("with a password") << everybody << "no"
+                                     << "auth"
+                                     << "" << QVariant() << "false";
+    QTest::newRow("not on disk") << everybody << "yes"
+                                 << "yes"
+                                 << "Unsaved" << QVariant(true) << "true";
+    QTest::newRow("unsaved flag") << everybody << "yes"
+                                  << "yes"
+                                  << "Flags" << QVariant(1U) << "true";
+    QTest::newRow("made by itself") << everybody << "yes"
+                                    << "yes"
+                                    << "Flags" << QVariant(2U) << "true";
+    QTest::newRow("volatile") << everybody << "yes"
+                              << "yes"
+                              << "Flags" << QVariant(4U) << "true";
+    QTest::newRow("external") << everybody << "yes"
+                              << "yes"
+                              << "Flags" << QVariant(8U) << "true";
+    QTest::newRow("no file") << everybody << "yes"
+                             << "yes"
+                             << "Filename" << QVariant("") << "true";
+    QTest::newRow("the system's") << everybody << "yes"
+                                  << "yes"
+                                  << "Filename" << QVariant("/usr/lib/NetworkManager/system-connections/a")
+                                  << "true";
+    QTest::newRow("until the next start")
+        << everybody << "yes"
+        << "yes"
+        << "Filename" << QVariant("/run/NetworkManager/system-connections/a") << "true";
+}
+
+void tst_networkmanagerprofiles::ReadOnlyIsToldOfWhatCannotBeChanged()
+{
+    QFETCH(QStringList, permissions);
+    QFETCH(QString, own);
+    QFETCH(QString, shared);
+    QFETCH(QString, property);
+    QFETCH(QVariant, value);
+    NMVariantMapMap settings = FakeNetworkManager::Settings("A");
+    if (!permissions.isEmpty()) {
+        settings["connection"]["permissions"] = permissions;
+    }
+    const QString path = Fake().AddProfile(settings);
+    Fake().SetRight(modifyOwn, own);
+    Fake().SetRight(modifyShared, shared);
+    if (!property.isEmpty()) {
+        Fake().SetProperty(path, profileInterface, property, value);
+    }
+    QTEST(LoadedWLAN::ProfileNamed("A").readOnly, "readOnly");
+}
+
+void tst_networkmanagerprofiles::SecurityOfAProfileIsTold_data()
+{
+    QTest::addColumn<QVariantMap>("section");
+    QTest::addColumn<QString>("told");
+
+    QVariantMap section;
+    QTest::newRow("none") << section << "open none passPhrase 0";
+    section["key-mgmt"] = "none";
+    QTest::newRow("WEP") << section << "open WEP networkKey 0";
+    section["auth-alg"] = "shared";
+    section["wep-tx-keyidx"] = 2U;
+    QTest::newRow("shared WEP") << section << "shared WEP networkKey 2";
+    section.clear();
+    section["key-mgmt"] = "ieee8021x";
+    QTest::newRow("dynamic WEP") << section << "IEEE 802.1X none passPhrase 0";
+    section["key-mgmt"] = "wpa-psk";
+    QTest::newRow("PSK") << section << "WPA2PSK CCMP passPhrase 0";
+    section["proto"] = QStringList("wpa");
+    section["pairwise"] = QStringList("tkip");
+    QTest::newRow("old PSK") << section << "WPAPSK TKIP passPhrase 0";
+    section["proto"] = QStringList() << "wpa"
+                                     << "rsn";
+    section["pairwise"] = QStringList() << "tkip"
+                                        << "ccmp";
+    QTest::newRow("both") << section << "WPA2PSK CCMP passPhrase 0";
+    section["key-mgmt"] = "wpa-eap";
+    QTest::newRow("EAP") << section << "WPA2(EAP) CCMP passPhrase 0";
+    section["proto"] = QStringList("wpa");
+    QTest::newRow("old EAP") << section << "WPA(EAP) CCMP passPhrase 0";
+    section.clear();
+    section["key-mgmt"] = "sae";
+    QTest::newRow("SAE") << section << "WPA2PSK CCMP passPhrase 0";
+}
+
+void tst_networkmanagerprofiles::SecurityOfAProfileIsTold()
+{
+    QFETCH(QVariantMap, section);
+    NMVariantMapMap settings = FakeNetworkManager::Settings("A");
+    if (!section.isEmpty()) {
+        settings[security] = section;
+    }
+    Fake().AddProfile(settings);
+    const WLANProfile profile = LoadedWLAN::ProfileNamed("A");
+    QTEST(profile.authentication + " " + profile.encryption + " " + profile.keyType + " " + profile.keyIndex,
+          "told");
+}
+
+void tst_networkmanagerprofiles::NewProfileHasTheSecurityOfTheDialog_data()
+{
+    QTest::addColumn<QString>("authentication");
+    QTest::addColumn<QString>("encryption");
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QStringList>("stored");
+
+    QTest::newRow("open") << "open"
+                          << "none"
+                          << "" << QStringList();
+    QTest::newRow("open, with a key typed") << "open"
+                                            << "none"
+                                            << "whatever" << QStringList();
+    QTest::newRow("WEP") << "open"
+                         << "WEP"
+                         << "12345"
+                         << (QStringList() << "auth-alg=open"
+                                           << "key-mgmt=none"
+                                           << "wep-key-type=1"
+                                           << "wep-key0=12345");
+    QTest::newRow("shared WEP") << "shared"
+                                << "WEP"
+                                << "12345"
+                                << (QStringList() << "auth-alg=shared"
+                                                  << "key-mgmt=none"
+                                                  << "wep-key-type=1"
+                                                  << "wep-key0=12345");
+    QTest::newRow("WPA, TKIP") << "WPAPSK"
+                               << "TKIP"
+                               << "12345678"
+                               << (QStringList() << "key-mgmt=wpa-psk"
+                                                 << "pairwise=tkip"
+                                                 << "proto=wpa"
+                                                 << "psk=12345678");
+    QTest::newRow("WPA, CCMP") << "WPAPSK"
+                               << "CCMP"
+                               << "12345678"
+                               << (QStringList() << "key-mgmt=wpa-psk"
+                                                 << "pairwise=ccmp"
+                                                 << "proto=wpa"
+                                                 << "psk=12345678");
+    QTest::newRow("WPA2, TKIP") << "WPA2PSK"
+                                << "TKIP"
+                                << "12345678"
+                                << (QStringList() << "key-mgmt=wpa-psk"
+                                                  << "pairwise=tkip"
+                                                  << "proto=rsn"
+                                                  << "psk=12345678");
+    QTest::newRow("WPA2, CCMP") << "WPA2PSK"
+                                << "CCMP"
+                                << "12345678"
+                                << (QStringList() << "key-mgmt=wpa-psk"
+                                                  << "pairwise=ccmp"
+                                                  << "proto=rsn"
+                                                  << "psk=12345678");
+}
+
+void tst_networkmanagerprofiles::NewProfileHasTheSecurityOfTheDialog()
+{
+    QFETCH(QString, authentication);
+    QFETCH(QString, encryption);
+    QFETCH(QString, key);
+    QFETCH(QStringList, stored);
+    QCOMPARE(
+        LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("A", authentication, encryption, key)),
+        0);
+    QCOMPARE(Fake().ProfilePaths().size(), 1);
+    const NMVariantMapMap settings = Fake().SettingsOf(Fake().ProfilePaths().first());
+    QStringList texts = Texts(settings.value(security));
+    texts.removeAll("wep-tx-keyidx=0");
+    QCOMPARE(texts, stored);
+    QCOMPARE(settings["connection"].value("id").toString(), QString("A"));
+    QCOMPARE(settings["connection"].value("type").toString(), QString(wifi));
+    QCOMPARE(settings["connection"].value("uuid").toString().size(), 36);
+    QCOMPARE(settings[wifi].value("ssid").toByteArray(), QByteArray("A"));
+    QCOMPARE(settings[wifi].value("mode").toString(), QString("infrastructure"));
+    QVERIFY(!settings.contains("802-1x"));
+}
+
+void tst_networkmanagerprofiles::WepKeyHasItsIndex_data()
+{
+    QTest::addColumn<QString>("index");
+    for (int i = 0; i < 4; ++i) {
+        const QString index = QString::number(i);
+        QTest::newRow(qPrintable(index)) << index;
+    }
+}
+
+void tst_networkmanagerprofiles::WepKeyHasItsIndex()
+{
+    QFETCH(QString, index);
+    WLANProfile profile = LoadedWLAN::NewProfile("A", "open", "WEP", "0123456789");
+    profile.keyIndex = index;
+    QCOMPARE(LoadedWLAN::Wlan()->CreateWLANProfile(profile), 0);
+    const QVariantMap stored = Fake().SettingsOf(Fake().ProfilePaths().value(0)).value(security);
+    QCOMPARE(stored.value("wep-key" + index).toString(), QString("0123456789"));
+    QCOMPARE(stored.value("wep-tx-keyidx").toUInt(), index.toUInt());
+    QCOMPARE(LoadedWLAN::ProfileNamed("A").keyIndex, index);
+}
+
+void tst_networkmanagerprofiles::EapProfilesHaveAMethodWithoutCredentials_data()
+{
+    QTest::addColumn<QString>("authentication");
+    QTest::addColumn<QString>("encryption");
+    QTest::addColumn<QString>("keyManagement");
+    QTest::newRow("WPA") << "WPA(EAP)"
+                         << "TKIP"
+                         << "wpa-eap";
+    QTest::newRow("WPA2") << "WPA2(EAP)"
+                          << "CCMP"
+                          << "wpa-eap";
+    QTest::newRow("802.1X") << "IEEE 802.1X"
+                            << "none"
+                            << "ieee8021x";
+}
+
+void tst_networkmanagerprofiles::EapProfilesHaveAMethodWithoutCredentials()
+{
+    QFETCH(QString, authentication);
+    QFETCH(QString, encryption);
+    QFETCH(QString, keyManagement);
+    QCOMPARE(
+        LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("A", authentication, encryption, "")),
+        0);
+    const NMVariantMapMap settings = Fake().SettingsOf(Fake().ProfilePaths().value(0));
+    QCOMPARE(settings[security].value("key-mgmt").toString(), keyManagement);
+    QVERIFY(!settings[security].contains("psk"));
+    QCOMPARE(Texts(settings["802-1x"]), QStringList("eap=sim"));
+    const WLANProfile told = LoadedWLAN::ProfileNamed("A");
+    QCOMPARE(told.authentication, authentication);
+    QCOMPARE(told.encryption, encryption);
+}
+
+void tst_networkmanagerprofiles::NetworkNameIsSentAsItsBytes()
+{
+    Fake().AddAccessPoint("Caf\xe9", 50);
+    QCOMPARE(LoadedWLAN::InRange(), QStringList("Caf\\xE9"));
+    QCOMPARE(LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("Caf\\xE9", "open", "none", "")),
+             0);
+    const NMVariantMapMap settings = Fake().SettingsOf(Fake().ProfilePaths().value(0));
+    QCOMPARE(settings[wifi].value("ssid").toByteArray(), QByteArray("Caf\xe9"));
+    QCOMPARE(settings["connection"].value("id").toString(), QString("Caf\\xE9"));
+    QCOMPARE(LoadedWLAN::ProfileNamed("Caf\\xE9").ssid, QString("Caf\\xE9"));
+}
+
+void tst_networkmanagerprofiles::ProfileOfThatNameIsReplacedAndKeepsTheRest()
+{
+    NMVariantMapMap settings = FakeNetworkManager::Settings("A");
+    settings["connection"]["autoconnect-priority"] = 12;
+    settings["connection"]["metered"] = 1;
+    settings[wifi]["ssid"] = QByteArray("before");
+    settings[wifi]["hidden"] = true;
+    settings[wifi]["security"] = security;
+    settings[security]["key-mgmt"] = "wpa-eap";
+    settings["802-1x"]["identity"] = "user";
+    settings["ipv4"]["method"] = "manual";
+    const QString path = Fake().AddProfile(settings);
+
+    QCOMPARE(LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("A", "open", "none", "")), 0);
+    QCOMPARE(Fake().ProfilePaths(), QStringList(path));
+    const NMVariantMapMap stored = Fake().SettingsOf(path);
+    QCOMPARE(stored["connection"], settings["connection"]);
+    QCOMPARE(stored["ipv4"], settings["ipv4"]);
+    QCOMPARE(Texts(stored[wifi]), QStringList() << "hidden=true"
+                                                << "mode=infrastructure"
+                                                << "ssid=A");
+    QVERIFY(!stored.contains(security));
+    QVERIFY(!stored.contains("802-1x"));
+}
+
+void tst_networkmanagerprofiles::ReadOnlyProfileIsNotReplaced()
+{
+    const NMVariantMapMap settings = FakeNetworkManager::Settings("A");
+    const QString path = Fake().AddProfile(settings);
+    Fake().SetProperty(path, profileInterface, "Unsaved", true);
+    QCOMPARE(
+        LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("A", "WPA2PSK", "CCMP", "12345678")),
+        int(NetworkManagerResultReadOnlyProfile));
+    QCOMPARE(Fake().ProfilePaths(), QStringList(path));
+    QCOMPARE(Fake().SettingsOf(path), settings);
+}
+
+void tst_networkmanagerprofiles::ProfileIsForEverybodyOrForItsMaker_data()
+{
+    QTest::addColumn<QString>("shared");
+    QTest::addColumn<QString>("own");
+    QTest::addColumn<QStringList>("permissions");
+    const QStringList mine("user:" + Myself() + ":");
+    QTest::newRow("may do all") << "yes"
+                                << "yes" << QStringList();
+    QTest::newRow("may do own") << "no"
+                                << "yes" << mine;
+    QTest::newRow("would have to give a password") << "auth"
+                                                   << "yes" << mine;
+    QTest::newRow("password for both") << "auth"
+                                       << "auth" << QStringList();
+}
+
+void tst_networkmanagerprofiles::ProfileIsForEverybodyOrForItsMaker()
+{
+    QFETCH(QString, shared);
+    QFETCH(QString, own);
+    Fake().SetRight(modifyShared, shared);
+    Fake().SetRight(modifyOwn, own);
+    QCOMPARE(LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("A", "open", "none", "")), 0);
+    QTEST(Fake().SettingsOf(Fake().ProfilePaths().value(0))["connection"].value("permissions").toStringList(),
+          "permissions");
+}
+
+void tst_networkmanagerprofiles::WhatCannotBeStoredIsRefusedBeforeItIsSent_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("ssid");
+    QTest::addColumn<QString>("authentication");
+    QTest::addColumn<QString>("encryption");
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("index");
+    QTest::addColumn<int>("result");
+
+    const QString zero = QString("a") + QChar(ushort(0)) + "b";
+    const QString half = QString("a") + QChar(ushort(0xd800));
+    const QString longest(32, 'x');
+    const int badName = NetworkManagerResultUnusableName;
+    const int badNetwork = NetworkManagerResultUnusableNetworkName;
+    const int badSecurity = NetworkManagerResultUnusableSecurity;
+    QTest::newRow("no name") << ""
+                             << "A"
+                             << "open"
+                             << "none"
+                             << ""
+                             << "0" << badName;
+    QTest::newRow("zero in the name") << zero << "A"
+                                      << "open"
+                                      << "none"
+                                      << ""
+                                      << "0" << badName;
+    QTest::newRow("half a character in the name") << half << "A"
+                                                  << "open"
+                                                  << "none"
+                                                  << ""
+                                                  << "0" << badName;
+    QTest::newRow("no network name") << "A"
+                                     << ""
+                                     << "open"
+                                     << "none"
+                                     << ""
+                                     << "0" << badNetwork;
+    QTest::newRow("longest network name") << "A" << longest << "open"
+                                          << "none"
+                                          << ""
+                                          << "0" << 0;
+    QTest::newRow("network name too long") << "A" << longest + "x"
+                                           << "open"
+                                           << "none"
+                                           << ""
+                                           << "0" << badNetwork;
+    QTest::newRow("too many bytes") << "A" << QString(17, QChar(ushort(0xe9))) << "open"
+                                    << "none"
+                                    << ""
+                                    << "0" << badNetwork;
+    QTest::newRow("unknown authentication") << "A"
+                                            << "A"
+                                            << "WPA3"
+                                            << "CCMP"
+                                            << "12345678"
+                                            << "0" << badSecurity;
+    QTest::newRow("unknown encryption") << "A"
+                                        << "A"
+                                        << "WPAPSK"
+                                        << "AES"
+                                        << "12345678"
+                                        << "0" << badSecurity;
+    QTest::newRow("shared without encryption") << "A"
+                                               << "A"
+                                               << "shared"
+                                               << "none"
+                                               << ""
+                                               << "0" << badSecurity;
+    QTest::newRow("open with CCMP") << "A"
+                                    << "A"
+                                    << "open"
+                                    << "CCMP"
+                                    << "12345678"
+                                    << "0" << badSecurity;
+    QTest::newRow("WPA with WEP") << "A"
+                                  << "A"
+                                  << "WPAPSK"
+                                  << "WEP"
+                                  << "12345678"
+                                  << "0" << badSecurity;
+    QTest::newRow("no index") << "A"
+                              << "A"
+                              << "open"
+                              << "WEP"
+                              << "12345"
+                              << "" << badSecurity;
+    QTest::newRow("index too large") << "A"
+                                     << "A"
+                                     << "open"
+                                     << "WEP"
+                                     << "12345"
+                                     << "4" << badSecurity;
+    QTest::newRow("negative index") << "A"
+                                    << "A"
+                                    << "open"
+                                    << "WEP"
+                                    << "12345"
+                                    << "-1" << badSecurity;
+    QTest::newRow("zero in the key") << "A"
+                                     << "A"
+                                     << "WPA2PSK"
+                                     << "CCMP" << zero + "12345678"
+                                     << "0" << badSecurity;
+}
+
+void tst_networkmanagerprofiles::WhatCannotBeStoredIsRefusedBeforeItIsSent()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, ssid);
+    QFETCH(QString, authentication);
+    QFETCH(QString, encryption);
+    QFETCH(QString, key);
+    QFETCH(QString, index);
+    QFETCH(int, result);
+    WLANProfile profile = LoadedWLAN::NewProfile(name, authentication, encryption, key);
+    profile.ssid = ssid;
+    profile.keyIndex = index;
+    TraceCapture trace;
+    QCOMPARE(LoadedWLAN::Wlan()->CreateWLANProfile(profile), result);
+    QCOMPARE(Fake().CallCount("AddConnection"), result == 0 ? 1 : 0);
+    QCOMPARE(trace.Lines().size(), result == 0 ? 0 : 1);
+}
+
+void tst_networkmanagerprofiles::KeyIsInNoLine()
+{
+    TraceCapture trace;
+    const char *const errors[] = {"org.freedesktop.NetworkManager.Settings.Connection.InvalidProperty",
+                                  "org.freedesktop.NetworkManager.Settings.PermissionDenied"};
+    for (const char *error : errors) {
+        Fake().AnswerWithError("AddConnection", error);
+        LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("A", "WPA2PSK", "CCMP", "open sesame"));
+        LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("A", "WPA3", "CCMP", "open sesame"));
+    }
+    QVERIFY(trace.Lines().size() >= 2);
+    QVERIFY(!trace.Lines().join("\n").contains("sesame"));
+    const QStringList files = QDir(Directory().Path()).entryList(QDir::Files | QDir::Hidden);
+    for (int i = 0; i < files.size(); ++i) {
+        QVERIFY(!Directory().Read(files.at(i)).contains("sesame"));
+    }
+}
+
+QTEST_GUILESS_MAIN(tst_networkmanagerprofiles)
+#include "tst_networkmanagerprofiles.moc"

@@ -1,0 +1,436 @@
+#include <FirstConnections.h>
+#include <PriorityPlan.h>
+#include <PriorityRecords.h>
+#include <TemporaryDirectory.h>
+
+#include <QFile>
+#include <QtTest>
+
+namespace
+{
+
+PriorityList Entry(const QString &name, const QString &type = QLatin1String("1"))
+{
+    PriorityList entry;
+    entry.name = name;
+    entry.type = type;
+    return entry;
+}
+
+QList<PriorityList> List(const QString &names)
+{
+    QList<PriorityList> list;
+    const QStringList all = names.isEmpty() ? QStringList() : names.split(' ');
+    for (int i = 0; i < all.size(); ++i) {
+        list.append(Entry(all.at(i)));
+    }
+    return list;
+}
+
+/** A Wi-Fi profile with a uuid and a path of its own, made from its name. */
+NetworkProfile Profile(const QString &name, int priority = 0)
+{
+    NetworkProfile profile;
+    profile.name = name;
+    profile.uuid = "uuid-of-" + name;
+    profile.path = "/" + name;
+    profile.kind = NetworkProfile::Wifi;
+    profile.priority = priority;
+    profile.isFreelyChangeable = true;
+    return profile;
+}
+
+typedef QMap<QString, PriorityRecord> Records;
+
+/** "name=priority" for every change. */
+QStringList Plan(const QList<PriorityList> &list, const QList<NetworkProfile> &profiles, Records *records)
+{
+    const QList<PriorityChange> changes = PriorityPlan::Make(list, profiles, records);
+    QStringList texts;
+    for (int i = 0; i < changes.size(); ++i) {
+        texts.append(QString("%1=%2").arg(changes.at(i).profile.name).arg(changes.at(i).priority));
+    }
+    return texts;
+}
+
+QStringList Names(const QList<NetworkProfile> &profiles)
+{
+    QStringList names;
+    for (int i = 0; i < profiles.size(); ++i) {
+        names.append(profiles.at(i).name);
+    }
+    return names;
+}
+
+} // namespace
+
+/** What is decided about priorities and about first connections, without anything being asked or written. */
+class tst_priorityplan : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void PriorityFallsWithThePlaceAndStaysInRange_data();
+    void PriorityFallsWithThePlaceAndStaysInRange();
+    void ListedProfilesGetTheirPlaces();
+    void OnlyWhatDiffersIsWritten();
+    void UnlistedProfilesAreLeftAlone();
+    void NameAndKindHaveToFit_data();
+    void NameAndKindHaveToFit();
+    void RepeatedEntryHasItsFirstPlace();
+    void ProfilesOfOneNameHaveOnePlace();
+    void UnchangeableProfilesAreLeftAlone();
+    void ProfileThatLeavesGetsItsFormerPriority();
+    void FormerPriorityIsThatBeforeTheFirstWrite();
+    void ForeignValueIsNotSetBack();
+    void ForeignValueInTheListIsOverwrittenAndRemembered();
+    void SetBackIsTriedAgainUntilItIsDone();
+    void InterruptedWriteIsStillOwn();
+    void RecordGoesWithTheSetBack();
+
+    void RecordsSurviveTheProgram();
+    void RecordsAreOnlyWrittenWhenTheyChange();
+    void DamagedRecordsAreLeftOut();
+    void RecordsThatCannotBeWrittenAreTold();
+
+    void WhatWasConnectedBeforeTheRecordsIsOld();
+    void FirstConnectionIsFound();
+    void ConnectionIsFoundOnce();
+    void ConnectionsAreFoundInTheirOrder();
+    void ListedConnectionIsNotFound();
+    void WhatIsNotForTheListIsNotFound_data();
+    void WhatIsNotForTheListIsNotFound();
+};
+
+void tst_priorityplan::PriorityFallsWithThePlaceAndStaysInRange_data()
+{
+    QTest::addColumn<int>("place");
+    QTest::addColumn<int>("priority");
+
+    QTest::newRow("first") << 0 << 999;
+    QTest::newRow("second") << 1 << 998;
+    QTest::newRow("like unlisted profiles") << 999 << 0;
+    QTest::newRow("last of the range") << 1998 << -999;
+    QTest::newRow("beyond") << 1999 << -999;
+    QTest::newRow("far beyond") << 100000 << -999;
+}
+
+void tst_priorityplan::PriorityFallsWithThePlaceAndStaysInRange()
+{
+    QFETCH(int, place);
+    QTEST(PriorityPlan::PriorityAt(place), "priority");
+}
+
+void tst_priorityplan::ListedProfilesGetTheirPlaces()
+{
+    Records records;
+    QCOMPARE(Plan(List("B A"), QList<NetworkProfile>() << Profile("A") << Profile("B"), &records),
+             QStringList() << "A=998"
+                           << "B=999");
+}
+
+void tst_priorityplan::OnlyWhatDiffersIsWritten()
+{
+    Records records;
+    QCOMPARE(Plan(List("A B C"),
+                  QList<NetworkProfile>() << Profile("A", 999) << Profile("B", 5) << Profile("C", 997),
+                  &records),
+             QStringList("B=998"));
+    QCOMPARE(records.keys(), QList<QString>() << "uuid-of-B");
+}
+
+void tst_priorityplan::UnlistedProfilesAreLeftAlone()
+{
+    Records records;
+    QCOMPARE(Plan(List("A"),
+                  QList<NetworkProfile>() << Profile("A", 999) << Profile("B", 7) << Profile("C", -5),
+                  &records),
+             QStringList());
+    QVERIFY(records.isEmpty());
+}
+
+void tst_priorityplan::NameAndKindHaveToFit_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<bool>("fits");
+
+    QTest::newRow("Wi-Fi") << "A"
+                           << "1" << int(NetworkProfile::Wifi) << true;
+    QTest::newRow("mobile broadband") << "A"
+                                      << "2" << int(NetworkProfile::MobileBroadband) << true;
+    QTest::newRow("mobile broadband of another number")
+        << "A"
+        << "0" << int(NetworkProfile::MobileBroadband) << true;
+    QTest::newRow("mobile broadband without type") << "A"
+                                                   << "" << int(NetworkProfile::MobileBroadband) << true;
+    QTest::newRow("Wi-Fi entry, mobile profile") << "A"
+                                                 << "1" << int(NetworkProfile::MobileBroadband) << false;
+    QTest::newRow("mobile entry, Wi-Fi profile") << "A"
+                                                 << "2" << int(NetworkProfile::Wifi) << false;
+    QTest::newRow("wired profile") << "A"
+                                   << "2" << int(NetworkProfile::OtherKind) << false;
+    QTest::newRow("other case") << "a"
+                                << "1" << int(NetworkProfile::Wifi) << false;
+    QTest::newRow("blank behind") << "A "
+                                  << "1" << int(NetworkProfile::Wifi) << false;
+}
+
+void tst_priorityplan::NameAndKindHaveToFit()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, type);
+    QFETCH(int, kind);
+    QFETCH(bool, fits);
+    NetworkProfile profile = Profile("A");
+    profile.kind = static_cast<NetworkProfile::Kind>(kind);
+    Records records;
+    QCOMPARE(Plan(QList<PriorityList>() << Entry(name, type), QList<NetworkProfile>() << profile, &records),
+             fits ? QStringList("A=999") : QStringList());
+}
+
+void tst_priorityplan::RepeatedEntryHasItsFirstPlace()
+{
+    Records records;
+    QCOMPARE(Plan(List("A B A C"), QList<NetworkProfile>() << Profile("A") << Profile("B") << Profile("C"),
+                  &records),
+             QStringList() << "A=999"
+                           << "B=998"
+                           << "C=997");
+}
+
+void tst_priorityplan::ProfilesOfOneNameHaveOnePlace()
+{
+    NetworkProfile twin = Profile("A");
+    twin.uuid = "another";
+    Records records;
+    QCOMPARE(Plan(List("B A"), QList<NetworkProfile>() << Profile("A") << twin, &records), QStringList()
+                                                                                               << "A=998"
+                                                                                               << "A=998");
+}
+
+void tst_priorityplan::UnchangeableProfilesAreLeftAlone()
+{
+    NetworkProfile profile = Profile("A");
+    profile.isFreelyChangeable = false;
+    Records records;
+    QCOMPARE(Plan(List("A"), QList<NetworkProfile>() << profile, &records), QStringList());
+    QVERIFY(records.isEmpty());
+}
+
+void tst_priorityplan::ProfileThatLeavesGetsItsFormerPriority()
+{
+    Records records;
+    Plan(List("A"), QList<NetworkProfile>() << Profile("A", 12), &records);
+    QCOMPARE(Plan(List(""), QList<NetworkProfile>() << Profile("A", 999), &records), QStringList("A=12"));
+}
+
+void tst_priorityplan::FormerPriorityIsThatBeforeTheFirstWrite()
+{
+    Records records;
+    Plan(List("A B"), QList<NetworkProfile>() << Profile("A", 12), &records);
+    Plan(List("B A"), QList<NetworkProfile>() << Profile("A", 999), &records);
+    Plan(List("B C A"), QList<NetworkProfile>() << Profile("A", 998), &records);
+    QCOMPARE(Plan(List("B C"), QList<NetworkProfile>() << Profile("A", 997), &records), QStringList("A=12"));
+}
+
+void tst_priorityplan::ForeignValueIsNotSetBack()
+{
+    Records records;
+    Plan(List("A"), QList<NetworkProfile>() << Profile("A", 12), &records);
+    QCOMPARE(Plan(List(""), QList<NetworkProfile>() << Profile("A", 50), &records), QStringList());
+    QVERIFY(records.isEmpty());
+}
+
+void tst_priorityplan::ForeignValueInTheListIsOverwrittenAndRemembered()
+{
+    Records records;
+    Plan(List("A"), QList<NetworkProfile>() << Profile("A", 12), &records);
+    QCOMPARE(Plan(List("A"), QList<NetworkProfile>() << Profile("A", 50), &records), QStringList("A=999"));
+    QCOMPARE(Plan(List(""), QList<NetworkProfile>() << Profile("A", 999), &records), QStringList("A=50"));
+}
+
+void tst_priorityplan::SetBackIsTriedAgainUntilItIsDone()
+{
+    Records records;
+    Plan(List("A"), QList<NetworkProfile>() << Profile("A", 12), &records);
+    Plan(List(""), QList<NetworkProfile>() << Profile("A", 999), &records);
+    QCOMPARE(Plan(List(""), QList<NetworkProfile>() << Profile("A", 999), &records), QStringList("A=12"));
+}
+
+void tst_priorityplan::InterruptedWriteIsStillOwn()
+{
+    Records records;
+    Plan(List("A"), QList<NetworkProfile>() << Profile("A", 12), &records);
+    // Recorded, and never written: the profile still has what was written before.
+    Plan(List("B A"), QList<NetworkProfile>() << Profile("A", 999), &records);
+    QCOMPARE(Plan(List(""), QList<NetworkProfile>() << Profile("A", 999), &records), QStringList("A=12"));
+}
+
+void tst_priorityplan::RecordGoesWithTheSetBack()
+{
+    Records records;
+    Plan(List("A"), QList<NetworkProfile>() << Profile("A", 12), &records);
+    Plan(List(""), QList<NetworkProfile>() << Profile("A", 999), &records);
+    QCOMPARE(Plan(List(""), QList<NetworkProfile>() << Profile("A", 12), &records), QStringList());
+    QVERIFY(records.isEmpty());
+}
+
+void tst_priorityplan::RecordsSurviveTheProgram()
+{
+    const TemporaryDirectory directory;
+    {
+        CPriorityRecords records(directory.FilePath("records.ini"));
+        QVERIFY(!records.isConnectedKnown);
+        records.priorities["first"].before = -3;
+        records.priorities["first"].written = 999;
+        records.priorities["first"].intended = 998;
+        records.isConnectedKnown = true;
+        records.connected << "one"
+                          << "two, with a comma";
+        QVERIFY(records.Save());
+    }
+    const CPriorityRecords records(directory.FilePath("records.ini"));
+    QCOMPARE(records.priorities.size(), 1);
+    QCOMPARE(records.priorities.value("first").before, -3);
+    QCOMPARE(records.priorities.value("first").written, 999);
+    QCOMPARE(records.priorities.value("first").intended, 998);
+    QVERIFY(records.isConnectedKnown);
+    QCOMPARE(records.connected, QSet<QString>() << "one"
+                                                << "two, with a comma");
+}
+
+void tst_priorityplan::RecordsAreOnlyWrittenWhenTheyChange()
+{
+    const TemporaryDirectory directory;
+    CPriorityRecords records(directory.FilePath("records.ini"));
+    QVERIFY(records.Save());
+    QVERIFY(directory.Read("records.ini").isNull());
+    records.isConnectedKnown = true;
+    QVERIFY(records.Save());
+    QVERIFY(QFile::remove(directory.FilePath("records.ini")));
+    QVERIFY(records.Save());
+    QVERIFY(directory.Read("records.ini").isNull());
+}
+
+void tst_priorityplan::DamagedRecordsAreLeftOut()
+{
+    const TemporaryDirectory directory;
+    directory.Write("records.ini",
+                    "[priorities]\na=1 2 3\nb=1 2\nc=x y z\nd=\ne=1 2 3 4\nf=99999999999 1 1\n");
+    const CPriorityRecords records(directory.FilePath("records.ini"));
+    QCOMPARE(records.priorities.keys(), QList<QString>() << "a");
+}
+
+void tst_priorityplan::RecordsThatCannotBeWrittenAreTold()
+{
+    const TemporaryDirectory directory;
+    CPriorityRecords records(directory.FilePath("absent/because/this is a file/records.ini"));
+    directory.Write("absent", "a file");
+    records.isConnectedKnown = true;
+    QVERIFY(!records.Save());
+}
+
+void tst_priorityplan::WhatWasConnectedBeforeTheRecordsIsOld()
+{
+    CPriorityRecords records((QString()));
+    NetworkProfile old = Profile("A");
+    old.lastConnected = 100;
+    const QList<NetworkProfile> profiles = QList<NetworkProfile>() << old << Profile("B") << Profile("C");
+    QCOMPARE(Names(FirstConnections::Find(profiles, QList<QString>() << "/B", List(""), &records)),
+             QStringList());
+    QCOMPARE(records.connected, QSet<QString>() << "uuid-of-A"
+                                                << "uuid-of-B");
+    QVERIFY(records.isConnectedKnown);
+}
+
+void tst_priorityplan::FirstConnectionIsFound()
+{
+    CPriorityRecords records((QString()));
+    records.isConnectedKnown = true;
+    NetworkProfile passed = Profile("A");
+    passed.lastConnected = 100;
+    QCOMPARE(Names(FirstConnections::Find(QList<NetworkProfile>() << passed << Profile("B") << Profile("C"),
+                                          QList<QString>() << "/C", List("X"), &records)),
+             QStringList() << "A"
+                           << "C");
+}
+
+void tst_priorityplan::ConnectionIsFoundOnce()
+{
+    CPriorityRecords records((QString()));
+    records.isConnectedKnown = true;
+    records.connected.insert("uuid-of-A");
+    QCOMPARE(Names(FirstConnections::Find(QList<NetworkProfile>() << Profile("A"), QList<QString>() << "/A",
+                                          List(""), &records)),
+             QStringList());
+}
+
+void tst_priorityplan::ConnectionsAreFoundInTheirOrder()
+{
+    CPriorityRecords records((QString()));
+    records.isConnectedKnown = true;
+    NetworkProfile late = Profile("A");
+    late.lastConnected = 300;
+    NetworkProfile early = Profile("B");
+    early.lastConnected = 200;
+    const NetworkProfile now = Profile("C");
+    QCOMPARE(Names(FirstConnections::Find(QList<NetworkProfile>() << late << now << early,
+                                          QList<QString>() << "/C", List(""), &records)),
+             QStringList() << "B"
+                           << "A"
+                           << "C");
+}
+
+void tst_priorityplan::ListedConnectionIsNotFound()
+{
+    CPriorityRecords records((QString()));
+    records.isConnectedKnown = true;
+    const QList<NetworkProfile> profiles = QList<NetworkProfile>() << Profile("A");
+    QCOMPARE(Names(FirstConnections::Find(profiles, QList<QString>() << "/A", List("X A"), &records)),
+             QStringList());
+    // Nor is it later, when the user has taken it out of the list.
+    QCOMPARE(Names(FirstConnections::Find(profiles, QList<QString>() << "/A", List("X"), &records)),
+             QStringList());
+}
+
+void tst_priorityplan::WhatIsNotForTheListIsNotFound_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<bool>("isHotspot");
+    QTest::addColumn<bool>("isPassing");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("isFound");
+
+    QTest::newRow("Wi-Fi") << int(NetworkProfile::Wifi) << false << false << "A" << true;
+    QTest::newRow("mobile broadband")
+        << int(NetworkProfile::MobileBroadband) << false << false << "A" << true;
+    QTest::newRow("wired") << int(NetworkProfile::OtherKind) << false << false << "A" << false;
+    QTest::newRow("hotspot") << int(NetworkProfile::Wifi) << true << false << "A" << false;
+    QTest::newRow("passing") << int(NetworkProfile::Wifi) << false << true << "A" << false;
+    QTest::newRow("without name") << int(NetworkProfile::Wifi) << false << false << "" << false;
+}
+
+void tst_priorityplan::WhatIsNotForTheListIsNotFound()
+{
+    QFETCH(int, kind);
+    QFETCH(bool, isHotspot);
+    QFETCH(bool, isPassing);
+    QFETCH(QString, name);
+    QFETCH(bool, isFound);
+    NetworkProfile profile = Profile("A");
+    profile.name = name;
+    profile.kind = static_cast<NetworkProfile::Kind>(kind);
+    profile.isHotspot = isHotspot;
+    profile.isPassing = isPassing;
+    CPriorityRecords records((QString()));
+    records.isConnectedKnown = true;
+    QCOMPARE(FirstConnections::Find(QList<NetworkProfile>() << profile, QList<QString>() << "/A", List(""),
+                                    &records)
+                 .size(),
+             isFound ? 1 : 0);
+}
+
+QTEST_APPLESS_MAIN(tst_priorityplan)
+#include "tst_priorityplan.moc"
