@@ -113,6 +113,13 @@ QByteArray NetworkManagerDaemon::Keyfile(const QString &name) const
     return files.size() == 1 && file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+void NetworkManagerDaemon::WriteKeyfile(const QString &name, const QByteArray &content) const
+{
+    const QString path = m_bus->Path("profiles/" + name + ".nmconnection");
+    Write(path, content);
+    QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
+}
+
 void NetworkManagerDaemon::RemoveProfiles() const
 {
     const QStringList files = Keyfiles();
