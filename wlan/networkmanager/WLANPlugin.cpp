@@ -24,7 +24,7 @@ CWLANPlugin::CWLANPlugin()
 
 CWLANPlugin::~CWLANPlugin()
 {
-    OnDestroy();
+    CWLANPlugin::OnDestroy();
 }
 
 void CWLANPlugin::Release() {}
