@@ -241,8 +241,12 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
         <translation>Netzwerkpriorität</translation>
     </message>
     <message>
-        <source>IDS_PLUGIN_WLAN</source>
-        <translation>WLAN</translation>
+        <source>IDS_PLUGIN_WLAN_NETWORKMANAGER</source>
+        <translation>WLAN (NetworkManager)</translation>
+    </message>
+    <message>
+        <source>IDS_PLUGIN_WLAN_STORED</source>
+        <translation>WLAN (Netzwerke in einer Datei)</translation>
     </message>
     <message>
         <source>IDS_GENERAL_TITLE</source>
@@ -263,6 +267,10 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
     <message>
         <source>IDS_GENERAL_PLUGIN_MISSING</source>
         <translation>nicht verfügbar</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_PLUGIN_NOT_NEEDED</source>
+        <translation>nicht nötig</translation>
     </message>
     <message>
         <source>IDS_GENERAL_PLACES</source>
@@ -431,6 +439,23 @@ Erwartet: %3</translation>
     <message>
         <source>IDS_LANGUAGE_NO_TEXTS</source>
         <translation>Die Sprachdatei %1 enthält keine brauchbaren Texte und wird daher nicht verwendet.</translation>
+    </message>
+    <message>
+        <source>IDS_HINT_NETWORKMANAGER</source>
+        <translation>Läuft NetworkManager?</translation>
+    </message>
+    <message>
+        <source>IDS_NOTE_NETWORKMANAGER</source>
+        <extracomment>At the foot of the main window; two lines of 450 pixels at most</extracomment>
+        <translation>Die Netzwerke dieses Computers, von NetworkManager, der die Reihenfolge dieser Liste befolgt.</translation>
+    </message>
+    <message>
+        <source>IDS_NOTE_STORED</source>
+        <translation>Eigene Netzwerke dieses Programms; die des Computers bleiben unberührt.</translation>
+    </message>
+    <message>
+        <source>IDS_NOTE_STORED_STANDS_IN</source>
+        <translation>Es gibt keinen NetworkManager. Dies sind eigene Netzwerke dieses Programms; die des Computers bleiben unberührt.</translation>
     </message>
 </context>
 </TS>

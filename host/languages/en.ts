@@ -473,15 +473,15 @@ Expected: %3</translation>
     <message>
         <source>IDS_NOTE_NETWORKMANAGER</source>
         <extracomment>At the foot of the main window; two lines of 450 pixels at most</extracomment>
-        <translation>This computer's networks, from NetworkManager, which follows the order of this list.</translation>
+        <translation>This computer’s networks, from NetworkManager, which follows the order of this list.</translation>
     </message>
     <message>
         <source>IDS_NOTE_STORED</source>
-        <translation>Networks of the dashboard's own; this computer's are left alone.</translation>
+        <translation>Networks of the dashboard’s own; this computer’s are left alone.</translation>
     </message>
     <message>
         <source>IDS_NOTE_STORED_STANDS_IN</source>
-        <translation>There is no NetworkManager to work with. These are networks of the dashboard's own; this computer's are left alone.</translation>
+        <translation>There is no NetworkManager to work with. These are networks of the dashboard’s own; this computer’s are left alone.</translation>
     </message>
 </context>
 </TS>

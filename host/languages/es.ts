@@ -241,8 +241,12 @@ Se permiten letras, números y estos signos:
         <translation>Prioridad de redes</translation>
     </message>
     <message>
-        <source>IDS_PLUGIN_WLAN</source>
-        <translation>Wi-Fi</translation>
+        <source>IDS_PLUGIN_WLAN_NETWORKMANAGER</source>
+        <translation>Wi-Fi (NetworkManager)</translation>
+    </message>
+    <message>
+        <source>IDS_PLUGIN_WLAN_STORED</source>
+        <translation>Wi-Fi (redes en un archivo)</translation>
     </message>
     <message>
         <source>IDS_GENERAL_TITLE</source>
@@ -263,6 +267,10 @@ Se permiten letras, números y estos signos:
     <message>
         <source>IDS_GENERAL_PLUGIN_MISSING</source>
         <translation>no disponible</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_PLUGIN_NOT_NEEDED</source>
+        <translation>no hace falta</translation>
     </message>
     <message>
         <source>IDS_GENERAL_PLACES</source>
@@ -431,6 +439,23 @@ Esperado: %3</translation>
     <message>
         <source>IDS_LANGUAGE_NO_TEXTS</source>
         <translation>El archivo de idioma %1 no contiene textos utilizables, así que no se usa.</translation>
+    </message>
+    <message>
+        <source>IDS_HINT_NETWORKMANAGER</source>
+        <translation>¿Está en marcha NetworkManager?</translation>
+    </message>
+    <message>
+        <source>IDS_NOTE_NETWORKMANAGER</source>
+        <extracomment>At the foot of the main window; two lines of 450 pixels at most</extracomment>
+        <translation>Redes de este equipo, de NetworkManager, que sigue el orden de esta lista.</translation>
+    </message>
+    <message>
+        <source>IDS_NOTE_STORED</source>
+        <translation>Redes propias de este programa; las del equipo no se tocan.</translation>
+    </message>
+    <message>
+        <source>IDS_NOTE_STORED_STANDS_IN</source>
+        <translation>No hay ningún NetworkManager disponible. Estas redes son propias de este programa; las del equipo no se tocan.</translation>
     </message>
 </context>
 </TS>

@@ -241,8 +241,12 @@ Sont autorisés les lettres, les chiffres et les signes suivants&#xa0;:
         <translation>Priorité des réseaux</translation>
     </message>
     <message>
-        <source>IDS_PLUGIN_WLAN</source>
-        <translation>Wi-Fi</translation>
+        <source>IDS_PLUGIN_WLAN_NETWORKMANAGER</source>
+        <translation>Wi-Fi (NetworkManager)</translation>
+    </message>
+    <message>
+        <source>IDS_PLUGIN_WLAN_STORED</source>
+        <translation>Wi-Fi (réseaux dans un fichier)</translation>
     </message>
     <message>
         <source>IDS_GENERAL_TITLE</source>
@@ -263,6 +267,10 @@ Sont autorisés les lettres, les chiffres et les signes suivants&#xa0;:
     <message>
         <source>IDS_GENERAL_PLUGIN_MISSING</source>
         <translation>non disponible</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_PLUGIN_NOT_NEEDED</source>
+        <translation>pas nécessaire</translation>
     </message>
     <message>
         <source>IDS_GENERAL_PLACES</source>
@@ -431,6 +439,23 @@ Attendu&#xa0;: %3</translation>
     <message>
         <source>IDS_LANGUAGE_NO_TEXTS</source>
         <translation>Le fichier de langue %1 ne contient aucun texte utilisable&#x202f;; il n’est donc pas utilisé.</translation>
+    </message>
+    <message>
+        <source>IDS_HINT_NETWORKMANAGER</source>
+        <translation>NetworkManager est-il en marche&#x202f;?</translation>
+    </message>
+    <message>
+        <source>IDS_NOTE_NETWORKMANAGER</source>
+        <extracomment>At the foot of the main window; two lines of 450 pixels at most</extracomment>
+        <translation>Réseaux de cet ordinateur, gérés par NetworkManager, qui suit l’ordre de cette liste.</translation>
+    </message>
+    <message>
+        <source>IDS_NOTE_STORED</source>
+        <translation>Réseaux propres à ce programme&#x202f;; ceux de l’ordinateur ne sont pas modifiés.</translation>
+    </message>
+    <message>
+        <source>IDS_NOTE_STORED_STANDS_IN</source>
+        <translation>NetworkManager n’est pas disponible. Ces réseaux sont propres à ce programme&#x202f;; ceux de l’ordinateur ne sont pas modifiés.</translation>
     </message>
 </context>
 </TS>

@@ -241,8 +241,12 @@
         <translation>ネットワークの優先順位</translation>
     </message>
     <message>
-        <source>IDS_PLUGIN_WLAN</source>
-        <translation>Wi-Fi</translation>
+        <source>IDS_PLUGIN_WLAN_NETWORKMANAGER</source>
+        <translation>Wi-Fi (NetworkManager)</translation>
+    </message>
+    <message>
+        <source>IDS_PLUGIN_WLAN_STORED</source>
+        <translation>Wi-Fi (ファイル内のネットワーク)</translation>
     </message>
     <message>
         <source>IDS_GENERAL_TITLE</source>
@@ -263,6 +267,10 @@
     <message>
         <source>IDS_GENERAL_PLUGIN_MISSING</source>
         <translation>利用不可</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_PLUGIN_NOT_NEEDED</source>
+        <translation>不要</translation>
     </message>
     <message>
         <source>IDS_GENERAL_PLACES</source>
@@ -431,6 +439,23 @@
     <message>
         <source>IDS_LANGUAGE_NO_TEXTS</source>
         <translation>言語ファイル %1 には使用できるテキストがないため、使用されません。</translation>
+    </message>
+    <message>
+        <source>IDS_HINT_NETWORKMANAGER</source>
+        <translation>NetworkManager は動作していますか？</translation>
+    </message>
+    <message>
+        <source>IDS_NOTE_NETWORKMANAGER</source>
+        <extracomment>At the foot of the main window; two lines of 450 pixels at most</extracomment>
+        <translation>このコンピューターのネットワークです。NetworkManager がこのリストの順序に従います。</translation>
+    </message>
+    <message>
+        <source>IDS_NOTE_STORED</source>
+        <translation>このプログラム独自のネットワークです。コンピューターのネットワークは変更されません。</translation>
+    </message>
+    <message>
+        <source>IDS_NOTE_STORED_STANDS_IN</source>
+        <translation>NetworkManager を利用できません。これはこのプログラム独自のネットワークで、コンピューターのネットワークは変更されません。</translation>
     </message>
 </context>
 </TS>

@@ -241,8 +241,12 @@ São permitidos letras, números e estes sinais:
         <translation>Prioridade das redes</translation>
     </message>
     <message>
-        <source>IDS_PLUGIN_WLAN</source>
-        <translation>Wi-Fi</translation>
+        <source>IDS_PLUGIN_WLAN_NETWORKMANAGER</source>
+        <translation>Wi-Fi (NetworkManager)</translation>
+    </message>
+    <message>
+        <source>IDS_PLUGIN_WLAN_STORED</source>
+        <translation>Wi-Fi (redes em um arquivo)</translation>
     </message>
     <message>
         <source>IDS_GENERAL_TITLE</source>
@@ -263,6 +267,10 @@ São permitidos letras, números e estes sinais:
     <message>
         <source>IDS_GENERAL_PLUGIN_MISSING</source>
         <translation>não disponível</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_PLUGIN_NOT_NEEDED</source>
+        <translation>não é necessário</translation>
     </message>
     <message>
         <source>IDS_GENERAL_PLACES</source>
@@ -431,6 +439,23 @@ Esperado: %3</translation>
     <message>
         <source>IDS_LANGUAGE_NO_TEXTS</source>
         <translation>O arquivo de idioma %1 não contém textos utilizáveis, portanto não é usado.</translation>
+    </message>
+    <message>
+        <source>IDS_HINT_NETWORKMANAGER</source>
+        <translation>O NetworkManager está em execução?</translation>
+    </message>
+    <message>
+        <source>IDS_NOTE_NETWORKMANAGER</source>
+        <extracomment>At the foot of the main window; two lines of 450 pixels at most</extracomment>
+        <translation>Redes deste computador, do NetworkManager, que segue a ordem desta lista.</translation>
+    </message>
+    <message>
+        <source>IDS_NOTE_STORED</source>
+        <translation>Redes próprias deste programa; as do computador não são alteradas.</translation>
+    </message>
+    <message>
+        <source>IDS_NOTE_STORED_STANDS_IN</source>
+        <translation>Não há NetworkManager disponível. Estas redes são próprias deste programa; as do computador não são alteradas.</translation>
     </message>
 </context>
 </TS>

@@ -241,8 +241,12 @@
         <translation>Приоритет сетей</translation>
     </message>
     <message>
-        <source>IDS_PLUGIN_WLAN</source>
-        <translation>Wi-Fi</translation>
+        <source>IDS_PLUGIN_WLAN_NETWORKMANAGER</source>
+        <translation>Wi-Fi (NetworkManager)</translation>
+    </message>
+    <message>
+        <source>IDS_PLUGIN_WLAN_STORED</source>
+        <translation>Wi-Fi (сети в файле)</translation>
     </message>
     <message>
         <source>IDS_GENERAL_TITLE</source>
@@ -263,6 +267,10 @@
     <message>
         <source>IDS_GENERAL_PLUGIN_MISSING</source>
         <translation>недоступен</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_PLUGIN_NOT_NEEDED</source>
+        <translation>не нужен</translation>
     </message>
     <message>
         <source>IDS_GENERAL_PLACES</source>
@@ -431,6 +439,23 @@
     <message>
         <source>IDS_LANGUAGE_NO_TEXTS</source>
         <translation>В языковом файле %1 нет пригодных текстов, поэтому он не используется.</translation>
+    </message>
+    <message>
+        <source>IDS_HINT_NETWORKMANAGER</source>
+        <translation>Запущен ли NetworkManager?</translation>
+    </message>
+    <message>
+        <source>IDS_NOTE_NETWORKMANAGER</source>
+        <extracomment>At the foot of the main window; two lines of 450 pixels at most</extracomment>
+        <translation>Сети этого компьютера из NetworkManager, который следует порядку этого списка.</translation>
+    </message>
+    <message>
+        <source>IDS_NOTE_STORED</source>
+        <translation>Собственные сети программы; сети компьютера не изменяются.</translation>
+    </message>
+    <message>
+        <source>IDS_NOTE_STORED_STANDS_IN</source>
+        <translation>NetworkManager недоступен. Это собственные сети программы; сети компьютера не изменяются.</translation>
     </message>
 </context>
 </TS>

@@ -241,8 +241,12 @@
         <translation>网络优先级</translation>
     </message>
     <message>
-        <source>IDS_PLUGIN_WLAN</source>
-        <translation>Wi-Fi</translation>
+        <source>IDS_PLUGIN_WLAN_NETWORKMANAGER</source>
+        <translation>Wi-Fi（NetworkManager）</translation>
+    </message>
+    <message>
+        <source>IDS_PLUGIN_WLAN_STORED</source>
+        <translation>Wi-Fi（文件中的网络）</translation>
     </message>
     <message>
         <source>IDS_GENERAL_TITLE</source>
@@ -263,6 +267,10 @@
     <message>
         <source>IDS_GENERAL_PLUGIN_MISSING</source>
         <translation>不可用</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_PLUGIN_NOT_NEEDED</source>
+        <translation>不需要</translation>
     </message>
     <message>
         <source>IDS_GENERAL_PLACES</source>
@@ -431,6 +439,23 @@
     <message>
         <source>IDS_LANGUAGE_NO_TEXTS</source>
         <translation>语言文件 %1 中没有可用的文本，因此未被使用。</translation>
+    </message>
+    <message>
+        <source>IDS_HINT_NETWORKMANAGER</source>
+        <translation>NetworkManager 是否正在运行？</translation>
+    </message>
+    <message>
+        <source>IDS_NOTE_NETWORKMANAGER</source>
+        <extracomment>At the foot of the main window; two lines of 450 pixels at most</extracomment>
+        <translation>此计算机的网络，来自 NetworkManager，它遵循此列表的顺序。</translation>
+    </message>
+    <message>
+        <source>IDS_NOTE_STORED</source>
+        <translation>本程序自己的网络；计算机的网络保持不变。</translation>
+    </message>
+    <message>
+        <source>IDS_NOTE_STORED_STANDS_IN</source>
+        <translation>没有可用的 NetworkManager。这些是本程序自己的网络；计算机的网络保持不变。</translation>
     </message>
 </context>
 </TS>

@@ -144,16 +144,17 @@ void MainWindowProblemsTest::SourceOfTheNetworksIsTold_data()
     QTest::addColumn<QStringList>("folders");
     QTest::addColumn<QString>("told");
     QTest::newRow("networkmanager") << int(WlanNetworkManager) << QStringList("Working")
-                                    << "This computer's networks, from NetworkManager";
+                                    << QString::fromUtf8("This computer’s networks, from NetworkManager");
     QTest::newRow("auto") << int(WlanAutomatic)
                           << (QStringList() << "Working"
                                             << "Absent")
-                          << "This computer's networks, from NetworkManager";
+                          << QString::fromUtf8("This computer’s networks, from NetworkManager");
     QTest::newRow("auto without it") << int(WlanAutomatic)
                                      << (QStringList() << "InitFails"
                                                        << "Working")
                                      << "There is no NetworkManager to work with";
-    QTest::newRow("stored") << int(WlanStored) << QStringList("Working") << "Networks of the dashboard's own";
+    QTest::newRow("stored") << int(WlanStored) << QStringList("Working")
+                            << QString::fromUtf8("Networks of the dashboard’s own");
     QTest::newRow("none") << int(WlanStored) << QStringList("Absent") << "";
 }
 

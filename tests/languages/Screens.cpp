@@ -32,13 +32,13 @@ const char *const longName = "Guests of the seminar hotel at the old harbour, se
 const char *const userDirectory = "priority-dashboard";
 
 /** Names of the sample networks, and what stands in the new-network dialog's boxes. */
-const char *const values[] = {longName,      "Home",    "Office",      "Café",
-                              "شبكة المنزل", "Company", "Old printer", "Mobile broadband",
-                              "Neighbour",   "Library", "Workshop",    "Campus",
-                              "WPA2PSK",     "WPAPSK",  "WPA2(EAP)",   "WPA(EAP)",
-                              "IEEE 802.1X", "open",    "shared",      "none",
-                              "WEP",         "CCMP",    "TKIP",        "AUTO",
-                              "SIM",         "AKA"};
+const char *const values[] = {longName,      "Home",    "Office",        "Café",
+                              "شبكة المنزل", "Company", "Old printer",   "Mobile broadband",
+                              "Neighbour",   "Library", "Workshop",      "Campus",
+                              "WPA2PSK",     "WPAPSK",  "WPA2(EAP)",     "WPA(EAP)",
+                              "IEEE 802.1X", "open",    "shared",        "none",
+                              "WEP",         "CCMP",    "TKIP",          "AUTO",
+                              "SIM",         "AKA",     "NetworkManager"};
 
 QString LanguageDirectory()
 {
@@ -47,7 +47,7 @@ QString LanguageDirectory()
 
 QList<KnownPlugin> KnownAs(const QString &priorityFolder, const QString &wlanFolder)
 {
-    QList<KnownPlugin> known = PluginHost::KnownPlugins();
+    QList<KnownPlugin> known = PluginHost::KnownPlugins(WlanStored);
     known[0].folder = priorityFolder;
     known[1].folder = wlanFolder;
     return known;
@@ -60,6 +60,16 @@ void UseDesktopFont()
     QFont font(QLatin1String("DejaVu Sans"));
     font.setPointSize(10);
     QApplication::setFont(font);
+}
+
+/** @param folders  of the plug-in over NetworkManager and of its stand-in */
+QList<KnownPlugin> KnownAutomatic(const char *folders)
+{
+    const QStringList names = QString::fromLatin1(folders).split(QLatin1Char(' '));
+    QList<KnownPlugin> known = PluginHost::KnownPlugins(WlanAutomatic);
+    known[1].folder = names.at(0);
+    known[2].folder = names.at(1);
+    return known;
 }
 
 QByteArray StartOfALibrary()
@@ -121,6 +131,10 @@ const Screens::Screen Screens::screens[] = {
     {"settings, page not handed out", &Screens::ShowBrokenSettings, "QueryNull"},
     {"settings, general page of missing plug-ins", &Screens::ShowBrokenGeneralPage, "Absent"},
     {"settings, general page", &Screens::ShowGeneralPage, nullptr},
+    {"list, NetworkManager", &Screens::ShowAutomaticWlan, "Working Absent"},
+    {"list, stand-in for NetworkManager", &Screens::ShowAutomaticWlan, "InitFails Working"},
+    {"list, NetworkManager not running", &Screens::ShowAutomaticWlan, "InitFails Absent"},
+    {"settings, general page with NetworkManager", &Screens::ShowAutomaticWlanSettings, "Working Absent"},
     {"settings, priority page", &Screens::ShowPriorityPage, nullptr},
     {"add dialog", &Screens::ShowAddDialog, nullptr},
     {"new dialog, open", &Screens::ShowNewDialog, "open"},
@@ -155,7 +169,7 @@ Screens::Screens() : m_visitor(nullptr), m_visits(0)
     HostControl::SetLanguageDirectory(LanguageDirectory());
     HostControl::OfferPseudoLanguage();
     HostControl::ApplyLook();
-    m_plugins.reset(new PluginHost(QLatin1String(BUILD_DIRECTORY), PluginHost::KnownPlugins()));
+    m_plugins.reset(new PluginHost(QLatin1String(BUILD_DIRECTORY), PluginHost::KnownPlugins(WlanStored)));
     m_plugins->Load();
     if (m_plugins->Plugins().at(0).state != PluginReady || m_plugins->Plugins().at(1).state != PluginReady) {
         qFatal("the plug-ins can't be loaded");
@@ -318,6 +332,26 @@ void Screens::ShowBrokenGeneralPage(const char *folder)
 {
     PluginHost plugins(QLatin1String(BUILD_DIRECTORY "/tests/fixtures"),
                        KnownAs(QLatin1String(folder), QLatin1String("Absent")));
+    plugins.Load();
+    OpenWindow(&plugins);
+    Click("settingsButton");
+    Child<QListWidget>("pageList")->setCurrentRow(0);
+    Visit();
+    m_window.reset();
+}
+
+void Screens::ShowAutomaticWlan(const char *folders)
+{
+    PluginHost plugins(QLatin1String(BUILD_DIRECTORY "/tests/fixtures"), KnownAutomatic(folders));
+    plugins.Load();
+    OpenWindow(&plugins);
+    Visit();
+    m_window.reset();
+}
+
+void Screens::ShowAutomaticWlanSettings(const char *folders)
+{
+    PluginHost plugins(QLatin1String(BUILD_DIRECTORY "/tests/fixtures"), KnownAutomatic(folders));
     plugins.Load();
     OpenWindow(&plugins);
     Click("settingsButton");

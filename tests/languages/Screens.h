@@ -63,6 +63,8 @@ private:
     void ShowBroken(const char *folder);
     void ShowBrokenSettings(const char *folder);
     void ShowBrokenGeneralPage(const char *folder);
+    void ShowAutomaticWlan(const char *folders);
+    void ShowAutomaticWlanSettings(const char *folders);
     void ShowGeneralPage(const char *);
     void ShowPriorityPage(const char *);
     void ShowAddDialog(const char *);
