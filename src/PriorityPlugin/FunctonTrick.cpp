@@ -2,28 +2,68 @@
 
 #include <ToolkitCompat.h>
 
-#include <QTime>
+#include <QDateTime>
 #include <QtDebug>
 
 #include <cstdarg>
 
+namespace
+{
+
+const qint64 millisecondsPerSecond = 1000;
+const int usualLineLength = 160;
+
+/** "hh:mm:ss:" of a second since 1970. The toolkit looks at the time zone's file each time it is asked. */
+struct Second {
+    qint64 number;
+    char text[10];
+};
+
+Second lastSecond = {-1, ""};
+
+const char *SecondText(qint64 number)
+{
+    if (number != lastSecond.number) {
+        const QTime time = QDateTime::fromMSecsSinceEpoch(number * millisecondsPerSecond).time();
+        qstrncpy(lastSecond.text, time.toString(QLatin1String("hh:mm:ss:")).toLatin1().constData(),
+                 sizeof lastSecond.text);
+        lastSecond.number = number;
+    }
+    return lastSecond.text;
+}
+
+/** What both lines begin with. One text for the whole line: the toolkit converts each that it is given. */
+QByteArray LineStart(const QString &sourcePath, const QString &function)
+{
+    QByteArray line = TraceLine::CurrentTime();
+    line += ": ";
+    line += sourcePath.toLocal8Bit();
+    line += ": ";
+    line += function.toLocal8Bit();
+    return line;
+}
+
+} // namespace
+
 CFunctonTrick::CFunctonTrick(QString sourcePath, QString functionName, const char *detailFormat, ...)
     : m_functionName(functionName), m_sourcePath(sourcePath)
 {
-    va_list arguments;
-    va_start(arguments, detailFormat);
-    const QString detail = ToolkitCompat::FormatText(detailFormat, arguments);
-    va_end(arguments);
-
-    qDebug("%s: %s: %s: Entered %s", TraceLine::CurrentTime().constData(),
-           m_sourcePath.toLocal8Bit().constData(), m_functionName.toLocal8Bit().constData(),
-           detail.toLocal8Bit().constData());
+    QByteArray line = LineStart(m_sourcePath, m_functionName);
+    line += ": Entered ";
+    if (detailFormat && *detailFormat) {
+        va_list arguments;
+        va_start(arguments, detailFormat);
+        line += ToolkitCompat::FormatText(detailFormat, arguments).toLocal8Bit();
+        va_end(arguments);
+    }
+    qDebug("%s", line.constData());
 }
 
 CFunctonTrick::~CFunctonTrick()
 {
-    qDebug("%s: %s: %s: Exit", TraceLine::CurrentTime().constData(), m_sourcePath.toLocal8Bit().constData(),
-           m_functionName.toLocal8Bit().constData());
+    QByteArray line = LineStart(m_sourcePath, m_functionName);
+    line += ": Exit";
+    qDebug("%s", line.constData());
 }
 
 namespace TraceLine
@@ -31,7 +71,15 @@ namespace TraceLine
 
 QByteArray CurrentTime()
 {
-    return QTime::currentTime().toString(QLatin1String("hh:mm:ss:zzz")).toLocal8Bit();
+    const qint64 now = QDateTime::currentMSecsSinceEpoch();
+    const int milliseconds = int(now % millisecondsPerSecond);
+    QByteArray time;
+    time.reserve(usualLineLength);
+    time += SecondText(now / millisecondsPerSecond);
+    time += char('0' + milliseconds / 100);
+    time += char('0' + milliseconds / 10 % 10);
+    time += char('0' + milliseconds % 10);
+    return time;
 }
 
 void Called(const char *sourcePath, const char *function)

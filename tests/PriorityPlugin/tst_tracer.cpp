@@ -14,6 +14,7 @@ private slots:
     void detailIsFormatted();
     void earlyReturnStillWritesTheExitLine();
     void timeOfDayHasMilliseconds();
+    void timeOfDayGoesOn();
     void percentSignsInNamesStay();
     void sharedLines();
 };
@@ -66,6 +67,21 @@ void tst_Tracer::timeOfDayHasMilliseconds()
 {
     const QString time = QString::fromLatin1(TraceLine::CurrentTime());
     QVERIFY2(TextPattern::Fits(time, "([01]\\d|2[0-3]):[0-5]\\d:[0-5]\\d:\\d\\d\\d"), qPrintable(time));
+}
+
+void tst_Tracer::timeOfDayGoesOn()
+{
+    const QString format = "hh:mm:ss:zzz";
+    for (int second = 0; second < 3; ++second) {
+        const QString before = QTime::currentTime().toString(format);
+        const QString time = QString::fromLatin1(TraceLine::CurrentTime());
+        const QString after = QTime::currentTime().toString(format);
+        // Nothing can be said while midnight passes.
+        if (before <= after) {
+            QVERIFY2(before <= time && time <= after, qPrintable(time));
+        }
+        QTest::qSleep(600);
+    }
 }
 
 void tst_Tracer::percentSignsInNamesStay()
