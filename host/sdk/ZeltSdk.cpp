@@ -38,6 +38,9 @@ bool IsDirectory(const QByteArray &path)
 
 bool MakeDirectory(const QByteArray &path)
 {
+    if (IsDirectory(path)) {
+        return true;
+    }
     // Another process of the same user may be making the same directories.
     for (int end = path.indexOf('/', 1); end != -1; end = path.indexOf('/', end + 1)) {
         const QByteArray step = path.left(end);

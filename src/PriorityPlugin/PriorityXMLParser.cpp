@@ -114,9 +114,9 @@ QByteArray PriorityDocument(const QList<PriorityList> &list)
 }
 
 /** Never a pipe or a device, which would hold up the reader or have no end. */
-bool OpenToRead(QFile &file, QIODevice::OpenMode mode)
+bool OpenToRead(QFile &file, const QFileInfo &known, QIODevice::OpenMode mode)
 {
-    return QFileInfo(file).isFile() && file.open(mode);
+    return known.isFile() && file.open(mode);
 }
 
 bool WriteToItsEnd(QFile &file, const QByteArray &bytes)
@@ -129,7 +129,8 @@ bool WriteToItsEnd(QFile &file, const QByteArray &bytes)
 bool OpenAnew(QFile &file)
 {
     // A directory without write permission keeps what stands in the file's place from being deleted.
-    if (file.exists() && !QFileInfo(file).isFile()) {
+    const QFileInfo inItsPlace(file);
+    if (inItsPlace.exists() && !inItsPlace.isFile()) {
         return false;
     }
     return file.open(QIODevice::ReadWrite | QIODevice::Text | QIODevice::Truncate);
@@ -139,10 +140,10 @@ bool OpenAnew(QFile &file)
 class PreviousContent
 {
 public:
-    explicit PreviousContent(const QString &path) : m_path(path), m_known(false)
+    explicit PreviousContent(const QFileInfo &known) : m_path(known.filePath()), m_known(false)
     {
-        QFile file(path);
-        if (OpenToRead(file, QIODevice::ReadOnly)) {
+        QFile file(m_path);
+        if (OpenToRead(file, known, QIODevice::ReadOnly | QIODevice::Unbuffered)) {
             m_bytes = file.readAll();
             m_known = file.error() == QFile::NoError;
         }
@@ -166,12 +167,13 @@ private:
 
 int ReadSwitch(const QString &path)
 {
-    if (!QFile::exists(path)) {
+    const QFileInfo known(path);
+    if (!known.exists()) {
         TraceFileMissing(path);
         return switchMissing;
     }
     QFile file(path);
-    if (!OpenToRead(file, QIODevice::ReadOnly | QIODevice::Text)) {
+    if (!OpenToRead(file, known, QIODevice::ReadOnly | QIODevice::Text)) {
         TraceFileNotOpenable();
         return switchMissing;
     }
@@ -244,12 +246,13 @@ int PriorityXMLParser::GetPriorityList(QList<PriorityList> *out)
 {
     CFunctonTrick trick(SourcePath(), QLatin1String("GetPriorityList"), "");
     const QString path = PriorityFilePath();
-    if (!out || !QFile::exists(path)) {
+    const QFileInfo known(path);
+    if (!out || !known.exists()) {
         TraceFileMissing(path);
         return FileMissing;
     }
     QFile file(path);
-    if (!OpenToRead(file, QIODevice::ReadOnly | QIODevice::Text)) {
+    if (!OpenToRead(file, known, QIODevice::ReadOnly | QIODevice::Text)) {
         TraceFileNotOpenable();
         return FileNotOpenable;
     }
@@ -266,9 +269,13 @@ int PriorityXMLParser::ReadPriorityItem(QXmlStreamReader &reader, QList<Priority
             return ReadError;
         }
         if (reader.isStartElement() && reader.name() == QLatin1String("item")) {
+            const QXmlStreamAttributes attributes = reader.attributes();
             PriorityList entry;
-            entry.name = reader.attributes().value(QLatin1String("name")).toString();
-            entry.type = reader.attributes().value(QLatin1String("type")).toString();
+            entry.name = attributes.value(QLatin1String("name")).toString();
+            // Nearly all entries are of one type; they share its text.
+            const bool likeTheLast =
+                !out->isEmpty() && attributes.value(QLatin1String("type")) == out->last().type;
+            entry.type = likeTheLast ? out->last().type : attributes.value(QLatin1String("type")).toString();
             out->append(entry);
         }
     }
@@ -280,8 +287,9 @@ int PriorityXMLParser::SavePriorityList(QList<PriorityList> &list)
     CFunctonTrick trick(SourcePath(), QLatin1String("SavePriorityList"), "");
     const QString path = PriorityFilePath();
     const QByteArray document = PriorityDocument(list);
-    const PreviousContent previous(path);
-    if (QFile::exists(path)) {
+    const QFileInfo known(path);
+    const PreviousContent previous(known);
+    if (known.exists()) {
         QFile::remove(path);
     }
     QFile file(path);
