@@ -8,6 +8,8 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
+#include <QPair>
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 #include <QtDebug>
@@ -54,6 +56,13 @@ void TraceSwitch(const char *event)
 bool IsSameEntry(const PriorityList &left, const PriorityList &right)
 {
     return left.name == right.name && left.type == right.type;
+}
+
+typedef QPair<QString, QString> EntryKey;
+
+EntryKey KeyOf(const PriorityList &entry)
+{
+    return EntryKey(entry.name, entry.type);
 }
 
 bool IsXmlCharacter(ushort unit)
@@ -327,9 +336,22 @@ void PriorityXMLParser::DeleteIfExist(QList<PriorityList> &list, PriorityList &e
 void PriorityXMLParser::DeleteIfExist(QList<PriorityList> &list, QList<PriorityList> &removeList)
 {
     CFunctonTrick trick(SourcePath(), QLatin1String("DeleteIfExist"), "DELETE-LIST");
+    QHash<EntryKey, int> toDelete;
     for (int i = 0; i < removeList.size(); ++i) {
-        DeleteIfExist(list, removeList[i]);
+        const CFunctonTrick each(SourcePath(), QLatin1String("DeleteIfExist"), "");
+        ++toDelete[KeyOf(removeList.at(i))];
     }
+    QList<PriorityList> kept;
+    kept.reserve(list.size());
+    for (int i = 0; i < list.size(); ++i) {
+        const QHash<EntryKey, int>::iterator left = toDelete.find(KeyOf(list.at(i)));
+        if (left != toDelete.end() && *left > 0) {
+            --*left;
+        } else {
+            kept.append(list.at(i));
+        }
+    }
+    list = kept;
 }
 
 int PriorityXMLParser::ReadForChange(QList<PriorityList> *list)

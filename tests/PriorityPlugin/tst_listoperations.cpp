@@ -19,6 +19,7 @@ private slots:
     void findIndex();
     void deleteOneOccurrence();
     void deleteListOfEntries();
+    void deleteListTakesTheFirstOccurrences();
     void deletionIsTraced();
     void entriesDifferingInCaseOrTypeAreDifferent();
     void moves_data();
@@ -118,6 +119,16 @@ void tst_ListOperations::deleteListOfEntries()
     remove << Entry("A") << Entry("A") << Entry("X") << Entry("C");
     m_store->DeleteIfExist(list, remove);
     QCOMPARE(Names(list), QString("B"));
+}
+
+void tst_ListOperations::deleteListTakesTheFirstOccurrences()
+{
+    QList<PriorityList> list;
+    list << Entry("A") << Entry("B") << Entry("A") << Entry("C") << Entry("B") << Entry("A");
+    QList<PriorityList> remove;
+    remove << Entry("B") << Entry("A") << Entry("A");
+    m_store->DeleteIfExist(list, remove);
+    QCOMPARE(Names(list), QString("CBA"));
 }
 
 void tst_ListOperations::deletionIsTraced()
