@@ -2,6 +2,31 @@
 
 #include <QHeaderView>
 
+namespace
+{
+
+/** Widgets that are visible already stay as they are. */
+void AskForNoPainting(QWidget *widget, bool none)
+{
+    if (!none || !widget->isVisible()) {
+        widget->setAttribute(Qt::WA_DontShowOnScreen, none);
+    }
+}
+
+void AskForNoPaintingWithin(QWidget *container, bool none)
+{
+    const QObjectList children = container->children();
+    for (int i = 0; i < children.size(); ++i) {
+        if (children.at(i)->isWidgetType()) {
+            QWidget *child = static_cast<QWidget *>(children.at(i));
+            AskForNoPainting(child, none);
+            AskForNoPaintingWithin(child, none);
+        }
+    }
+}
+
+} // namespace
+
 DragTableWidget::DragTableWidget(QWidget *parent) : QTableWidget(parent) {}
 
 DragTableWidget::~DragTableWidget() = default;
@@ -30,4 +55,24 @@ void SetUpListTable(QTableWidget *table)
     table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->setSelectionMode(QAbstractItemView::SingleSelection);
+}
+
+void SetRowWidget(QTableWidget *table, int row, QWidget *widget)
+{
+    const ShownAsOne shown(widget);
+    AskForNoPainting(widget, true);
+    table->setCellWidget(row, 0, widget);
+    AskForNoPainting(widget, false);
+}
+
+ShownAsOne::ShownAsOne(QWidget *container) : m_container(container)
+{
+    AskForNoPaintingWithin(container, true);
+}
+
+ShownAsOne::~ShownAsOne()
+{
+    if (m_container) {
+        AskForNoPaintingWithin(m_container, false);
+    }
 }

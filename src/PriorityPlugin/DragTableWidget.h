@@ -1,6 +1,7 @@
 #ifndef DRAGTABLEWIDGET_H
 #define DRAGTABLEWIDGET_H
 
+#include <QPointer>
 #include <QTableWidget>
 
 /** The priority page's table. Rows move by buttons and arrow keys only; nothing can be dragged. */
@@ -18,5 +19,25 @@ protected:
 /** What the tables of both lists have in common: one column of cell widgets, nothing to edit, one row at a
  * time. */
 void SetUpListTable(QTableWidget *table);
+
+/** Puts widget, which the table owns from then on, into the row's only cell. */
+void SetRowWidget(QTableWidget *table, int row, QWidget *widget);
+
+/**
+ * While it lives, what is in a widget is shown without an event for each that asks for its painting. The
+ * toolkit compares each widget so asked for with all others in the table, and rows out of sight are
+ * thousands. What is in sight is painted with what contains it.
+ */
+class ShownAsOne
+{
+public:
+    explicit ShownAsOne(QWidget *container);
+    ~ShownAsOne();
+
+private:
+    Q_DISABLE_COPY(ShownAsOne)
+
+    QPointer<QWidget> m_container;
+};
 
 #endif

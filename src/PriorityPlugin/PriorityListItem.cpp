@@ -36,11 +36,11 @@ void Place(QWidget *child, const QPoint &leftToRight, const QPoint &rightToLeft,
     }
 }
 
-QLabel *CreateIconLabel(QWidget *row, const QString &iconPath)
+QLabel *CreateIconLabel(QWidget *row, const QPixmap &icon)
 {
     QLabel *label = new QLabel(row);
     label->setObjectName(QLatin1String("rowIcon"));
-    label->setPixmap(QPixmap(iconPath));
+    label->setPixmap(icon);
     return label;
 }
 
@@ -91,9 +91,14 @@ PriorityListItem::~PriorityListItem()
 
 void PriorityListItem::UpdateLabelContents(QString strIcon, QString strName)
 {
+    UpdateLabelContents(strIcon, strName, QPixmap(strIcon));
+}
+
+void PriorityListItem::UpdateLabelContents(QString strIcon, QString strName, const QPixmap &icon)
+{
     CFunctonTrick trick(SourcePath(), QLatin1String("UpdateLabelContents"), ",strIcon:%s,strName:%s",
                         strIcon.toUtf8().constData(), strName.toUtf8().constData());
-    m_iconLabel = CreateIconLabel(this, strIcon);
+    m_iconLabel = CreateIconLabel(this, icon);
     m_nameLabel = CreateNameLabel(this);
     m_nameLabel->setText(strName.left(mostCharactersShown));
     ShowElidedName(this, m_nameLabel, strName);
@@ -126,12 +131,17 @@ RememberListItem::~RememberListItem()
 
 void RememberListItem::UpdateLabelContents(QString strIcon, QString strName)
 {
+    UpdateLabelContents(QPixmap(strIcon), strName);
+}
+
+void RememberListItem::UpdateLabelContents(const QPixmap &icon, const QString &name)
+{
     m_checkBox = new QCheckBox(this);
     m_checkBox->setObjectName(QLatin1String("rowCheckBox"));
-    m_checkBox->setAccessibleName(strName);
-    m_iconLabel = CreateIconLabel(this, strIcon);
+    m_checkBox->setAccessibleName(name);
+    m_iconLabel = CreateIconLabel(this, icon);
     m_nameLabel = CreateNameLabel(this);
-    ShowElidedName(this, m_nameLabel, strName);
+    ShowElidedName(this, m_nameLabel, name);
     SetLanguage(Change::GetLangName());
 }
 

@@ -17,6 +17,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPixmap>
 #include <QPointer>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -254,7 +255,10 @@ bool QPriorityWidget::ShowSettingDialog(QWidget *parent, QRect &rect)
     UpdataPriorityList();
     setParent(parent);
     move(rect.topLeft());
-    setVisible(true);
+    {
+        const ShownAsOne shown(this);
+        setVisible(true);
+    }
     m_selectedRow = -1;
     if (m_table) {
         m_table->setCurrentCell(-1, 0);
@@ -331,13 +335,23 @@ void QPriorityWidget::UpdataTabItem()
     if (!m_table) {
         return;
     }
+    const QPixmap wifiIcon(m_wifiIconPath);
+    const QPixmap mobileIcon(m_mobileIconPath);
     // Every row inserted re-places all cell widgets there are, so all rows come before the first of these.
     m_table->setRowCount(m_workingList.size());
     for (int row = 0; row < m_workingList.size(); ++row) {
         const PriorityList &entry = m_workingList.at(row);
         PriorityListItem *item = new PriorityListItem;
-        item->UpdateLabelContents(IsWifi(entry) ? m_wifiIconPath : m_mobileIconPath, entry.name);
-        m_table->setCellWidget(row, 0, item);
+        if (IsWifi(entry)) {
+            item->UpdateLabelContents(m_wifiIconPath, entry.name, wifiIcon);
+        } else {
+            item->UpdateLabelContents(m_mobileIconPath, entry.name, mobileIcon);
+        }
+        SetRowWidget(m_table, row, item);
+    }
+    if (m_table->isVisible()) {
+        // Until then all rows lie one upon the other in the first one's place, and would be painted there.
+        m_table->doItemsLayout();
     }
     if (m_selectedRow > -1) {
         m_table->setCurrentCell(m_selectedRow, 0);
