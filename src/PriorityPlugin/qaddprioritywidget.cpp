@@ -13,7 +13,9 @@
 #include <QCheckBox>
 #include <QFocusEvent>
 #include <QHBoxLayout>
+#include <QPixmap>
 #include <QPushButton>
+#include <QSet>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
@@ -26,6 +28,17 @@ const int switchUnknown = -1;
 bool IsWifi(const RememberedList &network)
 {
     return network.type == QString::number(1);
+}
+
+/** To ask about many names; about a single one the list itself is asked. */
+template <typename Record> QSet<QString> Names(const QList<Record> &records)
+{
+    QSet<QString> names;
+    names.reserve(records.size());
+    for (int i = 0; i < records.size(); ++i) {
+        names.insert(records.at(i).name);
+    }
+    return names;
 }
 
 RememberListItem *RowItem(const QTableWidget *table, int row)
@@ -183,9 +196,10 @@ void QAddPriorityWidget::SetRememberedList()
 
 void QAddPriorityWidget::SetTabItem()
 {
+    const QSet<QString> listed = m_priorityList ? Names(*m_priorityList) : QSet<QString>();
     QList<RememberedList> shown;
     for (int i = 0; i < m_candidates.size(); ++i) {
-        if (IsRemeberPriority(m_candidates.at(i).name)) {
+        if (!listed.contains(m_candidates.at(i).name)) {
             shown.append(m_candidates.at(i));
         }
     }
@@ -195,11 +209,13 @@ void QAddPriorityWidget::SetTabItem()
     }
     // Every row inserted re-places all cell widgets there are, so all rows come before the first of these.
     m_table->model()->insertRows(0, shown.size());
+    const QPixmap wifiIcon(m_wifiIconPath);
+    const QPixmap mobileIcon(m_mobileIconPath);
     for (int row = 0; row < shown.size(); ++row) {
         const RememberedList &network = shown.at(row);
         RememberListItem *item = new RememberListItem;
-        item->UpdateLabelContents(IsWifi(network) ? m_wifiIconPath : m_mobileIconPath, network.name);
-        m_table->setCellWidget(row, 0, item);
+        item->UpdateLabelContents(IsWifi(network) ? wifiIcon : mobileIcon, network.name);
+        SetRowWidget(m_table, row, item);
     }
     MakeRowsReachable();
 }
@@ -222,10 +238,12 @@ void QAddPriorityWidget::CheckRememberList(const QList<RememberedList> *list)
 {
     PriorityXMLParser *store = PriorityXMLParser::GetInstance();
     const int mobile = store ? store->GetEnable3GValue() : switchUnknown;
+    QSet<QString> taken = Names(m_candidates);
     for (int i = 0; i < list->size(); ++i) {
         const RememberedList &network = list->at(i);
-        if (!IsRepeatNetworkName(network.name) && (IsWifi(network) || mobile == mobileEnabled)) {
+        if (!taken.contains(network.name) && (IsWifi(network) || mobile == mobileEnabled)) {
             m_candidates.append(network);
+            taken.insert(network.name);
         }
     }
 }

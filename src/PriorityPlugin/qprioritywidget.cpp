@@ -541,7 +541,10 @@ void QPriorityWidget::AddPriority()
     m_addDialog->setWindowTitle(tr(QLatin1String("IDS_PROFILE_ADD_TITLE")));
     m_addDialog->setModal(true);
     m_addDialog->setFixedSize(306, 341);
-    m_addDialog->setVisible(true);
+    {
+        const ShownAsOne shown(m_addDialog);
+        m_addDialog->setVisible(true);
+    }
     SetAllButtonState();
 }
 
