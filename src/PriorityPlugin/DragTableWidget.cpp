@@ -17,8 +17,9 @@ void AskForNoPaintingWithin(QWidget *container, bool none)
 {
     const QObjectList children = container->children();
     for (int i = 0; i < children.size(); ++i) {
-        if (children.at(i)->isWidgetType()) {
-            QWidget *child = static_cast<QWidget *>(children.at(i));
+        QWidget *child = qobject_cast<QWidget *>(children.at(i));
+        // A dialog of the page is its child too, and shown on its own.
+        if (child && !child->isWindow()) {
             AskForNoPainting(child, none);
             AskForNoPaintingWithin(child, none);
         }
