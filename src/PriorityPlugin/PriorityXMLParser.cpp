@@ -135,6 +135,11 @@ bool WriteToItsEnd(QFile &file, const QByteArray &bytes)
     return written && file.error() == QFile::NoError;
 }
 
+bool OpenEmpty(QFile &file)
+{
+    return file.open(QIODevice::ReadWrite | QIODevice::Text | QIODevice::Truncate | QIODevice::Unbuffered);
+}
+
 bool OpenAnew(QFile &file)
 {
     // A directory without write permission keeps what stands in the file's place from being deleted.
@@ -142,7 +147,7 @@ bool OpenAnew(QFile &file)
     if (inItsPlace.exists() && !inItsPlace.isFile()) {
         return false;
     }
-    return file.open(QIODevice::ReadWrite | QIODevice::Text | QIODevice::Truncate);
+    return OpenEmpty(file);
 }
 
 /** What stands in a file, to be put back when its replacement can't be written. */
@@ -298,11 +303,9 @@ int PriorityXMLParser::SavePriorityList(QList<PriorityList> &list)
     const QByteArray document = PriorityDocument(list);
     const QFileInfo known(path);
     const PreviousContent previous(known);
-    if (known.exists()) {
-        QFile::remove(path);
-    }
+    const bool removed = known.exists() && QFile::remove(path);
     QFile file(path);
-    if (!OpenAnew(file)) {
+    if (!(removed ? OpenEmpty(file) : OpenAnew(file))) {
         TraceFileNotOpenable();
         return FileNotOpenable;
     }
