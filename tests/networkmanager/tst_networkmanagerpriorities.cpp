@@ -220,6 +220,9 @@ void tst_networkmanagerpriorities::RemovedListSetsAllBackAndANewOneIsFollowed()
     QTRY_COMPARE(Fake().PriorityOf(a), 0);
     SetList("B A");
     QTRY_COMPARE(Fake().PriorityOf(a), 998);
+    // Written into the file that is there, of which its directory tells nothing.
+    SetList("C B A");
+    QTRY_COMPARE(Fake().PriorityOf(a), 997);
     QVERIFY(QFile::remove(Directory().FilePath("Priority.xml")));
     QTRY_COMPARE(Fake().PriorityOf(a), 0);
 }
