@@ -46,6 +46,8 @@ private slots:
     void deleteWithNothingSelectedRewritesTheFile();
     void listShrunkDuringTheQuestion();
     void refreshKeepsSelectedRowAndButtons();
+    void refreshOfAHiddenPageSelectsNothing_data();
+    void refreshOfAHiddenPageSelectsNothing();
     void refreshToAShorterList();
     void refreshAfterAReadErrorShowsWhatWasRead();
     void okAfterMovesKeepsTheOrder();
@@ -544,6 +546,35 @@ void tst_PageEditing::refreshKeepsSelectedRowAndButtons()
     QCOMPARE(Rows(), QString("X A B C"));
     QCOMPARE(m_table->currentRow(), 2);
     QCOMPARE(Buttons(), QString("U-X"));
+}
+
+void tst_PageEditing::refreshOfAHiddenPageSelectsNothing_data()
+{
+    QTest::addColumn<QString>("way");
+    QTest::newRow("OK") << "OK";
+    QTest::newRow("Cancel") << "Cancel";
+    QTest::newRow("hidden") << "hidden";
+}
+
+void tst_PageEditing::refreshOfAHiddenPageSelectsNothing()
+{
+    QFETCH(QString, way);
+    Store(QStringList() << "A"
+                        << "B"
+                        << "C");
+    Show();
+    ClickRow(1);
+    QCOMPARE(m_table->selectionModel()->selectedIndexes().size(), 1);
+    if (way == "OK") {
+        m_plugin.Setting()->OnClickSettingOkButton();
+    } else if (way == "Cancel") {
+        m_plugin.Setting()->OnClickSettingCancelButton();
+    } else {
+        m_plugin.Setting()->HideSetting();
+    }
+    m_plugin.Priority()->AddTopPriority(Entry("New"));
+    QCOMPARE(m_table->rowCount(), 4);
+    QVERIFY(m_table->selectionModel()->selectedIndexes().isEmpty());
 }
 
 void tst_PageEditing::refreshToAShorterList()
