@@ -164,9 +164,12 @@ void SymbolsTest::HostLibrariesExportTheirServicesOnly_data()
                                       << "_ZN11HostControl11SetLanguageERK7QString"
                                       << "_ZN11HostControl13IsRightToLeftERK7QString"
                                       << "_ZN11HostControl13LanguageNamesEv"
+                                      << "_ZN11HostControl16LanguageProblemsEv"
                                       << "_ZN11HostControl18SetPluginContainerEP16IPluginContainer"
+                                      << "_ZN11HostControl19OfferPseudoLanguageEv"
                                       << "_ZN11HostControl20SetLanguageDirectoryERK7QString"
                                       << "_ZN11HostControl20SetPluginLibraryPathERK7QString"
+                                      << "_ZN11HostControl6TextInERK7QStringS2_S2_"
                                       << "_ZN11HostControl9ApplyLookEv");
     QTest::newRow("zeltsdk") << QStringList(SdkService());
 }
