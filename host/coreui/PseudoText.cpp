@@ -37,6 +37,8 @@ QString PseudoText(const QString &text)
     }
     const QString more = QString::fromUtf8(moreWords);
     const int missing = (letters * growth + 99) / 100;
-    pseudo += more.repeated(missing / more.size() + 1).left(missing);
+    const int wholeSize = pseudo.size() + missing;
+    pseudo += more.repeated(missing / more.size() + 1);
+    pseudo.truncate(wholeSize);
     return pseudo + QLatin1Char(']');
 }

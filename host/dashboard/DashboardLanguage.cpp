@@ -74,7 +74,7 @@ QString DashboardLanguage::Choose(const QString &wanted, const QString &stored, 
         }
     }
     for (int i = 0; i < system.size(); ++i) {
-        const QString best = BestFor(system.at(i), available);
+        QString best = BestFor(system.at(i), available);
         if (!best.isEmpty()) {
             return best;
         }

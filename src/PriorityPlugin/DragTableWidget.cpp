@@ -15,7 +15,7 @@ void AskForNoPainting(QWidget *widget, bool none)
 
 void AskForNoPaintingWithin(QWidget *container, bool none)
 {
-    const QObjectList children = container->children();
+    const QObjectList &children = container->children();
     for (int i = 0; i < children.size(); ++i) {
         QWidget *child = qobject_cast<QWidget *>(children.at(i));
         // A dialog of the page is its child too, and shown on its own.
