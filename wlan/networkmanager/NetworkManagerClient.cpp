@@ -150,9 +150,8 @@ void CNetworkManagerClient::Note(NetworkManagerResult result)
 
 void CNetworkManagerClient::AskForSign()
 {
-    QDBusPendingCallWatcher *watcher =
-        new QDBusPendingCallWatcher(Send(VersionCall(), signMilliseconds), this);
-    connect(watcher, SIGNAL(finished(QDBusPendingCallWatcher *)), this,
+    m_sign = new QDBusPendingCallWatcher(Send(VersionCall(), signMilliseconds), this);
+    connect(m_sign, SIGNAL(finished(QDBusPendingCallWatcher *)), this,
             SLOT(TakeSign(QDBusPendingCallWatcher *)));
 }
 

@@ -6,6 +6,7 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QObject>
+#include <QPointer>
 #include <QString>
 
 class QDBusPendingCall;
@@ -80,6 +81,7 @@ private:
     QDBusConnection m_connection;
     QDBusServiceWatcher *m_owner;
     bool m_isSilent;
+    QPointer<QDBusPendingCallWatcher> m_sign;
 };
 
 #endif
