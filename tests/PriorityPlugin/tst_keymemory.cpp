@@ -189,9 +189,11 @@ void tst_KeyMemory::keyOfAProfileIsWipedAndTheProfileKept()
 void tst_KeyMemory::keyGoesWhenTheMethodNeedsNone()
 {
     const TraceCapture silence;
+    const int before = CopiesOfTheKey();
     Type("Mine");
+    QVERIFY(CopiesOfTheKey() > before);
     m_scene.Box("authenticationBox")->setCurrentIndex(m_scene.Box("authenticationBox")->findText("WPA(EAP)"));
-    QCOMPARE(CopiesOfTheKey(), 0);
+    QVERIFY(CopiesOfTheKey() <= before);
 }
 
 void tst_KeyMemory::closedDialogHoldsNoKey()

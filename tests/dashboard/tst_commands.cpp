@@ -800,7 +800,9 @@ void CommandsTest::NothingElseIsPrinted()
     const Outcome outcome =
         RunProgram("env",
                    QStringList() << "-i"
-                                 << "XDG_DATA_HOME=" + m_directory->Path() << BUILD_DIRECTORY "/bin/dashboard"
+                                 << "XDG_DATA_HOME=" + m_directory->Path()
+                                 << "LSAN_OPTIONS=" + QString::fromLocal8Bit(qgetenv("LSAN_OPTIONS"))
+                                 << BUILD_DIRECTORY "/bin/dashboard"
                                  << "--add-top=Office"
                                  << "--list",
                    QStringList());
