@@ -1,8 +1,9 @@
 #include "ProfileStore.h"
 
-#include "PrivateFile.h"
 #include "UserDataDirectory.h"
 #include "XmlRecords.h"
+
+#include <PrivateFile.h>
 
 namespace
 {
