@@ -233,6 +233,10 @@
         <translation>الإضافة التي تحفظ القائمة غير متوفرة، لذلك لا يمكن وضع شبكة في أعلاها.</translation>
     </message>
     <message>
+        <source>IDS_CLOSE</source>
+        <translation>إغلاق</translation>
+    </message>
+    <message>
         <source>IDS_SETTINGS_TITLE</source>
         <translation>الإعدادات</translation>
     </message>
@@ -455,6 +459,334 @@
     <message>
         <source>IDS_NOTE_STORED_STANDS_IN</source>
         <translation>لا يتوفر &#x202a;NetworkManager&#x202c; للعمل معه. هذه شبكات خاصة بهذه اللوحة؛ أما شبكات هذا الحاسوب فلا تُمَسّ.</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_EDIT</source>
+        <translation>ت&amp;حرير</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_UNDO</source>
+        <translation>ت&amp;راجع</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_REDO</source>
+        <translation>إ&amp;عادة</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_RESTORE</source>
+        <translation>ا&amp;ستعادة…</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_IMPORT</source>
+        <translation>ا&amp;ستيراد الترتيب…</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_EXPORT</source>
+        <translation>&amp;تصدير الترتيب…</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_UNDO</source>
+        <translation>تراجع</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_REDO</source>
+        <translation>إعادة</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_RESTORE</source>
+        <translation>استعادة…</translation>
+    </message>
+    <message>
+        <source>IDS_UNDO_WHAT</source>
+        <translation>تراجع: %1</translation>
+    </message>
+    <message>
+        <source>IDS_REDO_WHAT</source>
+        <translation>إعادة: %1</translation>
+    </message>
+    <message>
+        <source>IDS_UNDO_NOTHING</source>
+        <translation>لا توجد قائمة سابقة للرجوع إليها.</translation>
+    </message>
+    <message>
+        <source>IDS_REDO_NOTHING</source>
+        <translation>لم يُتراجع عن شيء، فلا شيء لإعادته.</translation>
+    </message>
+    <message>
+        <source>IDS_REDO_DAMAGED</source>
+        <translation>ملف قائمتك تالف. يعيد «تراجع» آخر قائمة أمكنت قراءتها.</translation>
+    </message>
+    <message>
+        <source>IDS_UNDO_NO_PLUGIN</source>
+        <translation>الملحق الذي يحفظ القائمة غير متوفر، لذا لا يمكن تغييرها.</translation>
+    </message>
+    <message>
+        <source>IDS_LAST_CHANGE</source>
+        <translation>آخر تغيير: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_NONE</source>
+        <translation>لم يتغير شيء</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_EMPTIED</source>
+        <translation>حُذفت كل الإدخالات</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_DAMAGED</source>
+        <translation>تَلِف الملف</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_ADDED_ONE</source>
+        <translation>أُضيفت %1</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_ADDED_MANY</source>
+        <translation>إدخالات مضافة: %1</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_DELETED_ONE</source>
+        <translation>حُذفت %1</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_DELETED_MANY</source>
+        <translation>إدخالات محذوفة: %1</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_MOVED_UP</source>
+        <translation>نُقلت %1 إلى أعلى</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_MOVED_DOWN</source>
+        <translation>نُقلت %1 إلى أسفل</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_MOVED_TOP</source>
+        <translation>نُقلت %1 إلى أول القائمة</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_MOVED_END</source>
+        <translation>نُقلت %1 إلى آخر القائمة</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_MOVED_MANY</source>
+        <translation>إدخالات منقولة: %1</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_UNNAMED</source>
+        <translation>(بلا اسم)</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_TITLE</source>
+        <translation>استعادة قائمة سابقة</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_HINT</source>
+        <translation>اختر الحال التي تريد أن تعود إليها قائمتك. لن تُفقد أي حال أخرى بذلك.</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_TIME</source>
+        <translation>متى</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_CHANGE</source>
+        <translation>ما الذي تغيّر</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_STATUS</source>
+        <translation>الحالة</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_NOW</source>
+        <translation>الآن</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_UNDONE</source>
+        <translation>تُرُوجِع عنها</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_OLDEST</source>
+        <translation>أقدم قائمة محفوظة</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_PREVIEW</source>
+        <translation>القائمة حينها</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_EFFECT</source>
+        <translation>ما تفعله الاستعادة: %1</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_IS_NOW</source>
+        <translation>هذه هي القائمة كما هي الآن.</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_OK</source>
+        <translation>استعادة</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_ASIDE</source>
+        <translation>نحّه جانبًا وابدأ من جديد</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_GONE</source>
+        <translation>لم تعد تلك القائمة محفوظة. اختر غيرها.</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_TITLE</source>
+        <translation>استيراد ترتيب</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_HINT</source>
+        <translation>يأخذ قائمة من ملف. سترى أولًا ما الذي سيتغير.</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_SUMMARY</source>
+        <translation>ما يفعله الاستيراد: %1</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_NO_CHANGE</source>
+        <translation>قائمتك بهذا الترتيب أصلًا. لا شيء لاستيراده.</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_PLACE</source>
+        <translation>الموضع</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_EFFECT</source>
+        <translation>ما يحدث</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_STAYS</source>
+        <translation>تبقى</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_ADDED</source>
+        <translation>تُضاف</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_MOVED_UP</source>
+        <translation>تصعد</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_MOVED_DOWN</source>
+        <translation>تنزل</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_MOVED</source>
+        <translation>تتحرك غيرها حولها</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_REMOVED</source>
+        <translation>تُزال من القائمة</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_EFFECT_UNKNOWN</source>
+        <translation>%1؛ غير معروفة هنا</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_UNKNOWN</source>
+        <translation>غير معروفة على هذا الحاسوب: %1. لا يُستخدم إدخال كهذا إلا بعد إعداد الشبكة هنا.</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_OK</source>
+        <translation>استيراد</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_NOT_READABLE</source>
+        <translation>لا يمكن قراءة الملف %1، أو هو أكبر بكثير من أن يكون قائمة. قائمتك كما كانت.</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_DAMAGED</source>
+        <translation>الملف %1 ليس قائمة شبكات يمكن استيرادها. %2. قائمتك كما كانت.</translation>
+    </message>
+    <message>
+        <source>IDS_EXPORT_TITLE</source>
+        <translation>تصدير الترتيب</translation>
+    </message>
+    <message>
+        <source>IDS_EXPORT_HINT</source>
+        <translation>يكتب ترتيب قائمتك في ملف، من دون أي مفاتيح.</translation>
+    </message>
+    <message>
+        <source>IDS_EXPORT_FILE_NAME</source>
+        <translation>network-order.xml</translation>
+    </message>
+    <message>
+        <source>IDS_EXPORT_NOT_WRITTEN</source>
+        <translation>لا يمكن كتابة الملف %1. ما كان هناك من قبل باقٍ كما كان.</translation>
+    </message>
+    <message>
+        <source>IDS_ORDER_FILES</source>
+        <translation>ترتيبات الشبكات</translation>
+    </message>
+    <message>
+        <source>IDS_ALL_FILES</source>
+        <translation>كل الملفات</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_NOT_WRITTEN</source>
+        <translation>لا يمكن كتابة القائمة في %1. تحقق مما إذا كان القرص ممتلئًا أو الملف محميًا.</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_NOT_KEPT</source>
+        <translation>لا يمكن نسخ الملف التالف %1 لحفظه، لذا تُرك كما هو.</translation>
+    </message>
+    <message>
+        <source>IDS_HISTORY_DAMAGED</source>
+        <translation>الملف الذي فيه القوائم السابقة، %1، تالف وتُرك كما هو. %2. لا يمكن التراجع عن شيء قبل تنحيته جانبًا في «استعادة…».</translation>
+    </message>
+    <message>
+        <source>IDS_HISTORY_NOT_READABLE</source>
+        <translation>لا يمكن قراءة الملف الذي فيه القوائم السابقة، %1، وتُرك كما هو. لا يمكن التراجع عن شيء إلى أن تمكن قراءته أو يُنحّى جانبًا في «استعادة…».</translation>
+    </message>
+    <message>
+        <source>IDS_HISTORY_NOT_WRITABLE</source>
+        <translation>لا يمكن حفظ القوائم السابقة في %1. يمكن التراجع عما تغيّره إلى أن ينتهي البرنامج فقط.</translation>
+    </message>
+    <message>
+        <source>IDS_HISTORY_BUSY</source>
+        <translation>برنامج آخر يعمل على القوائم السابقة. حاول مرة أخرى بعد لحظة.</translation>
+    </message>
+    <message>
+        <source>IDS_HISTORY_NOT_SET_ASIDE</source>
+        <translation>لا يمكن إعادة تسمية الملف %1، لذا تُرك كما هو.</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_LINE</source>
+        <translation>السطر %1: %2</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_XML</source>
+        <translation>هذا ليس XML سليم البنية</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_DECLARATION</source>
+        <translation>لا مكان هنا لتصريح عن نوع المستند</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_ELEMENT</source>
+        <translation>لا مكان هنا للعنصر «%1»</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_TEXT</source>
+        <translation>لا مكان هنا لنص</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_ATTRIBUTE</source>
+        <translation>السمة «%1» ناقصة</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_VALUE</source>
+        <translation>للسمة «%1» قيمة غير ممكنة</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_TOO_MANY</source>
+        <translation>عناصر «%1» أكثر مما يجوز</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_UNDO_DAMAGE</source>
+        <translation>يعيد «تراجع» آخر قائمة أمكنت قراءتها.</translation>
     </message>
 </context>
 </TS>

@@ -256,6 +256,11 @@ Allowed are letters, digits and these signs:
         <translation>The plug-in that keeps the list is not available, so no network can be put on top of it.</translation>
     </message>
     <message>
+        <source>IDS_CLOSE</source>
+        <extracomment>Button</extracomment>
+        <translation>Close</translation>
+    </message>
+    <message>
         <source>IDS_SETTINGS_TITLE</source>
         <translation>Settings</translation>
     </message>
@@ -482,6 +487,381 @@ Expected: %3</translation>
     <message>
         <source>IDS_NOTE_STORED_STANDS_IN</source>
         <translation>There is no NetworkManager to work with. These are networks of the dashboard’s own; this computer’s are left alone.</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_EDIT</source>
+        <translation>&amp;Edit</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_UNDO</source>
+        <translation>&amp;Undo</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_REDO</source>
+        <translation>&amp;Redo</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_RESTORE</source>
+        <translation>Re&amp;store…</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_IMPORT</source>
+        <translation>&amp;Import order…</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_EXPORT</source>
+        <translation>&amp;Export order…</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_UNDO</source>
+        <translation>Undo</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_REDO</source>
+        <translation>Redo</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_RESTORE</source>
+        <translation>Restore…</translation>
+    </message>
+    <message>
+        <source>IDS_UNDO_WHAT</source>
+        <extracomment>%1: a change, such as Moved Café up</extracomment>
+        <translation>Undo: %1</translation>
+    </message>
+    <message>
+        <source>IDS_REDO_WHAT</source>
+        <extracomment>%1: a change, such as Moved Café up</extracomment>
+        <translation>Redo: %1</translation>
+    </message>
+    <message>
+        <source>IDS_UNDO_NOTHING</source>
+        <translation>There is no earlier list to go back to.</translation>
+    </message>
+    <message>
+        <source>IDS_REDO_NOTHING</source>
+        <translation>Nothing was undone, so there is nothing to redo.</translation>
+    </message>
+    <message>
+        <source>IDS_REDO_DAMAGED</source>
+        <translation>The file with your list is damaged. “Undo” brings back the last list that could be read.</translation>
+    </message>
+    <message>
+        <source>IDS_UNDO_NO_PLUGIN</source>
+        <translation>The plug-in that keeps the list is not available, so the list cannot be changed.</translation>
+    </message>
+    <message>
+        <source>IDS_LAST_CHANGE</source>
+        <extracomment>%1: a change, such as Moved Café up; %2: date and time</extracomment>
+        <translation>Last change: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_NONE</source>
+        <translation>Nothing changed</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_EMPTIED</source>
+        <translation>Deleted all entries</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_DAMAGED</source>
+        <translation>The file was damaged</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_ADDED_ONE</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>Added %1</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_ADDED_MANY</source>
+        <extracomment>%1: a number, two or more</extracomment>
+        <translation>Added %1 entries</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_DELETED_ONE</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>Deleted %1</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_DELETED_MANY</source>
+        <extracomment>%1: a number, two or more</extracomment>
+        <translation>Deleted %1 entries</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_MOVED_UP</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>Moved %1 up</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_MOVED_DOWN</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>Moved %1 down</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_MOVED_TOP</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>Moved %1 to the top</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_MOVED_END</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>Moved %1 to the end</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_MOVED_MANY</source>
+        <extracomment>%1: a number, two or more</extracomment>
+        <translation>Moved %1 entries</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_UNNAMED</source>
+        <extracomment>In place of a network's name that is empty</extracomment>
+        <translation>(no name)</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_TITLE</source>
+        <translation>Restore an earlier list</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_HINT</source>
+        <translation>Choose how your list should be again. No other state is lost by that.</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_TIME</source>
+        <extracomment>Heading of a column</extracomment>
+        <translation>When</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_CHANGE</source>
+        <extracomment>Heading of a column</extracomment>
+        <translation>What changed</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_STATUS</source>
+        <extracomment>Heading of a narrow column</extracomment>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_NOW</source>
+        <extracomment>In a narrow column: the list as it is now</extracomment>
+        <translation>Now</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_UNDONE</source>
+        <extracomment>In a narrow column: this change was undone</extracomment>
+        <translation>Undone</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_OLDEST</source>
+        <extracomment>In place of a change</extracomment>
+        <translation>Oldest list that was kept</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_PREVIEW</source>
+        <extracomment>Label above the chosen list</extracomment>
+        <translation>The list then</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_EFFECT</source>
+        <extracomment>%1: a change, such as Moved Café up</extracomment>
+        <translation>What restoring does: %1</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_IS_NOW</source>
+        <translation>This is the list as it is now.</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_OK</source>
+        <extracomment>Button</extracomment>
+        <translation>Restore</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_ASIDE</source>
+        <extracomment>Button</extracomment>
+        <translation>Set it aside and begin anew</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_GONE</source>
+        <translation>That list is no longer kept. Choose another.</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_TITLE</source>
+        <translation>Import an order</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_HINT</source>
+        <translation>Takes a list from a file. You see first what would change.</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_SUMMARY</source>
+        <extracomment>%1: a change, such as Added 3 entries</extracomment>
+        <translation>What the import does: %1</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_NO_CHANGE</source>
+        <translation>Your list is in this order already. There is nothing to import.</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_PLACE</source>
+        <extracomment>Heading of a narrow column with numbers</extracomment>
+        <translation>Place</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_EFFECT</source>
+        <extracomment>Heading of a column</extracomment>
+        <translation>What happens</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_STAYS</source>
+        <translation>Stays</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_ADDED</source>
+        <translation>Added</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_MOVED_UP</source>
+        <translation>Moves up</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_MOVED_DOWN</source>
+        <translation>Moves down</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_MOVED</source>
+        <translation>Others move around it</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_REMOVED</source>
+        <translation>Removed from the list</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_EFFECT_UNKNOWN</source>
+        <extracomment>%1: what happens, such as Added</extracomment>
+        <translation>%1; not known here</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_UNKNOWN</source>
+        <extracomment>%1: names of networks</extracomment>
+        <translation>Not known on this computer: %1. An entry like that is used only once the network has been set up here.</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_OK</source>
+        <extracomment>Button</extracomment>
+        <translation>Import</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_NOT_READABLE</source>
+        <extracomment>%1: path of a file</extracomment>
+        <translation>The file %1 cannot be read, or is far too large for a list. Your list is as it was.</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_DAMAGED</source>
+        <extracomment>%1: path of a file; %2: where and why</extracomment>
+        <translation>The file %1 is no list of networks that can be imported. %2. Your list is as it was.</translation>
+    </message>
+    <message>
+        <source>IDS_EXPORT_TITLE</source>
+        <translation>Export the order</translation>
+    </message>
+    <message>
+        <source>IDS_EXPORT_HINT</source>
+        <translation>Writes the order of your list to a file, without any keys.</translation>
+    </message>
+    <message>
+        <source>IDS_EXPORT_FILE_NAME</source>
+        <extracomment>A file name that is proposed</extracomment>
+        <translation>network-order.xml</translation>
+    </message>
+    <message>
+        <source>IDS_EXPORT_NOT_WRITTEN</source>
+        <extracomment>%1: path of a file</extracomment>
+        <translation>The file %1 cannot be written. What was there before is as it was.</translation>
+    </message>
+    <message>
+        <source>IDS_ORDER_FILES</source>
+        <extracomment>Kind of files in a file dialog</extracomment>
+        <translation>Orders of networks</translation>
+    </message>
+    <message>
+        <source>IDS_ALL_FILES</source>
+        <extracomment>Kind of files in a file dialog</extracomment>
+        <translation>All files</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_NOT_WRITTEN</source>
+        <extracomment>%1: path of a file</extracomment>
+        <translation>The list cannot be written to %1. See whether the disk is full or the file protected.</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_NOT_KEPT</source>
+        <extracomment>%1: path of a file</extracomment>
+        <translation>The damaged file %1 cannot be copied for safekeeping, so it was left alone.</translation>
+    </message>
+    <message>
+        <source>IDS_HISTORY_DAMAGED</source>
+        <extracomment>%1: path of a file; %2: where and why</extracomment>
+        <translation>The file with the earlier lists, %1, is damaged and was left alone. %2. Until it is set aside under “Restore…”, nothing can be undone.</translation>
+    </message>
+    <message>
+        <source>IDS_HISTORY_NOT_READABLE</source>
+        <extracomment>%1: path of a file</extracomment>
+        <translation>The file with the earlier lists, %1, cannot be read and was left alone. Until it can be, or is set aside under “Restore…”, nothing can be undone.</translation>
+    </message>
+    <message>
+        <source>IDS_HISTORY_NOT_WRITABLE</source>
+        <extracomment>%1: path of a file</extracomment>
+        <translation>Earlier lists cannot be kept in %1. What you change can be undone only until the program ends.</translation>
+    </message>
+    <message>
+        <source>IDS_HISTORY_BUSY</source>
+        <translation>Another program is working with the earlier lists. Try again in a moment.</translation>
+    </message>
+    <message>
+        <source>IDS_HISTORY_NOT_SET_ASIDE</source>
+        <extracomment>%1: path of a file</extracomment>
+        <translation>The file %1 cannot be renamed, so it was left alone.</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_LINE</source>
+        <extracomment>%1: number of a line; %2: what is wrong there</extracomment>
+        <translation>Line %1: %2</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_XML</source>
+        <translation>this is not well-formed XML</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_DECLARATION</source>
+        <translation>a document type declaration does not belong there</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_ELEMENT</source>
+        <extracomment>%1: name of an XML element</extracomment>
+        <translation>the element “%1” does not belong there</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_TEXT</source>
+        <translation>text does not belong there</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_ATTRIBUTE</source>
+        <extracomment>%1: name of an XML attribute</extracomment>
+        <translation>the attribute “%1” is missing</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_VALUE</source>
+        <extracomment>%1: name of an XML attribute</extracomment>
+        <translation>the attribute “%1” has a value that is not possible</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_TOO_MANY</source>
+        <extracomment>%1: name of an XML element</extracomment>
+        <translation>there are too many elements “%1”</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_UNDO_DAMAGE</source>
+        <extracomment>Follows the message that the file with the list is damaged</extracomment>
+        <translation>“Undo” brings back the last list that could be read.</translation>
     </message>
 </context>
 </TS>

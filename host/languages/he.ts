@@ -233,6 +233,10 @@
         <translation>התוסף ששומר את הרשימה אינו זמין, ולכן לא ניתן להעביר רשת לראשה.</translation>
     </message>
     <message>
+        <source>IDS_CLOSE</source>
+        <translation>סגירה</translation>
+    </message>
+    <message>
         <source>IDS_SETTINGS_TITLE</source>
         <translation>הגדרות</translation>
     </message>
@@ -455,6 +459,334 @@
     <message>
         <source>IDS_NOTE_STORED_STANDS_IN</source>
         <translation>אין &#x202a;NetworkManager&#x202c; לעבוד איתו. אלה רשתות של הלוח בלבד; הרשתות של המחשב אינן משתנות.</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_EDIT</source>
+        <translation>&amp;עריכה</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_UNDO</source>
+        <translation>&amp;ביטול פעולה</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_REDO</source>
+        <translation>&amp;ביצוע חוזר</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_RESTORE</source>
+        <translation>&amp;שחזור…</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_IMPORT</source>
+        <translation>י&amp;יבוא סדר…</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_EXPORT</source>
+        <translation>יי&amp;צוא סדר…</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_UNDO</source>
+        <translation>ביטול פעולה</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_REDO</source>
+        <translation>ביצוע חוזר</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_RESTORE</source>
+        <translation>שחזור…</translation>
+    </message>
+    <message>
+        <source>IDS_UNDO_WHAT</source>
+        <translation>ביטול פעולה: %1</translation>
+    </message>
+    <message>
+        <source>IDS_REDO_WHAT</source>
+        <translation>ביצוע חוזר: %1</translation>
+    </message>
+    <message>
+        <source>IDS_UNDO_NOTHING</source>
+        <translation>אין רשימה קודמת לחזור אליה.</translation>
+    </message>
+    <message>
+        <source>IDS_REDO_NOTHING</source>
+        <translation>דבר לא בוטל, ולכן אין מה לבצע שוב.</translation>
+    </message>
+    <message>
+        <source>IDS_REDO_DAMAGED</source>
+        <translation>הקובץ עם הרשימה פגום. „ביטול פעולה” מחזיר את הרשימה האחרונה שניתן היה לקרוא.</translation>
+    </message>
+    <message>
+        <source>IDS_UNDO_NO_PLUGIN</source>
+        <translation>התוסף ששומר את הרשימה אינו זמין, ולכן אי אפשר לשנות אותה.</translation>
+    </message>
+    <message>
+        <source>IDS_LAST_CHANGE</source>
+        <translation>השינוי האחרון: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_NONE</source>
+        <translation>דבר לא השתנה</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_EMPTIED</source>
+        <translation>נמחקו כל הרשומות</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_DAMAGED</source>
+        <translation>הקובץ נפגם</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_ADDED_ONE</source>
+        <translation>%1 נוספה</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_ADDED_MANY</source>
+        <translation>רשומות שנוספו: %1</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_DELETED_ONE</source>
+        <translation>%1 נמחקה</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_DELETED_MANY</source>
+        <translation>רשומות שנמחקו: %1</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_MOVED_UP</source>
+        <translation>%1 הועברה למעלה</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_MOVED_DOWN</source>
+        <translation>%1 הועברה למטה</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_MOVED_TOP</source>
+        <translation>%1 הועברה לראש הרשימה</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_MOVED_END</source>
+        <translation>%1 הועברה לסוף הרשימה</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_MOVED_MANY</source>
+        <translation>רשומות שהועברו: %1</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_UNNAMED</source>
+        <translation>(ללא שם)</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_TITLE</source>
+        <translation>שחזור רשימה קודמת</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_HINT</source>
+        <translation>בחר איך הרשימה תהיה שוב. שום מצב אחר לא יאבד בכך.</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_TIME</source>
+        <translation>מתי</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_CHANGE</source>
+        <translation>מה השתנה</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_STATUS</source>
+        <translation>מצב</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_NOW</source>
+        <translation>עכשיו</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_UNDONE</source>
+        <translation>בוטל</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_OLDEST</source>
+        <translation>הרשימה הישנה ביותר שנשמרה</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_PREVIEW</source>
+        <translation>הרשימה אז</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_EFFECT</source>
+        <translation>מה השחזור עושה: %1</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_IS_NOW</source>
+        <translation>זו הרשימה כפי שהיא עכשיו.</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_OK</source>
+        <translation>שחזור</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_ASIDE</source>
+        <translation>הנח אותו בצד והתחל מחדש</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_GONE</source>
+        <translation>רשימה זו כבר אינה שמורה. בחר אחרת.</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_TITLE</source>
+        <translation>ייבוא סדר</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_HINT</source>
+        <translation>לוקח רשימה מקובץ. תראה קודם מה ישתנה.</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_SUMMARY</source>
+        <translation>מה הייבוא עושה: %1</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_NO_CHANGE</source>
+        <translation>הרשימה כבר בסדר הזה. אין מה לייבא.</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_PLACE</source>
+        <translation>מקום</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_EFFECT</source>
+        <translation>מה קורה</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_STAYS</source>
+        <translation>נשארת</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_ADDED</source>
+        <translation>מתווספת</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_MOVED_UP</source>
+        <translation>עולה</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_MOVED_DOWN</source>
+        <translation>יורדת</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_MOVED</source>
+        <translation>אחרות זזות סביבה</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_REMOVED</source>
+        <translation>מוסרת מהרשימה</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_EFFECT_UNKNOWN</source>
+        <translation>%1; לא מוכרת כאן</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_UNKNOWN</source>
+        <translation>לא מוכרות במחשב הזה: %1. רשומה כזו תשמש רק לאחר שהרשת תוגדר כאן.</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_OK</source>
+        <translation>ייבוא</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_NOT_READABLE</source>
+        <translation>לא ניתן לקרוא את הקובץ %1, או שהוא גדול מדי לרשימה. הרשימה שלך כפי שהייתה.</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_DAMAGED</source>
+        <translation>הקובץ %1 אינו רשימת רשתות שאפשר לייבא. %2. הרשימה שלך כפי שהייתה.</translation>
+    </message>
+    <message>
+        <source>IDS_EXPORT_TITLE</source>
+        <translation>ייצוא הסדר</translation>
+    </message>
+    <message>
+        <source>IDS_EXPORT_HINT</source>
+        <translation>כותב את סדר הרשימה לקובץ, בלי שום מפתחות.</translation>
+    </message>
+    <message>
+        <source>IDS_EXPORT_FILE_NAME</source>
+        <translation>network-order.xml</translation>
+    </message>
+    <message>
+        <source>IDS_EXPORT_NOT_WRITTEN</source>
+        <translation>לא ניתן לכתוב את הקובץ %1. מה שהיה שם קודם נשאר כפי שהיה.</translation>
+    </message>
+    <message>
+        <source>IDS_ORDER_FILES</source>
+        <translation>סדרי רשתות</translation>
+    </message>
+    <message>
+        <source>IDS_ALL_FILES</source>
+        <translation>כל הקבצים</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_NOT_WRITTEN</source>
+        <translation>לא ניתן לכתוב את הרשימה אל %1. בדוק אם הדיסק מלא או שהקובץ מוגן.</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_NOT_KEPT</source>
+        <translation>לא ניתן להעתיק את הקובץ הפגום %1 לשמירה, ולכן הוא נשאר כפי שהוא.</translation>
+    </message>
+    <message>
+        <source>IDS_HISTORY_DAMAGED</source>
+        <translation>הקובץ עם הרשימות הקודמות, %1, פגום ונשאר כפי שהוא. %2. עד שיונח בצד תחת „שחזור…” אי אפשר לבטל דבר.</translation>
+    </message>
+    <message>
+        <source>IDS_HISTORY_NOT_READABLE</source>
+        <translation>לא ניתן לקרוא את הקובץ עם הרשימות הקודמות, %1, והוא נשאר כפי שהוא. עד שניתן יהיה, או שיונח בצד תחת „שחזור…”, אי אפשר לבטל דבר.</translation>
+    </message>
+    <message>
+        <source>IDS_HISTORY_NOT_WRITABLE</source>
+        <translation>לא ניתן לשמור רשימות קודמות אל %1. מה שתשנה ניתן לביטול רק עד סיום התוכנית.</translation>
+    </message>
+    <message>
+        <source>IDS_HISTORY_BUSY</source>
+        <translation>תוכנית אחרת עובדת עם הרשימות הקודמות. נסה שוב בעוד רגע.</translation>
+    </message>
+    <message>
+        <source>IDS_HISTORY_NOT_SET_ASIDE</source>
+        <translation>לא ניתן לשנות את שם הקובץ %1, ולכן הוא נשאר כפי שהוא.</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_LINE</source>
+        <translation>שורה %1: %2</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_XML</source>
+        <translation>זה אינו XML תקין</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_DECLARATION</source>
+        <translation>הצהרה על סוג המסמך אינה שייכת לשם</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_ELEMENT</source>
+        <translation>הרכיב „%1” אינו שייך לשם</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_TEXT</source>
+        <translation>טקסט אינו שייך לשם</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_ATTRIBUTE</source>
+        <translation>התכונה „%1” חסרה</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_VALUE</source>
+        <translation>לתכונה „%1” יש ערך שאינו אפשרי</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_TOO_MANY</source>
+        <translation>יש יותר מדי רכיבי „%1”</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_UNDO_DAMAGE</source>
+        <translation>„ביטול פעולה” מחזיר את הרשימה האחרונה שניתן היה לקרוא.</translation>
     </message>
 </context>
 </TS>

@@ -1,0 +1,289 @@
+#include "HistoryFile.h"
+
+#include "ListEntries.h"
+#include "StrictXmlReader.h"
+
+#include <PrivateFile.h>
+
+#include <QFile>
+#include <QFileInfo>
+#include <QHash>
+#include <QPair>
+#include <QStringList>
+#include <QXmlStreamWriter>
+
+#include <sys/stat.h>
+
+namespace
+{
+
+const char version[] = "1";
+const mode_t ownerOnlyDirectory = S_IRWXU;
+
+/** The entries of all states, each once, with their places. */
+class EntryTable
+{
+public:
+    explicit EntryTable(const QList<ListState> &states)
+    {
+        for (int i = 0; i < states.size(); ++i) {
+            AddOrder(states.at(i).entries);
+        }
+    }
+
+    const QList<PriorityList> &Entries() const { return m_entries; }
+    QByteArray Order(int state) const { return m_orders.at(state); }
+
+private:
+    void AddOrder(const QList<PriorityList> &entries)
+    {
+        QByteArray order;
+        for (int i = 0; i < entries.size(); ++i) {
+            order += QByteArray::number(PlaceOf(entries.at(i))) + ' ';
+        }
+        order.chop(1);
+        m_orders.append(order);
+    }
+
+    int PlaceOf(const PriorityList &entry)
+    {
+        const QPair<QString, QString> key(entry.name, entry.type);
+        const QHash<QPair<QString, QString>, int>::const_iterator known = m_places.constFind(key);
+        if (known != m_places.constEnd()) {
+            return known.value();
+        }
+        m_places.insert(key, m_entries.size());
+        m_entries.append(entry);
+        return m_entries.size() - 1;
+    }
+
+    QList<PriorityList> m_entries;
+    QList<QByteArray> m_orders;
+    QHash<QPair<QString, QString>, int> m_places;
+};
+
+/** The number that text is, when it is one of 0 to count - 1; otherwise -1. */
+int PlaceIn(const QString &text, int count)
+{
+    bool isNumber = false;
+    const int place = text.toInt(&isNumber);
+    return isNumber && place >= 0 && place < count ? place : -1;
+}
+
+QList<PriorityList> ReadEntries(StrictXmlReader *reader)
+{
+    QList<PriorityList> entries;
+    if (reader->NextElement("entries")) {
+        while (reader->NextElement("item")) {
+            PriorityList entry;
+            entry.name = reader->Value("name");
+            entry.type = reader->Value("type");
+            reader->Leave();
+            entries.append(entry);
+        }
+    }
+    return entries;
+}
+
+void ReadState(StrictXmlReader *reader, const QList<PriorityList> &table, QList<ListState> *states)
+{
+    ListState state;
+    state.time = QDateTime::fromString(reader->Value("time"), Qt::ISODate);
+    if (!state.time.isValid()) {
+        reader->Refuse(FileFault::WrongValue, QLatin1String("time"));
+    }
+    const QString order = reader->Value("order");
+    const QStringList places = order.isEmpty() ? QStringList() : order.split(QLatin1Char(' '));
+    for (int i = 0; i < places.size() && !reader->HasFault(); ++i) {
+        const int place = PlaceIn(places.at(i), table.size());
+        if (place < 0) {
+            reader->Refuse(FileFault::WrongValue, QLatin1String("order"));
+        } else {
+            state.entries.append(table.at(place));
+        }
+    }
+    if (states->size() == ListHistory::Limit) {
+        reader->Refuse(FileFault::TooMany, reader->Name());
+    }
+    reader->Leave();
+    states->append(state);
+}
+
+} // namespace
+
+bool HistoryFile::Stamp::operator==(const Stamp &other) const
+{
+    return device == other.device && node == other.node && size == other.size && seconds == other.seconds &&
+           nanoseconds == other.nanoseconds;
+}
+
+HistoryFile::HistoryFile(const QString &userData)
+    : m_directory(userData.isEmpty() ? QString() : userData + QLatin1String("history")), m_wasLoaded(false),
+      m_trouble(NoTrouble)
+{
+}
+
+QString HistoryFile::Path() const
+{
+    return m_directory + QLatin1String("/states.xml");
+}
+
+bool HistoryFile::Prepare() const
+{
+    const QByteArray directory = QFile::encodeName(m_directory);
+    struct stat status;
+    return !m_directory.isEmpty() && (mkdir(directory.constData(), ownerOnlyDirectory) == 0 ||
+                                      (stat(directory.constData(), &status) == 0 && S_ISDIR(status.st_mode)));
+}
+
+HistoryFile::Stamp HistoryFile::StampOnDisk() const
+{
+    Stamp stamp;
+    struct stat status;
+    if (!m_directory.isEmpty() && lstat(QFile::encodeName(Path()).constData(), &status) == 0) {
+        stamp.device = status.st_dev;
+        stamp.node = status.st_ino;
+        stamp.size = status.st_size;
+        stamp.seconds = status.st_mtim.tv_sec;
+        stamp.nanoseconds = status.st_mtim.tv_nsec;
+    }
+    return stamp;
+}
+
+bool HistoryFile::HasChanged() const
+{
+    return !m_wasLoaded || !(StampOnDisk() == m_stamp);
+}
+
+bool HistoryFile::Load(ListHistory *history)
+{
+    if (!HasChanged()) {
+        return m_trouble != Damaged && m_trouble != NotReadable;
+    }
+    const Stamp stamp = StampOnDisk();
+    QByteArray bytes;
+    unsigned int permissions = 0;
+    ListHistory loaded;
+    m_fault = FileFault();
+    m_trouble = NoTrouble;
+    const bool canBeThere = !m_directory.isEmpty() && QFileInfo(m_directory).isDir();
+    switch (canBeThere ? PrivateFile::Read(Path(), &bytes, largestFile, &permissions)
+                       : PrivateFile::OutcomeMissing) {
+    case PrivateFile::OutcomeMissing:
+        break;
+    case PrivateFile::OutcomeDone:
+        m_fault = Parse(bytes, &loaded);
+        m_trouble = m_fault.kind == FileFault::None ? NoTrouble : Damaged;
+        break;
+    default:
+        m_trouble = NotReadable;
+        break;
+    }
+    m_stamp = stamp;
+    m_wasLoaded = true;
+    if (m_trouble != NoTrouble) {
+        return false;
+    }
+    *history = loaded;
+    return true;
+}
+
+bool HistoryFile::Save(ListHistory *history)
+{
+    QByteArray document = Document(*history);
+    while (document.size() > largestFile && history->Shorten()) {
+        document = Document(*history);
+    }
+    const bool isSaved = !m_directory.isEmpty() && document.size() <= largestFile &&
+                         PrivateFile::Replace(Path(), document) == PrivateFile::OutcomeDone;
+    m_trouble = isSaved ? NoTrouble : NotWritable;
+    m_stamp = StampOnDisk();
+    m_wasLoaded = true;
+    return isSaved;
+}
+
+QString HistoryFile::SetAside()
+{
+    const int names = 1000;
+    for (int i = 1; i <= names; ++i) {
+        const QString path = m_directory + QString::fromLatin1("/states-damaged-%1.xml").arg(i);
+        // Unlike the system's, this renaming puts nothing in the place of an earlier file.
+        if (!QFile::exists(path) && QFile::rename(Path(), path)) {
+            m_wasLoaded = false;
+            return path;
+        }
+    }
+    return QString();
+}
+
+QByteArray HistoryFile::Document(const ListHistory &history)
+{
+    const QList<ListState> &states = history.States();
+    const EntryTable table(states);
+    QByteArray document;
+    QXmlStreamWriter writer(&document);
+    writer.setAutoFormatting(true);
+    writer.writeStartDocument();
+    writer.writeStartElement(QLatin1String("listhistory"));
+    writer.writeAttribute(QLatin1String("version"), QLatin1String(version));
+    writer.writeAttribute(QLatin1String("current"), QString::number(history.Position()));
+    if (history.Target() >= 0) {
+        writer.writeAttribute(QLatin1String("target"), QString::number(history.Target()));
+    }
+    writer.writeStartElement(QLatin1String("entries"));
+    for (int i = 0; i < table.Entries().size(); ++i) {
+        writer.writeEmptyElement(QLatin1String("item"));
+        writer.writeAttribute(QLatin1String("name"), table.Entries().at(i).name);
+        writer.writeAttribute(QLatin1String("type"), table.Entries().at(i).type);
+    }
+    writer.writeEndElement();
+    writer.writeStartElement(QLatin1String("states"));
+    for (int i = 0; i < states.size(); ++i) {
+        writer.writeEmptyElement(QLatin1String("state"));
+        writer.writeAttribute(QLatin1String("time"), states.at(i).time.toUTC().toString(Qt::ISODate));
+        writer.writeAttribute(QLatin1String("order"), QString::fromLatin1(table.Order(i)));
+    }
+    writer.writeEndDocument();
+    return document;
+}
+
+FileFault HistoryFile::Parse(const QByteArray &bytes, ListHistory *history)
+{
+    StrictXmlReader reader(bytes);
+    QList<ListState> states;
+    int position = -1;
+    int target = -1;
+    if (reader.NextElement("listhistory")) {
+        if (reader.Value("version") != QLatin1String(version)) {
+            reader.Refuse(FileFault::WrongValue, QLatin1String("version"));
+        }
+        const qint64 line = reader.Line();
+        position = PlaceIn(reader.Value("current"), ListHistory::Limit);
+        const bool hasTarget = reader.Has("target");
+        target = hasTarget ? PlaceIn(reader.Value("target"), ListHistory::Limit) : -1;
+        const QList<PriorityList> table = ReadEntries(&reader);
+        if (reader.NextElement("states")) {
+            while (reader.NextElement("state")) {
+                ReadState(&reader, table, &states);
+            }
+        }
+        if (position < 0 || position >= states.size()) {
+            reader.RefuseLine(line, FileFault::WrongValue, QLatin1String("current"));
+        }
+        if (hasTarget && (target < 0 || target >= states.size())) {
+            reader.RefuseLine(line, FileFault::WrongValue, QLatin1String("target"));
+        }
+        reader.Leave();
+        reader.Leave();
+    }
+    if (!reader.HasFault()) {
+        ListHistory parsed;
+        for (int i = 0; i < states.size(); ++i) {
+            parsed.Record(states.at(i));
+        }
+        parsed.GoTo(position);
+        parsed.SetTarget(target);
+        *history = parsed;
+    }
+    return reader.Fault();
+}

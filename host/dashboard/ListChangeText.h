@@ -1,0 +1,25 @@
+#ifndef LISTCHANGETEXT_H
+#define LISTCHANGETEXT_H
+
+#include <PriorityList.h>
+
+#include <QDateTime>
+#include <QList>
+#include <QString>
+
+/** Changes of the priority list in words of the current language. */
+namespace ListChangeText
+{
+
+/** Such as "Moved Café up" or "Added 3 entries · Deleted Office"; one line whatever the names hold. */
+QString Describe(const QList<PriorityList> &before, const QList<PriorityList> &after);
+
+/** An entry's name on one line, shortened when it is long, reading in its own direction. */
+QString Name(const PriorityList &entry);
+
+/** Date and time of day as the speakers of the current language write them, short. */
+QString Moment(const QDateTime &time);
+
+} // namespace ListChangeText
+
+#endif

@@ -1,0 +1,335 @@
+#include "ListKeeper.h"
+
+#include "BidiText.h"
+#include "DashboardText.h"
+#include "ListChangeText.h"
+#include "ListEntries.h"
+#include "OrderFile.h"
+#include "PluginObjects.h"
+#include "PriorityResult.h"
+
+#include <IPriorityPlugin.h>
+#include <PrivateFile.h>
+
+#include <QFile>
+#include <QFileInfo>
+
+namespace
+{
+
+QDateTime WholeSeconds(const QDateTime &time)
+{
+    const QDateTime utc = time.toUTC();
+    return utc.addMSecs(-utc.time().msec());
+}
+
+} // namespace
+
+class ListKeeper::Session
+{
+public:
+    explicit Session(ListKeeper *keeper)
+        : m_keeper(keeper), m_isDirectoryThere(keeper->m_file.Prepare()), m_lock(keeper->m_file.Directory())
+    {
+        m_keeper->m_isBusy = true;
+        // Where nothing can be kept there is nobody to share it with: the history lives as long as the
+        // program.
+        m_keeper->m_isHeldByOther = m_isDirectoryThere && !m_lock.IsHeld();
+        m_isUsable = !m_keeper->m_isHeldByOther && m_keeper->m_file.Load(&m_keeper->m_history);
+        m_keeper->ReadList();
+        if (m_isUsable) {
+            m_keeper->FinishInterrupted();
+            m_keeper->RecordIfNew();
+        }
+    }
+
+    ~Session()
+    {
+        m_keeper->m_isBusy = false;
+        emit m_keeper->Changed();
+    }
+
+    bool IsUsable() const { return m_isUsable; }
+
+private:
+    Q_DISABLE_COPY(Session)
+
+    ListKeeper *const m_keeper;
+    const bool m_isDirectoryThere;
+    const DirectoryLock m_lock;
+    bool m_isUsable;
+};
+
+ListKeeper::ListKeeper(const QString &userData, QObject *parent)
+    : QObject(parent), m_listPath(userData + QLatin1String("Priority.xml")), m_file(userData),
+      m_reading(NoPlugin), m_isBusy(false), m_isHeldByOther(false)
+{
+    Follow();
+}
+
+void ListKeeper::Follow()
+{
+    // The keeper's own change is told like any other.
+    if (m_isBusy) {
+        return;
+    }
+    const Reading before = m_reading;
+    ReadList();
+    if (m_reading == NoPlugin) {
+        if (before != NoPlugin) {
+            emit Changed();
+        }
+        return;
+    }
+    if (IsListNew() || m_isHeldByOther || m_file.HasChanged()) {
+        const Session session(this);
+    } else if (m_reading != before) {
+        emit Changed();
+    }
+}
+
+void ListKeeper::ReadList()
+{
+    IPriorityPlugin *priority = PluginObjects::Priority();
+    QList<PriorityList> entries;
+    const int status = priority ? priority->GetPriorityList(&entries) : PriorityMissing;
+    if (!priority) {
+        m_reading = NoPlugin;
+    } else if (status == PriorityRead || status == PriorityMissing) {
+        m_reading = Readable;
+    } else {
+        m_reading = status == PriorityDamaged ? Damaged : NotOpened;
+    }
+    m_entries = ListEntries::Storable(entries);
+}
+
+bool ListKeeper::IsListNew() const
+{
+    return m_reading == Readable &&
+           (m_history.IsEmpty() || !ListEntries::IsSame(m_entries, m_history.Entries()));
+}
+
+void ListKeeper::RecordIfNew()
+{
+    if (IsListNew()) {
+        ListState state;
+        state.time = TimeOfChange();
+        state.entries = m_entries;
+        m_history.Record(state);
+        m_file.Save(&m_history);
+    }
+}
+
+/** The file tells when a change was made that nobody watched. */
+QDateTime ListKeeper::TimeOfChange() const
+{
+    const QDateTime now = QDateTime::currentDateTime();
+    const QFileInfo file(m_listPath);
+    const QDateTime written = file.lastModified();
+    const bool isLikely =
+        file.exists() && written <= now &&
+        (m_history.IsEmpty() || written >= m_history.States().at(m_history.Position()).time);
+    return WholeSeconds(isLikely ? written : now);
+}
+
+QString ListKeeper::ChangeObstacle() const
+{
+    if (m_reading == NoPlugin) {
+        return DashboardText("IDS_UNDO_NO_PLUGIN");
+    }
+    if (m_reading == NotOpened) {
+        return DashboardText("IDS_LIST_NOT_OPENED");
+    }
+    return IsHistoryUnusable() ? ProblemText() : QString();
+}
+
+QString ListKeeper::UndoObstacle() const
+{
+    const QString obstacle = ChangeObstacle();
+    if (!obstacle.isNull()) {
+        return obstacle;
+    }
+    const bool canUndo = m_reading == Damaged ? !m_history.IsEmpty() : m_history.CanUndo();
+    return canUndo ? QString() : DashboardText("IDS_UNDO_NOTHING");
+}
+
+QString ListKeeper::RedoObstacle() const
+{
+    const QString obstacle = ChangeObstacle();
+    if (!obstacle.isNull()) {
+        return obstacle;
+    }
+    if (m_reading == Damaged) {
+        return DashboardText("IDS_REDO_DAMAGED");
+    }
+    return m_history.CanRedo() ? QString() : DashboardText("IDS_REDO_NOTHING");
+}
+
+QString ListKeeper::UndoText() const
+{
+    if (!UndoObstacle().isNull()) {
+        return QString();
+    }
+    if (m_reading == Damaged) {
+        return DashboardText("IDS_CHANGE_DAMAGED");
+    }
+    const QList<ListState> &states = m_history.States();
+    const int position = m_history.Position();
+    return ListChangeText::Describe(states.at(position - 1).entries, states.at(position).entries);
+}
+
+QString ListKeeper::RedoText() const
+{
+    if (!RedoObstacle().isNull()) {
+        return QString();
+    }
+    const QList<ListState> &states = m_history.States();
+    const int position = m_history.Position();
+    return ListChangeText::Describe(states.at(position).entries, states.at(position + 1).entries);
+}
+
+QString ListKeeper::LastChangeText() const
+{
+    if (!UndoObstacle().isNull() || m_reading == Damaged) {
+        return QString();
+    }
+    const ListState &state = m_history.States().at(m_history.Position());
+    return DashboardText("IDS_LAST_CHANGE").arg(UndoText(), ListChangeText::Moment(state.time));
+}
+
+QString ListKeeper::Undo()
+{
+    const Session session(this);
+    const QString obstacle = m_isHeldByOther ? DashboardText("IDS_HISTORY_BUSY") : UndoObstacle();
+    if (!obstacle.isNull()) {
+        return obstacle;
+    }
+    return GoTo(m_reading == Damaged ? m_history.Position() : m_history.Position() - 1);
+}
+
+QString ListKeeper::Redo()
+{
+    const Session session(this);
+    const QString obstacle = m_isHeldByOther ? DashboardText("IDS_HISTORY_BUSY") : RedoObstacle();
+    return obstacle.isNull() ? GoTo(m_history.Position() + 1) : obstacle;
+}
+
+QString ListKeeper::Restore(int place, const ListState &state)
+{
+    const Session session(this);
+    const QString obstacle = m_isHeldByOther ? DashboardText("IDS_HISTORY_BUSY") : ChangeObstacle();
+    if (!obstacle.isNull()) {
+        return obstacle;
+    }
+    const int position = m_history.Find(place, state);
+    return position < 0 ? DashboardText("IDS_RESTORE_GONE") : GoTo(position);
+}
+
+QString ListKeeper::Replace(const QList<PriorityList> &entries)
+{
+    const Session session(this);
+    const QString obstacle = m_isHeldByOther ? DashboardText("IDS_HISTORY_BUSY") : ChangeObstacle();
+    if (!obstacle.isNull()) {
+        return obstacle;
+    }
+    QString problem = Write(ListEntries::Storable(entries));
+    RecordIfNew();
+    return problem;
+}
+
+QString ListKeeper::GoTo(int position)
+{
+    const QList<PriorityList> entries = m_history.States().at(position).entries;
+    m_history.SetTarget(position);
+    m_file.Save(&m_history);
+    QString problem = Write(entries);
+    if (problem.isNull()) {
+        m_history.GoTo(m_history.Target());
+    } else {
+        m_history.SetTarget(-1);
+    }
+    m_file.Save(&m_history);
+    RecordIfNew();
+    return problem;
+}
+
+void ListKeeper::FinishInterrupted()
+{
+    if (m_history.Target() < 0 || m_reading == NoPlugin) {
+        return;
+    }
+    const QList<PriorityList> entries = m_history.States().at(m_history.Target()).entries;
+    const bool isCutShort = m_reading == Damaged || !QFile::exists(m_listPath);
+    if (isCutShort && !Write(entries).isNull()) {
+        return;
+    }
+    const bool hasArrived = m_reading == Readable && ListEntries::IsSame(m_entries, entries);
+    m_history.GoTo(hasArrived ? m_history.Target() : m_history.Position());
+    m_file.Save(&m_history);
+}
+
+QString ListKeeper::Write(const QList<PriorityList> &entries)
+{
+    if (m_reading == Damaged && !KeepDamagedList()) {
+        return DashboardText("IDS_LIST_NOT_KEPT").arg(InOwnDirection(m_listPath));
+    }
+    if (PrivateFile::Replace(m_listPath, OrderFile::Document(entries)) == PrivateFile::OutcomeDone) {
+        // Adding nothing has the plug-in write its file anew, and tell everybody.
+        QList<PriorityList> nothing;
+        PluginObjects::Priority()->AddPriorityList(nothing);
+    }
+    ReadList();
+    const bool isWritten = m_reading == Readable && ListEntries::IsSame(m_entries, entries);
+    return isWritten ? QString() : DashboardText("IDS_LIST_NOT_WRITTEN").arg(InOwnDirection(m_listPath));
+}
+
+bool ListKeeper::KeepDamagedList() const
+{
+    const int names = 1000;
+    const QString directory = QFileInfo(m_listPath).path();
+    for (int i = 1; i <= names; ++i) {
+        const QString path = directory + QString::fromLatin1("/Priority-damaged-%1.xml").arg(i);
+        if (!QFile::exists(path)) {
+            return QFile::copy(m_listPath, path);
+        }
+    }
+    return false;
+}
+
+QString ListKeeper::ProblemText() const
+{
+    switch (m_file.LastTrouble()) {
+    case HistoryFile::Damaged:
+        return DashboardText("IDS_HISTORY_DAMAGED").arg(InOwnDirection(m_file.Path()), m_file.Fault().Text());
+    case HistoryFile::NotReadable:
+        return DashboardText("IDS_HISTORY_NOT_READABLE").arg(InOwnDirection(m_file.Path()));
+    case HistoryFile::NotWritable:
+        return DashboardText("IDS_HISTORY_NOT_WRITABLE").arg(InOwnDirection(m_file.Path()));
+    case HistoryFile::NoTrouble:
+        break;
+    }
+    return QString();
+}
+
+bool ListKeeper::IsHistoryUnusable() const
+{
+    return m_file.LastTrouble() == HistoryFile::Damaged || m_file.LastTrouble() == HistoryFile::NotReadable;
+}
+
+QString ListKeeper::SetHistoryAside()
+{
+    {
+        const Session session(this);
+        if (!IsHistoryUnusable()) {
+            return QString();
+        }
+        if (m_isHeldByOther) {
+            return DashboardText("IDS_HISTORY_BUSY");
+        }
+        if (m_file.SetAside().isNull()) {
+            return DashboardText("IDS_HISTORY_NOT_SET_ASIDE").arg(InOwnDirection(m_file.Path()));
+        }
+    }
+    Follow();
+    return QString();
+}

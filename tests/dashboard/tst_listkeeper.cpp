@@ -1,0 +1,612 @@
+#include "Lists.h"
+#include "PluginWorld.h"
+
+#include <HostControl.h>
+#include <IPriorityPlugin.h>
+#include <ListKeeper.h>
+#include <OrderFile.h>
+#include <PluginObjects.h>
+#include <PrivateFile.h>
+
+#include <QDir>
+#include <QFile>
+#include <QSignalSpy>
+#include <QtTest>
+
+#include <csignal>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/time.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+/** The keeper over the real plug-in. That lives once in a process, so it is loaded for all tests together. */
+class ListKeeperTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void cleanupTestCase();
+    void init();
+    void cleanup();
+
+    void FirstLookIsTheOldestState();
+    void ChangesByWhomeverAreKept_data();
+    void ChangesByWhomeverAreKept();
+    void UndoAndRedoWalkThroughTheStates();
+    void UndoRestoresTheVeryBytesThePluginWrote();
+    void UndoOfAForeignChangeRestoresTheEntries();
+    void NewChangeClearsRedo();
+    void ChangeNotYetSeenIsTheOneUndone();
+    void ChangeMadeWhileNotRunningIsFoundWithItsTime();
+    void TimeInTheFutureIsNotBelieved();
+    void HistoryOutlivesTheProgram();
+    void RestoreKeepsEveryState();
+    void RestoreOfAStateNoLongerKeptIsTold();
+    void ReplaceIsAChangeThatCanBeUndone();
+    void EverybodyIsToldOfAnUndo();
+    void RemovedFileIsAnEmptyListAndComesBack();
+    void DamagedListIsNoStateAndUndoRepairsIt();
+    void ListThatCannotBeOpenedIsLeftAlone();
+    void AwkwardNamesAreNoEndlessChange();
+    void WithoutThePluginNothingCanBeDone();
+    void DamagedHistoryIsToldAndLeftAloneUntilSetAside();
+    void HistoryThatCannotBeWrittenLastsForTheProgram();
+    void ListThatCannotBeWrittenIsTold();
+    void TwoDashboardsKeepOneHistory();
+    void UndoElsewhereIsFollowed();
+    void HistoryHeldByAnotherIsNotTouched();
+    void InterruptedUndoIsFinished_data();
+    void InterruptedUndoIsFinished();
+    void SuddenEndInTheMiddleOfUndoLosesNothing();
+    void FiftyStatesAreKept();
+
+private:
+    void WriteList(const QString &entries) const
+    {
+        m_world.Write("Priority.xml", OrderFile::Document(Listed(entries)));
+    }
+    QByteArray ListBytes() const { return m_world.Read("Priority.xml"); }
+    QString UserData() const { return m_world.UserData(); }
+    QString ListPath() const { return UserData() + "Priority.xml"; }
+    static QString Stored() { return PluginWorld::Stored(); }
+    static void AddTop(const QString &entry) { PluginWorld::AddTop(entry); }
+    /** All states, newest last, with the one in force in brackets. */
+    QString History() const { return History(*m_keeper); }
+    static QString History(const ListKeeper &keeper);
+    void StartAnew() { m_keeper.reset(new ListKeeper(UserData(), nullptr)); }
+
+    PluginWorld m_world;
+    QScopedPointer<ListKeeper> m_keeper;
+};
+
+QString ListKeeperTest::History(const ListKeeper &keeper)
+{
+    QStringList texts;
+    const QList<ListState> states = keeper.History().States();
+    for (int i = 0; i < states.size(); ++i) {
+        const QString text = AsText(states.at(i).entries);
+        texts.append(i == keeper.History().Position() ? '[' + text + ']' : text);
+    }
+    return texts.join(" | ");
+}
+
+void ListKeeperTest::initTestCase()
+{
+    QVERIFY(m_world.Load());
+}
+
+void ListKeeperTest::cleanupTestCase()
+{
+    m_world.Shutdown();
+}
+
+void ListKeeperTest::init()
+{
+    QVERIFY(m_world.Begin());
+    StartAnew();
+}
+
+void ListKeeperTest::cleanup()
+{
+    m_keeper.reset();
+}
+
+void ListKeeperTest::FirstLookIsTheOldestState()
+{
+    QCOMPARE(History(), QString("[]"));
+    QCOMPARE(m_keeper->UndoObstacle(), QString("There is no earlier list to go back to."));
+    QCOMPARE(m_keeper->RedoObstacle(), QString("Nothing was undone, so there is nothing to redo."));
+    QVERIFY(m_keeper->ChangeObstacle().isNull());
+    QVERIFY(!QFile::exists(ListPath()));
+}
+
+void ListKeeperTest::ChangesByWhomeverAreKept_data()
+{
+    QTest::addColumn<bool>("byPlugin");
+    QTest::newRow("through the plug-in") << true;
+    QTest::newRow("in the file") << false;
+}
+
+void ListKeeperTest::ChangesByWhomeverAreKept()
+{
+    QFETCH(bool, byPlugin);
+    if (byPlugin) {
+        AddTop("Home");
+    } else {
+        WriteList("Home");
+    }
+    QSignalSpy spy(m_keeper.data(), SIGNAL(Changed()));
+    m_keeper->Follow();
+    QCOMPARE(spy.count(), 1);
+    QCOMPARE(History(), QString(" | [Home]"));
+    QCOMPARE(Plain(m_keeper->UndoText()), QString("Added Home"));
+    QVERIFY2(Plain(m_keeper->LastChangeText()).startsWith("Last change: Added Home ("),
+             qPrintable(m_keeper->LastChangeText()));
+    // Looking again finds nothing new.
+    m_keeper->Follow();
+    QCOMPARE(History(), QString(" | [Home]"));
+    QCOMPARE(spy.count(), 1);
+}
+
+void ListKeeperTest::UndoAndRedoWalkThroughTheStates()
+{
+    AddTop("A");
+    m_keeper->Follow();
+    AddTop("B");
+    m_keeper->Follow();
+    QCOMPARE(m_keeper->Undo(), QString());
+    QCOMPARE(Stored(), QString("A"));
+    QCOMPARE(History(), QString(" | [A] | B, A"));
+    QCOMPARE(Plain(m_keeper->RedoText()), QString("Added B"));
+    QCOMPARE(m_keeper->Undo(), QString());
+    QCOMPARE(Stored(), QString());
+    QVERIFY(!m_keeper->Undo().isNull());
+    QCOMPARE(m_keeper->Redo(), QString());
+    QCOMPARE(m_keeper->Redo(), QString());
+    QCOMPARE(Stored(), QString("B, A"));
+    QCOMPARE(History(), QString(" | A | [B, A]"));
+    QVERIFY(!m_keeper->Redo().isNull());
+    QCOMPARE(Stored(), QString("B, A"));
+}
+
+void ListKeeperTest::UndoRestoresTheVeryBytesThePluginWrote()
+{
+    QList<PriorityList> entries = Listed("<a & \"b\">, Mobile/2, x, x");
+    PluginObjects::Priority()->AddPriorityList(entries);
+    m_keeper->Follow();
+    const QByteArray before = ListBytes();
+    AddTop("Mobile/2");
+    m_keeper->Follow();
+    QVERIFY(ListBytes() != before);
+    QCOMPARE(m_keeper->Undo(), QString());
+    QCOMPARE(ListBytes(), before);
+}
+
+void ListKeeperTest::UndoOfAForeignChangeRestoresTheEntries()
+{
+    const QByteArray foreign("<!-- mine --><zeltdoc><item type=\"1\" name=\"A\" note=\"x\"/>"
+                             "<item type=\"2\" name=\"B\"/></zeltdoc>");
+    m_world.Write("Priority.xml", foreign);
+    m_keeper->Follow();
+    m_world.Write("Priority.xml", "<zeltdoc/>");
+    m_keeper->Follow();
+    QCOMPARE(m_keeper->Undo(), QString());
+    QCOMPARE(ListBytes(), OrderFile::Document(Listed("A, B/2")));
+}
+
+void ListKeeperTest::NewChangeClearsRedo()
+{
+    AddTop("A");
+    m_keeper->Follow();
+    AddTop("B");
+    m_keeper->Follow();
+    QCOMPARE(m_keeper->Undo(), QString());
+    WriteList("C");
+    m_keeper->Follow();
+    QCOMPARE(History(), QString(" | A | [C]"));
+    QVERIFY(!m_keeper->RedoObstacle().isNull());
+}
+
+void ListKeeperTest::ChangeNotYetSeenIsTheOneUndone()
+{
+    AddTop("A");
+    m_keeper->Follow();
+    AddTop("B");
+    QCOMPARE(m_keeper->Undo(), QString());
+    QCOMPARE(Stored(), QString("A"));
+    QCOMPARE(History(), QString(" | [A] | B, A"));
+}
+
+void ListKeeperTest::ChangeMadeWhileNotRunningIsFoundWithItsTime()
+{
+    WriteList("A");
+    const QDateTime longAgo(QDate(2020, 1, 2), QTime(3, 4, 5), Qt::UTC);
+    const QDateTime later = longAgo.addDays(1);
+    const auto setTime = [this](const QDateTime &time) {
+        const time_t seconds = static_cast<time_t>(time.toMSecsSinceEpoch() / 1000);
+        const struct timeval times[2] = {{seconds, 0}, {seconds, 0}};
+        return utimes(QFile::encodeName(ListPath()).constData(), times) == 0;
+    };
+    QVERIFY(setTime(longAgo));
+    QVERIFY(QDir(UserData() + "history").removeRecursively());
+    StartAnew();
+    m_keeper.reset();
+    WriteList("A, B");
+    QVERIFY(setTime(later));
+    StartAnew();
+    QCOMPARE(History(), QString("A | [A, B]"));
+    QCOMPARE(m_keeper->History().States().at(0).time, longAgo);
+    QCOMPARE(m_keeper->History().States().at(1).time, later);
+    // Older than the state before it: the file was brought back from somewhere, and that was now.
+    m_keeper.reset();
+    WriteList("A, B, C");
+    QVERIFY(setTime(longAgo));
+    StartAnew();
+    QVERIFY(m_keeper->History().States().at(2).time > later);
+}
+
+void ListKeeperTest::TimeInTheFutureIsNotBelieved()
+{
+    WriteList("A");
+    const time_t future = time(nullptr) + 100000;
+    const struct timeval times[2] = {{future, 0}, {future, 0}};
+    QCOMPARE(utimes(QFile::encodeName(ListPath()).constData(), times), 0);
+    m_keeper->Follow();
+    QVERIFY(m_keeper->History().States().last().time <= QDateTime::currentDateTime());
+}
+
+void ListKeeperTest::HistoryOutlivesTheProgram()
+{
+    AddTop("A");
+    m_keeper->Follow();
+    AddTop("B");
+    m_keeper->Follow();
+    QCOMPARE(m_keeper->Undo(), QString());
+    StartAnew();
+    QCOMPARE(History(), QString(" | [A] | B, A"));
+    QCOMPARE(m_keeper->Redo(), QString());
+    QCOMPARE(Stored(), QString("B, A"));
+}
+
+void ListKeeperTest::RestoreKeepsEveryState()
+{
+    const QStringList tops = QStringList() << "A"
+                                           << "B"
+                                           << "C";
+    for (int i = 0; i < tops.size(); ++i) {
+        AddTop(tops.at(i));
+        m_keeper->Follow();
+    }
+    QCOMPARE(m_keeper->Restore(1, m_keeper->History().States().at(1)), QString());
+    QCOMPARE(Stored(), QString("A"));
+    QCOMPARE(History(), QString(" | [A] | B, A | C, B, A"));
+    QCOMPARE(m_keeper->Restore(3, m_keeper->History().States().at(3)), QString());
+    QCOMPARE(Stored(), QString("C, B, A"));
+}
+
+void ListKeeperTest::RestoreOfAStateNoLongerKeptIsTold()
+{
+    AddTop("A");
+    m_keeper->Follow();
+    ListState gone = m_keeper->History().States().last();
+    gone.entries = Listed("Z");
+    QCOMPARE(m_keeper->Restore(1, gone), QString("That list is no longer kept. Choose another."));
+    QCOMPARE(Stored(), QString("A"));
+}
+
+void ListKeeperTest::ReplaceIsAChangeThatCanBeUndone()
+{
+    AddTop("A");
+    m_keeper->Follow();
+    QCOMPARE(m_keeper->Replace(Listed("X, A, Mobile/2")), QString());
+    QCOMPARE(Stored(), QString("X, A, Mobile/2"));
+    QCOMPARE(History(), QString(" | A | [X, A, Mobile/2]"));
+    QCOMPARE(m_keeper->Undo(), QString());
+    QCOMPARE(Stored(), QString("A"));
+}
+
+void ListKeeperTest::EverybodyIsToldOfAnUndo()
+{
+    AddTop("A");
+    m_keeper->Follow();
+    QSignalSpy spy(PluginObjects::PriorityService(), SIGNAL(OnUpdataPriorityView()));
+    QCOMPARE(m_keeper->Undo(), QString());
+    QCOMPARE(spy.count(), 1);
+}
+
+void ListKeeperTest::RemovedFileIsAnEmptyListAndComesBack()
+{
+    AddTop("A");
+    m_keeper->Follow();
+    QVERIFY(QFile::remove(ListPath()));
+    m_keeper->Follow();
+    QCOMPARE(History(), QString(" | A | []"));
+    QCOMPARE(m_keeper->Undo(), QString());
+    QCOMPARE(Stored(), QString("A"));
+}
+
+void ListKeeperTest::DamagedListIsNoStateAndUndoRepairsIt()
+{
+    WriteList("A, B, C");
+    m_keeper->Follow();
+    const QByteArray damaged = ListBytes().left(ListBytes().indexOf("<item name=\"C\"") + 5);
+    m_world.Write("Priority.xml", damaged);
+    m_keeper->Follow();
+    QCOMPARE(History(), QString(" | [A, B, C]"));
+    QCOMPARE(m_keeper->UndoText(), QString("The file was damaged"));
+    QVERIFY(m_keeper->RedoObstacle().contains("damaged"));
+    QCOMPARE(m_keeper->LastChangeText(), QString());
+    QCOMPARE(m_keeper->Undo(), QString());
+    QCOMPARE(Stored(), QString("A, B, C"));
+    QCOMPARE(History(), QString(" | [A, B, C]"));
+    QCOMPARE(m_world.Read("Priority-damaged-1.xml"), damaged);
+    // What the plug-in makes of a damaged file is a change like any other.
+    m_world.Write("Priority.xml", damaged);
+    AddTop("D");
+    m_keeper->Follow();
+    QCOMPARE(History(), QString(" | A, B, C | [D, A, B]"));
+}
+
+void ListKeeperTest::ListThatCannotBeOpenedIsLeftAlone()
+{
+    AddTop("A");
+    m_keeper->Follow();
+    QVERIFY(QFile::remove(ListPath()));
+    QVERIFY(QDir().mkdir(ListPath()));
+    m_keeper->Follow();
+    QCOMPARE(History(), QString(" | [A]"));
+    QVERIFY(m_keeper->UndoObstacle().contains("be opened"));
+    QVERIFY(!m_keeper->Undo().isNull());
+    QVERIFY(QDir(ListPath()).exists());
+}
+
+void ListKeeperTest::AwkwardNamesAreNoEndlessChange()
+{
+    m_world.Write("Priority.xml", "<zeltdoc><item name=\"a\x01"
+                                  "b&#10;c\" type=\"1\"/></zeltdoc>");
+    m_keeper->Follow();
+    const int states = m_keeper->History().States().size();
+    StartAnew();
+    m_keeper->Follow();
+    QCOMPARE(m_keeper->History().States().size(), states);
+    AddTop("A");
+    m_keeper->Follow();
+    QCOMPARE(m_keeper->Undo(), QString());
+    QCOMPARE(m_keeper->Redo(), QString());
+}
+
+void ListKeeperTest::WithoutThePluginNothingCanBeDone()
+{
+    AddTop("A");
+    m_keeper->Follow();
+    const QByteArray before = ListBytes();
+    HostControl::SetPluginContainer(nullptr);
+    QSignalSpy spy(m_keeper.data(), SIGNAL(Changed()));
+    m_keeper->Follow();
+    QCOMPARE(spy.count(), 1);
+    const QString reason = "The plug-in that keeps the list is not available, so the list cannot be changed.";
+    QCOMPARE(m_keeper->UndoObstacle(), reason);
+    QCOMPARE(m_keeper->RedoObstacle(), reason);
+    QCOMPARE(m_keeper->ChangeObstacle(), reason);
+    QCOMPARE(m_keeper->Undo(), reason);
+    QCOMPARE(m_keeper->Replace(Listed("Z")), reason);
+    QCOMPARE(ListBytes(), before);
+    QVERIFY(m_keeper->LastChangeText().isEmpty());
+}
+
+void ListKeeperTest::DamagedHistoryIsToldAndLeftAloneUntilSetAside()
+{
+    AddTop("A");
+    m_keeper->Follow();
+    AddTop("B");
+    m_keeper->Follow();
+    const QByteArray damaged = m_world.Read("history/states.xml").replace("1 0", "1 7");
+    m_world.Write("history/states.xml", damaged);
+    AddTop("C");
+    StartAnew();
+    QVERIFY(m_keeper->IsHistoryUnusable());
+    QVERIFY2(Plain(m_keeper->ProblemText())
+                 .contains("history/states.xml, is damaged and was left alone. Line 10: "),
+             qPrintable(m_keeper->ProblemText()));
+    QCOMPARE(m_keeper->UndoObstacle(), m_keeper->ProblemText());
+    QCOMPARE(m_keeper->Undo(), m_keeper->ProblemText());
+    AddTop("D");
+    m_keeper->Follow();
+    QCOMPARE(m_world.Read("history/states.xml"), damaged);
+    QCOMPARE(Stored(), QString("D, C, B, A"));
+
+    QCOMPARE(m_keeper->SetHistoryAside(), QString());
+    QVERIFY(m_keeper->ProblemText().isNull());
+    QCOMPARE(m_world.Read("history/states-damaged-1.xml"), damaged);
+    QCOMPARE(History(), QString("[D, C, B, A]"));
+}
+
+void ListKeeperTest::HistoryThatCannotBeWrittenLastsForTheProgram()
+{
+    QVERIFY(QDir(UserData() + "history").removeRecursively());
+    m_world.Write("history", "");
+    StartAnew();
+    QVERIFY2(m_keeper->ProblemText().contains("only until the program ends"),
+             qPrintable(m_keeper->ProblemText()));
+    AddTop("A");
+    m_keeper->Follow();
+    QCOMPARE(m_keeper->Undo(), QString());
+    QCOMPARE(Stored(), QString());
+    QCOMPARE(m_keeper->Redo(), QString());
+    QCOMPARE(Stored(), QString("A"));
+}
+
+void ListKeeperTest::ListThatCannotBeWrittenIsTold()
+{
+    AddTop("A");
+    m_keeper->Follow();
+    AddTop("B");
+    m_keeper->Follow();
+    const QByteArray before = ListBytes();
+    // A directory where the new file is made: nothing can be written there.
+    QVERIFY(QDir().mkdir(PrivateFile::TemporaryPath(ListPath())));
+    QVERIFY2(Plain(m_keeper->Undo()).contains("cannot be written to " + ListPath()),
+             qPrintable(m_keeper->Undo()));
+    QCOMPARE(ListBytes(), before);
+    QCOMPARE(History(), QString(" | A | [B, A]"));
+}
+
+void ListKeeperTest::TwoDashboardsKeepOneHistory()
+{
+    ListKeeper other(UserData(), nullptr);
+    AddTop("A");
+    m_keeper->Follow();
+    other.Follow();
+    AddTop("B");
+    other.Follow();
+    m_keeper->Follow();
+    QCOMPARE(History(), QString(" | A | [B, A]"));
+    QCOMPARE(History(other), History());
+    QCOMPARE(m_keeper->Undo(), QString());
+    QCOMPARE(other.Undo(), QString());
+    QCOMPARE(Stored(), QString());
+    m_keeper->Follow();
+    QCOMPARE(History(), QString("[] | A | B, A"));
+    QCOMPARE(History(other), History());
+    StartAnew();
+    QCOMPARE(History(), QString("[] | A | B, A"));
+}
+
+void ListKeeperTest::UndoElsewhereIsFollowed()
+{
+    AddTop("A");
+    m_keeper->Follow();
+    ListKeeper other(UserData(), nullptr);
+    QCOMPARE(other.Undo(), QString());
+    QSignalSpy spy(m_keeper.data(), SIGNAL(Changed()));
+    m_keeper->Follow();
+    QCOMPARE(spy.count(), 1);
+    QCOMPARE(History(), QString("[] | A"));
+    QVERIFY(m_keeper->RedoObstacle().isNull());
+}
+
+void ListKeeperTest::HistoryHeldByAnotherIsNotTouched()
+{
+    AddTop("A");
+    m_keeper->Follow();
+    const QByteArray before = m_world.Read("history/states.xml");
+    {
+        const DirectoryLock another(UserData() + "history");
+        QVERIFY(another.IsHeld());
+        QCOMPARE(m_keeper->Undo(),
+                 QString("Another program is working with the earlier lists. Try again in a moment."));
+        QCOMPARE(Stored(), QString("A"));
+        AddTop("B");
+        m_keeper->Follow();
+        QCOMPARE(m_world.Read("history/states.xml"), before);
+    }
+    m_keeper->Follow();
+    QCOMPARE(History(), QString(" | A | [B, A]"));
+    QCOMPARE(m_keeper->Undo(), QString());
+}
+
+void ListKeeperTest::InterruptedUndoIsFinished_data()
+{
+    QTest::addColumn<QByteArray>("left");
+    QTest::addColumn<QString>("history");
+    const QByteArray undone = OrderFile::Document(Listed("A, B"));
+    QTest::newRow("before it began") << OrderFile::Document(Listed("A, B, C"))
+                                     << " | A | A, B | [A, B, C] | A, B, C, D";
+    QTest::newRow("before it was noted") << undone << " | A | [A, B] | A, B, C | A, B, C, D";
+    QTest::newRow("file gone") << QByteArray() << " | A | [A, B] | A, B, C | A, B, C, D";
+    QTest::newRow("file cut short") << undone.left(undone.size() / 2)
+                                    << " | A | [A, B] | A, B, C | A, B, C, D";
+    QTest::newRow("changed since") << OrderFile::Document(Listed("X")) << " | A | A, B | A, B, C | [X]";
+}
+
+void ListKeeperTest::InterruptedUndoIsFinished()
+{
+    QFETCH(QByteArray, left);
+    const QStringList lists = QStringList() << "A"
+                                            << "A, B"
+                                            << "A, B, C"
+                                            << "A, B, C, D";
+    for (int i = 0; i < lists.size(); ++i) {
+        WriteList(lists.at(i));
+        m_keeper->Follow();
+    }
+    QCOMPARE(m_keeper->Undo(), QString());
+    m_keeper.reset();
+    ListHistory history;
+    HistoryFile file(UserData());
+    QVERIFY(file.Load(&history));
+    history.SetTarget(2);
+    QVERIFY(file.Save(&history));
+    m_world.Write("Priority.xml", left);
+    if (left.isEmpty()) {
+        QVERIFY(QFile::remove(ListPath()));
+    }
+    StartAnew();
+    QTEST(History(), "history");
+    QVERIFY(file.Load(&history));
+    QCOMPARE(history.Target(), -1);
+}
+
+void ListKeeperTest::SuddenEndInTheMiddleOfUndoLosesNothing()
+{
+    const QString all = "A, B, C";
+    WriteList(all);
+    m_keeper->Follow();
+    WriteList("C, B, A");
+    m_keeper->Follow();
+    int undone = 0;
+    for (int round = 0; round < 60; ++round) {
+        const pid_t child = fork();
+        if (child == 0) {
+            ListKeeper keeper(UserData(), nullptr);
+            for (;;) {
+                if (!keeper.Undo().isNull() || !keeper.Redo().isNull()) {
+                    _exit(1);
+                }
+            }
+        }
+        usleep(static_cast<useconds_t>(3000 + 211 * round));
+        QCOMPARE(kill(child, SIGKILL), 0);
+        int status = 0;
+        QCOMPARE(waitpid(child, &status, 0), child);
+        QVERIFY(WIFSIGNALED(status));
+        StartAnew();
+        QVERIFY2(m_keeper->ProblemText().isNull(), qPrintable(m_keeper->ProblemText()));
+        QStringList kept;
+        const QList<ListState> states = m_keeper->History().States();
+        for (int i = 0; i < states.size(); ++i) {
+            kept.append(AsText(states.at(i).entries));
+        }
+        QVERIFY2(kept.contains(all), qPrintable(kept.join(" | ")));
+        QVERIFY2(kept.contains("C, B, A"), qPrintable(kept.join(" | ")));
+        // Whatever was found in the file, the list can be had again.
+        const int place = kept.lastIndexOf("C, B, A");
+        QCOMPARE(m_keeper->Restore(place, states.at(place)), QString());
+        QCOMPARE(Stored(), QString("C, B, A"));
+        undone += m_keeper->History().CanUndo() ? 1 : 0;
+    }
+    QVERIFY(undone > 0);
+}
+
+void ListKeeperTest::FiftyStatesAreKept()
+{
+    for (int i = 0; i < 60; ++i) {
+        AddTop(QString("Network %1").arg(i));
+        m_keeper->Follow();
+    }
+    QCOMPARE(m_keeper->History().States().size(), 50);
+    StartAnew();
+    QCOMPARE(m_keeper->History().States().size(), 50);
+    int undone = 0;
+    while (m_keeper->UndoObstacle().isNull()) {
+        QCOMPARE(m_keeper->Undo(), QString());
+        ++undone;
+    }
+    QCOMPARE(undone, 49);
+    QCOMPARE(Listed(Stored()).size(), 11);
+}
+
+QTEST_MAIN(ListKeeperTest)
+#include "tst_listkeeper.moc"
