@@ -1,21 +1,18 @@
 #include "ConnectDialog.h"
 
-#include "BidiText.h"
 #include "DashboardText.h"
+#include "DialogParts.h"
+#include "NameDelegate.h"
 #include "PluginObjects.h"
 
 #include <IPriorityPlugin.h>
 #include <IWLANUIPlugin.h>
-#include <ToolkitCompat.h>
 
-#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QSet>
 #include <QStackedWidget>
-#include <QStyle>
-#include <QStyledItemDelegate>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
@@ -31,18 +28,6 @@ enum Column { NameColumn, SignalColumn, ColumnCount };
 
 /** What an item holds besides its text: the full name, or the signal as the Wi-Fi plug-in gave it. */
 const int valueRole = Qt::UserRole;
-
-/** Lets every name read in its own direction, whichever one the row has. */
-class NameDelegate : public QStyledItemDelegate
-{
-public:
-    explicit NameDelegate(QObject *parent) : QStyledItemDelegate(parent) {}
-
-    QString displayText(const QVariant &value, const QLocale &) const override
-    {
-        return InOwnDirection(value.toString());
-    }
-};
 
 /** The Wi-Fi plug-ins of this dashboard put the percentage there; another may put there what it likes. */
 QString SignalText(int value)
@@ -62,22 +47,18 @@ ConnectDialog::ConnectDialog(QWidget *parent)
     content->setObjectName(QLatin1String("connectContent"));
     QVBoxLayout *layout = new QVBoxLayout(content);
     layout->setSpacing(10);
-    m_hint = CreateLabel("connectHintLabel");
+    m_hint = DialogParts::Label("connectHintLabel");
     layout->addWidget(m_hint);
 
     CreateTable();
-    m_empty = CreateLabel("connectEmptyLabel");
-    m_empty->setAlignment(Qt::AlignCenter);
-    m_empty->setMargin(24);
-    m_empty->setAutoFillBackground(true);
-    m_empty->setBackgroundRole(QPalette::Base);
+    m_empty = DialogParts::EmptyLabel("connectEmptyLabel");
     m_body = new QStackedWidget;
     m_body->setObjectName(QLatin1String("connectBody"));
     m_body->addWidget(m_table);
     m_body->addWidget(m_empty);
     layout->addWidget(m_body, 1);
 
-    m_problem = CreateLabel("connectProblemLabel");
+    m_problem = DialogParts::Label("connectProblemLabel");
     m_problem->hide();
     layout->addWidget(m_problem);
     layout->addWidget(CreateButtons());
@@ -93,56 +74,21 @@ ConnectDialog::ConnectDialog(QWidget *parent)
 
 void ConnectDialog::CreateTable()
 {
-    m_table = new QTableWidget(0, ColumnCount);
-    m_table->setObjectName(QLatin1String("connectList"));
+    m_table = DialogParts::Table("connectList", ColumnCount);
     m_table->setItemDelegateForColumn(NameColumn, new NameDelegate(m_table));
-    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_table->setTabKeyNavigation(false);
-    m_table->setShowGrid(false);
-    m_table->setWordWrap(false);
-    m_table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_table->verticalHeader()->hide();
-    QHeaderView *header = m_table->horizontalHeader();
-    header->setObjectName(QLatin1String("connectHeader"));
-    header->setHighlightSections(false);
-    header->setStretchLastSection(true);
-    // A column can't be chosen or sorted by.
-    header->setAttribute(Qt::WA_TransparentForMouseEvents);
+    m_table->horizontalHeader()->setObjectName(QLatin1String("connectHeader"));
     m_table->setColumnWidth(NameColumn, nameWidth);
-    for (int column = 0; column < ColumnCount; ++column) {
-        m_table->setHorizontalHeaderItem(column, new QTableWidgetItem);
-    }
-}
-
-QLabel *ConnectDialog::CreateLabel(const char *name)
-{
-    QLabel *label = new QLabel;
-    label->setObjectName(QLatin1String(name));
-    label->setWordWrap(true);
-    label->setTextFormat(Qt::PlainText);
-    return label;
 }
 
 QWidget *ConnectDialog::CreateButtons()
 {
-    QWidget *bar = new QWidget;
-    bar->setObjectName(QLatin1String("connectButtonBar"));
-    m_okButton = new QPushButton(bar);
+    m_okButton = new QPushButton;
     m_okButton->setObjectName(QLatin1String("connectOkButton"));
-    m_okButton->setDefault(true);
     connect(m_okButton, SIGNAL(clicked()), this, SLOT(accept()));
-    m_cancelButton = new QPushButton(bar);
+    m_cancelButton = new QPushButton;
     m_cancelButton->setObjectName(QLatin1String("connectCancelButton"));
-    m_cancelButton->setAutoDefault(false);
     connect(m_cancelButton, SIGNAL(clicked()), this, SLOT(reject()));
-    QHBoxLayout *row = new QHBoxLayout(bar);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->addStretch();
-    row->addWidget(m_okButton);
-    row->addWidget(m_cancelButton);
-    return bar;
+    return DialogParts::ButtonBar("connectButtonBar", m_okButton, m_cancelButton);
 }
 
 void ConnectDialog::ListNetworks()
@@ -164,11 +110,8 @@ void ConnectDialog::ListNetworks()
         listed.insert(network.networkName);
         const int row = m_table->rowCount();
         m_table->setRowCount(row + 1);
-        // A name may hold line breaks; it has one line here.
-        QTableWidgetItem *name = new QTableWidgetItem(network.networkName.simplified());
-        name->setData(valueRole, network.networkName);
-        name->setToolTip(ToolkitCompat::PlainTextAsHtml(network.networkName));
-        m_table->setItem(row, NameColumn, name);
+        DialogParts::SetCell(m_table, row, NameColumn, network.networkName);
+        m_table->item(row, NameColumn)->setData(valueRole, network.networkName);
         QTableWidgetItem *signal = new QTableWidgetItem;
         signal->setData(valueRole, network.value1);
         signal->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -188,8 +131,8 @@ void ConnectDialog::Retranslate()
     setWindowTitle(DashboardText("IDS_CONNECT_TITLE"));
     m_hint->setText(DashboardText("IDS_CONNECT_HINT"));
     m_table->setAccessibleName(DashboardText("IDS_CONNECT_TITLE"));
-    SetHeader(NameColumn, "IDS_CONNECT_NETWORK", Qt::AlignLeft);
-    SetHeader(SignalColumn, "IDS_CONNECT_SIGNAL", Qt::AlignRight);
+    DialogParts::SetHeader(m_table, NameColumn, DashboardText("IDS_CONNECT_NETWORK"), Qt::AlignLeft);
+    DialogParts::SetHeader(m_table, SignalColumn, DashboardText("IDS_CONNECT_SIGNAL"), Qt::AlignRight);
     for (int row = 0; row < m_table->rowCount(); ++row) {
         QTableWidgetItem *signal = m_table->item(row, SignalColumn);
         signal->setText(SignalText(signal->data(valueRole).toInt()));
@@ -198,15 +141,6 @@ void ConnectDialog::Retranslate()
     m_problem->setText(DashboardText("IDS_CONNECT_NO_PRIORITY"));
     m_okButton->setText(DashboardText("IDS_CONNECT_OK"));
     m_cancelButton->setText(DashboardText("IDS_CANCEL"));
-}
-
-void ConnectDialog::SetHeader(int column, const char *textId, Qt::Alignment side)
-{
-    // Unlike a table, its header doesn't mirror the alignment of its texts.
-    const Qt::Alignment alignment = QStyle::visualAlignment(layoutDirection(), side | Qt::AlignVCenter);
-    QTableWidgetItem *header = m_table->horizontalHeaderItem(column);
-    header->setText(DashboardText(textId));
-    header->setTextAlignment(alignment | Qt::AlignAbsolute);
 }
 
 void ConnectDialog::FollowChoice()

@@ -36,10 +36,8 @@ private slots:
 
 private:
     void CreateTable();
-    QLabel *CreateLabel(const char *name);
     QWidget *CreateButtons();
     void ListNetworks();
-    void SetHeader(int column, const char *textId, Qt::Alignment side);
     QString ChosenNetwork() const;
 
     bool m_isWlanMissing;

@@ -1,0 +1,36 @@
+#ifndef DIALOGPARTS_H
+#define DIALOGPARTS_H
+
+#include <QString>
+#include <Qt>
+
+class QLabel;
+class QPushButton;
+class QTableWidget;
+class QWidget;
+
+/** What the dashboard's dialogs are made of. Whoever gets a part puts it into a layout. */
+namespace DialogParts
+{
+
+/** Plain text over as many lines as it needs. */
+QLabel *Label(const char *name);
+
+/** A label to stand in place of a list that has nothing to show. */
+QLabel *EmptyLabel(const char *name);
+
+/** A list with columns, of which whole rows are chosen, one at a time; its rows can't be edited. */
+QTableWidget *Table(const char *name, int columns);
+
+/** @param side  where a column's texts begin when the language reads from left to right. */
+void SetHeader(QTableWidget *table, int column, const QString &text, Qt::Alignment side);
+
+/** Puts text into a cell, with a tool tip that has all of it; line breaks become blanks. */
+void SetCell(QTableWidget *table, int row, int column, const QString &text);
+
+/** The two buttons at the end of a dialog; accept is what Return presses. */
+QWidget *ButtonBar(const char *name, QPushButton *accept, QPushButton *reject);
+
+} // namespace DialogParts
+
+#endif
