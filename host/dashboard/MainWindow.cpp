@@ -5,6 +5,8 @@
 #include "DashboardLanguage.h"
 #include "DashboardText.h"
 #include "GeneralPage.h"
+#include "ListActions.h"
+#include "ListKeeper.h"
 #include "OverviewDelegate.h"
 #include "PluginHost.h"
 #include "PluginObjects.h"
@@ -92,7 +94,8 @@ QString StateText(const Overview::Entry &entry)
 
 MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLog *log)
     : m_plugins(plugins), m_language(language), m_languageProblems(HostControl::LanguageProblems()),
-      m_watcher(UserData::FilePath(QLatin1String("Priority.xml")), nullptr)
+      m_watcher(UserData::FilePath(QLatin1String("Priority.xml")), nullptr),
+      m_keeper(new ListKeeper(UserData::Directory(), this)), m_listActions(new ListActions(m_keeper, this))
 {
     setObjectName(QLatin1String("mainWindow"));
     m_trace = new TracePanel(log, this);
@@ -127,6 +130,7 @@ MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLo
     m_body->addWidget(m_list);
     m_body->addWidget(CreateMessagePage());
     layout->addWidget(m_body, 1);
+    layout->addWidget(m_listActions->CreateBar());
     layout->addWidget(CreateFoot());
     setCentralWidget(central);
 
@@ -134,6 +138,7 @@ MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLo
         connect(service, SIGNAL(OnUpdataPriorityView()), this, SLOT(Refresh()));
     }
     connect(&m_watcher, SIGNAL(Changed()), this, SLOT(Refresh()));
+    connect(m_keeper, SIGNAL(Changed()), this, SLOT(FollowHistory()));
     connect(m_language, SIGNAL(Switched()), this, SLOT(Retranslate()));
 
     resize(820, 620);
@@ -150,10 +155,12 @@ MainWindow::~MainWindow()
 void MainWindow::CreateMenus()
 {
     m_fileMenu = menuBar()->addMenu(QString());
+    m_editMenu = menuBar()->addMenu(QString());
     m_viewMenu = menuBar()->addMenu(QString());
     m_languageMenu = menuBar()->addMenu(QString());
     menuBar()->setObjectName(QLatin1String("menuBar"));
     m_fileMenu->setObjectName(QLatin1String("fileMenu"));
+    m_editMenu->setObjectName(QLatin1String("editMenu"));
     m_viewMenu->setObjectName(QLatin1String("viewMenu"));
     m_languageMenu->setObjectName(QLatin1String("languageMenu"));
 
@@ -167,6 +174,7 @@ void MainWindow::CreateMenus()
     m_fileMenu->addSeparator();
     m_quitAction = m_fileMenu->addAction(QString(), this, SLOT(close()));
     m_quitAction->setShortcut(QKeySequence(QLatin1String("Ctrl+Q")));
+    m_listActions->FillMenu(m_editMenu);
     m_trace->toggleViewAction()->setShortcut(QKeySequence(QLatin1String("F12")));
     m_viewMenu->addAction(m_trace->toggleViewAction());
     CreateLanguageActions();
@@ -266,6 +274,7 @@ void MainWindow::Retranslate()
 {
     setWindowTitle(DashboardText("IDS_WINDOW_TITLE"));
     m_fileMenu->setTitle(DashboardText("IDS_MENU_FILE"));
+    m_editMenu->setTitle(DashboardText("IDS_MENU_EDIT"));
     m_viewMenu->setTitle(DashboardText("IDS_MENU_VIEW"));
     m_languageMenu->setTitle(DashboardText("IDS_MENU_LANGUAGE"));
     m_connectAction->setText(DashboardText("IDS_ACTION_CONNECT"));
@@ -276,6 +285,7 @@ void MainWindow::Retranslate()
     m_settingsButton->setText(DashboardText("IDS_BUTTON_SETTINGS"));
     m_refreshButton->setText(DashboardText("IDS_BUTTON_REFRESH"));
     m_traceButton->setText(DashboardText("IDS_BUTTON_TRACE"));
+    m_listActions->Retranslate();
     m_trace->Retranslate();
     m_trace->toggleViewAction()->setText(DashboardText("IDS_ACTION_TRACE"));
     const QList<QAction *> actions = m_languageActions->actions();
@@ -294,11 +304,12 @@ void MainWindow::Retranslate()
 
 void MainWindow::Refresh()
 {
-    const Overview overview = Overview::Read();
-    ShowConnect(overview);
-    ShowHead(overview);
-    ShowProblems(overview);
-    ShowList(overview);
+    m_keeper->Follow();
+    m_overview = Overview::Read();
+    ShowConnect();
+    ShowHead();
+    ShowProblems();
+    ShowList();
     ShowNote();
 }
 
@@ -315,12 +326,17 @@ void MainWindow::ShowNote()
     m_note->setText(notes.join(QLatin1String(" ")));
 }
 
-void MainWindow::ShowConnect(const Overview &overview)
+void MainWindow::FollowHistory()
+{
+    ShowProblems();
+}
+
+void MainWindow::ShowConnect()
 {
     const char *obstacle = nullptr;
-    if (!overview.isRangeKnown) {
+    if (!m_overview.isRangeKnown) {
         obstacle = "IDS_CONNECT_NO_WLAN";
-    } else if (overview.status < 0) {
+    } else if (m_overview.status < 0) {
         obstacle = "IDS_CONNECT_NO_PRIORITY";
     }
     m_connectAction->setEnabled(!obstacle);
@@ -328,9 +344,9 @@ void MainWindow::ShowConnect(const Overview &overview)
     m_connectButton->setToolTip(obstacle ? DashboardText(obstacle) : QString());
 }
 
-void MainWindow::ShowHead(const Overview &overview)
+void MainWindow::ShowHead()
 {
-    const Overview::Entry *inUse = overview.InUse();
+    const Overview::Entry *inUse = m_overview.InUse();
     if (inUse) {
         m_headline->setText(DashboardText("IDS_HEAD_IN_USE").arg(InOwnDirection(inUse->entry.name)));
         m_explanation->setText(
@@ -338,42 +354,50 @@ void MainWindow::ShowHead(const Overview &overview)
         return;
     }
     m_headline->setText(DashboardText("IDS_HEAD_NONE"));
-    if (overview.status < 0) {
+    if (m_overview.status < 0) {
         m_explanation->setText(DashboardText("IDS_HEAD_NO_PRIORITY_PLUGIN"));
-    } else if (overview.entries.isEmpty()) {
+    } else if (m_overview.entries.isEmpty()) {
         m_explanation->setText(DashboardText("IDS_HEAD_EMPTY"));
     } else {
         m_explanation->setText(
-            DashboardText(overview.isRangeKnown ? "IDS_HEAD_NOTHING_IN_RANGE" : "IDS_HEAD_RANGE_UNKNOWN"));
+            DashboardText(m_overview.isRangeKnown ? "IDS_HEAD_NOTHING_IN_RANGE" : "IDS_HEAD_RANGE_UNKNOWN"));
     }
 }
 
-void MainWindow::ShowProblems(const Overview &overview)
+void MainWindow::ShowProblems()
 {
     QStringList problems;
     const QList<PluginHost::Plugin> plugins = m_plugins->Plugins();
     for (int i = 0; i < plugins.size(); ++i) {
         // Where there is no list, that of its plug-in stands in place of the list.
         const PluginHost::Plugin &plugin = plugins.at(i);
-        if (m_plugins->IsMissed(plugin) && !(overview.status < 0 && plugin.known.hasSettingsPage)) {
+        if (m_plugins->IsMissed(plugin) && !(m_overview.status < 0 && plugin.known.hasSettingsPage)) {
             problems.append(PluginHost::ProblemText(plugin));
         }
     }
     for (int i = 0; i < m_languageProblems.size(); ++i) {
         problems.append(DashboardLanguage::ProblemText(m_languageProblems.at(i)));
     }
-    if (overview.status == PriorityDamaged) {
-        problems.append(DashboardText("IDS_LIST_DAMAGED"));
-    } else if (overview.status == PriorityNotOpened) {
+    if (m_overview.status == PriorityDamaged) {
+        QString problem = DashboardText("IDS_LIST_DAMAGED");
+        if (m_keeper->UndoObstacle().isNull()) {
+            problem += QLatin1Char(' ') + DashboardText("IDS_LIST_UNDO_DAMAGE");
+        }
+        problems.append(problem);
+    } else if (m_overview.status == PriorityNotOpened) {
         problems.append(DashboardText("IDS_LIST_NOT_OPENED"));
+    }
+    const QString historyProblem = m_keeper->ProblemText();
+    if (!historyProblem.isNull()) {
+        problems.append(historyProblem);
     }
     m_problems->setText(problems.join(QLatin1String("\n\n")));
     m_problems->setVisible(!problems.isEmpty());
 }
 
-void MainWindow::ShowList(const Overview &overview)
+void MainWindow::ShowList()
 {
-    if (overview.status < 0) {
+    if (m_overview.status < 0) {
         const QList<PluginHost::Plugin> plugins = m_plugins->Plugins();
         QStringList problems;
         for (int i = 0; i < plugins.size(); ++i) {
@@ -389,18 +413,19 @@ void MainWindow::ShowList(const Overview &overview)
         m_body->setCurrentWidget(m_messagePage);
         return;
     }
-    if (overview.entries.isEmpty()) {
+    if (m_overview.entries.isEmpty()) {
         m_messageTitle->setText(DashboardText("IDS_EMPTY_TITLE"));
-        m_messageText->setText(DashboardText(
-            overview.status == PriorityRead || overview.status == PriorityMissing ? "IDS_EMPTY_HINT"
-                                                                                  : "IDS_EMPTY_UNREADABLE"));
+        m_messageText->setText(
+            DashboardText(m_overview.status == PriorityRead || m_overview.status == PriorityMissing
+                              ? "IDS_EMPTY_HINT"
+                              : "IDS_EMPTY_UNREADABLE"));
         m_body->setCurrentWidget(m_messagePage);
         return;
     }
     const int scrolledTo = m_list->verticalScrollBar()->value();
     m_list->clear();
-    for (int i = 0; i < overview.entries.size(); ++i) {
-        const Overview::Entry &entry = overview.entries.at(i);
+    for (int i = 0; i < m_overview.entries.size(); ++i) {
+        const Overview::Entry &entry = m_overview.entries.at(i);
         QListWidgetItem *item = new QListWidgetItem(entry.entry.name, m_list);
         const QString kind = KindText(entry);
         const QString state = StateText(entry);
@@ -442,6 +467,7 @@ void MainWindow::OpenSettings()
             ++pages;
         }
     }
+    m_settings->AddButtons(m_listActions->CreateButtons("settingsUndoButton", "settingsRedoButton"));
     m_settings->SelectPage(firstPluginPage);
     connect(m_settings.data(), SIGNAL(finished(int)), this, SLOT(SettingsClosed()));
     m_settings->setModal(true);
@@ -481,6 +507,7 @@ void MainWindow::ConnectClosed()
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
+    m_keeper->Follow();
     Settings::Write(GeometryKey(), saveGeometry());
     Settings::Write(TraceShownKey(), m_trace->toggleViewAction()->isChecked());
     QMainWindow::closeEvent(event);

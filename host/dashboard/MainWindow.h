@@ -10,6 +10,8 @@
 
 class ConnectDialog;
 class DashboardLanguage;
+class ListActions;
+class ListKeeper;
 class PluginHost;
 class QAction;
 class QActionGroup;
@@ -41,6 +43,7 @@ protected:
 
 private slots:
     void Retranslate();
+    void FollowHistory();
     void ChooseLanguage(QAction *action);
     void SettingsClosed();
     void ConnectClosed();
@@ -51,21 +54,25 @@ private:
     QWidget *CreateHead();
     QWidget *CreateMessagePage();
     QWidget *CreateFoot();
-    void ShowConnect(const Overview &overview);
-    void ShowHead(const Overview &overview);
-    void ShowProblems(const Overview &overview);
-    void ShowList(const Overview &overview);
+    void ShowConnect();
+    void ShowHead();
+    void ShowProblems();
+    void ShowList();
     void ShowNote();
 
     PluginHost *const m_plugins;
     DashboardLanguage *const m_language;
     const QList<LanguageProblem> m_languageProblems;
     ListWatcher m_watcher;
+    ListKeeper *m_keeper;
+    ListActions *m_listActions;
     TracePanel *m_trace;
+    Overview m_overview;
     QPointer<SettingsDialog> m_settings;
     QPointer<ConnectDialog> m_connect;
 
     QMenu *m_fileMenu;
+    QMenu *m_editMenu;
     QMenu *m_viewMenu;
     QMenu *m_languageMenu;
     QAction *m_connectAction;

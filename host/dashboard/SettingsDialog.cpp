@@ -47,15 +47,15 @@ SettingsDialog::SettingsDialog(QWidget *parent) : QDialog(parent)
     body->setSpacing(16);
     body->addWidget(m_list);
     body->addWidget(m_stack, 1);
-    QHBoxLayout *buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(m_okButton);
-    buttons->addWidget(m_cancelButton);
+    m_buttons = new QHBoxLayout;
+    m_buttons->addStretch();
+    m_buttons->addWidget(m_okButton);
+    m_buttons->addWidget(m_cancelButton);
     QVBoxLayout *layout = new QVBoxLayout(this);
     layout->setSpacing(12);
     layout->setSizeConstraint(QLayout::SetFixedSize);
     layout->addLayout(body, 1);
-    layout->addLayout(buttons);
+    layout->addLayout(m_buttons);
     Retranslate();
 }
 
@@ -79,6 +79,13 @@ void SettingsDialog::AddPage(SettingsPage *page)
 void SettingsDialog::SelectPage(int index)
 {
     m_list->setCurrentRow(index);
+}
+
+void SettingsDialog::AddButtons(const QList<QWidget *> &buttons)
+{
+    for (int i = 0; i < buttons.size(); ++i) {
+        m_buttons->insertWidget(i, buttons.at(i));
+    }
 }
 
 void SettingsDialog::done(int result)

@@ -7,6 +7,7 @@
 #include <QList>
 #include <QSharedPointer>
 
+class QHBoxLayout;
 class QLabel;
 class QListWidget;
 class QPushButton;
@@ -30,6 +31,9 @@ public:
     void AddPage(SettingsPage *page);
     void SelectPage(int index);
 
+    /** Puts further buttons beside OK and Cancel, at the other end of the row; takes ownership of them. */
+    void AddButtons(const QList<QWidget *> &buttons);
+
     /** Every way out of the dialog leads here; all but OK are Cancel. */
     void done(int result) override;
 
@@ -52,6 +56,7 @@ private:
     QList<Place> m_places;
     QListWidget *m_list;
     QStackedWidget *m_stack;
+    QHBoxLayout *m_buttons;
     QPushButton *m_okButton;
     QPushButton *m_cancelButton;
 };

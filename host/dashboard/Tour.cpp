@@ -1,6 +1,7 @@
 #include "Tour.h"
 
 #include "HostControl.h"
+#include "ListEntries.h"
 #include "PluginObjects.h"
 #include "UserActions.h"
 #include "UserData.h"
@@ -52,36 +53,13 @@ void Print(const QString &line)
     std::fflush(stdout);
 }
 
-bool IsSame(const PriorityList &left, const PriorityList &right)
-{
-    return left.name == right.name && left.type == right.type;
-}
-
-bool IsSame(const QList<PriorityList> &left, const QList<PriorityList> &right)
-{
-    if (left.size() != right.size()) {
-        return false;
-    }
-    for (int i = 0; i < left.size(); ++i) {
-        if (!IsSame(left.at(i), right.at(i))) {
-            return false;
-        }
-    }
-    return true;
-}
-
-bool IsWifi(const PriorityList &entry)
-{
-    return entry.type == QLatin1String("1");
-}
-
 bool IsReadOnly(const PriorityList &entry)
 {
     WLANProfile profile;
     if (IWLANUIPlugin *wlan = PluginObjects::Wlan()) {
         wlan->GetProfileByName(entry.name, &profile);
     }
-    return IsWifi(entry) && profile.readOnly == QLatin1String("true");
+    return ListEntries::IsWifi(entry) && profile.readOnly == QLatin1String("true");
 }
 
 /** The list as the file has it, read without any help of the plug-in that wrote it. */
@@ -241,6 +219,9 @@ const Tour::Step Tour::steps[] = {
      &Tour::CheckNothingSelected},
     {"delete-ok", "Delete, then OK in the question: the network is gone", &Tour::ActDeleteOk,
      &Tour::CheckNothingSelected},
+    {"settings-undo", "Undo brings it back; the open page follows", &Tour::ActSettingsUndo,
+     &Tour::CheckUndone},
+    {"settings-redo", "Redo deletes it again", &Tour::ActSettingsRedo, &Tour::CheckRedone},
     {"add-dialog", "Add offers the remembered networks that are not in the list", &Tour::ActAddDialog,
      &Tour::CheckAddDialog},
     {"add-elsewhere", "both are ticked; meanwhile another plug-in puts the first of them on top",
@@ -272,6 +253,11 @@ const Tour::Step Tour::steps[] = {
      &Tour::CheckConnectDialog},
     {"connect-ok", "one is chosen; to be connected puts it on top of the list", &Tour::ActConnectOk,
      &Tour::CheckConnected},
+    {"undo", "the Undo button takes that back", &Tour::ActUndo, &Tour::CheckUndone},
+    {"redo", "the Redo button puts it on top again", &Tour::ActRedo, &Tour::CheckRedone},
+    {"restore-dialog", "the Restore button lists the earlier lists, with what changed and when",
+     &Tour::ActRestoreDialog, &Tour::CheckRestoreDialog},
+    {"restore-ok", "the one before is chosen by key and restored", &Tour::ActRestoreOk, &Tour::CheckUndone},
 };
 
 const int Tour::stepCount = sizeof(Tour::steps) / sizeof(Tour::steps[0]);
@@ -332,7 +318,7 @@ void Tour::Report()
         Print(QString::fromLatin1("  %1. %2 (%3)")
                   .arg(i + 1, 2)
                   .arg(list.at(i).name.simplified(),
-                       QLatin1String(IsWifi(list.at(i)) ? "Wi-Fi" : "mobile broadband")));
+                       QLatin1String(ListEntries::IsWifi(list.at(i)) ? "Wi-Fi" : "mobile broadband")));
     }
     if (list.isEmpty()) {
         Print(QLatin1String("  (the list is empty)"));
@@ -521,7 +507,7 @@ void Tour::SelectPage(int row)
 int Tour::PlaceOf(const PriorityList &entry) const
 {
     for (int i = 0; i < m_expected.size(); ++i) {
-        if (IsSame(m_expected.at(i), entry)) {
+        if (ListEntries::IsSame(m_expected.at(i), entry)) {
             return i;
         }
     }
@@ -567,7 +553,7 @@ QString Tour::WrongAboutList() const
 {
     const QList<PriorityList> list = ReadFile();
     const QStringList expected = NamesOf(m_expected);
-    if (!IsSame(list, m_expected)) {
+    if (!ListEntries::IsSame(list, m_expected)) {
         return Differs("Priority.xml", NamesOf(list), expected);
     }
     const QTableWidget *table = m_window->findChild<QTableWidget *>(QLatin1String("priorityTable"));
@@ -609,7 +595,7 @@ void Tour::ActSeed()
     }
     // One is kept back, so that there is one to add later.
     for (int i = m_expected.size() - 1; i >= 0 && m_notListed.isEmpty(); --i) {
-        if (IsWifi(m_expected.at(i)) && !IsReadOnly(m_expected.at(i))) {
+        if (ListEntries::IsWifi(m_expected.at(i)) && !IsReadOnly(m_expected.at(i))) {
             m_notListed.append(m_expected.takeAt(i));
         }
     }
@@ -697,10 +683,50 @@ void Tour::CheckNothingSelected()
 void Tour::ActDeleteOk()
 {
     ClickRow(m_expected.value(1));
+    m_listBefore = m_expected;
     if (m_expected.size() > 1) {
         m_notListed.prepend(m_expected.takeAt(1));
     }
     ClickAndAnswer("deleteButton", "messageButton1", "IDS_WARNING_DELETE");
+}
+
+void Tour::SwapWithListBefore()
+{
+    const QList<PriorityList> list = m_expected;
+    m_expected = m_listBefore;
+    m_listBefore = list;
+}
+
+void Tour::ActSettingsUndo()
+{
+    SwapWithListBefore();
+    Click("settingsUndoButton");
+}
+
+void Tour::ActSettingsRedo()
+{
+    SwapWithListBefore();
+    Click("settingsRedoButton");
+}
+
+void Tour::ExpectUndoAndRedo(bool undo, bool redo)
+{
+    const QWidget *undoButton = Find("undoButton");
+    const QWidget *redoButton = Find("redoButton");
+    if (undoButton && redoButton) {
+        Expect(undoButton->isEnabled() == undo, "the Undo button is enabled when there is something to undo");
+        Expect(redoButton->isEnabled() == redo, "the Redo button is enabled when something was undone");
+    }
+}
+
+void Tour::CheckUndone()
+{
+    ExpectUndoAndRedo(true, true);
+}
+
+void Tour::CheckRedone()
+{
+    ExpectUndoAndRedo(true, false);
 }
 
 void Tour::ActAddDialog()
@@ -957,6 +983,7 @@ void Tour::ActConnectOk()
     const int row = table->rowCount() - 1;
     m_selected = Entry(NetworksInRange().value(row), QLatin1String("1"));
     FailIf(UserActions::ClickRow(table, row));
+    m_listBefore = m_expected;
     const int place = PlaceOf(m_selected);
     if (place >= 0) {
         m_expected.removeAt(place);
@@ -972,5 +999,45 @@ void Tour::CheckConnected()
     const QLabel *headline = FindOf<QLabel>("headlineLabel");
     if (headline) {
         Expect(headline->text().contains(m_selected.name), "the main window tells that it is in use");
+    }
+}
+
+void Tour::ActUndo()
+{
+    SwapWithListBefore();
+    Click("undoButton");
+}
+
+void Tour::ActRedo()
+{
+    SwapWithListBefore();
+    Click("redoButton");
+}
+
+void Tour::ActRestoreDialog()
+{
+    Click("restoreButton");
+}
+
+void Tour::CheckRestoreDialog()
+{
+    const QTableWidget *table = FindOf<QTableWidget>("restoreList");
+    const QListWidget *preview = FindOf<QListWidget>("restorePreview");
+    if (table && preview) {
+        Expect(table->isVisible(), "the dialog is open");
+        Expect(table->rowCount() > 2, "earlier lists can be chosen");
+        Expect(table->hasFocus(), "they can be chosen by key");
+        Expect(NamesOf(preview) == NamesOf(m_expected), "the list as it is now is chosen first");
+    }
+}
+
+void Tour::ActRestoreOk()
+{
+    SwapWithListBefore();
+    if (QWidget *table = Find("restoreList")) {
+        FailIf(UserActions::PressKey(Qt::Key_Down, table));
+        const QListWidget *preview = FindOf<QListWidget>("restorePreview");
+        Expect(preview && NamesOf(preview) == NamesOf(m_expected), "the chosen list is shown");
+        FailIf(UserActions::PressKey(Qt::Key_Return, table));
     }
 }

@@ -67,6 +67,8 @@ private:
     void MoveExpected(int from, int to);
     void ExpectButtons(bool up, bool down, bool remove);
     void ExpectSelected(int row);
+    void ExpectUndoAndRedo(bool undo, bool redo);
+    void SwapWithListBefore();
     void ExpectListEverywhere();
     QString WrongAboutList() const;
 
@@ -86,6 +88,10 @@ private:
     void ActDeleteCancel();
     void CheckNothingSelected();
     void ActDeleteOk();
+    void ActSettingsUndo();
+    void ActSettingsRedo();
+    void CheckUndone();
+    void CheckRedone();
     void ActAddDialog();
     void CheckAddDialog();
     void ActAddElsewhere();
@@ -118,6 +124,11 @@ private:
     void CheckConnectDialog();
     void ActConnectOk();
     void CheckConnected();
+    void ActUndo();
+    void ActRedo();
+    void ActRestoreDialog();
+    void CheckRestoreDialog();
+    void ActRestoreOk();
 
     void Report();
     void SavePicture(const QString &name);
@@ -130,6 +141,8 @@ private:
     int m_checksLeft;
     QStringList m_failures;
     QList<PriorityList> m_expected;
+    /** As the list was before the last change that is undone later. */
+    QList<PriorityList> m_listBefore;
     QList<PriorityList> m_notListed;
     PriorityList m_new;
     PriorityList m_selected;

@@ -1,0 +1,70 @@
+#ifndef LISTACTIONS_H
+#define LISTACTIONS_H
+
+#include <QList>
+#include <QObject>
+#include <QPointer>
+
+class ActionButton;
+class ElidedLabel;
+class ExtendDialog;
+class ImportDialog;
+class ListKeeper;
+class QAction;
+class QFileDialog;
+class QMenu;
+class QWidget;
+class RestoreDialog;
+
+/** What the user can do with the list as a whole: undo, redo, restore, import and export, as menu entries and
+ * buttons, with the dialogs that belong to them. */
+class ListActions : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** @param keeper  not owned; outlives this. @param window  the parent of dialogs. */
+    ListActions(ListKeeper *keeper, QWidget *window);
+
+    /** Not owned; whoever calls puts it into a menu bar. */
+    void FillMenu(QMenu *menu);
+
+    /** The last change in words, and buttons to undo, redo and restore. */
+    QWidget *CreateBar();
+
+    /** Buttons to undo and redo for another window. */
+    QList<QWidget *> CreateButtons(const char *undoName, const char *redoName);
+
+    void Retranslate();
+
+public slots:
+    void Update();
+    void Undo();
+    void Redo();
+    void OpenRestore();
+    void OpenImport();
+    void OpenExport();
+
+private slots:
+    void Import(const QString &path);
+    void Export(const QString &path);
+
+private:
+    QAction *CreateAction(const char *name, const char *slot);
+    void SetHelp(QAction *action, const QString &help);
+    QFileDialog *CreateFileDialog(const char *name, const char *titleId);
+    void Tell(const QString &problem);
+
+    ListKeeper *const m_keeper;
+    QWidget *const m_window;
+    QAction *m_undo;
+    QAction *m_redo;
+    QAction *m_restore;
+    QAction *m_import;
+    QAction *m_export;
+    ElidedLabel *m_lastChange;
+    QPointer<RestoreDialog> m_restoreDialog;
+    QPointer<ImportDialog> m_importDialog;
+};
+
+#endif
