@@ -8,6 +8,7 @@
  */
 
 #include <QComboBox>
+#include <QImage>
 #include <QLibraryInfo>
 #include <QMouseEvent>
 #include <QString>
@@ -24,6 +25,9 @@
 #else
 #include <QRegularExpressionValidator>
 #include <QStringDecoder>
+#endif
+#if QT_VERSION >= 0x050000
+#include <QGuiApplication>
 #endif
 #if QT_VERSION >= 0x050f00
 #include <QWindow>
@@ -123,6 +127,37 @@ inline bool HasDisplay()
 #else
     return !qgetenv("DISPLAY").isEmpty();
 #endif
+}
+
+/**
+ * Lets windows follow the scale of their screens, 150 % as well as 200 %. Call it before the QApplication is
+ * made. The oldest generation knows no scale.
+ */
+inline void FollowScreenScale()
+{
+#if QT_VERSION >= 0x050e00
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+#endif
+#if QT_VERSION >= 0x050600 && QT_VERSION < 0x060000
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+#endif
+}
+
+/** An empty image to paint something of that size on, with as many pixels as the widget's screen would have.
+ */
+inline QImage ImageFor(const QWidget *widget, const QSize &size)
+{
+#if QT_VERSION >= 0x050600
+    const qreal scale = widget->devicePixelRatioF();
+    QImage image(size * scale, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(scale);
+#else
+    Q_UNUSED(widget);
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+#endif
+    image.fill(0);
+    return image;
 }
 
 /** Where the mouse was, in the screen's coordinates. */

@@ -4,6 +4,7 @@
 #include "DialogParts.h"
 #include "NameDelegate.h"
 #include "PluginObjects.h"
+#include "SignalStrength.h"
 
 #include <IPriorityPlugin.h>
 #include <IWLANUIPlugin.h>
@@ -28,12 +29,6 @@ enum Column { NameColumn, SignalColumn, ColumnCount };
 
 /** What an item holds besides its text: the full name, or the signal as the Wi-Fi plug-in gave it. */
 const int valueRole = Qt::UserRole;
-
-/** The Wi-Fi plug-ins of this dashboard put the percentage there; another may put there what it likes. */
-QString SignalText(int value)
-{
-    return value >= 0 && value <= 100 ? DashboardText("IDS_CONNECT_PERCENT").arg(value) : QString();
-}
 
 } // namespace
 
@@ -135,7 +130,7 @@ void ConnectDialog::Retranslate()
     DialogParts::SetHeader(m_table, SignalColumn, DashboardText("IDS_CONNECT_SIGNAL"), Qt::AlignRight);
     for (int row = 0; row < m_table->rowCount(); ++row) {
         QTableWidgetItem *signal = m_table->item(row, SignalColumn);
-        signal->setText(SignalText(signal->data(valueRole).toInt()));
+        signal->setText(SignalStrength::Text(SignalStrength::Percent(signal->data(valueRole).toInt())));
     }
     m_empty->setText(DashboardText(m_isWlanMissing ? "IDS_CONNECT_NO_WLAN" : "IDS_CONNECT_NONE"));
     m_problem->setText(DashboardText("IDS_CONNECT_NO_PRIORITY"));

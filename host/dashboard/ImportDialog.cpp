@@ -9,7 +9,6 @@
 
 #include <QLabel>
 #include <QPushButton>
-#include <QStringList>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
@@ -20,8 +19,6 @@ const int dialogWidth = 520;
 const int dialogHeight = 460;
 const int placeWidth = 60;
 const int nameWidth = 220;
-
-const int namesTold = 5;
 
 enum Column { PlaceColumn, NameColumn, EffectColumn, ColumnCount };
 
@@ -46,18 +43,14 @@ const char *EffectTextId(ImportPlan::Effect effect)
 
 QString UnknownText(const ImportPlan &plan)
 {
-    QStringList names;
-    int unknown = 0;
+    QList<PriorityList> unknown;
     for (int i = 0; i < plan.rows.size(); ++i) {
-        if (plan.rows.at(i).isUnknown && ++unknown <= namesTold) {
-            names.append(ListChangeText::Name(plan.rows.at(i).entry));
+        if (plan.rows.at(i).isUnknown) {
+            unknown.append(plan.rows.at(i).entry);
         }
     }
-    if (unknown > namesTold) {
-        names.append(QString(QChar(0x2026)));
-    }
-    return names.isEmpty() ? QString()
-                           : DashboardText("IDS_IMPORT_UNKNOWN").arg(names.join(QLatin1String(", ")));
+    return unknown.isEmpty() ? QString()
+                             : DashboardText("IDS_IMPORT_UNKNOWN").arg(ListChangeText::Names(unknown));
 }
 
 } // namespace

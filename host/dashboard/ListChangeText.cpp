@@ -11,6 +11,7 @@ namespace
 {
 
 const int longestName = 40;
+const int namesTold = 5;
 
 const char *MoveTextId(const ListDifference::Move &move)
 {
@@ -70,6 +71,18 @@ QString ListChangeText::Name(const PriorityList &entry)
         name = name.left(cutsPair ? longestName - 1 : longestName) + QChar(0x2026);
     }
     return InOwnDirection(name);
+}
+
+QString ListChangeText::Names(const QList<PriorityList> &entries)
+{
+    QStringList names;
+    for (int i = 0; i < entries.size() && i < namesTold; ++i) {
+        names.append(Name(entries.at(i)));
+    }
+    if (entries.size() > namesTold) {
+        names.append(QString(QChar(0x2026)));
+    }
+    return names.join(QLatin1String(", "));
 }
 
 QString ListChangeText::Moment(const QDateTime &time)

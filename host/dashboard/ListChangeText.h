@@ -17,6 +17,9 @@ QString Describe(const QList<PriorityList> &before, const QList<PriorityList> &a
 /** An entry's name on one line, shortened when it is long, reading in its own direction. */
 QString Name(const PriorityList &entry);
 
+/** The names of a few entries; of many the first ones. */
+QString Names(const QList<PriorityList> &entries);
+
 /** Date and time of day as the speakers of the current language write them, short. */
 QString Moment(const QDateTime &time);
 

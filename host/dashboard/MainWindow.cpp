@@ -1,6 +1,6 @@
 #include "MainWindow.h"
 
-#include "BidiText.h"
+#include "Appearance.h"
 #include "ConnectDialog.h"
 #include "DashboardLanguage.h"
 #include "DashboardText.h"
@@ -8,6 +8,7 @@
 #include "ListActions.h"
 #include "ListKeeper.h"
 #include "OverviewDelegate.h"
+#include "OverviewText.h"
 #include "PluginHost.h"
 #include "PluginObjects.h"
 #include "PluginPage.h"
@@ -18,6 +19,7 @@
 #include "UserData.h"
 
 #include <Change.h>
+#include <ToolkitCompat.h>
 
 #include <QActionGroup>
 #include <QApplication>
@@ -29,10 +31,14 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QStackedWidget>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace
 {
+
+// Wi-Fi plug-ins don't tell when the networks in range change.
+const int rangeMilliseconds = 3000;
 
 QString GeometryKey()
 {
@@ -66,36 +72,13 @@ QPushButton *MakeButton(const char *name)
     return button;
 }
 
-QString KindText(const Overview::Entry &entry)
-{
-    return DashboardText(entry.IsWifi() ? "IDS_KIND_WIFI" : "IDS_KIND_MOBILE");
-}
-
-QString StateText(const Overview::Entry &entry)
-{
-    if (entry.isInUse) {
-        return DashboardText("IDS_STATE_IN_USE");
-    }
-    if (!entry.IsWifi()) {
-        return DashboardText("IDS_STATE_FALLBACK");
-    }
-    switch (entry.range) {
-    case Overview::InRange:
-        return DashboardText("IDS_STATE_IN_RANGE");
-    case Overview::OutOfRange:
-        return DashboardText("IDS_STATE_OUT_OF_RANGE");
-    case Overview::RangeUnknown:
-        break;
-    }
-    return DashboardText("IDS_STATE_UNKNOWN");
-}
-
 } // namespace
 
 MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLog *log)
     : m_plugins(plugins), m_language(language), m_languageProblems(HostControl::LanguageProblems()),
       m_watcher(UserData::FilePath(QLatin1String("Priority.xml")), nullptr),
-      m_keeper(new ListKeeper(UserData::Directory(), this)), m_listActions(new ListActions(m_keeper, this))
+      m_keeper(new ListKeeper(UserData::Directory(), this)), m_listActions(new ListActions(m_keeper, this)),
+      m_rangeTimer(new QTimer(this))
 {
     setObjectName(QLatin1String("mainWindow"));
     m_trace = new TracePanel(log, this);
@@ -121,7 +104,7 @@ MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLo
     m_list = new QListWidget;
     m_list->setObjectName(QLatin1String("overviewList"));
     m_list->setItemDelegate(new OverviewDelegate(m_list));
-    m_list->setSelectionMode(QAbstractItemView::NoSelection);
+    m_list->setSelectionMode(QAbstractItemView::SingleSelection);
     m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_list->setUniformItemSizes(true);
@@ -138,6 +121,10 @@ MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLo
         connect(service, SIGNAL(OnUpdataPriorityView()), this, SLOT(Refresh()));
     }
     connect(&m_watcher, SIGNAL(Changed()), this, SLOT(Refresh()));
+    m_rangeTimer->setObjectName(QLatin1String("rangeTimer"));
+    m_rangeTimer->setInterval(rangeMilliseconds);
+    connect(m_rangeTimer, SIGNAL(timeout()), this, SLOT(FollowRange()));
+    m_rangeTimer->start();
     connect(m_keeper, SIGNAL(Changed()), this, SLOT(FollowHistory()));
     connect(m_language, SIGNAL(Switched()), this, SLOT(Retranslate()));
 
@@ -177,7 +164,29 @@ void MainWindow::CreateMenus()
     m_listActions->FillMenu(m_editMenu);
     m_trace->toggleViewAction()->setShortcut(QKeySequence(QLatin1String("F12")));
     m_viewMenu->addAction(m_trace->toggleViewAction());
+    m_searchAction = m_viewMenu->addAction(QString(), m_trace, SLOT(StartSearch()));
+    m_searchAction->setObjectName(QLatin1String("traceSearchAction"));
+    m_searchAction->setShortcut(QKeySequence(QLatin1String("Ctrl+F")));
+    CreateAppearanceActions();
     CreateLanguageActions();
+}
+
+void MainWindow::CreateAppearanceActions()
+{
+    m_appearanceMenu = m_viewMenu->addMenu(QString());
+    m_appearanceMenu->setObjectName(QLatin1String("appearanceMenu"));
+    m_appearanceActions = new QActionGroup(this);
+    const char *names[] = {"appearanceSystemAction", "appearanceLightAction", "appearanceDarkAction"};
+    const Appearance::Choice choices[] = {Appearance::System, Appearance::Light, Appearance::Dark};
+    for (Appearance::Choice choice : choices) {
+        QAction *action = m_appearanceMenu->addAction(QString());
+        action->setObjectName(QLatin1String(names[choice]));
+        action->setCheckable(true);
+        action->setChecked(choice == Appearance::Stored());
+        action->setData(static_cast<int>(choice));
+        m_appearanceActions->addAction(action);
+    }
+    connect(m_appearanceActions, SIGNAL(triggered(QAction *)), this, SLOT(ChooseAppearance(QAction *)));
 }
 
 void MainWindow::CreateLanguageActions()
@@ -288,6 +297,13 @@ void MainWindow::Retranslate()
     m_listActions->Retranslate();
     m_trace->Retranslate();
     m_trace->toggleViewAction()->setText(DashboardText("IDS_ACTION_TRACE"));
+    m_searchAction->setText(DashboardText("IDS_ACTION_TRACE_SEARCH"));
+    m_appearanceMenu->setTitle(DashboardText("IDS_MENU_APPEARANCE"));
+    const char *appearances[] = {"IDS_APPEARANCE_SYSTEM", "IDS_APPEARANCE_LIGHT", "IDS_APPEARANCE_DARK"};
+    const QList<QAction *> choices = m_appearanceActions->actions();
+    for (int i = 0; i < choices.size(); ++i) {
+        choices.at(i)->setText(DashboardText(appearances[choices.at(i)->data().toInt()]));
+    }
     const QList<QAction *> actions = m_languageActions->actions();
     for (int i = 0; i < actions.size(); ++i) {
         actions.at(i)->setChecked(actions.at(i)->data().toString() == Change::GetLangName());
@@ -326,6 +342,14 @@ void MainWindow::ShowNote()
     m_note->setText(notes.join(QLatin1String(" ")));
 }
 
+void MainWindow::FollowRange()
+{
+    // Nobody looks at a window that isn't shown.
+    if (isVisible() && m_overview.HasRangeChanged()) {
+        Refresh();
+    }
+}
+
 void MainWindow::FollowHistory()
 {
     ShowProblems();
@@ -346,22 +370,8 @@ void MainWindow::ShowConnect()
 
 void MainWindow::ShowHead()
 {
-    const Overview::Entry *inUse = m_overview.InUse();
-    if (inUse) {
-        m_headline->setText(DashboardText("IDS_HEAD_IN_USE").arg(InOwnDirection(inUse->entry.name)));
-        m_explanation->setText(
-            DashboardText(inUse->IsWifi() ? "IDS_HEAD_IN_USE_WIFI" : "IDS_HEAD_IN_USE_MOBILE"));
-        return;
-    }
-    m_headline->setText(DashboardText("IDS_HEAD_NONE"));
-    if (m_overview.status < 0) {
-        m_explanation->setText(DashboardText("IDS_HEAD_NO_PRIORITY_PLUGIN"));
-    } else if (m_overview.entries.isEmpty()) {
-        m_explanation->setText(DashboardText("IDS_HEAD_EMPTY"));
-    } else {
-        m_explanation->setText(
-            DashboardText(m_overview.isRangeKnown ? "IDS_HEAD_NOTHING_IN_RANGE" : "IDS_HEAD_RANGE_UNKNOWN"));
-    }
+    m_headline->setText(OverviewText::Headline(m_overview));
+    m_explanation->setText(OverviewText::Explanation(m_overview));
 }
 
 void MainWindow::ShowProblems()
@@ -423,27 +433,40 @@ void MainWindow::ShowList()
         return;
     }
     const int scrolledTo = m_list->verticalScrollBar()->value();
+    const int current = m_list->currentRow();
     m_list->clear();
     for (int i = 0; i < m_overview.entries.size(); ++i) {
         const Overview::Entry &entry = m_overview.entries.at(i);
         QListWidgetItem *item = new QListWidgetItem(entry.entry.name, m_list);
-        const QString kind = KindText(entry);
-        const QString state = StateText(entry);
+        const QString kind = OverviewText::Kind(entry);
+        const QString state = OverviewText::State(entry);
+        const QString reason = OverviewText::Reason(m_overview, i);
         item->setData(OverviewDelegate::KindTextRole, kind);
         item->setData(OverviewDelegate::StateTextRole, state);
         item->setData(OverviewDelegate::IsWifiRole, entry.IsWifi());
         item->setData(OverviewDelegate::IsAvailableRole, entry.range != Overview::OutOfRange);
         item->setData(OverviewDelegate::IsInUseRole, entry.isInUse);
+        item->setData(OverviewDelegate::SignalRole, entry.signal);
+        item->setToolTip(ToolkitCompat::PlainTextAsHtml(reason));
+        item->setData(Qt::AccessibleDescriptionRole, reason);
         item->setData(Qt::AccessibleTextRole,
                       QString::fromLatin1("%1, %2, %3").arg(entry.entry.name, kind, state));
     }
     m_body->setCurrentWidget(m_list);
+    m_list->setCurrentRow(qMin(current, m_list->count() - 1));
     m_list->verticalScrollBar()->setValue(scrolledTo);
 }
 
 void MainWindow::ChooseLanguage(QAction *action)
 {
     m_language->Switch(action->data().toString());
+}
+
+void MainWindow::ChooseAppearance(QAction *action)
+{
+    const Appearance::Choice choice = static_cast<Appearance::Choice>(action->data().toInt());
+    Appearance::Apply(choice);
+    Appearance::Store(choice);
 }
 
 void MainWindow::OpenSettings()

@@ -20,6 +20,7 @@ class QListWidget;
 class QMenu;
 class QPushButton;
 class QStackedWidget;
+class QTimer;
 class SettingsDialog;
 class TraceLog;
 class TracePanel;
@@ -44,12 +45,15 @@ protected:
 private slots:
     void Retranslate();
     void FollowHistory();
+    void FollowRange();
     void ChooseLanguage(QAction *action);
+    void ChooseAppearance(QAction *action);
     void SettingsClosed();
     void ConnectClosed();
 
 private:
     void CreateMenus();
+    void CreateAppearanceActions();
     void CreateLanguageActions();
     QWidget *CreateHead();
     QWidget *CreateMessagePage();
@@ -66,6 +70,7 @@ private:
     ListWatcher m_watcher;
     ListKeeper *m_keeper;
     ListActions *m_listActions;
+    QTimer *m_rangeTimer;
     TracePanel *m_trace;
     Overview m_overview;
     QPointer<SettingsDialog> m_settings;
@@ -79,6 +84,9 @@ private:
     QAction *m_settingsAction;
     QAction *m_refreshAction;
     QAction *m_quitAction;
+    QAction *m_searchAction;
+    QMenu *m_appearanceMenu;
+    QActionGroup *m_appearanceActions;
     QActionGroup *m_languageActions;
 
     QLabel *m_headline;

@@ -5,7 +5,33 @@
 #include <IPriorityPlugin.h>
 #include <IWLANUIPlugin.h>
 
-#include <QSet>
+namespace
+{
+
+QList<WlanAvilableNetworkInfo> NetworksInRange(bool *isKnown)
+{
+    QList<WlanAvilableNetworkInfo> networks;
+    IWLANUIPlugin *wlan = PluginObjects::Wlan();
+    *isKnown = wlan != nullptr;
+    if (wlan) {
+        wlan->GetAvailableNetworks(&networks);
+    }
+    return networks;
+}
+
+QHash<QString, int> SignalsOf(const QList<WlanAvilableNetworkInfo> &networks)
+{
+    QHash<QString, int> signalOf;
+    for (int i = 0; i < networks.size(); ++i) {
+        // Of several stations of one network the first is the best.
+        if (!signalOf.contains(networks.at(i).networkName)) {
+            signalOf.insert(networks.at(i).networkName, SignalStrength::Percent(networks.at(i).value1));
+        }
+    }
+    return signalOf;
+}
+
+} // namespace
 
 bool Overview::Entry::IsWifi() const
 {
@@ -19,28 +45,18 @@ Overview Overview::Read()
     if (IPriorityPlugin *priority = PluginObjects::Priority()) {
         status = priority->GetPriorityList(&list);
     }
-    IWLANUIPlugin *wlan = PluginObjects::Wlan();
-    QList<QString> names;
-    if (wlan) {
-        QList<WlanAvilableNetworkInfo> networks;
-        wlan->GetAvailableNetworks(&networks);
-        for (int i = 0; i < networks.size(); ++i) {
-            names.append(networks.at(i).networkName);
-        }
-    }
-    return Make(status, list, wlan != nullptr, names);
+    bool isRangeKnown = false;
+    const QList<WlanAvilableNetworkInfo> networks = NetworksInRange(&isRangeKnown);
+    return Make(status, list, isRangeKnown, networks);
 }
 
 Overview Overview::Make(int status, const QList<PriorityList> &list, bool isRangeKnown,
-                        const QList<QString> &networksInRange)
+                        const QList<WlanAvilableNetworkInfo> &networksInRange)
 {
     Overview overview;
     overview.status = status;
     overview.isRangeKnown = isRangeKnown;
-    QSet<QString> inRange;
-    for (int i = 0; i < networksInRange.size(); ++i) {
-        inRange.insert(networksInRange.at(i));
-    }
+    overview.signalOf = SignalsOf(networksInRange);
     bool isDecided = false;
     for (int i = 0; i < list.size(); ++i) {
         Entry entry;
@@ -49,13 +65,21 @@ Overview Overview::Make(int status, const QList<PriorityList> &list, bool isRang
             // Mobile broadband is what remains where no Wi-Fi above it is to be had.
             entry.range = InRange;
         } else if (isRangeKnown) {
-            entry.range = inRange.contains(entry.entry.name) ? InRange : OutOfRange;
+            entry.range = overview.signalOf.contains(entry.entry.name) ? InRange : OutOfRange;
+            entry.signal = overview.signalOf.value(entry.entry.name, SignalStrength::unknown);
         }
         entry.isInUse = !isDecided && entry.range == InRange;
         isDecided = isDecided || entry.range != OutOfRange;
         overview.entries.append(entry);
     }
     return overview;
+}
+
+bool Overview::HasRangeChanged() const
+{
+    bool isKnown = false;
+    const QHash<QString, int> signalsNow = SignalsOf(NetworksInRange(&isKnown));
+    return isKnown != isRangeKnown || signalsNow != signalOf;
 }
 
 const Overview::Entry *Overview::InUse() const

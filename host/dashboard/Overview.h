@@ -1,8 +1,12 @@
 #ifndef OVERVIEW_H
 #define OVERVIEW_H
 
-#include <PriorityList.h>
+#include "SignalStrength.h"
 
+#include <PriorityList.h>
+#include <WLANRecords.h>
+
+#include <QHash>
 #include <QList>
 #include <QString>
 
@@ -14,6 +18,8 @@ struct Overview {
         PriorityList entry;
         Range range = RangeUnknown;
         bool isInUse = false;
+        /** Percent, or SignalStrength::unknown. */
+        int signal = SignalStrength::unknown;
 
         bool IsWifi() const;
     };
@@ -22,6 +28,8 @@ struct Overview {
      * ask. */
     int status = -1;
     bool isRangeKnown = false;
+    /** The percentage, or SignalStrength::unknown, of each network in range, in the list or not. */
+    QHash<QString, int> signalOf;
     QList<Entry> entries;
 
     /** Asks the plug-ins behind the host's container. */
@@ -29,7 +37,10 @@ struct Overview {
 
     /** As Read, from what the plug-ins have answered. networksInRange counts only when isRangeKnown. */
     static Overview Make(int status, const QList<PriorityList> &list, bool isRangeKnown,
-                         const QList<QString> &networksInRange);
+                         const QList<WlanAvilableNetworkInfo> &networksInRange);
+
+    /** Whether the Wi-Fi plug-in would tell something else now. */
+    bool HasRangeChanged() const;
 
     /** The entry in use, or null. */
     const Entry *InUse() const;

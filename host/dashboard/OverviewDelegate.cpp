@@ -1,5 +1,7 @@
 #include "OverviewDelegate.h"
 
+#include "SignalStrength.h"
+
 #include <QApplication>
 #include <QPainter>
 
@@ -16,17 +18,28 @@ QColor Blend(const QColor &over, const QColor &under, qreal share)
                             over.blueF() * share + under.blueF() * (1 - share));
 }
 
-/** Three arcs above a dot. */
-void DrawWifi(QPainter *painter, const QRectF &square)
+/** How many of the three arcs a signal fills. */
+int ArcsOf(int signal)
+{
+    return signal == SignalStrength::unknown ? 3 : 1 + qMin(2, signal / 34);
+}
+
+/** Three arcs above a dot, those that the signal doesn't reach in a colour of their own. */
+void DrawWifi(QPainter *painter, const QRectF &square, int arcs, const QColor &unreached)
 {
     const QPointF foot(square.center().x(), square.bottom() - square.height() * 0.2);
     const qreal unit = square.height() * 0.24;
+    painter->drawPoint(foot);
     for (int i = 1; i <= 3; ++i) {
+        if (i == arcs + 1) {
+            QPen pen = painter->pen();
+            pen.setColor(unreached);
+            painter->setPen(pen);
+        }
         const qreal radius = unit * i;
         painter->drawArc(QRectF(foot.x() - radius, foot.y() - radius, 2 * radius, 2 * radius), 45 * 16,
                          90 * 16);
     }
-    painter->drawPoint(foot);
 }
 
 /** Four bars of growing height. */
@@ -62,8 +75,8 @@ void OverviewDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opti
     const QPalette application = QApplication::palette();
     const QColor &accent = application.color(QPalette::Highlight);
     const QColor strong = option.palette.color(QPalette::Text);
-    const QColor text = isAvailable ? strong : Blend(strong, base, 0.55);
-    const QColor faint = Blend(strong, base, isAvailable ? 0.65 : 0.5);
+    const QColor text = isAvailable ? strong : Blend(strong, base, 0.65);
+    const QColor faint = Blend(strong, base, isAvailable ? 0.7 : 0.62);
     const Qt::LayoutDirection direction = option.direction;
     const Qt::Alignment leading =
         QStyle::visualAlignment(direction, Qt::AlignLeft | Qt::AlignVCenter) | Qt::AlignAbsolute;
@@ -97,7 +110,7 @@ void OverviewDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opti
     painter->setPen(QPen(isInUse ? accent : text, 2.4, Qt::SolidLine, Qt::RoundCap));
     const QRectF glyphSquare(QStyle::visualRect(direction, row, glyph));
     if (index.data(IsWifiRole).toBool()) {
-        DrawWifi(painter, glyphSquare);
+        DrawWifi(painter, glyphSquare, ArcsOf(index.data(SignalRole).toInt()), Blend(text, base, 0.25));
     } else {
         DrawMobile(painter, glyphSquare);
     }
@@ -136,6 +149,11 @@ void OverviewDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opti
     painter->setPen(faint);
     painter->drawText(QStyle::visualRect(direction, row, kindLine), static_cast<int>(leading),
                       index.data(KindTextRole).toString());
+    if (option.state & QStyle::State_HasFocus) {
+        painter->setPen(QPen(accent, 1, Qt::DotLine));
+        painter->setBrush(Qt::NoBrush);
+        painter->drawRect(row.adjusted(1, 1, -2, -2));
+    }
     painter->restore();
 }
 

@@ -16,7 +16,8 @@ public:
         StateTextRole,               /**< QString, shown at the end of the row. */
         IsWifiRole,                  /**< bool */
         IsAvailableRole,             /**< bool; false is drawn fainter. */
-        IsInUseRole                  /**< bool */
+        IsInUseRole,                 /**< bool */
+        SignalRole                   /**< int, as Overview::Entry::signal. */
     };
 
     explicit OverviewDelegate(QObject *parent);

@@ -9,6 +9,7 @@
 #include <Change.h>
 #include <IPriorityPlugin.h>
 #include <IWLANUIPlugin.h>
+#include <ToolkitCompat.h>
 
 #include <QApplication>
 #include <QCheckBox>
@@ -168,38 +169,32 @@ int LanguagePlace(const QString &language)
     return HostControl::LanguageNames().indexOf(language);
 }
 
-QImage ImageOf(QWidget *widget)
-{
-    QImage image(widget->size(), QImage::Format_ARGB32_Premultiplied);
-    image.fill(0);
-    widget->render(&image);
-    return image;
-}
-
 /** window with the dialogs that are open before it, each in the middle. */
 QImage Composed(QWidget *window)
 {
-    QList<QImage> layers;
+    QList<QWidget *> layers;
     for (QWidget *top = QApplication::activeModalWidget(); top && top != window;
          top = top->parentWidget() ? top->parentWidget()->window() : nullptr) {
-        layers.prepend(ImageOf(top));
+        layers.prepend(top);
     }
-    layers.prepend(ImageOf(window));
-    QSize size = layers.first().size();
+    layers.prepend(window);
+    QSize size = window->size();
     for (int i = 1; i < layers.size(); ++i) {
-        size = size.expandedTo(layers.at(i).size() + QSize(2, 2));
+        size = size.expandedTo(layers.at(i)->size() + QSize(2, 2));
     }
-    QImage picture(size, QImage::Format_ARGB32_Premultiplied);
+    QImage picture = ToolkitCompat::ImageFor(window, size);
     picture.fill(QApplication::palette().color(QPalette::Window).rgb());
     QPainter painter(&picture);
     for (int i = 0; i < layers.size(); ++i) {
-        const QSize rest = (size - layers.at(i).size()) / 2;
-        const QRect place(QPoint(rest.width(), rest.height()), layers.at(i).size());
+        QImage layer = ToolkitCompat::ImageFor(window, layers.at(i)->size());
+        layers.at(i)->render(&layer);
+        const QSize rest = (size - layers.at(i)->size()) / 2;
+        const QRect place(QPoint(rest.width(), rest.height()), layers.at(i)->size());
         if (i > 0) {
-            painter.fillRect(picture.rect(), QColor(0, 0, 0, i == 1 ? 60 : 25));
+            painter.fillRect(QRect(QPoint(), size), QColor(0, 0, 0, i == 1 ? 60 : 25));
             painter.fillRect(place.adjusted(-1, -1, 1, 1), QApplication::palette().color(QPalette::Shadow));
         }
-        painter.drawImage(place.topLeft(), layers.at(i));
+        painter.drawImage(place.topLeft(), layer);
     }
     return picture;
 }

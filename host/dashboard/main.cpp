@@ -1,3 +1,4 @@
+#include "Appearance.h"
 #include "Arguments.h"
 #include "DashboardLanguage.h"
 #include "HostControl.h"
@@ -129,7 +130,8 @@ int RunWindow(const Arguments &arguments, const TourDirectory &tourDirectory, Tr
         TraceLog::Warn(QLatin1String("there is no directory for your data and none can be made; "
                                      "what you change will not be kept"));
     }
-    HostControl::ApplyLook();
+    // A tour looks the same wherever it is taken.
+    Appearance::Apply(arguments.tourDirectory.isNull() ? Appearance::Stored() : Appearance::System);
 
     PluginHost plugins(LibraryPath(arguments), PluginHost::KnownPlugins(arguments.ChosenWlan()));
     plugins.Load();
@@ -192,6 +194,9 @@ int main(int argc, char **argv)
                                 : Refuse(problem, exitRefused);
     }
 
+    if (arguments.tourDirectory.isNull()) {
+        ToolkitCompat::FollowScreenScale();
+    }
     // The log before the toolkit, which has things to say while it starts.
     TraceLog log(UserData::FilePath(QLatin1String("dashboard.log")));
     const QApplication application(argc, argv);

@@ -788,5 +788,65 @@
         <source>IDS_LIST_UNDO_DAMAGE</source>
         <translation>يعيد «تراجع» آخر قائمة أمكنت قراءتها.</translation>
     </message>
+    <message>
+        <source>IDS_HEAD_SKIPPED</source>
+        <translation>أعلى منها في القائمة لكن خارج المدى: %1.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_CONNECT_HINT</source>
+        <translation>يعرض «اتصال…» الشبكات الموجودة في المدى.</translation>
+    </message>
+    <message>
+        <source>IDS_WHY_OUT_OF_RANGE</source>
+        <translation>لا يمكن استخدامها الآن لأنها خارج المدى.</translation>
+    </message>
+    <message>
+        <source>IDS_WHY_LOWER</source>
+        <translation>يمكن استخدامها، لكن %1 أعلى منها في القائمة.</translation>
+    </message>
+    <message>
+        <source>IDS_WHY_UNDECIDED</source>
+        <translation>يمكن استخدامها، لكن ليس معروفًا هل توجد في المدى شبكة أعلى منها في القائمة.</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_TRACE_SEARCH</source>
+        <translation>&amp;بحث في التتبّع…</translation>
+    </message>
+    <message>
+        <source>IDS_TRACE_SEARCH</source>
+        <translation>البحث في التتبّع</translation>
+    </message>
+    <message>
+        <source>IDS_TRACE_NEXT</source>
+        <translation>الموضع التالي</translation>
+    </message>
+    <message>
+        <source>IDS_TRACE_PREVIOUS</source>
+        <translation>الموضع السابق</translation>
+    </message>
+    <message>
+        <source>IDS_TRACE_MATCHES</source>
+        <translation>عدد المواضع: %1</translation>
+    </message>
+    <message>
+        <source>IDS_TRACE_NO_MATCH</source>
+        <translation>لا يوجد</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_APPEARANCE</source>
+        <translation>ال&amp;مظهر</translation>
+    </message>
+    <message>
+        <source>IDS_APPEARANCE_SYSTEM</source>
+        <translation>مثل &amp;سطح المكتب</translation>
+    </message>
+    <message>
+        <source>IDS_APPEARANCE_LIGHT</source>
+        <translation>&amp;فاتح</translation>
+    </message>
+    <message>
+        <source>IDS_APPEARANCE_DARK</source>
+        <translation>&amp;داكن</translation>
+    </message>
 </context>
 </TS>

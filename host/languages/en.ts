@@ -863,5 +863,79 @@ Expected: %3</translation>
         <extracomment>Follows the message that the file with the list is damaged</extracomment>
         <translation>“Undo” brings back the last list that could be read.</translation>
     </message>
+    <message>
+        <source>IDS_HEAD_SKIPPED</source>
+        <extracomment>Follows the reason why a network is in use. %1: names of networks</extracomment>
+        <translation>Higher in the list, but out of range: %1.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_CONNECT_HINT</source>
+        <extracomment>Follows: None of the networks of your list is in range</extracomment>
+        <translation>“Connect…” shows the networks that are.</translation>
+    </message>
+    <message>
+        <source>IDS_WHY_OUT_OF_RANGE</source>
+        <extracomment>Tool tip of an entry</extracomment>
+        <translation>It cannot be used now, because it is out of range.</translation>
+    </message>
+    <message>
+        <source>IDS_WHY_LOWER</source>
+        <extracomment>Tool tip of an entry. %1: a network</extracomment>
+        <translation>It could be used, but %1 is higher in the list.</translation>
+    </message>
+    <message>
+        <source>IDS_WHY_UNDECIDED</source>
+        <extracomment>Tool tip of an entry</extracomment>
+        <translation>It could be used, but it is not known whether a network higher in the list is in range.</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_TRACE_SEARCH</source>
+        <extracomment>Menu entry</extracomment>
+        <translation>&amp;Search the trace…</translation>
+    </message>
+    <message>
+        <source>IDS_TRACE_SEARCH</source>
+        <extracomment>In an empty search field</extracomment>
+        <translation>Search the trace</translation>
+    </message>
+    <message>
+        <source>IDS_TRACE_NEXT</source>
+        <extracomment>Tool tip of a button with an arrow down</extracomment>
+        <translation>Next place</translation>
+    </message>
+    <message>
+        <source>IDS_TRACE_PREVIOUS</source>
+        <extracomment>Tool tip of a button with an arrow up</extracomment>
+        <translation>Previous place</translation>
+    </message>
+    <message>
+        <source>IDS_TRACE_MATCHES</source>
+        <extracomment>%1: a number, one or more</extracomment>
+        <translation>Found: %1</translation>
+    </message>
+    <message>
+        <source>IDS_TRACE_NO_MATCH</source>
+        <translation>Not found</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_APPEARANCE</source>
+        <extracomment>Menu: light or dark colours</extracomment>
+        <translation>&amp;Appearance</translation>
+    </message>
+    <message>
+        <source>IDS_APPEARANCE_SYSTEM</source>
+        <extracomment>Menu entry: the desktop's colours</extracomment>
+        <translation>Like the &amp;desktop</translation>
+    </message>
+    <message>
+        <source>IDS_APPEARANCE_LIGHT</source>
+        <extracomment>Menu entry: light colours</extracomment>
+        <translation>&amp;Light</translation>
+    </message>
+    <message>
+        <source>IDS_APPEARANCE_DARK</source>
+        <extracomment>Menu entry: dark colours</extracomment>
+        <translation>Dar&amp;k</translation>
+    </message>
 </context>
 </TS>

@@ -788,5 +788,65 @@
         <source>IDS_LIST_UNDO_DAMAGE</source>
         <translation>„ביטול פעולה” מחזיר את הרשימה האחרונה שניתן היה לקרוא.</translation>
     </message>
+    <message>
+        <source>IDS_HEAD_SKIPPED</source>
+        <translation>גבוה יותר ברשימה אך מחוץ לטווח: %1.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_CONNECT_HINT</source>
+        <translation>„התחברות…” מציג את הרשתות שבטווח.</translation>
+    </message>
+    <message>
+        <source>IDS_WHY_OUT_OF_RANGE</source>
+        <translation>אי אפשר להשתמש בה כעת, כי היא מחוץ לטווח.</translation>
+    </message>
+    <message>
+        <source>IDS_WHY_LOWER</source>
+        <translation>אפשר היה להשתמש בה, אבל %1 גבוהה ממנה ברשימה.</translation>
+    </message>
+    <message>
+        <source>IDS_WHY_UNDECIDED</source>
+        <translation>אפשר היה להשתמש בה, אבל לא ידוע אם רשת גבוהה ממנה ברשימה נמצאת בטווח.</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_TRACE_SEARCH</source>
+        <translation>&amp;חיפוש במעקב…</translation>
+    </message>
+    <message>
+        <source>IDS_TRACE_SEARCH</source>
+        <translation>חיפוש במעקב</translation>
+    </message>
+    <message>
+        <source>IDS_TRACE_NEXT</source>
+        <translation>המקום הבא</translation>
+    </message>
+    <message>
+        <source>IDS_TRACE_PREVIOUS</source>
+        <translation>המקום הקודם</translation>
+    </message>
+    <message>
+        <source>IDS_TRACE_MATCHES</source>
+        <translation>נמצאו: %1</translation>
+    </message>
+    <message>
+        <source>IDS_TRACE_NO_MATCH</source>
+        <translation>לא נמצא</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_APPEARANCE</source>
+        <translation>&amp;מראה</translation>
+    </message>
+    <message>
+        <source>IDS_APPEARANCE_SYSTEM</source>
+        <translation>כמו &amp;שולחן העבודה</translation>
+    </message>
+    <message>
+        <source>IDS_APPEARANCE_LIGHT</source>
+        <translation>&amp;בהיר</translation>
+    </message>
+    <message>
+        <source>IDS_APPEARANCE_DARK</source>
+        <translation>&amp;כהה</translation>
+    </message>
 </context>
 </TS>

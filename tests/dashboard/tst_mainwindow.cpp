@@ -1,4 +1,5 @@
 #include "Eventually.h"
+#include "Lists.h"
 
 #include <ConnectDialog.h>
 #include <DashboardLanguage.h>
@@ -64,6 +65,11 @@ private slots:
     void EntriesAreShownInOrder();
     void StateOfEachEntryIsShown();
     void HeadlineNamesTheNetworkInUse();
+    void ExplanationTellsWhyNotThoseAbove();
+    void NothingInRangeIsToldWithAHint();
+    void ChangeOfTheRangeIsFollowed();
+    void ChosenRowStaysChosen();
+    void AppearanceMenuSwitchesAndIsKept();
     void ChangeThroughThePluginIsShownAtOnce();
     void ChangeOfTheFileIsFollowed();
     void DamagedFileIsTold();
@@ -91,6 +97,8 @@ private:
     QListWidget *List() const { return m_window->findChild<QListWidget *>("overviewList"); }
     QStringList Names() const;
     QStringList States() const;
+    /** The tool tips, which tell assistive technology the same. */
+    QStringList Reasons() const;
     QString ListPath() const { return m_directory->FilePath("priority-dashboard/Priority.xml"); }
     void WriteList(const QByteArray &bytes) const;
 
@@ -117,6 +125,19 @@ QStringList MainWindowTest::States() const
         states.append(List()->item(i)->data(OverviewDelegate::StateTextRole).toString());
     }
     return states;
+}
+
+QStringList MainWindowTest::Reasons() const
+{
+    QStringList reasons;
+    for (int i = 0; i < List()->count(); ++i) {
+        const QListWidgetItem *item = List()->item(i);
+        reasons.append(Plain(item->toolTip()));
+        if (item->data(Qt::AccessibleDescriptionRole).toString() != item->toolTip()) {
+            reasons.append("something else is described");
+        }
+    }
+    return reasons;
 }
 
 void MainWindowTest::WriteList(const QByteArray &bytes) const
@@ -195,10 +216,12 @@ void MainWindowTest::StateOfEachEntryIsShown()
     QList<PriorityList> entries;
     entries << Entry("Office") << Entry("Home") << Entry("Library") << Entry("Mobile", "2");
     PluginObjects::Priority()->AddPriorityList(entries);
-    QCOMPARE(States(), QStringList() << "Out of range"
-                                     << "In use now"
-                                     << "In range"
-                                     << "Ready as fallback");
+    QCOMPARE(States(), QStringList() << "Out of range" << QString::fromUtf8("In use now · 90%")
+                                     << QString::fromUtf8("In range · 50%") << "Ready as fallback");
+    QCOMPARE(Reasons(), QStringList() << "It cannot be used now, because it is out of range."
+                                      << "It is the first network of your list that is in range."
+                                      << "It could be used, but Home is higher in the list."
+                                      << "It could be used, but Home is higher in the list.");
 }
 
 void MainWindowTest::HeadlineNamesTheNetworkInUse()
@@ -208,9 +231,82 @@ void MainWindowTest::HeadlineNamesTheNetworkInUse()
     PluginObjects::Priority()->AddPriorityList(entries);
     QCOMPARE(Text("headlineLabel"), QString("No network in use"));
     PluginObjects::Priority()->AddTopPriority(Entry("Mobile", "2"));
-    QCOMPARE(Text("headlineLabel"), QString("In use now: Mobile"));
+    QCOMPARE(Plain(Text("headlineLabel")), QString("In use now: Mobile"));
     PluginObjects::Priority()->AddTopPriority(Entry("Home"));
-    QCOMPARE(Text("headlineLabel"), QString("In use now: Home"));
+    QCOMPARE(Plain(Text("headlineLabel")), QString("In use now: Home"));
+}
+
+void MainWindowTest::ExplanationTellsWhyNotThoseAbove()
+{
+    WriteList(ListFile(QStringList() << "Office"
+                                     << "Train"
+                                     << "Library"
+                                     << "Garden"));
+    m_window->Refresh();
+    QCOMPARE(Plain(Text("explanationLabel")),
+             QString("It is the first network of your list that is in range. "
+                     "Higher in the list, but out of range: Office, Train."));
+    WriteList(ListFile(QStringList() << "Library"
+                                     << "Office"));
+    m_window->Refresh();
+    QCOMPARE(Text("explanationLabel"), QString("It is the first network of your list that is in range."));
+}
+
+void MainWindowTest::NothingInRangeIsToldWithAHint()
+{
+    WriteList(ListFile(QStringList("Office")));
+    m_window->Refresh();
+    QVERIFY(Text("explanationLabel").startsWith("None of the networks of your list is in range. "));
+    QVERIFY(Text("explanationLabel").contains("Connect"));
+    m_directory->Write("priority-dashboard/WLANNetworks.xml", "<wlannetworks/>");
+    m_window->Refresh();
+    QCOMPARE(Text("explanationLabel"), QString("None of the networks of your list is in range."));
+}
+
+void MainWindowTest::ChangeOfTheRangeIsFollowed()
+{
+    WriteList(ListFile(QStringList() << "Home"
+                                     << "Library"));
+    m_window->Refresh();
+    m_window->findChild<QTimer *>("rangeTimer")->setInterval(10);
+    // In place, so that only the plug-in can tell of it: the directory stays what it was.
+    QFile networks(m_directory->FilePath("priority-dashboard/WLANNetworks.xml"));
+    QVERIFY(networks.open(QIODevice::WriteOnly));
+    networks.write("<wlannetworks><network name=\"Library\" signal=\"70\"/></wlannetworks>");
+    networks.close();
+    QVERIFY(Eventually([this]() { return Plain(Text("headlineLabel")) == "In use now: Library"; }));
+    QCOMPARE(States(), QStringList() << "Out of range" << QString::fromUtf8("In use now · 70%"));
+}
+
+void MainWindowTest::ChosenRowStaysChosen()
+{
+    WriteList(ListFile(QStringList() << "Office"
+                                     << "Home"
+                                     << "Library"));
+    m_window->Refresh();
+    List()->setFocus();
+    QTest::keyClick(List(), Qt::Key_Down);
+    QTest::keyClick(List(), Qt::Key_Down);
+    QCOMPARE(List()->currentRow(), 1);
+    m_window->Refresh();
+    QCOMPARE(List()->currentRow(), 1);
+    WriteList(ListFile(QStringList("Office")));
+    m_window->Refresh();
+    QCOMPARE(List()->currentRow(), 0);
+}
+
+void MainWindowTest::AppearanceMenuSwitchesAndIsKept()
+{
+    const QColor systemColour = QApplication::palette().color(QPalette::Base);
+    QAction *dark = m_window->findChild<QAction *>("appearanceDarkAction");
+    dark->trigger();
+    QVERIFY(dark->isChecked());
+    QVERIFY(List()->palette().color(QPalette::Base).lightness() < 64);
+    m_window.reset(new MainWindow(m_plugins.data(), m_language.data(), m_log.data()));
+    QVERIFY(m_window->findChild<QAction *>("appearanceDarkAction")->isChecked());
+    m_window->findChild<QAction *>("appearanceSystemAction")->trigger();
+    QCOMPARE(List()->palette().color(QPalette::Base), systemColour);
+    QVERIFY(!m_window->findChild<QAction *>("appearanceDarkAction")->isChecked());
 }
 
 void MainWindowTest::ChangeThroughThePluginIsShownAtOnce()
@@ -311,7 +407,7 @@ void MainWindowTest::ConnectPutsTheNetworkOnTop()
     QTest::keyClick(list, Qt::Key_Down);
     QTest::mouseClick(m_window->findChild<QPushButton *>("connectOkButton"), Qt::LeftButton);
     QCOMPARE(Names(), QStringList("Library"));
-    QCOMPARE(Text("headlineLabel"), QString("In use now: Library"));
+    QCOMPARE(Plain(Text("headlineLabel")), QString("In use now: Library"));
     QVERIFY(m_directory->Read("priority-dashboard/Priority.xml").contains("name=\"Library\" type=\"1\""));
 }
 

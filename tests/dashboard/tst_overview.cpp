@@ -18,6 +18,19 @@ QList<PriorityList> ListOf(const QStringList &texts)
     return list;
 }
 
+/** "Home" is a network in range, "Home/64" one that is received with 64 percent. */
+QList<WlanAvilableNetworkInfo> NetworksOf(const QStringList &texts)
+{
+    QList<WlanAvilableNetworkInfo> networks;
+    for (int i = 0; i < texts.size(); ++i) {
+        WlanAvilableNetworkInfo network;
+        network.networkName = texts.at(i).section('/', 0, 0);
+        network.value1 = texts.at(i).section('/', 1).toInt();
+        networks.append(network);
+    }
+    return networks;
+}
+
 } // namespace
 
 class OverviewTest : public QObject
@@ -28,6 +41,8 @@ private slots:
     void FirstEntryInRangeIsInUse_data();
     void FirstEntryInRangeIsInUse();
     void RangeIsTold();
+    void SignalIsTold_data();
+    void SignalIsTold();
     void WithoutPriorityPluginThereIsNoList();
 };
 
@@ -76,7 +91,7 @@ void OverviewTest::FirstEntryInRangeIsInUse()
     QFETCH(QStringList, list);
     QFETCH(bool, isRangeKnown);
     QFETCH(QStringList, inRange);
-    const Overview overview = Overview::Make(0, ListOf(list), isRangeKnown, inRange);
+    const Overview overview = Overview::Make(0, ListOf(list), isRangeKnown, NetworksOf(inRange));
     QCOMPARE(overview.entries.size(), list.size());
     const Overview::Entry *inUse = overview.InUse();
     QTEST(inUse ? inUse->entry.name : QString(""), "inUse");
@@ -92,13 +107,38 @@ void OverviewTest::RangeIsTold()
     const QList<PriorityList> list = ListOf(QStringList() << "A"
                                                           << "B"
                                                           << "M/2");
-    const Overview known = Overview::Make(0, list, true, QStringList("B"));
+    const Overview known = Overview::Make(0, list, true, NetworksOf(QStringList("B")));
     QCOMPARE(known.entries.at(0).range, Overview::OutOfRange);
     QCOMPARE(known.entries.at(1).range, Overview::InRange);
     QCOMPARE(known.entries.at(2).range, Overview::InRange);
-    const Overview unknown = Overview::Make(0, list, false, QStringList());
+    const Overview unknown = Overview::Make(0, list, false, NetworksOf(QStringList()));
     QCOMPARE(unknown.entries.at(0).range, Overview::RangeUnknown);
     QCOMPARE(unknown.entries.at(2).range, Overview::InRange);
+}
+
+void OverviewTest::SignalIsTold_data()
+{
+    QTest::addColumn<QStringList>("inRange");
+    QTest::addColumn<int>("signal");
+    QTest::newRow("percentage") << QStringList("A/64") << 64;
+    QTest::newRow("none at all") << QStringList("A/0") << 0;
+    QTest::newRow("full") << QStringList("A/100") << 100;
+    QTest::newRow("no percentage") << QStringList("A/101") << int(SignalStrength::unknown);
+    QTest::newRow("decibels") << QStringList("A/-70") << int(SignalStrength::unknown);
+    QTest::newRow("out of range") << QStringList("B/64") << int(SignalStrength::unknown);
+    QTest::newRow("several stations") << (QStringList() << "A/80"
+                                                        << "A/20")
+                                      << 80;
+}
+
+void OverviewTest::SignalIsTold()
+{
+    QFETCH(QStringList, inRange);
+    const QList<PriorityList> list = ListOf(QStringList("A"));
+    const Overview overview = Overview::Make(0, list, true, NetworksOf(inRange));
+    QTEST(overview.entries.at(0).signal, "signal");
+    const Overview blind = Overview::Make(0, list, false, NetworksOf(inRange));
+    QCOMPARE(blind.entries.at(0).signal, int(SignalStrength::unknown));
 }
 
 void OverviewTest::WithoutPriorityPluginThereIsNoList()

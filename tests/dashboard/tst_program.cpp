@@ -48,6 +48,8 @@ private slots:
     void ToolkitThatCannotStartSaysWhy();
 
     void TourSucceeds();
+    void TourSucceedsAtAnyScale_data();
+    void TourSucceedsAtAnyScale();
     void TourShowsConnectingAddingAndCreating();
     void TourTellsNoKeys();
     void TourSucceedsFromRightToLeft();
@@ -179,6 +181,23 @@ void ProgramTest::TourSucceeds()
         QVERIFY(outcome.out.contains(QString("step %1: ").arg(i)));
     }
     QVERIFY(outcome.out.contains("\n   1. Home (Wi-Fi)\n"));
+}
+
+void ProgramTest::TourSucceedsAtAnyScale_data()
+{
+    QTest::addColumn<QString>("scale");
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("150 %") << "1.5" << QSize(1230, 930);
+    QTest::newRow("200 %") << "2" << QSize(1640, 1240);
+}
+
+void ProgramTest::TourSucceedsAtAnyScale()
+{
+    QFETCH(QString, scale);
+    const Outcome outcome =
+        RunDashboard(QStringList() << "--tour" << TourPath(), Environment() << "QT_SCALE_FACTOR=" + scale);
+    QVERIFY2(outcome.status == 0, qPrintable(outcome.out + outcome.err));
+    QTEST(QImage(TourPath() + "/01-empty.png").size(), "size");
 }
 
 void ProgramTest::TourShowsConnectingAddingAndCreating()
