@@ -457,5 +457,393 @@ Erwartet: %3</translation>
         <source>IDS_NOTE_STORED_STANDS_IN</source>
         <translation>Es gibt keinen NetworkManager. Dies sind eigene Netzwerke dieses Programms; die des Computers bleiben unberührt.</translation>
     </message>
+    <message>
+        <source>IDS_MENU_EDIT</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_UNDO</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_REDO</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_RESTORE</source>
+        <translation>Wieder&amp;herstellen…</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_IMPORT</source>
+        <translation>Reihenfolge &amp;importieren…</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_EXPORT</source>
+        <translation>Reihenfolge &amp;exportieren…</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_UNDO</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_REDO</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_RESTORE</source>
+        <translation>Wiederherstellen…</translation>
+    </message>
+    <message>
+        <source>IDS_UNDO_WHAT</source>
+        <translation>Rückgängig: %1</translation>
+    </message>
+    <message>
+        <source>IDS_REDO_WHAT</source>
+        <translation>Wiederholen: %1</translation>
+    </message>
+    <message>
+        <source>IDS_UNDO_NOTHING</source>
+        <translation>Es gibt keine frühere Liste, zu der es zurückgehen könnte.</translation>
+    </message>
+    <message>
+        <source>IDS_REDO_NOTHING</source>
+        <translation>Es wurde nichts rückgängig gemacht, also gibt es nichts zu wiederholen.</translation>
+    </message>
+    <message>
+        <source>IDS_REDO_DAMAGED</source>
+        <translation>Die Datei mit Ihrer Liste ist beschädigt. „Rückgängig“ bringt die letzte lesbare Liste zurück.</translation>
+    </message>
+    <message>
+        <source>IDS_UNDO_NO_PLUGIN</source>
+        <translation>Das Plug-in, das die Liste führt, ist nicht verfügbar; deshalb lässt sich die Liste nicht ändern.</translation>
+    </message>
+    <message>
+        <source>IDS_LAST_CHANGE</source>
+        <translation>Letzte Änderung: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_NONE</source>
+        <translation>Nichts geändert</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_EMPTIED</source>
+        <translation>Alle Einträge gelöscht</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_DAMAGED</source>
+        <translation>Die Datei wurde beschädigt</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_ADDED_ONE</source>
+        <translation>%1 hinzugefügt</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_ADDED_MANY</source>
+        <translation>%1 Einträge hinzugefügt</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_DELETED_ONE</source>
+        <translation>%1 gelöscht</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_DELETED_MANY</source>
+        <translation>%1 Einträge gelöscht</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_MOVED_UP</source>
+        <translation>%1 nach oben verschoben</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_MOVED_DOWN</source>
+        <translation>%1 nach unten verschoben</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_MOVED_TOP</source>
+        <translation>%1 an den Anfang verschoben</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_MOVED_END</source>
+        <translation>%1 ans Ende verschoben</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_MOVED_MANY</source>
+        <translation>%1 Einträge verschoben</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_UNNAMED</source>
+        <translation>(ohne Namen)</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_TITLE</source>
+        <translation>Frühere Liste wiederherstellen</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_HINT</source>
+        <translation>Wählen Sie, wie Ihre Liste wieder sein soll. Kein anderer Stand geht dabei verloren.</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_TIME</source>
+        <translation>Wann</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_CHANGE</source>
+        <translation>Was geändert wurde</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_STATUS</source>
+        <translation>Stand</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_NOW</source>
+        <translation>Jetzt</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_UNDONE</source>
+        <translation>Zurückgenommen</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_OLDEST</source>
+        <translation>Älteste aufbewahrte Liste</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_PREVIEW</source>
+        <translation>Die Liste damals</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_EFFECT</source>
+        <translation>Das bewirkt die Wiederherstellung: %1</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_IS_NOW</source>
+        <translation>Das ist die Liste, wie sie jetzt ist.</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_OK</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_ASIDE</source>
+        <translation>Beiseitelegen und neu beginnen</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_GONE</source>
+        <translation>Diese Liste wird nicht mehr aufbewahrt. Wählen Sie eine andere.</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_TITLE</source>
+        <translation>Reihenfolge importieren</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_HINT</source>
+        <translation>Übernimmt eine Liste aus einer Datei. Sie sehen vorher, was sich ändern würde.</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_SUMMARY</source>
+        <translation>Das bewirkt der Import: %1</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_NO_CHANGE</source>
+        <translation>Ihre Liste hat diese Reihenfolge schon. Es gibt nichts zu importieren.</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_PLACE</source>
+        <translation>Platz</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_EFFECT</source>
+        <translation>Was geschieht</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_STAYS</source>
+        <translation>Bleibt</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_ADDED</source>
+        <translation>Kommt hinzu</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_MOVED_UP</source>
+        <translation>Rückt nach oben</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_MOVED_DOWN</source>
+        <translation>Rückt nach unten</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_MOVED</source>
+        <translation>Andere rücken um ihn herum</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_REMOVED</source>
+        <translation>Wird aus der Liste entfernt</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_EFFECT_UNKNOWN</source>
+        <translation>%1; hier nicht bekannt</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_UNKNOWN</source>
+        <translation>Auf diesem Computer nicht bekannt: %1. Ein solcher Eintrag wird erst verwendet, wenn das Netzwerk hier eingerichtet ist.</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_OK</source>
+        <translation>Importieren</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_NOT_READABLE</source>
+        <translation>Die Datei %1 lässt sich nicht lesen oder ist für eine Liste viel zu groß. Ihre Liste ist unverändert.</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_DAMAGED</source>
+        <translation>Die Datei %1 ist keine Netzwerkliste, die sich importieren lässt. %2. Ihre Liste ist unverändert.</translation>
+    </message>
+    <message>
+        <source>IDS_EXPORT_TITLE</source>
+        <translation>Reihenfolge exportieren</translation>
+    </message>
+    <message>
+        <source>IDS_EXPORT_HINT</source>
+        <translation>Schreibt die Reihenfolge Ihrer Liste in eine Datei, ohne Schlüssel.</translation>
+    </message>
+    <message>
+        <source>IDS_EXPORT_FILE_NAME</source>
+        <translation>netzwerk-reihenfolge.xml</translation>
+    </message>
+    <message>
+        <source>IDS_EXPORT_NOT_WRITTEN</source>
+        <translation>Die Datei %1 lässt sich nicht schreiben. Was vorher dort war, ist unverändert.</translation>
+    </message>
+    <message>
+        <source>IDS_ORDER_FILES</source>
+        <translation>Netzwerk-Reihenfolgen</translation>
+    </message>
+    <message>
+        <source>IDS_ALL_FILES</source>
+        <translation>Alle Dateien</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_NOT_WRITTEN</source>
+        <translation>Die Liste lässt sich nicht nach %1 schreiben. Prüfen Sie, ob der Datenträger voll oder die Datei geschützt ist.</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_NOT_KEPT</source>
+        <translation>Die beschädigte Datei %1 lässt sich nicht zur Sicherheit kopieren und wurde deshalb nicht angetastet.</translation>
+    </message>
+    <message>
+        <source>IDS_HISTORY_DAMAGED</source>
+        <translation>Die Datei mit den früheren Listen, %1, ist beschädigt und wurde nicht angetastet. %2. Bis sie unter „Wiederherstellen…“ beiseitegelegt ist, lässt sich nichts rückgängig machen.</translation>
+    </message>
+    <message>
+        <source>IDS_HISTORY_NOT_READABLE</source>
+        <translation>Die Datei mit den früheren Listen, %1, lässt sich nicht lesen und wurde nicht angetastet. Bis sie lesbar oder unter „Wiederherstellen…“ beiseitegelegt ist, lässt sich nichts rückgängig machen.</translation>
+    </message>
+    <message>
+        <source>IDS_HISTORY_NOT_WRITABLE</source>
+        <translation>Frühere Listen lassen sich nicht in %1 aufbewahren. Ihre Änderungen lassen sich nur rückgängig machen, bis das Programm endet.</translation>
+    </message>
+    <message>
+        <source>IDS_HISTORY_BUSY</source>
+        <translation>Ein anderes Programm arbeitet gerade mit den früheren Listen. Versuchen Sie es gleich noch einmal.</translation>
+    </message>
+    <message>
+        <source>IDS_HISTORY_NOT_SET_ASIDE</source>
+        <translation>Die Datei %1 lässt sich nicht umbenennen und wurde deshalb nicht angetastet.</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_LINE</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_XML</source>
+        <translation>das ist kein wohlgeformtes XML</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_DECLARATION</source>
+        <translation>eine Dokumenttyp-Deklaration gehört nicht dorthin</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_ELEMENT</source>
+        <translation>das Element „%1“ gehört nicht dorthin</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_TEXT</source>
+        <translation>Text gehört nicht dorthin</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_ATTRIBUTE</source>
+        <translation>das Attribut „%1“ fehlt</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_VALUE</source>
+        <translation>das Attribut „%1“ hat einen unmöglichen Wert</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_TOO_MANY</source>
+        <translation>es gibt zu viele Elemente „%1“</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_UNDO_DAMAGE</source>
+        <translation>„Rückgängig“ bringt die letzte lesbare Liste zurück.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_SKIPPED</source>
+        <translation>Weiter oben in der Liste, aber außer Reichweite: %1.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_CONNECT_HINT</source>
+        <translation>„Verbinden…“ zeigt die Netzwerke in Reichweite.</translation>
+    </message>
+    <message>
+        <source>IDS_WHY_OUT_OF_RANGE</source>
+        <translation>Zurzeit nicht nutzbar, weil außer Reichweite.</translation>
+    </message>
+    <message>
+        <source>IDS_WHY_LOWER</source>
+        <translation>Nutzbar, aber %1 steht weiter oben in der Liste.</translation>
+    </message>
+    <message>
+        <source>IDS_WHY_UNDECIDED</source>
+        <translation>Nutzbar, aber es ist nicht bekannt, ob ein Netzwerk weiter oben in der Liste in Reichweite ist.</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_TRACE_SEARCH</source>
+        <translation>Ablaufprotokoll &amp;durchsuchen…</translation>
+    </message>
+    <message>
+        <source>IDS_TRACE_SEARCH</source>
+        <translation>Ablaufprotokoll durchsuchen</translation>
+    </message>
+    <message>
+        <source>IDS_TRACE_NEXT</source>
+        <translation>Nächste Stelle</translation>
+    </message>
+    <message>
+        <source>IDS_TRACE_PREVIOUS</source>
+        <translation>Vorige Stelle</translation>
+    </message>
+    <message>
+        <source>IDS_TRACE_MATCHES</source>
+        <translation>Gefunden: %1</translation>
+    </message>
+    <message>
+        <source>IDS_TRACE_NO_MATCH</source>
+        <translation>Nicht gefunden</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_APPEARANCE</source>
+        <translation>&amp;Erscheinungsbild</translation>
+    </message>
+    <message>
+        <source>IDS_APPEARANCE_SYSTEM</source>
+        <translation>Wie der &amp;Desktop</translation>
+    </message>
+    <message>
+        <source>IDS_APPEARANCE_LIGHT</source>
+        <translation>&amp;Hell</translation>
+    </message>
+    <message>
+        <source>IDS_APPEARANCE_DARK</source>
+        <translation>D&amp;unkel</translation>
+    </message>
 </context>
 </TS>

@@ -457,5 +457,393 @@ Esperado: %3</translation>
         <source>IDS_NOTE_STORED_STANDS_IN</source>
         <translation>No hay ningún NetworkManager disponible. Estas redes son propias de este programa; las del equipo no se tocan.</translation>
     </message>
+    <message>
+        <source>IDS_MENU_EDIT</source>
+        <translation>&amp;Editar</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_UNDO</source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_REDO</source>
+        <translation>&amp;Rehacer</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_RESTORE</source>
+        <translation>Re&amp;staurar…</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_IMPORT</source>
+        <translation>&amp;Importar orden…</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_EXPORT</source>
+        <translation>E&amp;xportar orden…</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_UNDO</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_REDO</source>
+        <translation>Rehacer</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_RESTORE</source>
+        <translation>Restaurar…</translation>
+    </message>
+    <message>
+        <source>IDS_UNDO_WHAT</source>
+        <translation>Deshacer: %1</translation>
+    </message>
+    <message>
+        <source>IDS_REDO_WHAT</source>
+        <translation>Rehacer: %1</translation>
+    </message>
+    <message>
+        <source>IDS_UNDO_NOTHING</source>
+        <translation>No hay ninguna lista anterior a la que volver.</translation>
+    </message>
+    <message>
+        <source>IDS_REDO_NOTHING</source>
+        <translation>No se ha deshecho nada, así que no hay nada que rehacer.</translation>
+    </message>
+    <message>
+        <source>IDS_REDO_DAMAGED</source>
+        <translation>El archivo de su lista está dañado. «Deshacer» recupera la última lista que se pudo leer.</translation>
+    </message>
+    <message>
+        <source>IDS_UNDO_NO_PLUGIN</source>
+        <translation>El complemento que guarda la lista no está disponible, así que la lista no se puede cambiar.</translation>
+    </message>
+    <message>
+        <source>IDS_LAST_CHANGE</source>
+        <translation>Último cambio: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_NONE</source>
+        <translation>Ningún cambio</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_EMPTIED</source>
+        <translation>Se eliminaron todas las entradas</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_DAMAGED</source>
+        <translation>El archivo se dañó</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_ADDED_ONE</source>
+        <translation>Añadida: %1</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_ADDED_MANY</source>
+        <translation>%1 entradas añadidas</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_DELETED_ONE</source>
+        <translation>Eliminada: %1</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_DELETED_MANY</source>
+        <translation>%1 entradas eliminadas</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_MOVED_UP</source>
+        <translation>%1: movida hacia arriba</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_MOVED_DOWN</source>
+        <translation>%1: movida hacia abajo</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_MOVED_TOP</source>
+        <translation>%1: movida al principio</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_MOVED_END</source>
+        <translation>%1: movida al final</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_MOVED_MANY</source>
+        <translation>%1 entradas movidas</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_UNNAMED</source>
+        <translation>(sin nombre)</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_TITLE</source>
+        <translation>Restaurar una lista anterior</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_HINT</source>
+        <translation>Elija cómo debe volver a ser su lista. No se pierde ningún otro estado.</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_TIME</source>
+        <translation>Cuándo</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_CHANGE</source>
+        <translation>Qué cambió</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_STATUS</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_NOW</source>
+        <translation>Ahora</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_UNDONE</source>
+        <translation>Deshecho</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_OLDEST</source>
+        <translation>La lista más antigua guardada</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_PREVIEW</source>
+        <translation>La lista entonces</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_EFFECT</source>
+        <translation>Lo que hará la restauración: %1</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_IS_NOW</source>
+        <translation>Esta es la lista tal como está ahora.</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_OK</source>
+        <translation>Restaurar</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_ASIDE</source>
+        <translation>Apartarlo y empezar de nuevo</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_GONE</source>
+        <translation>Esa lista ya no se guarda. Elija otra.</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_TITLE</source>
+        <translation>Importar un orden</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_HINT</source>
+        <translation>Toma una lista de un archivo. Antes verá lo que cambiaría.</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_SUMMARY</source>
+        <translation>Lo que hará la importación: %1</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_NO_CHANGE</source>
+        <translation>Su lista ya tiene este orden. No hay nada que importar.</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_PLACE</source>
+        <translation>Puesto</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_EFFECT</source>
+        <translation>Qué ocurre</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_STAYS</source>
+        <translation>Se queda</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_ADDED</source>
+        <translation>Se añade</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_MOVED_UP</source>
+        <translation>Sube</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_MOVED_DOWN</source>
+        <translation>Baja</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_MOVED</source>
+        <translation>Otras se mueven a su alrededor</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_REMOVED</source>
+        <translation>Se quita de la lista</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_EFFECT_UNKNOWN</source>
+        <translation>%1; no se conoce aquí</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_UNKNOWN</source>
+        <translation>No se conocen en este equipo: %1. Una entrada así solo se usa cuando la red se haya configurado aquí.</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_OK</source>
+        <translation>Importar</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_NOT_READABLE</source>
+        <translation>El archivo %1 no se puede leer o es demasiado grande para una lista. Su lista sigue igual.</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_DAMAGED</source>
+        <translation>El archivo %1 no es una lista de redes que se pueda importar. %2. Su lista sigue igual.</translation>
+    </message>
+    <message>
+        <source>IDS_EXPORT_TITLE</source>
+        <translation>Exportar el orden</translation>
+    </message>
+    <message>
+        <source>IDS_EXPORT_HINT</source>
+        <translation>Escribe el orden de su lista en un archivo, sin claves.</translation>
+    </message>
+    <message>
+        <source>IDS_EXPORT_FILE_NAME</source>
+        <translation>orden-de-redes.xml</translation>
+    </message>
+    <message>
+        <source>IDS_EXPORT_NOT_WRITTEN</source>
+        <translation>El archivo %1 no se puede escribir. Lo que había antes sigue igual.</translation>
+    </message>
+    <message>
+        <source>IDS_ORDER_FILES</source>
+        <translation>Órdenes de redes</translation>
+    </message>
+    <message>
+        <source>IDS_ALL_FILES</source>
+        <translation>Todos los archivos</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_NOT_WRITTEN</source>
+        <translation>La lista no se puede escribir en %1. Compruebe si el disco está lleno o el archivo protegido.</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_NOT_KEPT</source>
+        <translation>El archivo dañado %1 no se puede copiar para conservarlo, así que no se ha tocado.</translation>
+    </message>
+    <message>
+        <source>IDS_HISTORY_DAMAGED</source>
+        <translation>El archivo de las listas anteriores, %1, está dañado y no se ha tocado. %2. Hasta que se aparte en «Restaurar…», no se puede deshacer nada.</translation>
+    </message>
+    <message>
+        <source>IDS_HISTORY_NOT_READABLE</source>
+        <translation>El archivo de las listas anteriores, %1, no se puede leer y no se ha tocado. Hasta que se pueda o se aparte en «Restaurar…», no se puede deshacer nada.</translation>
+    </message>
+    <message>
+        <source>IDS_HISTORY_NOT_WRITABLE</source>
+        <translation>Las listas anteriores no se pueden guardar en %1. Lo que cambie solo podrá deshacerse hasta que termine el programa.</translation>
+    </message>
+    <message>
+        <source>IDS_HISTORY_BUSY</source>
+        <translation>Otro programa está trabajando con las listas anteriores. Inténtelo de nuevo en un momento.</translation>
+    </message>
+    <message>
+        <source>IDS_HISTORY_NOT_SET_ASIDE</source>
+        <translation>El archivo %1 no se puede renombrar, así que no se ha tocado.</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_LINE</source>
+        <translation>Línea %1: %2</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_XML</source>
+        <translation>no es XML bien formado</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_DECLARATION</source>
+        <translation>una declaración de tipo de documento no corresponde ahí</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_ELEMENT</source>
+        <translation>el elemento «%1» no corresponde ahí</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_TEXT</source>
+        <translation>no corresponde texto ahí</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_ATTRIBUTE</source>
+        <translation>falta el atributo «%1»</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_VALUE</source>
+        <translation>el atributo «%1» tiene un valor imposible</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_TOO_MANY</source>
+        <translation>hay demasiados elementos «%1»</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_UNDO_DAMAGE</source>
+        <translation>«Deshacer» recupera la última lista que se pudo leer.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_SKIPPED</source>
+        <translation>Más arriba en la lista, pero fuera de alcance: %1.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_CONNECT_HINT</source>
+        <translation>«Conectar…» muestra las redes al alcance.</translation>
+    </message>
+    <message>
+        <source>IDS_WHY_OUT_OF_RANGE</source>
+        <translation>No se puede usar ahora, porque está fuera de alcance.</translation>
+    </message>
+    <message>
+        <source>IDS_WHY_LOWER</source>
+        <translation>Se podría usar, pero %1 está más arriba en la lista.</translation>
+    </message>
+    <message>
+        <source>IDS_WHY_UNDECIDED</source>
+        <translation>Se podría usar, pero no se sabe si hay al alcance una red más arriba en la lista.</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_TRACE_SEARCH</source>
+        <translation>&amp;Buscar en el seguimiento…</translation>
+    </message>
+    <message>
+        <source>IDS_TRACE_SEARCH</source>
+        <translation>Buscar en el seguimiento</translation>
+    </message>
+    <message>
+        <source>IDS_TRACE_NEXT</source>
+        <translation>Lugar siguiente</translation>
+    </message>
+    <message>
+        <source>IDS_TRACE_PREVIOUS</source>
+        <translation>Lugar anterior</translation>
+    </message>
+    <message>
+        <source>IDS_TRACE_MATCHES</source>
+        <translation>Encontrados: %1</translation>
+    </message>
+    <message>
+        <source>IDS_TRACE_NO_MATCH</source>
+        <translation>No encontrado</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_APPEARANCE</source>
+        <translation>&amp;Apariencia</translation>
+    </message>
+    <message>
+        <source>IDS_APPEARANCE_SYSTEM</source>
+        <translation>Como el &amp;escritorio</translation>
+    </message>
+    <message>
+        <source>IDS_APPEARANCE_LIGHT</source>
+        <translation>&amp;Claro</translation>
+    </message>
+    <message>
+        <source>IDS_APPEARANCE_DARK</source>
+        <translation>&amp;Oscuro</translation>
+    </message>
 </context>
 </TS>

@@ -457,5 +457,393 @@ Attendu&#xa0;: %3</translation>
         <source>IDS_NOTE_STORED_STANDS_IN</source>
         <translation>NetworkManager n’est pas disponible. Ces réseaux sont propres à ce programme&#x202f;; ceux de l’ordinateur ne sont pas modifiés.</translation>
     </message>
+    <message>
+        <source>IDS_MENU_EDIT</source>
+        <translation>&amp;Édition</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_UNDO</source>
+        <translation>Ann&amp;uler</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_REDO</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_RESTORE</source>
+        <translation>Re&amp;staurer…</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_IMPORT</source>
+        <translation>&amp;Importer un ordre…</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_EXPORT</source>
+        <translation>E&amp;xporter l’ordre…</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_UNDO</source>
+        <translation>Annuler l’action</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_REDO</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_RESTORE</source>
+        <translation>Restaurer…</translation>
+    </message>
+    <message>
+        <source>IDS_UNDO_WHAT</source>
+        <translation>Annuler : %1</translation>
+    </message>
+    <message>
+        <source>IDS_REDO_WHAT</source>
+        <translation>Rétablir : %1</translation>
+    </message>
+    <message>
+        <source>IDS_UNDO_NOTHING</source>
+        <translation>Il n’y a pas de liste précédente à laquelle revenir.</translation>
+    </message>
+    <message>
+        <source>IDS_REDO_NOTHING</source>
+        <translation>Rien n’a été annulé, il n’y a donc rien à rétablir.</translation>
+    </message>
+    <message>
+        <source>IDS_REDO_DAMAGED</source>
+        <translation>Le fichier de votre liste est endommagé. « Annuler l’action » ramène la dernière liste lisible.</translation>
+    </message>
+    <message>
+        <source>IDS_UNDO_NO_PLUGIN</source>
+        <translation>Le module qui tient la liste n’est pas disponible ; la liste ne peut donc pas être modifiée.</translation>
+    </message>
+    <message>
+        <source>IDS_LAST_CHANGE</source>
+        <translation>Dernière modification : %1 (%2)</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_NONE</source>
+        <translation>Aucun changement</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_EMPTIED</source>
+        <translation>Toutes les entrées supprimées</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_DAMAGED</source>
+        <translation>Le fichier a été endommagé</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_ADDED_ONE</source>
+        <translation>%1 ajouté</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_ADDED_MANY</source>
+        <translation>%1 entrées ajoutées</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_DELETED_ONE</source>
+        <translation>%1 supprimé</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_DELETED_MANY</source>
+        <translation>%1 entrées supprimées</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_MOVED_UP</source>
+        <translation>%1 déplacé vers le haut</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_MOVED_DOWN</source>
+        <translation>%1 déplacé vers le bas</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_MOVED_TOP</source>
+        <translation>%1 déplacé en tête</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_MOVED_END</source>
+        <translation>%1 déplacé à la fin</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_MOVED_MANY</source>
+        <translation>%1 entrées déplacées</translation>
+    </message>
+    <message>
+        <source>IDS_CHANGE_UNNAMED</source>
+        <translation>(sans nom)</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_TITLE</source>
+        <translation>Restaurer une liste précédente</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_HINT</source>
+        <translation>Choisissez comment votre liste doit redevenir. Aucun autre état n’est perdu.</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_TIME</source>
+        <translation>Quand</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_CHANGE</source>
+        <translation>Ce qui a changé</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_STATUS</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_NOW</source>
+        <translation>Actuel</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_UNDONE</source>
+        <translation>Annulé</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_OLDEST</source>
+        <translation>Plus ancienne liste conservée</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_PREVIEW</source>
+        <translation>La liste à ce moment</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_EFFECT</source>
+        <translation>Effet de la restauration : %1</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_IS_NOW</source>
+        <translation>C’est la liste telle qu’elle est maintenant.</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_OK</source>
+        <translation>Restaurer</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_ASIDE</source>
+        <translation>Le mettre de côté et recommencer</translation>
+    </message>
+    <message>
+        <source>IDS_RESTORE_GONE</source>
+        <translation>Cette liste n’est plus conservée. Choisissez-en une autre.</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_TITLE</source>
+        <translation>Importer un ordre</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_HINT</source>
+        <translation>Reprend une liste depuis un fichier. Vous voyez d’abord ce qui changerait.</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_SUMMARY</source>
+        <translation>Effet de l’importation : %1</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_NO_CHANGE</source>
+        <translation>Votre liste est déjà dans cet ordre. Il n’y a rien à importer.</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_PLACE</source>
+        <translation>Rang</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_EFFECT</source>
+        <translation>Ce qui se passe</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_STAYS</source>
+        <translation>Reste</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_ADDED</source>
+        <translation>Est ajouté</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_MOVED_UP</source>
+        <translation>Monte</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_MOVED_DOWN</source>
+        <translation>Descend</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_MOVED</source>
+        <translation>D’autres se déplacent autour</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_REMOVED</source>
+        <translation>Est retiré de la liste</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_EFFECT_UNKNOWN</source>
+        <translation>%1 ; inconnu ici</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_UNKNOWN</source>
+        <translation>Inconnus sur cet ordinateur : %1. Une telle entrée n’est utilisée qu’une fois le réseau configuré ici.</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_OK</source>
+        <translation>Importer</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_NOT_READABLE</source>
+        <translation>Le fichier %1 ne peut pas être lu ou est bien trop grand pour une liste. Votre liste est inchangée.</translation>
+    </message>
+    <message>
+        <source>IDS_IMPORT_DAMAGED</source>
+        <translation>Le fichier %1 n’est pas une liste de réseaux importable. %2. Votre liste est inchangée.</translation>
+    </message>
+    <message>
+        <source>IDS_EXPORT_TITLE</source>
+        <translation>Exporter l’ordre</translation>
+    </message>
+    <message>
+        <source>IDS_EXPORT_HINT</source>
+        <translation>Écrit l’ordre de votre liste dans un fichier, sans les clés.</translation>
+    </message>
+    <message>
+        <source>IDS_EXPORT_FILE_NAME</source>
+        <translation>ordre-des-reseaux.xml</translation>
+    </message>
+    <message>
+        <source>IDS_EXPORT_NOT_WRITTEN</source>
+        <translation>Le fichier %1 ne peut pas être écrit. Ce qui s’y trouvait est inchangé.</translation>
+    </message>
+    <message>
+        <source>IDS_ORDER_FILES</source>
+        <translation>Ordres de réseaux</translation>
+    </message>
+    <message>
+        <source>IDS_ALL_FILES</source>
+        <translation>Tous les fichiers</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_NOT_WRITTEN</source>
+        <translation>La liste ne peut pas être écrite dans %1. Vérifiez si le disque est plein ou le fichier protégé.</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_NOT_KEPT</source>
+        <translation>Le fichier endommagé %1 ne peut pas être copié par sécurité ; il a été laissé tel quel.</translation>
+    </message>
+    <message>
+        <source>IDS_HISTORY_DAMAGED</source>
+        <translation>Le fichier des listes précédentes, %1, est endommagé et a été laissé tel quel. %2. Tant qu’il n’est pas mis de côté dans « Restaurer… », rien ne peut être annulé.</translation>
+    </message>
+    <message>
+        <source>IDS_HISTORY_NOT_READABLE</source>
+        <translation>Le fichier des listes précédentes, %1, ne peut pas être lu et a été laissé tel quel. Tant qu’il ne l’est pas ou n’est pas mis de côté dans « Restaurer… », rien ne peut être annulé.</translation>
+    </message>
+    <message>
+        <source>IDS_HISTORY_NOT_WRITABLE</source>
+        <translation>Les listes précédentes ne peuvent pas être conservées dans %1. Vos modifications ne pourront être annulées que jusqu’à la fin du programme.</translation>
+    </message>
+    <message>
+        <source>IDS_HISTORY_BUSY</source>
+        <translation>Un autre programme utilise les listes précédentes. Réessayez dans un instant.</translation>
+    </message>
+    <message>
+        <source>IDS_HISTORY_NOT_SET_ASIDE</source>
+        <translation>Le fichier %1 ne peut pas être renommé ; il a été laissé tel quel.</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_LINE</source>
+        <translation>Ligne %1 : %2</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_XML</source>
+        <translation>ce n’est pas du XML bien formé</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_DECLARATION</source>
+        <translation>une déclaration de type de document n’a pas sa place ici</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_ELEMENT</source>
+        <translation>l’élément « %1 » n’a pas sa place ici</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_TEXT</source>
+        <translation>du texte n’a pas sa place ici</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_ATTRIBUTE</source>
+        <translation>l’attribut « %1 » manque</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_VALUE</source>
+        <translation>l’attribut « %1 » a une valeur impossible</translation>
+    </message>
+    <message>
+        <source>IDS_FAULT_TOO_MANY</source>
+        <translation>il y a trop d’éléments « %1 »</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_UNDO_DAMAGE</source>
+        <translation>« Annuler l’action » ramène la dernière liste lisible.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_SKIPPED</source>
+        <translation>Plus haut dans la liste, mais hors de portée : %1.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_CONNECT_HINT</source>
+        <translation>« Se connecter… » montre les réseaux à portée.</translation>
+    </message>
+    <message>
+        <source>IDS_WHY_OUT_OF_RANGE</source>
+        <translation>Inutilisable pour l’instant, car hors de portée.</translation>
+    </message>
+    <message>
+        <source>IDS_WHY_LOWER</source>
+        <translation>Utilisable, mais %1 est plus haut dans la liste.</translation>
+    </message>
+    <message>
+        <source>IDS_WHY_UNDECIDED</source>
+        <translation>Utilisable, mais on ignore si un réseau plus haut dans la liste est à portée.</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_TRACE_SEARCH</source>
+        <translation>&amp;Rechercher dans la trace…</translation>
+    </message>
+    <message>
+        <source>IDS_TRACE_SEARCH</source>
+        <translation>Rechercher dans la trace</translation>
+    </message>
+    <message>
+        <source>IDS_TRACE_NEXT</source>
+        <translation>Occurrence suivante</translation>
+    </message>
+    <message>
+        <source>IDS_TRACE_PREVIOUS</source>
+        <translation>Occurrence précédente</translation>
+    </message>
+    <message>
+        <source>IDS_TRACE_MATCHES</source>
+        <translation>Trouvés : %1</translation>
+    </message>
+    <message>
+        <source>IDS_TRACE_NO_MATCH</source>
+        <translation>Introuvable</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_APPEARANCE</source>
+        <translation>&amp;Apparence</translation>
+    </message>
+    <message>
+        <source>IDS_APPEARANCE_SYSTEM</source>
+        <translation>Comme le &amp;bureau</translation>
+    </message>
+    <message>
+        <source>IDS_APPEARANCE_LIGHT</source>
+        <translation>&amp;Clair</translation>
+    </message>
+    <message>
+        <source>IDS_APPEARANCE_DARK</source>
+        <translation>&amp;Sombre</translation>
+    </message>
 </context>
 </TS>
