@@ -2,12 +2,11 @@
 #define DIALOGPARTS_H
 
 #include <QString>
-#include <Qt>
+#include <QWidget>
 
 class QLabel;
 class QPushButton;
 class QTableWidget;
-class QWidget;
 
 /** What the dashboard's dialogs are made of. Whoever gets a part puts it into a layout. */
 namespace DialogParts

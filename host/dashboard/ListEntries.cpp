@@ -14,7 +14,7 @@ QString StorableText(const QString &text)
     for (int i = 0; i < text.size(); ++i) {
         if (text.at(i).isHighSurrogate() && i + 1 < text.size() && text.at(i + 1).isLowSurrogate()) {
             ++i;
-        } else if (text.at(i).isSurrogate() || !IsXmlCharacter(text.at(i).unicode())) {
+        } else if (text.at(i).category() == QChar::Other_Surrogate || !IsXmlCharacter(text.at(i).unicode())) {
             storable[i] = QChar(QChar::ReplacementCharacter);
         }
     }

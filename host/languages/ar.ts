@@ -478,7 +478,7 @@
     </message>
     <message>
         <source>IDS_ACTION_IMPORT</source>
-        <translation>ا&amp;ستيراد الترتيب…</translation>
+        <translation>است&amp;يراد الترتيب…</translation>
     </message>
     <message>
         <source>IDS_ACTION_EXPORT</source>

@@ -233,6 +233,10 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
         <translation>Das Plugin, das die Liste verwaltet, ist nicht verfügbar, daher kann kein Netzwerk an ihre Spitze rücken.</translation>
     </message>
     <message>
+        <source>IDS_CLOSE</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
         <source>IDS_SETTINGS_TITLE</source>
         <translation>Einstellungen</translation>
     </message>

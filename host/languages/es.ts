@@ -233,6 +233,10 @@ Se permiten letras, números y estos signos:
         <translation>El complemento que guarda la lista no está disponible, así que no se puede poner ninguna red al principio.</translation>
     </message>
     <message>
+        <source>IDS_CLOSE</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
         <source>IDS_SETTINGS_TITLE</source>
         <translation>Configuración</translation>
     </message>

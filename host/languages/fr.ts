@@ -233,6 +233,10 @@ Sont autorisés les lettres, les chiffres et les signes suivants&#xa0;:
         <translation>Le module qui gère la liste n’est pas disponible&#x202f;; aucun réseau ne peut donc y être placé en tête.</translation>
     </message>
     <message>
+        <source>IDS_CLOSE</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
         <source>IDS_SETTINGS_TITLE</source>
         <translation>Paramètres</translation>
     </message>

@@ -470,7 +470,7 @@
     </message>
     <message>
         <source>IDS_ACTION_REDO</source>
-        <translation>&amp;ביצוע חוזר</translation>
+        <translation>ביצוע &amp;חוזר</translation>
     </message>
     <message>
         <source>IDS_ACTION_RESTORE</source>
@@ -834,7 +834,7 @@
     </message>
     <message>
         <source>IDS_MENU_APPEARANCE</source>
-        <translation>&amp;מראה</translation>
+        <translation>מ&amp;ראה</translation>
     </message>
     <message>
         <source>IDS_APPEARANCE_SYSTEM</source>

@@ -233,6 +233,10 @@
         <translation>リストを管理するプラグインを利用できないため、ネットワークをリストの先頭に移動できません。</translation>
     </message>
     <message>
+        <source>IDS_CLOSE</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
         <source>IDS_SETTINGS_TITLE</source>
         <translation>設定</translation>
     </message>

@@ -233,6 +233,10 @@ São permitidos letras, números e estes sinais:
         <translation>O plug-in que guarda a lista não está disponível, portanto nenhuma rede pode ser colocada no topo dela.</translation>
     </message>
     <message>
+        <source>IDS_CLOSE</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
         <source>IDS_SETTINGS_TITLE</source>
         <translation>Configurações</translation>
     </message>

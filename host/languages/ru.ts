@@ -233,6 +233,10 @@
         <translation>Модуль, который хранит список, недоступен, поэтому поставить сеть на первое место нельзя.</translation>
     </message>
     <message>
+        <source>IDS_CLOSE</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
         <source>IDS_SETTINGS_TITLE</source>
         <translation>Настройки</translation>
     </message>

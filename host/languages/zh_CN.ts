@@ -233,6 +233,10 @@
         <translation>保存列表的插件不可用，因此无法将网络移到列表顶部。</translation>
     </message>
     <message>
+        <source>IDS_CLOSE</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
         <source>IDS_SETTINGS_TITLE</source>
         <translation>设置</translation>
     </message>
