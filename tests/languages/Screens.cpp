@@ -2,11 +2,16 @@
 
 #include <CommonUtils.h>
 #include <ConnectDialog.h>
+#include <HistoryFile.h>
 #include <HostControl.h>
 #include <IPriorityPlugin.h>
 #include <IWLANUIPlugin.h>
+#include <ListActions.h>
+#include <Lists.h>
 #include <MainWindow.h>
+#include <OrderFile.h>
 #include <PluginObjects.h>
+#include <PrivateFile.h>
 #include <Settings.h>
 
 #include <QApplication>
@@ -29,16 +34,49 @@ namespace
 const char *const noNetworks = "<wlannetworks/>";
 const char *const longName = "Guests of the seminar hotel at the old harbour, second floor";
 
+const char *const damagedList = "<z><item name='Home' type='1'/><item";
+
 const char *const userDirectory = "priority-dashboard";
 
 /** Names of the sample networks, and what stands in the new-network dialog's boxes. */
-const char *const values[] = {longName,      "Home",    "Office",        "Café",
-                              "شبكة المنزل", "Company", "Old printer",   "Mobile broadband",
-                              "Neighbour",   "Library", "Workshop",      "Campus",
-                              "WPA2PSK",     "WPAPSK",  "WPA2(EAP)",     "WPA(EAP)",
-                              "IEEE 802.1X", "open",    "shared",        "none",
-                              "WEP",         "CCMP",    "TKIP",          "AUTO",
-                              "SIM",         "AKA",     "NetworkManager"};
+const char *const values[] = {longName, "Home", "Office", "Café", "شبكة المنزل", "Company", "Old printer",
+                              "Mobile broadband", "Neighbour", "Library", "Workshop", "Campus", "WPA2PSK",
+                              "WPAPSK", "WPA2(EAP)", "WPA(EAP)", "IEEE 802.1X", "open", "shared", "none",
+                              "WEP", "CCMP", "TKIP", "AUTO", "SIM", "AKA", "NetworkManager",
+                              "Guest house at the upper end of the long road",
+                              // The month of the states that are kept, in the words of the toolkit.
+                              "Mar"};
+
+/** The states of the list that are kept, oldest first: every kind of change is among them. */
+const char *const states[] = {"",
+                              "Home",
+                              "Home, Office, Café, Company",
+                              "Office, Home, Café, Company",
+                              "Home, Café, Office, Company",
+                              "Company, Home, Café, Office",
+                              "Home, Café, Office, Company",
+                              "Office, Café, Home, Company",
+                              "Café, Home, Company",
+                              "Company",
+                              "Company, /1",
+                              "",
+                              "Company, Home, Office",
+                              "Company, Home, Office, Guest house at the upper end of the long road",
+                              "Company, Home, Office"};
+const int stateInForce = 12;
+
+QStringList States()
+{
+    QStringList lists;
+    for (const char *state : states) {
+        lists.append(QString::fromUtf8(state));
+    }
+    return lists;
+}
+
+const char *const importedOver = "Home, Café, Office, Old printer, Library, Workshop, Company";
+const char *const imported =
+    "Office, Café, Home, Library, Workshop, Old printer, Guest house at the upper end of the long road";
 
 QString LanguageDirectory()
 {
@@ -109,12 +147,48 @@ const Screens::Screen Screens::screens[] = {
      "<z><item name='Home' type='1'/><item name='Mobile broadband' type='2'/></z>"},
     {"list, not to be opened", &Screens::ShowUnopenedList, nullptr},
     {"list, range unknown", &Screens::ShowRangeUnknown, nullptr},
+    {"list, range unknown, mobile broadband second", &Screens::ShowRangeUnknown,
+     "<z><item name='Home' type='1'/><item name='Mobile broadband' type='2'/></z>"},
+    {"list, first out of range", &Screens::ShowListFile,
+     "<z><item name='Office' type='1'/><item name='Home' type='1'/></z>"},
+    {"list, others in range", &Screens::ShowListFile, "<z><item name='Office' type='1'/></z>"},
     {"list, not handed out", &Screens::ShowListNotHandedOut, "QueryNull"},
-    {"list, damaged", &Screens::ShowListFile, "<z><item name='Home' type='1'/><item"},
+    {"list, damaged", &Screens::ShowListFile, damagedList},
     {"list, damaged from the start", &Screens::ShowListFile, "no list"},
+    {"list, to be undone and redone", &Screens::ShowHistory, nullptr},
+    {"list, damaged, to be undone", &Screens::ShowHistory, damagedList},
+    {"history, not well-formed", &Screens::ShowHistoryFile, "no history"},
+    {"history, declaration", &Screens::ShowHistoryFile, "<!DOCTYPE a><listhistory/>"},
+    {"history, another element", &Screens::ShowHistoryFile, "<z/>"},
+    {"history, text", &Screens::ShowHistoryFile, "<listhistory version='1' current='0'>z</listhistory>"},
+    {"history, attribute missing", &Screens::ShowHistoryFile, "<listhistory/>"},
+    {"history, value not possible", &Screens::ShowHistoryFile, "<listhistory version='7' current='0'/>"},
+    {"history, too many states", &Screens::ShowHistoryTooLong, nullptr},
+    {"history, not readable", &Screens::ShowHistoryNotReadable, nullptr},
+    {"history, not writable", &Screens::ShowHistoryNotWritable, nullptr},
+    {"undo, history held by another", &Screens::ShowUndoOfHeldHistory, nullptr},
+    {"undo, list not written", &Screens::ShowUndoNotWritten, nullptr},
+    {"undo, damaged list not kept", &Screens::ShowUndoOfListNotKept, nullptr},
+    {"restore dialog", &Screens::ShowRestore, "4"},
+    {"restore dialog, list as it is", &Screens::ShowRestore, "12"},
+    {"restore dialog, list like now", &Screens::ShowRestore, "14"},
+    {"restore dialog, list not written", &Screens::ShowRestoreNotWritten, nullptr},
+    {"restore dialog, state lost", &Screens::ShowRestoreOfLostState, nullptr},
+    {"restore dialog, history damaged", &Screens::ShowRestoreWithoutHistory, nullptr},
+    {"restore dialog, history not set aside", &Screens::ShowHistoryNotSetAside, nullptr},
+    {"import dialog", &Screens::ShowImport, imported},
+    {"import dialog, nothing to import", &Screens::ShowImport, importedOver},
+    {"import dialog, list not written", &Screens::ShowImportNotWritten, imported},
+    {"notice, import not readable", &Screens::ShowImportNotice, nullptr},
+    {"notice, import damaged", &Screens::ShowImportNotice, "no order"},
+    {"notice, export not written", &Screens::ShowExportNotice, nullptr},
     {"trace", &Screens::ShowTrace, nullptr},
+    {"trace, something found", &Screens::ShowTraceSearch, "e"},
+    {"trace, nothing found", &Screens::ShowTraceSearch, "no line has this"},
     {"File menu", &Screens::ShowMenu, "fileMenu"},
+    {"Edit menu", &Screens::ShowMenu, "editMenu"},
     {"View menu", &Screens::ShowMenu, "viewMenu"},
+    {"Appearance menu", &Screens::ShowMenu, "appearanceMenu"},
     {"Language menu", &Screens::ShowMenu, "languageMenu"},
     {"plug-ins missing", &Screens::ShowBroken, "Absent"},
     {"plug-in without verification", &Screens::ShowBroken, "NoVerification"},
@@ -266,9 +340,13 @@ void Screens::ShowUnopenedList(const char *)
     Visit();
 }
 
-void Screens::ShowRangeUnknown(const char *)
+void Screens::ShowRangeUnknown(const char *listFile)
 {
-    Fill();
+    if (listFile) {
+        WriteUserFile(QLatin1String("Priority.xml"), listFile);
+    } else {
+        Fill();
+    }
     WithoutWlan container(m_plugins.data());
     HostControl::SetPluginContainer(&container);
     OpenWindow(m_plugins.data());
@@ -292,6 +370,15 @@ void Screens::ShowTrace(const char *)
     Fill();
     OpenWindow(m_plugins.data());
     Click("traceButton");
+    Visit();
+}
+
+void Screens::ShowTraceSearch(const char *text)
+{
+    Fill();
+    OpenWindow(m_plugins.data());
+    Click("traceButton");
+    Child<QLineEdit>("traceSearch")->setText(QLatin1String(text));
     Visit();
 }
 
@@ -460,6 +547,148 @@ void Screens::ShowDamagedLanguage(const char *kind)
     Visit();
 }
 
+void Screens::ShowHistory(const char *listFile)
+{
+    KeepHistory(States(), stateInForce);
+    if (listFile) {
+        WriteUserFile(QLatin1String("Priority.xml"), listFile);
+    }
+    OpenWindow(m_plugins.data());
+    Visit();
+}
+
+void Screens::ShowHistoryFile(const char *content)
+{
+    Fill();
+    WriteUserFile(QLatin1String("history/states.xml"), content);
+    OpenWindow(m_plugins.data());
+    Visit();
+}
+
+void Screens::ShowHistoryTooLong(const char *)
+{
+    QStringList lists;
+    for (int i = 0; i < ListHistory::Limit; ++i) {
+        lists.append(QLatin1String(i % 2 == 0 ? "Home" : "Office"));
+    }
+    KeepHistory(lists, 0);
+    QByteArray content = m_directory->Read(QLatin1String("priority-dashboard/history/states.xml"));
+    content.replace("</states>", "<state time='2026-03-15T09:00:00Z' order='0'/></states>");
+    WriteUserFile(QLatin1String("history/states.xml"), content);
+    OpenWindow(m_plugins.data());
+    Visit();
+}
+
+void Screens::ShowHistoryNotReadable(const char *)
+{
+    Fill();
+    QDir().mkpath(UserPath(QLatin1String("history/states.xml")));
+    OpenWindow(m_plugins.data());
+    Visit();
+}
+
+void Screens::ShowHistoryNotWritable(const char *)
+{
+    Fill();
+    WriteUserFile(QLatin1String("history"), "no directory");
+    OpenWindow(m_plugins.data());
+    Visit();
+}
+
+void Screens::ShowUndoOfHeldHistory(const char *)
+{
+    KeepHistory(States(), stateInForce);
+    OpenWindow(m_plugins.data());
+    const DirectoryLock lock(UserPath(QLatin1String("history")));
+    ClickAndVisitMessage("undoButton");
+}
+
+void Screens::ShowUndoNotWritten(const char *)
+{
+    KeepHistory(States(), stateInForce);
+    OpenWindow(m_plugins.data());
+    QDir().mkdir(PrivateFile::TemporaryPath(UserPath(QLatin1String("Priority.xml"))));
+    ClickAndVisitMessage("undoButton");
+}
+
+void Screens::ShowUndoOfListNotKept(const char *)
+{
+    KeepHistory(States(), stateInForce);
+    WriteUserFile(QLatin1String("Priority.xml"), damagedList);
+    OpenWindow(m_plugins.data());
+    TakeNames("Priority-damaged-%1.xml");
+    ClickAndVisitMessage("undoButton");
+}
+
+void Screens::ShowRestore(const char *place)
+{
+    OpenRestore(QByteArray(place).toInt());
+    Visit();
+}
+
+void Screens::ShowRestoreNotWritten(const char *)
+{
+    OpenRestore(0);
+    QDir().mkdir(PrivateFile::TemporaryPath(UserPath(QLatin1String("Priority.xml"))));
+    Click("restoreOkButton");
+    Visit();
+}
+
+void Screens::ShowRestoreOfLostState(const char *)
+{
+    OpenRestore(0);
+    KeepHistory(States().mid(1), stateInForce - 1);
+    Click("restoreOkButton");
+    Visit();
+}
+
+void Screens::ShowRestoreWithoutHistory(const char *)
+{
+    WriteUserFile(QLatin1String("history/states.xml"), "no history");
+    OpenWindow(m_plugins.data());
+    Click("restoreButton");
+    Visit();
+}
+
+void Screens::ShowHistoryNotSetAside(const char *)
+{
+    WriteUserFile(QLatin1String("history/states.xml"), "no history");
+    OpenWindow(m_plugins.data());
+    Click("restoreButton");
+    TakeNames("history/states-damaged-%1.xml");
+    Click("restoreAsideButton");
+    Visit();
+}
+
+void Screens::ShowImport(const char *names)
+{
+    OpenImport(names);
+    Visit();
+}
+
+void Screens::ShowImportNotWritten(const char *names)
+{
+    OpenImport(names);
+    QDir().mkdir(PrivateFile::TemporaryPath(UserPath(QLatin1String("Priority.xml"))));
+    Click("importOkButton");
+    Visit();
+}
+
+void Screens::ShowImportNotice(const char *content)
+{
+    OpenWindow(m_plugins.data());
+    if (content) {
+        m_directory->Write(QLatin1String("order.xml"), content);
+    }
+    CallAndVisitMessage("Import", m_directory->FilePath(QLatin1String("order.xml")));
+}
+
+void Screens::ShowExportNotice(const char *)
+{
+    OpenWindow(m_plugins.data());
+    CallAndVisitMessage("Export", m_directory->FilePath(QLatin1String("no such directory/order.xml")));
+}
+
 void Screens::OpenWindow(PluginHost *plugins)
 {
     m_window.reset(new MainWindow(plugins, m_language.data(), m_log.data()));
@@ -484,6 +713,31 @@ void Screens::OpenNewDialog(const char *method)
     box->setCurrentIndex(box->findText(QLatin1String(method)));
 }
 
+void Screens::OpenRestore(int place)
+{
+    KeepHistory(States(), stateInForce);
+    OpenWindow(m_plugins.data());
+    Click("restoreButton");
+    QTableWidget *list = Child<QTableWidget>("restoreList");
+    list->setCurrentCell(list->rowCount() - 1 - place, 0);
+}
+
+void Screens::OpenImport(const char *names)
+{
+    WriteUserFile(QLatin1String("Priority.xml"),
+                  OrderFile::Document(Listed(QString::fromUtf8(importedOver))));
+    OpenWindow(m_plugins.data());
+    const QString path = m_directory->FilePath(QLatin1String("order.xml"));
+    m_directory->Write(QLatin1String("order.xml"), OrderFile::Document(Listed(QString::fromUtf8(names))));
+    QMetaObject::invokeMethod(m_window->findChild<ListActions *>(), "Import", Q_ARG(QString, path));
+}
+
+void Screens::CallAndVisitMessage(const char *listAction, const QString &path)
+{
+    QTimer::singleShot(0, this, SLOT(VisitMessage()));
+    QMetaObject::invokeMethod(m_window->findChild<ListActions *>(), listAction, Q_ARG(QString, path));
+}
+
 void Screens::Fill()
 {
     QList<RememberedList> remembered;
@@ -501,6 +755,37 @@ void Screens::Fill()
     longOne.type = QLatin1String("1");
     entries.append(longOne);
     PluginObjects::Priority()->AddPriorityList(entries);
+}
+
+void Screens::KeepHistory(const QStringList &lists, int position)
+{
+    ListHistory history;
+    for (int i = 0; i < lists.size(); ++i) {
+        ListState state;
+        state.time = QDateTime(QDate(2026, 3, 15), QTime(9, 0), Qt::UTC).addSecs(i * 60);
+        state.entries = Listed(lists.at(i));
+        history.Record(state);
+    }
+    history.GoTo(position);
+    WriteUserFile(QLatin1String("Priority.xml"), OrderFile::Document(history.Entries()));
+    HistoryFile file(UserPath(QString()));
+    if (!file.Prepare() || !file.Save(&history)) {
+        qFatal("the history can't be written");
+    }
+}
+
+QString Screens::UserPath(const QString &name) const
+{
+    return m_directory->FilePath(QLatin1String(userDirectory)) + QLatin1Char('/') + name;
+}
+
+/** Leaves no name free for a file that is set aside. */
+void Screens::TakeNames(const char *pattern)
+{
+    const int names = 1000;
+    for (int i = 1; i <= names; ++i) {
+        WriteUserFile(QString::fromLatin1(pattern).arg(i), QByteArray());
+    }
 }
 
 void Screens::WriteUserFile(const QString &name, const QByteArray &content)

@@ -17,6 +17,11 @@ const char *const textsElsewhere[] = {
     "PriorityPlugin/IDS_PLUGIN_NAME", // handed to other plug-ins
     "Dashboard/IDS_LOG_NOT_WRITABLE", // a line of the trace
     "Dashboard/IDS_LOAD_NOT_LOADED",  // while the program ends
+    // in the file dialog, which is the toolkit's
+    "Dashboard/IDS_EXPORT_TITLE",
+    "Dashboard/IDS_EXPORT_FILE_NAME",
+    "Dashboard/IDS_ORDER_FILES",
+    "Dashboard/IDS_ALL_FILES",
 };
 
 QLatin1String Pseudo()
