@@ -7,6 +7,7 @@
 #include "ListKeeper.h"
 #include "NameDelegate.h"
 
+#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QTableWidget>
@@ -15,7 +16,7 @@
 namespace
 {
 
-const int dialogWidth = 520;
+const int dialogWidth = 600;
 const int dialogHeight = 460;
 const int placeWidth = 60;
 const int nameWidth = 220;
@@ -65,7 +66,6 @@ ImportDialog::ImportDialog(ListKeeper *keeper, const QList<PriorityList> &entrie
 {
     setObjectName(QLatin1String("importDialog"));
     m_table->setItemDelegateForColumn(NameColumn, new NameDelegate(m_table));
-    m_table->setColumnWidth(PlaceColumn, placeWidth);
     m_table->setColumnWidth(NameColumn, nameWidth);
     m_problem->hide();
     m_okButton->setObjectName(QLatin1String("importOkButton"));
@@ -96,6 +96,8 @@ void ImportDialog::Retranslate()
     setWindowTitle(DashboardText("IDS_IMPORT_TITLE"));
     m_table->setAccessibleName(DashboardText("IDS_IMPORT_TITLE"));
     DialogParts::SetHeader(m_table, PlaceColumn, DashboardText("IDS_IMPORT_PLACE"), Qt::AlignRight);
+    m_table->setColumnWidth(PlaceColumn,
+                            qMax(placeWidth, m_table->horizontalHeader()->sectionSizeHint(PlaceColumn)));
     DialogParts::SetHeader(m_table, NameColumn, DashboardText("IDS_CONNECT_NETWORK"), Qt::AlignLeft);
     DialogParts::SetHeader(m_table, EffectColumn, DashboardText("IDS_IMPORT_EFFECT"), Qt::AlignLeft);
     m_okButton->setText(DashboardText("IDS_IMPORT_OK"));

@@ -19,9 +19,9 @@
 namespace
 {
 
-const int dialogWidth = 760;
+const int dialogWidth = 800;
 const int dialogHeight = 460;
-const int tableWidth = 540;
+const int tableWidth = 580;
 
 enum Column { TimeColumn, ChangeColumn, StatusColumn, ColumnCount };
 

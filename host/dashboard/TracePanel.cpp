@@ -91,7 +91,7 @@ QWidget *TracePanel::CreateSearchRow()
     QWidget *row = new QWidget;
     row->setObjectName(QLatin1String("traceSearchRow"));
     QHBoxLayout *layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins(6, 0, 6, 4);
     layout->addWidget(m_search, 1);
     layout->addWidget(m_previous);
     layout->addWidget(m_next);
