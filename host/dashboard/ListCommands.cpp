@@ -1,5 +1,6 @@
 #include "ListCommands.h"
 
+#include "ListEntries.h"
 #include "ListLock.h"
 #include "OneLine.h"
 #include "PluginObjects.h"
@@ -24,33 +25,15 @@ const QChar column = QLatin1Char('\t');
 
 const int waitMilliseconds = 5000;
 
-bool IsSame(const PriorityList &left, const PriorityList &right)
-{
-    return left.name == right.name && left.type == right.type;
-}
-
 /** Counted from 1; 0 when it isn't there. */
 int PositionOf(const PriorityList &entry, const QList<PriorityList> &list)
 {
     for (int i = 0; i < list.size(); ++i) {
-        if (IsSame(list.at(i), entry)) {
+        if (ListEntries::IsSame(list.at(i), entry)) {
             return i + 1;
         }
     }
     return 0;
-}
-
-bool IsSame(const QList<PriorityList> &left, const QList<PriorityList> &right)
-{
-    if (left.size() != right.size()) {
-        return false;
-    }
-    for (int i = 0; i < left.size(); ++i) {
-        if (!IsSame(left.at(i), right.at(i))) {
-            return false;
-        }
-    }
-    return true;
 }
 
 QString Line(const QString &first, const QString &second)
@@ -251,7 +234,8 @@ ListCommands::Status ListCommands::FailToRead(int result) const
 ListCommands::Status ListCommands::FailToWrite(const QList<PriorityList> &before,
                                                const QList<PriorityList> &after) const
 {
-    const char *const problem =
-        IsSame(before, after) ? "%1 can't be written; the list is as it was" : "%1 can't be written";
+    const char *const problem = ListEntries::IsSame(before, after)
+                                    ? "%1 can't be written; the list is as it was"
+                                    : "%1 can't be written";
     return Fail(NotWritten, QString::fromLatin1(problem).arg(m_file));
 }

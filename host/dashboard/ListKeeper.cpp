@@ -4,6 +4,7 @@
 #include "DashboardText.h"
 #include "ListChangeText.h"
 #include "ListEntries.h"
+#include "ListLock.h"
 #include "OrderFile.h"
 #include "PluginObjects.h"
 #include "PriorityResult.h"
@@ -13,9 +14,12 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QScopedPointer>
 
 namespace
 {
+
+const int waitMilliseconds = 1000;
 
 QDateTime WholeSeconds(const QDateTime &time)
 {
@@ -29,12 +33,13 @@ class ListKeeper::Session
 {
 public:
     explicit Session(ListKeeper *keeper)
-        : m_keeper(keeper), m_isDirectoryThere(keeper->m_file.Prepare()), m_lock(keeper->m_file.Directory())
+        : m_keeper(keeper), m_isDirectoryThere(keeper->m_file.Prepare()), m_lock(keeper->m_file.Directory()),
+          m_listLock(new ListLock(QFileInfo(keeper->m_listPath).path(), ListLock::Changing, waitMilliseconds))
     {
         m_keeper->m_isBusy = true;
         // Where nothing can be kept there is nobody to share it with: the history lives as long as the
         // program.
-        m_keeper->m_isHeldByOther = m_isDirectoryThere && !m_lock.IsHeld();
+        m_keeper->m_isHeldByOther = (m_isDirectoryThere && !m_lock.IsHeld()) || m_listLock->IsRefused();
         m_isUsable = !m_keeper->m_isHeldByOther && m_keeper->m_file.Load(&m_keeper->m_history);
         m_keeper->ReadList();
         if (m_isUsable) {
@@ -46,6 +51,8 @@ public:
     ~Session()
     {
         m_keeper->m_isBusy = false;
+        // Whoever is told may have the Wi-Fi plug-in work in the same directory.
+        m_listLock.reset();
         emit m_keeper->Changed();
     }
 
@@ -57,6 +64,7 @@ private:
     ListKeeper *const m_keeper;
     const bool m_isDirectoryThere;
     const DirectoryLock m_lock;
+    QScopedPointer<ListLock> m_listLock;
     bool m_isUsable;
 };
 
@@ -200,7 +208,7 @@ QString ListKeeper::LastChangeText() const
 QString ListKeeper::Undo()
 {
     const Session session(this);
-    const QString obstacle = m_isHeldByOther ? DashboardText("IDS_HISTORY_BUSY") : UndoObstacle();
+    const QString obstacle = m_isHeldByOther ? DashboardText("IDS_LIST_BUSY") : UndoObstacle();
     if (!obstacle.isNull()) {
         return obstacle;
     }
@@ -210,14 +218,14 @@ QString ListKeeper::Undo()
 QString ListKeeper::Redo()
 {
     const Session session(this);
-    const QString obstacle = m_isHeldByOther ? DashboardText("IDS_HISTORY_BUSY") : RedoObstacle();
+    const QString obstacle = m_isHeldByOther ? DashboardText("IDS_LIST_BUSY") : RedoObstacle();
     return obstacle.isNull() ? GoTo(m_history.Position() + 1) : obstacle;
 }
 
 QString ListKeeper::Restore(int place, const ListState &state)
 {
     const Session session(this);
-    const QString obstacle = m_isHeldByOther ? DashboardText("IDS_HISTORY_BUSY") : ChangeObstacle();
+    const QString obstacle = m_isHeldByOther ? DashboardText("IDS_LIST_BUSY") : ChangeObstacle();
     if (!obstacle.isNull()) {
         return obstacle;
     }
@@ -228,7 +236,7 @@ QString ListKeeper::Restore(int place, const ListState &state)
 QString ListKeeper::Replace(const QList<PriorityList> &entries)
 {
     const Session session(this);
-    const QString obstacle = m_isHeldByOther ? DashboardText("IDS_HISTORY_BUSY") : ChangeObstacle();
+    const QString obstacle = m_isHeldByOther ? DashboardText("IDS_LIST_BUSY") : ChangeObstacle();
     if (!obstacle.isNull()) {
         return obstacle;
     }
@@ -324,7 +332,7 @@ QString ListKeeper::SetHistoryAside()
             return QString();
         }
         if (m_isHeldByOther) {
-            return DashboardText("IDS_HISTORY_BUSY");
+            return DashboardText("IDS_LIST_BUSY");
         }
         if (m_file.SetAside().isNull()) {
             return DashboardText("IDS_HISTORY_NOT_SET_ASIDE").arg(InOwnDirection(m_file.Path()));

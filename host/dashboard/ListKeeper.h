@@ -79,7 +79,7 @@ signals:
 private:
     enum Reading { NoPlugin, Readable, Damaged, NotOpened };
 
-    /** The history, safe from other dashboards while this lives. */
+    /** The history and the list, safe from other dashboards and their commands while this lives. */
     class Session;
 
     void ReadList();

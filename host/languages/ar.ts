@@ -745,8 +745,8 @@
         <translation>لا يمكن حفظ القوائم السابقة في %1. يمكن التراجع عما تغيّره إلى أن ينتهي البرنامج فقط.</translation>
     </message>
     <message>
-        <source>IDS_HISTORY_BUSY</source>
-        <translation>برنامج آخر يعمل على القوائم السابقة. حاول مرة أخرى بعد لحظة.</translation>
+        <source>IDS_LIST_BUSY</source>
+        <translation>برنامج آخر يعمل على القائمة. حاول مرة أخرى بعد لحظة.</translation>
     </message>
     <message>
         <source>IDS_HISTORY_NOT_SET_ASIDE</source>

@@ -746,8 +746,8 @@ Erwartet: %3</translation>
         <translation>Frühere Listen lassen sich nicht in %1 aufbewahren. Ihre Änderungen lassen sich nur rückgängig machen, bis das Programm endet.</translation>
     </message>
     <message>
-        <source>IDS_HISTORY_BUSY</source>
-        <translation>Ein anderes Programm arbeitet gerade mit den früheren Listen. Versuchen Sie es gleich noch einmal.</translation>
+        <source>IDS_LIST_BUSY</source>
+        <translation>Ein anderes Programm arbeitet gerade mit der Liste. Versuchen Sie es gleich noch einmal.</translation>
     </message>
     <message>
         <source>IDS_HISTORY_NOT_SET_ASIDE</source>

@@ -813,8 +813,8 @@ Expected: %3</translation>
         <translation>Earlier lists cannot be kept in %1. What you change can be undone only until the program ends.</translation>
     </message>
     <message>
-        <source>IDS_HISTORY_BUSY</source>
-        <translation>Another program is working with the earlier lists. Try again in a moment.</translation>
+        <source>IDS_LIST_BUSY</source>
+        <translation>Another program is working with the list. Try again in a moment.</translation>
     </message>
     <message>
         <source>IDS_HISTORY_NOT_SET_ASIDE</source>

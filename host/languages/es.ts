@@ -746,8 +746,8 @@ Esperado: %3</translation>
         <translation>Las listas anteriores no se pueden guardar en %1. Lo que cambie solo podrá deshacerse hasta que termine el programa.</translation>
     </message>
     <message>
-        <source>IDS_HISTORY_BUSY</source>
-        <translation>Otro programa está trabajando con las listas anteriores. Inténtelo de nuevo en un momento.</translation>
+        <source>IDS_LIST_BUSY</source>
+        <translation>Otro programa está trabajando con la lista. Inténtelo de nuevo en un momento.</translation>
     </message>
     <message>
         <source>IDS_HISTORY_NOT_SET_ASIDE</source>

@@ -746,8 +746,8 @@ Attendu&#xa0;: %3</translation>
         <translation>Les listes précédentes ne peuvent pas être conservées dans %1. Vos modifications ne pourront être annulées que jusqu’à la fin du programme.</translation>
     </message>
     <message>
-        <source>IDS_HISTORY_BUSY</source>
-        <translation>Un autre programme utilise les listes précédentes. Réessayez dans un instant.</translation>
+        <source>IDS_LIST_BUSY</source>
+        <translation>Un autre programme utilise la liste. Réessayez dans un instant.</translation>
     </message>
     <message>
         <source>IDS_HISTORY_NOT_SET_ASIDE</source>

@@ -745,8 +745,8 @@
         <translation>לא ניתן לשמור רשימות קודמות אל %1. מה שתשנה ניתן לביטול רק עד סיום התוכנית.</translation>
     </message>
     <message>
-        <source>IDS_HISTORY_BUSY</source>
-        <translation>תוכנית אחרת עובדת עם הרשימות הקודמות. נסה שוב בעוד רגע.</translation>
+        <source>IDS_LIST_BUSY</source>
+        <translation>תוכנית אחרת עובדת עם הרשימה. נסה שוב בעוד רגע.</translation>
     </message>
     <message>
         <source>IDS_HISTORY_NOT_SET_ASIDE</source>

@@ -746,8 +746,8 @@
         <translation>以前のリストを %1 に保存できません。変更を元に戻せるのはプログラムの終了までです。</translation>
     </message>
     <message>
-        <source>IDS_HISTORY_BUSY</source>
-        <translation>ほかのプログラムが以前のリストを使用しています。しばらくしてからもう一度お試しください。</translation>
+        <source>IDS_LIST_BUSY</source>
+        <translation>ほかのプログラムがリストを使用しています。しばらくしてからもう一度お試しください。</translation>
     </message>
     <message>
         <source>IDS_HISTORY_NOT_SET_ASIDE</source>

@@ -746,8 +746,8 @@ Esperado: %3</translation>
         <translation>As listas anteriores não podem ser guardadas em %1. O que você alterar só poderá ser desfeito até o programa terminar.</translation>
     </message>
     <message>
-        <source>IDS_HISTORY_BUSY</source>
-        <translation>Outro programa está trabalhando com as listas anteriores. Tente novamente em instantes.</translation>
+        <source>IDS_LIST_BUSY</source>
+        <translation>Outro programa está trabalhando com a lista. Tente novamente em instantes.</translation>
     </message>
     <message>
         <source>IDS_HISTORY_NOT_SET_ASIDE</source>

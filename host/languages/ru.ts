@@ -746,8 +746,8 @@
         <translation>Прежние списки нельзя сохранять в %1. Изменения можно будет отменить только до завершения программы.</translation>
     </message>
     <message>
-        <source>IDS_HISTORY_BUSY</source>
-        <translation>С прежними списками работает другая программа. Повторите попытку чуть позже.</translation>
+        <source>IDS_LIST_BUSY</source>
+        <translation>Со списком работает другая программа. Повторите попытку чуть позже.</translation>
     </message>
     <message>
         <source>IDS_HISTORY_NOT_SET_ASIDE</source>

@@ -746,8 +746,8 @@
         <translation>无法将早期列表保存在 %1 中。您的更改只能在程序结束前撤销。</translation>
     </message>
     <message>
-        <source>IDS_HISTORY_BUSY</source>
-        <translation>另一个程序正在使用早期列表。请稍后重试。</translation>
+        <source>IDS_LIST_BUSY</source>
+        <translation>另一个程序正在使用列表。请稍后重试。</translation>
     </message>
     <message>
         <source>IDS_HISTORY_NOT_SET_ASIDE</source>

@@ -4,6 +4,7 @@
 #include <HostControl.h>
 #include <IPriorityPlugin.h>
 #include <ListKeeper.h>
+#include <ListLock.h>
 #include <OrderFile.h>
 #include <PluginObjects.h>
 #include <PrivateFile.h>
@@ -24,6 +25,9 @@
 class ListKeeperTest : public QObject
 {
     Q_OBJECT
+
+public slots:
+    void TryTheList();
 
 private slots:
     void initTestCase();
@@ -57,6 +61,8 @@ private slots:
     void TwoDashboardsKeepOneHistory();
     void UndoElsewhereIsFollowed();
     void HistoryHeldByAnotherIsNotTouched();
+    void ListHeldByACommandIsNotTouched();
+    void CommandsAreKeptOutDuringAnUndo();
     void InterruptedUndoIsFinished_data();
     void InterruptedUndoIsFinished();
     void SuddenEndInTheMiddleOfUndoLosesNothing();
@@ -79,6 +85,7 @@ private:
 
     PluginWorld m_world;
     QScopedPointer<ListKeeper> m_keeper;
+    QList<bool> m_isListFree;
 };
 
 QString ListKeeperTest::History(const ListKeeper &keeper)
@@ -496,7 +503,7 @@ void ListKeeperTest::HistoryHeldByAnotherIsNotTouched()
         const DirectoryLock another(UserData() + "history");
         QVERIFY(another.IsHeld());
         QCOMPARE(m_keeper->Undo(),
-                 QString("Another program is working with the earlier lists. Try again in a moment."));
+                 QString("Another program is working with the list. Try again in a moment."));
         QCOMPARE(Stored(), QString("A"));
         AddTop("B");
         m_keeper->Follow();
@@ -505,6 +512,46 @@ void ListKeeperTest::HistoryHeldByAnotherIsNotTouched()
     m_keeper->Follow();
     QCOMPARE(History(), QString(" | A | [B, A]"));
     QCOMPARE(m_keeper->Undo(), QString());
+}
+
+void ListKeeperTest::ListHeldByACommandIsNotTouched()
+{
+    AddTop("A");
+    m_keeper->Follow();
+    const QByteArray before = ListBytes();
+    {
+        const ListLock command(UserData(), ListLock::Changing, 0);
+        QVERIFY(!command.IsRefused());
+        QCOMPARE(m_keeper->Undo(),
+                 QString("Another program is working with the list. Try again in a moment."));
+        QCOMPARE(ListBytes(), before);
+        // The plug-in deletes the file before it writes it anew: that is no empty list.
+        QVERIFY(QFile::remove(ListPath()));
+        m_keeper->Follow();
+        QCOMPARE(History(), QString(" | [A]"));
+        m_world.Write("Priority.xml", before);
+    }
+    m_keeper->Follow();
+    QCOMPARE(History(), QString(" | [A]"));
+    QCOMPARE(m_keeper->Undo(), QString());
+}
+
+void ListKeeperTest::CommandsAreKeptOutDuringAnUndo()
+{
+    AddTop("A");
+    m_keeper->Follow();
+    connect(PluginObjects::PriorityService(), SIGNAL(OnUpdataPriorityView()), this, SLOT(TryTheList()));
+    connect(m_keeper.data(), SIGNAL(Changed()), this, SLOT(TryTheList()));
+    m_isListFree.clear();
+    QCOMPARE(m_keeper->Undo(), QString());
+    disconnect(PluginObjects::PriorityService(), nullptr, this, nullptr);
+    // While it is written, and when it is done.
+    QCOMPARE(m_isListFree, QList<bool>() << false << true);
+}
+
+void ListKeeperTest::TryTheList()
+{
+    m_isListFree.append(!ListLock(UserData(), ListLock::Reading, 0).IsRefused());
 }
 
 void ListKeeperTest::InterruptedUndoIsFinished_data()
