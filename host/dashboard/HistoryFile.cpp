@@ -206,7 +206,7 @@ QString HistoryFile::SetAside()
 {
     const int names = 1000;
     for (int i = 1; i <= names; ++i) {
-        const QString path = m_directory + QString::fromLatin1("/states-damaged-%1.xml").arg(i);
+        QString path = m_directory + QString::fromLatin1("/states-damaged-%1.xml").arg(i);
         // Unlike the system's, this renaming puts nothing in the place of an earlier file.
         if (!QFile::exists(path) && QFile::rename(Path(), path)) {
             m_wasLoaded = false;

@@ -153,7 +153,7 @@ QString ListKeeper::ChangeObstacle() const
 
 QString ListKeeper::UndoObstacle() const
 {
-    const QString obstacle = ChangeObstacle();
+    QString obstacle = ChangeObstacle();
     if (!obstacle.isNull()) {
         return obstacle;
     }
@@ -163,7 +163,7 @@ QString ListKeeper::UndoObstacle() const
 
 QString ListKeeper::RedoObstacle() const
 {
-    const QString obstacle = ChangeObstacle();
+    QString obstacle = ChangeObstacle();
     if (!obstacle.isNull()) {
         return obstacle;
     }
@@ -208,7 +208,7 @@ QString ListKeeper::LastChangeText() const
 QString ListKeeper::Undo()
 {
     const Session session(this);
-    const QString obstacle = m_isHeldByOther ? DashboardText("IDS_LIST_BUSY") : UndoObstacle();
+    QString obstacle = m_isHeldByOther ? DashboardText("IDS_LIST_BUSY") : UndoObstacle();
     if (!obstacle.isNull()) {
         return obstacle;
     }
@@ -218,14 +218,14 @@ QString ListKeeper::Undo()
 QString ListKeeper::Redo()
 {
     const Session session(this);
-    const QString obstacle = m_isHeldByOther ? DashboardText("IDS_LIST_BUSY") : RedoObstacle();
+    QString obstacle = m_isHeldByOther ? DashboardText("IDS_LIST_BUSY") : RedoObstacle();
     return obstacle.isNull() ? GoTo(m_history.Position() + 1) : obstacle;
 }
 
 QString ListKeeper::Restore(int place, const ListState &state)
 {
     const Session session(this);
-    const QString obstacle = m_isHeldByOther ? DashboardText("IDS_LIST_BUSY") : ChangeObstacle();
+    QString obstacle = m_isHeldByOther ? DashboardText("IDS_LIST_BUSY") : ChangeObstacle();
     if (!obstacle.isNull()) {
         return obstacle;
     }
@@ -236,7 +236,7 @@ QString ListKeeper::Restore(int place, const ListState &state)
 QString ListKeeper::Replace(const QList<PriorityList> &entries)
 {
     const Session session(this);
-    const QString obstacle = m_isHeldByOther ? DashboardText("IDS_LIST_BUSY") : ChangeObstacle();
+    QString obstacle = m_isHeldByOther ? DashboardText("IDS_LIST_BUSY") : ChangeObstacle();
     if (!obstacle.isNull()) {
         return obstacle;
     }
