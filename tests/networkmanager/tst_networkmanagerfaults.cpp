@@ -80,6 +80,8 @@ private slots:
     void OneUnreadableProfileIsToldAndTheOthersStay_data();
     void OneUnreadableProfileIsToldAndTheOthersStay();
     void ProfileThatGoesBetweenListingAndAskingIsLeftOut();
+    void ProfileThatIsGoneIsLeftOutQuietly_data();
+    void ProfileThatIsGoneIsLeftOutQuietly();
     void ProfileOfSomebodyElseIsLeftOutQuietly();
     void AnswersToStoringAreTold_data();
     void AnswersToStoringAreTold();
@@ -271,6 +273,27 @@ void tst_networkmanagerfaults::ProfileThatGoesBetweenListingAndAskingIsLeftOut()
     QList<RememberedList> list;
     QCOMPARE(LoadedWLAN::Wlan()->GetRememberedList(&list), 0);
     QCOMPARE(list.size(), 1);
+    QCOMPARE(trace.Lines(), QStringList());
+}
+
+void tst_networkmanagerfaults::ProfileThatIsGoneIsLeftOutQuietly_data()
+{
+    // D-Bus libraries differ in what they answer for an object that is not there.
+    QTest::addColumn<QString>("error");
+    QTest::newRow("no such method") << "org.freedesktop.DBus.Error.UnknownMethod";
+    QTest::newRow("no such object") << "org.freedesktop.DBus.Error.UnknownObject";
+    QTest::newRow("no such interface") << "org.freedesktop.DBus.Error.UnknownInterface";
+}
+
+void tst_networkmanagerfaults::ProfileThatIsGoneIsLeftOutQuietly()
+{
+    QFETCH(QString, error);
+    Fake().AddProfile("A");
+    Fake().AnswerWithError("GetSettings", error, Fake().AddProfile("B"));
+    TraceCapture trace;
+    QCOMPARE(LoadedWLAN::Remembered(), QStringList("A/1"));
+    QList<RememberedList> list;
+    QCOMPARE(LoadedWLAN::Wlan()->GetRememberedList(&list), 0);
     QCOMPARE(trace.Lines(), QStringList());
 }
 
