@@ -13,6 +13,8 @@ namespace
 typedef QMap<QDBusObjectPath, NMVariantMapMap> ManagedObjects;
 
 const char service[] = "org.freedesktop.NetworkManager";
+const char supplicant[] = "fi.w1.wpa_supplicant1";
+const char supplicantPath[] = "/fi/w1/wpa_supplicant1";
 const char root[] = "/org/freedesktop/NetworkManager";
 const char settingsPath[] = "/org/freedesktop/NetworkManager/Settings";
 const char settingsInterface[] = "org.freedesktop.NetworkManager.Settings";
@@ -50,6 +52,7 @@ FakeNetworkManager::FakeNetworkManager()
     qDBusRegisterMetaType<ManagedObjects>();
     qDBusRegisterMetaType<NMStringMap>();
     m_connection.registerVirtualObject("/org/freedesktop", this, QDBusConnection::SubPath);
+    m_connection.registerVirtualObject(supplicantPath, this);
     moveToThread(&m_thread);
     m_thread.start();
 }
@@ -57,6 +60,8 @@ FakeNetworkManager::FakeNetworkManager()
 FakeNetworkManager::~FakeNetworkManager()
 {
     Vanish();
+    m_connection.unregisterService(supplicant);
+    m_connection.unregisterObject(supplicantPath);
     m_connection.unregisterObject("/org/freedesktop", QDBusConnection::UnregisterTree);
     m_thread.quit();
     m_thread.wait();
@@ -71,6 +76,13 @@ bool FakeNetworkManager::Appear()
 void FakeNetworkManager::Vanish()
 {
     m_connection.unregisterService(service);
+}
+
+bool FakeNetworkManager::AppearAsSupplicant(const QVariant &eapMethods)
+{
+    const QMutexLocker locker(&m_mutex);
+    m_eapMethods = eapMethods;
+    return m_connection.registerService(supplicant);
 }
 
 QString FakeNetworkManager::Add(const QString &kind, const QString &interface, const QVariantMap &properties)
@@ -297,7 +309,8 @@ QDBusMessage FakeNetworkManager::Answer(const QDBusMessage &call)
 {
     const QString method = call.member();
     if (method == "Get") {
-        return call.createReply(QVariant::fromValue(QDBusVariant(QString("1.42.4"))));
+        return call.createReply(QVariant::fromValue(
+            QDBusVariant(call.path() == supplicantPath ? m_eapMethods : QVariant(QString("1.42.4")))));
     }
     if (method == "GetPermissions") {
         return call.createReply(QVariant::fromValue(m_rights));

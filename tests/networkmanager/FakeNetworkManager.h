@@ -30,6 +30,9 @@ public:
     bool Appear();
     void Vanish();
 
+    /** The program that does the Wi-Fi for NetworkManager, and what it tells of its EAP methods. */
+    bool AppearAsSupplicant(const QVariant &eapMethods);
+
     /** The new object's path. A device can do everything unless it is told otherwise. */
     QString AddDevice(unsigned int capabilities = 0xffff);
     QString AddAccessPoint(const QByteArray &ssid, int strength, unsigned int flags = 0,
@@ -100,6 +103,7 @@ private:
     QHash<QString, Misbehaviour> m_misbehaviour;
     QStringList m_calls;
     QString m_leaving;
+    QVariant m_eapMethods;
     int m_count;
 };
 

@@ -68,6 +68,8 @@ private slots:
 
     void MethodsAreThoseOfTheDevices_data();
     void MethodsAreThoseOfTheDevices();
+    void EapIsOfferedWhereTheSupplicantKnowsIt_data();
+    void EapIsOfferedWhereTheSupplicantKnowsIt();
     void OtherMembersAreLeftAlone();
 };
 
@@ -281,6 +283,27 @@ void tst_networkmanagernetworks::MethodsAreThoseOfTheDevices()
     for (int i = 0; i < devices.size(); ++i) {
         Fake().AddDevice(devices.at(i));
     }
+    QTEST(Methods().join("|"), "methods");
+}
+
+void tst_networkmanagernetworks::EapIsOfferedWhereTheSupplicantKnowsIt_data()
+{
+    QTest::addColumn<QVariant>("eapMethods");
+    QTest::addColumn<QString>("methods");
+    const QString withoutEap = "open|shared|WPAPSK|WPA2PSK";
+    const QString all = withoutEap + "|WPA(EAP)|WPA2(EAP)|IEEE 802.1X";
+    QTest::newRow("some") << QVariant(QStringList() << "TLS"
+                                                    << "SIM")
+                          << all;
+    QTest::newRow("none") << QVariant(QStringList()) << withoutEap;
+    QTest::newRow("meaningless") << QVariant(7) << all;
+}
+
+void tst_networkmanagernetworks::EapIsOfferedWhereTheSupplicantKnowsIt()
+{
+    QFETCH(QVariant, eapMethods);
+    Fake().AddDevice();
+    QVERIFY(Fake().AppearAsSupplicant(eapMethods));
     QTEST(Methods().join("|"), "methods");
 }
 
