@@ -20,6 +20,12 @@ void NetworkManagerTest::init()
     QVERIFY(LoadedWLAN::Root()->Init());
 }
 
+void NetworkManagerTest::StartAgain()
+{
+    cleanup();
+    init();
+}
+
 void NetworkManagerTest::cleanup()
 {
     LoadedWLAN::Root()->OnDestroy();

@@ -15,8 +15,12 @@ class NetworkManagerTest : public QObject
     Q_OBJECT
 
 protected:
+    PrivateBus &Bus() { return m_bus; }
     FakeNetworkManager &Fake() { return *m_networkManager; }
     const TemporaryDirectory &Directory() const { return *m_directory; }
+
+    /** What happens between test functions, for one that has taken the bus away. */
+    void StartAgain();
 
 private slots:
     void initTestCase();

@@ -48,6 +48,7 @@ bool PrivateBus::Start()
                                       "</busconfig>\n");
     // Anybody may use the bus: some tests do so as another user.
     QFile::setPermissions(Path("."), QFile::Permissions(0x7755));
+    QFile::remove(Path("bus"));
     if (!m_daemon.Begin(program,
                         QStringList() << "--config-file=" + Path("bus.conf") << "--nofork"
                                       << "--nopidfile",

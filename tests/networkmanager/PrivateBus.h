@@ -23,6 +23,9 @@ public:
     bool Start();
     QString WhyNot() const { return m_whyNot; }
 
+    /** As a crash does. It can be started again, but the test's own connection does not come back. */
+    void Kill() { m_daemon.Kill(); }
+
     QString Path(const QString &fileName) const { return m_directory.FilePath(fileName); }
 
     /** A connection of the test's own. */

@@ -93,7 +93,9 @@ private slots:
     void LateProfilesDoNotHideTheOthers();
     void SilentNetworkManagerIsNotWaitedForAgain();
     void NetworkManagerThatSpeaksAgainIsUsedAgain();
+    void SilentSupplicantIsNotWaitedForLong();
     void ManyProfilesAndNetworksAreAllTold();
+    void LostBusIsToldAndANewOneUsedFromTheNextStartOn();
 };
 
 void tst_networkmanagerfaults::MeaninglessAnswersAreRefused_data()
@@ -430,6 +432,21 @@ void tst_networkmanagerfaults::NetworkManagerThatSpeaksAgainIsUsedAgain()
     QTRY_COMPARE(LoadedWLAN::Remembered(), QStringList("A/1"));
 }
 
+void tst_networkmanagerfaults::SilentSupplicantIsNotWaitedForLong()
+{
+    QVERIFY(Fake().AppearAsSupplicant(QStringList()));
+    Fake().DoNotAnswer("Get", "/fi/w1/wpa_supplicant1");
+    WLANConfigData config;
+    int result = -1;
+    const qint64 time = TimeOf([&] { result = LoadedWLAN::Wlan()->GetConfigData(&config); });
+    QCOMPARE(result, 0);
+    QCOMPARE(config.authenticationList.size(), 7);
+    QVERIFY2(time >= earliest && time < patience + allowance, qPrintable(QString::number(time)));
+    // It is not NetworkManager that is silent.
+    QList<RememberedList> list;
+    QCOMPARE(LoadedWLAN::Wlan()->GetRememberedList(&list), 0);
+}
+
 void tst_networkmanagerfaults::ManyProfilesAndNetworksAreAllTold()
 {
     const int profileCount = 500;
@@ -447,6 +464,25 @@ void tst_networkmanagerfaults::ManyProfilesAndNetworksAreAllTold()
     QCOMPARE(remembered.size(), profileCount + 2);
     QCOMPARE(LoadedWLAN::InRange().size(), networkCount);
     QCOMPARE(LoadedWLAN::ProfileNamed("profile 499").ssid, QString("profile 499"));
+}
+
+void tst_networkmanagerfaults::LostBusIsToldAndANewOneUsedFromTheNextStartOn()
+{
+    Fake().AddProfile("A");
+    QCOMPARE(LoadedWLAN::Remembered(), QStringList("A/1"));
+    Bus().Kill();
+    TraceCapture trace;
+    bool areOutputsUntouched = false;
+    QList<int> answers;
+    const qint64 time = TimeOf([&] { answers = AnswersOfAll(&areOutputsUntouched); });
+    QCOMPARE(answers, EachBut(NetworkManagerResultNoBus, 0));
+    QVERIFY(areOutputsUntouched);
+    QVERIFY2(time < allowance, qPrintable(QString::number(time)));
+    QVERIFY(trace.Lines().contains("WLANNetworkManager: GetRememberedList: there is no system bus"));
+    QVERIFY2(Bus().Start(), qPrintable(Bus().WhyNot()));
+    StartAgain();
+    Fake().AddProfile("B");
+    QCOMPARE(LoadedWLAN::Remembered(), QStringList("B/1"));
 }
 
 QTEST_GUILESS_MAIN(tst_networkmanagerfaults)
