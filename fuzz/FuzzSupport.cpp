@@ -37,6 +37,15 @@ const TemporaryDirectory &Directory()
     return scene.Directory();
 }
 
+Model::Text Units(const QString &text)
+{
+    Model::Text units;
+    for (const QChar unit : text) {
+        units += char16_t(unit.unicode());
+    }
+    return units;
+}
+
 } // namespace
 
 void FuzzSupport::Write(const QString &name, const QByteArray &bytes)
@@ -62,6 +71,30 @@ void FuzzSupport::Require(bool holds, const char *what)
     }
 }
 
+Model::Entry FuzzSupport::ModelEntry(const PriorityList &entry)
+{
+    return Model::Entry{Units(entry.name), Units(entry.type)};
+}
+
+Model::Entries FuzzSupport::ModelEntries(const QList<PriorityList> &list)
+{
+    Model::Entries entries;
+    for (const PriorityList &entry : list) {
+        entries.push_back(ModelEntry(entry));
+    }
+    return entries;
+}
+
+QByteArray FuzzSupport::Bytes(const Model::Document &document)
+{
+    return QByteArray(document.bytes.data(), int(document.bytes.size()));
+}
+
+qint64 FuzzSupport::LineCount(const QByteArray &bytes)
+{
+    return bytes.count('\n') + bytes.count('\r') + 1;
+}
+
 std::uint8_t InputReader::Byte()
 {
     if (m_left == 0) {
@@ -83,4 +116,13 @@ QString InputReader::Text()
         text += QChar(unit);
     }
     return text;
+}
+
+PriorityList InputReader::Entry()
+{
+    PriorityList entry;
+    entry.name = Text();
+    const std::uint8_t kind = Byte();
+    entry.type = kind & 1 ? Text() : QString::fromLatin1("1");
+    return entry;
 }

@@ -1,6 +1,8 @@
 #ifndef FUZZSUPPORT_H
 #define FUZZSUPPORT_H
 
+#include <ListDocument.h>
+
 #include <PriorityList.h>
 
 #include <QByteArray>
@@ -23,6 +25,13 @@ QString Path(const QString &name);
 /** Ends the process as a crash does, so that the input is kept. */
 void Require(bool holds, const char *what);
 
+Model::Entry ModelEntry(const PriorityList &entry);
+Model::Entries ModelEntries(const QList<PriorityList> &list);
+QByteArray Bytes(const Model::Document &document);
+
+/** How many lines the text of a file has; of nothing, one. */
+qint64 LineCount(const QByteArray &bytes);
+
 } // namespace FuzzSupport
 
 /** Takes an input apart into texts of any code units. */
@@ -35,6 +44,8 @@ public:
     std::uint8_t Byte();
     /** Of at most as many units as a byte says; often of plain letters. */
     QString Text();
+    /** A name, and a type that is often Wi-Fi's. */
+    PriorityList Entry();
 
 private:
     const std::uint8_t *m_data;

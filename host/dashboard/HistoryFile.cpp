@@ -70,6 +70,18 @@ int PlaceIn(const QString &text, int count)
     return isNumber && place >= 0 && place < count ? place : -1;
 }
 
+QString TimeText(const QDateTime &time)
+{
+    return time.toUTC().toString(Qt::ISODate);
+}
+
+/** The moment that TimeText gives back, in whole seconds; none for years that it can't tell. */
+QDateTime TimeOf(const QString &text)
+{
+    const QDateTime time = QDateTime::fromString(text, Qt::ISODate);
+    return QDateTime::fromString(TimeText(time), Qt::ISODate);
+}
+
 QList<PriorityList> ReadEntries(StrictXmlReader *reader)
 {
     QList<PriorityList> entries;
@@ -88,7 +100,7 @@ QList<PriorityList> ReadEntries(StrictXmlReader *reader)
 void ReadState(StrictXmlReader *reader, const QList<PriorityList> &table, QList<ListState> *states)
 {
     ListState state;
-    state.time = QDateTime::fromString(reader->Value("time"), Qt::ISODate);
+    state.time = TimeOf(reader->Value("time"));
     if (!state.time.isValid()) {
         reader->Refuse(FileFault::WrongValue, QLatin1String("time"));
     }
@@ -240,7 +252,7 @@ QByteArray HistoryFile::Document(const ListHistory &history)
     writer.writeStartElement(QLatin1String("states"));
     for (int i = 0; i < states.size(); ++i) {
         writer.writeEmptyElement(QLatin1String("state"));
-        writer.writeAttribute(QLatin1String("time"), states.at(i).time.toUTC().toString(Qt::ISODate));
+        writer.writeAttribute(QLatin1String("time"), TimeText(states.at(i).time));
         writer.writeAttribute(QLatin1String("order"), QString::fromLatin1(table.Order(i)));
     }
     writer.writeEndDocument();

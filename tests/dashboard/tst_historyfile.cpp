@@ -77,6 +77,7 @@ private slots:
     void DocumentIsAsDocumented();
     void WhatIsSavedIsLoaded();
     void AnyEntryComesBack();
+    void TimesOfOtherWritersAreWholeSeconds();
     void OnlyTheOwnerMayReadIt();
     void MissingFileIsAnEmptyHistory();
     void EmptyListIsAState();
@@ -141,6 +142,15 @@ void HistoryFileTest::AnyEntryComesBack()
     QVERIFY(IsSame(parsed, history));
 }
 
+void HistoryFileTest::TimesOfOtherWritersAreWholeSeconds()
+{
+    ListHistory history;
+    const QByteArray document = ExampleDocument().replace("09:05:00Z", "10:05:00.250+01:00");
+    QCOMPARE(HistoryFile::Parse(document, &history).kind, FileFault::None);
+    QVERIFY(IsSame(history, Example()));
+    QCOMPARE(HistoryFile::Document(history), ExampleDocument());
+}
+
 void HistoryFileTest::OnlyTheOwnerMayReadIt()
 {
     const mode_t mask = umask(0);
@@ -197,6 +207,9 @@ void HistoryFileTest::FaultIsNamedWithItsLineAndLeftAlone_data()
                                 << QString::fromUtf8("Line 9: the attribute “order”");
     QTest::newRow("time that is none") << QByteArray("2026-03-01T09:06") << QByteArray("yesterday")
                                        << QString::fromUtf8("Line 10: the attribute “time”");
+    QTest::newRow("time that can't be written again")
+        << QByteArray("2026-03-01T09:06:00Z") << QByteArray("9999-12-31T23:59:59-14:00")
+        << QString::fromUtf8("Line 10: the attribute “time”");
     QTest::newRow("no time") << QByteArray(" time=\"2026-03-01T09:06:00Z\"") << QByteArray()
                              << QString::fromUtf8("Line 10: the attribute “time”");
     QTest::newRow("entry without a name") << QByteArray(" name=\"Office\"") << QByteArray()
