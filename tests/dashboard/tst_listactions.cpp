@@ -25,6 +25,13 @@
 #include <QTimer>
 #include <QtTest>
 
+#include <csignal>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
 namespace
 {
 
@@ -86,6 +93,7 @@ private slots:
     void OrderIsImportedAndTheImportUndone();
     void FileThatIsNoOrderIsToldWithItsLine_data();
     void FileThatIsNoOrderIsToldWithItsLine();
+    void PipeIsNotImported();
     void TextsFollowTheLanguage();
 
 private:
@@ -457,6 +465,30 @@ void ListActionsTest::FileThatIsNoOrderIsToldWithItsLine()
     QVERIFY(!m_window->findChild<QDialog *>("importDialog"));
     QCOMPARE(PluginWorld::Stored(), QString("Home"));
     QCOMPARE(m_world.Directory().Read("mine.xml"), bytes);
+}
+
+void ListActionsTest::PipeIsNotImported()
+{
+    PluginWorld::AddTop("Home");
+    const QString path = m_world.Directory().FilePath("mine.xml");
+    const QByteArray encodedPath = QFile::encodeName(path);
+    QCOMPARE(mkfifo(encodedPath.constData(), 0600), 0);
+    // Waits until somebody reads.
+    const pid_t writer = fork();
+    if (writer == 0) {
+        const int pipe = open(encodedPath.constData(), O_WRONLY);
+        const QByteArray order = OrderFile::Document(Listed("Office"));
+        _exit(write(pipe, order.constData(), size_t(order.size())) == order.size() ? 0 : 1);
+    }
+    Action("importAction")->trigger();
+    MessageReader message;
+    ChooseFile("importFileDialog", path);
+    QCOMPARE(kill(writer, SIGKILL), 0);
+    int status = 0;
+    QCOMPARE(waitpid(writer, &status, 0), writer);
+    QVERIFY2(WIFSIGNALED(status), "nothing was read from the pipe");
+    QVERIFY2(message.text.contains("mine.xml"), qPrintable(message.text));
+    QVERIFY(!m_window->findChild<QDialog *>("importDialog"));
 }
 
 void ListActionsTest::TextsFollowTheLanguage()

@@ -149,6 +149,28 @@ extern "C" Q_DECL_EXPORT int unlink(const char *path) noexcept
     return static_cast<int>(syscall(SYS_unlink, path));
 }
 
+extern "C" Q_DECL_EXPORT int rename(const char *path, const char *newPath) noexcept
+{
+    if (IsWatched(newPath)) {
+        DieAtTheLast();
+        if (Fails(SystemCalls::Rename)) {
+            return -1;
+        }
+    }
+    return static_cast<int>(syscall(SYS_renameat, AT_FDCWD, path, AT_FDCWD, newPath));
+}
+
+extern "C" Q_DECL_EXPORT int fsync(int descriptor)
+{
+    if (watching && watchedDescriptors.count(descriptor) > 0) {
+        DieAtTheLast();
+        if (Fails(SystemCalls::Sync)) {
+            return -1;
+        }
+    }
+    return static_cast<int>(syscall(SYS_fsync, descriptor));
+}
+
 extern "C" Q_DECL_EXPORT int socket(int domain, int type, int protocol) noexcept
 {
     if (watching) {

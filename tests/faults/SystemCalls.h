@@ -12,7 +12,7 @@
 namespace SystemCalls
 {
 
-enum Call { Open, Read, Write, Unlink, CallCount };
+enum Call { Open, Read, Write, Unlink, Rename, Sync, CallCount };
 
 /** Called before a file of the watched directory is opened. */
 class Listener
