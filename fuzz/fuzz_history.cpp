@@ -60,7 +60,8 @@ void TryToShorten(ListHistory *history)
 void Change(ListHistory *history, InputReader *input)
 {
     qint64 seconds = 1772355600;
-    while (!input->AtEnd()) {
+    const int most = 4 * ListHistory::Limit;
+    for (int changes = 0; changes < most && !input->AtEnd(); ++changes) {
         const std::uint8_t kind = input->Byte();
         const int place = int(kind >> 2) - 2;
         switch (kind & 3) {
