@@ -9,6 +9,25 @@
 #include <QStyle>
 #include <QTableWidget>
 
+namespace
+{
+
+/** Keeps the chosen row in sight when a text below takes some of the height. */
+class ChoiceTable : public QTableWidget
+{
+public:
+    explicit ChoiceTable(int columns) : QTableWidget(0, columns) {}
+
+protected:
+    void resizeEvent(QResizeEvent *event) override
+    {
+        QTableWidget::resizeEvent(event);
+        scrollTo(currentIndex());
+    }
+};
+
+} // namespace
+
 QLabel *DialogParts::Label(const char *name)
 {
     QLabel *label = new QLabel;
@@ -30,7 +49,7 @@ QLabel *DialogParts::EmptyLabel(const char *name)
 
 QTableWidget *DialogParts::Table(const char *name, int columns)
 {
-    QTableWidget *table = new QTableWidget(0, columns);
+    QTableWidget *table = new ChoiceTable(columns);
     table->setObjectName(QLatin1String(name));
     table->setSelectionMode(QAbstractItemView::SingleSelection);
     table->setSelectionBehavior(QAbstractItemView::SelectRows);

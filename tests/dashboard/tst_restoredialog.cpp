@@ -42,6 +42,8 @@ private slots:
     void ChangeMeanwhileIsListedAndTheChoiceKept();
     void UnusableHistoryIsSetAsideOnlyWhenAsked();
     void FailureIsToldAndTheDialogStaysOpen();
+    void ChosenRowStaysInSightWhenAFailureIsTold_data();
+    void ChosenRowStaysInSightWhenAFailureIsTold();
     void LongNamesAndMarkUpAreShownAsTheyAre();
     void TextsFollowTheLanguage();
 
@@ -277,6 +279,33 @@ void RestoreDialogTest::FailureIsToldAndTheDialogStaysOpen()
     QVERIFY(m_dialog->findChild<QLabel *>("restoreProblemLabel")->isVisible());
     QVERIFY(Text("restoreProblemLabel").contains("cannot be written"));
     QCOMPARE(PluginWorld::Stored(), QString("Cafe, Office, Home"));
+}
+
+void RestoreDialogTest::ChosenRowStaysInSightWhenAFailureIsTold_data()
+{
+    QTest::addColumn<int>("row");
+    QTest::newRow("oldest of all") << 23;
+    QTest::newRow("last in sight") << -1;
+}
+
+void RestoreDialogTest::ChosenRowStaysInSightWhenAFailureIsTold()
+{
+    QFETCH(int, row);
+    for (int i = 0; i < 20; ++i) {
+        PluginWorld::AddTop(QString("Network %1").arg(i));
+        m_keeper->Follow();
+    }
+    Open();
+    QApplication::processEvents();
+    const int lastInSight = Table()->rowAt(Table()->viewport()->height() - 1) - 1;
+    Table()->setCurrentCell(row < 0 ? lastInSight : row, ChangeColumn);
+    const int height = Table()->height();
+    QVERIFY(QDir().mkdir(m_world.UserData() + "Priority.xml.new"));
+    QTest::mouseClick(Button("restoreOkButton"), Qt::LeftButton);
+    QApplication::processEvents();
+    QVERIFY(Table()->height() < height);
+    const QRect chosen = Table()->visualItemRect(Table()->currentItem());
+    QVERIFY(Table()->viewport()->rect().contains(chosen));
 }
 
 void RestoreDialogTest::LongNamesAndMarkUpAreShownAsTheyAre()
