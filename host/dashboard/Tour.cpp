@@ -1,7 +1,9 @@
 #include "Tour.h"
 
+#include "DashboardText.h"
 #include "HostControl.h"
 #include "ListEntries.h"
+#include "OrderFile.h"
 #include "PluginObjects.h"
 #include "UserActions.h"
 #include "UserData.h"
@@ -17,7 +19,9 @@
 #include <QFile>
 #include <QImage>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QPainter>
 #include <QPointer>
 #include <QPushButton>
@@ -40,6 +44,8 @@ const int exitHung = 3;
 const int checkMilliseconds = 50;
 const int checkTries = 40;
 const int answerTries = 100;
+
+const int importNameColumn = 1;
 
 void GiveUp(int)
 {
@@ -92,20 +98,20 @@ QStringList NamesOf(const QList<PriorityList> &list)
     return names;
 }
 
-QString NameIn(const QTableWidget *table, int row)
+QString NameIn(const QTableWidget *table, int row, int column)
 {
-    if (const QWidget *cell = table->cellWidget(row, 0)) {
+    if (const QWidget *cell = table->cellWidget(row, column)) {
         return cell->accessibleName();
     }
-    const QTableWidgetItem *item = table->item(row, 0);
+    const QTableWidgetItem *item = table->item(row, column);
     return item ? item->text() : QString();
 }
 
-QStringList NamesOf(const QTableWidget *table)
+QStringList NamesOf(const QTableWidget *table, int column = 0)
 {
     QStringList names;
     for (int i = 0; i < table->rowCount(); ++i) {
-        names.append(NameIn(table, i));
+        names.append(NameIn(table, i, column));
     }
     return names;
 }
@@ -203,7 +209,8 @@ QImage Composed(QWidget *window)
 
 const Tour::Step Tour::steps[] = {
     {"empty", "the dashboard opens; there is no list yet", &Tour::ActStart, &Tour::CheckStart},
-    {"filled", "another plug-in adds the networks it remembers", &Tour::ActSeed, nullptr},
+    {"filled", "another plug-in adds the networks it remembers; the first in range is in use", &Tour::ActSeed,
+     nullptr},
     {"settings", "the Settings button opens the page with the list", &Tour::ActOpen, &Tour::CheckOpen},
     {"select", "a click selects the second network", &Tour::ActSelect, &Tour::CheckSelect},
     {"down-button", "the Down button moves it down", &Tour::ActDownButton, &Tour::CheckMovedDown},
@@ -253,6 +260,14 @@ const Tour::Step Tour::steps[] = {
     {"restore-dialog", "the Restore button lists the earlier lists, with what changed and when",
      &Tour::ActRestoreDialog, &Tour::CheckRestoreDialog},
     {"restore-ok", "the one before is chosen by key and restored", &Tour::ActRestoreOk, &Tour::CheckUndone},
+    {"export", "Export in the Edit menu writes the order to a file, without any keys", &Tour::ActExport,
+     &Tour::CheckExported},
+    {"import-dialog", "the Redo button takes the restoring back; Import tells what that file would do",
+     &Tour::ActImportDialog, &Tour::CheckImportDialog},
+    {"import-ok", "Import, by key: the order is that of the file", &Tour::ActImportOk, &Tour::CheckImported},
+    {"window-arabic", "the Language menu turns the main window to Arabic", &Tour::ActWindowArabic,
+     &Tour::CheckWindowArabic},
+    {"window-back", "and back", &Tour::ActWindowBack, &Tour::CheckWindowBack},
 };
 
 const int Tour::stepCount = sizeof(Tour::steps) / sizeof(Tour::steps[0]);
@@ -336,6 +351,7 @@ void Tour::SavePicture(const QString &name)
     if (path.isEmpty() || !Composed(m_window).save(path, "PNG")) {
         Fail(QString::fromLatin1("the picture %1 can't be saved").arg(fileName));
     }
+    emit PictureTaken(name);
 }
 
 void Tour::Finish()
@@ -398,6 +414,31 @@ void Tour::PressInList(int key)
     if (QWidget *table = Find("priorityTable")) {
         FailIf(UserActions::PressKey(key, table));
     }
+}
+
+void Tour::Choose(const char *menu, const char *action)
+{
+    QMenu *found = FindOf<QMenu>(menu);
+    QAction *chosen = m_window->findChild<QAction *>(QLatin1String(action));
+    if (found && chosen) {
+        FailIf(UserActions::ChooseFromMenu(found, chosen));
+    } else {
+        Fail(QString::fromLatin1("there is no %1 in %2").arg(QLatin1String(action), QLatin1String(menu)));
+    }
+}
+
+void Tour::EnterFile(const char *dialog, const QString &path)
+{
+    const QWidget *files = Find(dialog);
+    QLineEdit *name = files ? files->findChild<QLineEdit *>(QLatin1String("fileNameEdit")) : nullptr;
+    if (!name) {
+        Fail(QLatin1String("no file can be entered"));
+        return;
+    }
+    FailIf(UserActions::Click(name));
+    FailIf(UserActions::PressKey(Qt::Key_A, name, Qt::ControlModifier));
+    FailIf(UserActions::TypeText(path, name));
+    FailIf(UserActions::PressKey(Qt::Key_Return, name));
 }
 
 void Tour::ClickAndAnswer(const char *name, const char *answer, const char *textId)
@@ -557,7 +598,27 @@ QString Tour::WrongAboutList() const
     }
     const QListWidget *overview = m_window->findChild<QListWidget *>(QLatin1String("overviewList"));
     const QStringList shown = overview && overview->isVisible() ? NamesOf(overview) : QStringList();
-    return shown == expected ? QString() : Differs("the main window", shown, expected);
+    return shown == expected ? WrongAboutHeadline() : Differs("the main window", shown, expected);
+}
+
+QString Tour::WrongAboutHeadline() const
+{
+    const QStringList inRange = NetworksInRange();
+    QString inUse = DashboardText("IDS_HEAD_NONE");
+    for (int i = m_expected.size() - 1; i >= 0; --i) {
+        if (!ListEntries::IsWifi(m_expected.at(i)) || inRange.contains(m_expected.at(i).name)) {
+            inUse = m_expected.at(i).name;
+        }
+    }
+    const QLabel *headline = m_window->findChild<QLabel *>(QLatin1String("headlineLabel"));
+    return headline && headline->text().contains(inUse)
+               ? QString()
+               : QString::fromLatin1("the main window should tell: %1").arg(inUse);
+}
+
+QString Tour::OrderPath() const
+{
+    return m_directory.DataPath() + QLatin1String("/order.xml");
 }
 
 void Tour::ActStart()
@@ -903,15 +964,20 @@ void Tour::ActArabic()
     SelectPage(1);
 }
 
+void Tour::ExpectLanguage(const QString &language, const char *buttonName, const QString &text)
+{
+    Expect(Change::GetLangName() == language, "the language is the one chosen");
+    const QPushButton *button = FindOf<QPushButton>(buttonName);
+    if (button) {
+        Expect(button->isVisible(), "what is to speak the language can be seen");
+        Expect(button->text() == text, "what can be seen speaks the language");
+    }
+}
+
 void Tour::CheckArabic()
 {
-    Expect(Change::GetLangName() == QLatin1String("ar"), "the language is Arabic");
+    ExpectLanguage(QLatin1String("ar"), "upButton", PluginText("IDS_PROFILE_UP"));
     Expect(QApplication::layoutDirection() == Qt::RightToLeft, "the windows read from right to left");
-    const QPushButton *button = FindOf<QPushButton>("upButton");
-    if (button) {
-        Expect(button->isVisible(), "the page is shown");
-        Expect(button->text() == PluginText("IDS_PROFILE_UP"), "the page speaks Arabic");
-    }
 }
 
 void Tour::ActBack()
@@ -923,12 +989,7 @@ void Tour::ActBack()
 
 void Tour::CheckBack()
 {
-    Expect(Change::GetLangName() == m_languageBefore, "the language is the one before");
-    const QPushButton *button = FindOf<QPushButton>("upButton");
-    if (button) {
-        Expect(button->isVisible(), "the page is shown");
-        Expect(button->text() == PluginText("IDS_PROFILE_UP"), "the page speaks the language before");
-    }
+    ExpectLanguage(m_languageBefore, "upButton", PluginText("IDS_PROFILE_UP"));
 }
 
 void Tour::ActConfirm()
@@ -991,10 +1052,6 @@ void Tour::CheckConnected()
 {
     const QWidget *dialog = m_window->findChild<QWidget *>(QLatin1String("connectDialog"));
     Expect(!dialog || !dialog->isVisible(), "the dialog is closed");
-    const QLabel *headline = FindOf<QLabel>("headlineLabel");
-    if (headline) {
-        Expect(headline->text().contains(m_selected.name), "the main window tells that it is in use");
-    }
 }
 
 void Tour::ActUndo()
@@ -1035,4 +1092,89 @@ void Tour::ActRestoreOk()
         Expect(preview && NamesOf(preview) == NamesOf(m_expected), "the chosen list is shown");
         FailIf(UserActions::PressKey(Qt::Key_Return, table));
     }
+}
+
+void Tour::ActExport()
+{
+    Choose("editMenu", "exportAction");
+    EnterFile("exportFileDialog", OrderPath());
+}
+
+void Tour::CheckExported()
+{
+    QFile file(OrderPath());
+    QByteArray bytes;
+    if (file.open(QIODevice::ReadOnly)) {
+        bytes = file.readAll();
+    }
+    QList<PriorityList> exported;
+    Expect(OrderFile::Parse(bytes, &exported).kind == FileFault::None, "the file can be read");
+    if (!ListEntries::IsSame(exported, m_expected)) {
+        Fail(Differs("the file", NamesOf(exported), NamesOf(m_expected)));
+    }
+    Expect(!bytes.contains("sea-and-sand"), "no key is in the file");
+}
+
+void Tour::ActImportDialog()
+{
+    SwapWithListBefore();
+    Click("redoButton");
+    Choose("editMenu", "importAction");
+    EnterFile("importFileDialog", OrderPath());
+}
+
+void Tour::CheckImportDialog()
+{
+    const QTableWidget *table = FindOf<QTableWidget>("importList");
+    const QWidget *button = Find("importOkButton");
+    if (table && button) {
+        Expect(table->isVisible(), "the dialog is open");
+        Expect(button->isEnabled(), "there is something to import");
+        const QStringList planned = NamesOf(table, importNameColumn).mid(0, m_listBefore.size());
+        if (planned != NamesOf(m_listBefore)) {
+            Fail(Differs("the dialog", planned, NamesOf(m_listBefore)));
+        }
+    }
+}
+
+void Tour::ActImportOk()
+{
+    SwapWithListBefore();
+    if (QWidget *button = Find("importOkButton")) {
+        FailIf(UserActions::PressKey(Qt::Key_Return, button));
+    }
+}
+
+void Tour::CheckImported()
+{
+    const QWidget *dialog = m_window->findChild<QWidget *>(QLatin1String("importDialog"));
+    Expect(!dialog || !dialog->isVisible(), "the dialog is closed");
+    ExpectUndoAndRedo(true, false);
+}
+
+void Tour::ActWindowArabic()
+{
+    Choose("languageMenu", "languageAction_ar");
+}
+
+void Tour::CheckWindowArabic()
+{
+    ExpectLanguage(QLatin1String("ar"), "settingsButton", DashboardText("IDS_BUTTON_SETTINGS"));
+    const QWidget *button = Find("settingsButton");
+    const QWidget *headline = Find("headlineLabel");
+    if (button && headline) {
+        Expect(button->mapTo(m_window, QPoint()).x() < headline->mapTo(m_window, QPoint()).x(),
+               "the window reads from right to left");
+    }
+}
+
+void Tour::ActWindowBack()
+{
+    const QByteArray action = "languageAction_" + m_languageBefore.toLatin1();
+    Choose("languageMenu", action.constData());
+}
+
+void Tour::CheckWindowBack()
+{
+    ExpectLanguage(m_languageBefore, "settingsButton", DashboardText("IDS_BUTTON_SETTINGS"));
 }

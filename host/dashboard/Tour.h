@@ -28,6 +28,10 @@ public:
     /** Begins once the application's event loop runs. */
     void Start();
 
+signals:
+    /** A picture was taken, and what is on it can still be seen. name has no number and no ending. */
+    void PictureTaken(const QString &name);
+
 private slots:
     void Act();
     void Check();
@@ -56,6 +60,8 @@ private:
     void Click(const char *name);
     void ClickRow(const PriorityList &entry);
     void PressInList(int key);
+    void Choose(const char *menu, const char *action);
+    void EnterFile(const char *dialog, const QString &path);
     void ClickAndAnswer(const char *name, const char *answer, const char *textId);
     void Tick(const PriorityList &entry);
     void Fill(const char *name, const QString &text);
@@ -69,8 +75,11 @@ private:
     void ExpectSelected(int row);
     void ExpectUndoAndRedo(bool undo, bool redo);
     void SwapWithListBefore();
+    void ExpectLanguage(const QString &language, const char *button, const QString &text);
     void ExpectListEverywhere();
     QString WrongAboutList() const;
+    QString WrongAboutHeadline() const;
+    QString OrderPath() const;
 
     void ActStart();
     void CheckStart();
@@ -129,6 +138,16 @@ private:
     void ActRestoreDialog();
     void CheckRestoreDialog();
     void ActRestoreOk();
+    void ActExport();
+    void CheckExported();
+    void ActImportDialog();
+    void CheckImportDialog();
+    void ActImportOk();
+    void CheckImported();
+    void ActWindowArabic();
+    void CheckWindowArabic();
+    void ActWindowBack();
+    void CheckWindowBack();
 
     void Report();
     void SavePicture(const QString &name);

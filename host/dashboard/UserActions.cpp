@@ -1,7 +1,10 @@
 #include "UserActions.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QKeyEvent>
+#include <QMenu>
+#include <QMenuBar>
 #include <QMouseEvent>
 #include <QPointer>
 #include <QTableWidget>
@@ -45,7 +48,8 @@ void SendMouse(QEvent::Type type, QWidget *target, const QPoint &position)
 /** What a window manager does: a dialog that closes leaves the keyboard to the window before it. */
 void ActivateWindowOf(QWidget *widget)
 {
-    if (QApplication::activeWindow() != widget->window()) {
+    const bool isPopup = (widget->window()->windowFlags() & Qt::WindowType_Mask) == Qt::Popup;
+    if (QApplication::activeWindow() != widget->window() && !isPopup) {
         QApplication::setActiveWindow(widget->window());
     }
 }
@@ -69,6 +73,9 @@ QString ClickAt(QWidget *widget, const QPoint &position)
     }
     QWidget *window = widget->window();
     QPointer<QWidget> target = window->childAt(widget->mapTo(window, position));
+    if (!target) {
+        target = window;
+    }
     if (!IsSameOrInside(target.data(), widget)) {
         return QString::fromLatin1("%1 is covered").arg(NameOf(widget));
     }
@@ -117,6 +124,25 @@ QString UserActions::ClickRow(QTableWidget *table, int row)
     const QModelIndex index = table->model()->index(row, 0);
     table->scrollTo(index);
     return ClickAt(table->viewport(), table->visualRect(index).center());
+}
+
+QString UserActions::ChooseFromMenu(QMenu *menu, QAction *action)
+{
+    QMenuBar *bar = qobject_cast<QMenuBar *>(menu->parentWidget());
+    if (!bar) {
+        return QString::fromLatin1("%1 is in no menu bar").arg(NameOf(menu));
+    }
+    QString problem = ClickAt(bar, bar->actionGeometry(menu->menuAction()).center());
+    if (problem.isNull() && !action->isEnabled()) {
+        problem = QString::fromLatin1("%1 is disabled").arg(action->objectName());
+    }
+    if (problem.isNull()) {
+        problem = ClickAt(menu, menu->actionGeometry(action).center());
+    }
+    if (menu->isVisible()) {
+        menu->close();
+    }
+    return problem;
 }
 
 QString UserActions::PressKey(int key, QWidget *widget, Qt::KeyboardModifiers modifiers)

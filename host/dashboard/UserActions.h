@@ -4,6 +4,8 @@
 #include <QString>
 #include <qnamespace.h>
 
+class QAction;
+class QMenu;
 class QTableWidget;
 class QWidget;
 
@@ -16,6 +18,9 @@ namespace UserActions
 
 QString Click(QWidget *widget);
 QString ClickRow(QTableWidget *table, int row);
+
+/** Opens a menu of the menu bar, and chooses from it. */
+QString ChooseFromMenu(QMenu *menu, QAction *action);
 
 /** Presses and releases a key where the keyboard's focus is, which has to be widget or in it. */
 QString PressKey(int key, QWidget *widget, Qt::KeyboardModifiers modifiers = Qt::NoModifier);

@@ -51,6 +51,7 @@ private slots:
     void TourSucceedsAtAnyScale_data();
     void TourSucceedsAtAnyScale();
     void TourShowsConnectingAddingAndCreating();
+    void TourUndoesExportsAndImports();
     void TourTellsNoKeys();
     void TourSucceedsFromRightToLeft();
     void TourLeavesTheUsersDataAlone();
@@ -171,7 +172,7 @@ void ProgramTest::TourSucceeds()
     const QStringList counts = TextPattern::FindAll(LastLine(outcome.out), "^tour: (\\d+) steps, 0 failed$");
     QVERIFY2(!counts.isEmpty(), qPrintable(outcome.out));
     const int steps = counts.first().toInt();
-    QCOMPARE(steps, 34);
+    QCOMPARE(steps, 39);
     const QDir directory(TourPath());
     for (int i = 1; i <= steps; ++i) {
         const QString number = QString("%1").arg(i, 2, 10, QChar('0'));
@@ -212,6 +213,22 @@ void ProgramTest::TourShowsConnectingAddingAndCreating()
     QVERIFY(TextPattern::IsIn(StepOf(outcome.out, "new-ok", TourPath()), "8\\. Summer house.*\n$"));
     QCOMPARE(StepOf(outcome.out, "new-repeated", TourPath()).count("Summer house"), 1);
     QVERIFY(StepOf(outcome.out, "connect-ok", TourPath()).contains("\n   1. Campus (Wi-Fi)\n"));
+}
+
+void ProgramTest::TourUndoesExportsAndImports()
+{
+    const Outcome outcome = RunDashboard(QStringList() << "--tour" << TourPath(), Environment());
+    QCOMPARE(outcome.status, 0);
+    const QString onTop("\n   1. Campus (Wi-Fi)\n");
+    const QString below("\n   1. Library (Wi-Fi)\n");
+    QVERIFY(StepOf(outcome.out, "undo", TourPath()).contains(below));
+    QVERIFY(StepOf(outcome.out, "redo", TourPath()).contains(onTop));
+    QVERIFY(StepOf(outcome.out, "restore-ok", TourPath()).contains(below));
+    QVERIFY(StepOf(outcome.out, "import-dialog", TourPath()).contains(onTop));
+    QVERIFY(StepOf(outcome.out, "import-ok", TourPath()).contains(below));
+    const QByteArray order = m_directory->Read("tour/data/order.xml");
+    QVERIFY(order.contains("Summer house"));
+    QVERIFY(!order.contains("sea-and"));
 }
 
 void ProgramTest::TourTellsNoKeys()

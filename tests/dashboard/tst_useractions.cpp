@@ -2,6 +2,8 @@
 
 #include <QDialog>
 #include <QLineEdit>
+#include <QMainWindow>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTableWidget>
@@ -21,6 +23,8 @@ private slots:
     void WhatNobodyCouldClickIsNotClicked();
     void RowIsClicked();
     void RowThatIsNotThereIsTold();
+    void MenuIsChosenFrom_data();
+    void MenuIsChosenFrom();
     void TextGoesWhereTheFocusIs();
     void KeyWithoutFocusIsTold();
 
@@ -114,6 +118,38 @@ void UserActionsTest::RowThatIsNotThereIsTold()
 {
     QCOMPARE(UserActions::ClickRow(m_table, 50), QString("table has no row 51"));
     QCOMPARE(UserActions::ClickRow(m_table, -1), QString("table has no row 0"));
+}
+
+void UserActionsTest::MenuIsChosenFrom_data()
+{
+    QTest::addColumn<bool>("isEnabled");
+    QTest::addColumn<bool>("isInBar");
+    QTest::addColumn<QString>("told");
+    QTest::addColumn<int>("times");
+    QTest::newRow("possible") << true << true << QString() << 1;
+    QTest::newRow("disabled") << false << true << "second is disabled" << 0;
+    QTest::newRow("menu elsewhere") << true << false << "menu is in no menu bar" << 0;
+}
+
+void UserActionsTest::MenuIsChosenFrom()
+{
+    QFETCH(bool, isEnabled);
+    QFETCH(bool, isInBar);
+    QFETCH(QString, told);
+    QFETCH(int, times);
+    QMainWindow window;
+    QMenu *menu = isInBar ? window.menuBar()->addMenu("Menu") : new QMenu(&window);
+    menu->setObjectName("menu");
+    QSignalSpy first(menu->addAction("First"), SIGNAL(triggered()));
+    QAction *action = menu->addAction("Second");
+    action->setObjectName("second");
+    action->setEnabled(isEnabled);
+    QSignalSpy second(action, SIGNAL(triggered()));
+    window.show();
+    QCOMPARE(UserActions::ChooseFromMenu(menu, action), told);
+    QCOMPARE(first.count(), 0);
+    QCOMPARE(second.count(), times);
+    QVERIFY(!menu->isVisible());
 }
 
 void UserActionsTest::TextGoesWhereTheFocusIs()
