@@ -1,0 +1,243 @@
+#include <Outline.h>
+#include <OutlineComparison.h>
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QVBoxLayout>
+#include <QtTest>
+
+namespace
+{
+
+/** A window with a label above a row of a field and two buttons, a table, and a panel placed by hand. */
+class Window : public QWidget
+{
+public:
+    Window()
+        : label(new QLabel(QLatin1String("Name"))), field(new QLineEdit), first(new QPushButton("First")),
+          second(new QPushButton("Second")), table(new QTableWidget(2, 1)), panel(new QWidget),
+          placed(new QCheckBox("Placed", panel))
+    {
+        setObjectName("window");
+        label->setObjectName("label");
+        field->setObjectName("field");
+        first->setObjectName("first");
+        second->setObjectName("second");
+        table->setObjectName("table");
+        table->setItem(0, 0, new QTableWidgetItem("Home"));
+        table->setItem(1, 0, new QTableWidgetItem("Office"));
+        panel->setObjectName("panel");
+        panel->setFixedSize(200, 60);
+        placed->setObjectName("placed");
+        placed->setGeometry(10, 20, 100, 24);
+        row = new QHBoxLayout;
+        row->addWidget(field);
+        row->addWidget(first);
+        row->addWidget(second);
+        column = new QVBoxLayout(this);
+        column->addWidget(label);
+        column->addLayout(row);
+        column->addWidget(table);
+        column->addWidget(panel);
+        resize(500, 400);
+        show();
+    }
+
+    QLabel *const label;
+    QLineEdit *const field;
+    QPushButton *const first;
+    QPushButton *const second;
+    QTableWidget *const table;
+    QWidget *const panel;
+    QCheckBox *const placed;
+    QHBoxLayout *row;
+    QVBoxLayout *column;
+};
+
+QString Shown(QWidget *window)
+{
+    QCoreApplication::processEvents();
+    return Outline(window);
+}
+
+} // namespace
+
+class OutlineTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void SameWindowIsNoDifference();
+    void OtherFontIsNoDifference();
+    void ChangeIsSeen_data();
+    void ChangeIsSeen();
+    void MirroredRowReadsFromTheOtherSide();
+    void HiddenTextIsNotTold();
+    void DifferenceShowsBothAndWhatIsAroundThem();
+    void NumbersMayDifferWithinTheTolerance_data();
+    void NumbersMayDifferWithinTheTolerance();
+};
+
+void OutlineTest::SameWindowIsNoDifference()
+{
+    Window window;
+    Window same;
+    QCOMPARE(OutlineComparison::Difference(Shown(&window), Shown(&same)), QString());
+}
+
+void OutlineTest::OtherFontIsNoDifference()
+{
+    Window window;
+    const QString before = Shown(&window);
+    QFont font = window.font();
+    font.setPointSizeF(font.pointSizeF() * 1.15);
+    window.setFont(font);
+    const QString after = Shown(&window);
+    QVERIFY(after != before);
+    QCOMPARE(OutlineComparison::Difference(before, after), QString());
+}
+
+void OutlineTest::ChangeIsSeen_data()
+{
+    QTest::addColumn<QString>("change");
+    QTest::addColumn<QString>("told");
+    QTest::newRow("button moved in its row") << "moved"
+                                             << "first";
+    QTest::newRow("button moved to another row") << "moved down"
+                                                 << "second";
+    QTest::newRow("button shifted") << "shifted"
+                                    << "first";
+    QTest::newRow("place fixed by hand, by a pixel") << "pixel"
+                                                     << "placed";
+    QTest::newRow("fixed size, by a pixel") << "size"
+                                            << "panel";
+    QTest::newRow("row missing") << "row"
+                                 << "Office";
+    QTest::newRow("label missing") << "label"
+                                   << "label";
+    QTest::newRow("text missing") << "text"
+                                  << "label";
+    QTest::newRow("text at the other side") << "side"
+                                            << "at the right";
+    QTest::newRow("disabled") << "disabled"
+                              << "second \"Second\" disabled";
+    QTest::newRow("selected") << "selected"
+                              << "\"Office\" at the left selected";
+    QTest::newRow("covering") << "covering"
+                              << "first and second cover each other";
+    QTest::newRow("sticking out") << "sticking out"
+                                  << "placed sticks out";
+    QTest::newRow("mirrored") << "mirrored"
+                              << "from right to left";
+}
+
+void OutlineTest::ChangeIsSeen()
+{
+    QFETCH(QString, change);
+    QFETCH(QString, told);
+    Window window;
+    const QString before = Shown(&window);
+    if (change == "moved") {
+        window.row->removeWidget(window.first);
+        window.row->addWidget(window.first);
+    } else if (change == "moved down") {
+        window.column->addWidget(window.second);
+    } else if (change == "shifted") {
+        window.row->insertSpacing(1, OutlineComparison::tolerance + 5);
+        window.row->addSpacing(OutlineComparison::tolerance + 5);
+    } else if (change == "pixel") {
+        window.placed->move(window.placed->pos() + QPoint(1, 0));
+    } else if (change == "size") {
+        window.panel->setFixedWidth(201);
+    } else if (change == "row") {
+        window.table->removeRow(1);
+    } else if (change == "label") {
+        window.label->hide();
+    } else if (change == "text") {
+        window.label->clear();
+    } else if (change == "side") {
+        window.label->setAlignment(Qt::AlignRight);
+    } else if (change == "disabled") {
+        window.second->setEnabled(false);
+    } else if (change == "selected") {
+        window.table->setCurrentCell(1, 0);
+    } else if (change == "covering") {
+        QCoreApplication::processEvents();
+        window.first->move(window.second->pos());
+    } else if (change == "sticking out") {
+        window.placed->move(150, 20);
+    } else {
+        window.setLayoutDirection(Qt::RightToLeft);
+    }
+    const QString difference = OutlineComparison::Difference(before, Shown(&window));
+    QVERIFY2(difference.contains(told), qPrintable(difference));
+}
+
+void OutlineTest::MirroredRowReadsFromTheOtherSide()
+{
+    Window window;
+    window.setLayoutDirection(Qt::RightToLeft);
+    const QString mirrored = Shown(&window);
+    QVERIFY2(mirrored.indexOf("QPushButton second") < mirrored.indexOf("QPushButton first"),
+             qPrintable(mirrored));
+    QVERIFY(mirrored.indexOf("QPushButton first") < mirrored.indexOf("QLineEdit field"));
+    QVERIFY(mirrored.contains("\"Name\" at the right"));
+    QVERIFY(mirrored.contains("\"Home\" at the right"));
+    window.row->setDirection(QBoxLayout::RightToLeft);
+    QVERIFY(!OutlineComparison::Difference(mirrored, Shown(&window)).isEmpty());
+}
+
+void OutlineTest::HiddenTextIsNotTold()
+{
+    Window window;
+    window.field->setEchoMode(QLineEdit::Password);
+    window.field->setText("correct horse");
+    const QString outline = Shown(&window);
+    QVERIFY(!outline.contains("horse"));
+    QVERIFY(outline.contains("13 hidden signs"));
+}
+
+void OutlineTest::DifferenceShowsBothAndWhatIsAroundThem()
+{
+    QCOMPARE(
+        OutlineComparison::Difference("a\nb\nc\nd\ne at ~1\nf\ng\nh\n", "a\nb\nc\nd\nE at ~1\nf\ng\nh\n"),
+        QString("  ...\n  c\n  d\n- e at ~1\n+ E at ~1\n  f\n  g"));
+    QCOMPARE(OutlineComparison::Difference("a\nb\nc", "a\nc"), QString("  a\n- b\n  c"));
+    QCOMPARE(OutlineComparison::Difference("a\nc", "a\nb\nc"), QString("  a\n+ b\n  c"));
+}
+
+void OutlineTest::NumbersMayDifferWithinTheTolerance_data()
+{
+    QTest::addColumn<QString>("approved");
+    QTest::addColumn<QString>("found");
+    QTest::addColumn<bool>("isSame");
+    QTest::newRow("near") << "a at ~100"
+                          << "a at ~120" << true;
+    QTest::newRow("near, smaller") << "a at ~0"
+                                   << "a at ~-20" << true;
+    QTest::newRow("far") << "a at ~100"
+                         << "a at ~121" << false;
+    QTest::newRow("fixed") << "a at 100"
+                           << "a at 101" << false;
+    QTest::newRow("no longer fixed") << "a at 100"
+                                     << "a at ~100" << false;
+    QTest::newRow("no number") << "a ~b"
+                               << "a ~c" << false;
+    QTest::newRow("one more") << "a at ~100"
+                              << "a at ~100 ~100" << false;
+}
+
+void OutlineTest::NumbersMayDifferWithinTheTolerance()
+{
+    QFETCH(QString, approved);
+    QFETCH(QString, found);
+    QFETCH(bool, isSame);
+    QCOMPARE(OutlineComparison::Difference(approved, found).isEmpty(), isSame);
+}
+
+QTEST_MAIN(OutlineTest)
+#include "tst_outline.moc"
