@@ -240,12 +240,31 @@ QString ListKeeper::Replace(const QList<PriorityList> &entries)
     if (!obstacle.isNull()) {
         return obstacle;
     }
-    QString problem = Write(ListEntries::Storable(entries));
-    RecordIfNew();
-    return problem;
+    const ListHistory before = m_history;
+    ListState state;
+    state.time = WholeSeconds(QDateTime::currentDateTime());
+    state.entries = ListEntries::Storable(entries);
+    if (before.IsEmpty()) {
+        QString problem = Write(state.entries);
+        RecordIfNew();
+        return problem;
+    }
+    if (ListEntries::IsSame(before.Entries(), state.entries)) {
+        return GoTo(before.Position());
+    }
+    // As a state to go to: then an end on the way is made good like that of an undo.
+    m_history.Record(state);
+    const int position = m_history.Position();
+    m_history.GoTo(position - 1);
+    return GoTo(position, before);
 }
 
 QString ListKeeper::GoTo(int position)
+{
+    return GoTo(position, m_history);
+}
+
+QString ListKeeper::GoTo(int position, ListHistory otherwise)
 {
     const QList<PriorityList> entries = m_history.States().at(position).entries;
     m_history.SetTarget(position);
@@ -254,7 +273,8 @@ QString ListKeeper::GoTo(int position)
     if (problem.isNull()) {
         m_history.GoTo(m_history.Target());
     } else {
-        m_history.SetTarget(-1);
+        otherwise.SetTarget(-1);
+        m_history = otherwise;
     }
     m_file.Save(&m_history);
     RecordIfNew();

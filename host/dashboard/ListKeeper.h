@@ -86,6 +86,8 @@ private:
     void RecordIfNew();
     QDateTime TimeOfChange() const;
     QString GoTo(int position);
+    /** @param otherwise  the history when the list can't be written. */
+    QString GoTo(int position, ListHistory otherwise);
     /** Ends what a program that died on the way to another state has begun. Its file may be gone or cut
      * short: the plug-in rewrites it in place. */
     void FinishInterrupted();

@@ -58,6 +58,7 @@ private slots:
     void DamagedHistoryIsToldAndLeftAloneUntilSetAside();
     void HistoryThatCannotBeWrittenLastsForTheProgram();
     void ListThatCannotBeWrittenIsTold();
+    void ImportThatCannotBeWrittenLeavesTheHistoryAsItWas();
     void TwoDashboardsKeepOneHistory();
     void UndoElsewhereIsFollowed();
     void HistoryHeldByAnotherIsNotTouched();
@@ -458,6 +459,20 @@ void ListKeeperTest::ListThatCannotBeWrittenIsTold()
              qPrintable(m_keeper->Undo()));
     QCOMPARE(ListBytes(), before);
     QCOMPARE(History(), QString(" | A | [B, A]"));
+}
+
+void ListKeeperTest::ImportThatCannotBeWrittenLeavesTheHistoryAsItWas()
+{
+    AddTop("A");
+    m_keeper->Follow();
+    AddTop("B");
+    m_keeper->Follow();
+    QCOMPARE(m_keeper->Undo(), QString());
+    QVERIFY(QDir().mkdir(PrivateFile::TemporaryPath(ListPath())));
+    QVERIFY(!m_keeper->Replace(Listed("Z")).isNull());
+    QCOMPARE(History(), QString(" | [A] | B, A"));
+    StartAnew();
+    QCOMPARE(History(), QString(" | [A] | B, A"));
 }
 
 void ListKeeperTest::TwoDashboardsKeepOneHistory()
