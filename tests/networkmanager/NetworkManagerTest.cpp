@@ -20,10 +20,11 @@ void NetworkManagerTest::init()
     QVERIFY(LoadedWLAN::Root()->Init());
 }
 
-void NetworkManagerTest::StartAgain()
+void NetworkManagerTest::StartBusAgain()
 {
-    cleanup();
-    init();
+    m_networkManager.reset();
+    QVERIFY2(m_bus.Start(), qPrintable(m_bus.WhyNot()));
+    m_networkManager.reset(new FakeNetworkManager);
 }
 
 void NetworkManagerTest::cleanup()

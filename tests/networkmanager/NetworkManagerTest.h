@@ -19,8 +19,9 @@ protected:
     FakeNetworkManager &Fake() { return *m_networkManager; }
     const TemporaryDirectory &Directory() const { return *m_directory; }
 
-    /** What happens between test functions, for one that has taken the bus away. */
-    void StartAgain();
+    /** For a test that has taken the bus away: there is another, and a new fake that has not appeared on it.
+     */
+    void StartBusAgain();
 
 private slots:
     void initTestCase();

@@ -26,6 +26,10 @@ public:
     /** As a crash does. It can be started again, but the test's own connection does not come back. */
     void Kill() { m_daemon.Kill(); }
 
+    /** Keeps it from answering until Thaw. */
+    void Freeze() { m_daemon.Freeze(); }
+    void Thaw() { m_daemon.Thaw(); }
+
     QString Path(const QString &fileName) const { return m_directory.FilePath(fileName); }
 
     /** A connection of the test's own. */

@@ -7,6 +7,8 @@
 #include <QDBusObjectPath>
 #include <QDBusVariant>
 #include <QElapsedTimer>
+#include <QLocalServer>
+#include <QLocalSocket>
 #include <QtTest>
 
 #include <functional>
@@ -95,7 +97,10 @@ private slots:
     void NetworkManagerThatSpeaksAgainIsUsedAgain();
     void SilentSupplicantIsNotWaitedForLong();
     void ManyProfilesAndNetworksAreAllTold();
-    void LostBusIsToldAndANewOneUsedFromTheNextStartOn();
+
+    void LostBusIsTold();
+    void NewBusIsUsedWhenItComes();
+    void BusThatDoesNotGreetBackKeepsNobodyWaiting();
 };
 
 void tst_networkmanagerfaults::MeaninglessAnswersAreRefused_data()
@@ -466,7 +471,7 @@ void tst_networkmanagerfaults::ManyProfilesAndNetworksAreAllTold()
     QCOMPARE(LoadedWLAN::ProfileNamed("profile 499").ssid, QString("profile 499"));
 }
 
-void tst_networkmanagerfaults::LostBusIsToldAndANewOneUsedFromTheNextStartOn()
+void tst_networkmanagerfaults::LostBusIsTold()
 {
     Fake().AddProfile("A");
     QCOMPARE(LoadedWLAN::Remembered(), QStringList("A/1"));
@@ -479,10 +484,44 @@ void tst_networkmanagerfaults::LostBusIsToldAndANewOneUsedFromTheNextStartOn()
     QVERIFY(areOutputsUntouched);
     QVERIFY2(time < allowance, qPrintable(QString::number(time)));
     QVERIFY(trace.Lines().contains("WLANNetworkManager: GetRememberedList: there is no system bus"));
-    QVERIFY2(Bus().Start(), qPrintable(Bus().WhyNot()));
-    StartAgain();
-    Fake().AddProfile("B");
-    QCOMPARE(LoadedWLAN::Remembered(), QStringList("B/1"));
+    StartBusAgain();
+}
+
+void tst_networkmanagerfaults::NewBusIsUsedWhenItComes()
+{
+    QObject *service = LoadedWLAN::Service();
+    const char *const names[] = {"A", "B"};
+    for (const char *name : names) {
+        Bus().Kill();
+        // Long enough for it to be sought in vain more than once.
+        QTest::qWait(2500);
+        QCOMPARE(LoadedWLAN::Remembered(), QStringList());
+        StartBusAgain();
+        Fake().AddProfile(name);
+        QVERIFY(Fake().Appear());
+        QTRY_COMPARE(LoadedWLAN::Remembered(), QStringList(QString("%1/1").arg(name)));
+    }
+    QCOMPARE(LoadedWLAN::Service(), service);
+}
+
+void tst_networkmanagerfaults::BusThatDoesNotGreetBackKeepsNobodyWaiting()
+{
+    Bus().Kill();
+    QLocalServer silent;
+    QLocalServer::removeServer(Bus().Path("bus"));
+    QVERIFY(silent.listen(Bus().Path("bus")));
+    QTRY_VERIFY(silent.hasPendingConnections());
+    bool areOutputsUntouched = false;
+    QList<int> answers;
+    const qint64 time = TimeOf([&] { answers = AnswersOfAll(&areOutputsUntouched); });
+    QCOMPARE(answers, EachBut(NetworkManagerResultNoBus, 0));
+    QVERIFY2(time < allowance, qPrintable(QString::number(time)));
+    silent.nextPendingConnection()->abort();
+    silent.close();
+    StartBusAgain();
+    Fake().AddProfile("A");
+    QVERIFY(Fake().Appear());
+    QTRY_COMPARE(LoadedWLAN::Remembered(), QStringList("A/1"));
 }
 
 QTEST_GUILESS_MAIN(tst_networkmanagerfaults)

@@ -11,7 +11,6 @@
 
 #include <QElapsedTimer>
 #include <QLibrary>
-#include <QLocalServer>
 #include <QPluginLoader>
 #include <QPointer>
 #include <QProcess>
@@ -40,6 +39,7 @@ private slots:
     // From here on in this order: the bus comes, then NetworkManager.
     void InitFailsWithoutABus();
     void BusComesUp();
+    void InitOnABusThatDoesNotAnswerEndsInTime();
     void InitFailsWithoutNetworkManager();
     void NetworkManagerComesUp();
     void InitSucceedsWithNetworkManager();
@@ -187,6 +187,21 @@ void tst_networkmanagerlibrary::InitFailsWithoutABus()
 void tst_networkmanagerlibrary::BusComesUp()
 {
     QVERIFY2(m_bus->Start(), qPrintable(m_bus->WhyNot()));
+}
+
+void tst_networkmanagerlibrary::InitOnABusThatDoesNotAnswerEndsInTime()
+{
+    const int patience = 2000;
+    const int allowance = 1500;
+    m_bus->Freeze();
+    TraceCapture trace;
+    QElapsedTimer timer;
+    timer.start();
+    QVERIFY(!LoadedWLAN::Root()->Init());
+    QVERIFY2(timer.elapsed() < patience + allowance, qPrintable(QString::number(timer.elapsed())));
+    QCOMPARE(LoadedWLAN::Root()->GetLastError(), int(NetworkManagerResultNotAnswering));
+    QCOMPARE(trace.Lines(), QStringList("WLANNetworkManager: NetworkManager does not answer"));
+    m_bus->Thaw();
 }
 
 void tst_networkmanagerlibrary::InitFailsWithoutNetworkManager()

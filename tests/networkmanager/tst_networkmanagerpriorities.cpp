@@ -53,6 +53,7 @@ private slots:
     void NewProfileGetsItsPlace();
     void WorkGoesOnAfterARestartOfTheProgram();
     void WorkGoesOnWhenNetworkManagerComesBack();
+    void WorkGoesOnOnANewBus();
     void ReadOnlyProfilesAreLeftAlone();
     void ProfilesThatNeedAPasswordAreLeftAlone();
 
@@ -257,6 +258,27 @@ void tst_networkmanagerpriorities::WorkGoesOnWhenNetworkManagerComesBack()
     QCOMPARE(Fake().PriorityOf(a), 999);
     QVERIFY(Fake().Appear());
     QTRY_COMPARE(Fake().PriorityOf(a), 998);
+}
+
+void tst_networkmanagerpriorities::WorkGoesOnOnANewBus()
+{
+    Begin("A");
+    Bus().Kill();
+    SetList("B A C");
+    Settle();
+    StartBusAgain();
+    const QString a = Fake().AddProfile("A");
+    QVERIFY(Fake().Appear());
+    QTRY_COMPARE(Fake().PriorityOf(a), 998);
+    // Whoever was told of news on the old bus is told of those on the new one.
+    const QString c = Fake().AddProfile("C");
+    QTRY_COMPARE(Fake().PriorityOf(c), 997);
+    Fake().Vanish();
+    SetList("A");
+    Settle();
+    QVERIFY(Fake().Appear());
+    QTRY_COMPARE(Fake().PriorityOf(a), 999);
+    QTRY_COMPARE(Fake().PriorityOf(c), 0);
 }
 
 void tst_networkmanagerpriorities::ReadOnlyProfilesAreLeftAlone()

@@ -1,7 +1,10 @@
 #include "NetworkManagerClient.h"
 
+#include "TimeLimit.h"
+
 #include <NetworkManagerQt/GenericTypes>
 
+#include <QDBusError>
 #include <QDBusMetaType>
 #include <QDBusPendingCallWatcher>
 #include <QDBusServiceWatcher>
@@ -11,20 +14,6 @@ namespace
 {
 
 const int signMilliseconds = 20000;
-
-/**
- * One connection for all clients, kept for as long as the program runs: the toolkit spoils its memory when a
- * connection is closed while calls on it are unanswered. One that the bus has closed has none.
- */
-QDBusConnection Connection()
-{
-    const QString name = QLatin1String("WLANNetworkManager");
-    if (!QDBusConnection(name).isConnected()) {
-        QDBusConnection::disconnectFromBus(name);
-        QDBusConnection::connectToBus(QDBusConnection::SystemBus, name);
-    }
-    return QDBusConnection(name);
-}
 
 QDBusMessage VersionCall()
 {
@@ -40,14 +29,16 @@ QDBusMessage VersionCall()
 const int CNetworkManagerClient::patienceMilliseconds;
 
 CNetworkManagerClient::CNetworkManagerClient(QObject *parent)
-    : QObject(parent), m_connection(Connection()),
-      m_owner(new QDBusServiceWatcher(ServiceName(), m_connection, QDBusServiceWatcher::WatchForRegistration,
-                                      this)),
-      m_isSilent(false)
+    : QObject(parent), m_bus(nullptr), m_isSilent(false)
 {
     qDBusRegisterMetaType<NMVariantMapMap>();
-    connect(m_owner, SIGNAL(serviceRegistered(QString)), this, SLOT(TakeOwner()));
+    connect(&m_bus, SIGNAL(Found()), this, SLOT(TakeBus()));
+    if (m_bus.Connection().isConnected()) {
+        TakeBus();
+    }
 }
+
+CNetworkManagerClient::~CNetworkManagerClient() = default;
 
 QString CNetworkManagerClient::ServiceName()
 {
@@ -113,10 +104,14 @@ QDBusMessage CNetworkManagerClient::Call(const QString &path, const QString &int
 
 NetworkManagerResult CNetworkManagerClient::Probe(int limitMilliseconds)
 {
-    if (!m_connection.isConnected()) {
+    const CTimeLimit limit(limitMilliseconds);
+    if (!m_bus.Wait(limit.Remaining())) {
+        return NetworkManagerResultNotAnswering;
+    }
+    if (!m_bus.Connection().isConnected()) {
         return NetworkManagerResultNoBus;
     }
-    QDBusPendingCall call = Send(VersionCall(), limitMilliseconds);
+    QDBusPendingCall call = Send(VersionCall(), limit.Remaining());
     call.waitForFinished();
     const NetworkManagerResult result = ResultOf(call.reply(), "v");
     Note(result);
@@ -125,19 +120,52 @@ NetworkManagerResult CNetworkManagerClient::Probe(int limitMilliseconds)
 
 QDBusPendingCall CNetworkManagerClient::Send(const QDBusMessage &call, int limitMilliseconds)
 {
-    return m_connection.asyncCall(call, limitMilliseconds);
+    // The toolkit would bring the error of a lost bus only when it is done with greeting the next one.
+    if (!m_bus.Connection().isConnected()) {
+        return QDBusPendingCall::fromError(
+            QDBusError(QDBusError::Disconnected, QLatin1String("there is no connection to the bus")));
+    }
+    return m_bus.Connection().asyncCall(call, limitMilliseconds);
 }
 
 void CNetworkManagerClient::Tell(const QDBusMessage &call)
 {
-    m_connection.send(call);
+    m_bus.Connection().send(call);
 }
 
 void CNetworkManagerClient::Listen(const QString &path, const QString &interface, const QString &signal,
                                    const QString &firstArgument, QObject *receiver, const char *slot)
 {
-    const QStringList arguments = firstArgument.isEmpty() ? QStringList() : QStringList(firstArgument);
-    m_connection.connect(ServiceName(), path, interface, signal, arguments, QString(), receiver, slot);
+    Subscription subscription;
+    subscription.path = path;
+    subscription.interface = interface;
+    subscription.signal = signal;
+    subscription.arguments = firstArgument.isEmpty() ? QStringList() : QStringList(firstArgument);
+    subscription.receiver = receiver;
+    subscription.slot = slot;
+    m_subscriptions.append(subscription);
+    Subscribe(subscription);
+}
+
+void CNetworkManagerClient::Subscribe(const Subscription &subscription)
+{
+    if (subscription.receiver) {
+        QDBusConnection(m_bus.Connection())
+            .connect(ServiceName(), subscription.path, subscription.interface, subscription.signal,
+                     subscription.arguments, QString(), subscription.receiver, subscription.slot.constData());
+    }
+}
+
+void CNetworkManagerClient::TakeBus()
+{
+    m_isSilent = false;
+    m_owner.reset(new QDBusServiceWatcher(ServiceName(), m_bus.Connection(),
+                                          QDBusServiceWatcher::WatchForRegistration));
+    connect(m_owner.data(), SIGNAL(serviceRegistered(QString)), this, SLOT(TakeOwner()));
+    for (int i = 0; i < m_subscriptions.size(); ++i) {
+        Subscribe(m_subscriptions.at(i));
+    }
+    emit Appeared();
 }
 
 void CNetworkManagerClient::Note(NetworkManagerResult result)

@@ -2,12 +2,16 @@
 #define NETWORKMANAGERCLIENT_H
 
 #include "NetworkManagerResult.h"
+#include "SystemBus.h"
 
-#include <QDBusConnection>
+#include <QByteArray>
 #include <QDBusMessage>
+#include <QList>
 #include <QObject>
 #include <QPointer>
+#include <QScopedPointer>
 #include <QString>
+#include <QStringList>
 
 class QDBusPendingCall;
 class QDBusPendingCallWatcher;
@@ -22,6 +26,8 @@ class QDBusServiceWatcher;
  *
  * A NetworkManager that let a call run out of time counts as silent until it answers a question that is put
  * to it aside: while it is silent, operations fail at once instead of making their caller wait again.
+ *
+ * When the bus is lost, operations fail at once, too, until it is there again.
  */
 class CNetworkManagerClient : public QObject
 {
@@ -32,6 +38,7 @@ public:
     static const int patienceMilliseconds = 2000;
 
     explicit CNetworkManagerClient(QObject *parent);
+    ~CNetworkManagerClient() override;
 
     static QString ServiceName();
     static QString ManagerPath();
@@ -48,7 +55,7 @@ public:
     /** A call to NetworkManager, which is not started for its sake. */
     static QDBusMessage Call(const QString &path, const QString &interface, const QString &method);
 
-    /** Whether NetworkManager answers now; waits no longer than the limit. */
+    /** Whether there is a bus and NetworkManager answers now; waits no longer than the limit. */
     NetworkManagerResult Probe(int limitMilliseconds);
 
     QDBusPendingCall Send(const QDBusMessage &call, int limitMilliseconds);
@@ -56,7 +63,10 @@ public:
     /** Sends a call of which the answer is of no interest. */
     void Tell(const QDBusMessage &call);
 
-    /** Calls slot of receiver for a signal of NetworkManager; an empty path stands for every object. */
+    /**
+     * Calls slot of receiver for a signal of NetworkManager, on a later bus, too; an empty path stands for
+     * every object.
+     */
     void Listen(const QString &path, const QString &interface, const QString &signal,
                 const QString &firstArgument, QObject *receiver, const char *slot);
 
@@ -66,20 +76,32 @@ public:
     void Note(NetworkManagerResult result);
 
 signals:
-    /** NetworkManager has come, has come back or speaks again. */
+    /** NetworkManager has come, has come back or speaks again, or there is a new bus that it may be on. */
     void Appeared();
 
 private slots:
+    void TakeBus();
     void TakeOwner();
     void TakeSign(QDBusPendingCallWatcher *watcher);
 
 private:
     Q_DISABLE_COPY(CNetworkManagerClient)
 
+    struct Subscription {
+        QString path;
+        QString interface;
+        QString signal;
+        QStringList arguments;
+        QPointer<QObject> receiver;
+        QByteArray slot;
+    };
+
+    void Subscribe(const Subscription &subscription);
     void AskForSign();
 
-    QDBusConnection m_connection;
-    QDBusServiceWatcher *m_owner;
+    CSystemBus m_bus;
+    QScopedPointer<QDBusServiceWatcher> m_owner;
+    QList<Subscription> m_subscriptions;
     bool m_isSilent;
     QPointer<QDBusPendingCallWatcher> m_sign;
 };

@@ -1,0 +1,86 @@
+#include "SystemBus.h"
+
+#include <QThread>
+
+namespace
+{
+
+const int pauseMilliseconds = 1000;
+
+/**
+ * One connection for all, kept for as long as the program runs: the toolkit spoils its memory when a
+ * connection is closed while calls on it are unanswered. One that the bus has closed has none.
+ */
+QString ConnectionName()
+{
+    return QLatin1String("WLANNetworkManager");
+}
+
+class CGreeter : public QThread
+{
+protected:
+    void run() override { QDBusConnection::connectToBus(QDBusConnection::SystemBus, ConnectionName()); }
+};
+
+} // namespace
+
+CSystemBus::CSystemBus(QObject *parent) : QObject(parent), m_connection(ConnectionName())
+{
+    m_pause.setSingleShot(true);
+    m_pause.setInterval(pauseMilliseconds);
+    connect(&m_pause, SIGNAL(timeout()), this, SLOT(Seek()));
+    if (m_connection.isConnected()) {
+        WatchForLoss();
+    } else {
+        Seek();
+    }
+}
+
+bool CSystemBus::Wait(int limitMilliseconds)
+{
+    if (!m_greeter) {
+        return true;
+    }
+    if (!m_greeter->wait(static_cast<unsigned long>(limitMilliseconds))) {
+        return false;
+    }
+    TakeConnection();
+    return true;
+}
+
+void CSystemBus::Seek()
+{
+    QDBusConnection::disconnectFromBus(ConnectionName());
+    m_greeter = new CGreeter;
+    connect(m_greeter, SIGNAL(finished()), this, SLOT(TakeConnection()));
+    // Without a parent, as it can't be stopped and may outlive this object.
+    connect(m_greeter, SIGNAL(finished()), m_greeter, SLOT(deleteLater()));
+    m_greeter->start();
+}
+
+void CSystemBus::TakeConnection()
+{
+    // Waiting takes the connection here and leaves the thread's own message of it on the way.
+    if (!m_greeter || !m_greeter->isFinished()) {
+        return;
+    }
+    delete m_greeter;
+    m_connection = QDBusConnection(ConnectionName());
+    if (m_connection.isConnected()) {
+        WatchForLoss();
+        emit Found();
+    } else {
+        m_pause.start();
+    }
+}
+
+void CSystemBus::WatchForLoss()
+{
+    // Comes when the answers to all calls that were under way have come.
+    m_connection.connect(QString(), QLatin1String("/org/freedesktop/DBus/Local"),
+                         QLatin1String("org.freedesktop.DBus.Local"), QLatin1String("Disconnected"), &m_pause,
+                         SLOT(start()));
+    if (!m_connection.isConnected()) {
+        m_pause.start();
+    }
+}
