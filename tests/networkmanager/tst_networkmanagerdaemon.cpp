@@ -1,27 +1,24 @@
+#include "DashboardSession.h"
 #include "Namespace.h"
 #include "NetworkManagerDaemon.h"
 #include "PrivateBus.h"
 
 #include <NetworkManagerResult.h>
-#include <TemporaryDirectory.h>
 
-#include <DashboardLanguage.h>
-#include <HostControl.h>
 #include <IPriorityPlugin.h>
 #include <IWLANUIPlugin.h>
-#include <MainWindow.h>
-#include <PluginHost.h>
 #include <PluginObjects.h>
-#include <TraceLog.h>
 #include <UserActions.h>
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
 #include <QElapsedTimer>
-#include <QLineEdit>
+#include <QLabel>
 #include <QPushButton>
 #include <QTableWidget>
+#include <QTimer>
 #include <QtTest>
 
 namespace
@@ -29,14 +26,8 @@ namespace
 
 QString whyNoNamespace;
 
-QByteArray ListOf(const QStringList &names)
-{
-    QByteArray items;
-    for (int i = 0; i < names.size(); ++i) {
-        items += "<item name=\"" + names.at(i).toUtf8() + "\" type=\"1\"/>";
-    }
-    return "<zeltdoc><profile>" + items + "</profile></zeltdoc>";
-}
+/** How long an operation may hold up its caller, and what a slow machine takes longer. */
+const int mostMilliseconds = 4000;
 
 /** What nmcli tells of one profile, its keys included. */
 QString Told(const QString &name, const QString &fields)
@@ -93,28 +84,29 @@ private slots:
     void ProfileMadeInTheDialogAppearsInNmcli();
     void NothingButThePriorityIsWritten();
     void KilledNetworkManagerIsToldAndTheNextOneUsed();
+    void AddDialogOutlivesAKilledNetworkManager();
+    void NewDialogOutlivesAKilledNetworkManager();
+    void NewDialogStoresInTheNetworkManagerThatCameBack();
+    void NewDialogWithoutNetworkManagerTellsWhatIsMissing();
+    void NewDialogDoesNotWaitLongForASilentNetworkManager();
     void FrozenNetworkManagerIsNotWaitedForLong();
-    void FiveHundredProfilesAreAllTold();
+    void FiveHundredProfilesAreAllOffered();
 
 private:
-    void SetList(const QStringList &names)
-    {
-        m_user->Write("priority-dashboard/Priority.xml", ListOf(names));
-    }
+    void SetList(const QStringList &names) { m_dashboard->SetList(names); }
     static IWLANUIPlugin *Wlan() { return PluginObjects::Wlan(); }
     /** -1 when they can't be told. */
     static int RememberedCount();
-    template <typename Widget> Widget *Find(const char *name) { return m_window->findChild<Widget *>(name); }
-    void OpenSettings();
-    void Fill(const char *name, const QString &text);
+    template <typename Widget> Widget *Find(const char *name) { return m_dashboard->Find<Widget>(name); }
+    /** What the Add dialog offers, from its top. */
+    QStringList Offered();
+    /** A network with a key, in the New dialog. */
+    void FillNewDialog(const QString &name);
+    bool IsVisible(const char *name) { return Find<QWidget>(name) && Find<QWidget>(name)->isVisible(); }
 
-    QScopedPointer<TemporaryDirectory> m_user;
     QScopedPointer<PrivateBus> m_bus;
     QScopedPointer<NetworkManagerDaemon> m_daemon;
-    QScopedPointer<TraceLog> m_log;
-    QScopedPointer<PluginHost> m_plugins;
-    QScopedPointer<DashboardLanguage> m_language;
-    QScopedPointer<MainWindow> m_window;
+    QScopedPointer<DashboardSession> m_dashboard;
 };
 
 void tst_networkmanagerdaemon::initTestCase()
@@ -128,38 +120,23 @@ void tst_networkmanagerdaemon::initTestCase()
     if (!m_daemon->Start()) {
         QSKIP(qPrintable(m_daemon->WhyNot()));
     }
-    m_user.reset(new TemporaryDirectory);
-    qputenv("XDG_DATA_HOME", m_user->Path().toLocal8Bit());
-    QVERIFY(QDir().mkpath(m_user->FilePath("priority-dashboard")));
-    HostControl::SetPluginLibraryPath(BUILD_DIRECTORY);
-    HostControl::SetLanguageDirectory(QLatin1String(BUILD_DIRECTORY "/share/priority-dashboard/languages"));
-    QVERIFY(DashboardLanguage::Apply("en"));
-    m_log.reset(new TraceLog(m_user->FilePath("dashboard.log")));
-    m_plugins.reset(new PluginHost(BUILD_DIRECTORY, PluginHost::KnownPlugins(WlanAutomatic)));
-    m_plugins->Load();
-    QCOMPARE(m_plugins->Plugins().at(0).state, PluginReady);
-    QCOMPARE(m_plugins->Plugins().at(1).known.folder, QString("WLANNetworkManager"));
-    QCOMPARE(m_plugins->Plugins().at(1).state, PluginReady);
-    QCOMPARE(m_plugins->Plugins().at(2).state, PluginNotNeeded);
+    m_dashboard.reset(new DashboardSession);
+    m_dashboard->VerifyPlugins();
 }
 
 void tst_networkmanagerdaemon::cleanupTestCase()
 {
-    if (m_plugins) {
-        m_plugins->Shutdown();
-    }
+    m_dashboard.reset();
 }
 
 void tst_networkmanagerdaemon::init()
 {
-    m_language.reset(new DashboardLanguage(m_plugins.data(), nullptr));
-    m_window.reset(new MainWindow(m_plugins.data(), m_language.data(), m_log.data()));
-    m_window->show();
+    m_dashboard->OpenWindow();
 }
 
 void tst_networkmanagerdaemon::cleanup()
 {
-    m_window.reset();
+    m_dashboard->CloseWindow();
     SetList(QStringList());
     m_daemon->RemoveProfiles();
     QTRY_COMPARE(NetworkManagerDaemon::Priorities(), QStringList());
@@ -171,19 +148,23 @@ int tst_networkmanagerdaemon::RememberedCount()
     return Wlan()->GetRememberedList(&list) == 0 ? list.size() : -1;
 }
 
-void tst_networkmanagerdaemon::OpenSettings()
+QStringList tst_networkmanagerdaemon::Offered()
 {
-    m_window->OpenSettings();
-    QTRY_VERIFY(Find<QTableWidget>("priorityTable") && Find<QTableWidget>("priorityTable")->isVisible());
+    QTableWidget *table = Find<QTableWidget>("rememberTable");
+    QStringList names;
+    for (int row = 0; row < table->rowCount(); ++row) {
+        names.append(table->cellWidget(row, 0)->findChild<QLabel *>("rowName")->text());
+    }
+    return names;
 }
 
-void tst_networkmanagerdaemon::Fill(const char *name, const QString &text)
+void tst_networkmanagerdaemon::FillNewDialog(const QString &name)
 {
-    QWidget *field = Find<QWidget>(name);
-    QVERIFY2(field, name);
-    QCOMPARE(UserActions::Click(field), QString());
-    QCOMPARE(UserActions::PressKey(Qt::Key_A, field, Qt::ControlModifier), QString());
-    QCOMPARE(UserActions::TypeText(text, field), QString());
+    QComboBox *authentication = Find<QComboBox>("authenticationBox");
+    m_dashboard->Fill("networkNameBox", name);
+    authentication->setCurrentIndex(authentication->findText("WPA2PSK"));
+    m_dashboard->Fill("keyEdit", "sea-and-sand");
+    m_dashboard->Fill("confirmKeyEdit", "sea-and-sand");
 }
 
 void tst_networkmanagerdaemon::ProfilesHaveTheirSecurity_data()
@@ -268,13 +249,13 @@ void tst_networkmanagerdaemon::MovingAnEntryOnThePageChangesWhatNmcliPrints()
     QTRY_COMPARE(NetworkManagerDaemon::Priorities(), QStringList() << "A:999"
                                                                    << "B:998"
                                                                    << "C:0");
-    OpenSettings();
+    m_dashboard->OpenSettings();
     QCOMPARE(UserActions::ClickRow(Find<QTableWidget>("priorityTable"), 1), QString());
-    QCOMPARE(UserActions::Click(Find<QPushButton>("upButton")), QString());
+    QCOMPARE(m_dashboard->Click("upButton"), QString());
     QTRY_COMPARE(NetworkManagerDaemon::Priorities(), QStringList() << "A:998"
                                                                    << "B:999"
                                                                    << "C:0");
-    QCOMPARE(UserActions::Click(Find<QPushButton>("downButton")), QString());
+    QCOMPARE(m_dashboard->Click("downButton"), QString());
     QTRY_COMPARE(NetworkManagerDaemon::Priorities(), QStringList() << "A:999"
                                                                    << "B:998"
                                                                    << "C:0");
@@ -282,28 +263,23 @@ void tst_networkmanagerdaemon::MovingAnEntryOnThePageChangesWhatNmcliPrints()
 
 void tst_networkmanagerdaemon::ProfileMadeInTheDialogAppearsInNmcli()
 {
-    OpenSettings();
-    QCOMPARE(UserActions::Click(Find<QPushButton>("newButton")), QString());
-    QTRY_VERIFY(Find<QWidget>("networkNameBox") && Find<QWidget>("networkNameBox")->isVisible());
-    QComboBox *authentication = Find<QComboBox>("authenticationBox");
-    QCOMPARE(authentication->count(), 6);
-    Fill("networkNameBox", "Summer house");
-    authentication->setCurrentIndex(authentication->findText("WPA2PSK"));
-    Fill("keyEdit", "sea-and-sand");
-    Fill("confirmKeyEdit", "sea-and-sand");
-    QCOMPARE(UserActions::Click(Find<QPushButton>("newOkButton")), QString());
+    m_dashboard->OpenSettings();
+    m_dashboard->OpenDialog("newButton", "networkNameBox");
+    QCOMPARE(Find<QComboBox>("authenticationBox")->count(), 6);
+    FillNewDialog("Summer house");
+    QCOMPARE(m_dashboard->Click("newOkButton"), QString());
     QTRY_COMPARE(NetworkManagerDaemon::Priorities(), QStringList("Summer house:999"));
     const QString security = "802-11-wireless-security.";
     QCOMPARE(Told("Summer house", security + "key-mgmt," + security + "pairwise," + security + "psk"),
              QString("wpa-psk\nccmp\nsea-and-sand"));
     QVERIFY(m_daemon->Keyfile("Summer house").contains("psk=sea-and-sand"));
     const QStringList files =
-        QDir(m_user->FilePath("priority-dashboard")).entryList(QDir::Files | QDir::Hidden);
+        QDir(m_dashboard->User().FilePath("priority-dashboard")).entryList(QDir::Files | QDir::Hidden);
     QVERIFY(files.contains("Priority.xml"));
     for (int i = 0; i < files.size(); ++i) {
-        QVERIFY(!m_user->Read("priority-dashboard/" + files.at(i)).contains("sea-and-sand"));
+        QVERIFY(!m_dashboard->User().Read("priority-dashboard/" + files.at(i)).contains("sea-and-sand"));
     }
-    QVERIFY(!m_user->Read("dashboard.log").contains("sea-and-sand"));
+    QVERIFY(!m_dashboard->Log().contains("sea-and-sand"));
 }
 
 void tst_networkmanagerdaemon::NothingButThePriorityIsWritten()
@@ -329,7 +305,7 @@ void tst_networkmanagerdaemon::NothingButThePriorityIsWritten()
 void tst_networkmanagerdaemon::KilledNetworkManagerIsToldAndTheNextOneUsed()
 {
     QVERIFY(NetworkManagerDaemon::Add("A"));
-    OpenSettings();
+    m_dashboard->OpenSettings();
     m_daemon->Kill();
     QList<RememberedList> list;
     QCOMPARE(Wlan()->GetRememberedList(&list), int(NetworkManagerResultNotRunning));
@@ -346,6 +322,116 @@ void tst_networkmanagerdaemon::KilledNetworkManagerIsToldAndTheNextOneUsed()
     QCOMPARE(list.size(), 1);
 }
 
+void tst_networkmanagerdaemon::AddDialogOutlivesAKilledNetworkManager()
+{
+    QVERIFY(NetworkManagerDaemon::Add("A"));
+    QVERIFY(NetworkManagerDaemon::Add("B"));
+    m_dashboard->OpenSettings();
+    m_dashboard->OpenDialog("addButton", "rememberTable");
+    QCOMPARE(Offered(), QStringList() << "A"
+                                      << "B");
+    m_daemon->Kill();
+    QCOMPARE(UserActions::Click(Find<QWidget>("rowCheckBox")), QString());
+    QCOMPARE(m_dashboard->Click("addOkButton"), QString());
+    QVERIFY(!IsVisible("rememberTable"));
+    QCOMPARE(Find<QTableWidget>("priorityTable")->rowCount(), 1);
+
+    m_dashboard->OpenDialog("addButton", "rememberTable");
+    QCOMPARE(Offered(), QStringList());
+    QVERIFY2(m_daemon->Start(), qPrintable(m_daemon->WhyNot()));
+    QCOMPARE(m_dashboard->Click("addCancelButton"), QString());
+    QTRY_COMPARE(NetworkManagerDaemon::Priorities(), QStringList() << "A:999"
+                                                                   << "B:0");
+    m_dashboard->OpenDialog("addButton", "rememberTable");
+    QCOMPARE(Offered(), QStringList("B"));
+    QCOMPARE(UserActions::Click(Find<QWidget>("rowCheckBox")), QString());
+    QCOMPARE(m_dashboard->Click("addOkButton"), QString());
+    QTRY_COMPARE(NetworkManagerDaemon::Priorities(), QStringList() << "A:999"
+                                                                   << "B:998");
+}
+
+void tst_networkmanagerdaemon::NewDialogOutlivesAKilledNetworkManager()
+{
+    m_dashboard->OpenSettings();
+    m_dashboard->OpenDialog("newButton", "networkNameBox");
+    FillNewDialog("Summer house");
+    m_daemon->Kill();
+    QCOMPARE(m_dashboard->Click("newOkButton"), QString());
+    // The list may hold what nobody remembers; the log tells why it doesn't.
+    QVERIFY(!IsVisible("networkNameBox"));
+    QCOMPARE(Find<QTableWidget>("priorityTable")->rowCount(), 1);
+    QVERIFY(
+        m_dashboard->Log().contains("WLANNetworkManager: CreateWLANProfile: NetworkManager is not running"));
+
+    QVERIFY2(m_daemon->Start(), qPrintable(m_daemon->WhyNot()));
+    m_dashboard->OpenDialog("newButton", "networkNameBox");
+    FillNewDialog("Harbour");
+    QCOMPARE(m_dashboard->Click("newOkButton"), QString());
+    QTRY_COMPARE(NetworkManagerDaemon::Priorities(), QStringList("Harbour:998"));
+    QVERIFY(!m_dashboard->Log().contains("sea-and-sand"));
+}
+
+void tst_networkmanagerdaemon::NewDialogStoresInTheNetworkManagerThatCameBack()
+{
+    m_dashboard->OpenSettings();
+    m_dashboard->OpenDialog("newButton", "networkNameBox");
+    m_daemon->Kill();
+    FillNewDialog("Summer house");
+    QVERIFY2(m_daemon->Start(), qPrintable(m_daemon->WhyNot()));
+    QCOMPARE(m_dashboard->Click("newOkButton"), QString());
+    QVERIFY(!IsVisible("networkNameBox"));
+    QTRY_COMPARE(NetworkManagerDaemon::Priorities(), QStringList("Summer house:999"));
+}
+
+void tst_networkmanagerdaemon::NewDialogWithoutNetworkManagerTellsWhatIsMissing()
+{
+    m_dashboard->OpenSettings();
+    m_daemon->Kill();
+    m_dashboard->OpenDialog("newButton", "networkNameBox");
+    QCOMPARE(Find<QComboBox>("authenticationBox")->count(), 0);
+    m_dashboard->Fill("networkNameBox", "Summer house");
+    QStringList notices;
+    QTimer answer;
+    QObject::connect(&answer, &QTimer::timeout, [&notices] {
+        QWidget *notice = QApplication::activeModalWidget();
+        if (notice && notice->objectName() == "messageBox") {
+            notices.append(notice->findChild<QLabel *>("messageText")->text());
+            notice->close();
+        }
+    });
+    answer.start(50);
+    QCOMPARE(m_dashboard->Click("newOkButton"), QString());
+    QCOMPARE(notices, QStringList("Choose a security method."));
+    QVERIFY(IsVisible("networkNameBox"));
+    QCOMPARE(m_dashboard->Click("newCancelButton"), QString());
+    QCOMPARE(Find<QTableWidget>("priorityTable")->rowCount(), 0);
+
+    QVERIFY2(m_daemon->Start(), qPrintable(m_daemon->WhyNot()));
+    m_dashboard->OpenDialog("newButton", "networkNameBox");
+    QCOMPARE(Find<QComboBox>("authenticationBox")->count(), 6);
+}
+
+void tst_networkmanagerdaemon::NewDialogDoesNotWaitLongForASilentNetworkManager()
+{
+    m_dashboard->OpenSettings();
+    m_dashboard->OpenDialog("newButton", "networkNameBox");
+    FillNewDialog("Summer house");
+    m_daemon->Freeze();
+    QElapsedTimer timer;
+    timer.start();
+    QCOMPARE(m_dashboard->Click("newOkButton"), QString());
+    QVERIFY2(timer.elapsed() < mostMilliseconds, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY(!IsVisible("networkNameBox"));
+    timer.start();
+    m_dashboard->OpenDialog("newButton", "networkNameBox");
+    QVERIFY2(timer.elapsed() < mostMilliseconds, qPrintable(QString::number(timer.elapsed())));
+    QCOMPARE(m_dashboard->Click("newCancelButton"), QString());
+    QVERIFY(
+        m_dashboard->Log().contains("WLANNetworkManager: CreateWLANProfile: NetworkManager does not answer"));
+    m_daemon->Thaw();
+    QTRY_COMPARE(RememberedCount(), 0);
+}
+
 void tst_networkmanagerdaemon::FrozenNetworkManagerIsNotWaitedForLong()
 {
     QVERIFY(NetworkManagerDaemon::Add("A"));
@@ -354,19 +440,21 @@ void tst_networkmanagerdaemon::FrozenNetworkManagerIsNotWaitedForLong()
     timer.start();
     QList<RememberedList> list;
     QCOMPARE(Wlan()->GetRememberedList(&list), int(NetworkManagerResultNotAnswering));
-    QVERIFY2(timer.elapsed() < 4000, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY2(timer.elapsed() < mostMilliseconds, qPrintable(QString::number(timer.elapsed())));
     m_daemon->Thaw();
     QTRY_COMPARE(RememberedCount(), 1);
 }
 
-void tst_networkmanagerdaemon::FiveHundredProfilesAreAllTold()
+void tst_networkmanagerdaemon::FiveHundredProfilesAreAllOffered()
 {
     const int count = 500;
+    QStringList expected;
     for (int i = 0; i < count; ++i) {
         const QByteArray number = QByteArray::number(i).rightJustified(3, '0');
         m_daemon->WriteKeyfile("many-" + number, "[connection]\nid=many-" + number +
                                                      "\nuuid=00000000-0000-4000-8000-000000000" + number +
                                                      "\ntype=wifi\n[wifi]\nssid=many\n");
+        expected.append("many-" + number);
     }
     NetworkManagerDaemon::Nmcli(QStringList() << "connection"
                                               << "reload");
@@ -376,6 +464,22 @@ void tst_networkmanagerdaemon::FiveHundredProfilesAreAllTold()
     QCOMPARE(Wlan()->GetRememberedList(&list), 0);
     QCOMPARE(list.size(), count);
     qInfo("%d profiles are listed in %d ms", count, static_cast<int>(timer.elapsed()));
+
+    m_dashboard->OpenSettings();
+    m_dashboard->OpenDialog("addButton", "rememberTable");
+    QCOMPARE(Offered(), expected);
+    QTableWidget *table = Find<QTableWidget>("rememberTable");
+    table->scrollToBottom();
+    QCOMPARE(UserActions::Click(table->cellWidget(count - 1, 0)->findChild<QCheckBox *>("rowCheckBox")),
+             QString());
+    QCOMPARE(m_dashboard->Click("addOkButton"), QString());
+    QCOMPARE(Find<QTableWidget>("priorityTable")->rowCount(), 1);
+    // From the disk, as nmcli itself leaves many out when there are more than the bus lets it ask for at
+    // once.
+    QTRY_VERIFY(m_daemon->Keyfile("many-499").contains("autoconnect-priority=999"));
+    for (int i = 0; i < count - 1; ++i) {
+        QVERIFY(!m_daemon->Keyfile(expected.at(i)).contains("autoconnect-priority"));
+    }
 }
 
 int main(int argc, char **argv)

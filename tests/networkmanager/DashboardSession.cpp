@@ -1,0 +1,87 @@
+#include "DashboardSession.h"
+
+#include <DashboardLanguage.h>
+#include <HostControl.h>
+#include <PluginHost.h>
+#include <TraceLog.h>
+#include <UserActions.h>
+
+#include <QDir>
+#include <QTableWidget>
+#include <QtTest>
+
+DashboardSession::DashboardSession()
+{
+    qputenv("XDG_DATA_HOME", m_user.Path().toLocal8Bit());
+    QDir().mkpath(m_user.FilePath("priority-dashboard"));
+    HostControl::SetPluginLibraryPath(BUILD_DIRECTORY);
+    HostControl::SetLanguageDirectory(QLatin1String(BUILD_DIRECTORY "/share/priority-dashboard/languages"));
+    if (!DashboardLanguage::Apply("en")) {
+        qFatal("the dashboard has no texts");
+    }
+    m_log.reset(new TraceLog(m_user.FilePath("dashboard.log")));
+    m_plugins.reset(new PluginHost(BUILD_DIRECTORY, PluginHost::KnownPlugins(WlanAutomatic)));
+    m_plugins->Load();
+}
+
+DashboardSession::~DashboardSession()
+{
+    m_window.reset();
+    m_plugins->Shutdown();
+}
+
+void DashboardSession::VerifyPlugins() const
+{
+    QCOMPARE(m_plugins->Plugins().at(0).state, PluginReady);
+    QCOMPARE(m_plugins->Plugins().at(1).known.folder, QString("WLANNetworkManager"));
+    QCOMPARE(m_plugins->Plugins().at(1).state, PluginReady);
+    QCOMPARE(m_plugins->Plugins().at(2).state, PluginNotNeeded);
+}
+
+void DashboardSession::OpenWindow()
+{
+    m_language.reset(new DashboardLanguage(m_plugins.data(), nullptr));
+    m_window.reset(new MainWindow(m_plugins.data(), m_language.data(), m_log.data()));
+    m_window->show();
+}
+
+void DashboardSession::CloseWindow()
+{
+    m_window.reset();
+}
+
+void DashboardSession::OpenSettings()
+{
+    m_window->OpenSettings();
+    QTRY_VERIFY(Find<QTableWidget>("priorityTable") && Find<QTableWidget>("priorityTable")->isVisible());
+}
+
+void DashboardSession::OpenDialog(const char *button, const char *body)
+{
+    QCOMPARE(Click(button), QString());
+    QTRY_VERIFY(Find<QWidget>(body) && Find<QWidget>(body)->isVisible());
+}
+
+void DashboardSession::Fill(const char *name, const QString &text)
+{
+    QWidget *field = Find<QWidget>(name);
+    QVERIFY2(field, name);
+    QCOMPARE(UserActions::Click(field), QString());
+    QCOMPARE(UserActions::PressKey(Qt::Key_A, field, Qt::ControlModifier), QString());
+    QCOMPARE(UserActions::TypeText(text, field), QString());
+}
+
+QString DashboardSession::Click(const char *name)
+{
+    QWidget *widget = Find<QWidget>(name);
+    return widget ? UserActions::Click(widget) : QString("there is no %1").arg(name);
+}
+
+void DashboardSession::SetList(const QStringList &names) const
+{
+    QByteArray items;
+    for (int i = 0; i < names.size(); ++i) {
+        items += "<item name=\"" + names.at(i).toUtf8() + "\" type=\"1\"/>";
+    }
+    m_user.Write("priority-dashboard/Priority.xml", "<zeltdoc><profile>" + items + "</profile></zeltdoc>");
+}

@@ -1,0 +1,53 @@
+#ifndef DASHBOARDSESSION_H
+#define DASHBOARDSESSION_H
+
+#include <TemporaryDirectory.h>
+
+#include <MainWindow.h>
+
+#include <QScopedPointer>
+#include <QStringList>
+
+class DashboardLanguage;
+class PluginHost;
+class TraceLog;
+
+/** The dashboard as its program has it, with a user of its own, over the NetworkManager of the private bus.
+ */
+class DashboardSession
+{
+public:
+    /** NetworkManager is on the bus. */
+    DashboardSession();
+    ~DashboardSession();
+
+    /** Fails the test that calls when a plug-in is not as the dashboard should have it. */
+    void VerifyPlugins() const;
+
+    void OpenWindow();
+    void CloseWindow();
+    template <typename Widget> Widget *Find(const char *name) { return m_window->findChild<Widget *>(name); }
+
+    /** The settings dialog with the list. */
+    void OpenSettings();
+    /** One of the two dialogs behind the page's buttons; body is the name of what it shows. */
+    void OpenDialog(const char *button, const char *body);
+    void Fill(const char *name, const QString &text);
+    /** Empty, or why a user couldn't click there. */
+    QString Click(const char *name);
+
+    void SetList(const QStringList &names) const;
+    const TemporaryDirectory &User() const { return m_user; }
+    QByteArray Log() const { return m_user.Read("dashboard.log"); }
+
+private:
+    Q_DISABLE_COPY(DashboardSession)
+
+    TemporaryDirectory m_user;
+    QScopedPointer<TraceLog> m_log;
+    QScopedPointer<PluginHost> m_plugins;
+    QScopedPointer<DashboardLanguage> m_language;
+    QScopedPointer<MainWindow> m_window;
+};
+
+#endif
