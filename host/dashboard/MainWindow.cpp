@@ -30,6 +30,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QStackedWidget>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -201,6 +202,9 @@ void MainWindow::CreateLanguageActions()
         m_languageActions->addAction(action);
     }
     connect(m_languageActions, SIGNAL(triggered(QAction *)), this, SLOT(ChooseLanguage(QAction *)));
+    // The menu's mnemonic is a letter of the language, which another keyboard may not have.
+    const QShortcut *shortcut = new QShortcut(QKeySequence(QLatin1String("Ctrl+L")), this);
+    connect(shortcut, SIGNAL(activated()), this, SLOT(OpenLanguageMenu()));
 }
 
 QWidget *MainWindow::CreateHead()
@@ -455,6 +459,15 @@ void MainWindow::ShowList()
     m_body->setCurrentWidget(m_list);
     m_list->setCurrentRow(qMin(current, m_list->count() - 1));
     m_list->verticalScrollBar()->setValue(scrolledTo);
+}
+
+void MainWindow::OpenLanguageMenu()
+{
+    const QRect button(m_languageButton->mapToGlobal(QPoint()), m_languageButton->size());
+    const int beginning =
+        isRightToLeft() ? button.right() + 1 - m_languageMenu->sizeHint().width() : button.left();
+    m_languageMenu->popup(QPoint(beginning, button.bottom() + 1));
+    m_languageMenu->setActiveAction(m_languageActions->checkedAction());
 }
 
 void MainWindow::ChooseLanguage(QAction *action)

@@ -46,6 +46,7 @@ private slots:
     void Retranslate();
     void FollowHistory();
     void FollowRange();
+    void OpenLanguageMenu();
     void ChooseLanguage(QAction *action);
     void ChooseAppearance(QAction *action);
     void SettingsClosed();

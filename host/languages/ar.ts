@@ -17,23 +17,23 @@
     </message>
     <message>
         <source>IDS_PROFILE_UP</source>
-        <translation>لأعلى</translation>
+        <translation>&amp;لأعلى</translation>
     </message>
     <message>
         <source>IDS_PROFILE_DOWN</source>
-        <translation>لأسفل</translation>
+        <translation>لأ&amp;سفل</translation>
     </message>
     <message>
         <source>IDS_PROFILE_ADD</source>
-        <translation>إضافة</translation>
+        <translation>إ&amp;ضافة</translation>
     </message>
     <message>
         <source>IDS_PROFILE_DELETE</source>
-        <translation>إزالة</translation>
+        <translation>إ&amp;زالة</translation>
     </message>
     <message>
         <source>IDS_PROFILE_NEW</source>
-        <translation>جديدة</translation>
+        <translation>&amp;جديدة</translation>
     </message>
     <message>
         <source>IDS_PROFILE_ADD_TITLE</source>

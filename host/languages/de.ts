@@ -17,23 +17,23 @@
     </message>
     <message>
         <source>IDS_PROFILE_UP</source>
-        <translation>Aufwärts</translation>
+        <translation>&amp;Aufwärts</translation>
     </message>
     <message>
         <source>IDS_PROFILE_DOWN</source>
-        <translation>Abwärts</translation>
+        <translation>A&amp;bwärts</translation>
     </message>
     <message>
         <source>IDS_PROFILE_ADD</source>
-        <translation>Hinzufügen</translation>
+        <translation>&amp;Hinzufügen</translation>
     </message>
     <message>
         <source>IDS_PROFILE_DELETE</source>
-        <translation>Entfernen</translation>
+        <translation>&amp;Entfernen</translation>
     </message>
     <message>
         <source>IDS_PROFILE_NEW</source>
-        <translation>Neu</translation>
+        <translation>&amp;Neu</translation>
     </message>
     <message>
         <source>IDS_PROFILE_ADD_TITLE</source>

@@ -21,27 +21,27 @@
     <message>
         <source>IDS_PROFILE_UP</source>
         <extracomment>Button, 100 pixels wide at most: moves the selected network up</extracomment>
-        <translation>Up</translation>
+        <translation>&amp;Up</translation>
     </message>
     <message>
         <source>IDS_PROFILE_DOWN</source>
         <extracomment>Button, 100 pixels wide at most: moves the selected network down</extracomment>
-        <translation>Down</translation>
+        <translation>&amp;Down</translation>
     </message>
     <message>
         <source>IDS_PROFILE_ADD</source>
         <extracomment>Button, 100 pixels wide at most: adds networks that the computer remembers</extracomment>
-        <translation>Add</translation>
+        <translation>&amp;Add</translation>
     </message>
     <message>
         <source>IDS_PROFILE_DELETE</source>
         <extracomment>Button, 100 pixels wide at most: takes the selected network out of the list</extracomment>
-        <translation>Delete</translation>
+        <translation>De&amp;lete</translation>
     </message>
     <message>
         <source>IDS_PROFILE_NEW</source>
         <extracomment>Button, 100 pixels wide at most: opens the new-network dialog</extracomment>
-        <translation>New</translation>
+        <translation>&amp;New</translation>
     </message>
     <message>
         <source>IDS_PROFILE_ADD_TITLE</source>

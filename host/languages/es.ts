@@ -17,23 +17,23 @@
     </message>
     <message>
         <source>IDS_PROFILE_UP</source>
-        <translation>Subir</translation>
+        <translation>&amp;Subir</translation>
     </message>
     <message>
         <source>IDS_PROFILE_DOWN</source>
-        <translation>Bajar</translation>
+        <translation>&amp;Bajar</translation>
     </message>
     <message>
         <source>IDS_PROFILE_ADD</source>
-        <translation>Añadir</translation>
+        <translation>&amp;Añadir</translation>
     </message>
     <message>
         <source>IDS_PROFILE_DELETE</source>
-        <translation>Quitar</translation>
+        <translation>&amp;Quitar</translation>
     </message>
     <message>
         <source>IDS_PROFILE_NEW</source>
-        <translation>Nueva</translation>
+        <translation>&amp;Nueva</translation>
     </message>
     <message>
         <source>IDS_PROFILE_ADD_TITLE</source>

@@ -17,23 +17,23 @@
     </message>
     <message>
         <source>IDS_PROFILE_UP</source>
-        <translation>Monter</translation>
+        <translation>&amp;Monter</translation>
     </message>
     <message>
         <source>IDS_PROFILE_DOWN</source>
-        <translation>Descendre</translation>
+        <translation>&amp;Descendre</translation>
     </message>
     <message>
         <source>IDS_PROFILE_ADD</source>
-        <translation>Ajouter</translation>
+        <translation>&amp;Ajouter</translation>
     </message>
     <message>
         <source>IDS_PROFILE_DELETE</source>
-        <translation>Retirer</translation>
+        <translation>&amp;Retirer</translation>
     </message>
     <message>
         <source>IDS_PROFILE_NEW</source>
-        <translation>Nouveau</translation>
+        <translation>&amp;Nouveau</translation>
     </message>
     <message>
         <source>IDS_PROFILE_ADD_TITLE</source>

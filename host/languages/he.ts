@@ -17,23 +17,23 @@
     </message>
     <message>
         <source>IDS_PROFILE_UP</source>
-        <translation>למעלה</translation>
+        <translation>למ&amp;עלה</translation>
     </message>
     <message>
         <source>IDS_PROFILE_DOWN</source>
-        <translation>למטה</translation>
+        <translation>למ&amp;טה</translation>
     </message>
     <message>
         <source>IDS_PROFILE_ADD</source>
-        <translation>הוספה</translation>
+        <translation>&amp;הוספה</translation>
     </message>
     <message>
         <source>IDS_PROFILE_DELETE</source>
-        <translation>הסרה</translation>
+        <translation>ה&amp;סרה</translation>
     </message>
     <message>
         <source>IDS_PROFILE_NEW</source>
-        <translation>חדשה</translation>
+        <translation>&amp;חדשה</translation>
     </message>
     <message>
         <source>IDS_PROFILE_ADD_TITLE</source>

@@ -17,23 +17,23 @@
     </message>
     <message>
         <source>IDS_PROFILE_UP</source>
-        <translation>上へ</translation>
+        <translation>上へ(&amp;U)</translation>
     </message>
     <message>
         <source>IDS_PROFILE_DOWN</source>
-        <translation>下へ</translation>
+        <translation>下へ(&amp;D)</translation>
     </message>
     <message>
         <source>IDS_PROFILE_ADD</source>
-        <translation>追加</translation>
+        <translation>追加(&amp;A)</translation>
     </message>
     <message>
         <source>IDS_PROFILE_DELETE</source>
-        <translation>削除</translation>
+        <translation>削除(&amp;L)</translation>
     </message>
     <message>
         <source>IDS_PROFILE_NEW</source>
-        <translation>新規</translation>
+        <translation>新規(&amp;N)</translation>
     </message>
     <message>
         <source>IDS_PROFILE_ADD_TITLE</source>

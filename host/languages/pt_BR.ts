@@ -17,23 +17,23 @@
     </message>
     <message>
         <source>IDS_PROFILE_UP</source>
-        <translation>Subir</translation>
+        <translation>&amp;Subir</translation>
     </message>
     <message>
         <source>IDS_PROFILE_DOWN</source>
-        <translation>Descer</translation>
+        <translation>&amp;Descer</translation>
     </message>
     <message>
         <source>IDS_PROFILE_ADD</source>
-        <translation>Adicionar</translation>
+        <translation>&amp;Adicionar</translation>
     </message>
     <message>
         <source>IDS_PROFILE_DELETE</source>
-        <translation>Remover</translation>
+        <translation>&amp;Remover</translation>
     </message>
     <message>
         <source>IDS_PROFILE_NEW</source>
-        <translation>Nova</translation>
+        <translation>&amp;Nova</translation>
     </message>
     <message>
         <source>IDS_PROFILE_ADD_TITLE</source>

@@ -17,23 +17,23 @@
     </message>
     <message>
         <source>IDS_PROFILE_UP</source>
-        <translation>Вверх</translation>
+        <translation>&amp;Вверх</translation>
     </message>
     <message>
         <source>IDS_PROFILE_DOWN</source>
-        <translation>Вниз</translation>
+        <translation>В&amp;низ</translation>
     </message>
     <message>
         <source>IDS_PROFILE_ADD</source>
-        <translation>Добавить</translation>
+        <translation>&amp;Добавить</translation>
     </message>
     <message>
         <source>IDS_PROFILE_DELETE</source>
-        <translation>Удалить</translation>
+        <translation>&amp;Удалить</translation>
     </message>
     <message>
         <source>IDS_PROFILE_NEW</source>
-        <translation>Создать</translation>
+        <translation>&amp;Создать</translation>
     </message>
     <message>
         <source>IDS_PROFILE_ADD_TITLE</source>

@@ -17,23 +17,23 @@
     </message>
     <message>
         <source>IDS_PROFILE_UP</source>
-        <translation>上移</translation>
+        <translation>上移(&amp;U)</translation>
     </message>
     <message>
         <source>IDS_PROFILE_DOWN</source>
-        <translation>下移</translation>
+        <translation>下移(&amp;D)</translation>
     </message>
     <message>
         <source>IDS_PROFILE_ADD</source>
-        <translation>添加</translation>
+        <translation>添加(&amp;A)</translation>
     </message>
     <message>
         <source>IDS_PROFILE_DELETE</source>
-        <translation>移除</translation>
+        <translation>移除(&amp;L)</translation>
     </message>
     <message>
         <source>IDS_PROFILE_NEW</source>
-        <translation>新建</translation>
+        <translation>新建(&amp;N)</translation>
     </message>
     <message>
         <source>IDS_PROFILE_ADD_TITLE</source>

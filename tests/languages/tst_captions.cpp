@@ -205,6 +205,8 @@ private slots:
     void explanationHasThreeLinesAtMost();
     void menusHaveEachMnemonicOnce_data() { fontsHaveTheCharacters_data(); }
     void menusHaveEachMnemonicOnce();
+    void pageHasEachMnemonicOnce_data() { fontsHaveTheCharacters_data(); }
+    void pageHasEachMnemonicOnce();
 
 private:
     Screens m_screens;
@@ -302,6 +304,23 @@ void TestCaptions::menusHaveEachMnemonicOnce()
         }
     });
     QVERIFY2(problems.isEmpty(), problems.join(QLatin1String("\n    ")).toUtf8().constData());
+}
+
+void TestCaptions::pageHasEachMnemonicOnce()
+{
+    QFETCH(QString, language);
+    QStringList keys;
+    m_screens.Show(QLatin1String("settings, priority page"), language, [&keys](const QWidget *window) {
+        foreach (const QAbstractButton *button, window->findChildren<QAbstractButton *>()) {
+            const int ampersand = button->text().indexOf(QLatin1Char('&'));
+            if (ampersand >= 0) {
+                keys.append(button->text().mid(ampersand + 1, 1).toLower());
+            }
+        }
+    });
+    // Up, Down, Add, Delete and New.
+    QCOMPARE(keys.size(), 5);
+    QCOMPARE(keys.removeDuplicates(), 0);
 }
 
 QTEST_MAIN(TestCaptions)
