@@ -112,7 +112,7 @@ void MessageBox::AddText(const char *name, const QString &text)
         label->fontMetrics().boundingRect(QRect(0, 0, widestText, 1), Qt::TextWordWrap, text);
     const int width = qBound(narrowestText, bounds.width() + 2, widestText) + 2 * overhang;
     const int height = qMax(label->heightForWidth(width), label->fontMetrics().height());
-    if (height <= tallestText && bounds.width() + 2 <= widestText) {
+    if (height <= tallestText && bounds.width() <= widestText) {
         label->setFixedSize(width, height);
         m_textColumn->addWidget(label, 0, Qt::AlignLeft);
         return;
@@ -123,6 +123,7 @@ void MessageBox::AddText(const char *name, const QString &text)
     label->setFixedSize(fullWidth, label->heightForWidth(fullWidth));
     QScrollArea *area = new QScrollArea;
     area->setObjectName(QLatin1String(name) + QLatin1String("Area"));
+    area->setAccessibleName(text);
     area->setFrameStyle(QFrame::NoFrame);
     area->setWidget(label);
     area->viewport()->setAutoFillBackground(false);

@@ -5,7 +5,6 @@
 ActionButton::ActionButton(const char *name, QAction *action) : m_action(action)
 {
     setObjectName(QLatin1String(name));
-    setAutoDefault(false);
     addAction(action);
     connect(this, SIGNAL(clicked()), action, SLOT(trigger()));
     connect(action, SIGNAL(changed()), this, SLOT(Follow()));

@@ -58,6 +58,7 @@ ConnectDialog::ConnectDialog(QWidget *parent)
     layout->addWidget(m_problem);
     layout->addWidget(CreateButtons());
     AddMainWidget(content);
+    m_okButton->setDefault(true);
     setFixedSize(dialogWidth, dialogHeight);
 
     ListNetworks();

@@ -95,8 +95,6 @@ QWidget *DialogParts::ButtonBar(const char *name, QPushButton *accept, QPushButt
 {
     QWidget *bar = new QWidget;
     bar->setObjectName(QLatin1String(name));
-    accept->setDefault(true);
-    reject->setAutoDefault(false);
     QHBoxLayout *row = new QHBoxLayout(bar);
     row->setContentsMargins(0, 0, 0, 0);
     row->addStretch();

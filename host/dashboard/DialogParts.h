@@ -27,7 +27,8 @@ void SetHeader(QTableWidget *table, int column, const QString &text, Qt::Alignme
 /** Puts text into a cell, with a tool tip that has all of it; line breaks become blanks. */
 void SetCell(QTableWidget *table, int row, int column, const QString &text);
 
-/** The two buttons at the end of a dialog; accept is what Return presses. */
+/** The two buttons at the end of a dialog. Once it is in the dialog, accept can be made what Return presses.
+ */
 QWidget *ButtonBar(const char *name, QPushButton *accept, QPushButton *reject);
 
 } // namespace DialogParts

@@ -83,6 +83,7 @@ ImportDialog::ImportDialog(ListKeeper *keeper, const QList<PriorityList> &entrie
     layout->addWidget(m_problem);
     layout->addWidget(DialogParts::ButtonBar("importButtonBar", m_okButton, m_cancelButton));
     AddMainWidget(content);
+    m_okButton->setDefault(true);
     setFixedSize(dialogWidth, dialogHeight);
 
     // Others may change the list while it is being looked at.

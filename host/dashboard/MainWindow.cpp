@@ -1,5 +1,6 @@
 #include "MainWindow.h"
 
+#include "AccessibleRows.h"
 #include "Appearance.h"
 #include "ConnectDialog.h"
 #include "DashboardLanguage.h"
@@ -82,6 +83,7 @@ MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLo
       m_rangeTimer(new QTimer(this))
 {
     setObjectName(QLatin1String("mainWindow"));
+    new AccessibleRows(this);
     m_trace = new TracePanel(log, this);
     addDockWidget(Qt::BottomDockWidgetArea, m_trace);
     m_trace->setVisible(Settings::Read(TraceShownKey()).toBool());
@@ -296,6 +298,7 @@ void MainWindow::Retranslate()
     m_quitAction->setText(DashboardText("IDS_ACTION_QUIT"));
     m_connectButton->setText(DashboardText("IDS_BUTTON_CONNECT"));
     m_settingsButton->setText(DashboardText("IDS_BUTTON_SETTINGS"));
+    m_list->setAccessibleName(DashboardText("IDS_PLUGIN_PRIORITY"));
     m_refreshButton->setText(DashboardText("IDS_BUTTON_REFRESH"));
     m_traceButton->setText(DashboardText("IDS_BUTTON_TRACE"));
     m_listActions->Retranslate();
@@ -313,6 +316,7 @@ void MainWindow::Retranslate()
         actions.at(i)->setChecked(actions.at(i)->data().toString() == Change::GetLangName());
     }
     m_languageButton->setText(DashboardLanguage::NativeName(Change::GetLangName()));
+    m_languageButton->setAccessibleDescription(DashboardText("IDS_GENERAL_LANGUAGE"));
     if (m_settings) {
         m_settings->Retranslate();
     }

@@ -70,6 +70,7 @@ RestoreDialog::RestoreDialog(ListKeeper *keeper, QWidget *parent)
     layout->addWidget(m_problem);
     layout->addWidget(DialogParts::ButtonBar("restoreButtonBar", m_okButton, m_closeButton));
     AddMainWidget(content);
+    m_okButton->setDefault(true);
     setFixedSize(dialogWidth, dialogHeight);
 
     connect(m_table, SIGNAL(itemSelectionChanged()), this, SLOT(ShowChoice()));
@@ -107,7 +108,6 @@ QWidget *RestoreDialog::CreateUnusablePage()
 {
     m_unusable->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_asideButton->setObjectName(QLatin1String("restoreAsideButton"));
-    m_asideButton->setAutoDefault(false);
     connect(m_asideButton, SIGNAL(clicked()), this, SLOT(SetHistoryAside()));
     QWidget *page = new QWidget;
     page->setObjectName(QLatin1String("restoreUnusablePage"));
@@ -127,6 +127,7 @@ void RestoreDialog::Retranslate()
     DialogParts::SetHeader(m_table, ChangeColumn, DashboardText("IDS_RESTORE_CHANGE"), Qt::AlignLeft);
     DialogParts::SetHeader(m_table, StatusColumn, DashboardText("IDS_RESTORE_STATUS"), Qt::AlignLeft);
     m_previewTitle->setText(DashboardText("IDS_RESTORE_PREVIEW"));
+    m_preview->setAccessibleName(DashboardText("IDS_RESTORE_PREVIEW"));
     m_asideButton->setText(DashboardText("IDS_RESTORE_ASIDE"));
     m_okButton->setText(DashboardText("IDS_RESTORE_OK"));
     m_closeButton->setText(DashboardText("IDS_CLOSE"));

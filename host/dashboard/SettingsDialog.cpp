@@ -1,12 +1,15 @@
 #include "SettingsDialog.h"
 
 #include "DashboardText.h"
+#include "DialogParts.h"
+#include "PageKeys.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
 #include <QStackedWidget>
+#include <QTableWidget>
 #include <QVBoxLayout>
 
 namespace
@@ -15,6 +18,8 @@ namespace
 // Plug-ins place the parts of their pages by pixels within this.
 const int pageWidth = 420;
 const int pageHeight = 374;
+
+const int listWidth = 170;
 
 } // namespace
 
@@ -25,7 +30,7 @@ SettingsDialog::SettingsDialog(QWidget *parent) : QDialog(parent)
 
     m_list = new QListWidget(this);
     m_list->setObjectName(QLatin1String("pageList"));
-    m_list->setFixedWidth(170);
+    m_list->setFixedWidth(listWidth);
     m_list->setSpacing(2);
     m_list->setWordWrap(true);
     connect(m_list, SIGNAL(currentRowChanged(int)), this, SLOT(ShowPage(int)));
@@ -34,18 +39,25 @@ SettingsDialog::SettingsDialog(QWidget *parent) : QDialog(parent)
     m_stack->setObjectName(QLatin1String("pageArea"));
     m_stack->setFixedSize(pageWidth, pageHeight);
 
+    m_keysHint = DialogParts::Label("keysHintLabel");
+    m_keysHint->setFixedWidth(listWidth);
+    m_keysHint->hide();
+    new PageKeys(this, m_stack);
+
     m_okButton = new QPushButton(this);
     m_okButton->setObjectName(QLatin1String("settingsOkButton"));
     m_okButton->setDefault(true);
     connect(m_okButton, SIGNAL(clicked()), this, SLOT(accept()));
     m_cancelButton = new QPushButton(this);
     m_cancelButton->setObjectName(QLatin1String("settingsCancelButton"));
-    m_cancelButton->setAutoDefault(false);
     connect(m_cancelButton, SIGNAL(clicked()), this, SLOT(reject()));
 
     QHBoxLayout *body = new QHBoxLayout;
     body->setSpacing(16);
-    body->addWidget(m_list);
+    QVBoxLayout *column = new QVBoxLayout;
+    column->addWidget(m_list, 1);
+    column->addWidget(m_keysHint);
+    body->addLayout(column);
     body->addWidget(m_stack, 1);
     m_buttons = new QHBoxLayout;
     m_buttons->addStretch();
@@ -97,6 +109,8 @@ void SettingsDialog::done(int result)
 void SettingsDialog::Retranslate()
 {
     setWindowTitle(DashboardText("IDS_SETTINGS_TITLE"));
+    m_list->setAccessibleName(DashboardText("IDS_SETTINGS_TITLE"));
+    m_keysHint->setText(DashboardText("IDS_SETTINGS_KEYS"));
     m_okButton->setText(DashboardText("IDS_OK"));
     m_cancelButton->setText(DashboardText("IDS_CANCEL"));
     for (int i = 0; i < m_places.size(); ++i) {
@@ -116,9 +130,16 @@ void SettingsDialog::ShowPage(int index)
     }
     Place &place = m_places[index];
     m_stack->setCurrentIndex(index);
-    if (place.isShown || place.problem) {
-        return;
+    if (!place.isShown && !place.problem) {
+        FillPlace(&place);
+        PutButtonsLastInTabOrder();
     }
+    m_keysHint->setVisible(place.widget->findChild<QTableWidget *>());
+}
+
+void SettingsDialog::FillPlace(Place *filled)
+{
+    Place &place = *filled;
     place.isShown = place.page->Show(place.widget);
     if (!place.isShown) {
         place.problem = new QLabel(place.page->ProblemText());
@@ -130,6 +151,21 @@ void SettingsDialog::ShowPage(int index)
         QVBoxLayout *layout = new QVBoxLayout(place.widget);
         layout->addWidget(place.problem);
         place.problem->show();
+    }
+}
+
+void SettingsDialog::PutButtonsLastInTabOrder()
+{
+    // What a page brings comes in at the end.
+    for (int i = 0; i < m_buttons->count(); ++i) {
+        QWidget *button = m_buttons->itemAt(i)->widget();
+        QWidget *last = previousInFocusChain();
+        while (last->focusPolicy() == Qt::NoFocus) {
+            last = last->previousInFocusChain();
+        }
+        if (button && button != last) {
+            setTabOrder(last, button);
+        }
     }
 }
 

@@ -51,11 +51,14 @@ private:
         bool isShown = false;
     };
 
+    void FillPlace(Place *place);
+    void PutButtonsLastInTabOrder();
     void ClosePages(SettingsPage::Answer answer);
 
     QList<Place> m_places;
     QListWidget *m_list;
     QStackedWidget *m_stack;
+    QLabel *m_keysHint;
     QHBoxLayout *m_buttons;
     QPushButton *m_okButton;
     QPushButton *m_cancelButton;

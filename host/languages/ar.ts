@@ -241,6 +241,10 @@
         <translation>الإعدادات</translation>
     </message>
     <message>
+        <source>IDS_SETTINGS_KEYS</source>
+        <translation>بلوحة المفاتيح: &#x202a;Ctrl+↑&#x202c; و&#x202a;Ctrl+↓&#x202c; لاختيار إدخال، و↑ و↓ لنقله.</translation>
+    </message>
+    <message>
         <source>IDS_PLUGIN_PRIORITY</source>
         <translation>أولوية الشبكات</translation>
     </message>

@@ -241,6 +241,10 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
         <translation>Einstellungen</translation>
     </message>
     <message>
+        <source>IDS_SETTINGS_KEYS</source>
+        <translation>Mit der Tastatur: Strg+↑ und Strg+↓ wählen einen Eintrag, ↑ und ↓ verschieben ihn.</translation>
+    </message>
+    <message>
         <source>IDS_PLUGIN_PRIORITY</source>
         <translation>Netzwerkpriorität</translation>
     </message>

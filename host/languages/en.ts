@@ -265,6 +265,11 @@ Allowed are letters, digits and these signs:
         <translation>Settings</translation>
     </message>
     <message>
+        <source>IDS_SETTINGS_KEYS</source>
+        <extracomment>Under the list of pages in the settings, 170 pixels wide, on as many lines as it takes.</extracomment>
+        <translation>With the keyboard: Ctrl+↑ and Ctrl+↓ choose an entry, ↑ and ↓ move it.</translation>
+    </message>
+    <message>
         <source>IDS_PLUGIN_PRIORITY</source>
         <translation>Network priority</translation>
     </message>

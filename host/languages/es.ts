@@ -241,6 +241,10 @@ Se permiten letras, números y estos signos:
         <translation>Configuración</translation>
     </message>
     <message>
+        <source>IDS_SETTINGS_KEYS</source>
+        <translation>Con el teclado: Ctrl+↑ y Ctrl+↓ eligen una entrada; ↑ y ↓ la mueven.</translation>
+    </message>
+    <message>
         <source>IDS_PLUGIN_PRIORITY</source>
         <translation>Prioridad de redes</translation>
     </message>

@@ -241,6 +241,10 @@ Sont autorisés les lettres, les chiffres et les signes suivants&#xa0;:
         <translation>Paramètres</translation>
     </message>
     <message>
+        <source>IDS_SETTINGS_KEYS</source>
+        <translation>Au clavier&#xa0;: Ctrl+↑ et Ctrl+↓ choisissent une entrée, ↑ et ↓ la déplacent.</translation>
+    </message>
+    <message>
         <source>IDS_PLUGIN_PRIORITY</source>
         <translation>Priorité des réseaux</translation>
     </message>

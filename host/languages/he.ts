@@ -241,6 +241,10 @@
         <translation>הגדרות</translation>
     </message>
     <message>
+        <source>IDS_SETTINGS_KEYS</source>
+        <translation>במקלדת: &#x202a;Ctrl+↑&#x202c; ו־&#x202a;Ctrl+↓&#x202c; בוחרים רשומה, ↑ ו־↓ מזיזים אותה.</translation>
+    </message>
+    <message>
         <source>IDS_PLUGIN_PRIORITY</source>
         <translation>עדיפות רשתות</translation>
     </message>

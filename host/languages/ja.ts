@@ -241,6 +241,10 @@
         <translation>設定</translation>
     </message>
     <message>
+        <source>IDS_SETTINGS_KEYS</source>
+        <translation>キーボードでは、Ctrl+↑ と Ctrl+↓ で項目を選び、↑ と ↓ で移動します。</translation>
+    </message>
+    <message>
         <source>IDS_PLUGIN_PRIORITY</source>
         <translation>ネットワークの優先順位</translation>
     </message>

@@ -241,6 +241,10 @@ São permitidos letras, números e estes sinais:
         <translation>Configurações</translation>
     </message>
     <message>
+        <source>IDS_SETTINGS_KEYS</source>
+        <translation>Pelo teclado: Ctrl+↑ e Ctrl+↓ escolhem uma entrada; ↑ e ↓ a movem.</translation>
+    </message>
+    <message>
         <source>IDS_PLUGIN_PRIORITY</source>
         <translation>Prioridade das redes</translation>
     </message>

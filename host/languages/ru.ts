@@ -241,6 +241,10 @@
         <translation>Настройки</translation>
     </message>
     <message>
+        <source>IDS_SETTINGS_KEYS</source>
+        <translation>С клавиатуры: Ctrl+↑ и Ctrl+↓ выбирают запись, ↑ и ↓ перемещают её.</translation>
+    </message>
+    <message>
         <source>IDS_PLUGIN_PRIORITY</source>
         <translation>Приоритет сетей</translation>
     </message>

@@ -241,6 +241,10 @@
         <translation>设置</translation>
     </message>
     <message>
+        <source>IDS_SETTINGS_KEYS</source>
+        <translation>使用键盘：Ctrl+↑ 和 Ctrl+↓ 选择条目，↑ 和 ↓ 移动它。</translation>
+    </message>
+    <message>
         <source>IDS_PLUGIN_PRIORITY</source>
         <translation>网络优先级</translation>
     </message>

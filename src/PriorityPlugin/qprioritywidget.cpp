@@ -205,6 +205,8 @@ void QPriorityWidget::CreateList()
     connect(m_table, SIGNAL(cellClicked(int, int)), this, SLOT(OnCellClicked(int, int)));
     m_frameLayout->addWidget(m_table);
     m_table->installEventFilter(this);
+    m_table->setAccessibleName(tr(QLatin1String("IDS_SETTING_NAME")));
+    m_nameLabel->setBuddy(m_table);
 
     m_frame->setLayout(m_frameLayout);
 }
@@ -236,6 +238,7 @@ void QPriorityWidget::SetLanguage()
     if (!m_table) {
         return;
     }
+    m_table->setAccessibleName(tr(QLatin1String("IDS_SETTING_NAME")));
     QString language = Change::GetLangName();
     for (int row = 0; row < m_table->rowCount(); ++row) {
         // The page puts nothing else into its cells.
