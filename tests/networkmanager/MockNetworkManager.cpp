@@ -197,5 +197,6 @@ int MockNetworkManager::CallCount(const QString &path, const QString &method)
         calls.asVariant();
         ++count;
     }
+    calls.endArray();
     return count;
 }
