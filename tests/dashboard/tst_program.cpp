@@ -22,7 +22,7 @@ QString LastLine(const QString &text)
 /** What the tour printed of the step with a picture of that name. */
 QString StepOf(const QString &out, const QString &name, const QString &directory)
 {
-    const QStringList pictures = QDir(directory).entryList(QStringList("??-" + name + ".png"));
+    const QStringList pictures = QDir(directory).entryList(QStringList("[0-9][0-9]-" + name + ".png"));
     const QString number = pictures.value(0).left(2);
     const int begin = out.indexOf(QString("step %1: ").arg(number.toInt()));
     const int next = out.indexOf(QString("step %1: ").arg(number.toInt() + 1), begin);
