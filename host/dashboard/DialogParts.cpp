@@ -1,5 +1,7 @@
 #include "DialogParts.h"
 
+#include "WrappedLabel.h"
+
 #include <ToolkitCompat.h>
 
 #include <QHBoxLayout>
@@ -30,11 +32,7 @@ protected:
 
 QLabel *DialogParts::Label(const char *name)
 {
-    QLabel *label = new QLabel;
-    label->setObjectName(QLatin1String(name));
-    label->setWordWrap(true);
-    label->setTextFormat(Qt::PlainText);
-    return label;
+    return new WrappedLabel(name);
 }
 
 QLabel *DialogParts::EmptyLabel(const char *name)

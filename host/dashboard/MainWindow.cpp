@@ -18,6 +18,7 @@
 #include "SettingsDialog.h"
 #include "TracePanel.h"
 #include "UserData.h"
+#include "WrappedLabel.h"
 
 #include <Change.h>
 #include <ToolkitCompat.h>
@@ -54,10 +55,7 @@ QString TraceShownKey()
 
 QLabel *MakeLabel(const char *name, qreal sizeFactor, bool isBold)
 {
-    QLabel *label = new QLabel;
-    label->setObjectName(QLatin1String(name));
-    label->setWordWrap(true);
-    label->setTextFormat(Qt::PlainText);
+    QLabel *label = new WrappedLabel(name);
     QFont font = label->font();
     if (font.pointSizeF() > 0) {
         font.setPointSizeF(font.pointSizeF() * sizeFactor);

@@ -82,8 +82,11 @@ QString LabelText(const QLabel *label)
 {
     if (label->property("pixmap").value<QPixmap>().isNull()) {
         const bool isCut = label->text().contains(QChar(0x2026)) && !label->toolTip().isEmpty();
+        // The toolkit puts plain text to the side where it begins by itself, whatever the label's direction.
+        const Qt::LayoutDirection direction =
+            label->text().isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight;
         return Quoted(isCut ? PlainText(label->toolTip()) : label->text()) + QLatin1Char(' ') +
-               SideName(label->layoutDirection(), label->alignment());
+               SideName(direction, label->alignment());
     }
     return QLatin1String("a picture ") + SideName(label->layoutDirection(), label->alignment());
 }

@@ -185,7 +185,7 @@ void OutlineTest::MirroredRowReadsFromTheOtherSide()
     QVERIFY2(mirrored.indexOf("QPushButton second") < mirrored.indexOf("QPushButton first"),
              qPrintable(mirrored));
     QVERIFY(mirrored.indexOf("QPushButton first") < mirrored.indexOf("QLineEdit field"));
-    QVERIFY(mirrored.contains("\"Name\" at the right"));
+    QVERIFY(mirrored.contains("\"Name\" at the left"));
     QVERIFY(mirrored.contains("\"Home\" at the right"));
     window.row->setDirection(QBoxLayout::RightToLeft);
     QVERIFY(!OutlineComparison::Difference(mirrored, Shown(&window)).isEmpty());
