@@ -9,6 +9,7 @@
 #include <QLayout>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QScrollArea>
 #include <QStringList>
 #include <QStyle>
 #include <QTextDocument>
@@ -138,6 +139,9 @@ bool IsWhole(const QWidget *widget)
 
 Widgets ChildrenOf(const QWidget *parent)
 {
+    if (const QScrollArea *area = qobject_cast<const QScrollArea *>(parent)) {
+        return area->widget() && area->widget()->isVisible() ? Widgets(1, area->widget()) : Widgets();
+    }
     Widgets children;
     const QObjectList &objects = parent->children();
     for (QObject *object : objects) {
@@ -250,7 +254,7 @@ private:
         for (int i = 0; i < children.size(); ++i) {
             const QRect place = children.at(i)->geometry();
             const QRect room = parent->rect().adjusted(-touchPixels, -touchPixels, touchPixels, touchPixels);
-            if (!room.contains(place)) {
+            if (!room.contains(place) && !parent->inherits("QScrollArea")) {
                 AddLine(depth, children.at(i)->objectName() + QLatin1String(" sticks out"));
             }
             for (int j = i + 1; j < children.size(); ++j) {

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QTableWidget>
 #include <QVBoxLayout>
 #include <QtTest>
@@ -77,6 +78,7 @@ private slots:
     void ChangeIsSeen();
     void MirroredRowReadsFromTheOtherSide();
     void HiddenTextIsNotTold();
+    void WhatCanBeScrolledIsTold();
     void DifferenceShowsBothAndWhatIsAroundThem();
     void NumbersMayDifferWithinTheTolerance_data();
     void NumbersMayDifferWithinTheTolerance();
@@ -199,6 +201,17 @@ void OutlineTest::HiddenTextIsNotTold()
     const QString outline = Shown(&window);
     QVERIFY(!outline.contains("horse"));
     QVERIFY(outline.contains("13 hidden signs"));
+}
+
+void OutlineTest::WhatCanBeScrolledIsTold()
+{
+    QScrollArea area;
+    area.setWidget(new QLabel("A long text"));
+    area.resize(40, 40);
+    area.show();
+    const QString outline = Shown(&area);
+    QVERIFY2(outline.contains("QLabel \"A long text\" at the left"), qPrintable(outline));
+    QVERIFY(!outline.contains("sticks out"));
 }
 
 void OutlineTest::DifferenceShowsBothAndWhatIsAroundThem()
