@@ -1,5 +1,6 @@
 #include "Appearance.h"
 
+#include "FocusStyle.h"
 #include "Settings.h"
 
 #include <HostControl.h>
@@ -41,19 +42,35 @@ struct SystemLook {
     QPalette palette = QApplication::palette();
 };
 
+QString Fusion()
+{
+    return QLatin1String("fusion");
+}
+
 QString ChoiceKey()
 {
     return QLatin1String("window/appearance");
 }
 
+/** The style that paints as the palette says; those of desktops may paint in the desktop's colours instead.
+ */
+void UseFusion()
+{
+    if (!qobject_cast<FocusStyle *>(QApplication::style())) {
+        if (QStyle *style = QStyleFactory::create(Fusion())) {
+            QApplication::setStyle(new FocusStyle(style));
+        }
+    }
+}
+
 void UseStyle(const QString &name)
 {
-    // The styles of some desktops paint in the desktop's colours whatever the palette says.
-    if (QApplication::style()->objectName().compare(name, Qt::CaseInsensitive) == 0) {
-        return;
-    }
-    if (QStyle *style = QStyleFactory::create(name)) {
-        QApplication::setStyle(style);
+    if (name.compare(Fusion(), Qt::CaseInsensitive) == 0) {
+        UseFusion();
+    } else if (QApplication::style()->objectName().compare(name, Qt::CaseInsensitive) != 0) {
+        if (QStyle *style = QStyleFactory::create(name)) {
+            QApplication::setStyle(style);
+        }
     }
 }
 
@@ -81,7 +98,7 @@ void Appearance::Apply(Choice choice)
         UseStyle(system.style);
         QApplication::setPalette(system.palette);
     } else {
-        UseStyle(QLatin1String("fusion"));
+        UseFusion();
         QApplication::setPalette(Colours(choice == Dark));
     }
     HostControl::ApplyLook();
