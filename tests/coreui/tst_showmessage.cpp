@@ -235,10 +235,10 @@ void TestShowMessage::captionsAreTranslated_data()
     QTest::newRow("en") << "en"
                         << (QStringList() << "OK"
                                           << "Cancel"
-                                          << "New");
+                                          << "&New");
     QTest::newRow("ar") << "ar"
                         << (QStringList() << QString::fromUtf8("موافق") << QString::fromUtf8("إلغاء")
-                                          << QString::fromUtf8("جديدة"));
+                                          << QString::fromUtf8("&جديدة"));
 }
 
 void TestShowMessage::captionsAreTranslated()
