@@ -20,6 +20,7 @@ public:
      * root. */
     bool Start(const QString &authorization = QLatin1String("false"));
     QString WhyNot() const { return m_whyNot; }
+    bool IsRunning() const { return m_daemon.state() == QProcess::Running; }
     void End();
     void Kill();
     void Freeze() { m_daemon.Freeze(); }

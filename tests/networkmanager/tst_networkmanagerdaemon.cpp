@@ -131,6 +131,9 @@ void tst_networkmanagerdaemon::cleanupTestCase()
 
 void tst_networkmanagerdaemon::init()
 {
+    // A test that failed may have left it dead or frozen.
+    m_daemon->Thaw();
+    QVERIFY2(m_daemon->IsRunning() || m_daemon->Start(), qPrintable(m_daemon->WhyNot()));
     m_dashboard->OpenWindow();
 }
 
