@@ -59,7 +59,7 @@ ConnectDialog::ConnectDialog(QWidget *parent)
     layout->addWidget(CreateButtons());
     AddMainWidget(content);
     m_okButton->setDefault(true);
-    setFixedSize(dialogWidth, dialogHeight);
+    setFixedSize(DialogParts::ForFont(dialogWidth), DialogParts::ForFont(dialogHeight));
 
     ListNetworks();
     FollowChoice();
@@ -73,7 +73,7 @@ void ConnectDialog::CreateTable()
     m_table = DialogParts::Table("connectList", ColumnCount);
     m_table->setItemDelegateForColumn(NameColumn, new NameDelegate(m_table));
     m_table->horizontalHeader()->setObjectName(QLatin1String("connectHeader"));
-    m_table->setColumnWidth(NameColumn, nameWidth);
+    m_table->setColumnWidth(NameColumn, DialogParts::ForFont(nameWidth));
 }
 
 QWidget *ConnectDialog::CreateButtons()

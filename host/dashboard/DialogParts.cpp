@@ -4,6 +4,8 @@
 
 #include <ToolkitCompat.h>
 
+#include <QApplication>
+#include <QFontInfo>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -29,6 +31,14 @@ protected:
 };
 
 } // namespace
+
+int DialogParts::ForFont(int pixels)
+{
+    const qreal usualPoints = 10;
+    const qreal largest = 1.6;
+    const qreal factor = QFontInfo(QApplication::font()).pointSizeF() / usualPoints;
+    return qRound(pixels * qBound(qreal(1), factor, largest));
+}
 
 QLabel *DialogParts::Label(const char *name)
 {

@@ -12,6 +12,10 @@ class QTableWidget;
 namespace DialogParts
 {
 
+/** A size in pixels that suits fonts of the usual size, for the size of the application's font when that is
+ * larger. */
+int ForFont(int pixels);
+
 /** Plain text over as many lines as it needs. */
 QLabel *Label(const char *name);
 

@@ -66,7 +66,7 @@ ImportDialog::ImportDialog(ListKeeper *keeper, const QList<PriorityList> &entrie
 {
     setObjectName(QLatin1String("importDialog"));
     m_table->setItemDelegateForColumn(NameColumn, new NameDelegate(m_table));
-    m_table->setColumnWidth(NameColumn, nameWidth);
+    m_table->setColumnWidth(NameColumn, DialogParts::ForFont(nameWidth));
     m_problem->hide();
     m_okButton->setObjectName(QLatin1String("importOkButton"));
     connect(m_okButton, SIGNAL(clicked()), this, SLOT(accept()));
@@ -84,7 +84,7 @@ ImportDialog::ImportDialog(ListKeeper *keeper, const QList<PriorityList> &entrie
     layout->addWidget(DialogParts::ButtonBar("importButtonBar", m_okButton, m_cancelButton));
     AddMainWidget(content);
     m_okButton->setDefault(true);
-    setFixedSize(dialogWidth, dialogHeight);
+    setFixedSize(DialogParts::ForFont(dialogWidth), DialogParts::ForFont(dialogHeight));
 
     // Others may change the list while it is being looked at.
     connect(m_keeper, SIGNAL(Changed()), this, SLOT(Retranslate()));

@@ -5,6 +5,7 @@
 #include "ConnectDialog.h"
 #include "DashboardLanguage.h"
 #include "DashboardText.h"
+#include "DialogParts.h"
 #include "GeneralPage.h"
 #include "ListActions.h"
 #include "ListKeeper.h"
@@ -129,7 +130,7 @@ MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLo
     connect(m_keeper, SIGNAL(Changed()), this, SLOT(FollowHistory()));
     connect(m_language, SIGNAL(Switched()), this, SLOT(Retranslate()));
 
-    resize(820, 620);
+    resize(DialogParts::ForFont(820), DialogParts::ForFont(620));
     restoreGeometry(Settings::Read(GeometryKey()).toByteArray());
     Retranslate();
 }

@@ -71,7 +71,7 @@ RestoreDialog::RestoreDialog(ListKeeper *keeper, QWidget *parent)
     layout->addWidget(DialogParts::ButtonBar("restoreButtonBar", m_okButton, m_closeButton));
     AddMainWidget(content);
     m_okButton->setDefault(true);
-    setFixedSize(dialogWidth, dialogHeight);
+    setFixedSize(DialogParts::ForFont(dialogWidth), DialogParts::ForFont(dialogHeight));
 
     connect(m_table, SIGNAL(itemSelectionChanged()), this, SLOT(ShowChoice()));
     connect(m_table, SIGNAL(cellDoubleClicked(int, int)), this, SLOT(accept()));
@@ -82,7 +82,7 @@ RestoreDialog::RestoreDialog(ListKeeper *keeper, QWidget *parent)
 
 QWidget *RestoreDialog::CreateStatesPage()
 {
-    m_table->setFixedWidth(tableWidth);
+    m_table->setFixedWidth(DialogParts::ForFont(tableWidth));
     m_preview->setObjectName(QLatin1String("restorePreview"));
     m_preview->setItemDelegate(new NameDelegate(m_preview));
     m_preview->setSelectionMode(QAbstractItemView::NoSelection);
@@ -174,8 +174,8 @@ void RestoreDialog::FitColumns()
     m_table->resizeColumnToContents(TimeColumn);
     m_table->resizeColumnToContents(StatusColumn);
     const int scrollBarWidth = m_table->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    m_table->setColumnWidth(ChangeColumn, tableWidth - 2 * m_table->frameWidth() - scrollBarWidth -
-                                              m_table->columnWidth(TimeColumn) -
+    m_table->setColumnWidth(ChangeColumn, m_table->maximumWidth() - 2 * m_table->frameWidth() -
+                                              scrollBarWidth - m_table->columnWidth(TimeColumn) -
                                               m_table->columnWidth(StatusColumn));
     m_table->horizontalHeader()->setStretchLastSection(true);
 }

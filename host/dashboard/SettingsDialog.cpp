@@ -30,17 +30,17 @@ SettingsDialog::SettingsDialog(QWidget *parent) : QDialog(parent)
 
     m_list = new QListWidget(this);
     m_list->setObjectName(QLatin1String("pageList"));
-    m_list->setFixedWidth(listWidth);
+    m_list->setFixedWidth(DialogParts::ForFont(listWidth));
     m_list->setSpacing(2);
     m_list->setWordWrap(true);
     connect(m_list, SIGNAL(currentRowChanged(int)), this, SLOT(ShowPage(int)));
 
     m_stack = new QStackedWidget(this);
     m_stack->setObjectName(QLatin1String("pageArea"));
-    m_stack->setFixedSize(pageWidth, pageHeight);
+    m_stack->setFixedSize(DialogParts::ForFont(pageWidth), DialogParts::ForFont(pageHeight));
 
     m_keysHint = DialogParts::Label("keysHintLabel");
-    m_keysHint->setFixedWidth(listWidth);
+    m_keysHint->setFixedWidth(DialogParts::ForFont(listWidth));
     m_keysHint->hide();
     new PageKeys(this, m_stack);
 

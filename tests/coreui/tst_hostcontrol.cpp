@@ -1,11 +1,11 @@
 #include <CommonUtils.h>
+#include <Contrast.h>
 #include <HostControl.h>
 #include <Startup.h>
 
 #include <QLabel>
 #include <QTableWidget>
 #include <QtTest>
-#include <qmath.h>
 
 namespace
 {
@@ -15,25 +15,6 @@ class EmptyContainer : public IPluginContainer
 public:
     QObject *GetPluginObject(const QString &, int) override { return nullptr; }
 };
-
-qreal Channel(qreal value)
-{
-    return value <= 0.03928 ? value / 12.92 : qPow((value + 0.055) / 1.055, 2.4);
-}
-
-qreal Luminance(const QColor &color)
-{
-    return 0.2126 * Channel(color.redF()) + 0.7152 * Channel(color.greenF()) +
-           0.0722 * Channel(color.blueF());
-}
-
-/** From 1 to 21; running text wants 4.5 at least. */
-qreal Contrast(const QColor &one, const QColor &other)
-{
-    const qreal first = Luminance(one);
-    const qreal second = Luminance(other);
-    return (qMax(first, second) + 0.05) / (qMin(first, second) + 0.05);
-}
 
 QPalette DarkPalette()
 {
@@ -151,8 +132,9 @@ void TestHostControl::selectedRowsKeepTextReadable()
         const QColor highlight = table.palette().color(group, QPalette::Highlight);
         const QColor plain = name->palette().color(group, QPalette::WindowText);
         const QColor highlighted = table.palette().color(group, QPalette::HighlightedText);
-        QVERIFY2(Contrast(highlight, plain) >= 4.5, qPrintable(highlight.name() + plain.name()));
-        QVERIFY2(Contrast(highlight, highlighted) >= 4.5, qPrintable(highlight.name() + highlighted.name()));
+        QVERIFY2(Contrast::Between(highlight, plain) >= 4.5, qPrintable(highlight.name() + plain.name()));
+        QVERIFY2(Contrast::Between(highlight, highlighted) >= 4.5,
+                 qPrintable(highlight.name() + highlighted.name()));
     }
 }
 
@@ -177,7 +159,8 @@ void TestHostControl::selectedRowsDifferFromOthers()
     const QPoint offset = table.viewport()->mapTo(&table, QPoint(0, 0));
     const QColor selected = picture.pixel(offset + table.visualRect(table.model()->index(0, 0)).center());
     const QColor other = picture.pixel(offset + table.visualRect(table.model()->index(1, 0)).center());
-    QVERIFY2(Contrast(selected, other) > 1.2, qPrintable(selected.name() + QLatin1Char(' ') + other.name()));
+    QVERIFY2(Contrast::Between(selected, other) > 1.2,
+             qPrintable(selected.name() + QLatin1Char(' ') + other.name()));
 }
 
 QTEST_MAIN(TestHostControl)

@@ -1,35 +1,10 @@
 #include <Appearance.h>
+#include <Contrast.h>
 #include <TemporaryDirectory.h>
 
 #include <QApplication>
 #include <QStyle>
 #include <QtTest>
-
-#include <cmath>
-
-namespace
-{
-
-qreal LinearPart(qreal part)
-{
-    return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-}
-
-qreal Luminance(const QColor &colour)
-{
-    return 0.2126 * LinearPart(colour.redF()) + 0.7152 * LinearPart(colour.greenF()) +
-           0.0722 * LinearPart(colour.blueF());
-}
-
-/** As the guidelines for accessible contents count it, 1 to 21. */
-qreal Contrast(const QColor &one, const QColor &other)
-{
-    const qreal lighter = qMax(Luminance(one), Luminance(other));
-    const qreal darker = qMin(Luminance(one), Luminance(other));
-    return (lighter + 0.05) / (darker + 0.05);
-}
-
-} // namespace
 
 class AppearanceTest : public QObject
 {
@@ -87,8 +62,8 @@ void AppearanceTest::TextIsReadable()
     for (int isDark = 0; isDark < 2; ++isDark) {
         const QPalette palette = Appearance::Colours(isDark);
         for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
-            const qreal found = Contrast(palette.color(group, QPalette::ColorRole(text)),
-                                         palette.color(group, QPalette::ColorRole(ground)));
+            const qreal found = Contrast::Between(palette.color(group, QPalette::ColorRole(text)),
+                                                  palette.color(group, QPalette::ColorRole(ground)));
             QVERIFY2(found >= contrast, qPrintable(QString("%1, dark: %2").arg(found).arg(isDark)));
         }
     }
@@ -106,8 +81,9 @@ void AppearanceTest::ChosenRowsAreReadable()
     QFETCH(int, choice);
     Appearance::Apply(Appearance::Choice(choice));
     const QPalette lists = QApplication::palette("QAbstractItemView");
-    QVERIFY(Contrast(lists.color(QPalette::Text), lists.color(QPalette::Highlight)) >= 4.5);
-    QVERIFY(Contrast(lists.color(QPalette::HighlightedText), lists.color(QPalette::Highlight)) >= 4.5);
+    QVERIFY(Contrast::Between(lists.color(QPalette::Text), lists.color(QPalette::Highlight)) >= 4.5);
+    QVERIFY(Contrast::Between(lists.color(QPalette::HighlightedText), lists.color(QPalette::Highlight)) >=
+            4.5);
 }
 
 void AppearanceTest::DarkIsDarkAndLightIsLight()

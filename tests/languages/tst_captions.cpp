@@ -171,6 +171,14 @@ QStringList Misfits(const QWidget *window)
     return misfits;
 }
 
+/** Whether a screen has the priority page or a dialog of it on it, whose sizes and places are given in
+ * pixels. */
+bool HasFixedPlaces(const QString &screen)
+{
+    return screen == QLatin1String("settings, priority page") || screen == QLatin1String("add dialog") ||
+           screen.startsWith(QLatin1String("new dialog"));
+}
+
 /** The characters of text for which no font that is installed has a glyph. */
 QString Unprintable(const QString &text)
 {
@@ -199,6 +207,8 @@ class TestCaptions : public QObject
 private slots:
     void captionsFitTheirPlaces_data();
     void captionsFitTheirPlaces();
+    void captionsFitWithALargeFont_data();
+    void captionsFitWithALargeFont();
     void fontsHaveTheCharacters_data();
     void fontsHaveTheCharacters();
     void explanationHasThreeLinesAtMost_data() { fontsHaveTheCharacters_data(); }
@@ -230,6 +240,35 @@ void TestCaptions::captionsFitTheirPlaces()
     QFETCH(QString, screen);
     QStringList misfits;
     m_screens.Show(screen, language, [&misfits](const QWidget *window) { misfits = Misfits(window); });
+    QVERIFY2(misfits.isEmpty(), misfits.join(QLatin1String("\n    ")).toUtf8().constData());
+}
+
+void TestCaptions::captionsFitWithALargeFont_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("screen");
+    const char *const languages[] = {"en", "ar", "de"};
+    for (const char *language : languages) {
+        foreach (const QString &screen, Screens::Names()) {
+            if (!HasFixedPlaces(screen)) {
+                QTest::newRow((QLatin1String(language) + QLatin1String(", ") + screen).toLatin1().constData())
+                    << QString(QLatin1String(language)) << screen;
+            }
+        }
+    }
+}
+
+void TestCaptions::captionsFitWithALargeFont()
+{
+    QFETCH(QString, language);
+    QFETCH(QString, screen);
+    const QFont usual = QApplication::font();
+    QFont large = usual;
+    large.setPointSizeF(usual.pointSizeF() * 1.4);
+    QApplication::setFont(large);
+    QStringList misfits;
+    m_screens.Show(screen, language, [&misfits](const QWidget *window) { misfits = Misfits(window); });
+    QApplication::setFont(usual);
     QVERIFY2(misfits.isEmpty(), misfits.join(QLatin1String("\n    ")).toUtf8().constData());
 }
 
