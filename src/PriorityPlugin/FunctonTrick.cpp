@@ -32,14 +32,32 @@ const char *SecondText(qint64 number)
     return lastSecond.text;
 }
 
+/** Names of sources and functions are ASCII, which is the same in every encoding a line can be in; the
+ * toolkit's conversion takes longer. */
+void AppendLocal8Bit(QByteArray &line, const QString &text)
+{
+    const int before = line.size();
+    line.resize(before + text.size());
+    char *end = line.data() + before;
+    ushort units = 0;
+    for (int i = 0; i < text.size(); ++i) {
+        units |= text.at(i).unicode();
+        end[i] = char(text.at(i).unicode());
+    }
+    if (units > 0x7f) {
+        line.truncate(before);
+        line += text.toLocal8Bit();
+    }
+}
+
 /** What both lines begin with. One text for the whole line: the toolkit converts each that it is given. */
 QByteArray LineStart(const QString &sourcePath, const QString &function)
 {
     QByteArray line = TraceLine::CurrentTime();
     line += ": ";
-    line += sourcePath.toLocal8Bit();
+    AppendLocal8Bit(line, sourcePath);
     line += ": ";
-    line += function.toLocal8Bit();
+    AppendLocal8Bit(line, function);
     return line;
 }
 

@@ -12,6 +12,7 @@ private slots:
     void entryAndExitLines();
     void emptyDetailLeavesOneTrailingBlank();
     void detailIsFormatted();
+    void namesAreWrittenInTheLocalEncoding();
     void earlyReturnStillWritesTheExitLine();
     void timeOfDayHasMilliseconds();
     void timeOfDayGoesOn();
@@ -45,6 +46,18 @@ void tst_Tracer::detailIsFormatted()
     CFunctonTrick trick("s", "f", ",strIcon:%s,strName:%s,%d", "wifi.png", name.toUtf8().constData(), 7);
     QCOMPARE(trace.Normalised().first(),
              QString::fromUtf8("TIME: s: f: Entered ,strIcon:wifi.png,strName:Café,7"));
+}
+
+void tst_Tracer::namesAreWrittenInTheLocalEncoding()
+{
+    TraceCapture trace;
+    const QString path = QString::fromUtf8("Quellen/Größe.cpp");
+    const QString function = QString::fromUtf8("数据");
+    {
+        CFunctonTrick trick(path, function, "");
+    }
+    QCOMPARE(trace.Normalised(), QStringList() << "TIME: " + path + ": " + function + ": Entered "
+                                               << "TIME: " + path + ": " + function + ": Exit");
 }
 
 static int ReturnEarly(bool early)
