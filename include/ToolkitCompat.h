@@ -51,11 +51,7 @@ inline QString FormatText(const char *format, va_list arguments)
 /** The text of zero-terminated UTF-16 code units. */
 inline QString FromUtf16(const unsigned short *units)
 {
-#if QT_VERSION >= 0x060000
-    return QString::fromUtf16(reinterpret_cast<const char16_t *>(units));
-#else
-    return QString::fromUtf16(units);
-#endif
+    return QString(reinterpret_cast<const QChar *>(units));
 }
 
 /** Whether bytes, from the first to the last, are UTF-8. */

@@ -53,6 +53,9 @@ bool MakeDirectory(const QByteArray &path)
 
 QByteArray WithoutRepeatedSeparators(const QByteArray &path)
 {
+    if (!path.contains("//")) {
+        return path;
+    }
     QByteArray result;
     result.reserve(path.size());
     for (int i = 0; i < path.size(); ++i) {

@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QScopedPointer>
 #include <QXmlStreamReader>
+#include <QXmlStreamWriter>
 #include <QtTest>
 
 #include <sys/stat.h>
@@ -23,6 +24,8 @@ private slots:
 
     void writtenBytes();
     void writtenBytesOfAnEmptyList();
+    void writtenAsTheToolkitWrites_data();
+    void writtenAsTheToolkitWrites();
     void entriesAreTakenFromAnywhere();
     void onlyElementsNamedItemCount();
     void missingAttributesAreEmpty();
@@ -31,6 +34,8 @@ private slots:
     void noDestination();
     void emptyFile();
     void entriesBeforeAnErrorStay();
+    void whatFollowsIsLostAlikeAtAnyLength_data();
+    void whatFollowsIsLostAlikeAtAnyLength();
     void directoryInPlaceOfTheFile();
     void unopenableDirectory();
     void savingReplacesTheFileItself();
@@ -103,6 +108,58 @@ void tst_PriorityFile::writtenBytesOfAnEmptyList()
     QVERIFY(Read().isEmpty());
 }
 
+static QByteArray WrittenByTheToolkit(const QList<PriorityList> &list)
+{
+    QByteArray document;
+    QXmlStreamWriter writer(&document);
+    writer.setAutoFormatting(true);
+    writer.writeStartDocument();
+    writer.writeStartElement("zeltdoc");
+    writer.writeAttribute("type", "profile");
+    writer.writeStartElement("profile");
+    for (int i = 0; i < list.size(); ++i) {
+        writer.writeStartElement("item");
+        writer.writeAttribute("name", list.at(i).name);
+        writer.writeAttribute("type", list.at(i).type);
+        writer.writeEndElement();
+    }
+    writer.writeEndElement();
+    writer.writeEndDocument();
+    return document;
+}
+
+void tst_PriorityFile::writtenAsTheToolkitWrites_data()
+{
+    QTest::addColumn<QStringList>("texts");
+    QTest::newRow("no entry") << QStringList();
+    QTest::newRow("one entry") << (QStringList() << "HomeNet");
+    QStringList units;
+    for (uint unit = 0x20; unit < 0xfffe; ++unit) {
+        if (unit < 0xd800 || unit > 0xdfff) {
+            units << QString("<") + QChar(ushort(unit)) + QChar(ushort(unit)) + ">";
+        }
+    }
+    QTest::newRow("every unit that is a character by itself") << (units << "\t\t"
+                                                                        << "\n\r\n"
+                                                                        << "\r");
+    QStringList pairs;
+    for (uint high = 0xd800; high < 0xdc00; ++high) {
+        pairs << QString(QChar(ushort(high))) + QChar(ushort(high + 0x400)) + "&amp;\"'";
+    }
+    QTest::newRow("pairs of units") << pairs;
+}
+
+void tst_PriorityFile::writtenAsTheToolkitWrites()
+{
+    QFETCH(QStringList, texts);
+    QList<PriorityList> list;
+    for (int i = 0; i < texts.size(); ++i) {
+        list << Entry(texts.at(i), texts.at(texts.size() - 1 - i));
+    }
+    QCOMPARE(m_store->SavePriorityList(list), 0);
+    QVERIFY(m_directory->Read("Priority.xml") == WrittenByTheToolkit(list));
+}
+
 void tst_PriorityFile::entriesAreTakenFromAnywhere()
 {
     m_directory->Write("Priority.xml", "<other><item name='A' type='1'/><x><y><item type='0' name='B' z='9'>"
@@ -164,6 +221,59 @@ void tst_PriorityFile::entriesBeforeAnErrorStay()
                        "<r><item name='A' type='1'/><item name='B' type='1'/><item name=</r>");
     QCOMPARE(AsTexts(Read(6)), QStringList() << "A/1"
                                              << "B/1");
+}
+
+static QStringList ReadByTheToolkit(const QString &path)
+{
+    QFile file(path);
+    file.open(QIODevice::ReadOnly | QIODevice::Text);
+    QXmlStreamReader reader(&file);
+    QStringList texts;
+    while (!reader.atEnd()) {
+        reader.readNext();
+        if (reader.isStartElement() && reader.name() == QLatin1String("item")) {
+            texts << reader.attributes().value("name").toString() + "/" +
+                         reader.attributes().value("type").toString();
+        }
+    }
+    return texts << (reader.hasError() ? "error" : "end");
+}
+
+void tst_PriorityFile::whatFollowsIsLostAlikeAtAnyLength_data()
+{
+    QTest::addColumn<QByteArray>("start");
+    QTest::addColumn<QByteArray>("end");
+    const QByteArray end = "<item name='last' type='0'/></r>";
+    QTest::newRow("nothing wrong") << QByteArray("<r>") << end;
+    QTest::newRow("byte order mark") << QByteArray("\xef\xbb\xbf<r>") << end;
+    QTest::newRow("lines ended twice") << QByteArray("<?xml version='1.0' encoding='UTF-8'?>\r\n<r>\r\n")
+                                       << QByteArray("<item name='a\rb\r\nc'/>\r\n</r>");
+    QTest::newRow("other encoding") << QByteArray("<?xml version='1.0' encoding='ISO-8859-1'?><r>")
+                                    << QByteArray("<item name='\xe9'/></r>");
+    QTest::newRow("cut off") << QByteArray("<r>") << QByteArray("<item name='l");
+    QTest::newRow("no text at the end") << QByteArray("<r>") << QByteArray("<item name='\xff'/></r>");
+}
+
+void tst_PriorityFile::whatFollowsIsLostAlikeAtAnyLength()
+{
+    QFETCH(QByteArray, start);
+    QFETCH(QByteArray, end);
+    const QByteArray item = "<item name='A' type='1'/>";
+    for (int fill = 8000; fill < 8400; fill += 1 + fill % 2) {
+        QByteArray xml = start;
+        while (xml.size() + item.size() + end.size() <= fill) {
+            xml += item;
+        }
+        xml += QByteArray(qMax(0, fill - xml.size() - end.size()), ' ') + end;
+        m_directory->Write("Priority.xml", xml);
+        QList<PriorityList> list;
+        const int code = m_store->GetPriorityList(&list);
+        const QStringList found = AsTexts(list) << (code == 0 ? "end" : "error");
+        const QStringList expected = ReadByTheToolkit(m_directory->FilePath("Priority.xml"));
+        QVERIFY2(found == expected,
+                 qPrintable(
+                     QString("%1 bytes: %2 instead of %3").arg(fill).arg(found.size()).arg(expected.size())));
+    }
 }
 
 void tst_PriorityFile::directoryInPlaceOfTheFile()

@@ -32,6 +32,7 @@ private slots:
     void aFailingReadIsTold_data();
     void aFailingReadIsTold();
     void fileVanishesBetweenLookAndOpen();
+    void fileGrowsBetweenLookAndOpen();
     void fileVanishesBeforeItIsReplaced();
     void fileAppearsBetweenLookAndOpen();
     void directoryVanishesInTheMiddleOfASave();
@@ -214,6 +215,14 @@ void tst_SystemCalls::fileVanishesBetweenLookAndOpen()
     QCOMPARE(Listed(25), QStringList());
     QVERIFY(trace.Lines().contains("Error open file: "));
     QCOMPARE(Listed(23), QStringList());
+}
+
+void tst_SystemCalls::fileGrowsBetweenLookAndOpen()
+{
+    Put(Model::ProductDocument(Model::Entries(1, before.front())));
+    SystemCalls::Watch(m_directory->Path(), this);
+    m_event = Appear;
+    QCOMPARE(Listed(0), QStringList() << "Home/1" << QString::fromUtf8("Café/1") << "Mobile/2");
 }
 
 void tst_SystemCalls::fileVanishesBeforeItIsReplaced()
