@@ -82,6 +82,7 @@ private slots:
     void KeyOfTheWrongLengthIsRefused();
     void MovingAnEntryOnThePageChangesWhatNmcliPrints();
     void ProfileMadeInTheDialogAppearsInNmcli();
+    void EntriesBeyondTheRangeHaveTheLowestPriority();
     void NothingButThePriorityIsWritten();
     void KilledNetworkManagerIsToldAndTheNextOneUsed();
     void AddDialogOutlivesAKilledNetworkManager();
@@ -224,7 +225,7 @@ void tst_networkmanagerdaemon::ProfilesHaveTheirSecurity()
     const QString name = authentication + " " + encryption;
     QCOMPARE(Wlan()->CreateWLANProfile(NewProfile(name, authentication, encryption, key)), 0);
     // Now and then, under load, nmcli prints a profile without its keys.
-    QTRY_COMPARE(Told(name, fields), told);
+    QTRY_COMPARE_WITH_TIMEOUT(Told(name, fields), told, 30000);
     WLANProfile profile;
     QCOMPARE(Wlan()->GetProfileByName(name, &profile), 0);
     QCOMPARE(profile.authentication, authentication);
@@ -283,6 +284,30 @@ void tst_networkmanagerdaemon::ProfileMadeInTheDialogAppearsInNmcli()
         QVERIFY(!m_dashboard->User().Read("priority-dashboard/" + files.at(i)).contains("sea-and-sand"));
     }
     QVERIFY(!m_dashboard->Log().contains("sea-and-sand"));
+}
+
+void tst_networkmanagerdaemon::EntriesBeyondTheRangeHaveTheLowestPriority()
+{
+    const int count = 2010;
+    QStringList list;
+    for (int i = 0; i < count; ++i) {
+        list.append(QString("filler %1").arg(i));
+    }
+    list[0] = "A";
+    list[1997] = "B";
+    list[1998] = "C";
+    list[1999] = "D";
+    list[count - 1] = "E";
+    const char *const names[] = {"A", "B", "C", "D", "E"};
+    for (const char *name : names) {
+        QVERIFY(NetworkManagerDaemon::Add(name));
+    }
+    SetList(list);
+    QTRY_COMPARE(NetworkManagerDaemon::Priorities(), QStringList() << "A:999"
+                                                                   << "B:-998"
+                                                                   << "C:-999"
+                                                                   << "D:-999"
+                                                                   << "E:-999");
 }
 
 void tst_networkmanagerdaemon::NothingButThePriorityIsWritten()
