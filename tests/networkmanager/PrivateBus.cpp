@@ -2,6 +2,7 @@
 
 #include <QDBusConnectionInterface>
 #include <QFile>
+#include <QLocalSocket>
 #include <QtTest>
 
 namespace
@@ -14,6 +15,20 @@ bool WaitUntilRegistered(const QString &name, bool isRegistered)
 {
     for (int i = 0; i < steps; ++i) {
         if (PrivateBus::Connection().interface()->isServiceRegistered(name) == isRegistered) {
+            return true;
+        }
+        QTest::qSleep(stepMilliseconds);
+    }
+    return false;
+}
+
+/** The socket is there a moment before it is listened to. */
+bool WaitUntilListening(const QString &path)
+{
+    for (int i = 0; i < steps; ++i) {
+        QLocalSocket socket;
+        socket.connectToServer(path);
+        if (socket.waitForConnected(stepMilliseconds)) {
             return true;
         }
         QTest::qSleep(stepMilliseconds);
@@ -56,10 +71,7 @@ bool PrivateBus::Start()
         m_whyNot = "dbus-daemon can't be started";
         return false;
     }
-    for (int i = 0; i < steps && !QFile::exists(Path("bus")); ++i) {
-        QTest::qSleep(stepMilliseconds);
-    }
-    if (!QFile::exists(Path("bus"))) {
+    if (!WaitUntilListening(Path("bus"))) {
         m_whyNot = "dbus-daemon does not come up";
         return false;
     }
