@@ -36,7 +36,8 @@ int DialogParts::ForFont(int pixels)
 {
     const qreal usualPoints = 10;
     const qreal largest = 1.6;
-    const qreal factor = QFontInfo(QApplication::font()).pointSizeF() / usualPoints;
+    // Whole points: fonts are a little larger or smaller than they were asked for.
+    const qreal factor = QFontInfo(QApplication::font()).pointSize() / usualPoints;
     return qRound(pixels * qBound(qreal(1), factor, largest));
 }
 
