@@ -11,6 +11,8 @@
 
 #include <QAction>
 #include <QDialog>
+#include <QDir>
+#include <QFile>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
@@ -59,6 +61,7 @@ private slots:
     void SourceOfTheNetworksIsTold_data();
     void SourceOfTheNetworksIsTold();
     void MissingSourceIsToldAboveTheList();
+    void DamagedLanguageFileIsNamedAndTheOthersWork();
     void ConnectTellsWhyItCannotBeUsed_data();
     void ConnectTellsWhyItCannotBeUsed();
 
@@ -193,6 +196,39 @@ void MainWindowProblemsTest::MissingSourceIsToldAboveTheList()
     const QLabel *problems = window.findChild<QLabel *>("problemsLabel");
     QVERIFY(problems->isVisible());
     QVERIFY2(problems->text().contains("Is NetworkManager running?"), qPrintable(problems->text()));
+}
+
+void MainWindowProblemsTest::DamagedLanguageFileIsNamedAndTheOthersWork()
+{
+    const QString built = QLatin1String(BUILD_DIRECTORY "/share/priority-dashboard/languages/");
+    QVERIFY(QDir().mkdir(m_directory.FilePath("languages")));
+    QVERIFY(QFile::copy(built + "en.qm", m_directory.FilePath("languages/en.qm")));
+    QVERIFY(QFile::copy(built + "de.qm", m_directory.FilePath("languages/de.qm")));
+    QFile file(built + "fr.qm");
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray cut = file.readAll().left(1000);
+    m_directory.Write("languages/fr.qm", cut);
+    HostControl::SetLanguageDirectory(m_directory.FilePath("languages"));
+
+    FakePriority priority;
+    FixedContainer container(nullptr, &priority);
+    HostControl::SetPluginContainer(&container);
+    TraceLog log(m_directory.FilePath("dashboard.log"));
+    PluginHost plugins(BUILD_DIRECTORY "/tests/fixtures", KnownAs("Working", "Working"));
+    DashboardLanguage language(&plugins, nullptr);
+    MainWindow window(&plugins, &language, &log);
+    window.show();
+    const QLabel *problems = window.findChild<QLabel *>("problemsLabel");
+    QVERIFY(problems->isVisible());
+    QVERIFY2(problems->text().contains("languages/fr.qm is damaged from byte "),
+             qPrintable(problems->text()));
+    QVERIFY(!window.findChild<QAction *>("languageAction_fr"));
+
+    window.findChild<QAction *>("languageAction_de")->trigger();
+    QCOMPARE(window.findChild<QPushButton *>("settingsButton")->text(), QString::fromUtf8("Einstellungen…"));
+    QVERIFY2(problems->text().contains("languages/fr.qm"), qPrintable(problems->text()));
+    HostControl::SetPluginContainer(nullptr);
+    QCOMPARE(m_directory.Read("languages/fr.qm"), cut);
 }
 
 void MainWindowProblemsTest::ConnectTellsWhyItCannotBeUsed_data()
