@@ -57,9 +57,7 @@ QString ChoiceKey()
 void UseFusion()
 {
     if (!qobject_cast<FocusStyle *>(QApplication::style())) {
-        if (QStyle *style = QStyleFactory::create(Fusion())) {
-            QApplication::setStyle(new FocusStyle(style));
-        }
+        QApplication::setStyle(FocusStyle::Over(QStyleFactory::create(Fusion())));
     }
 }
 

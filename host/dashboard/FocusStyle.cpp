@@ -21,7 +21,12 @@ void DrawLine(QPainter *painter, const QRect &around, const QColor &colour, Qt::
 
 FocusStyle::FocusStyle(QStyle *style) : QProxyStyle(style)
 {
-    setObjectName(style->objectName());
+    setObjectName(baseStyle()->objectName());
+}
+
+QStyle *FocusStyle::Over(QStyle *style)
+{
+    return new FocusStyle(style);
 }
 
 void FocusStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,

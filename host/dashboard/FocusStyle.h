@@ -12,11 +12,15 @@ class FocusStyle : public QProxyStyle
     Q_OBJECT
 
 public:
-    /** Takes ownership of style. */
-    explicit FocusStyle(QStyle *style);
+    /** Takes ownership of style, which may be null: that of the system is meant then. The caller owns the
+     * result. */
+    static QStyle *Over(QStyle *style);
 
     void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                      const QWidget *widget) const override;
+
+private:
+    explicit FocusStyle(QStyle *style);
 };
 
 #endif
