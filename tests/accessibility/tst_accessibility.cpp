@@ -274,6 +274,7 @@ private slots:
     void everythingIsNamedAndReached();
     void rowsAreCalledByTheirNetworks_data();
     void rowsAreCalledByTheirNetworks();
+    void listOfThePageIsNamedInTheLanguage();
     void chosenRowIsTold();
     void rowIsChosenByAScreenReader();
     void rowUnderAPointIsFound();
@@ -342,6 +343,18 @@ void TestAccessibility::rowsAreCalledByTheirNetworks()
         name = cell->text(QAccessible::Name);
     });
     QCOMPARE(name, first);
+}
+
+void TestAccessibility::listOfThePageIsNamedInTheLanguage()
+{
+    QStringList names;
+    foreach (const QString &language, QStringList() << "en"
+                                                    << "ar") {
+        m_screens.Show("settings, priority page", language, [&names](QWidget *window) {
+            names.append(InterfaceOf(window->findChild<QWidget *>("priorityTable"))->text(QAccessible::Name));
+        });
+    }
+    QCOMPARE(names, QStringList() << "Network priority" << QString::fromUtf8("أولوية الشبكات"));
 }
 
 void TestAccessibility::chosenRowIsTold()
