@@ -209,10 +209,11 @@ void bench_Priority::read()
 {
     QFETCH(int, count);
     BareWrite(m_priorityFile, Entries(count, 1));
+    IPriorityPlugin *const priority = m_host->Priority();
     Work product;
-    product.run = [this] {
+    product.run = [priority] {
         QList<PriorityList> list;
-        m_host->Priority()->GetPriorityList(&list);
+        priority->GetPriorityList(&list);
     };
     Work bare;
     bare.run = [this] {
@@ -228,9 +229,10 @@ void bench_Priority::save()
     const QList<PriorityList> entries = Entries(count, 1);
     ShowPageWith(entries);
     m_host->HidePage();
+    ISettingUIPlugin *const setting = m_host->Setting();
     Work product;
-    product.run = [this] {
-        m_host->Setting()->OnClickSettingOkButton();
+    product.run = [setting] {
+        setting->OnClickSettingOkButton();
     };
     Work bare;
     bare.run = [this, &entries] {
@@ -452,15 +454,17 @@ void bench_Priority::priceOfTheTrace()
                 QString::fromLatin1("%1; %2").arg(lines).arg(double(lines) * line * 1e6, 0, 'f', 1));
         };
     PaintWatch pageWatch(m_host->Table()->viewport());
+    IPriorityPlugin *const priority = m_host->Priority();
     tell(reading, [&] {
         QList<PriorityList> list;
-        m_host->Priority()->GetPriorityList(&list);
+        priority->GetPriorityList(&list);
     });
     tell(rebuilding, [&] { QMetaObject::invokeMethod(m_host->Page(), "UpdataPriorityList"); });
     QMetaObject::invokeMethod(m_host->Page(), "OnCellClicked", Q_ARG(int, count / 2), Q_ARG(int, 0));
     tell(movingDown, [&] { QTest::keyPress(m_host->Table(), Qt::Key_Down); });
-    tell(addingOnTop, [&] { m_host->Priority()->AddTopPriority(entries.last()); });
-    tell(saving, [&] { m_host->Setting()->OnClickSettingOkButton(); });
+    tell(addingOnTop, [&] { priority->AddTopPriority(entries.last()); });
+    ISettingUIPlugin *const setting = m_host->Setting();
+    tell(saving, [&] { setting->OnClickSettingOkButton(); });
 }
 
 void bench_Priority::MeasureMemory(const QString &what, const std::function<void()> &build)
