@@ -63,14 +63,15 @@ bool IsPlacedByHand(const QWidget *widget)
            !parent->parentWidget()->inherits("QAbstractScrollArea");
 }
 
-QString Place(const QWidget *widget)
+/** @param beginning  what widget's place is told from, in its parent */
+QString Place(const QWidget *widget, const QPoint &beginning)
 {
     const bool isByHand = IsPlacedByHand(widget);
     const bool isSizedByLayout =
         widget->layout() && widget->layout()->sizeConstraint() == QLayout::SetFixedSize;
     const bool isWidthFixed = !isSizedByLayout && widget->minimumWidth() == widget->maximumWidth();
     const bool isHeightFixed = !isSizedByLayout && widget->minimumHeight() == widget->maximumHeight();
-    const QRect place = widget->geometry();
+    const QRect place = widget->geometry().translated(-beginning);
     QStringList numbers;
     if (!widget->isWindow()) {
         numbers << Number(place.x(), isByHand) << Number(place.y(), isByHand);
@@ -159,7 +160,7 @@ class Outliner
 public:
     QString Text() const { return m_lines.join(QLatin1String("\n")) + QLatin1Char('\n'); }
 
-    void Add(const QWidget *widget, int depth)
+    void Add(const QWidget *widget, int depth, const QPoint &beginning = QPoint())
     {
         QStringList line;
         line << QLatin1String(widget->metaObject()->className());
@@ -170,7 +171,10 @@ public:
         if (!widget->isEnabled()) {
             line << QLatin1String("disabled");
         }
-        line << Place(widget);
+        // A question is as large as its text in its font.
+        if (widget->window()->objectName() != QLatin1String("messageBox")) {
+            line << Place(widget, beginning);
+        }
         AddLine(depth, line.join(QLatin1String(" ")));
         if (const QAbstractItemView *view = qobject_cast<const QAbstractItemView *>(widget)) {
             AddItems(view, depth + 1);
@@ -304,17 +308,16 @@ private:
                 cells.insert(cell.x(), ItemText(view, index));
             }
         }
-        AddLine(depth, QString::fromLatin1("row %1%2%3 at ~%4 ~%5 ~%6 ~%7")
+        // Not where it stands: its height times its number, less what is scrolled.
+        AddLine(depth, QString::fromLatin1("row %1%2%3 of ~%4 ~%5")
                            .arg(QStringList(cells.values()).join(QLatin1String(" | ")),
                                 QLatin1String(cells.isEmpty() ? "" : " "),
                                 QLatin1String(isSelected ? "selected" : "not selected"))
-                           .arg(place.x())
-                           .arg(place.y())
                            .arg(place.width())
                            .arg(place.height()));
         for (int column = 0; column < view->model()->columnCount(); ++column) {
             if (const QWidget *widget = view->indexWidget(view->model()->index(row, column))) {
-                Add(widget, depth + 1);
+                Add(widget, depth + 1, place.topLeft());
             }
         }
     }

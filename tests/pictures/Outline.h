@@ -10,8 +10,8 @@ class QWidget;
  * screen, from the top and from the left, whichever way the language reads. A line has the widget's class,
  * its name, its texts as they are on the screen, and its place in its parent: left, top, width and height. A
  * number with "~" before it may be another with other fonts or another style; the others are the program's
- * own. Widgets side by side are below a line "side by side". What covers another widget or sticks out of its
- * parent has a line that tells.
+ * own. Questions have no numbers: they are as large as their texts. Widgets side by side are below a line
+ * "side by side". What covers another widget or sticks out of its parent has a line that tells.
  */
 QString Outline(const QWidget *window);
 

@@ -10,10 +10,14 @@ const int contextLines = 2;
 
 bool IsNear(const QString &approved, const QString &found)
 {
+    if (!approved.startsWith(QLatin1Char('~')) || !found.startsWith(QLatin1Char('~'))) {
+        return false;
+    }
     bool areNumbers[] = {false, false};
-    const int difference = approved.mid(1).toInt(&areNumbers[0]) - found.mid(1).toInt(&areNumbers[1]);
-    return approved.startsWith(QLatin1Char('~')) && found.startsWith(QLatin1Char('~')) && areNumbers[0] &&
-           areNumbers[1] && qAbs(difference) <= OutlineComparison::tolerance;
+    const int numbers[] = {approved.mid(1).toInt(&areNumbers[0]), found.mid(1).toInt(&areNumbers[1])};
+    const int tolerated =
+        qMax(OutlineComparison::tolerance, qAbs(numbers[0]) / OutlineComparison::tolerancePart);
+    return areNumbers[0] && areNumbers[1] && qAbs(numbers[0] - numbers[1]) <= tolerated;
 }
 
 bool IsSame(const QString &approved, const QString &found)

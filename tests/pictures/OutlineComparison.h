@@ -6,8 +6,9 @@
 namespace OutlineComparison
 {
 
-/** By how many pixels a number with "~" before it may differ. */
+/** By how many pixels a number with "~" before it may differ, and which part of itself if that is more. */
 const int tolerance = 20;
+const int tolerancePart = 12;
 
 /**
  * What differs, line by line: "-" stands before what was approved, "+" before what was found. Null when

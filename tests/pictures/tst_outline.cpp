@@ -79,6 +79,7 @@ private slots:
     void MirroredRowReadsFromTheOtherSide();
     void HiddenTextIsNotTold();
     void WhatCanBeScrolledIsTold();
+    void QuestionHasNoSizes();
     void DifferenceShowsBothAndWhatIsAroundThem();
     void NumbersMayDifferWithinTheTolerance_data();
     void NumbersMayDifferWithinTheTolerance();
@@ -143,14 +144,16 @@ void OutlineTest::ChangeIsSeen()
     QFETCH(QString, told);
     Window window;
     const QString before = Shown(&window);
+    const int shift =
+        qMax(OutlineComparison::tolerance, window.first->x() / OutlineComparison::tolerancePart) + 5;
     if (change == "moved") {
         window.row->removeWidget(window.first);
         window.row->addWidget(window.first);
     } else if (change == "moved down") {
         window.column->addWidget(window.second);
     } else if (change == "shifted") {
-        window.row->insertSpacing(1, OutlineComparison::tolerance + 5);
-        window.row->addSpacing(OutlineComparison::tolerance + 5);
+        window.row->insertSpacing(1, shift);
+        window.row->addSpacing(shift);
     } else if (change == "pixel") {
         window.placed->move(window.placed->pos() + QPoint(1, 0));
     } else if (change == "size") {
@@ -214,6 +217,18 @@ void OutlineTest::WhatCanBeScrolledIsTold()
     QVERIFY(!outline.contains("sticks out"));
 }
 
+void OutlineTest::QuestionHasNoSizes()
+{
+    Window window;
+    window.setObjectName("messageBox");
+    const QString before = Shown(&window);
+    QVERIFY2(!before.contains(" at ~"), qPrintable(before));
+    window.resize(700, 600);
+    QCOMPARE(Shown(&window), before);
+    window.second->hide();
+    QVERIFY(Shown(&window) != before);
+}
+
 void OutlineTest::DifferenceShowsBothAndWhatIsAroundThem()
 {
     QCOMPARE(
@@ -234,6 +249,10 @@ void OutlineTest::NumbersMayDifferWithinTheTolerance_data()
                                    << "a at ~-20" << true;
     QTest::newRow("far") << "a at ~100"
                          << "a at ~121" << false;
+    QTest::newRow("near, large") << "a at ~480"
+                                 << "a at ~440" << true;
+    QTest::newRow("far, large") << "a at ~480"
+                                << "a at ~439" << false;
     QTest::newRow("fixed") << "a at 100"
                            << "a at 101" << false;
     QTest::newRow("no longer fixed") << "a at 100"
