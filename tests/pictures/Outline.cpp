@@ -63,14 +63,22 @@ bool IsPlacedByHand(const QWidget *widget)
            !parent->parentWidget()->inherits("QAbstractScrollArea");
 }
 
+/** Whether sizes in widget are given in pixels, as the plug-in gives them; the host's follow the font. */
+bool IsPlugins(const QWidget *widget)
+{
+    const QStringList roots{"priorityPage", "addDialog", "newDialog"};
+    return widget && (roots.contains(widget->objectName()) || IsPlugins(widget->parentWidget()));
+}
+
 /** @param beginning  what widget's place is told from, in its parent */
 QString Place(const QWidget *widget, const QPoint &beginning)
 {
     const bool isByHand = IsPlacedByHand(widget);
     const bool isSizedByLayout =
         widget->layout() && widget->layout()->sizeConstraint() == QLayout::SetFixedSize;
-    const bool isWidthFixed = !isSizedByLayout && widget->minimumWidth() == widget->maximumWidth();
-    const bool isHeightFixed = !isSizedByLayout && widget->minimumHeight() == widget->maximumHeight();
+    const bool areSizesFixed = !isSizedByLayout && IsPlugins(widget);
+    const bool isWidthFixed = areSizesFixed && widget->minimumWidth() == widget->maximumWidth();
+    const bool isHeightFixed = areSizesFixed && widget->minimumHeight() == widget->maximumHeight();
     const QRect place = widget->geometry().translated(-beginning);
     QStringList numbers;
     if (!widget->isWindow()) {

@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QFontInfo>
 
 #include <cstdio>
 
@@ -45,11 +46,12 @@ QString Lasting(const QString &outline)
 }
 
 /** The size of desktops, and the family that all machines have on which tests run. */
-void UseDesktopFont()
+bool UseDesktopFont()
 {
     QFont font(QLatin1String("DejaVu Sans"));
     font.setPointSize(10);
     QApplication::setFont(font);
+    return QFontInfo(font).family() == font.family();
 }
 
 class OutlineWriter : public QObject
@@ -103,7 +105,10 @@ int main(int argc, char **argv)
     HostControl::SetLanguageDirectory(QLatin1String(BUILD_DIRECTORY "/share/priority-dashboard/languages"));
     HostControl::ApplyLook();
     Appearance::Apply(Appearance::System);
-    UseDesktopFont();
+    if (!UseDesktopFont()) {
+        std::fprintf(stderr, "the font DejaVu Sans is missing; install fonts-dejavu-core\n");
+        return 2;
+    }
     if (!DashboardLanguage::Apply(QLatin1String(argv[3]))) {
         std::fprintf(stderr, "there is no language %s\n", argv[3]);
         return 2;

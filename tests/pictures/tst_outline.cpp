@@ -31,7 +31,7 @@ public:
         table->setObjectName("table");
         table->setItem(0, 0, new QTableWidgetItem("Home"));
         table->setItem(1, 0, new QTableWidgetItem("Office"));
-        panel->setObjectName("panel");
+        panel->setObjectName("priorityPage");
         panel->setFixedSize(200, 60);
         placed->setObjectName("placed");
         placed->setGeometry(10, 20, 100, 24);
@@ -117,7 +117,7 @@ void OutlineTest::ChangeIsSeen_data()
     QTest::newRow("place fixed by hand, by a pixel") << "pixel"
                                                      << "placed";
     QTest::newRow("fixed size, by a pixel") << "size"
-                                            << "panel";
+                                            << "priorityPage";
     QTest::newRow("row missing") << "row"
                                  << "Office";
     QTest::newRow("label missing") << "label"
