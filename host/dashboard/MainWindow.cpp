@@ -33,7 +33,6 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScrollBar>
-#include <QShortcut>
 #include <QStackedWidget>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -204,8 +203,10 @@ void MainWindow::CreateLanguageActions()
     }
     connect(m_languageActions, SIGNAL(triggered(QAction *)), this, SLOT(ChooseLanguage(QAction *)));
     // The menu's mnemonic is a letter of the language, which another keyboard may not have.
-    const QShortcut *shortcut = new QShortcut(QKeySequence(QLatin1String("Ctrl+L")), this);
-    connect(shortcut, SIGNAL(activated()), this, SLOT(OpenLanguageMenu()));
+    QAction *open = new QAction(this);
+    open->setShortcut(QKeySequence(QLatin1String("Ctrl+L")));
+    connect(open, SIGNAL(triggered()), this, SLOT(OpenLanguageMenu()));
+    addAction(open);
 }
 
 QWidget *MainWindow::CreateHead()
