@@ -34,14 +34,24 @@ bool HideDirectory(const char *directory)
     return mount("tmpfs", directory, "tmpfs", 0, "mode=0755") == 0;
 }
 
+QString WhyNot(const char *what)
+{
+    return QString("%1: %2").arg(what, std::strerror(errno));
+}
+
 } // namespace
 
 QString Namespace::Enter()
 {
-    if ((geteuid() == 0 || BecomeRoot()) && unshare(CLONE_NEWNET | CLONE_NEWNS) == 0 &&
-        mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 && HideDirectory("/run") &&
-        HideDirectory("/var/lib")) {
-        return QString();
+    if ((geteuid() != 0 && !BecomeRoot()) || unshare(CLONE_NEWNET | CLONE_NEWNS) != 0) {
+        return WhyNot("no network namespace can be had here");
     }
-    return QString("no network namespace can be had here: %1").arg(std::strerror(errno));
+    // The root of a chroot is no mount point: what is mounted below it might be seen outside.
+    if (mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0) {
+        return WhyNot("mounts can't be kept to the test here, as in a chroot");
+    }
+    if (!HideDirectory("/run") || !HideDirectory("/var/lib")) {
+        return WhyNot("the machine's own directories can't be hidden here");
+    }
+    return QString();
 }
