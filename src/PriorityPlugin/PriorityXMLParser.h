@@ -9,9 +9,10 @@
 class QXmlStreamReader;
 
 /**
- * The store: the only code that touches the priority file, "Priority.xml" in the user data directory, and the
- * configuration file. It holds no list of its own. Every operation reads the file afresh, changes the list
- * and writes the whole file back, so the file is always what the user sees.
+ * The store: the plug-in's only code that touches the priority file, "Priority.xml" in the user data
+ * directory, and the configuration file. It holds no list of its own. Every operation reads the file afresh,
+ * as other programs write it too, changes the list and writes the whole file back: no change waits to be
+ * written.
  *
  * What the file can't carry: U+0000 to U+001F but for tab, line feed and carriage return, surrogates that
  * stand alone, U+FFFE and U+FFFF are no XML characters, and written raw they would cost the entries behind

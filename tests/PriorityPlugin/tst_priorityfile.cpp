@@ -8,7 +8,6 @@
 #include <QFile>
 #include <QScopedPointer>
 #include <QXmlStreamReader>
-#include <QXmlStreamWriter>
 #include <QtTest>
 
 #include <sys/stat.h>
@@ -24,8 +23,6 @@ private slots:
 
     void writtenBytes();
     void writtenBytesOfAnEmptyList();
-    void writtenAsTheToolkitWrites_data();
-    void writtenAsTheToolkitWrites();
     void entriesAreTakenFromAnywhere();
     void onlyElementsNamedItemCount();
     void missingAttributesAreEmpty();
@@ -48,6 +45,7 @@ private slots:
     void tracedLinesOfReading();
     void tracedLinesOfSaving();
     void tracedLinesOfFailures();
+    void timeOfTheBuildIsFixed();
     void directoryOfTheSdk();
     void failedSdkCallMeansTheCurrentDirectory_data();
     void failedSdkCallMeansTheCurrentDirectory();
@@ -106,58 +104,6 @@ void tst_PriorityFile::writtenBytesOfAnEmptyList()
                                                            "    <profile/>\n"
                                                            "</zeltdoc>\n"));
     QVERIFY(Read().isEmpty());
-}
-
-static QByteArray WrittenByTheToolkit(const QList<PriorityList> &list)
-{
-    QByteArray document;
-    QXmlStreamWriter writer(&document);
-    writer.setAutoFormatting(true);
-    writer.writeStartDocument();
-    writer.writeStartElement("zeltdoc");
-    writer.writeAttribute("type", "profile");
-    writer.writeStartElement("profile");
-    for (int i = 0; i < list.size(); ++i) {
-        writer.writeStartElement("item");
-        writer.writeAttribute("name", list.at(i).name);
-        writer.writeAttribute("type", list.at(i).type);
-        writer.writeEndElement();
-    }
-    writer.writeEndElement();
-    writer.writeEndDocument();
-    return document;
-}
-
-void tst_PriorityFile::writtenAsTheToolkitWrites_data()
-{
-    QTest::addColumn<QStringList>("texts");
-    QTest::newRow("no entry") << QStringList();
-    QTest::newRow("one entry") << (QStringList() << "HomeNet");
-    QStringList units;
-    for (uint unit = 0x20; unit < 0xfffe; ++unit) {
-        if (unit < 0xd800 || unit > 0xdfff) {
-            units << QString("<") + QChar(ushort(unit)) + QChar(ushort(unit)) + ">";
-        }
-    }
-    QTest::newRow("every unit that is a character by itself") << (units << "\t\t"
-                                                                        << "\n\r\n"
-                                                                        << "\r");
-    QStringList pairs;
-    for (uint high = 0xd800; high < 0xdc00; ++high) {
-        pairs << QString(QChar(ushort(high))) + QChar(ushort(high + 0x400)) + "&amp;\"'";
-    }
-    QTest::newRow("pairs of units") << pairs;
-}
-
-void tst_PriorityFile::writtenAsTheToolkitWrites()
-{
-    QFETCH(QStringList, texts);
-    QList<PriorityList> list;
-    for (int i = 0; i < texts.size(); ++i) {
-        list << Entry(texts.at(i), texts.at(texts.size() - 1 - i));
-    }
-    QCOMPARE(m_store->SavePriorityList(list), 0);
-    QVERIFY(m_directory->Read("Priority.xml") == WrittenByTheToolkit(list));
 }
 
 void tst_PriorityFile::entriesAreTakenFromAnywhere()
@@ -487,6 +433,25 @@ void tst_PriorityFile::tracedLinesOfFailures()
     PriorityXMLParser::GetInstance();
     QCOMPARE(trace.Normalised(), QStringList()
                                      << QString("BUILD: %1: GetInstance: Entered").arg(storeSource));
+}
+
+void tst_PriorityFile::timeOfTheBuildIsFixed()
+{
+    TraceCapture trace;
+    PriorityXMLParser::GetInstance();
+    m_store->getUserDataDirectory();
+    const QStringList lines = trace.Lines();
+    QCOMPARE(lines.size(), 3);
+    const QString time = lines.first().left(QString("hh:mm:ss").size());
+    QVERIFY2(QTime::fromString(time, "hh:mm:ss").isValid(), qPrintable(time));
+    for (const QString &line : lines) {
+        QVERIFY2(line.startsWith(time + ": .."), qPrintable(line));
+    }
+    QTest::qSleep(1100);
+    trace.Clear();
+    PriorityXMLParser::GetInstance();
+    m_store->getUserDataDirectory();
+    QCOMPARE(trace.Lines(), lines);
 }
 
 void tst_PriorityFile::directoryOfTheSdk()
