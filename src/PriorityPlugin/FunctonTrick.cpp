@@ -6,31 +6,13 @@
 #include <QtDebug>
 
 #include <cstdarg>
+#include <ctime>
 
 namespace
 {
 
 const qint64 millisecondsPerSecond = 1000;
 const int usualLineLength = 160;
-
-/** "hh:mm:ss:" of a second since 1970. The toolkit looks at the time zone's file each time it is asked. */
-struct Second {
-    qint64 number;
-    char text[10];
-};
-
-Second lastSecond = {-1, ""};
-
-const char *SecondText(qint64 number)
-{
-    if (number != lastSecond.number) {
-        const QTime time = QDateTime::fromMSecsSinceEpoch(number * millisecondsPerSecond).time();
-        qstrncpy(lastSecond.text, time.toString(QLatin1String("hh:mm:ss:")).toLatin1().constData(),
-                 sizeof lastSecond.text);
-        lastSecond.number = number;
-    }
-    return lastSecond.text;
-}
 
 /** Names of sources and functions are ASCII, which is the same in every encoding a line can be in; the
  * toolkit's conversion takes longer. */
@@ -87,13 +69,22 @@ CFunctonTrick::~CFunctonTrick()
 namespace TraceLine
 {
 
+/*
+ * Asked of the C library, which keeps the time zone in mind: the toolkit looks at the time zone's file each
+ * time it is asked for the time of day.
+ */
 QByteArray CurrentTime()
 {
     const qint64 now = QDateTime::currentMSecsSinceEpoch();
+    const std::time_t second = std::time_t(now / millisecondsPerSecond);
     const int milliseconds = int(now % millisecondsPerSecond);
+    std::tm local;
+    localtime_r(&second, &local);
+    char hoursToSeconds[sizeof "hh:mm:ss:"];
     QByteArray time;
     time.reserve(usualLineLength);
-    time += SecondText(now / millisecondsPerSecond);
+    time.append(hoursToSeconds,
+                int(std::strftime(hoursToSeconds, sizeof hoursToSeconds, "%H:%M:%S:", &local)));
     time += char('0' + milliseconds / 100);
     time += char('0' + milliseconds / 10 % 10);
     time += char('0' + milliseconds % 10);

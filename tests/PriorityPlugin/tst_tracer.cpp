@@ -4,6 +4,8 @@
 
 #include <QtTest>
 
+#include <ctime>
+
 class tst_Tracer : public QObject
 {
     Q_OBJECT
@@ -16,6 +18,7 @@ private slots:
     void earlyReturnStillWritesTheExitLine();
     void timeOfDayHasMilliseconds();
     void timeOfDayGoesOn();
+    void timeOfDayFollowsTheTimeZone();
     void percentSignsInNamesStay();
     void sharedLines();
 };
@@ -94,6 +97,30 @@ void tst_Tracer::timeOfDayGoesOn()
             QVERIFY2(before <= time && time <= after, qPrintable(time));
         }
         QTest::qSleep(600);
+    }
+}
+
+void tst_Tracer::timeOfDayFollowsTheTimeZone()
+{
+    const QByteArray before = qgetenv("TZ");
+    const bool wasSet = qEnvironmentVariableIsSet("TZ");
+    const char *const zones[] = {"AAA0", "BBB-5:30"};
+    QStringList minutes;
+    for (int i = 0; i < 4; ++i) {
+        qputenv("TZ", zones[i % 2]);
+        tzset();
+        minutes << QString::fromLatin1(TraceLine::CurrentTime()).mid(3, 2);
+    }
+    if (wasSet) {
+        qputenv("TZ", before);
+    } else {
+        qunsetenv("TZ");
+    }
+    tzset();
+    // The zones are half an hour apart, whichever minute it is; all of this takes less than one.
+    for (int i = 1; i < 4; ++i) {
+        const int apart = qAbs(minutes.at(i).toInt() - minutes.at(i - 1).toInt());
+        QVERIFY2(apart >= 29 && apart <= 31, qPrintable(minutes.join(" ")));
     }
 }
 
