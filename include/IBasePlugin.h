@@ -30,7 +30,7 @@ public:
     /** Kind of plug-in, a number of the host's; 0 when the plug-in is of no particular kind. */
     virtual int GetPluginType() = 0;
 
-    /** Class id as upper-case UUID text without braces, or empty when only the host's own table knows it. */
+    /** Class id as UUID text without braces, or empty when only the host's own table knows it. */
     virtual QString GetCLSID() = 0;
 
     /** Version number of the plug-in, 0 when it keeps none. */

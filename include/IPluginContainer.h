@@ -16,7 +16,7 @@ public:
      * The object that the plug-in registered under classId hands out for an interface number, or null when
      * there is no such plug-in, when it is not ready, or when it knows no such interface.
      *
-     * @param classId          upper-case UUID text without braces, compared without regard to case.
+     * @param classId          UUID text without braces, compared without regard to case.
      * @param interfaceNumber  as in IBasePlugin::QueryInterface.
      * @return owned by that plug-in and valid until its OnDestroy; to be cast with qobject_cast.
      */

@@ -5,7 +5,7 @@
     <name>PriorityPlugin</name>
     <message>
         <source>IDS_PLUGIN_NAME</source>
-        <extracomment>Name of the plug-in in logs and messages</extracomment>
+        <extracomment>What the service calls itself; on no screen</extracomment>
         <translation>Network priority</translation>
     </message>
     <message>

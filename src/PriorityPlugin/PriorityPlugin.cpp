@@ -55,7 +55,7 @@ int CPriorityPlugin::GetPluginType()
 
 QString CPriorityPlugin::GetCLSID()
 {
-    // The class id names the service; a root object that answered it too would be registered twice.
+    // The class id is the service's, whose GetCLSID answers it.
     return QString();
 }
 

@@ -10,7 +10,7 @@ class QPriorityWidget;
 
 /**
  * The object behind the plug-in's two interfaces: the settings page for the host, the priority list for other
- * plug-ins. One in the process; the page and the store outlive none of it.
+ * plug-ins. One at a time in the process. It ends after the page and before the store.
  */
 class CPriorityService : public QObject, public ISettingUIPlugin, public IPriorityPlugin
 {
@@ -21,8 +21,8 @@ public:
     /** Creates the service on first use, and with it the page. */
     static CPriorityService *instance();
 
-    /** Takes down page, service and store. Page and store can't be made again in this process; the service
-     * can. */
+    /** Takes down page, service and store, in this order. Page and store can't be made again in this process;
+     * the service can. */
     static void Destroy();
 
     ~CPriorityService() override;

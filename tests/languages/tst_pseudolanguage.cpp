@@ -14,7 +14,7 @@ namespace
 
 /** Texts that stand on no screen, and where they stand instead. */
 const char *const textsElsewhere[] = {
-    "PriorityPlugin/IDS_PLUGIN_NAME", // handed to other plug-ins
+    "PriorityPlugin/IDS_PLUGIN_NAME", // what the service calls itself
     "Dashboard/IDS_LOG_NOT_WRITABLE", // a line of the trace
     "Dashboard/IDS_LOAD_NOT_LOADED",  // while the program ends
     // in the file dialog, which is the toolkit's
