@@ -1,6 +1,29 @@
 #include "KeyMaterial.h"
 
+#include <QEvent>
 #include <QLineEdit>
+
+namespace
+{
+
+class HideWatch : public QObject
+{
+public:
+    explicit HideWatch(QLineEdit *field) : QObject(field), m_field(field) { field->installEventFilter(this); }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Hide && !event->spontaneous()) {
+            KeyMaterial::Wipe(m_field);
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    QLineEdit *m_field;
+};
+
+} // namespace
 
 QString KeyMaterial::Unshared(const QString &text)
 {
@@ -25,4 +48,9 @@ void KeyMaterial::Wipe(QLineEdit *field)
     // The field lets go of it first, undo steps included.
     field->setText(QString());
     Wipe(&text);
+}
+
+void KeyMaterial::WipeWhenHidden(QLineEdit *field)
+{
+    new HideWatch(field);
 }

@@ -21,6 +21,10 @@ void Wipe(QString *text);
 /** Empties the field and wipes what stood in it. */
 void Wipe(QLineEdit *field);
 
+/** Has the field wiped whenever it is hidden, as with the dialog around it, however that was closed. A window
+ * that is only minimised keeps its fields. */
+void WipeWhenHidden(QLineEdit *field);
+
 } // namespace KeyMaterial
 
 #endif

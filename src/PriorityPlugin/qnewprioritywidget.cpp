@@ -16,7 +16,6 @@
 #include <QComboBox>
 #include <QCompleter>
 #include <QHBoxLayout>
-#include <QHideEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QStringList>
@@ -144,7 +143,12 @@ QNewPriorityWidget::QNewPriorityWidget(QWidget *parent, Qt::WindowFlags flags)
 
 QNewPriorityWidget::~QNewPriorityWidget()
 {
-    WipeKeys();
+    if (m_keyField) {
+        KeyMaterial::Wipe(m_keyField);
+    }
+    if (m_confirmField) {
+        KeyMaterial::Wipe(m_confirmField);
+    }
     release();
 }
 
@@ -192,14 +196,16 @@ QLabel *QNewPriorityWidget::CreateLabel(const char *objectName)
     return label;
 }
 
-ExtendLineEdit *QNewPriorityWidget::CreateKeyField(const char *objectName, const char *id)
+ExtendLineEdit *QNewPriorityWidget::CreateKeyField(const char *objectName, const QString &name)
 {
     ExtendLineEdit *field = new ExtendLineEdit(this);
     field->setObjectName(QLatin1String(objectName));
-    field->setAccessibleName(tr(QLatin1String(id)));
+    field->setAccessibleName(name);
     field->setContextMenuPolicy(Qt::NoContextMenu);
     field->setEchoMode(QLineEdit::Password);
     field->setValidator(m_keyValidator);
+    // A dialog that is closed stays until the next one is opened; the key in it doesn't.
+    KeyMaterial::WipeWhenHidden(field);
     return field;
 }
 
@@ -236,12 +242,13 @@ void QNewPriorityWidget::AddRow(QBoxLayout *row)
 
 void QNewPriorityWidget::CreateNetworkName()
 {
+    const QString text = tr(QLatin1String("IDS_LIST_NETWORK_NAME"));
     m_nameRow = new QHBoxLayout;
     m_nameLabel = CreateLabel("networkNameLabel");
-    m_nameLabel->setText(tr(QLatin1String("IDS_LIST_NETWORK_NAME")));
+    m_nameLabel->setText(text);
     m_nameBox = new QComboBox(this);
     m_nameBox->setObjectName(QLatin1String("networkNameBox"));
-    m_nameBox->setAccessibleName(tr(QLatin1String("IDS_LIST_NETWORK_NAME")));
+    m_nameBox->setAccessibleName(text);
     m_nameBox->setContextMenuPolicy(Qt::NoContextMenu);
     m_nameBox->setEditable(true);
     // A long name in range must not push the other fields out of the dialog.
@@ -258,10 +265,11 @@ void QNewPriorityWidget::CreateNetworkName()
 
 void QNewPriorityWidget::CreateNetPassword()
 {
+    const QString text = tr(QLatin1String("IDS_KEY"));
     m_keyColumn = new QVBoxLayout;
     m_keyLabel = CreateLabel("keyLabel");
-    m_keyLabel->setText(tr(QLatin1String("IDS_KEY")));
-    m_keyField = CreateKeyField("keyEdit", "IDS_KEY");
+    m_keyLabel->setText(text);
+    m_keyField = CreateKeyField("keyEdit", text);
     m_keyLabel->setBuddy(m_keyField);
     m_keyColumn->addWidget(m_keyLabel);
     m_keyColumn->addWidget(m_keyField);
@@ -271,10 +279,11 @@ void QNewPriorityWidget::CreateNetPassword()
 
 void QNewPriorityWidget::CreateConfNetworkKey()
 {
+    const QString text = tr(QLatin1String("IDS_KEY_CONFIRM"));
     m_confirmColumn = new QVBoxLayout;
     m_confirmLabel = CreateLabel("confirmKeyLabel");
-    m_confirmLabel->setText(tr(QLatin1String("IDS_KEY_CONFIRM")));
-    m_confirmField = CreateKeyField("confirmKeyEdit", "IDS_KEY_CONFIRM");
+    m_confirmLabel->setText(text);
+    m_confirmField = CreateKeyField("confirmKeyEdit", text);
     m_confirmLabel->setBuddy(m_confirmField);
     m_confirmColumn->addWidget(m_confirmLabel);
     m_confirmColumn->addWidget(m_confirmField);
@@ -517,10 +526,11 @@ bool QNewPriorityWidget::CheckPasswordAndAuth()
 // The dialog itself may be gone when this returns.
 void QNewPriorityWidget::ShowNotice(const char *id)
 {
-    CommonUtils::ShowMessage(QMessageBox::Information, this, tr(QLatin1String("IDS_PROFILE_BOX_TITLE")),
-                             tr(QLatin1String(id)), QLatin1String("IDS_OK"), QString::fromLatin1(""),
-                             QString::fromLatin1(""), true, Qt::WindowCloseButtonHint, nullptr, QString(),
-                             true);
+    const QString title = tr(QLatin1String("IDS_PROFILE_BOX_TITLE"));
+    const QString text = tr(QLatin1String(id));
+    CommonUtils::ShowMessage(QMessageBox::Information, this, title, text, QLatin1String("IDS_OK"),
+                             QString::fromLatin1(""), QString::fromLatin1(""), true,
+                             Qt::WindowCloseButtonHint, nullptr, QString(), true);
 }
 
 void QNewPriorityWidget::OnOK()
@@ -621,28 +631,8 @@ void QNewPriorityWidget::closeEvent(QCloseEvent *)
     }
 }
 
-void QNewPriorityWidget::hideEvent(QHideEvent *event)
-{
-    // However the dialog was closed; a window that is only minimised keeps its fields.
-    if (!event->spontaneous()) {
-        WipeKeys();
-    }
-    QWidget::hideEvent(event);
-}
-
-void QNewPriorityWidget::WipeKeys()
-{
-    if (m_keyField) {
-        KeyMaterial::Wipe(m_keyField);
-    }
-    if (m_confirmField) {
-        KeyMaterial::Wipe(m_confirmField);
-    }
-}
-
 void QNewPriorityWidget::release()
 {
-    QWidget *buttonBar = m_buttonBar;
     m_nameRow = nullptr;
     m_nameLabel = nullptr;
     m_nameBox = nullptr;
@@ -652,7 +642,7 @@ void QNewPriorityWidget::release()
     m_confirmLabel = nullptr;
     m_confirmField = nullptr;
     m_confirmColumn = nullptr;
-    m_buttonBar = nullptr;
+    delete m_buttonBar;
     m_okButton = nullptr;
     m_cancelButton = nullptr;
     m_buttonRow = nullptr;
@@ -667,7 +657,6 @@ void QNewPriorityWidget::release()
     m_keyIndexBox = nullptr;
     m_securityRow = nullptr;
     m_page = nullptr;
-    delete buttonBar;
 }
 
 QNewPriorityWidgetEx::QNewPriorityWidgetEx(QWidget *parent, Qt::WindowFlags flags)

@@ -103,13 +103,12 @@ public slots:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
-    void hideEvent(QHideEvent *event) override;
 
 private:
     Q_DISABLE_COPY(QNewPriorityWidget)
 
     QLabel *CreateLabel(const char *objectName);
-    ExtendLineEdit *CreateKeyField(const char *objectName, const char *id);
+    ExtendLineEdit *CreateKeyField(const char *objectName, const QString &name);
     void CreateChoice(QVBoxLayout *column, const QString &name, const char *id, int maxCount,
                       QPointer<QLabel> &label, QPointer<QComboBox> &box);
     QPushButton *CreateButton(const char *objectName, const char *id, const char *slot);
@@ -118,9 +117,6 @@ private:
     void ShowKeyIndex(bool shown);
     void EnableKeyIndex(bool enabled);
     void ShowNotice(const char *id);
-
-    /** A dialog that is closed stays until the next one is opened; the key in it doesn't. */
-    void WipeKeys();
 
     /** Item i of the name box is entry i. */
     QList<WlanAvilableNetworkInfo> m_networks;
