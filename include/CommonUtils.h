@@ -23,7 +23,8 @@ public:
 
     /**
      * Sets label's text to text, shortened with an ellipsis where it doesn't fit label's width. Set the
-     * label's width and font before. A null label does nothing.
+     * label's width and font before. A null label does nothing. text may be a name of any length, megabytes
+     * too: what can't be seen of it is not to be laid out.
      */
     static void ElidedText(QLabel *label, QString text, Qt::TextElideMode mode);
 

@@ -37,8 +37,9 @@ public:
      * Shows the page as a child of parent.
      *
      * @param parent  not owned; takes the page as its child until the page is hidden. Null: nothing is shown.
-     * @param rect    where, in parent's coordinates and pixels. Only the top left corner counts: the page has
-     * a fixed size of 420 x 374.
+     * @param rect    where, in parent's coordinates and pixels. Only the top left corner counts: the page is
+     * 420 x 374 each time it is shown. A host that resizes it afterwards cuts off what is in it or adds empty
+     * room, as its content keeps that size.
      * @return false when there is no page any more, that is after OnDestroy. The page freshly loads its
      * content each time it is shown, and nothing in it is selected.
      */

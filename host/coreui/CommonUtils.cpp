@@ -13,6 +13,25 @@
 namespace
 {
 
+// Far more than fits; laying out a text of megabytes would hold up the dashboard.
+const int mostCharactersShown = 4096;
+
+/** The ends of text that mode shows, with an ellipsis in the place of the rest. */
+QString ShownEnds(const QString &text, Qt::TextElideMode mode)
+{
+    const QChar ellipsis(0x2026);
+    if (text.size() <= mostCharactersShown) {
+        return text;
+    }
+    if (mode == Qt::ElideLeft) {
+        return ellipsis + text.right(mostCharactersShown);
+    }
+    if (mode == Qt::ElideMiddle) {
+        return text.left(mostCharactersShown / 2) + ellipsis + text.right(mostCharactersShown / 2);
+    }
+    return text.left(mostCharactersShown) + ellipsis;
+}
+
 /** One line as it reads: line breaks, tabs and other control characters are shown as blanks. */
 QString OneLine(QString text)
 {
@@ -58,7 +77,8 @@ void CommonUtils::ElidedText(QLabel *label, QString text, Qt::TextElideMode mode
         return;
     }
     label->setTextFormat(Qt::PlainText);
-    label->setText(Elided(OneLine(text), mode, label->fontMetrics(), TextWidth(label)));
+    const QString line = OneLine(ShownEnds(text, mode));
+    label->setText(Elided(line, mode, label->fontMetrics(), TextWidth(label)));
 }
 
 int CommonUtils::ShowMessage(QMessageBox::Icon icon, QWidget *parent, QString title, QString text,

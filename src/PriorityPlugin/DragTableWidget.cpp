@@ -1,6 +1,7 @@
 #include "DragTableWidget.h"
 
 #include <QHeaderView>
+#include <QMouseEvent>
 
 namespace
 {
@@ -26,24 +27,35 @@ void AskForNoPaintingWithin(QWidget *container, bool none)
     }
 }
 
+class BesideRows : public QObject
+{
+public:
+    explicit BesideRows(QTableWidget *table) : QObject(table), m_table(table)
+    {
+        table->viewport()->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        switch (event->type()) {
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::MouseMove:
+            return !m_table->indexAt(static_cast<QMouseEvent *>(event)->pos()).isValid();
+        default:
+            return QObject::eventFilter(watched, event);
+        }
+    }
+
+private:
+    QTableWidget *m_table;
+};
+
 } // namespace
 
 DragTableWidget::DragTableWidget(QWidget *parent) : QTableWidget(parent) {}
 
 DragTableWidget::~DragTableWidget() = default;
-
-/*
- * A click beside the rows leaves the page's selected row as it is. Some generations of the toolkit would take
- * the highlight away all the same.
- */
-QItemSelectionModel::SelectionFlags DragTableWidget::selectionCommand(const QModelIndex &index,
-                                                                      const QEvent *event) const
-{
-    if (event && !index.isValid()) {
-        return QItemSelectionModel::NoUpdate;
-    }
-    return QTableWidget::selectionCommand(index, event);
-}
 
 void SetUpListTable(QTableWidget *table)
 {
@@ -56,6 +68,11 @@ void SetUpListTable(QTableWidget *table)
     table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->setSelectionMode(QAbstractItemView::SingleSelection);
+}
+
+void IgnoreMouseBesideRows(QTableWidget *table)
+{
+    new BesideRows(table);
 }
 
 void SetRowWidget(QTableWidget *table, int row, QWidget *widget)

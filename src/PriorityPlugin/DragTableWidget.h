@@ -10,15 +10,15 @@ class DragTableWidget : public QTableWidget
 public:
     explicit DragTableWidget(QWidget *parent);
     ~DragTableWidget() override;
-
-protected:
-    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index,
-                                                         const QEvent *event) const override;
 };
 
 /** What the tables of both lists have in common: one column of cell widgets, nothing to edit, one row at a
  * time. */
 void SetUpListTable(QTableWidget *table);
+
+/** A click beside the rows leaves the highlight as it is. Some generations of the toolkit would take it away.
+ */
+void IgnoreMouseBesideRows(QTableWidget *table);
 
 /** Puts widget, which the table owns from then on, into the row's only cell. */
 void SetRowWidget(QTableWidget *table, int row, QWidget *widget);

@@ -16,8 +16,8 @@ namespace
 
 const int nameWidth = 200;
 
-// Far more than fits; laying out a name of megabytes would hold up the host.
-const int mostCharactersShown = 4096;
+// Far more than anyone reads; laying out a name of megabytes would hold up the host.
+const int longestToolTip = 4096;
 
 QString SourcePath()
 {
@@ -36,11 +36,11 @@ void Place(QWidget *child, const QPoint &leftToRight, const QPoint &rightToLeft,
     }
 }
 
-QLabel *CreateIconLabel(QWidget *row, const QPixmap &icon)
+QLabel *CreateIconLabel(QWidget *row, const QString &iconPath)
 {
     QLabel *label = new QLabel(row);
     label->setObjectName(QLatin1String("rowIcon"));
-    label->setPixmap(icon);
+    label->setPixmap(QPixmap(iconPath));
     return label;
 }
 
@@ -65,11 +65,10 @@ QString PlainToolTip(const QString &text)
 
 void ShowElidedName(QWidget *row, QLabel *label, const QString &name)
 {
-    const QString shown = name.left(mostCharactersShown);
-    CommonUtils::ElidedText(label, shown, Qt::ElideRight);
+    CommonUtils::ElidedText(label, name, Qt::ElideRight);
     row->setAccessibleName(name);
     if (label->text() != name) {
-        row->setToolTip(PlainToolTip(shown));
+        row->setToolTip(PlainToolTip(name.left(longestToolTip)));
     }
 }
 
@@ -91,16 +90,11 @@ PriorityListItem::~PriorityListItem()
 
 void PriorityListItem::UpdateLabelContents(QString strIcon, QString strName)
 {
-    UpdateLabelContents(strIcon, strName, QPixmap(strIcon));
-}
-
-void PriorityListItem::UpdateLabelContents(QString strIcon, QString strName, const QPixmap &icon)
-{
     CFunctonTrick trick(SourcePath(), QLatin1String("UpdateLabelContents"), ",strIcon:%s,strName:%s",
                         strIcon.toUtf8().constData(), strName.toUtf8().constData());
-    m_iconLabel = CreateIconLabel(this, icon);
+    m_iconLabel = CreateIconLabel(this, strIcon);
     m_nameLabel = CreateNameLabel(this);
-    m_nameLabel->setText(strName.left(mostCharactersShown));
+    m_nameLabel->setText(strName);
     ShowElidedName(this, m_nameLabel, strName);
 
     QString language = Change::GetLangName();
@@ -131,17 +125,12 @@ RememberListItem::~RememberListItem()
 
 void RememberListItem::UpdateLabelContents(QString strIcon, QString strName)
 {
-    UpdateLabelContents(QPixmap(strIcon), strName);
-}
-
-void RememberListItem::UpdateLabelContents(const QPixmap &icon, const QString &name)
-{
     m_checkBox = new QCheckBox(this);
     m_checkBox->setObjectName(QLatin1String("rowCheckBox"));
-    m_checkBox->setAccessibleName(name);
-    m_iconLabel = CreateIconLabel(this, icon);
+    m_checkBox->setAccessibleName(strName);
+    m_iconLabel = CreateIconLabel(this, strIcon);
     m_nameLabel = CreateNameLabel(this);
-    ShowElidedName(this, m_nameLabel, name);
+    ShowElidedName(this, m_nameLabel, strName);
     SetLanguage(Change::GetLangName());
 }
 

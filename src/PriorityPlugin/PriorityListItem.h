@@ -19,9 +19,6 @@ public:
     /** Makes and fills the labels; to be called once. An icon that can't be loaded stays empty. */
     void UpdateLabelContents(QString strIcon, QString strName);
 
-    /** The same with the icon of file strIcon, loaded already. */
-    void UpdateLabelContents(QString strIcon, QString strName, const QPixmap &icon);
-
     void SetLanguage(QString &lang);
 
     /** Null before UpdateLabelContents. */
@@ -44,9 +41,6 @@ public:
 
     /** Makes and fills the children; to be called once. An icon that can't be loaded stays empty. */
     void UpdateLabelContents(QString strIcon, QString strName);
-
-    /** The same with the icon loaded already. */
-    void UpdateLabelContents(const QPixmap &icon, const QString &name);
 
     void SetLanguage(QString lang);
 

@@ -13,9 +13,7 @@
 #include <QCheckBox>
 #include <QFocusEvent>
 #include <QHBoxLayout>
-#include <QPixmap>
 #include <QPushButton>
-#include <QSet>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
@@ -28,17 +26,6 @@ const int switchUnknown = -1;
 bool IsWifi(const RememberedList &network)
 {
     return network.type == QString::number(1);
-}
-
-/** To ask about many names; about a single one the list itself is asked. */
-template <typename Record> QSet<QString> Names(const QList<Record> &records)
-{
-    QSet<QString> names;
-    names.reserve(records.size());
-    for (int i = 0; i < records.size(); ++i) {
-        names.insert(records.at(i).name);
-    }
-    return names;
 }
 
 RememberListItem *RowItem(const QTableWidget *table, int row)
@@ -127,6 +114,13 @@ void QAddPriorityWidget::Init()
     SetRememberedList();
 }
 
+void QAddPriorityWidget::NameTable(const QString &name)
+{
+    if (m_table) {
+        m_table->setAccessibleName(name);
+    }
+}
+
 QString QAddPriorityWidget::tr(QString id)
 {
     return Change::tr(id, QLatin1String("PriorityPlugin"));
@@ -145,7 +139,6 @@ void QAddPriorityWidget::CreateAllWidget()
     }
     m_table = new QTableWidget(this);
     m_table->setObjectName(QLatin1String("rememberTable"));
-    m_table->setAccessibleName(tr(QLatin1String("IDS_PROFILE_ADD_TITLE")));
     m_mainLayout->addWidget(m_table);
     m_buttonBar = new QWidget(this);
     m_buttonBar->setObjectName(QLatin1String("addButtonBar"));
@@ -196,10 +189,9 @@ void QAddPriorityWidget::SetRememberedList()
 
 void QAddPriorityWidget::SetTabItem()
 {
-    const QSet<QString> listed = m_priorityList ? Names(*m_priorityList) : QSet<QString>();
     QList<RememberedList> shown;
     for (int i = 0; i < m_candidates.size(); ++i) {
-        if (!listed.contains(m_candidates.at(i).name)) {
+        if (IsRemeberPriority(m_candidates.at(i).name)) {
             shown.append(m_candidates.at(i));
         }
     }
@@ -209,12 +201,10 @@ void QAddPriorityWidget::SetTabItem()
     }
     // Every row inserted re-places all cell widgets there are, so all rows come before the first of these.
     m_table->model()->insertRows(0, shown.size());
-    const QPixmap wifiIcon(m_wifiIconPath);
-    const QPixmap mobileIcon(m_mobileIconPath);
     for (int row = 0; row < shown.size(); ++row) {
         const RememberedList &network = shown.at(row);
         RememberListItem *item = new RememberListItem;
-        item->UpdateLabelContents(IsWifi(network) ? wifiIcon : mobileIcon, network.name);
+        item->UpdateLabelContents(IsWifi(network) ? m_wifiIconPath : m_mobileIconPath, network.name);
         SetRowWidget(m_table, row, item);
     }
     MakeRowsReachable();
@@ -238,37 +228,36 @@ void QAddPriorityWidget::CheckRememberList(const QList<RememberedList> *list)
 {
     PriorityXMLParser *store = PriorityXMLParser::GetInstance();
     const int mobile = store ? store->GetEnable3GValue() : switchUnknown;
-    QSet<QString> taken = Names(m_candidates);
     for (int i = 0; i < list->size(); ++i) {
         const RememberedList &network = list->at(i);
-        if (!taken.contains(network.name) && (IsWifi(network) || mobile == mobileEnabled)) {
+        if (!IsRepeatNetworkName(network.name) && (IsWifi(network) || mobile == mobileEnabled)) {
             m_candidates.append(network);
-            taken.insert(network.name);
+            m_takenNames.insert(network.name);
         }
     }
 }
 
 bool QAddPriorityWidget::IsRepeatNetworkName(const QString &name)
 {
-    for (int i = 0; i < m_candidates.size(); ++i) {
-        if (m_candidates.at(i).name == name) {
-            return true;
+    return m_takenNames.contains(name);
+}
+
+const QSet<QString> &QAddPriorityWidget::ListedNames()
+{
+    if (!m_namedList.isSharedWith(*m_priorityList)) {
+        m_namedList = *m_priorityList;
+        m_listedNames.clear();
+        m_listedNames.reserve(m_namedList.size());
+        for (int i = 0; i < m_namedList.size(); ++i) {
+            m_listedNames.insert(m_namedList.at(i).name);
         }
     }
-    return false;
+    return m_listedNames;
 }
 
 bool QAddPriorityWidget::IsRemeberPriority(const QString &name)
 {
-    if (!m_priorityList) {
-        return true;
-    }
-    for (int i = 0; i < m_priorityList->size(); ++i) {
-        if (m_priorityList->at(i).name == name) {
-            return false;
-        }
-    }
-    return true;
+    return !m_priorityList || !ListedNames().contains(name);
 }
 
 void QAddPriorityWidget::SendPriorityList()
@@ -362,5 +351,12 @@ void QAddPriorityWidgetEx::Init()
 {
     if (m_body) {
         m_body->Init();
+    }
+}
+
+void QAddPriorityWidgetEx::NameTable(const QString &name)
+{
+    if (m_body) {
+        m_body->NameTable(name);
     }
 }

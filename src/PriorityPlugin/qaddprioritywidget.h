@@ -7,6 +7,7 @@
 
 #include <QList>
 #include <QPointer>
+#include <QSet>
 #include <QWidget>
 
 class QAddPriorityWidgetEx;
@@ -38,6 +39,9 @@ public:
 
     /** Builds the widgets and fills the table; to be called once. */
     void Init();
+
+    /** What screen readers call the table. */
+    void NameTable(const QString &name);
 
     QString tr(QString id);
 
@@ -74,6 +78,7 @@ private:
 
     QPushButton *CreateButton(const char *objectName, const char *id, const char *slot);
     void MakeRowsReachable();
+    const QSet<QString> &ListedNames();
 
     QPointer<QPushButton> m_okButton;
     QPointer<QPushButton> m_cancelButton;
@@ -91,6 +96,13 @@ private:
     QString m_wifiIconPath;
     QString m_mobileIconPath;
     QAddPriorityWidgetEx *m_frame;
+
+    /** The names of m_candidates. */
+    QSet<QString> m_takenNames;
+
+    /** The names of m_namedList, which shares its memory with the priority list until that is changed. */
+    QSet<QString> m_listedNames;
+    QList<PriorityList> m_namedList;
 };
 
 /** Frame of the add dialog. Its operations are those of the body. */
@@ -104,6 +116,7 @@ public:
     void SetRememberList(QList<PriorityList> *list);
     void SetMsgParnet(QPriorityWidget *page);
     void Init();
+    void NameTable(const QString &name);
 
 private:
     Q_DISABLE_COPY(QAddPriorityWidgetEx)

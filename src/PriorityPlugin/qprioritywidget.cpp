@@ -17,7 +17,6 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QPixmap>
 #include <QPointer>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -38,13 +37,6 @@ QString SourcePath()
 bool IsWifi(const PriorityList &entry)
 {
     return entry.type == QString::number(1);
-}
-
-template <typename Widget> void SetText(Widget *widget, const QString &text)
-{
-    if (widget) {
-        widget->setText(text);
-    }
 }
 
 void SetDirection(QWidget *widget, Qt::LayoutDirection direction)
@@ -79,10 +71,12 @@ QPriorityWidget *QPriorityWidget::GetInstance()
 
 void QPriorityWidget::Destroy()
 {
-    // Marked first: nothing that runs while the page goes away may make another one.
-    _bDestoryed_ = true;
     delete _pPriorityWidget_;
+    // Whoever asked for the page while it went away has had another one made.
+    QPriorityWidget *madeMeanwhile = _pPriorityWidget_;
     _pPriorityWidget_ = nullptr;
+    _bDestoryed_ = true;
+    delete madeMeanwhile;
 }
 
 QPriorityWidget::QPriorityWidget()
@@ -98,10 +92,11 @@ QPriorityWidget::QPriorityWidget()
 
 QPriorityWidget::~QPriorityWidget()
 {
-    release();
+    // First: nobody is to be given a page that goes away.
     if (_pPriorityWidget_ == this) {
         _pPriorityWidget_ = nullptr;
     }
+    release();
 }
 
 void QPriorityWidget::Init()
@@ -129,6 +124,14 @@ QString QPriorityWidget::tr(QString id)
     return Change::tr(id, QLatin1String("PriorityPlugin"));
 }
 
+/** A widget that is missing asks for no text. */
+template <typename Widget> void QPriorityWidget::Translate(Widget *widget, const char *id)
+{
+    if (widget) {
+        widget->setText(tr(QLatin1String(id)));
+    }
+}
+
 bool QPriorityWidget::CreateLayout()
 {
     m_mainLayout = new QHBoxLayout;
@@ -150,19 +153,23 @@ void QPriorityWidget::CreateAllWidget()
     m_frame = new QFrame(m_leftPanel);
     m_frame->setObjectName(QLatin1String("listFrame"));
     m_frame->setFrameStyle(QFrame::StyledPanel);
-    m_leftPanelLayout->addWidget(m_frame);
-    m_leftPanel->setLayout(m_leftPanelLayout);
+    if (m_leftPanelLayout) {
+        m_leftPanelLayout->addWidget(m_frame);
+        m_leftPanel->setLayout(m_leftPanelLayout);
+    }
     m_leftPanel->setFixedWidth(315);
     ToolkitCompat::AllowNegativeMargins(m_leftPanel);
     m_leftPanel->setContentsMargins(-9, -7, 0, 0);
 
-    m_buttonColumn = new QWidget(m_mainContainer);
-    m_buttonColumn->setObjectName(QLatin1String("buttonColumn"));
-    m_mainLayout->addWidget(m_leftPanel);
-    m_mainLayout->addStretch(0);
-    m_mainLayout->addWidget(m_buttonColumn);
-    m_mainContainer->setLayout(m_mainLayout);
-    m_buttonColumn->setFixedWidth(100);
+    if (m_mainLayout) {
+        m_buttonColumn = new QWidget(m_mainContainer);
+        m_buttonColumn->setObjectName(QLatin1String("buttonColumn"));
+        m_mainLayout->addWidget(m_leftPanel);
+        m_mainLayout->addStretch(0);
+        m_mainLayout->addWidget(m_buttonColumn);
+        m_mainContainer->setLayout(m_mainLayout);
+        m_buttonColumn->setFixedWidth(100);
+    }
     m_mainContainer->setFixedSize(420, 374);
 }
 
@@ -178,6 +185,9 @@ QPushButton *QPriorityWidget::CreateButton(const char *objectName, const char *i
 
 void QPriorityWidget::CreateAllButton()
 {
+    if (!m_buttonColumn || !m_buttonLayout) {
+        return;
+    }
     m_upButton = CreateButton("upButton", "IDS_PROFILE_UP", SLOT(UpPriority()));
     m_downButton = CreateButton("downButton", "IDS_PROFILE_DOWN", SLOT(DownPriority()));
     m_addButton = CreateButton("addButton", "IDS_PROFILE_ADD", SLOT(AddPriority()));
@@ -189,9 +199,13 @@ void QPriorityWidget::CreateAllButton()
 
 void QPriorityWidget::CreateList()
 {
+    if (!m_frame || !m_frameLayout) {
+        return;
+    }
+    const QString name = tr(QLatin1String("IDS_SETTING_NAME"));
     m_nameLabel = new QLabel(m_frame);
     m_nameLabel->setObjectName(QLatin1String("nameLabel"));
-    m_nameLabel->setText(tr(QLatin1String("IDS_SETTING_NAME")) + QLatin1Char(':'));
+    m_nameLabel->setText(name + QLatin1Char(':'));
     m_frameLayout->addWidget(m_nameLabel);
 
     m_infoLabel = new QLabel(m_frame);
@@ -205,7 +219,8 @@ void QPriorityWidget::CreateList()
     connect(m_table, SIGNAL(cellClicked(int, int)), this, SLOT(OnCellClicked(int, int)));
     m_frameLayout->addWidget(m_table);
     m_table->installEventFilter(this);
-    m_table->setAccessibleName(tr(QLatin1String("IDS_SETTING_NAME")));
+    IgnoreMouseBesideRows(m_table);
+    m_table->setAccessibleName(name);
     m_nameLabel->setBuddy(m_table);
 
     m_frame->setLayout(m_frameLayout);
@@ -221,16 +236,19 @@ void QPriorityWidget::InitTabWidget()
 
 void QPriorityWidget::SetLanguage()
 {
-    if (!m_mainContainer) {
-        return;
+    Translate(m_upButton.data(), "IDS_PROFILE_UP");
+    Translate(m_downButton.data(), "IDS_PROFILE_DOWN");
+    Translate(m_deleteButton.data(), "IDS_PROFILE_DELETE");
+    Translate(m_addButton.data(), "IDS_PROFILE_ADD");
+    if (m_nameLabel) {
+        const QString name = tr(QLatin1String("IDS_SETTING_NAME"));
+        m_nameLabel->setText(name + QLatin1Char(':'));
+        if (m_table) {
+            m_table->setAccessibleName(name);
+        }
     }
-    SetText(m_upButton.data(), tr(QLatin1String("IDS_PROFILE_UP")));
-    SetText(m_downButton.data(), tr(QLatin1String("IDS_PROFILE_DOWN")));
-    SetText(m_deleteButton.data(), tr(QLatin1String("IDS_PROFILE_DELETE")));
-    SetText(m_addButton.data(), tr(QLatin1String("IDS_PROFILE_ADD")));
-    SetText(m_nameLabel.data(), tr(QLatin1String("IDS_SETTING_NAME")) + QLatin1Char(':'));
-    SetText(m_infoLabel.data(), tr(QLatin1String("IDS_PROFILE_INFO")));
-    SetText(m_newButton.data(), tr(QLatin1String("IDS_PROFILE_NEW")));
+    Translate(m_infoLabel.data(), "IDS_PROFILE_INFO");
+    Translate(m_newButton.data(), "IDS_PROFILE_NEW");
 
     SetDirection(m_leftPanel, layoutDirection());
     SetDirection(m_buttonColumn, layoutDirection());
@@ -238,7 +256,6 @@ void QPriorityWidget::SetLanguage()
     if (!m_table) {
         return;
     }
-    m_table->setAccessibleName(tr(QLatin1String("IDS_SETTING_NAME")));
     QString language = Change::GetLangName();
     for (int row = 0; row < m_table->rowCount(); ++row) {
         // The page puts nothing else into its cells.
@@ -258,6 +275,10 @@ bool QPriorityWidget::ShowSettingDialog(QWidget *parent, QRect &rect)
     UpdataPriorityList();
     setParent(parent);
     move(rect.topLeft());
+    if (m_mainContainer) {
+        // Whatever size a host gave it before.
+        resize(m_mainContainer->size());
+    }
     {
         const ShownAsOne shown(this);
         setVisible(true);
@@ -338,18 +359,12 @@ void QPriorityWidget::UpdataTabItem()
     if (!m_table) {
         return;
     }
-    const QPixmap wifiIcon(m_wifiIconPath);
-    const QPixmap mobileIcon(m_mobileIconPath);
     // Every row inserted re-places all cell widgets there are, so all rows come before the first of these.
     m_table->setRowCount(m_workingList.size());
     for (int row = 0; row < m_workingList.size(); ++row) {
         const PriorityList &entry = m_workingList.at(row);
         PriorityListItem *item = new PriorityListItem;
-        if (IsWifi(entry)) {
-            item->UpdateLabelContents(m_wifiIconPath, entry.name, wifiIcon);
-        } else {
-            item->UpdateLabelContents(m_mobileIconPath, entry.name, mobileIcon);
-        }
+        item->UpdateLabelContents(IsWifi(entry) ? m_wifiIconPath : m_mobileIconPath, entry.name);
         SetRowWidget(m_table, row, item);
     }
     if (m_table->isVisible()) {
@@ -509,10 +524,12 @@ void QPriorityWidget::RemovePriority()
 {
     if (m_selectedRow >= 0 && m_selectedRow < m_workingList.size()) {
         const QPointer<QPriorityWidget> alive(this);
-        const int answer = CommonUtils::ShowMessage(
-            QMessageBox::Question, this, tr(QLatin1String("IDS_PROFILE_BOX_TITLE")),
-            tr(QLatin1String("IDS_WARNING_DELETE")), QLatin1String("IDS_OK"), QLatin1String("IDS_CANCEL"),
-            QString::fromLatin1(""), true, Qt::WindowCloseButtonHint, nullptr, QString(), true);
+        const QString title = tr(QLatin1String("IDS_PROFILE_BOX_TITLE"));
+        const QString question = tr(QLatin1String("IDS_WARNING_DELETE"));
+        const int answer =
+            CommonUtils::ShowMessage(QMessageBox::Question, this, title, question, QLatin1String("IDS_OK"),
+                                     QLatin1String("IDS_CANCEL"), QString::fromLatin1(""), true,
+                                     Qt::WindowCloseButtonHint, nullptr, QString(), true);
         if (!alive) {
             return;
         }
@@ -541,7 +558,9 @@ void QPriorityWidget::AddPriority()
     m_addDialog->SetRememberList(&m_workingList);
     m_addDialog->SetMsgParnet(this);
     m_addDialog->Init();
-    m_addDialog->setWindowTitle(tr(QLatin1String("IDS_PROFILE_ADD_TITLE")));
+    const QString title = tr(QLatin1String("IDS_PROFILE_ADD_TITLE"));
+    m_addDialog->setWindowTitle(title);
+    m_addDialog->NameTable(title);
     m_addDialog->setModal(true);
     m_addDialog->setFixedSize(306, 341);
     {

@@ -87,6 +87,7 @@ public slots:
 private:
     Q_DISABLE_COPY(QPriorityWidget)
 
+    template <typename Widget> void Translate(Widget *widget, const char *id);
     QPushButton *CreateButton(const char *objectName, const char *id, const char *slot);
 
     static QPriorityWidget *_pPriorityWidget_;

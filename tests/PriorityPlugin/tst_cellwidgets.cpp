@@ -20,6 +20,8 @@ private slots:
     void filledRow();
     void rowWithoutIconFileShowsTheName();
     void longNameIsElidedWithToolTip();
+    void hostGetsTheWholeOfALongName();
+    void toolTipIsNoLongerThanCanBeRead();
     void shortNameHasNoToolTip();
     void nameIsNoMarkup();
     void toolTipIsNoMarkup();
@@ -102,6 +104,24 @@ void tst_CellWidgets::longNameIsElidedWithToolTip()
     remember.UpdateLabelContents(m_wifi, name);
     QCOMPARE(remember.toolTip(), name);
     QCOMPARE(remember.accessibleName(), name);
+}
+
+void tst_CellWidgets::hostGetsTheWholeOfALongName()
+{
+    const QString name(5000, QChar('n'));
+    PriorityListItem item;
+    item.UpdateLabelContents(m_wifi, name);
+    RememberListItem remember;
+    remember.UpdateLabelContents(m_wifi, name);
+    QCOMPARE(StandInHost::elidedTexts, QList<QString>() << name << name);
+    QCOMPARE(item.accessibleName(), name);
+}
+
+void tst_CellWidgets::toolTipIsNoLongerThanCanBeRead()
+{
+    PriorityListItem item;
+    item.UpdateLabelContents(m_wifi, QString(5000, QChar('n')));
+    QCOMPARE(item.toolTip(), QString(4096, QChar('n')));
 }
 
 void tst_CellWidgets::shortNameHasNoToolTip()

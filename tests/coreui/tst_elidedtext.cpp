@@ -3,6 +3,9 @@
 #include <QLabel>
 #include <QtTest>
 
+#include <algorithm>
+#include <ctime>
+
 namespace
 {
 
@@ -16,6 +19,22 @@ QString LongName()
 int WidthOf(const QLabel &label)
 {
     return label.fontMetrics().boundingRect(label.text()).width();
+}
+
+/** The best of five, in the processor's time, of showing a text of that length. */
+std::clock_t TimeOf(int length)
+{
+    QLabel label;
+    label.setFixedWidth(200);
+    const QString text(length, QLatin1Char('n'));
+    std::clock_t best = 0;
+    for (int round = 0; round < 5; ++round) {
+        const std::clock_t begin = std::clock();
+        CommonUtils::ElidedText(&label, text, Qt::ElideRight);
+        const std::clock_t elapsed = std::clock() - begin;
+        best = round == 0 ? elapsed : std::min(best, elapsed);
+    }
+    return best;
 }
 
 } // namespace
@@ -36,6 +55,9 @@ private slots:
     void textIsShownLiterally();
     void lineBreaksAndTabsAreBlanks_data();
     void lineBreaksAndTabsAreBlanks();
+    void longTextKeepsTheEndsThatItsModeShows_data();
+    void longTextKeepsTheEndsThatItsModeShows();
+    void lengthThatCannotBeSeenCostsNothing();
     void nullLabelIsHarmless();
 };
 
@@ -160,6 +182,39 @@ void TestElidedText::lineBreaksAndTabsAreBlanks()
     CommonUtils::ElidedText(&label, QLatin1String("two") + separator + QLatin1String("lines"),
                             Qt::ElideRight);
     QCOMPARE(label.text(), QString(QLatin1String("two lines")));
+}
+
+void TestElidedText::longTextKeepsTheEndsThatItsModeShows_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<QString>("start");
+    QTest::addColumn<QString>("end");
+    QTest::newRow("left") << static_cast<int>(Qt::ElideLeft) << QString(ellipsis) << "end";
+    QTest::newRow("right") << static_cast<int>(Qt::ElideRight) << "start" << QString(ellipsis);
+    QTest::newRow("middle") << static_cast<int>(Qt::ElideMiddle) << "start"
+                            << "end";
+}
+
+void TestElidedText::longTextKeepsTheEndsThatItsModeShows()
+{
+    QFETCH(int, mode);
+    QFETCH(QString, start);
+    QFETCH(QString, end);
+    QLabel label;
+    label.setFixedWidth(200);
+    const QString text = QLatin1String("start") + QString(10000, QLatin1Char('n')) + QLatin1String("end");
+    CommonUtils::ElidedText(&label, text, static_cast<Qt::TextElideMode>(mode));
+    QVERIFY2(label.text().startsWith(start), qPrintable(label.text()));
+    QVERIFY2(label.text().endsWith(end), qPrintable(label.text()));
+    QCOMPARE(label.text().count(ellipsis), 1);
+    QVERIFY(WidthOf(label) <= 200);
+}
+
+void TestElidedText::lengthThatCannotBeSeenCostsNothing()
+{
+    const double growth = double(TimeOf(2000000)) / double(TimeOf(10000));
+    qDebug("two hundred times the text takes %.1f times the time", growth);
+    QVERIFY2(growth < 20, qPrintable(QString::number(growth)));
 }
 
 void TestElidedText::nullLabelIsHarmless()

@@ -1,12 +1,10 @@
 #include <LoadedPlugin.h>
 #include <StandInHost.h>
 #include <TemporaryDirectory.h>
-#include <TraceCapture.h>
 
 #include <QElapsedTimer>
 #include <QFile>
 #include <QScopedPointer>
-#include <QTableWidget>
 #include <QtTest>
 
 #include <csignal>
@@ -35,7 +33,6 @@ private slots:
     void sizeIsPaidForOnce_data();
     void sizeIsPaidForOnce();
     void hundredMegabytesInOneAttribute();
-    void longNameOnThePage();
     void whatIsNoFileIsNotOpened_data();
     void whatIsNoFileIsNotOpened();
     void whatIsNoFileIsReplaced_data() { whatIsNoFileIsNotOpened_data(); }
@@ -45,7 +42,6 @@ private slots:
 private:
     int Read(QList<PriorityList> *list) { return m_plugin.Priority()->GetPriorityList(list); }
     qint64 TimeOfReading(const QByteArray &xml);
-    qint64 TimeOfShowing(int nameLength);
     void MakeNoFile(const QString &kind);
 
     QScopedPointer<TemporaryDirectory> m_directory;
@@ -218,39 +214,6 @@ void tst_HostileFiles::hundredMegabytesInOneAttribute()
     qDebug("100 MB in one attribute: %ld MB of memory", usage.ru_maxrss / 1024);
     // Two bytes a character, once in the reader, once in the entry, and once more while a buffer grows.
     QVERIFY(usage.ru_maxrss < 1500 * 1024);
-}
-
-qint64 tst_HostileFiles::TimeOfShowing(int nameLength)
-{
-    m_directory->Write("Priority.xml", "<r><item type='1' name='" + QByteArray(nameLength, 'n') + "'/></r>");
-    QWidget window;
-    window.resize(500, 400);
-    window.show();
-    qint64 shortest = -1;
-    for (int i = 0; i < 3; ++i) {
-        QElapsedTimer timer;
-        timer.start();
-        QRect rect;
-        m_plugin.Setting()->ShowSettingDialog(&window, rect);
-        QCoreApplication::processEvents();
-        const qint64 elapsed = timer.nsecsElapsed();
-        if (shortest < 0 || elapsed < shortest) {
-            shortest = elapsed;
-        }
-    }
-    m_plugin.Setting()->HideSetting();
-    return shortest;
-}
-
-void tst_HostileFiles::longNameOnThePage()
-{
-    const TraceCapture trace;
-    const int length = 1000000;
-    const qint64 reading = TimeOfReading("<r><item type='1' name='" + QByteArray(length, 'n') + "'/></r>");
-    const double ratio = double(TimeOfShowing(length)) / double(reading);
-    qDebug("%.1f", ratio);
-    // Reading, tracing and showing a row of it; laying it all out takes a hundred times as long.
-    QVERIFY2(ratio < 15, qPrintable(QString("showing takes %1 times as long as reading").arg(ratio)));
 }
 
 void tst_HostileFiles::whatIsNoFileIsNotOpened_data()
