@@ -3,6 +3,7 @@
 #include "RootTable.h"
 
 #include <TemporaryDirectory.h>
+#include <ToolkitTest.h>
 #include <TraceCapture.h>
 
 #include <QApplication>
@@ -116,8 +117,7 @@ void RootPositionsTest::OperationsHaveTheirNames()
     QFETCH(int, position);
     const QStringList names = m_library.NamesAt(Part(part), position);
     if (!m_library.HasNames()) {
-        qWarning("the library was stripped: the names of its operations can't be compared");
-        return;
+        SKIP_TEST("the library was stripped: the names of its operations can't be compared");
     }
     QVERIFY2(names.contains(QString("CPriorityPlugin::") + QTest::currentDataTag()),
              qPrintable(names.join(" ")));

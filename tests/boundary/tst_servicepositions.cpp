@@ -4,6 +4,7 @@
 #include "ServiceTable.h"
 
 #include <TemporaryDirectory.h>
+#include <ToolkitTest.h>
 
 #include <QDir>
 #include <QFile>
@@ -175,8 +176,7 @@ void ServicePositionsTest::OperationsHaveTheirNames()
     QFETCH(int, position);
     const QStringList names = m_library.NamesAt(isSetting ? Setting() : Priority(), position);
     if (!m_library.HasNames()) {
-        qWarning("the library was stripped: the names of its operations can't be compared");
-        return;
+        SKIP_TEST("the library was stripped: the names of its operations can't be compared");
     }
     QVERIFY2(names.contains(QString("CPriorityService::") + QTest::currentDataTag()),
              qPrintable(names.join(" ")));

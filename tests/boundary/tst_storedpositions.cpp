@@ -97,8 +97,7 @@ void StoredPositionsTest::CompareName(const QString &expected, void *part, int p
 {
     const QStringList names = m_library.NamesAt(part, position);
     if (!m_library.HasNames()) {
-        qWarning("the library was stripped: the names of its operations can't be compared");
-        return;
+        SKIP_TEST("the library was stripped: the names of its operations can't be compared");
     }
     QVERIFY2(names.contains(expected), qPrintable(names.join(" ")));
 }
