@@ -28,6 +28,7 @@ private slots:
     void tableSettings();
     void rows_data();
     void rows();
+    void blanksMakeAnotherType();
     void switchIsReadOnEveryOpening();
     void shownListCountsNotTheFile();
     void wlanIsAskedOnce();
@@ -183,8 +184,8 @@ void tst_AddDialog::rows_data()
                              << "A B/2"
                              << "A";
     QTest::newRow("other types are mobile") << on << ""
-                                            << "A/0 B/01 C/ D/x"
-                                            << "A/mobile B/mobile C/mobile D/mobile";
+                                            << "A/0 B/01 C/ D/x E/10"
+                                            << "A/mobile B/mobile C/mobile D/mobile E/mobile";
     QTest::newRow("listed") << on << "B"
                             << "A B C"
                             << "A C";
@@ -217,6 +218,16 @@ void tst_AddDialog::rows()
     m_scene.Open("addButton");
     QCOMPARE(Rows().join(" "), expected);
     QCOMPARE(Table()->columnCount(), 1);
+}
+
+void tst_AddDialog::blanksMakeAnotherType()
+{
+    m_scene.UseConfiguration("<c><item name='enable3G' value='1'/></c>");
+    Remember(QStringList() << "A/1 "
+                           << "B/ 1");
+    m_scene.Open("addButton");
+    QCOMPARE(Rows(), QStringList() << "A/mobile"
+                                   << "B/mobile");
 }
 
 void tst_AddDialog::switchIsReadOnEveryOpening()

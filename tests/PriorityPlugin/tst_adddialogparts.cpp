@@ -14,6 +14,9 @@
 #include <QTableWidget>
 #include <QtTest>
 
+#include <algorithm>
+#include <ctime>
+
 /** The add dialog's operations that have no way in from outside, called directly. */
 class tst_AddDialogParts : public QObject
 {
@@ -25,6 +28,7 @@ private slots:
 
     void metaObject();
     void nameIsNotListedYet();
+    void choosingFromManyIsLinear();
     void nameIsTakenAlready();
     void candidatesAddUp();
     void nullListIsIgnored();
@@ -105,6 +109,42 @@ void tst_AddDialogParts::nameIsNotListedYet()
     QVERIFY(!body.IsRemeberPriority(""));
     QVERIFY(body.IsRemeberPriority("a"));
     QVERIFY(body.IsRemeberPriority("A "));
+}
+
+/** The best of three, in the processor's time, of choosing what to offer of count networks, every other
+ * listed. */
+static std::clock_t ChoosingTime(int count)
+{
+    QList<RememberedList> remembered;
+    QList<PriorityList> listed;
+    for (int i = 0; i < count; ++i) {
+        RememberedList network;
+        network.name = QString("network %1").arg(i);
+        network.type = "1";
+        remembered << network;
+        if (i % 2 == 0) {
+            listed << Entry(network.name);
+        }
+    }
+    std::clock_t best = 0;
+    for (int round = 0; round < 3; ++round) {
+        QAddPriorityWidget body(nullptr, Qt::WindowFlags());
+        body.SetRememberList(&listed);
+        const std::clock_t begin = std::clock();
+        body.CheckRememberList(&remembered);
+        body.SetTabItem();
+        const std::clock_t elapsed = std::clock() - begin;
+        best = round == 0 ? elapsed : std::min(best, elapsed);
+    }
+    return best;
+}
+
+void tst_AddDialogParts::choosingFromManyIsLinear()
+{
+    const double growth = double(ChoosingTime(16000)) / double(ChoosingTime(2000));
+    qDebug("eight times the networks take %.1f times the time", growth);
+    // Linear is 8, and some more where memory is slow; quadratic 64.
+    QVERIFY2(growth < 24, qPrintable(QString::number(growth)));
 }
 
 void tst_AddDialogParts::nameIsTakenAlready()

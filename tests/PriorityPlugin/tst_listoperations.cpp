@@ -27,6 +27,7 @@ private slots:
     void movesActOnTheFirstOccurrence();
     void movesDoNotCreateTheFile();
     void movesDoNotWriteAfterAReadError();
+    void movesWriteEvenWhenNothingMoves_data();
     void movesWriteEvenWhenNothingMoves();
     void addTop();
     void addTopCreatesTheFile();
@@ -220,19 +221,29 @@ void tst_ListOperations::movesDoNotWriteAfterAReadError()
     QCOMPARE(m_directory->Read("Priority.xml"), damaged);
 }
 
+void tst_ListOperations::movesWriteEvenWhenNothingMoves_data()
+{
+    QTest::addColumn<bool>("up");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("the first up") << true << "A";
+    QTest::newRow("an absent one up") << true << "X";
+    QTest::newRow("the last down") << false << "A";
+    QTest::newRow("an absent one down") << false << "X";
+}
+
 void tst_ListOperations::movesWriteEvenWhenNothingMoves()
 {
+    QFETCH(bool, up);
+    QFETCH(QString, name);
     m_directory->Write("Priority.xml", "<r><item name='A' type='1'/></r>");
-    PriorityList a = Entry("A");
-    m_store->MoveUp(a, nullptr);
+    PriorityList entry = Entry(name);
+    if (up) {
+        m_store->MoveUp(entry, nullptr);
+    } else {
+        m_store->MoveDown(entry, nullptr);
+    }
     QVERIFY(m_directory->Read("Priority.xml").startsWith("<?xml"));
-    m_directory->Write("Priority.xml", "<r><item name='A' type='1'/></r>");
-    m_store->MoveDown(a, nullptr);
-    QVERIFY(m_directory->Read("Priority.xml").startsWith("<?xml"));
-    m_directory->Write("Priority.xml", "<r><item name='A' type='1'/></r>");
-    PriorityList x = Entry("X");
-    m_store->MoveUp(x, nullptr);
-    QVERIFY(m_directory->Read("Priority.xml").startsWith("<?xml"));
+    QCOMPARE(Stored(), QString("A"));
 }
 
 void tst_ListOperations::addTop()

@@ -2,6 +2,7 @@
 
 #include <TraceCapture.h>
 
+#include <QApplication>
 #include <QBoxLayout>
 #include <QDialog>
 #include <QLabel>
@@ -39,6 +40,8 @@ private slots:
     void nothingIsChosenAtFirst();
     void fillingTheNamesRunsTheSlot();
     void noNetworkInRange();
+    void namesThatComeOrNotReachTheFields_data();
+    void namesThatComeOrNotReachTheFields();
     void choosingPresetsTheFields();
     void wholeRecordIsHandedBack();
     void unknownProfileKeepsTheFields();
@@ -77,6 +80,22 @@ public:
 
     WlanAvilableNetworkInfo last;
     bool profileCameEmpty;
+};
+
+/** Writes a key into the dialog that asks for the networks in range. */
+class WritingWLAN : public FakeWLAN
+{
+public:
+    int GetAvailableNetworks(QList<WlanAvilableNetworkInfo> *list) override
+    {
+        const QWidgetList widgets = QApplication::allWidgets();
+        for (QWidget *widget : widgets) {
+            if (widget->objectName() == "keyEdit") {
+                qobject_cast<QLineEdit *>(widget)->setText("written");
+            }
+        }
+        return FakeWLAN::GetAvailableNetworks(list);
+    }
 };
 
 void tst_NewDialog::init()
@@ -300,7 +319,7 @@ void tst_NewDialog::names_data()
                                                         << "N1/2"
                                                         << "N1 N2";
     QTest::newRow("type is compared exactly") << "N1 N2"
-                                              << "N1/01 N2/"
+                                              << "N1/01 N2/ N1/10"
                                               << "N1 N2";
     QTest::newRow("case counts") << "N1 n2"
                                  << "n1 N2"
@@ -398,6 +417,31 @@ void tst_NewDialog::noNetworkInRange()
     QCOMPARE(NameBox()->currentIndex(), -1);
     QCOMPARE(m_scene.wlan.calls, QStringList() << "GetConfigData"
                                                << "GetAvailableNetworks");
+}
+
+void tst_NewDialog::namesThatComeOrNotReachTheFields_data()
+{
+    QTest::addColumn<bool>("inRange");
+    QTest::addColumn<QString>("key");
+    QTest::newRow("a network in range: the fields are reset") << true << "";
+    QTest::newRow("none: they are left alone") << false << "written";
+}
+
+void tst_NewDialog::namesThatComeOrNotReachTheFields()
+{
+    QFETCH(bool, inRange);
+    QFETCH(QString, key);
+    WritingWLAN wlan;
+    wlan.config = m_scene.wlan.config;
+    if (inRange) {
+        AddNetworks("N1");
+        wlan.networks = m_scene.wlan.networks;
+    }
+    m_scene.container.objects.insert(qMakePair(QString("7545FB07-0E7A-4F27-A449-872DB09C106D"), 4102), &wlan);
+    m_scene.Open("newButton");
+    QCOMPARE(Field("keyEdit")->text(), key);
+    m_scene.End();
+    m_scene.Begin();
 }
 
 void tst_NewDialog::choosingPresetsTheFields()

@@ -34,6 +34,8 @@ private slots:
     void profileWithoutWidgets();
     void disabledBoxesAreNotRead();
     void createReturnsTheResult();
+    void createWithoutWlanIsZero_data();
+    void createWithoutWlanIsZero();
     void configurationReturnsTheResult();
     void deletingTakesOneNetwork();
     void releaseDeletesTheButtonBarOnly();
@@ -197,6 +199,31 @@ void tst_NewDialogParts::createReturnsTheResult()
     QCOMPARE(m_body->CreateProfile(profile), 7);
     QCOMPARE(m_wlan.created.size(), 1);
     QCOMPARE(m_wlan.created.first().profileName, QString("P"));
+}
+
+void tst_NewDialogParts::createWithoutWlanIsZero_data()
+{
+    QTest::addColumn<bool>("hasContainer");
+    QTest::addColumn<bool>("hasObject");
+    QTest::newRow("no container") << false << false;
+    QTest::newRow("no object under the class id") << true << false;
+    QTest::newRow("object of another interface") << true << true;
+}
+
+void tst_NewDialogParts::createWithoutWlanIsZero()
+{
+    QFETCH(bool, hasContainer);
+    QFETCH(bool, hasObject);
+    QObject other;
+    FakeContainer container;
+    if (hasObject) {
+        container.objects.insert(qMakePair(QString("7545FB07-0E7A-4F27-A449-872DB09C106D"), 4102), &other);
+    }
+    StandInHost::container = hasContainer ? &container : nullptr;
+    m_wlan.createResult = 7;
+    WLANProfile profile;
+    QCOMPARE(m_body->CreateProfile(profile), 0);
+    QVERIFY(m_wlan.created.isEmpty());
 }
 
 void tst_NewDialogParts::configurationReturnsTheResult()

@@ -24,6 +24,7 @@ private slots:
     void everyTryIsAFreshProfile();
     void entryIsAppendedAndSelected();
     void emptyNameIsRefusedFirst();
+    void fieldsStayAfterAnEmptyName();
     void blankNameIsAName();
     void repeatedNameIsRefused_data();
     void repeatedNameIsRefused();
@@ -270,6 +271,26 @@ void tst_NewProfile::emptyNameIsRefusedFirst()
     QVERIFY(m_scene.IsOpen("newDialog"));
 }
 
+void tst_NewProfile::fieldsStayAfterAnEmptyName()
+{
+    m_scene.Open("newButton");
+    Choose("authenticationBox", "shared");
+    Choose("encryptionBox", "WEP");
+    Choose("keyIndexBox", "3");
+    QTest::keyClicks(Field("keyEdit"), "abcde");
+    QTest::keyClicks(Field("confirmKeyEdit"), "abcd");
+    m_scene.Click("newOkButton");
+    QCOMPARE(m_scene.MessageTexts(), QStringList("en:IDS_ERROR_EMPTY_SSID"));
+    QVERIFY(m_scene.IsOpen("newDialog"));
+    QCOMPARE(m_scene.Box("networkNameBox")->currentText(), QString());
+    QCOMPARE(m_scene.Box("authenticationBox")->currentText(), QString("shared"));
+    QCOMPARE(m_scene.Box("encryptionBox")->currentText(), QString("WEP"));
+    QCOMPARE(m_scene.Box("keyIndexBox")->currentText(), QString("3"));
+    QCOMPARE(m_scene.Box("eapBox")->currentText(), QString("AUTO"));
+    QCOMPARE(Field("keyEdit")->text(), QString("abcde"));
+    QCOMPARE(Field("confirmKeyEdit")->text(), QString("abcd"));
+}
+
 void tst_NewProfile::blankNameIsAName()
 {
     m_scene.Open("newButton");
@@ -332,15 +353,40 @@ void tst_NewProfile::profileIsCreatedBeforeTheRepeatIsNoticed()
     QCOMPARE(m_scene.wlan.created.first().profileName, QString("Mine"));
 }
 
+static QStringList AllFields(const WLANProfile &profile)
+{
+    return QStringList() << profile.profileName << profile.text1 << profile.text2 << profile.text3
+                         << profile.text4 << profile.ssid << profile.bssType << profile.connectionMode
+                         << profile.authentication << profile.encryption << profile.keyType << profile.keyFlag
+                         << profile.keyMaterial << profile.keyIndex << profile.text14 << profile.readOnly
+                         << profile.text16 << profile.text17;
+}
+
 void tst_NewProfile::okAgainAfterARepeat()
 {
     m_scene.Store(Words("Mine"));
     m_scene.Open("newButton");
     EnterName("Mine");
+    Choose("authenticationBox", "shared");
+    Choose("encryptionBox", "WEP");
+    Choose("keyIndexBox", "3");
+    EnterKey("abcde");
     m_scene.Click("newOkButton");
+    QCOMPARE(m_scene.wlan.created.size(), 1);
+    const QStringList first = AllFields(m_scene.wlan.created.first());
+    QCOMPARE(first, QStringList() << "Mine" << QString() << QString() << QString() << "0"
+                                  << "Mine"
+                                  << "ESS"
+                                  << "manual"
+                                  << "shared"
+                                  << "WEP"
+                                  << "networkKey"
+                                  << "false"
+                                  << "abcde"
+                                  << "2" << QString() << QString() << "" << QString());
     m_scene.Click("newOkButton");
     QCOMPARE(m_scene.wlan.created.size(), 2);
-    QCOMPARE(m_scene.wlan.created.at(1).profileName, QString("Mine"));
+    QCOMPARE(AllFields(m_scene.wlan.created.at(1)), first);
     QCOMPARE(m_scene.MessageTexts(), QStringList() << "en:IDS_PROFILE_NAME_REPEAT"
                                                    << "en:IDS_PROFILE_NAME_REPEAT");
 }

@@ -28,6 +28,7 @@ private slots:
     void buttonStates();
     void readOnlyEntryCanBeMovedButNotDeleted();
     void readOnlyWordsMustBeExact();
+    void mobileEntryIsNeverAskedFor_data();
     void mobileEntryIsNeverAskedFor();
     void wlanIsAskedAfreshOnEveryClick();
     void moveUp();
@@ -51,6 +52,8 @@ private slots:
     void refreshToAShorterList();
     void refreshAfterAReadErrorShowsWhatWasRead();
     void okAfterMovesKeepsTheOrder();
+    void cancelUndoesNothing();
+    void clickBesideTheRowsChangesNothing();
     void openingADialogLeavesTheListAlone_data();
     void openingADialogLeavesTheListAlone();
     void onlyAddRefreshesTheButtons();
@@ -189,14 +192,16 @@ void tst_PageEditing::rowsShowKindAndName()
                         << "Mobile/2"
                         << "Other/0"
                         << "Odd/01"
+                        << "Ten/10"
+                        << "Blank/1 "
                         << "None/");
     Show();
-    QCOMPARE(Rows(), QString("Office Mobile Other Odd None"));
+    QCOMPARE(Rows(), QString("Office Mobile Other Odd Ten Blank None"));
     const QString directory = StandInHost::libraryPath + "/plugins/PriorityPlugin/";
     const QImage wifi = QPixmap(directory + "wifi.png").toImage();
     const QImage mobile = QPixmap(directory + "3G .png").toImage();
     QVERIFY(!wifi.isNull() && !mobile.isNull() && wifi != mobile);
-    for (int row = 0; row < 5; ++row) {
+    for (int row = 0; row < 7; ++row) {
         const QLabel *icon = m_table->cellWidget(row, 0)->findChild<QLabel *>("rowIcon");
         QCOMPARE(Picture(icon), row == 0 ? wifi : mobile);
     }
@@ -275,12 +280,22 @@ void tst_PageEditing::readOnlyWordsMustBeExact()
     QCOMPARE(Buttons(), QString("UDX"));
 }
 
+void tst_PageEditing::mobileEntryIsNeverAskedFor_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::newRow("2") << "2";
+    QTest::newRow("10") << "10";
+    QTest::newRow("blank behind") << "1 ";
+    QTest::newRow("blank before") << " 1";
+    QTest::newRow("none") << "";
+}
+
 void tst_PageEditing::mobileEntryIsNeverAskedFor()
 {
+    QFETCH(QString, type);
     m_wlan.AddReadOnly("M", "true");
     Store(QStringList() << "A"
-                        << "M/2"
-                        << "C");
+                        << "M/" + type << "C");
     Show();
     m_wlan.calls.clear();
     ClickRow(1);
@@ -582,16 +597,16 @@ void tst_PageEditing::refreshToAShorterList()
     Store(QStringList() << "A"
                         << "B"
                         << "C"
-                        << "D"
-                        << "E");
+                        << "D");
     Show();
     ClickRow(3);
+    QCOMPARE(Buttons(), QString("U-X"));
     Store(QStringList() << "A"
                         << "B");
     QMetaObject::invokeMethod(m_plugin.Service(), "OnUpdataPriorityView");
     QCOMPARE(Rows(), QString("A B"));
     QCOMPARE(m_table->currentRow(), -1);
-    QCOMPARE(Buttons(), QString("UDX"));
+    QCOMPARE(Buttons(), QString("U-X"));
     // Row 3 is still the selected one: it is highlighted as soon as it exists again.
     Store(QStringList() << "A"
                         << "B"
@@ -624,6 +639,44 @@ void tst_PageEditing::okAfterMovesKeepsTheOrder()
     QCOMPARE(Stored(), QString("B A C"));
     Show();
     QCOMPARE(Rows(), QString("B A C"));
+}
+
+void tst_PageEditing::cancelUndoesNothing()
+{
+    Store(QStringList() << "A"
+                        << "B"
+                        << "C");
+    Show();
+    ClickRow(0);
+    Click("downButton");
+    ClickRow(2);
+    Click("deleteButton");
+    const QByteArray edited = m_directory->Read("Priority.xml");
+    m_plugin.Setting()->OnClickSettingCancelButton();
+    QCOMPARE(m_directory->Read("Priority.xml"), edited);
+    QCOMPARE(Stored(), QString("B A"));
+    Show();
+    QCOMPARE(Rows(), QString("B A"));
+}
+
+void tst_PageEditing::clickBesideTheRowsChangesNothing()
+{
+    Store(QStringList() << "A"
+                        << "B"
+                        << "C");
+    Show();
+    ClickRow(1);
+    QWidget *viewport = m_table->viewport();
+    const QPoint beside = viewport->rect().bottomLeft() + QPoint(5, -5);
+    QVERIFY(!m_table->indexAt(beside).isValid());
+    QTest::mouseClick(viewport, Qt::LeftButton, Qt::NoModifier, beside);
+    QTest::mouseDClick(viewport, Qt::LeftButton, Qt::NoModifier, beside);
+    QTest::mousePress(viewport, Qt::LeftButton, Qt::NoModifier, beside);
+    QTest::mouseMove(viewport, beside - QPoint(0, 10));
+    QTest::mouseRelease(viewport, Qt::LeftButton, Qt::NoModifier, beside);
+    QVERIFY(m_table->selectionModel()->isSelected(m_table->model()->index(1, 0)));
+    QCOMPARE(m_table->currentRow(), 1);
+    QCOMPARE(Buttons(), QString("UDX"));
 }
 
 void tst_PageEditing::openingADialogLeavesTheListAlone_data()

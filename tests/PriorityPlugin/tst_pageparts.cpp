@@ -31,6 +31,10 @@ private slots:
     void indexChecks();
     void missingDeleteButtonIsTraced();
     void releasedPageSurvivesEverything();
+    void stepsWithoutWhatTheyNeedDoNothing();
+    void stepsWithoutLayoutsMakeWhatNeedsNone();
+    void initOfABuiltPageChangesNothing();
+    void showingWithoutAParentIsRefused();
     void tracedOperations();
 
 private:
@@ -213,6 +217,73 @@ void tst_PageParts::releasedPageSurvivesEverything()
     QList<PriorityList> list;
     page->GetPriority(&list);
     QCOMPARE(list.size(), 2);
+}
+
+void tst_PageParts::stepsWithoutWhatTheyNeedDoNothing()
+{
+    QPriorityWidget *page = NewPage("A");
+    page->release();
+    page->CreateAllButton();
+    page->CreateList();
+    page->InitTabWidget();
+    QVERIFY(page->children().isEmpty());
+    page->CreateLayout();
+    page->CreateAllButton();
+    page->CreateList();
+    QVERIFY(page->findChildren<QWidget *>().isEmpty());
+    page->CreateAllWidget();
+    page->CreateAllButton();
+    page->CreateList();
+    QVERIFY(page->findChild<QPushButton *>("newButton"));
+    QVERIFY(page->findChild<QTableWidget *>("priorityTable"));
+}
+
+void tst_PageParts::stepsWithoutLayoutsMakeWhatNeedsNone()
+{
+    QPriorityWidget *page = NewPage("A");
+    page->release();
+    page->CreateAllWidget();
+    page->CreateAllButton();
+    page->CreateList();
+    QStringList names;
+    const QList<QWidget *> widgets = page->findChildren<QWidget *>();
+    for (const QWidget *widget : widgets) {
+        QVERIFY(!widget->layout());
+        names << widget->objectName();
+    }
+    QCOMPARE(names, QStringList() << "mainContainer"
+                                  << "leftPanel"
+                                  << "listFrame");
+    QCOMPARE(page->findChild<QWidget *>("mainContainer")->minimumSize(), QSize(420, 374));
+    QCOMPARE(page->findChild<QWidget *>("leftPanel")->minimumWidth(), 315);
+}
+
+void tst_PageParts::initOfABuiltPageChangesNothing()
+{
+    QPriorityWidget *page = NewPage("");
+    const QObjectList before = page->findChildren<QObject *>();
+    QList<PriorityList> stored;
+    stored << Entry("A");
+    PriorityXMLParser::GetInstance()->SavePriorityList(stored);
+    TraceCapture trace;
+    page->Init();
+    QCOMPARE(trace.Lines(), QStringList());
+    QCOMPARE(page->findChildren<QObject *>(), before);
+    QCOMPARE(page->findChild<QTableWidget *>()->rowCount(), 0);
+}
+
+void tst_PageParts::showingWithoutAParentIsRefused()
+{
+    QPriorityWidget *page = NewPage("A");
+    QList<PriorityList> stored;
+    PriorityXMLParser::GetInstance()->SavePriorityList(stored);
+    QRect rect(1, 2, 3, 4);
+    TraceCapture trace;
+    QVERIFY(!page->ShowSettingDialog(nullptr, rect));
+    const QString source = QString("TIME: %1: ShowSettingDialog: ").arg(pageSource);
+    QCOMPARE(trace.Normalised(), QStringList() << source + "Entered " << source + "Exit");
+    QCOMPARE(page->findChild<QTableWidget *>()->rowCount(), 1);
+    QVERIFY(!page->isVisible());
 }
 
 void tst_PageParts::tracedOperations()

@@ -47,6 +47,8 @@ private slots:
     void noticeArguments();
     void noticeAnswerIsIgnored();
     void noFault();
+    void keysAreComparedWithoutMethodsToo();
+    void methodsWithoutAKeyPassWhateverWasTyped();
 
 private:
     void Build(const QString &methods);
@@ -603,6 +605,21 @@ void tst_Security::noticeAnswerIsIgnored()
 void tst_Security::noFault()
 {
     QVERIFY(m_body->CheckPasswordAndAuth());
+    QVERIFY(StandInHost::messages.isEmpty());
+}
+
+void tst_Security::keysAreComparedWithoutMethodsToo()
+{
+    Build("");
+    Field("keyEdit")->setText("abcde");
+    QVERIFY(!m_body->CheckPasswordAndAuth());
+    QCOMPARE(StandInHost::messages.last().text, QString("en:IDS_ERROR_KEY_DIFFERENT"));
+}
+
+void tst_Security::methodsWithoutAKeyPassWhateverWasTyped()
+{
+    Field("keyEdit")->setText("abcde");
+    Field("confirmKeyEdit")->setText("other");
     m_body->SetAuthenticationInfo("WPA(EAP)");
     QVERIFY(m_body->CheckPasswordAndAuth());
     QVERIFY(StandInHost::messages.isEmpty());

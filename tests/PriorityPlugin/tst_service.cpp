@@ -35,7 +35,7 @@ private slots:
     void okSavesThePagesList();
     void cancelWritesNothing();
     void hidingTakesThePageOut();
-    void fixedAnswers();
+    void thePageIsAlwaysOffered();
     void showingWithoutAParentIsStillTrue();
 
 private:
@@ -269,7 +269,7 @@ void tst_Service::hidingTakesThePageOut()
     QVERIFY(m_plugin.Setting()->HideSetting());
 }
 
-void tst_Service::fixedAnswers()
+void tst_Service::thePageIsAlwaysOffered()
 {
     QVERIFY(m_plugin.Setting()->IsActiveSetting());
 }
