@@ -4,6 +4,7 @@
 
 #include <QtTest>
 
+#include <cstdlib>
 #include <ctime>
 
 class tst_Tracer : public QObject
@@ -103,7 +104,6 @@ void tst_Tracer::timeOfDayGoesOn()
 void tst_Tracer::timeOfDayFollowsTheTimeZone()
 {
     const QByteArray before = qgetenv("TZ");
-    const bool wasSet = qEnvironmentVariableIsSet("TZ");
     const char *const zones[] = {"AAA0", "BBB-5:30"};
     QStringList minutes;
     for (int i = 0; i < 4; ++i) {
@@ -111,10 +111,10 @@ void tst_Tracer::timeOfDayFollowsTheTimeZone()
         tzset();
         minutes << QString::fromLatin1(TraceLine::CurrentTime()).mid(3, 2);
     }
-    if (wasSet) {
-        qputenv("TZ", before);
+    if (before.isNull()) {
+        unsetenv("TZ");
     } else {
-        qunsetenv("TZ");
+        qputenv("TZ", before);
     }
     tzset();
     // The zones are half an hour apart, whichever minute it is; all of this takes less than one.
