@@ -40,8 +40,8 @@ public:
      * @param rect    where, in parent's coordinates and pixels. Only the top left corner counts: the page is
      * 420 x 374 each time it is shown. A host that resizes it afterwards cuts off what is in it or adds empty
      * room, as its content keeps that size.
-     * @return false when there is no page any more, that is after OnDestroy. The page freshly loads its
-     * content each time it is shown, and nothing in it is selected.
+     * @return false when there is no page any more, that is after OnDestroy; else true, with a null parent
+     * too. The page freshly loads its content each time it is shown, and nothing in it is selected.
      */
     virtual bool ShowSettingDialog(QWidget *parent, QRect &rect) = 0;
 
