@@ -109,6 +109,10 @@ void tst_AddDialogParts::nameIsNotListedYet()
     QVERIFY(!body.IsRemeberPriority(""));
     QVERIFY(body.IsRemeberPriority("a"));
     QVERIFY(body.IsRemeberPriority("A "));
+    list << Entry("B");
+    QVERIFY(!body.IsRemeberPriority("B"));
+    list.removeFirst();
+    QVERIFY(body.IsRemeberPriority("A"));
 }
 
 /** The best of three, in the processor's time, of choosing what to offer of count networks, every other
