@@ -32,6 +32,13 @@ void AppendLocal8Bit(QByteArray &line, const QString &text)
     }
 }
 
+/** With the colon behind them. */
+void AppendTwoDigits(QByteArray &time, int number)
+{
+    const char digits[] = {char('0' + number / 10), char('0' + number % 10), ':'};
+    time.append(digits, sizeof digits);
+}
+
 /** What both lines begin with. One text for the whole line: the toolkit converts each that it is given. */
 QByteArray LineStart(const QString &sourcePath, const QString &function)
 {
@@ -80,11 +87,11 @@ QByteArray CurrentTime()
     const int milliseconds = int(now % millisecondsPerSecond);
     std::tm local;
     localtime_r(&second, &local);
-    char hoursToSeconds[sizeof "hh:mm:ss:"];
     QByteArray time;
     time.reserve(usualLineLength);
-    time.append(hoursToSeconds,
-                int(std::strftime(hoursToSeconds, sizeof hoursToSeconds, "%H:%M:%S:", &local)));
+    AppendTwoDigits(time, local.tm_hour);
+    AppendTwoDigits(time, local.tm_min);
+    AppendTwoDigits(time, local.tm_sec);
     time += char('0' + milliseconds / 100);
     time += char('0' + milliseconds / 10 % 10);
     time += char('0' + milliseconds % 10);

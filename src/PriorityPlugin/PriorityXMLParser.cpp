@@ -86,11 +86,13 @@ bool IsXmlCharacter(ushort unit)
 QString StorableText(const QString &text)
 {
     QString storable = text;
-    for (int i = 0; i < text.size(); ++i) {
-        if (IsXmlCharacter(text.at(i).unicode())) {
+    const ushort *units = text.utf16();
+    const int size = text.size();
+    for (int i = 0; i < size; ++i) {
+        if (IsXmlCharacter(units[i])) {
             continue;
         }
-        if (text.at(i).isHighSurrogate() && i + 1 < text.size() && text.at(i + 1).isLowSurrogate()) {
+        if (QChar(units[i]).isHighSurrogate() && i + 1 < size && QChar(units[i + 1]).isLowSurrogate()) {
             ++i;
         } else {
             storable[i] = QChar(QChar::ReplacementCharacter);
