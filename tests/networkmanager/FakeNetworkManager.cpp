@@ -224,6 +224,12 @@ QStringList FakeNetworkManager::ProfilePaths()
     return m_settings.keys();
 }
 
+QVariantMap FakeNetworkManager::ConditionsOfTheLastChange()
+{
+    const QMutexLocker locker(&m_mutex);
+    return m_conditions;
+}
+
 int FakeNetworkManager::PriorityOf(const QString &profile)
 {
     return SettingsOf(profile).value("connection").value("autoconnect-priority").toInt();
@@ -343,6 +349,7 @@ QDBusMessage FakeNetworkManager::AnswerOfProfile(const QDBusMessage &call)
         return call.createReply(QVariant::fromValue(WithoutKeys(m_settings.value(path))));
     }
     if (m_settings.contains(path) && call.member() == "Update2") {
+        m_conditions = qdbus_cast<QVariantMap>(call.arguments().at(2).value<QDBusArgument>());
         m_settings[path] = SettingsIn(call);
         return call.createReply(QVariantMap());
     }

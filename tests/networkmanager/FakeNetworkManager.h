@@ -56,6 +56,8 @@ public:
     /** What was stored last, keys included. */
     NMVariantMapMap SettingsOf(const QString &profile);
     QStringList ProfilePaths();
+    /** What came with the settings of the last change of a profile. */
+    QVariantMap ConditionsOfTheLastChange();
     /** The autoconnect-priority of a profile; 0 when none is stored. */
     int PriorityOf(const QString &profile);
 
@@ -99,6 +101,7 @@ private:
     QDBusConnection m_connection;
     QMap<QString, NMVariantMapMap> m_objects;
     QMap<QString, NMVariantMapMap> m_settings;
+    QVariantMap m_conditions;
     QMap<QString, QString> m_rights;
     QHash<QString, Misbehaviour> m_misbehaviour;
     QStringList m_calls;

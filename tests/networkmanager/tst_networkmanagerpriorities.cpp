@@ -44,6 +44,8 @@ private slots:
     void MoveIsWritten();
     void OnlyWhatDiffersIsWritten();
     void OtherSettingsStayAsTheyAre();
+    void OldFormsOfSettingsAreNotSentBack();
+    void ChangeBySomebodyElseInTheMiddleIsReadFirst();
     void MobileBroadbandHasItsPlace();
     void ProfilesOfOneNameHaveOnePlace();
     void ProfilesOutsideTheListAreLeftAlone();
@@ -159,6 +161,38 @@ void tst_networkmanagerpriorities::OtherSettingsStayAsTheyAre()
     Begin("A");
     settings["connection"]["autoconnect-priority"] = 999;
     QCOMPARE(Fake().SettingsOf(a), settings);
+}
+
+void tst_networkmanagerpriorities::OldFormsOfSettingsAreNotSentBack()
+{
+    NMVariantMapMap settings = FakeNetworkManager::Settings("A");
+    settings["ipv4"]["dns"] = QString("alone, so it counts");
+    settings["ipv6"]["route-data"] = QString("with options");
+    settings["ipv6"]["dns-data"] = QString("with a name");
+    settings["ipv6"]["address-data"] = QString("with a label");
+    settings["802-11-wireless"]["assigned-mac-address"] = QString("02:00:00:00:00:07");
+    NMVariantMapMap told = settings;
+    told["ipv6"]["routes"] = QString("without");
+    told["ipv6"]["dns"] = QString("without");
+    told["ipv6"]["addresses"] = QString("without");
+    told["802-11-wireless"]["cloned-mac-address"] = QByteArray("\x02");
+    const QString a = Fake().AddProfile(told);
+    Begin("A");
+    settings["connection"]["autoconnect-priority"] = 999;
+    QCOMPARE(Fake().SettingsOf(a), settings);
+}
+
+void tst_networkmanagerpriorities::ChangeBySomebodyElseInTheMiddleIsReadFirst()
+{
+    const QString a = Fake().AddProfile("A");
+    Begin(QString());
+    Fake().AnswerWithError("Update2", "org.freedesktop.NetworkManager.Settings.VersionIdMismatch");
+    TraceCapture trace;
+    SetList("A");
+    QTRY_VERIFY(Fake().CallCount("Update2") > 1);
+    Fake().Behave();
+    QTRY_COMPARE(Fake().PriorityOf(a), 999);
+    QCOMPARE(trace.Lines().filter("WLANNetworkManager"), QStringList());
 }
 
 void tst_networkmanagerpriorities::MobileBroadbandHasItsPlace()

@@ -66,6 +66,9 @@ private slots:
     void EapProfilesHaveAMethodWithoutCredentials();
     void NetworkNameIsSentAsItsBytes();
     void ProfileOfThatNameIsReplacedAndKeepsTheRest();
+    void ChangeIsBoundToTheVersionThatWasRead_data();
+    void ChangeIsBoundToTheVersionThatWasRead();
+    void ChangeBySomebodyElseInTheMiddleIsTold();
     void ReadOnlyProfileIsNotReplaced();
     void ProfileIsForEverybodyOrForItsMaker_data();
     void ProfileIsForEverybodyOrForItsMaker();
@@ -483,6 +486,36 @@ void tst_networkmanagerprofiles::ProfileOfThatNameIsReplacedAndKeepsTheRest()
                                                 << "ssid=A");
     QVERIFY(!stored.contains(security));
     QVERIFY(!stored.contains("802-1x"));
+}
+
+void tst_networkmanagerprofiles::ChangeIsBoundToTheVersionThatWasRead_data()
+{
+    QTest::addColumn<QVariant>("version");
+    QTest::addColumn<QVariantMap>("conditions");
+    QVariantMap conditions;
+    QTest::newRow("not told") << QVariant() << conditions;
+    conditions["version-id"] = qulonglong(7);
+    QTest::newRow("told") << QVariant(qulonglong(7)) << conditions;
+}
+
+void tst_networkmanagerprofiles::ChangeIsBoundToTheVersionThatWasRead()
+{
+    QFETCH(QVariant, version);
+    const QString path = Fake().AddProfile("A");
+    if (version.isValid()) {
+        Fake().SetProperty(path, profileInterface, "VersionId", version);
+    }
+    QCOMPARE(LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("A", "open", "none", "")), 0);
+    QCOMPARE(Fake().CallCount("Update2"), 1);
+    QTEST(Fake().ConditionsOfTheLastChange(), "conditions");
+}
+
+void tst_networkmanagerprofiles::ChangeBySomebodyElseInTheMiddleIsTold()
+{
+    Fake().AddProfile("A");
+    Fake().AnswerWithError("Update2", "org.freedesktop.NetworkManager.Settings.VersionIdMismatch");
+    QCOMPARE(LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("A", "open", "none", "")),
+             int(NetworkManagerResultChangedMeanwhile));
 }
 
 void tst_networkmanagerprofiles::ReadOnlyProfileIsNotReplaced()

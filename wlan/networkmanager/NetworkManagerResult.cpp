@@ -22,6 +22,7 @@ const NamedError namedErrors[] = {
     {"org.freedesktop.DBus.Error.TimedOut", NetworkManagerResultNotAnswering},
     {"org.freedesktop.DBus.Error.InvalidSignature", NetworkManagerResultUnusableAnswer},
     {"org.freedesktop.DBus.Error.AccessDenied", NetworkManagerResultPermissionDenied},
+    {"org.freedesktop.NetworkManager.Settings.VersionIdMismatch", NetworkManagerResultChangedMeanwhile},
 };
 
 /** Those of a profile's content. */
@@ -91,6 +92,8 @@ QString DescriptionOf(NetworkManagerResult result)
         return QLatin1String("NetworkManager does not take the profile");
     case NetworkManagerResultFailed:
         return QLatin1String("NetworkManager answered with an error");
+    case NetworkManagerResultChangedMeanwhile:
+        return QLatin1String("somebody else has just changed the profile");
     }
     return QString();
 }

@@ -37,7 +37,9 @@ enum NetworkManagerResult {
     /** NetworkManager does not take the profile, because of its key for one. */
     NetworkManagerResultProfileRefused = 12,
     /** Any other error that NetworkManager answered. */
-    NetworkManagerResultFailed = 13
+    NetworkManagerResultFailed = 13,
+    /** Somebody else has changed the profile since it was read; it was left as it is. */
+    NetworkManagerResultChangedMeanwhile = 14
 };
 
 /** What an answer comes to. A reply whose arguments are not of signature is unusable. */

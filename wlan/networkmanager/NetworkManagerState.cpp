@@ -45,6 +45,7 @@ ProfilePlace ReadProfile(const QString &path, const QVariantMap &properties)
     ProfilePlace place;
     place.path = path;
     place.file = properties.value(QLatin1String("Filename")).toString();
+    place.version = properties.value(QLatin1String("VersionId")).toULongLong();
     place.isPassing = properties.value(QLatin1String("Unsaved")).toBool() ||
                       (properties.value(QLatin1String("Flags")).toUInt() & passing) != 0 ||
                       (properties.contains(QLatin1String("Filename")) && place.file.isEmpty());

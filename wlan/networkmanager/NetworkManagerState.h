@@ -32,6 +32,8 @@ struct ProfilePlace {
     bool isPassing = false;
     /** Empty when it is not told. */
     QString file;
+    /** Grows with every change; 0 when it is not told, as by NetworkManager before 1.44. */
+    quint64 version = 0;
 };
 
 /** What is to be known of NetworkManager's objects, all of one moment. */

@@ -4,6 +4,7 @@
 #include "NetworkManagerClient.h"
 #include "NetworkSecurity.h"
 #include "ProfileReader.h"
+#include "ProfileUpdate.h"
 #include "SsidText.h"
 
 #include <NetworkManagerQt/ConnectionSettings>
@@ -234,9 +235,7 @@ NetworkManagerResult CNetworkManagerWLANService::Store(const WLANProfile &profil
 
     QDBusMessage call;
     if (known) {
-        call = CNetworkManagerClient::Call(known->path, CNetworkManagerClient::ProfileInterface(),
-                                           QLatin1String("Update2"));
-        call << QVariant::fromValue(settings) << 0U << QVariantMap();
+        call = ProfileUpdate::Call(*known, settings);
     } else {
         call = CNetworkManagerClient::Call(CNetworkManagerClient::SettingsPath(),
                                            CNetworkManagerClient::SettingsInterface(),
@@ -246,7 +245,7 @@ NetworkManagerResult CNetworkManagerWLANService::Store(const WLANProfile &profil
     CCallBatch batch(m_client, QList<QDBusMessage>() << call, limit, nullptr);
     batch.Start();
     batch.Wait();
-    return ResultOf(batch.Replies().at(0), known ? "a{sv}" : "o");
+    return ResultOf(batch.Replies().at(0), known ? ProfileUpdate::signature : "o");
 }
 
 int CNetworkManagerWLANService::GetRememberedList(QList<RememberedList> *list)

@@ -56,6 +56,7 @@ NetworkProfile NetworkProfile::Make(const ProfilePlace &place, const NMVariantMa
     NetworkProfile profile;
     profile.path = place.path;
     profile.settings = settings;
+    profile.version = place.version;
     profile.uuid = connection.value(QLatin1String("uuid")).toString();
     profile.name = connection.value(QLatin1String("id")).toString();
     profile.kind = KindOf(connection.value(QLatin1String("type")).toString());

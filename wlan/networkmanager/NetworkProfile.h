@@ -35,6 +35,8 @@ struct NetworkProfile {
     bool isFreelyChangeable = false;
     /** Exactly as NetworkManager gave it. */
     NMVariantMapMap settings;
+    /** As in ProfilePlace. */
+    quint64 version = 0;
 
     static const char *Signature() { return "a{sa{sv}}"; }
 

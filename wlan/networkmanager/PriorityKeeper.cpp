@@ -5,6 +5,7 @@
 #include "ListFileWatcher.h"
 #include "NetworkManagerClient.h"
 #include "ProfileReader.h"
+#include "ProfileUpdate.h"
 
 #include <IPluginContainer.h>
 #include <IPriorityPlugin.h>
@@ -43,10 +44,7 @@ QDBusMessage WriteCall(const PriorityChange &change)
 {
     NMVariantMapMap settings = change.profile.settings;
     settings[QLatin1String("connection")].insert(QLatin1String("autoconnect-priority"), change.priority);
-    QDBusMessage call = CNetworkManagerClient::Call(
-        change.profile.path, CNetworkManagerClient::ProfileInterface(), QLatin1String("Update2"));
-    call << QVariant::fromValue(settings) << 0U << QVariantMap();
-    return call;
+    return ProfileUpdate::Call(change.profile, settings);
 }
 
 } // namespace
@@ -193,8 +191,10 @@ void CPriorityKeeper::TakeReplies()
 {
     const QList<QDBusMessage> replies = m_batch->Replies();
     for (int i = 0; i < replies.size(); ++i) {
-        const NetworkManagerResult result = ResultOf(replies.at(i), "a{sv}");
-        if (result != NetworkManagerResultSuccess) {
+        const NetworkManagerResult result = ResultOf(replies.at(i), ProfileUpdate::signature);
+        if (result == NetworkManagerResultChangedMeanwhile) {
+            m_isDueAgain = true;
+        } else if (result != NetworkManagerResultSuccess) {
             Complain(QString::fromLatin1("the priority of \"%1\" is not changed: %2")
                          .arg(m_changes.at(i).profile.name, DescriptionOf(result)));
         }

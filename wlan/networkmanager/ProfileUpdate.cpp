@@ -1,0 +1,43 @@
+#include "ProfileUpdate.h"
+
+#include "NetworkManagerClient.h"
+#include "NetworkProfile.h"
+
+#include <QDBusMessage>
+#include <QVariantMap>
+
+namespace
+{
+
+struct Forms {
+    const char *old;
+    const char *whole;
+};
+
+const Forms forms[] = {
+    {"addresses", "address-data"},
+    {"routes", "route-data"},
+    {"dns", "dns-data"},
+    {"cloned-mac-address", "assigned-mac-address"},
+};
+
+} // namespace
+
+QDBusMessage ProfileUpdate::Call(const NetworkProfile &profile, NMVariantMapMap settings)
+{
+    for (NMVariantMapMap::iterator section = settings.begin(); section != settings.end(); ++section) {
+        for (const Forms &form : forms) {
+            if (section.value().contains(QLatin1String(form.whole))) {
+                section.value().remove(QLatin1String(form.old));
+            }
+        }
+    }
+    QVariantMap conditions;
+    if (profile.version != 0) {
+        conditions.insert(QLatin1String("version-id"), profile.version);
+    }
+    QDBusMessage call = CNetworkManagerClient::Call(profile.path, CNetworkManagerClient::ProfileInterface(),
+                                                    QLatin1String("Update2"));
+    call << QVariant::fromValue(settings) << 0U << conditions;
+    return call;
+}
