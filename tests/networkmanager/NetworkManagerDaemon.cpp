@@ -106,6 +106,18 @@ QStringList NetworkManagerDaemon::Keyfiles() const
     return QDir(m_bus->Path("profiles")).entryList(QDir::Files | QDir::Hidden, QDir::Name);
 }
 
+QStringList NetworkManagerDaemon::KeyfilesWith(const QByteArray &text) const
+{
+    QStringList files = Keyfiles();
+    for (int i = files.size() - 1; i >= 0; --i) {
+        QFile file(m_bus->Path("profiles/" + files.at(i)));
+        if (!file.open(QIODevice::ReadOnly) || !file.readAll().contains(text)) {
+            files.removeAt(i);
+        }
+    }
+    return files;
+}
+
 QByteArray NetworkManagerDaemon::Keyfile(const QString &name) const
 {
     const QStringList files = Keyfiles().filter(QRegExp("^" + QRegExp::escape(name) + "\\b.*"));

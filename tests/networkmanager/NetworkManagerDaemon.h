@@ -39,6 +39,7 @@ public:
     /** The one keyfile whose name begins like that, as it is on disk. */
     QByteArray Keyfile(const QString &name) const;
     QStringList Keyfiles() const;
+    QStringList KeyfilesWith(const QByteArray &text) const;
     /** NetworkManager finds it when it is told to reload. */
     void WriteKeyfile(const QString &name, const QByteArray &content) const;
     void RemoveProfiles() const;

@@ -52,6 +52,7 @@ private slots:
     void EntryThatLeavesGetsItsFormerPriority();
     void ForeignPriorityIsNotSetBack();
     void RemovedListSetsAllBackAndANewOneIsFollowed();
+    void ListThatGoesBackToWhatItWasIsFollowed();
     void NewProfileGetsItsPlace();
     void WorkGoesOnAfterARestartOfTheProgram();
     void WorkGoesOnWhenNetworkManagerComesBack();
@@ -259,6 +260,22 @@ void tst_networkmanagerpriorities::RemovedListSetsAllBackAndANewOneIsFollowed()
     SetList("C B A");
     QTRY_COMPARE(Fake().PriorityOf(a), 997);
     QVERIFY(QFile::remove(Directory().FilePath("Priority.xml")));
+    QTRY_COMPARE(Fake().PriorityOf(a), 0);
+}
+
+void tst_networkmanagerpriorities::ListThatGoesBackToWhatItWasIsFollowed()
+{
+    const QString a = Fake().AddProfile("A");
+    Begin("");
+    SetList("A");
+    Fake().AddProfile("B");
+    // Whoever watches the directory has no moment to look into it; the new profile has the list read.
+    for (int i = 0; i < 100 && Fake().PriorityOf(a) == 0; ++i) {
+        Directory().Write(QString("other%1").arg(i), QByteArray());
+        QTest::qWait(20);
+    }
+    QCOMPARE(Fake().PriorityOf(a), 999);
+    SetList("");
     QTRY_COMPARE(Fake().PriorityOf(a), 0);
 }
 

@@ -18,6 +18,12 @@ public:
 
     bool HasEntries() const;
 
+    /**
+     * To be called before the file is read for a reason of the reader's own: changes from here on are told
+     * even if they make the file what it was when it was last told of.
+     */
+    void Note() { m_content = Content(); }
+
 signals:
     /** Once for changes that come close together. */
     void Changed();

@@ -133,8 +133,9 @@ void CPriorityKeeper::TakeProfiles()
     Write(list);
 }
 
-bool CPriorityKeeper::ReadList(QList<PriorityList> *list) const
+bool CPriorityKeeper::ReadList(QList<PriorityList> *list)
 {
+    m_file->Note();
     IPriorityPlugin *priority = PriorityPlugin();
     if (!priority) {
         return false;

@@ -49,7 +49,7 @@ private slots:
 private:
     Q_DISABLE_COPY(CPriorityKeeper)
 
-    bool ReadList(QList<PriorityList> *list) const;
+    bool ReadList(QList<PriorityList> *list);
     bool RaiseFirstConnections(const QList<PriorityList> &list);
     void Write(const QList<PriorityList> &list);
     void Complain(const QString &text);
