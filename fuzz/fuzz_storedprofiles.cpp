@@ -18,14 +18,48 @@ QString WLANProfile::*const fields[] = {
     &WLANProfile::readOnly,    &WLANProfile::text16,         &WLANProfile::text17,
 };
 
-bool IsSame(const StoredProfile &left, const StoredProfile &right)
+QString WLANProfile::*const changing[] = {
+    &WLANProfile::ssid,    &WLANProfile::authentication, &WLANProfile::encryption,
+    &WLANProfile::keyType, &WLANProfile::keyMaterial,    &WLANProfile::keyIndex,
+};
+
+bool IsSame(const QList<StoredProfile> &left, const QList<StoredProfile> &right)
 {
-    for (QString WLANProfile::*const field : fields) {
-        if (left.profile.*field != right.profile.*field) {
-            return false;
+    bool isSame = left.size() == right.size();
+    for (int i = 0; isSame && i < left.size(); ++i) {
+        isSame = left.at(i).type == right.at(i).type;
+        for (QString WLANProfile::*const field : fields) {
+            isSame = isSame && left.at(i).profile.*field == right.at(i).profile.*field;
         }
     }
-    return left.type == right.type;
+    return isSame;
+}
+
+/** The one Wi-Fi profile of that name, or -1 when there is none or there are several. */
+int FindOnly(const QList<StoredProfile> &profiles, const QString &name)
+{
+    int found = -1;
+    for (int i = 0; i < profiles.size(); ++i) {
+        if (profiles.at(i).type == "1" && profiles.at(i).profile.profileName == name) {
+            if (found >= 0) {
+                return -1;
+            }
+            found = i;
+        }
+    }
+    return found;
+}
+
+/** Whether a Wi-Fi profile has the name, or the network, of wanted. */
+bool HasRival(const QList<StoredProfile> &profiles, const WLANProfile &wanted)
+{
+    for (const StoredProfile &stored : profiles) {
+        if (stored.type == "1" && (stored.profile.profileName == wanted.profileName ||
+                                   (!wanted.ssid.isEmpty() && stored.profile.ssid == wanted.ssid))) {
+            return true;
+        }
+    }
+    return false;
 }
 
 void RequireOwnersAlone(const QString &path)
@@ -61,11 +95,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     for (QString WLANProfile::*const field : fields) {
         added.profile.*field = input.Text();
     }
-    const WLANResult stored = store.Store(added.profile);
+    QString better;
+    const WLANResult stored = store.Store(added.profile, &better);
     if (stored != WLANResultSuccess) {
         Require(Read("WLANProfiles.xml") == file, "a refused profile leaves the file as it was");
-        Require(stored == WLANResultEmptyName || stored == WLANResultReadOnlyProfile ||
-                    result == WLANResultFileDamaged,
+        Require(result == WLANResultFileDamaged || added.profile.profileName.isEmpty() ||
+                    HasRival(before, added.profile),
                 "a profile is refused for a reason");
         return 0;
     }
@@ -73,23 +108,19 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     RequireOwnersAlone(Path("WLANProfiles.xml"));
     QList<StoredProfile> after;
     Require(store.List(&after) == WLANResultSuccess, "what was stored can be read");
-    int next = 0;
-    bool found = false;
-    for (const StoredProfile &profile : after) {
-        if (!found && IsSame(profile, added)) {
-            found = true;
-            // In the place of the earlier one of its name, or at the end.
-            if (next < before.size() && before.at(next).type == "1" &&
-                before.at(next).profile.profileName == added.profile.profileName) {
-                ++next;
-            }
-            continue;
+    QList<StoredProfile> expected = before;
+    const int changed = FindOnly(before, added.profile.profileName);
+    if (changed < 0) {
+        expected.append(added);
+    } else {
+        WLANProfile &profile = expected[changed].profile;
+        for (QString WLANProfile::*const field : changing) {
+            profile.*field = added.profile.*field;
         }
-        Require(next < before.size() && IsSame(profile, before.at(next)),
-                "the other profiles are as they were");
-        ++next;
+        if (added.profile.ssid.isEmpty()) {
+            profile.ssid = before.at(changed).profile.ssid;
+        }
     }
-    Require(found, "the profile is remembered");
-    Require(next == before.size(), "no profile is lost");
+    Require(IsSame(after, expected), "nothing is changed but the network and the key of the named profile");
     return 0;
 }

@@ -37,6 +37,10 @@ public:
      * 7: stores a new profile and remembers it. The profile is complete as WLANRecords.h tells; keyMaterial
      * holds the key in plain text and must not get into any trace or log.
      *
+     * Destroys nothing that is remembered: a profile that can't be stored without that is refused. The WLAN
+     * plug-in tells the user itself why, when this has returned: what is shown in the middle of it could
+     * outlive the dialog that calls.
+     *
      * @return a code of the WLAN plug-in's own, 0 for success. The priority plug-in goes on whatever it is.
      */
     virtual int CreateWLANProfile(WLANProfile profile) = 0;

@@ -853,4 +853,79 @@
         <translation>&amp;داكن</translation>
     </message>
 </context>
+<context>
+    <name>WLAN</name>
+    <message>
+        <source>IDS_WLAN_TITLE</source>
+        <translation>شبكة جديدة</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_READ_ONLY</source>
+        <translation>بقيت «%1» كما هي: توجد شبكة مُعدّة بهذا الاسم، ولا يجوز تغييرها.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_SEVERAL</source>
+        <translation>لم يتغيّر شيء: توجد عدة شبكات مُعدّة بالاسم «%1»، ولا يمكن معرفة المقصودة منها. اختر اسمًا آخر.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_UNDESCRIBED</source>
+        <translation>بقيت «%1» كما هي: توجد شبكة مُعدّة بهذا الاسم، وفيها أكثر مما يمكن إدخاله هنا، مثل حساب. غيّرها حيث أُعدّت، أو اختر اسمًا آخر.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_STRONGER</source>
+        <translation>بقيت «%1» كما هي: توجد شبكة مُعدّة بهذا الاسم، وهذه المصادقة أو هذا التشفير أضعف. اختر ما لا يقل عنه، أو اختر اسمًا آخر.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_KEY</source>
+        <translation>بقيت «%1» كما هي: توجد شبكة مُعدّة بهذا الاسم، ويتطلب تغييرها مفتاحًا كاملًا. أدخل مفتاحًا، أو اختر اسمًا آخر.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_BETTER_PROFILE</source>
+        <translation>لم تُحفظ «%1»: الشبكة نفسها مُعدّة بالفعل باسم «%2»، وبشكل أفضل من هذا. أضِف «%2» إلى القائمة بدلًا منها.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_BAD_NAME</source>
+        <translation>لم تُحفظ «%1»: يتكوّن اسم الشبكة من بايت واحد إلى 32 بايت. الحروف المشكّلة والكتابات الأخرى، ومنها العربية، يأخذ كل حرف منها من بايتين إلى أربعة.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_BAD_SECURITY</source>
+        <translation>لم تُحفظ «%1»: هذه المصادقة وهذا التشفير وهذا المفتاح لا تتوافق معًا.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_NO_ACCOUNT</source>
+        <translation>لم تُحفظ «%1»: تتطلب هذه المصادقة حسابًا لا يمكن إدخاله هنا. أعِدّ الشبكة في إعدادات سطح المكتب، ثم أضِفها إلى القائمة.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_NOT_RUNNING</source>
+        <translation>لم تُحفظ «%1»&#x200f;: &#x202a;NetworkManager&#x202c; لا يعمل.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_NO_ANSWER</source>
+        <translation>لا يُعرف هل حُفظت «%1»&#x200f;: &#x202a;NetworkManager&#x202c; لا يجيب.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_DENIED</source>
+        <translation>لم تُحفظ «%1»: ليس لديك إذن بذلك على هذا الحاسوب.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_REFUSED</source>
+        <translation>لم تُحفظ «%1»&#x200f;: &#x202a;NetworkManager&#x202c; لا يقبلها، والسبب على الأرجح هو المفتاح.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_FAILED</source>
+        <translation>لم تُحفظ «%1»: أبلغ &#x202a;NetworkManager&#x202c; عن خطأ.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_FILE_UNUSABLE</source>
+        <translation>لم تُحفظ «%1»: تتعذّر قراءة ملف الشبكات المُعدّة أو الكتابة فيه. في سجل التتبّع تفاصيل أكثر.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_FILE_DAMAGED</source>
+        <translation>لم تُحفظ «%1»: ملف الشبكات المُعدّة تالف، وتُرك كما هو. السطر مذكور في سجل التتبّع.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_BUSY</source>
+        <translation>لم تُحفظ «%1»: برنامج آخر يغيّر الشبكات الآن. حاول مرة أخرى.</translation>
+    </message>
+</context>
 </TS>

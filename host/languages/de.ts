@@ -854,4 +854,79 @@ Erwartet: %3</translation>
         <translation>D&amp;unkel</translation>
     </message>
 </context>
+<context>
+    <name>WLAN</name>
+    <message>
+        <source>IDS_WLAN_TITLE</source>
+        <translation>Neues Netzwerk</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_READ_ONLY</source>
+        <translation>„%1“ wurde nicht geändert: Ein Netzwerk mit diesem Namen ist bereits eingerichtet und darf nicht geändert werden.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_SEVERAL</source>
+        <translation>Es wurde nichts geändert: Unter dem Namen „%1“ sind mehrere Netzwerke eingerichtet, und es ist nicht erkennbar, welches gemeint ist. Wählen Sie einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_UNDESCRIBED</source>
+        <translation>„%1“ wurde nicht geändert: Ein Netzwerk mit diesem Namen ist bereits eingerichtet, mit mehr, als hier eingegeben werden kann, zum Beispiel mit einem Konto. Ändern Sie es dort, wo es eingerichtet wurde, oder wählen Sie einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_STRONGER</source>
+        <translation>„%1“ wurde nicht geändert: Ein Netzwerk mit diesem Namen ist bereits eingerichtet, und diese Sicherheit oder Verschlüsselung wäre schwächer. Wählen Sie mindestens die gleiche oder einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_KEY</source>
+        <translation>„%1“ wurde nicht geändert: Ein Netzwerk mit diesem Namen ist bereits eingerichtet, und zum Ändern ist ein vollständiger Schlüssel nötig. Geben Sie einen ein, oder wählen Sie einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_BETTER_PROFILE</source>
+        <translation>„%1“ wurde nicht gespeichert: Dasselbe Netzwerk ist bereits als „%2“ eingerichtet, und zwar besser als so. Fügen Sie stattdessen „%2“ zur Liste hinzu.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_BAD_NAME</source>
+        <translation>„%1“ wurde nicht gespeichert: Der Name eines Netzwerks hat 1 bis 32 Byte. Umlaute, Buchstaben mit Akzenten und andere Schriften brauchen je zwei bis vier Byte.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_BAD_SECURITY</source>
+        <translation>„%1“ wurde nicht gespeichert: Diese Sicherheit, diese Verschlüsselung und dieser Schlüssel passen nicht zusammen.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_NO_ACCOUNT</source>
+        <translation>„%1“ wurde nicht gespeichert: Diese Sicherheit verlangt ein Konto, das hier nicht eingegeben werden kann. Richten Sie das Netzwerk in den Einstellungen Ihres Desktops ein, und fügen Sie es dann zur Liste hinzu.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_NOT_RUNNING</source>
+        <translation>„%1“ wurde nicht gespeichert: NetworkManager läuft nicht.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_NO_ANSWER</source>
+        <translation>Es ist nicht bekannt, ob „%1“ gespeichert wurde: NetworkManager antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_DENIED</source>
+        <translation>„%1“ wurde nicht gespeichert: Dazu haben Sie auf diesem Computer keine Berechtigung.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_REFUSED</source>
+        <translation>„%1“ wurde nicht gespeichert: NetworkManager nimmt es nicht an, höchstwahrscheinlich wegen des Schlüssels.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_FAILED</source>
+        <translation>„%1“ wurde nicht gespeichert: NetworkManager meldet einen Fehler.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_FILE_UNUSABLE</source>
+        <translation>„%1“ wurde nicht gespeichert: Die Datei der eingerichteten Netzwerke kann nicht gelesen oder geschrieben werden. Mehr dazu steht im Ablaufprotokoll.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_FILE_DAMAGED</source>
+        <translation>„%1“ wurde nicht gespeichert: Die Datei der eingerichteten Netzwerke ist beschädigt und bleibt, wie sie ist. Die Zeile steht im Ablaufprotokoll.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_BUSY</source>
+        <translation>„%1“ wurde nicht gespeichert: Ein anderes Programm ändert gerade die Netzwerke. Versuchen Sie es noch einmal.</translation>
+    </message>
+</context>
 </TS>

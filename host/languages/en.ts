@@ -943,4 +943,97 @@ Expected: %3</translation>
         <translation>Dar&amp;k</translation>
     </message>
 </context>
+<context>
+    <name>WLAN</name>
+    <message>
+        <source>IDS_WLAN_TITLE</source>
+        <extracomment>Title of the notices that follow</extracomment>
+        <translation>New network</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_READ_ONLY</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>“%1” was left as it is: a network of this name is set up already, and it cannot be changed.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_SEVERAL</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>Nothing was changed: several networks are set up under the name “%1”, and it cannot be known which one is meant. Choose another name.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_UNDESCRIBED</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>“%1” was left as it is: a network of this name is set up already, with more than can be entered here, such as an account. Change it where it was set up, or choose another name.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_STRONGER</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>“%1” was left as it is: a network of this name is set up already, and this security or encryption would be weaker. Choose at least the same, or another name.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_KEY</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>“%1” was left as it is: a network of this name is set up already, and changing it needs a complete key. Enter one, or choose another name.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_BETTER_PROFILE</source>
+        <extracomment>%1: the new network; %2: the name under which it is set up</extracomment>
+        <translation>“%1” was not stored: the same network is set up already as “%2”, and better than this. Add “%2” to the list instead.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_BAD_NAME</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>“%1” was not stored: the name of a network has 1 to 32 bytes. Letters with accents and other scripts take two to four bytes each.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_BAD_SECURITY</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>“%1” was not stored: this security, this encryption and this key do not go together.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_NO_ACCOUNT</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>“%1” was not stored: this security needs an account, which cannot be entered here. Set the network up in the settings of your desktop, then add it to the list.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_NOT_RUNNING</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>“%1” was not stored: NetworkManager is not running.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_NO_ANSWER</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>It is not known whether “%1” was stored: NetworkManager gives no answer.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_DENIED</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>“%1” was not stored: you do not have permission to do that on this computer.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_REFUSED</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>“%1” was not stored: NetworkManager does not accept it, most likely because of the key.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_FAILED</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>“%1” was not stored: NetworkManager reports an error.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_FILE_UNUSABLE</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>“%1” was not stored: the file of the networks that are set up cannot be read or written. The trace tells more.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_FILE_DAMAGED</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>“%1” was not stored: the file of the networks that are set up is damaged, and it is left as it is. The trace tells the line.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_BUSY</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>“%1” was not stored: another program is changing the networks. Try again.</translation>
+    </message>
+</context>
 </TS>

@@ -854,4 +854,79 @@ Esperado: %3</translation>
         <translation>&amp;Oscuro</translation>
     </message>
 </context>
+<context>
+    <name>WLAN</name>
+    <message>
+        <source>IDS_WLAN_TITLE</source>
+        <translation>Red nueva</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_READ_ONLY</source>
+        <translation>«%1» se dejó como estaba: ya hay una red configurada con ese nombre y no se debe cambiar.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_SEVERAL</source>
+        <translation>No se cambió nada: hay varias redes configuradas con el nombre «%1» y no se puede saber cuál es la indicada. Elija otro nombre.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_UNDESCRIBED</source>
+        <translation>«%1» se dejó como estaba: ya hay una red configurada con ese nombre, con más de lo que se puede introducir aquí, por ejemplo una cuenta. Cámbiela donde se configuró o elija otro nombre.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_STRONGER</source>
+        <translation>«%1» se dejó como estaba: ya hay una red configurada con ese nombre, y esta seguridad o este cifrado serían más débiles. Elija al menos lo mismo u otro nombre.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_KEY</source>
+        <translation>«%1» se dejó como estaba: ya hay una red configurada con ese nombre y para cambiarla hace falta una clave completa. Introduzca una o elija otro nombre.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_BETTER_PROFILE</source>
+        <translation>«%1» no se guardó: la misma red ya está configurada como «%2», y mejor que así. Añada «%2» a la lista en su lugar.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_BAD_NAME</source>
+        <translation>«%1» no se guardó: el nombre de una red tiene de 1 a 32 bytes. Las letras con tilde y otras escrituras ocupan de dos a cuatro bytes cada una.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_BAD_SECURITY</source>
+        <translation>«%1» no se guardó: esta seguridad, este cifrado y esta clave no son compatibles.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_NO_ACCOUNT</source>
+        <translation>«%1» no se guardó: esta seguridad requiere una cuenta, que no se puede introducir aquí. Configure la red en los ajustes de su escritorio y añádala después a la lista.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_NOT_RUNNING</source>
+        <translation>«%1» no se guardó: NetworkManager no está en ejecución.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_NO_ANSWER</source>
+        <translation>No se sabe si «%1» se guardó: NetworkManager no responde.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_DENIED</source>
+        <translation>«%1» no se guardó: no tiene permiso para hacerlo en este equipo.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_REFUSED</source>
+        <translation>«%1» no se guardó: NetworkManager no la acepta, muy probablemente por la clave.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_FAILED</source>
+        <translation>«%1» no se guardó: NetworkManager comunica un error.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_FILE_UNUSABLE</source>
+        <translation>«%1» no se guardó: el archivo de las redes configuradas no se puede leer o escribir. El seguimiento dice más.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_FILE_DAMAGED</source>
+        <translation>«%1» no se guardó: el archivo de las redes configuradas está dañado y se deja como está. El seguimiento indica la línea.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_BUSY</source>
+        <translation>«%1» no se guardó: otro programa está cambiando las redes. Inténtelo de nuevo.</translation>
+    </message>
+</context>
 </TS>

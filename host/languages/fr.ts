@@ -854,4 +854,79 @@ Attendu&#xa0;: %3</translation>
         <translation>&amp;Sombre</translation>
     </message>
 </context>
+<context>
+    <name>WLAN</name>
+    <message>
+        <source>IDS_WLAN_TITLE</source>
+        <translation>Nouveau réseau</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_READ_ONLY</source>
+        <translation>«&#xa0;%1&#xa0;» est resté tel quel&#xa0;: un réseau de ce nom est déjà configuré et ne doit pas être modifié.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_SEVERAL</source>
+        <translation>Rien n’a été modifié&#xa0;: plusieurs réseaux sont configurés sous le nom «&#xa0;%1&#xa0;», et rien ne dit lequel est visé. Choisissez un autre nom.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_UNDESCRIBED</source>
+        <translation>«&#xa0;%1&#xa0;» est resté tel quel&#xa0;: un réseau de ce nom est déjà configuré, avec plus que ce qui peut être saisi ici, par exemple un compte. Modifiez-le là où il a été configuré ou choisissez un autre nom.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_STRONGER</source>
+        <translation>«&#xa0;%1&#xa0;» est resté tel quel&#xa0;: un réseau de ce nom est déjà configuré, et cette sécurité ou ce chiffrement serait plus faible. Choisissez au moins l’équivalent ou un autre nom.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_KEY</source>
+        <translation>«&#xa0;%1&#xa0;» est resté tel quel&#xa0;: un réseau de ce nom est déjà configuré, et sa modification demande une clé complète. Saisissez-en une ou choisissez un autre nom.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_BETTER_PROFILE</source>
+        <translation>«&#xa0;%1&#xa0;» n’a pas été enregistré&#xa0;: le même réseau est déjà configuré sous le nom «&#xa0;%2&#xa0;», et mieux qu’ainsi. Ajoutez plutôt «&#xa0;%2&#xa0;» à la liste.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_BAD_NAME</source>
+        <translation>«&#xa0;%1&#xa0;» n’a pas été enregistré&#xa0;: le nom d’un réseau compte de 1 à 32 octets. Les lettres accentuées et les autres écritures en prennent chacune de deux à quatre.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_BAD_SECURITY</source>
+        <translation>«&#xa0;%1&#xa0;» n’a pas été enregistré&#xa0;: cette sécurité, ce chiffrement et cette clé ne vont pas ensemble.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_NO_ACCOUNT</source>
+        <translation>«&#xa0;%1&#xa0;» n’a pas été enregistré&#xa0;: cette sécurité demande un compte, qui ne peut pas être saisi ici. Configurez le réseau dans les paramètres de votre bureau, puis ajoutez-le à la liste.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_NOT_RUNNING</source>
+        <translation>«&#xa0;%1&#xa0;» n’a pas été enregistré&#xa0;: NetworkManager n’est pas lancé.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_NO_ANSWER</source>
+        <translation>On ne sait pas si «&#xa0;%1&#xa0;» a été enregistré&#xa0;: NetworkManager ne répond pas.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_DENIED</source>
+        <translation>«&#xa0;%1&#xa0;» n’a pas été enregistré&#xa0;: vous n’y êtes pas autorisé sur cet ordinateur.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_REFUSED</source>
+        <translation>«&#xa0;%1&#xa0;» n’a pas été enregistré&#xa0;: NetworkManager ne l’accepte pas, très probablement à cause de la clé.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_FAILED</source>
+        <translation>«&#xa0;%1&#xa0;» n’a pas été enregistré&#xa0;: NetworkManager signale une erreur.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_FILE_UNUSABLE</source>
+        <translation>«&#xa0;%1&#xa0;» n’a pas été enregistré&#xa0;: le fichier des réseaux configurés ne peut pas être lu ou écrit. La trace en dit plus.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_FILE_DAMAGED</source>
+        <translation>«&#xa0;%1&#xa0;» n’a pas été enregistré&#xa0;: le fichier des réseaux configurés est endommagé et reste tel quel. La trace indique la ligne.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_BUSY</source>
+        <translation>«&#xa0;%1&#xa0;» n’a pas été enregistré&#xa0;: un autre programme modifie les réseaux. Réessayez.</translation>
+    </message>
+</context>
 </TS>

@@ -853,4 +853,79 @@
         <translation>&amp;כהה</translation>
     </message>
 </context>
+<context>
+    <name>WLAN</name>
+    <message>
+        <source>IDS_WLAN_TITLE</source>
+        <translation>רשת חדשה</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_READ_ONLY</source>
+        <translation>„%1” נשארה כפי שהייתה: כבר מוגדרת רשת בשם הזה, ואסור לשנות אותה.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_SEVERAL</source>
+        <translation>דבר לא השתנה: כמה רשתות מוגדרות בשם „%1”&#x200f;, ולא ניתן לדעת לאיזו מהן הכוונה. יש לבחור שם אחר.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_UNDESCRIBED</source>
+        <translation>„%1” נשארה כפי שהייתה: כבר מוגדרת רשת בשם הזה, ויש בה יותר ממה שאפשר להזין כאן, למשל חשבון. יש לשנות אותה במקום שבו הוגדרה, או לבחור שם אחר.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_STRONGER</source>
+        <translation>„%1” נשארה כפי שהייתה: כבר מוגדרת רשת בשם הזה, ושיטת האימות או ההצפנה הזו חלשה יותר. יש לבחור לפחות באותה רמה, או לבחור שם אחר.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_KEY</source>
+        <translation>„%1” נשארה כפי שהייתה: כבר מוגדרת רשת בשם הזה, וכדי לשנות אותה דרוש מפתח שלם. יש להזין מפתח, או לבחור שם אחר.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_BETTER_PROFILE</source>
+        <translation>„%1” לא נשמרה: אותה רשת כבר מוגדרת בשם „%2”&#x200f;, וטוב יותר מכך. במקום זאת יש להוסיף לרשימה את „%2”.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_BAD_NAME</source>
+        <translation>„%1” לא נשמרה: בשם של רשת יש 1 עד 32 בתים. אותיות עם סימנים וכתבים אחרים, ובהם עברית, תופסים שניים עד ארבעה בתים לאות.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_BAD_SECURITY</source>
+        <translation>„%1” לא נשמרה: שיטת האימות, ההצפנה והמפתח האלה אינם מתאימים זה לזה.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_NO_ACCOUNT</source>
+        <translation>„%1” לא נשמרה: שיטת האימות הזו דורשת חשבון, שלא ניתן להזין כאן. יש להגדיר את הרשת בהגדרות שולחן העבודה, ואז להוסיף אותה לרשימה.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_NOT_RUNNING</source>
+        <translation>„%1” לא נשמרה: &#x202a;NetworkManager&#x202c; אינו פועל.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_NO_ANSWER</source>
+        <translation>לא ידוע אם „%1” נשמרה: &#x202a;NetworkManager&#x202c; אינו עונה.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_DENIED</source>
+        <translation>„%1” לא נשמרה: אין לך הרשאה לכך במחשב הזה.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_REFUSED</source>
+        <translation>„%1” לא נשמרה: &#x202a;NetworkManager&#x202c; אינו מקבל אותה, ככל הנראה בגלל המפתח.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_FAILED</source>
+        <translation>„%1” לא נשמרה: &#x202a;NetworkManager&#x202c; מדווח על שגיאה.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_FILE_UNUSABLE</source>
+        <translation>„%1” לא נשמרה: לא ניתן לקרוא או לכתוב את קובץ הרשתות המוגדרות. במעקב יש פרטים נוספים.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_FILE_DAMAGED</source>
+        <translation>„%1” לא נשמרה: קובץ הרשתות המוגדרות פגום, והוא נשאר כפי שהוא. השורה מצוינת במעקב.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_BUSY</source>
+        <translation>„%1” לא נשמרה: תוכנית אחרת משנה את הרשתות. יש לנסות שוב.</translation>
+    </message>
+</context>
 </TS>

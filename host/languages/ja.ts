@@ -854,4 +854,79 @@
         <translation>ダーク(&amp;K)</translation>
     </message>
 </context>
+<context>
+    <name>WLAN</name>
+    <message>
+        <source>IDS_WLAN_TITLE</source>
+        <translation>新しいネットワーク</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_READ_ONLY</source>
+        <translation>「%1」は変更されませんでした。この名前のネットワークはすでに設定されていて、変更できません。</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_SEVERAL</source>
+        <translation>何も変更されませんでした。「%1」という名前で複数のネットワークが設定されていて、どれのことか判断できません。別の名前を選んでください。</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_UNDESCRIBED</source>
+        <translation>「%1」は変更されませんでした。この名前のネットワークはすでに設定されていて、アカウントなど、ここでは入力できない内容を含んでいます。設定した場所で変更するか、別の名前を選んでください。</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_STRONGER</source>
+        <translation>「%1」は変更されませんでした。この名前のネットワークはすでに設定されていて、このセキュリティまたは暗号化ではそれより弱くなります。同等以上のものか、別の名前を選んでください。</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_KEY</source>
+        <translation>「%1」は変更されませんでした。この名前のネットワークはすでに設定されていて、変更するには完全なキーが必要です。キーを入力するか、別の名前を選んでください。</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_BETTER_PROFILE</source>
+        <translation>「%1」は保存されませんでした。同じネットワークが、これより良い内容で「%2」としてすでに設定されています。代わりに「%2」をリストに追加してください。</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_BAD_NAME</source>
+        <translation>「%1」は保存されませんでした。ネットワーク名は 1～32 バイトです。アクセント付きの文字や日本語などの文字は、1 文字につき 2～4 バイトになります。</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_BAD_SECURITY</source>
+        <translation>「%1」は保存されませんでした。このセキュリティ、暗号化、キーは組み合わせられません。</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_NO_ACCOUNT</source>
+        <translation>「%1」は保存されませんでした。このセキュリティにはアカウントが必要ですが、ここでは入力できません。デスクトップの設定でネットワークを設定してから、リストに追加してください。</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_NOT_RUNNING</source>
+        <translation>「%1」は保存されませんでした。NetworkManager が動作していません。</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_NO_ANSWER</source>
+        <translation>「%1」が保存されたかどうかは不明です。NetworkManager が応答しません。</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_DENIED</source>
+        <translation>「%1」は保存されませんでした。このコンピューターでその操作を行う権限がありません。</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_REFUSED</source>
+        <translation>「%1」は保存されませんでした。NetworkManager に受け付けられませんでした。原因はおそらくキーです。</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_FAILED</source>
+        <translation>「%1」は保存されませんでした。NetworkManager がエラーを返しました。</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_FILE_UNUSABLE</source>
+        <translation>「%1」は保存されませんでした。設定済みネットワークのファイルを読み書きできません。詳しくはトレースを見てください。</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_FILE_DAMAGED</source>
+        <translation>「%1」は保存されませんでした。設定済みネットワークのファイルが壊れているため、そのまま残しました。該当する行はトレースにあります。</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_BUSY</source>
+        <translation>「%1」は保存されませんでした。別のプログラムがネットワークを変更しています。もう一度試してください。</translation>
+    </message>
+</context>
 </TS>

@@ -854,4 +854,79 @@ Esperado: %3</translation>
         <translation>&amp;Escuro</translation>
     </message>
 </context>
+<context>
+    <name>WLAN</name>
+    <message>
+        <source>IDS_WLAN_TITLE</source>
+        <translation>Nova rede</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_READ_ONLY</source>
+        <translation>“%1” ficou como estava: já existe uma rede configurada com esse nome, e ela não deve ser alterada.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_SEVERAL</source>
+        <translation>Nada foi alterado: várias redes estão configuradas com o nome “%1”, e não é possível saber qual delas é. Escolha outro nome.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_UNDESCRIBED</source>
+        <translation>“%1” ficou como estava: já existe uma rede configurada com esse nome, com mais do que pode ser informado aqui, como uma conta. Altere-a onde ela foi configurada ou escolha outro nome.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_STRONGER</source>
+        <translation>“%1” ficou como estava: já existe uma rede configurada com esse nome, e esta segurança ou criptografia seria mais fraca. Escolha pelo menos a mesma ou outro nome.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_KEY</source>
+        <translation>“%1” ficou como estava: já existe uma rede configurada com esse nome, e para alterá-la é preciso uma chave completa. Digite uma ou escolha outro nome.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_BETTER_PROFILE</source>
+        <translation>“%1” não foi salva: a mesma rede já está configurada como “%2”, e melhor do que assim. Adicione “%2” à lista em vez disso.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_BAD_NAME</source>
+        <translation>“%1” não foi salva: o nome de uma rede tem de 1 a 32 bytes. Letras com acento e outras escritas ocupam de dois a quatro bytes cada.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_BAD_SECURITY</source>
+        <translation>“%1” não foi salva: esta segurança, esta criptografia e esta chave não combinam.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_NO_ACCOUNT</source>
+        <translation>“%1” não foi salva: esta segurança exige uma conta, que não pode ser informada aqui. Configure a rede nas configurações da sua área de trabalho e depois adicione-a à lista.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_NOT_RUNNING</source>
+        <translation>“%1” não foi salva: o NetworkManager não está em execução.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_NO_ANSWER</source>
+        <translation>Não se sabe se “%1” foi salva: o NetworkManager não responde.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_DENIED</source>
+        <translation>“%1” não foi salva: você não tem permissão para isso neste computador.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_REFUSED</source>
+        <translation>“%1” não foi salva: o NetworkManager não a aceita, muito provavelmente por causa da chave.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_FAILED</source>
+        <translation>“%1” não foi salva: o NetworkManager informa um erro.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_FILE_UNUSABLE</source>
+        <translation>“%1” não foi salva: não é possível ler ou gravar o arquivo das redes configuradas. O rastreamento diz mais.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_FILE_DAMAGED</source>
+        <translation>“%1” não foi salva: o arquivo das redes configuradas está danificado e fica como está. O rastreamento indica a linha.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_BUSY</source>
+        <translation>“%1” não foi salva: outro programa está alterando as redes. Tente de novo.</translation>
+    </message>
+</context>
 </TS>

@@ -854,4 +854,79 @@
         <translation>&amp;Тёмное</translation>
     </message>
 </context>
+<context>
+    <name>WLAN</name>
+    <message>
+        <source>IDS_WLAN_TITLE</source>
+        <translation>Новая сеть</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_READ_ONLY</source>
+        <translation>Сеть «%1» не изменена: сеть с таким именем уже настроена, и менять её нельзя.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_SEVERAL</source>
+        <translation>Ничего не изменено: под именем «%1» настроено несколько сетей, и неизвестно, какая имеется в виду. Выберите другое имя.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_UNDESCRIBED</source>
+        <translation>Сеть «%1» не изменена: сеть с таким именем уже настроена, и у неё есть то, чего здесь не ввести, например учётная запись. Измените её там, где она настроена, или выберите другое имя.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_STRONGER</source>
+        <translation>Сеть «%1» не изменена: сеть с таким именем уже настроена, а эта защита или это шифрование слабее. Выберите не слабее прежнего или другое имя.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_KEY</source>
+        <translation>Сеть «%1» не изменена: сеть с таким именем уже настроена, и для изменения нужен полный ключ. Введите его или выберите другое имя.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_BETTER_PROFILE</source>
+        <translation>Сеть «%1» не сохранена: эта же сеть уже настроена как «%2», и лучше, чем так. Добавьте в список «%2».</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_BAD_NAME</source>
+        <translation>Сеть «%1» не сохранена: имя сети занимает от 1 до 32 байт. Буквы с диакритикой и другие письменности занимают от двух до четырёх байт на знак.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_BAD_SECURITY</source>
+        <translation>Сеть «%1» не сохранена: эта защита, это шифрование и этот ключ не сочетаются.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_NO_ACCOUNT</source>
+        <translation>Сеть «%1» не сохранена: для этой защиты нужна учётная запись, а здесь её ввести нельзя. Настройте сеть в параметрах рабочего стола, затем добавьте её в список.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_NOT_RUNNING</source>
+        <translation>Сеть «%1» не сохранена: NetworkManager не запущен.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_NO_ANSWER</source>
+        <translation>Неизвестно, сохранена ли сеть «%1»: NetworkManager не отвечает.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_DENIED</source>
+        <translation>Сеть «%1» не сохранена: на этом компьютере у вас нет на это прав.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_REFUSED</source>
+        <translation>Сеть «%1» не сохранена: NetworkManager её не принимает, скорее всего из-за ключа.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_FAILED</source>
+        <translation>Сеть «%1» не сохранена: NetworkManager сообщает об ошибке.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_FILE_UNUSABLE</source>
+        <translation>Сеть «%1» не сохранена: файл настроенных сетей не удаётся прочитать или записать. Подробнее — в трассировке.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_FILE_DAMAGED</source>
+        <translation>Сеть «%1» не сохранена: файл настроенных сетей повреждён и оставлен как есть. Строка указана в трассировке.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_BUSY</source>
+        <translation>Сеть «%1» не сохранена: другая программа меняет сети. Попробуйте ещё раз.</translation>
+    </message>
+</context>
 </TS>

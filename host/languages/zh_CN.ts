@@ -854,4 +854,79 @@
         <translation>深色(&amp;K)</translation>
     </message>
 </context>
+<context>
+    <name>WLAN</name>
+    <message>
+        <source>IDS_WLAN_TITLE</source>
+        <translation>新建网络</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_READ_ONLY</source>
+        <translation>“%1”保持原样：已设置了同名网络，并且不允许更改。</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_SEVERAL</source>
+        <translation>未做任何更改：有多个网络以“%1”为名，无法确定指的是哪一个。请选择其他名称。</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_UNDESCRIBED</source>
+        <translation>“%1”保持原样：已设置了同名网络，其中含有此处无法输入的内容，例如帐户。请在设置它的地方更改，或选择其他名称。</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_STRONGER</source>
+        <translation>“%1”保持原样：已设置了同名网络，而这种安全类型或加密会更弱。请选择至少同等的安全类型和加密，或选择其他名称。</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_KEPT_KEY</source>
+        <translation>“%1”保持原样：已设置了同名网络，更改它需要完整的密钥。请输入密钥，或选择其他名称。</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_BETTER_PROFILE</source>
+        <translation>“%1”未保存：同一网络已设置为“%2”，并且比这样更好。请改为将“%2”添加到列表。</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_BAD_NAME</source>
+        <translation>“%1”未保存：网络名称为 1 到 32 个字节。带重音的字母和汉字等其他文字，每个占 2 到 4 个字节。</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_BAD_SECURITY</source>
+        <translation>“%1”未保存：这种安全类型、加密和密钥不能搭配使用。</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_NO_ACCOUNT</source>
+        <translation>“%1”未保存：这种安全类型需要帐户，而此处无法输入。请在桌面设置中设置该网络，然后将其添加到列表。</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_NOT_RUNNING</source>
+        <translation>“%1”未保存：NetworkManager 未在运行。</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_NO_ANSWER</source>
+        <translation>不清楚“%1”是否已保存：NetworkManager 没有响应。</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_DENIED</source>
+        <translation>“%1”未保存：您在这台计算机上没有权限这样做。</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_REFUSED</source>
+        <translation>“%1”未保存：NetworkManager 不接受它，很可能是密钥的原因。</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_FAILED</source>
+        <translation>“%1”未保存：NetworkManager 报告了错误。</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_FILE_UNUSABLE</source>
+        <translation>“%1”未保存：无法读取或写入保存网络设置的文件。跟踪中有详细信息。</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_FILE_DAMAGED</source>
+        <translation>“%1”未保存：保存网络设置的文件已损坏，文件保持原样。跟踪中指明了所在行。</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_BUSY</source>
+        <translation>“%1”未保存：另一个程序正在更改网络。请重试。</translation>
+    </message>
+</context>
 </TS>

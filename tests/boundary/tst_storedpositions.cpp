@@ -269,8 +269,8 @@ void StoredPositionsTest::EleventhGivesTheConfiguration()
 {
     Configuration configuration;
     QCOMPARE(At<ConfigurationOperation>(Wlan(), configurationPosition)(Wlan(), &configuration), 0);
-    QCOMPARE(static_cast<int>(configuration.methods.size()), 7);
-    QCOMPARE(configuration.methods.last(), QString("IEEE 802.1X"));
+    QCOMPARE(static_cast<int>(configuration.methods.size()), 6);
+    QCOMPARE(configuration.methods.last(), QString("WPA2(EAP)"));
     QVERIFY(configuration.settings.isEmpty());
     QVERIFY(configuration.texts2.isEmpty());
     QVERIFY(configuration.texts3.isEmpty());

@@ -13,6 +13,7 @@
 #include <PluginObjects.h>
 #include <PrivateFile.h>
 #include <Settings.h>
+#include <UserNotice.h>
 
 #include <QApplication>
 #include <QComboBox>
@@ -223,7 +224,25 @@ const Screens::Screen Screens::screens[] = {
     {"notice, different keys", &Screens::ShowKeyNotice, "WPA2PSK CCMP correct-horse correct-house"},
     {"notice, no authentication", &Screens::ShowKeyNotice, "none CCMP correct-horse correct-horse"},
     {"notice, no name", &Screens::ShowNameNotice, ""},
-    {"notice, repeated name", &Screens::ShowNameNotice, "Home"},
+    {"notice, repeated name", &Screens::ShowNameNotice, longName},
+    {"notice, left as it is, read-only", &Screens::ShowStoringNotice, "IDS_WLAN_KEPT_READ_ONLY"},
+    {"notice, left as it is, several", &Screens::ShowStoringNotice, "IDS_WLAN_KEPT_SEVERAL"},
+    {"notice, left as it is, more than can be entered", &Screens::ShowStoringNotice,
+     "IDS_WLAN_KEPT_UNDESCRIBED"},
+    {"notice, left as it is, stronger", &Screens::ShowStoringNotice, "IDS_WLAN_KEPT_STRONGER"},
+    {"notice, left as it is, key needed", &Screens::ShowStoringNotice, "IDS_WLAN_KEPT_KEY"},
+    {"notice, not stored, better one", &Screens::ShowStoringNotice, "IDS_WLAN_BETTER_PROFILE"},
+    {"notice, not stored, name", &Screens::ShowStoringNotice, "IDS_WLAN_BAD_NAME"},
+    {"notice, not stored, security", &Screens::ShowStoringNotice, "IDS_WLAN_BAD_SECURITY"},
+    {"notice, not stored, account needed", &Screens::ShowStoringNotice, "IDS_WLAN_NO_ACCOUNT"},
+    {"notice, not stored, NetworkManager not running", &Screens::ShowStoringNotice, "IDS_WLAN_NOT_RUNNING"},
+    {"notice, not stored, no answer", &Screens::ShowStoringNotice, "IDS_WLAN_NO_ANSWER"},
+    {"notice, not stored, no permission", &Screens::ShowStoringNotice, "IDS_WLAN_DENIED"},
+    {"notice, not stored, refused", &Screens::ShowStoringNotice, "IDS_WLAN_REFUSED"},
+    {"notice, not stored, error", &Screens::ShowStoringNotice, "IDS_WLAN_FAILED"},
+    {"notice, not stored, file not usable", &Screens::ShowStoringNotice, "IDS_WLAN_FILE_UNUSABLE"},
+    {"notice, not stored, file damaged", &Screens::ShowStoringNotice, "IDS_WLAN_FILE_DAMAGED"},
+    {"notice, not stored, changed by another", &Screens::ShowStoringNotice, "IDS_WLAN_BUSY"},
     {"connect dialog", &Screens::ShowConnect, nullptr},
     {"connect dialog, nothing in range", &Screens::ShowConnect, noNetworks},
     {"connect dialog, Wi-Fi plug-in missing", &Screens::ShowConnectWithout, "WLAN"},
@@ -501,6 +520,16 @@ void Screens::ShowNameNotice(const char *name)
     Child<QComboBox>("networkNameBox")->setEditText(QLatin1String(name));
     ClickAndVisitMessage("newOkButton");
     Child<QDialog>("newDialog")->close();
+}
+
+void Screens::ShowStoringNotice(const char *id)
+{
+    OpenWindow(m_plugins.data());
+    CUserNotice notice;
+    const bool hasOther = QByteArray(id) == "IDS_WLAN_BETTER_PROFILE";
+    notice.Tell(id, QLatin1String("Home"), hasOther ? QString(QLatin1String("Office")) : QString());
+    QTimer::singleShot(0, this, SLOT(VisitMessage()));
+    QApplication::processEvents();
 }
 
 void Screens::ShowConnect(const char *networksInRange)

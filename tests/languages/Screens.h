@@ -73,6 +73,7 @@ private:
     void ShowDeleteQuestion(const char *);
     void ShowKeyNotice(const char *methodAndKeys);
     void ShowNameNotice(const char *name);
+    void ShowStoringNotice(const char *id);
     void ShowConnect(const char *networksInRange);
     void ShowConnectWithout(const char *plugin);
     void ShowDamagedLanguage(const char *kind);

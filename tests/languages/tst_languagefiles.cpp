@@ -25,7 +25,8 @@ QLatin1String English()
 struct Use {
     QString id;
     QString place;
-    /** The texts that may be meant: the file's own context, and the other one's where the file names it. */
+    /** The texts that may be meant: those of the file's own context, and of the plug-in's where the file
+     * names that or shows a message, the captions of which are among them. */
     QStringList keys;
 };
 
@@ -43,8 +44,9 @@ QList<Use> UsesIn(const QString &directory, const QString &context)
         }
         const QString source = QString::fromUtf8(file.readAll());
         QStringList contexts(context);
-        if (source.contains(QLatin1String("\"PriorityPlugin\"")) &&
-            context != QLatin1String("PriorityPlugin")) {
+        const bool namesPlugin = source.contains(QLatin1String("\"PriorityPlugin\"")) ||
+                                 source.contains(QLatin1String("ShowMessage("));
+        if (namesPlugin && context != QLatin1String("PriorityPlugin")) {
             contexts.append(QLatin1String("PriorityPlugin"));
         }
         const QString start = QLatin1String("\"IDS_");
@@ -67,7 +69,8 @@ QList<Use> AllUses()
 {
     return UsesIn(QLatin1String("src/PriorityPlugin"), QLatin1String("PriorityPlugin")) +
            UsesIn(QLatin1String("host/coreui"), QLatin1String("PriorityPlugin")) +
-           UsesIn(QLatin1String("host/dashboard"), QLatin1String("Dashboard"));
+           UsesIn(QLatin1String("host/dashboard"), QLatin1String("Dashboard")) +
+           UsesIn(QLatin1String("wlan"), QLatin1String("WLAN"));
 }
 
 /** "%1", "%2", "%n" and the like, each once, sorted. */

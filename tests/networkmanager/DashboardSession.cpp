@@ -6,7 +6,9 @@
 #include <TraceLog.h>
 #include <UserActions.h>
 
+#include <QApplication>
 #include <QDir>
+#include <QLabel>
 #include <QTableWidget>
 #include <QtTest>
 
@@ -22,6 +24,22 @@ DashboardSession::DashboardSession()
     m_log.reset(new TraceLog(m_user.FilePath("dashboard.log")));
     m_plugins.reset(new PluginHost(BUILD_DIRECTORY, PluginHost::KnownPlugins(WlanAutomatic)));
     m_plugins->Load();
+
+    const int pause = 50;
+    QObject::connect(&m_reader, &QTimer::timeout, [this] {
+        QWidget *message = QApplication::activeModalWidget();
+        if (message && message->objectName() == QLatin1String("messageBox")) {
+            QString text = message->findChild<QLabel *>("messageText")->text();
+            // What tells the directions is for the eye alone.
+            m_notices.append(text.remove(QChar(0x200e)).remove(QChar(0x202a)).remove(QChar(0x202c)));
+            const std::function<void()> deed = m_deed ? m_deed : [message] {
+                message->close();
+            };
+            m_deed = nullptr;
+            deed();
+        }
+    });
+    m_reader.start(pause);
 }
 
 DashboardSession::~DashboardSession()
@@ -43,6 +61,7 @@ void DashboardSession::OpenWindow()
     m_language.reset(new DashboardLanguage(m_plugins.data(), nullptr));
     m_window.reset(new MainWindow(m_plugins.data(), m_language.data(), m_log.data()));
     m_window->show();
+    m_notices.clear();
 }
 
 void DashboardSession::CloseWindow()

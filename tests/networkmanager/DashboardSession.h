@@ -7,6 +7,9 @@
 
 #include <QScopedPointer>
 #include <QStringList>
+#include <QTimer>
+
+#include <functional>
 
 class DashboardLanguage;
 class PluginHost;
@@ -36,6 +39,11 @@ public:
     /** Empty, or why a user couldn't click there. */
     QString Click(const char *name);
 
+    /** The messages that have come to this window; each is read and closed as soon as it is there. */
+    const QStringList &Notices() const { return m_notices; }
+    /** What is done with the next message in the place of closing it. */
+    void AtNextNotice(const std::function<void()> &deed) { m_deed = deed; }
+
     void SetList(const QStringList &names) const;
     const TemporaryDirectory &User() const { return m_user; }
     QByteArray Log() const { return m_user.Read("dashboard.log"); }
@@ -48,6 +56,9 @@ private:
     QScopedPointer<PluginHost> m_plugins;
     QScopedPointer<DashboardLanguage> m_language;
     QScopedPointer<MainWindow> m_window;
+    QTimer m_reader;
+    QStringList m_notices;
+    std::function<void()> m_deed;
 };
 
 #endif

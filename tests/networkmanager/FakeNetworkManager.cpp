@@ -13,8 +13,6 @@ namespace
 typedef QMap<QDBusObjectPath, NMVariantMapMap> ManagedObjects;
 
 const char service[] = "org.freedesktop.NetworkManager";
-const char supplicant[] = "fi.w1.wpa_supplicant1";
-const char supplicantPath[] = "/fi/w1/wpa_supplicant1";
 const char root[] = "/org/freedesktop/NetworkManager";
 const char settingsPath[] = "/org/freedesktop/NetworkManager/Settings";
 const char settingsInterface[] = "org.freedesktop.NetworkManager.Settings";
@@ -30,16 +28,29 @@ NMVariantMapMap SettingsIn(const QDBusMessage &call)
     return qdbus_cast<NMVariantMapMap>(call.arguments().at(0).value<QDBusArgument>());
 }
 
+const char security[] = "802-11-wireless-security";
+const char *const keys[] = {"psk", "wep-key0", "wep-key1", "wep-key2", "wep-key3"};
+
 /** NetworkManager gives keys to nobody who only asks for the settings. */
 NMVariantMapMap WithoutKeys(NMVariantMapMap settings)
 {
-    const char *const keys[] = {"psk", "wep-key0", "wep-key1", "wep-key2", "wep-key3"};
-    if (settings.contains("802-11-wireless-security")) {
+    if (settings.contains(security)) {
         for (const char *key : keys) {
-            settings["802-11-wireless-security"].remove(key);
+            settings[security].remove(key);
         }
     }
     return settings;
+}
+
+NMVariantMapMap KeysOf(const NMVariantMapMap &settings)
+{
+    NMVariantMapMap secrets;
+    for (const char *key : keys) {
+        if (settings.value(security).contains(key)) {
+            secrets[security][key] = settings.value(security).value(key);
+        }
+    }
+    return secrets;
 }
 
 } // namespace
@@ -52,7 +63,6 @@ FakeNetworkManager::FakeNetworkManager()
     qDBusRegisterMetaType<ManagedObjects>();
     qDBusRegisterMetaType<NMStringMap>();
     m_connection.registerVirtualObject("/org/freedesktop", this, QDBusConnection::SubPath);
-    m_connection.registerVirtualObject(supplicantPath, this);
     moveToThread(&m_thread);
     m_thread.start();
 }
@@ -60,8 +70,6 @@ FakeNetworkManager::FakeNetworkManager()
 FakeNetworkManager::~FakeNetworkManager()
 {
     Vanish();
-    m_connection.unregisterService(supplicant);
-    m_connection.unregisterObject(supplicantPath);
     m_connection.unregisterObject("/org/freedesktop", QDBusConnection::UnregisterTree);
     m_thread.quit();
     m_thread.wait();
@@ -76,13 +84,6 @@ bool FakeNetworkManager::Appear()
 void FakeNetworkManager::Vanish()
 {
     m_connection.unregisterService(service);
-}
-
-bool FakeNetworkManager::AppearAsSupplicant(const QVariant &eapMethods)
-{
-    const QMutexLocker locker(&m_mutex);
-    m_eapMethods = eapMethods;
-    return m_connection.registerService(supplicant);
 }
 
 QString FakeNetworkManager::Add(const QString &kind, const QString &interface, const QVariantMap &properties)
@@ -273,6 +274,21 @@ void FakeNetworkManager::Behave()
     m_misbehaviour.clear();
 }
 
+void FakeNetworkManager::Hold(const QString &method)
+{
+    const QMutexLocker locker(&m_mutex);
+    m_held = method;
+}
+
+void FakeNetworkManager::Release()
+{
+    const QMutexLocker locker(&m_mutex);
+    for (int i = 0; i < m_heldAnswers.size(); ++i) {
+        m_connection.send(m_heldAnswers.at(i));
+    }
+    m_heldAnswers.clear();
+}
+
 void FakeNetworkManager::RemoveWhenAsked(const QString &profile)
 {
     const QMutexLocker locker(&m_mutex);
@@ -308,15 +324,19 @@ bool FakeNetworkManager::handleMessage(const QDBusMessage &message, const QDBusC
                                        : message.createErrorReply(misbehaviour.error, "it can't be done"));
         }
     }
-    return connection.send(Answer(message));
+    const QDBusMessage answer = Answer(message);
+    if (method == m_held) {
+        m_heldAnswers.append(answer);
+        return true;
+    }
+    return connection.send(answer);
 }
 
 QDBusMessage FakeNetworkManager::Answer(const QDBusMessage &call)
 {
     const QString method = call.member();
     if (method == "Get") {
-        return call.createReply(QVariant::fromValue(
-            QDBusVariant(call.path() == supplicantPath ? m_eapMethods : QVariant(QString("1.42.4")))));
+        return call.createReply(QVariant::fromValue(QDBusVariant(QString("1.42.4"))));
     }
     if (method == "GetPermissions") {
         return call.createReply(QVariant::fromValue(m_rights));
@@ -347,6 +367,9 @@ QDBusMessage FakeNetworkManager::AnswerOfProfile(const QDBusMessage &call)
     }
     if (m_settings.contains(path) && call.member() == "GetSettings") {
         return call.createReply(QVariant::fromValue(WithoutKeys(m_settings.value(path))));
+    }
+    if (m_settings.contains(path) && call.member() == "GetSecrets") {
+        return call.createReply(QVariant::fromValue(KeysOf(m_settings.value(path))));
     }
     if (m_settings.contains(path) && call.member() == "Update2") {
         m_conditions = qdbus_cast<QVariantMap>(call.arguments().at(2).value<QDBusArgument>());

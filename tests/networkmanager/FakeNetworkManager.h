@@ -30,9 +30,6 @@ public:
     bool Appear();
     void Vanish();
 
-    /** The program that does the Wi-Fi for NetworkManager, and what it tells of its EAP methods. */
-    bool AppearAsSupplicant(const QVariant &eapMethods);
-
     /** The new object's path. A device can do everything unless it is told otherwise. */
     QString AddDevice(unsigned int capabilities = 0xffff);
     QString AddAccessPoint(const QByteArray &ssid, int strength, unsigned int flags = 0,
@@ -68,6 +65,10 @@ public:
     /** For each method. */
     void DoNotAnswerAnything();
     void Behave();
+
+    /** Keeps the answers to that method, as they are now, until Release; to none from Hold(QString()) on. */
+    void Hold(const QString &method);
+    void Release();
 
     /** Has the profile go away at the moment that it is asked for. */
     void RemoveWhenAsked(const QString &profile);
@@ -106,7 +107,8 @@ private:
     QHash<QString, Misbehaviour> m_misbehaviour;
     QStringList m_calls;
     QString m_leaving;
-    QVariant m_eapMethods;
+    QString m_held;
+    QList<QDBusMessage> m_heldAnswers;
     int m_count;
 };
 

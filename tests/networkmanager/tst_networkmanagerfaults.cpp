@@ -87,7 +87,7 @@ private slots:
     void ProfileOfSomebodyElseIsLeftOutQuietly();
     void AnswersToStoringAreTold_data();
     void AnswersToStoringAreTold();
-    void RefusedReplacementLeavesTheProfile();
+    void RefusedChangeLeavesTheProfile();
 
     void MissingNetworkManagerIsTold();
     void NetworkManagerThatComesBackIsUsedAgain();
@@ -95,7 +95,6 @@ private slots:
     void LateProfilesDoNotHideTheOthers();
     void SilentNetworkManagerIsNotWaitedForAgain();
     void NetworkManagerThatSpeaksAgainIsUsedAgain();
-    void SilentSupplicantIsNotWaitedForLong();
     void ManyProfilesAndNetworksAreAllTold();
 
     void LostBusIsTold();
@@ -323,7 +322,7 @@ void tst_networkmanagerfaults::AnswersToStoringAreTold_data()
     QTest::addColumn<int>("result");
     const bool areKnown[] = {false, true};
     for (const bool isKnown : areKnown) {
-        const QByteArray kind = isKnown ? "replaced: " : "new: ";
+        const QByteArray kind = isKnown ? "changed: " : "new: ";
         QTest::newRow(kind + "denied")
             << isKnown << "org.freedesktop.NetworkManager.Settings.PermissionDenied"
             << int(NetworkManagerResultPermissionDenied);
@@ -359,7 +358,7 @@ void tst_networkmanagerfaults::AnswersToStoringAreTold()
     QCOMPARE(trace.Lines().filter("CreateWLANProfile: ").size(), 1);
 }
 
-void tst_networkmanagerfaults::RefusedReplacementLeavesTheProfile()
+void tst_networkmanagerfaults::RefusedChangeLeavesTheProfile()
 {
     const QString path = Fake().AddProfile("A");
     const NMVariantMapMap before = Fake().SettingsOf(path);
@@ -435,21 +434,6 @@ void tst_networkmanagerfaults::NetworkManagerThatSpeaksAgainIsUsedAgain()
     Fake().Behave();
     // It is asked aside whether it speaks, and the answer needs a turn of the event loop.
     QTRY_COMPARE(LoadedWLAN::Remembered(), QStringList("A/1"));
-}
-
-void tst_networkmanagerfaults::SilentSupplicantIsNotWaitedForLong()
-{
-    QVERIFY(Fake().AppearAsSupplicant(QStringList()));
-    Fake().DoNotAnswer("Get", "/fi/w1/wpa_supplicant1");
-    WLANConfigData config;
-    int result = -1;
-    const qint64 time = TimeOf([&] { result = LoadedWLAN::Wlan()->GetConfigData(&config); });
-    QCOMPARE(result, 0);
-    QCOMPARE(config.authenticationList.size(), 7);
-    QVERIFY2(time >= earliest && time < patience + allowance, qPrintable(QString::number(time)));
-    // It is not NetworkManager that is silent.
-    QList<RememberedList> list;
-    QCOMPARE(LoadedWLAN::Wlan()->GetRememberedList(&list), 0);
 }
 
 void tst_networkmanagerfaults::ManyProfilesAndNetworksAreAllTold()

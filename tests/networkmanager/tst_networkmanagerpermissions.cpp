@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QScopedPointer>
+#include <QWidget>
 #include <QtTest>
 
 #include <fcntl.h>
@@ -48,7 +49,7 @@ private slots:
     void cleanup();
 
     void ProfileIsReadOnly();
-    void ProfileIsNotReplaced();
+    void ProfileIsNotChanged();
     void NewProfileIsDenied();
     void PrioritiesStayAndNobodyComplains();
 
@@ -114,7 +115,7 @@ void tst_networkmanagerpermissions::ProfileIsReadOnly()
     QCOMPARE(LoadedWLAN::ProfileNamed("A").readOnly, QString("true"));
 }
 
-void tst_networkmanagerpermissions::ProfileIsNotReplaced()
+void tst_networkmanagerpermissions::ProfileIsNotChanged()
 {
     QCOMPARE(
         LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("A", "WPA2PSK", "CCMP", "open sesame")),
@@ -124,12 +125,17 @@ void tst_networkmanagerpermissions::ProfileIsNotReplaced()
 
 void tst_networkmanagerpermissions::NewProfileIsDenied()
 {
+    QWidget window;
+    window.show();
     TraceCapture trace;
     QCOMPARE(
         LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("B", "WPA2PSK", "CCMP", "open sesame")),
         int(NetworkManagerResultPermissionDenied));
     QVERIFY(trace.Lines().contains("WLANNetworkManager: CreateWLANProfile: this user may not do that"));
     QVERIFY(trace.Lines().filter("open sesame").isEmpty());
+    QCoreApplication::processEvents();
+    QCOMPARE(StandInHost::messages.size(), 1);
+    QVERIFY(StandInHost::messages.first().text.endsWith("WLAN?IDS_WLAN_DENIED"));
     QCOMPARE(LoadedWLAN::Remembered(), QStringList("A/1"));
 }
 

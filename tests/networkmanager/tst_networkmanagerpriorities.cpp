@@ -45,6 +45,7 @@ private slots:
     void OnlyWhatDiffersIsWritten();
     void OtherSettingsStayAsTheyAre();
     void OldFormsOfSettingsAreNotSentBack();
+    void ChangeInTheMiddleIsNotOverwritten();
     void ChangeBySomebodyElseInTheMiddleIsReadFirst();
     void MobileBroadbandHasItsPlace();
     void ProfilesOfOneNameHaveOnePlace();
@@ -181,6 +182,24 @@ void tst_networkmanagerpriorities::OldFormsOfSettingsAreNotSentBack()
     Begin("A");
     settings["connection"]["autoconnect-priority"] = 999;
     QCOMPARE(Fake().SettingsOf(a), settings);
+}
+
+void tst_networkmanagerpriorities::ChangeInTheMiddleIsNotOverwritten()
+{
+    const QString a = Fake().AddProfile("A");
+    Fake().AddProfile("B");
+    Begin("A B");
+    Fake().ForgetCalls();
+    Fake().Hold("GetSettings");
+    SetList("B A");
+    QTRY_COMPARE(Fake().CallCount("GetSettings"), 2);
+    Fake().Hold(QString());
+    QCOMPARE(
+        LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("A", "WPA2PSK", "CCMP", "12345678")), 0);
+    Fake().Release();
+    QTRY_COMPARE(Fake().PriorityOf(a), 998);
+    QCOMPARE(Fake().SettingsOf(a)["802-11-wireless-security"].value("key-mgmt").toString(),
+             QString("wpa-psk"));
 }
 
 void tst_networkmanagerpriorities::ChangeBySomebodyElseInTheMiddleIsReadFirst()

@@ -46,6 +46,8 @@ private slots:
     void KindsAreTold();
     void OrderIsAlphabeticalWhateverNetworkManagersIs();
     void ProfilesOfOneNameAreAllListed();
+    void HotspotIsNotListed_data();
+    void HotspotIsNotListed();
 
     void ProfileIsFilled();
     void UnknownNameLeavesTheOutputAlone();
@@ -62,14 +64,17 @@ private slots:
     void NewProfileHasTheSecurityOfTheDialog();
     void WepKeyHasItsIndex_data();
     void WepKeyHasItsIndex();
-    void EapProfilesHaveAMethodWithoutCredentials_data();
-    void EapProfilesHaveAMethodWithoutCredentials();
+    void MethodsWithAnAccountAreRefused_data();
+    void MethodsWithAnAccountAreRefused();
     void NetworkNameIsSentAsItsBytes();
-    void ProfileOfThatNameIsReplacedAndKeepsTheRest();
+    void ChangedProfileKeepsWhatIsNotKnownHere();
+    void AccountThatNothingUsesIsKept();
     void ChangeIsBoundToTheVersionThatWasRead_data();
     void ChangeIsBoundToTheVersionThatWasRead();
     void ChangeBySomebodyElseInTheMiddleIsTold();
-    void ReadOnlyProfileIsNotReplaced();
+    void WepProfileIsKeptWhenItsOtherKeysCannotBeHad_data();
+    void WepProfileIsKeptWhenItsOtherKeysCannotBeHad();
+    void ReadOnlyProfileIsNotChanged();
     void ProfileIsForEverybodyOrForItsMaker_data();
     void ProfileIsForEverybodyOrForItsMaker();
     void WhatCannotBeStoredIsRefusedBeforeItIsSent_data();
@@ -117,6 +122,26 @@ void tst_networkmanagerprofiles::ProfilesOfOneNameAreAllListed()
     Fake().AddProfile("A");
     QCOMPARE(LoadedWLAN::Remembered(), QStringList() << "A/1"
                                                      << "A/1");
+}
+
+void tst_networkmanagerprofiles::HotspotIsNotListed_data()
+{
+    QTest::addColumn<QString>("mode");
+    QTest::addColumn<QStringList>("told");
+    QTest::newRow("hotspot") << "ap" << QStringList("B/1");
+    QTest::newRow("without a station") << "adhoc"
+                                       << (QStringList() << "A/1"
+                                                         << "B/1");
+}
+
+void tst_networkmanagerprofiles::HotspotIsNotListed()
+{
+    QFETCH(QString, mode);
+    NMVariantMapMap settings = FakeNetworkManager::Settings("A");
+    settings[wifi]["mode"] = mode;
+    Fake().AddProfile(settings);
+    Fake().AddProfile("B");
+    QTEST(LoadedWLAN::Remembered(), "told");
 }
 
 void tst_networkmanagerprofiles::ProfileIsFilled()
@@ -418,37 +443,26 @@ void tst_networkmanagerprofiles::WepKeyHasItsIndex()
     QCOMPARE(LoadedWLAN::ProfileNamed("A").keyIndex, index);
 }
 
-void tst_networkmanagerprofiles::EapProfilesHaveAMethodWithoutCredentials_data()
+void tst_networkmanagerprofiles::MethodsWithAnAccountAreRefused_data()
 {
     QTest::addColumn<QString>("authentication");
     QTest::addColumn<QString>("encryption");
-    QTest::addColumn<QString>("keyManagement");
     QTest::newRow("WPA") << "WPA(EAP)"
-                         << "TKIP"
-                         << "wpa-eap";
+                         << "TKIP";
     QTest::newRow("WPA2") << "WPA2(EAP)"
-                          << "CCMP"
-                          << "wpa-eap";
+                          << "CCMP";
     QTest::newRow("802.1X") << "IEEE 802.1X"
-                            << "none"
-                            << "ieee8021x";
+                            << "none";
 }
 
-void tst_networkmanagerprofiles::EapProfilesHaveAMethodWithoutCredentials()
+void tst_networkmanagerprofiles::MethodsWithAnAccountAreRefused()
 {
     QFETCH(QString, authentication);
     QFETCH(QString, encryption);
-    QFETCH(QString, keyManagement);
     QCOMPARE(
         LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("A", authentication, encryption, "")),
-        0);
-    const NMVariantMapMap settings = Fake().SettingsOf(Fake().ProfilePaths().value(0));
-    QCOMPARE(settings[security].value("key-mgmt").toString(), keyManagement);
-    QVERIFY(!settings[security].contains("psk"));
-    QCOMPARE(Texts(settings["802-1x"]), QStringList("eap=sim"));
-    const WLANProfile told = LoadedWLAN::ProfileNamed("A");
-    QCOMPARE(told.authentication, authentication);
-    QCOMPARE(told.encryption, encryption);
+        int(NetworkManagerResultNoAccount));
+    QCOMPARE(Fake().ProfilePaths(), QStringList());
 }
 
 void tst_networkmanagerprofiles::NetworkNameIsSentAsItsBytes()
@@ -463,29 +477,36 @@ void tst_networkmanagerprofiles::NetworkNameIsSentAsItsBytes()
     QCOMPARE(LoadedWLAN::ProfileNamed("Caf\\xE9").ssid, QString("Caf\\xE9"));
 }
 
-void tst_networkmanagerprofiles::ProfileOfThatNameIsReplacedAndKeepsTheRest()
+void tst_networkmanagerprofiles::ChangedProfileKeepsWhatIsNotKnownHere()
 {
     NMVariantMapMap settings = FakeNetworkManager::Settings("A");
-    settings["connection"]["autoconnect-priority"] = 12;
-    settings["connection"]["metered"] = 1;
+    settings["connection"]["invented-later"] = 12;
     settings[wifi]["ssid"] = QByteArray("before");
-    settings[wifi]["hidden"] = true;
-    settings[wifi]["security"] = security;
-    settings[security]["key-mgmt"] = "wpa-eap";
-    settings["802-1x"]["identity"] = "user";
-    settings["ipv4"]["method"] = "manual";
+    settings[wifi]["invented-later"] = true;
+    settings[security]["key-mgmt"] = "wpa-psk";
+    settings[security]["invented-later"] = "kept";
+    settings["invented-later"]["a"] = QStringList() << "b"
+                                                    << "c";
     const QString path = Fake().AddProfile(settings);
 
-    QCOMPARE(LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("A", "open", "none", "")), 0);
+    QCOMPARE(
+        LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("A", "WPA2PSK", "CCMP", "12345678")), 0);
     QCOMPARE(Fake().ProfilePaths(), QStringList(path));
-    const NMVariantMapMap stored = Fake().SettingsOf(path);
-    QCOMPARE(stored["connection"], settings["connection"]);
-    QCOMPARE(stored["ipv4"], settings["ipv4"]);
-    QCOMPARE(Texts(stored[wifi]), QStringList() << "hidden=true"
-                                                << "mode=infrastructure"
-                                                << "ssid=A");
-    QVERIFY(!stored.contains(security));
-    QVERIFY(!stored.contains("802-1x"));
+    settings[wifi]["ssid"] = QByteArray("A");
+    settings[security]["psk"] = "12345678";
+    QCOMPARE(Fake().SettingsOf(path), settings);
+}
+
+void tst_networkmanagerprofiles::AccountThatNothingUsesIsKept()
+{
+    NMVariantMapMap settings = FakeNetworkManager::Settings("A");
+    settings[security]["key-mgmt"] = "wpa-psk";
+    settings["802-1x"]["identity"] = "me";
+    const QString path = Fake().AddProfile(settings);
+    QCOMPARE(
+        LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("A", "WPA2PSK", "CCMP", "12345678")),
+        int(NetworkManagerResultUndescribedProfile));
+    QCOMPARE(Fake().SettingsOf(path), settings);
 }
 
 void tst_networkmanagerprofiles::ChangeIsBoundToTheVersionThatWasRead_data()
@@ -518,7 +539,32 @@ void tst_networkmanagerprofiles::ChangeBySomebodyElseInTheMiddleIsTold()
              int(NetworkManagerResultChangedMeanwhile));
 }
 
-void tst_networkmanagerprofiles::ReadOnlyProfileIsNotReplaced()
+void tst_networkmanagerprofiles::WepProfileIsKeptWhenItsOtherKeysCannotBeHad_data()
+{
+    QTest::addColumn<QString>("error");
+    QTest::addColumn<int>("result");
+    QTest::newRow("none there") << "org.freedesktop.NetworkManager.AgentManager.NoSecrets" << 0;
+    QTest::newRow("denied") << "org.freedesktop.NetworkManager.Settings.PermissionDenied"
+                            << int(NetworkManagerResultPermissionDenied);
+    QTest::newRow("failed") << "org.freedesktop.NetworkManager.Settings.Failed"
+                            << int(NetworkManagerResultFailed);
+}
+
+void tst_networkmanagerprofiles::WepProfileIsKeptWhenItsOtherKeysCannotBeHad()
+{
+    QFETCH(QString, error);
+    QFETCH(int, result);
+    NMVariantMapMap settings = FakeNetworkManager::Settings("A");
+    settings[security]["key-mgmt"] = "none";
+    const QString path = Fake().AddProfile(settings);
+    Fake().AnswerWithError("GetSecrets", error);
+    QCOMPARE(LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("A", "open", "WEP", "12345")),
+             result);
+    QCOMPARE(Fake().CallCount("Update2"), result == 0 ? 1 : 0);
+    QCOMPARE(Fake().SettingsOf(path) == settings, result != 0);
+}
+
+void tst_networkmanagerprofiles::ReadOnlyProfileIsNotChanged()
 {
     const NMVariantMapMap settings = FakeNetworkManager::Settings("A");
     const QString path = Fake().AddProfile(settings);

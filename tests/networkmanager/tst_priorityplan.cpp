@@ -80,6 +80,9 @@ private slots:
     void RepeatedEntryHasItsFirstPlace();
     void ProfilesOfOneNameHaveOnePlace();
     void UnchangeableProfilesAreLeftAlone();
+    void ProfileWithoutItsAccountIsNotTriedFirst();
+    void AccountIsLackingOnlyWhereOneIsNeeded_data();
+    void AccountIsLackingOnlyWhereOneIsNeeded();
     void ProfileThatLeavesGetsItsFormerPriority();
     void FormerPriorityIsThatBeforeTheFirstWrite();
     void ForeignValueIsNotSetBack();
@@ -217,6 +220,56 @@ void tst_priorityplan::UnchangeableProfilesAreLeftAlone()
     Records records;
     QCOMPARE(Plan(List("A"), QList<NetworkProfile>() << profile, &records), QStringList());
     QVERIFY(records.isEmpty());
+}
+
+void tst_priorityplan::ProfileWithoutItsAccountIsNotTriedFirst()
+{
+    NetworkProfile incomplete = Profile("A", 999);
+    incomplete.lacksAccount = true;
+    Records records;
+    records["uuid-of-A"].written = 999;
+    records["uuid-of-A"].intended = 999;
+    QCOMPARE(Plan(List("A B"), QList<NetworkProfile>() << incomplete << Profile("B"), &records),
+             QStringList() << "A=0"
+                           << "B=998");
+}
+
+void tst_priorityplan::AccountIsLackingOnlyWhereOneIsNeeded_data()
+{
+    QTest::addColumn<QString>("keyManagement");
+    QTest::addColumn<QString>("section");
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<bool>("lacks");
+    const QString wpa = "wpa-eap";
+    const QString eap = "802-1x";
+    const QVariant sim = QStringList("sim");
+    QTest::newRow("open") << "" << eap << "eap" << sim << false;
+    QTest::newRow("key") << "wpa-psk" << eap << "eap" << sim << false;
+    QTest::newRow("SIM") << wpa << eap << "eap" << sim << true;
+    QTest::newRow("SIM, 192 bits") << "wpa-eap-suite-b-192" << eap << "eap" << sim << true;
+    QTest::newRow("SIM, dynamic WEP") << "ieee8021x" << eap << "eap" << sim << true;
+    QTest::newRow("empty identity") << wpa << eap << "identity" << QVariant("") << true;
+    QTest::newRow("identity") << wpa << eap << "identity" << QVariant("user") << false;
+    QTest::newRow("certificate") << wpa << eap << "client-cert" << QVariant(QByteArray("file:///a")) << false;
+    QTest::newRow("LEAP") << "ieee8021x"
+                          << "802-11-wireless-security"
+                          << "leap-username" << QVariant("user") << false;
+}
+
+void tst_priorityplan::AccountIsLackingOnlyWhereOneIsNeeded()
+{
+    QFETCH(QString, keyManagement);
+    QFETCH(QString, section);
+    QFETCH(QString, key);
+    QFETCH(QVariant, value);
+    NMVariantMapMap settings;
+    settings["connection"]["type"] = "802-11-wireless";
+    if (!keyManagement.isEmpty()) {
+        settings["802-11-wireless-security"]["key-mgmt"] = keyManagement;
+    }
+    settings[section][key] = value;
+    QTEST(NetworkProfile::Make(ProfilePlace(), settings, CallerRights(), "user").lacksAccount, "lacks");
 }
 
 void tst_priorityplan::ProfileThatLeavesGetsItsFormerPriority()

@@ -512,9 +512,12 @@ void tst_storedfile::KeysNeverReachTheLog()
     const TraceCapture capture;
     QVERIFY(!RememberedNames().isEmpty());
 
-    QCOMPARE(Wlan()->CreateWLANProfile(ProfileNamed("kept", key)), int(WLANResultSuccess));
+    WLANProfile kept = ProfileNamed("kept", key);
+    kept.authentication = "WPA2PSK";
+    kept.encryption = "CCMP";
+    QCOMPARE(Wlan()->CreateWLANProfile(kept), int(WLANResultSuccess));
     QVERIFY(StoredFixture::Read(fixture.ProfilesPath()).contains(key.toLatin1()));
-    QCOMPARE(Wlan()->CreateWLANProfile(ProfileNamed("kept", key)), int(WLANResultSuccess));
+    QCOMPARE(Wlan()->CreateWLANProfile(kept), int(WLANResultSuccess));
     WLANProfile profile;
     QCOMPARE(Wlan()->GetProfileByName("kept", &profile), int(WLANResultSuccess));
     QCOMPARE(profile.keyMaterial, key);

@@ -17,7 +17,7 @@ class tst_storedlibrary : public QObject
 private slots:
     void LoadsThroughThePluginLoader();
     void LoadsThroughItsEntryPoint();
-    void FindsTheSdkLibraryBesideThePlugins();
+    void FindsTheHostsLibrariesBesideThePlugins();
     void AnswersTheHostsQuestions();
     void HandsOutTheServiceForTheWlanNumberOnly_data();
     void HandsOutTheServiceForTheWlanNumberOnly();
@@ -63,7 +63,7 @@ void tst_storedlibrary::LoadsThroughItsEntryPoint()
     QVERIFY(!qobject_cast<INotify *>(root));
 }
 
-void tst_storedlibrary::FindsTheSdkLibraryBesideThePlugins()
+void tst_storedlibrary::FindsTheHostsLibrariesBesideThePlugins()
 {
     QProcess reader;
     reader.start("readelf", QStringList() << "-d" << StoredFixture::LibraryFile());
@@ -71,6 +71,7 @@ void tst_storedlibrary::FindsTheSdkLibraryBesideThePlugins()
     const QByteArray header = reader.readAllStandardOutput();
     QVERIFY(header.contains("[$ORIGIN/../../lib"));
     QVERIFY(header.contains("[libzeltsdk.so.1]"));
+    QVERIFY(header.contains("[libcoreui.so.1]"));
 }
 
 void tst_storedlibrary::AnswersTheHostsQuestions()

@@ -85,7 +85,7 @@ private slots:
     void ProfileOfANetworkJoinsWhatIsSeenAndWhatIsRemembered();
     void UnknownNetworkLeavesTheOutputUntouched();
     void MobileEntryIsNoNetwork();
-    void ConfigurationHasTheSevenMethodsAndNothingElse();
+    void ConfigurationHasTheSixMethodsOfTheDialogAndNothingElse();
 };
 
 void tst_storednetworks::SampleIsInRangeWithoutAFile()
@@ -294,7 +294,7 @@ void tst_storednetworks::MobileEntryIsNoNetwork()
     QCOMPARE(Known("Mobile broadband"), QString("unknown"));
 }
 
-void tst_storednetworks::ConfigurationHasTheSevenMethodsAndNothingElse()
+void tst_storednetworks::ConfigurationHasTheSixMethodsOfTheDialogAndNothingElse()
 {
     StoredFixture fixture;
     WLANConfigData config;
@@ -304,15 +304,14 @@ void tst_storednetworks::ConfigurationHasTheSevenMethodsAndNothingElse()
                                                          << "WPAPSK"
                                                          << "WPA2PSK"
                                                          << "WPA(EAP)"
-                                                         << "WPA2(EAP)"
-                                                         << "IEEE 802.1X");
+                                                         << "WPA2(EAP)");
     QVERIFY(config.settings.isEmpty());
     QVERIFY(config.textList2.isEmpty());
     QVERIFY(config.textList3.isEmpty());
     QVERIFY(config.wisprList.isEmpty());
 
     Wlan()->GetConfigData(&config);
-    QCOMPARE(config.authenticationList.size(), 7);
+    QCOMPARE(config.authenticationList.size(), 6);
 }
 
 QTEST_MAIN(tst_storednetworks)

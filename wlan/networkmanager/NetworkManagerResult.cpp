@@ -92,8 +92,64 @@ QString DescriptionOf(NetworkManagerResult result)
         return QLatin1String("NetworkManager does not take the profile");
     case NetworkManagerResultFailed:
         return QLatin1String("NetworkManager answered with an error");
+    case NetworkManagerResultNoAccount:
+        return QLatin1String("a profile with EAP needs an account, which can't be stored from here");
+    case NetworkManagerResultSeveralProfiles:
+        return QLatin1String("several profiles have that name, none of them is changed");
+    case NetworkManagerResultUndescribedProfile:
+        return QLatin1String("a profile of a kind that the dialog can't describe is not changed");
+    case NetworkManagerResultWeakerMethod:
+        return QLatin1String("a profile is not given a weaker method");
+    case NetworkManagerResultIncompleteKey:
+        return QLatin1String("a profile is not changed without a key that is complete");
+    case NetworkManagerResultBetterProfile:
+        return QLatin1String("a profile is not stored beside a better one for the same network");
     case NetworkManagerResultChangedMeanwhile:
         return QLatin1String("somebody else has just changed the profile");
     }
     return QString();
+}
+
+const char *NoticeOf(NetworkManagerResult result)
+{
+    switch (result) {
+    case NetworkManagerResultSuccess:
+    case NetworkManagerResultNullPointer:
+    case NetworkManagerResultUnknownName:
+        break;
+    case NetworkManagerResultUnusableName:
+    case NetworkManagerResultUnusableNetworkName:
+        return "IDS_WLAN_BAD_NAME";
+    case NetworkManagerResultReadOnlyProfile:
+        return "IDS_WLAN_KEPT_READ_ONLY";
+    case NetworkManagerResultUnusableSecurity:
+        return "IDS_WLAN_BAD_SECURITY";
+    case NetworkManagerResultNoBus:
+    case NetworkManagerResultNotRunning:
+        return "IDS_WLAN_NOT_RUNNING";
+    case NetworkManagerResultNotAnswering:
+    case NetworkManagerResultUnusableAnswer:
+        return "IDS_WLAN_NO_ANSWER";
+    case NetworkManagerResultPermissionDenied:
+        return "IDS_WLAN_DENIED";
+    case NetworkManagerResultProfileRefused:
+        return "IDS_WLAN_REFUSED";
+    case NetworkManagerResultFailed:
+        return "IDS_WLAN_FAILED";
+    case NetworkManagerResultNoAccount:
+        return "IDS_WLAN_NO_ACCOUNT";
+    case NetworkManagerResultSeveralProfiles:
+        return "IDS_WLAN_KEPT_SEVERAL";
+    case NetworkManagerResultUndescribedProfile:
+        return "IDS_WLAN_KEPT_UNDESCRIBED";
+    case NetworkManagerResultWeakerMethod:
+        return "IDS_WLAN_KEPT_STRONGER";
+    case NetworkManagerResultIncompleteKey:
+        return "IDS_WLAN_KEPT_KEY";
+    case NetworkManagerResultBetterProfile:
+        return "IDS_WLAN_BETTER_PROFILE";
+    case NetworkManagerResultChangedMeanwhile:
+        return "IDS_WLAN_BUSY";
+    }
+    return nullptr;
 }

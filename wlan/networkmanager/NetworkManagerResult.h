@@ -15,11 +15,11 @@ enum NetworkManagerResult {
     NetworkManagerResultUnusableName = 2,
     /** No profile of that name is remembered; the output is as it was. */
     NetworkManagerResultUnknownName = 3,
-    /** The profile of that name is read-only and was not replaced. */
+    /** The profile of that name is read-only and was not changed. */
     NetworkManagerResultReadOnlyProfile = 4,
     /** The network name has no bytes or more than the 32 that a network name can have. */
     NetworkManagerResultUnusableNetworkName = 5,
-    /** The authentication and encryption don't go together, or the key index is not one of "0" to "3". */
+    /** Authentication, encryption and key don't go together, or the key index is not one of "0" to "3". */
     NetworkManagerResultUnusableSecurity = 6,
     /** There is no system bus. */
     NetworkManagerResultNoBus = 7,
@@ -39,7 +39,22 @@ enum NetworkManagerResult {
     /** Any other error that NetworkManager answered. */
     NetworkManagerResultFailed = 13,
     /** Somebody else has changed the profile since it was read; it was left as it is. */
-    NetworkManagerResultChangedMeanwhile = 14
+    NetworkManagerResultChangedMeanwhile = 14,
+    /** The authentication is EAP, and a WLANProfile has no account to be authenticated by. */
+    NetworkManagerResultNoAccount = 15,
+
+    // Of CreateWLANProfile alone, which left all profiles as they are; ProfileRules.h tells why.
+
+    /** Several profiles have that name. */
+    NetworkManagerResultSeveralProfiles = 16,
+    /** The profile of that name is of a kind that the New dialog can't describe. */
+    NetworkManagerResultUndescribedProfile = 17,
+    /** The profile of that name has a stronger method. */
+    NetworkManagerResultWeakerMethod = 18,
+    /** The profile of that name can only be changed with a key that is complete. */
+    NetworkManagerResultIncompleteKey = 19,
+    /** A profile of another name is for the same network, and could not be changed in that way. */
+    NetworkManagerResultBetterProfile = 20
 };
 
 /** What an answer comes to. A reply whose arguments are not of signature is unusable. */
@@ -47,5 +62,9 @@ NetworkManagerResult ResultOf(const QDBusMessage &reply, const char *signature);
 
 /** In plain words, for the log; empty for success. */
 QString DescriptionOf(NetworkManagerResult result);
+
+/** The id of the text that tells the user why a profile was not stored; null when there is nothing to be
+ * told. */
+const char *NoticeOf(NetworkManagerResult result);
 
 #endif

@@ -7,17 +7,17 @@
 #include "ProfileUpdate.h"
 #include "SsidText.h"
 
+#include <ProfileRules.h>
+
 #include <NetworkManagerQt/ConnectionSettings>
 #include <NetworkManagerQt/Utils>
-#include <NetworkManagerQt/WirelessSetting>
 
-#include <QDBusVariant>
+#include <QDBusArgument>
 #include <QSet>
 
 #include <algorithm>
 
 using NetworkManager::ConnectionSettings;
-using NetworkManager::WirelessSetting;
 
 namespace
 {
@@ -120,6 +120,16 @@ QString AdHocWord()
     return QLatin1String("IBSS");
 }
 
+/** NetworkManager's own word for what a WLANProfile has none for, such as a hotspot. */
+QString BssTypeOf(const NMVariantMapMap &settings)
+{
+    const QString mode = settings.value(WirelessSection()).value(QLatin1String("mode")).toString();
+    if (mode.isEmpty() || mode == QLatin1String("infrastructure")) {
+        return InfrastructureWord();
+    }
+    return mode == QLatin1String("adhoc") ? AdHocWord() : mode;
+}
+
 void Fill(const NetworkProfile &remembered, WLANProfile *profile)
 {
     const QVariantMap connection = remembered.settings.value(QLatin1String("connection"));
@@ -128,10 +138,8 @@ void Fill(const NetworkProfile &remembered, WLANProfile *profile)
         QLatin1String(connection.value(QLatin1String("autoconnect"), true).toBool() ? "auto" : "manual");
     profile->readOnly = QLatin1String(remembered.isReadOnly ? "true" : "false");
     if (remembered.kind == NetworkProfile::Wifi) {
-        WirelessSetting wireless;
-        wireless.fromMap(remembered.settings.value(WirelessSection()));
         profile->ssid = SsidText::FromBytes(remembered.ssid);
-        profile->bssType = wireless.mode() == WirelessSetting::Adhoc ? AdHocWord() : InfrastructureWord();
+        profile->bssType = BssTypeOf(remembered.settings);
         NetworkSecurity::Describe(remembered.settings, profile);
     }
 }
@@ -158,33 +166,42 @@ NMVariantMapMap NewSettings(const QString &name, bool isForUserAlone)
     return settings;
 }
 
-void SetNetwork(const QByteArray &ssid, bool isAdHoc, NMVariantMapMap *settings)
+/** All Wi-Fi profiles as the rules see them, with their places in profiles. */
+QList<ProfileRules::RememberedProfile> WifiProfiles(const QList<NetworkProfile> &profiles)
 {
-    QVariantMap &wireless = (*settings)[WirelessSection()];
-    wireless.insert(QLatin1String("ssid"), ssid);
-    wireless.insert(QLatin1String("mode"), QLatin1String(isAdHoc ? "adhoc" : "infrastructure"));
-    // Follows from whether there is a security section; an old one must not contradict it.
-    wireless.remove(QLatin1String("security"));
-}
-
-/** Empty methods tell that the program that does the Wi-Fi has no EAP; no answer tells nothing. */
-bool IsEapKnown(const QDBusMessage &reply)
-{
-    if (ResultOf(reply, "v") != NetworkManagerResultSuccess) {
-        return true;
+    QList<ProfileRules::RememberedProfile> remembered;
+    for (int i = 0; i < profiles.size(); ++i) {
+        if (profiles.at(i).kind == NetworkProfile::Wifi) {
+            ProfileRules::RememberedProfile profile = {
+                WLANProfile(), !NetworkSecurity::IsDescribed(profiles.at(i).settings), i};
+            Fill(profiles.at(i), &profile.profile);
+            remembered.append(profile);
+        }
     }
-    const QVariant methods = reply.arguments().at(0).value<QDBusVariant>().variant();
-    return methods.type() != QVariant::StringList || !methods.toStringList().isEmpty();
+    return remembered;
 }
 
-QDBusMessage EapMethodsCall()
+/** Success for what is no refusal. */
+NetworkManagerResult RefusalOf(ProfileRules::Verdict verdict)
 {
-    QDBusMessage call = QDBusMessage::createMethodCall(
-        QLatin1String("fi.w1.wpa_supplicant1"), QLatin1String("/fi/w1/wpa_supplicant1"),
-        CNetworkManagerClient::PropertiesInterface(), QLatin1String("Get"));
-    call.setAutoStartService(false);
-    call << QLatin1String("fi.w1.wpa_supplicant1") << QLatin1String("EapMethods");
-    return call;
+    switch (verdict) {
+    case ProfileRules::NewProfile:
+    case ProfileRules::ChangedProfile:
+        break;
+    case ProfileRules::SeveralProfiles:
+        return NetworkManagerResultSeveralProfiles;
+    case ProfileRules::ReadOnlyProfile:
+        return NetworkManagerResultReadOnlyProfile;
+    case ProfileRules::UndescribedProfile:
+        return NetworkManagerResultUndescribedProfile;
+    case ProfileRules::WeakerMethod:
+        return NetworkManagerResultWeakerMethod;
+    case ProfileRules::IncompleteKey:
+        return NetworkManagerResultIncompleteKey;
+    case ProfileRules::BetterProfile:
+        return NetworkManagerResultBetterProfile;
+    }
+    return NetworkManagerResultSuccess;
 }
 
 } // namespace
@@ -196,21 +213,29 @@ CNetworkManagerWLANService::CNetworkManagerWLANService(CNetworkManagerClient *cl
 
 int CNetworkManagerWLANService::CreateWLANProfile(WLANProfile profile)
 {
-    return Tell("CreateWLANProfile", Store(profile));
+    QString better;
+    const NetworkManagerResult result = Store(profile, &better);
+    if (const char *id = NoticeOf(result)) {
+        m_notice.Tell(id, profile.profileName, better);
+    }
+    return Tell("CreateWLANProfile", result);
 }
 
-NetworkManagerResult CNetworkManagerWLANService::Store(const WLANProfile &profile)
+NetworkManagerResult CNetworkManagerWLANService::Store(WLANProfile wanted, QString *better)
 {
-    const QByteArray ssid = SsidText::ToBytes(profile.ssid);
-    if (!CanBeSent(profile.profileName)) {
+    const QByteArray ssid = SsidText::ToBytes(wanted.ssid);
+    if (!CanBeSent(wanted.profileName)) {
         return NetworkManagerResultUnusableName;
     }
-    if (ssid.isEmpty() || ssid.size() > longestNetworkName || !CanBeSent(profile.ssid)) {
+    if (ssid.isEmpty() || ssid.size() > longestNetworkName || !CanBeSent(wanted.ssid)) {
         return NetworkManagerResultUnusableNetworkName;
     }
+    if (NetworkSecurity::NeedsAccount(wanted)) {
+        return NetworkManagerResultNoAccount;
+    }
     NMVariantMapMap security;
-    const bool isKeySendable = profile.keyMaterial.isEmpty() || CanBeSent(profile.keyMaterial);
-    if (!NetworkSecurity::Apply(profile, &security) || !isKeySendable) {
+    const bool isKeySendable = wanted.keyMaterial.isEmpty() || CanBeSent(wanted.keyMaterial);
+    if (!NetworkSecurity::Apply(wanted, &security) || !isKeySendable) {
         return NetworkManagerResultUnusableSecurity;
     }
     const CTimeLimit limit = Patience();
@@ -219,33 +244,84 @@ NetworkManagerResult CNetworkManagerWLANService::Store(const WLANProfile &profil
     if (reader.Result() != NetworkManagerResultSuccess) {
         return reader.Result();
     }
-    const NetworkProfile *known = FindByName(reader.Profiles(), profile.profileName);
-    if (known && known->kind != NetworkProfile::Wifi) {
-        known = nullptr;
+    // One network can be written in several ways.
+    wanted.ssid = SsidText::FromBytes(ssid);
+    const ProfileRules::Decision decision = ProfileRules::Decide(WifiProfiles(reader.Profiles()), wanted);
+    if (decision.verdict == ProfileRules::NewProfile) {
+        return Add(wanted, reader.Rights(), limit);
     }
-    if (known && known->isReadOnly) {
-        return NetworkManagerResultReadOnlyProfile;
+    if (decision.verdict == ProfileRules::ChangedProfile) {
+        return Change(reader.Profiles().at(decision.place), wanted, limit);
     }
-    const CallerRights &rights = reader.Rights();
+    if (decision.verdict == ProfileRules::BetterProfile) {
+        *better = reader.Profiles().at(decision.place).name;
+    }
+    return RefusalOf(decision.verdict);
+}
+
+NetworkManagerResult CNetworkManagerWLANService::Add(const WLANProfile &wanted, const CallerRights &rights,
+                                                     const CTimeLimit &limit)
+{
     const bool isForUserAlone =
         rights.changeShared != CallerRights::Allowed && rights.changeOwn == CallerRights::Allowed;
-    NMVariantMapMap settings = known ? known->settings : NewSettings(profile.profileName, isForUserAlone);
-    SetNetwork(ssid, profile.bssType == AdHocWord(), &settings);
-    NetworkSecurity::Apply(profile, &settings);
+    NMVariantMapMap settings = NewSettings(wanted.profileName, isForUserAlone);
+    QVariantMap &wireless = settings[WirelessSection()];
+    wireless.insert(QLatin1String("ssid"), SsidText::ToBytes(wanted.ssid));
+    wireless.insert(QLatin1String("mode"),
+                    QLatin1String(wanted.bssType == AdHocWord() ? "adhoc" : "infrastructure"));
+    NetworkSecurity::Apply(wanted, &settings);
+    QDBusMessage call = CNetworkManagerClient::Call(CNetworkManagerClient::SettingsPath(),
+                                                    CNetworkManagerClient::SettingsInterface(),
+                                                    QLatin1String("AddConnection"));
+    call << QVariant::fromValue(settings);
+    return ResultOf(Ask(call, limit), "o");
+}
 
-    QDBusMessage call;
-    if (known) {
-        call = ProfileUpdate::Call(*known, settings);
-    } else {
-        call = CNetworkManagerClient::Call(CNetworkManagerClient::SettingsPath(),
-                                           CNetworkManagerClient::SettingsInterface(),
-                                           QLatin1String("AddConnection"));
-        call << QVariant::fromValue(settings);
+NetworkManagerResult CNetworkManagerWLANService::Change(const NetworkProfile &profile,
+                                                        const WLANProfile &wanted, const CTimeLimit &limit)
+{
+    emit AboutToChange();
+    NMVariantMapMap settings = profile.settings;
+    settings[WirelessSection()].insert(QLatin1String("ssid"), SsidText::ToBytes(wanted.ssid));
+    if (NetworkSecurity::HasStaticWep(settings) && wanted.encryption == QLatin1String("WEP")) {
+        const NetworkManagerResult result = ReadWepKeys(profile, limit, &settings);
+        if (result != NetworkManagerResultSuccess) {
+            return result;
+        }
     }
+    NetworkSecurity::Apply(wanted, &settings);
+    return ResultOf(Ask(ProfileUpdate::Call(profile, settings), limit), ProfileUpdate::signature);
+}
+
+NetworkManagerResult CNetworkManagerWLANService::ReadWepKeys(const NetworkProfile &profile,
+                                                             const CTimeLimit &limit,
+                                                             NMVariantMapMap *settings)
+{
+    const QString section = QLatin1String("802-11-wireless-security");
+    QDBusMessage call = CNetworkManagerClient::Call(profile.path, CNetworkManagerClient::ProfileInterface(),
+                                                    QLatin1String("GetSecrets"));
+    call << section;
+    const QDBusMessage reply = Ask(call, limit);
+    if (reply.errorName() == QLatin1String("org.freedesktop.NetworkManager.AgentManager.NoSecrets")) {
+        return NetworkManagerResultSuccess;
+    }
+    const NetworkManagerResult result = ResultOf(reply, NetworkProfile::Signature());
+    if (result == NetworkManagerResultSuccess) {
+        const QVariantMap keys =
+            qdbus_cast<NMVariantMapMap>(reply.arguments().at(0).value<QDBusArgument>()).value(section);
+        for (QVariantMap::const_iterator i = keys.constBegin(); i != keys.constEnd(); ++i) {
+            (*settings)[section].insert(i.key(), i.value());
+        }
+    }
+    return result;
+}
+
+QDBusMessage CNetworkManagerWLANService::Ask(const QDBusMessage &call, const CTimeLimit &limit)
+{
     CCallBatch batch(m_client, QList<QDBusMessage>() << call, limit, nullptr);
     batch.Start();
     batch.Wait();
-    return ResultOf(batch.Replies().at(0), known ? ProfileUpdate::signature : "o");
+    return batch.Replies().at(0);
 }
 
 int CNetworkManagerWLANService::GetRememberedList(QList<RememberedList> *list)
@@ -257,7 +333,7 @@ int CNetworkManagerWLANService::GetRememberedList(QList<RememberedList> *list)
     reader.Read();
     const QList<NetworkProfile> &profiles = reader.Profiles();
     for (int i = 0; i < profiles.size(); ++i) {
-        if (profiles.at(i).kind != NetworkProfile::OtherKind) {
+        if (profiles.at(i).kind != NetworkProfile::OtherKind && !profiles.at(i).isHotspot) {
             RememberedList remembered;
             remembered.name = profiles.at(i).name;
             remembered.type = profiles.at(i).TypeText();
@@ -288,19 +364,11 @@ int CNetworkManagerWLANService::GetConfigData(WLANConfigData *config)
     if (!config) {
         return NetworkManagerResultNullPointer;
     }
-    if (m_client->IsSilent()) {
-        return Tell("GetConfigData", NetworkManagerResultNotAnswering);
-    }
-    CCallBatch batch(m_client, QList<QDBusMessage>() << NetworkManagerState::Call() << EapMethodsCall(),
-                     Patience(), nullptr);
-    batch.Start();
-    batch.Wait();
-    const NetworkManagerResult result = ResultOf(batch.Replies().at(0), NetworkManagerState::Signature());
-    m_client->Note(result);
+    NetworkManagerState state;
+    CallerRights rights;
+    const NetworkManagerResult result = ReadState(&state, &rights);
     if (result == NetworkManagerResultSuccess) {
-        const NetworkManagerState state = NetworkManagerState::FromReply(batch.Replies().at(0));
-        config->authenticationList =
-            NetworkSecurity::Methods(state.devices, IsEapKnown(batch.Replies().at(1)));
+        config->authenticationList = NetworkSecurity::Methods(state.devices);
     }
     return Tell("GetConfigData", result);
 }

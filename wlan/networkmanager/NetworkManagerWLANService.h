@@ -5,11 +5,16 @@
 
 #include <ComplaintLog.h>
 #include <IWLANUIPlugin.h>
+#include <UserNotice.h>
+
+#include <NetworkManagerQt/GenericTypes>
 
 #include <QElapsedTimer>
 
 class CNetworkManagerClient;
 class CProfileReader;
+class CTimeLimit;
+class QDBusMessage;
 struct CallerRights;
 struct NetworkManagerState;
 struct NetworkProfile;
@@ -17,8 +22,8 @@ struct NetworkProfile;
 /**
  * The WLAN interface over NetworkManager. Results are those of NetworkManagerResult.h, GetNetworkProfile's
  * are 1 and 0. No operation keeps its caller waiting for longer than
- * CNetworkManagerClient::patienceMilliseconds, and none asks for a key: keys go to NetworkManager and don't
- * come back.
+ * CNetworkManagerClient::patienceMilliseconds. Keys go to NetworkManager and don't come back, but for the
+ * other keys of a WEP profile that gets a new one: NetworkManager would drop them.
  *
  * Of a network in range, value1 is the signal in percent, value2 the channel or 0 when it is not known, and
  * value3 to value5 are 0.
@@ -33,14 +38,21 @@ public:
     CNetworkManagerWLANService(CNetworkManagerClient *client, QObject *parent);
 
     /**
-     * Stores the profile for everybody where this user may do that, and for this user alone otherwise. A
-     * Wi-Fi profile of the same name gets the new network name and security and keeps everything else.
+     * Stores the profile for everybody where this user may do that, and for this user alone otherwise.
+     *
+     * Destroys nothing. A Wi-Fi profile of the same name gets the new network name, method and key and keeps
+     * everything else, where ProfileRules.h allows that; otherwise all profiles stay as they are. A profile
+     * of another name that is for the same network is never changed: the new one is stored beside it, or
+     * refused where it would be the weaker one. What goes wrong is told to the user.
      *
      * The profile connects by itself whatever its connectionMode is: it is the list that decides when.
      */
     int CreateWLANProfile(WLANProfile profile) override;
 
-    /** In alphabetical order. When NetworkManager gives no usable answer for all, those for which it did. */
+    /**
+     * In alphabetical order, without hotspots, which are not there to be joined. When NetworkManager gives no
+     * usable answer for all, those for which it did.
+     */
     int GetRememberedList(QList<RememberedList> *list) override;
 
     /** Of several profiles of one name a Wi-Fi profile is given, and of these the one that was used last. */
@@ -58,16 +70,27 @@ public:
      */
     int GetNetworkProfile(const WlanAvilableNetworkInfo &network, WLANProfile *profile) override;
 
+signals:
+    /** What has been read of the profiles so far must not be written any more. */
+    void AboutToChange();
+
 private:
     Q_DISABLE_COPY(CNetworkManagerWLANService)
 
     NetworkManagerResult ReadState(NetworkManagerState *state, CallerRights *rights);
-    NetworkManagerResult Store(const WLANProfile &profile);
+    NetworkManagerResult Store(WLANProfile wanted, QString *better);
+    NetworkManagerResult Add(const WLANProfile &wanted, const CallerRights &rights, const CTimeLimit &limit);
+    NetworkManagerResult Change(const NetworkProfile &profile, const WLANProfile &wanted,
+                                const CTimeLimit &limit);
+    NetworkManagerResult ReadWepKeys(const NetworkProfile &profile, const CTimeLimit &limit,
+                                     NMVariantMapMap *settings);
+    QDBusMessage Ask(const QDBusMessage &call, const CTimeLimit &limit);
     void LookForNetworks(const NetworkManagerState &state, const CallerRights &rights);
     NetworkManagerResult Tell(const char *operation, NetworkManagerResult result);
 
     CNetworkManagerClient *const m_client;
     CComplaintLog m_complaints{"WLANNetworkManager"};
+    CUserNotice m_notice;
     QElapsedTimer m_sinceLook;
 };
 

@@ -1,5 +1,7 @@
 #include "NetworkProfile.h"
 
+#include "NetworkSecurity.h"
+
 #include <PriorityList.h>
 
 #include <NetworkManagerQt/ConnectionSettings>
@@ -67,6 +69,7 @@ NetworkProfile NetworkProfile::Make(const ProfilePlace &place, const NMVariantMa
         wireless.fromMap(settings.value(wireless.name()));
         profile.ssid = wireless.ssid();
         profile.isHotspot = wireless.mode() == NetworkManager::WirelessSetting::Ap;
+        profile.lacksAccount = NetworkSecurity::LacksAccount(settings);
     }
 
     const QStringList permissions = connection.value(QLatin1String("permissions")).toStringList();

@@ -24,6 +24,8 @@ struct NetworkProfile {
     QByteArray ssid;
     /** A network that this computer makes itself, for others to join. */
     bool isHotspot = false;
+    /** It needs an account and has none, so it can't be connected. */
+    bool lacksAccount = false;
     /** When it was last connected, in seconds since 1970; 0 for never. */
     quint64 lastConnected = 0;
     int priority = 0;

@@ -26,29 +26,11 @@ const char wepEncryption[] = "WEP";
 const char tkipEncryption[] = "TKIP";
 const char ccmpEncryption[] = "CCMP";
 
-/** The four methods of WPA. */
-struct WpaMethod {
-    const char *authentication;
-    WirelessSecuritySetting::WpaProtocolVersion protocol;
-    WirelessSecuritySetting::KeyMgmt keyManagement;
-};
+/** What a method consists of for NetworkManager. */
+const char *const methodKeys[] = {"key-mgmt", "auth-alg",     "proto",
+                                  "pairwise", "wep-key-type", "wep-key-flags"};
 
-const WpaMethod wpaMethods[] = {
-    {wpaPersonal, WirelessSecuritySetting::Wpa, WirelessSecuritySetting::WpaPsk},
-    {wpa2Personal, WirelessSecuritySetting::Rsn, WirelessSecuritySetting::WpaPsk},
-    {wpaEnterprise, WirelessSecuritySetting::Wpa, WirelessSecuritySetting::WpaEap},
-    {wpa2Enterprise, WirelessSecuritySetting::Rsn, WirelessSecuritySetting::WpaEap},
-};
-
-const WpaMethod *FindWpaMethod(const QString &authentication)
-{
-    for (const WpaMethod &method : wpaMethods) {
-        if (authentication == QLatin1String(method.authentication)) {
-            return &method;
-        }
-    }
-    return nullptr;
-}
+const char *const keyManagementsWithAccount[] = {"wpa-eap", "wpa-eap-suite-b-192", "ieee8021x"};
 
 bool Is(const QString &word, const char *expected)
 {
@@ -110,25 +92,19 @@ bool MakeWep(const WLANProfile &profile, WirelessSecuritySetting *security)
 /** False when the words make no profile with WPA. */
 bool MakeWpa(const WLANProfile &profile, WirelessSecuritySetting *security)
 {
-    const WpaMethod *method = FindWpaMethod(profile.authentication);
-    if (!method || !(Is(profile.encryption, tkipEncryption) || Is(profile.encryption, ccmpEncryption))) {
+    const bool isSecond = Is(profile.authentication, wpa2Personal);
+    const bool isOnlyOld = Is(profile.encryption, tkipEncryption);
+    if (!(isSecond || Is(profile.authentication, wpaPersonal)) ||
+        !(isOnlyOld || Is(profile.encryption, ccmpEncryption))) {
         return false;
     }
-    security->setKeyMgmt(method->keyManagement);
-    security->setProto(QList<WirelessSecuritySetting::WpaProtocolVersion>() << method->protocol);
+    security->setKeyMgmt(WirelessSecuritySetting::WpaPsk);
+    security->setProto(QList<WirelessSecuritySetting::WpaProtocolVersion>()
+                       << (isSecond ? WirelessSecuritySetting::Rsn : WirelessSecuritySetting::Wpa));
     security->setPairwise(QList<WirelessSecuritySetting::WpaEncryptionCapabilities>()
-                          << (Is(profile.encryption, tkipEncryption) ? WirelessSecuritySetting::Tkip
-                                                                     : WirelessSecuritySetting::Ccmp));
-    if (method->keyManagement == WirelessSecuritySetting::WpaPsk) {
-        security->setPsk(profile.keyMaterial);
-    }
+                          << (isOnlyOld ? WirelessSecuritySetting::Tkip : WirelessSecuritySetting::Ccmp));
+    security->setPsk(profile.keyMaterial);
     return true;
-}
-
-bool NeedsEap(const WirelessSecuritySetting &security)
-{
-    return security.keyMgmt() == WirelessSecuritySetting::WpaEap ||
-           security.keyMgmt() == WirelessSecuritySetting::Ieee8021x;
 }
 
 /** What a device needs to be able to do for a method. */
@@ -138,10 +114,11 @@ bool IsPossible(const QString &method, unsigned int capabilities)
         (capabilities & (NM_WIFI_DEVICE_CAP_CIPHER_WEP40 | NM_WIFI_DEVICE_CAP_CIPHER_WEP104)) != 0;
     const bool hasCipher =
         (capabilities & (NM_WIFI_DEVICE_CAP_CIPHER_TKIP | NM_WIFI_DEVICE_CAP_CIPHER_CCMP)) != 0;
-    if (const WpaMethod *wpa = FindWpaMethod(method)) {
-        const unsigned int needed =
-            wpa->protocol == WirelessSecuritySetting::Rsn ? NM_WIFI_DEVICE_CAP_RSN : NM_WIFI_DEVICE_CAP_WPA;
-        return hasCipher && (capabilities & needed) != 0;
+    if (Is(method, wpaPersonal)) {
+        return hasCipher && (capabilities & NM_WIFI_DEVICE_CAP_WPA) != 0;
+    }
+    if (Is(method, wpa2Personal)) {
+        return hasCipher && (capabilities & NM_WIFI_DEVICE_CAP_RSN) != 0;
     }
     return Is(method, openSystem) || hasWep;
 }
@@ -212,41 +189,94 @@ void NetworkSecurity::Describe(const NMVariantMapMap &settings, WLANProfile *pro
     }
 }
 
-bool NetworkSecurity::Apply(const WLANProfile &profile, NMVariantMapMap *settings)
+bool NetworkSecurity::IsDescribed(const NMVariantMapMap &settings)
 {
-    WirelessSecuritySetting security;
-    const bool isPlain = Is(profile.authentication, openSystem) && Is(profile.encryption, noEncryption);
-    if (Is(profile.authentication, dynamicWep) && Is(profile.encryption, noEncryption)) {
-        security.setKeyMgmt(WirelessSecuritySetting::Ieee8021x);
-    } else if (!isPlain && !(Is(profile.encryption, wepEncryption) ? MakeWep(profile, &security)
-                                                                   : MakeWpa(profile, &security))) {
+    const WirelessSecuritySetting names;
+    if (settings.contains(Security8021xSetting().name())) {
         return false;
     }
-    Security8021xSetting eap;
-    settings->remove(security.name());
-    settings->remove(eap.name());
-    if (!isPlain) {
-        settings->insert(security.name(), security.toMap());
+    if (!settings.contains(names.name())) {
+        return true;
     }
-    if (NeedsEap(security)) {
-        eap.setEapMethods(QList<Security8021xSetting::EapMethod>() << Security8021xSetting::EapMethodSim);
-        settings->insert(eap.name(), eap.toMap());
+    WirelessSecuritySetting security;
+    security.fromMap(settings.value(names.name()));
+    const NetworkManager::Setting::SecretFlags flags = security.pskFlags() | security.wepKeyFlags();
+    if ((flags & (NetworkManager::Setting::AgentOwned | NetworkManager::Setting::NotSaved)) != 0) {
+        return false;
+    }
+    return security.keyMgmt() == WirelessSecuritySetting::WpaPsk ||
+           (HasStaticWep(settings) && security.wepKeyType() != WirelessSecuritySetting::Passphrase);
+}
+
+bool NetworkSecurity::HasStaticWep(const NMVariantMapMap &settings)
+{
+    WirelessSecuritySetting security;
+    security.fromMap(settings.value(security.name()));
+    return security.keyMgmt() == WirelessSecuritySetting::Wep;
+}
+
+bool NetworkSecurity::LacksAccount(const NMVariantMapMap &settings)
+{
+    const QVariantMap security = settings.value(WirelessSecuritySetting().name());
+    const QVariantMap eap = settings.value(Security8021xSetting().name());
+    const bool hasAccount = !eap.value(QLatin1String("identity")).toString().isEmpty() ||
+                            !eap.value(QLatin1String("client-cert")).toByteArray().isEmpty() ||
+                            !security.value(QLatin1String("leap-username")).toString().isEmpty();
+    const QString keyManagement = security.value(QLatin1String("key-mgmt")).toString();
+    bool needsAccount = false;
+    for (const char *word : keyManagementsWithAccount) {
+        needsAccount = needsAccount || Is(keyManagement, word);
+    }
+    return needsAccount && !hasAccount;
+}
+
+bool NetworkSecurity::NeedsAccount(const WLANProfile &profile)
+{
+    return Is(profile.authentication, wpaEnterprise) || Is(profile.authentication, wpa2Enterprise) ||
+           Is(profile.authentication, dynamicWep);
+}
+
+bool NetworkSecurity::Apply(const WLANProfile &profile, NMVariantMapMap *settings)
+{
+    if (Is(profile.authentication, openSystem) && Is(profile.encryption, noEncryption)) {
+        return true;
+    }
+    WirelessSecuritySetting security;
+    if (!(Is(profile.encryption, wepEncryption) ? MakeWep(profile, &security)
+                                                : MakeWpa(profile, &security))) {
+        return false;
+    }
+    WLANProfile before;
+    Describe(*settings, &before);
+    const bool isSameMethod =
+        before.authentication == profile.authentication && before.encryption == profile.encryption;
+    QVariantMap &section = (*settings)[security.name()];
+    for (const char *key : methodKeys) {
+        if (!isSameMethod) {
+            section.remove(QLatin1String(key));
+        }
+    }
+    // Left out of what is made where it is 0.
+    section.remove(QLatin1String("wep-tx-keyidx"));
+    const QVariantMap made = security.toMap();
+    for (QVariantMap::const_iterator i = made.constBegin(); i != made.constEnd(); ++i) {
+        // What type a WEP key is of holds for all four.
+        const bool isOfTheKey =
+            i.key() == QLatin1String("psk") ||
+            (i.key().startsWith(QLatin1String("wep-")) && i.key() != QLatin1String("wep-key-type"));
+        if (isOfTheKey || !isSameMethod) {
+            section.insert(i.key(), i.value());
+        }
     }
     return true;
 }
 
-QList<QString> NetworkSecurity::Methods(const QList<WirelessDevice> &devices, bool isEapKnown)
+QList<QString> NetworkSecurity::Methods(const QList<WirelessDevice> &devices)
 {
-    const char *const withoutEap[] = {openSystem, sharedKey, wpaPersonal, wpa2Personal};
-    const char *const withEap[] = {wpaEnterprise, wpa2Enterprise, dynamicWep};
+    const char *const withoutAccount[] = {openSystem, sharedKey, wpaPersonal, wpa2Personal};
     QList<QString> methods;
-    for (const char *method : withoutEap) {
+    for (const char *method : withoutAccount) {
         if (IsPossible(QLatin1String(method), devices)) {
-            methods.append(QLatin1String(method));
-        }
-    }
-    for (const char *method : withEap) {
-        if (isEapKnown && IsPossible(QLatin1String(method), devices)) {
             methods.append(QLatin1String(method));
         }
     }

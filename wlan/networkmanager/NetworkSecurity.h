@@ -22,17 +22,36 @@ void Describe(const NMVariantMapMap &settings, WLANProfile *profile);
 bool IsWep(const AccessPoint &point);
 
 /**
- * Puts the profile's security into settings in the place of what they had. The key goes along.
+ * Whether a WLANProfile tells all of a profile's security: there is no account, and its key is kept by
+ * NetworkManager itself.
+ */
+bool IsDescribed(const NMVariantMapMap &settings);
+
+/** Whether the profile has keys for WEP, of which there are up to four. */
+bool HasStaticWep(const NMVariantMapMap &settings);
+
+/**
+ * Whether the profile can't be used as it is: its network asks for an account, and there is none. A SIM card
+ * is no account for NetworkManager, which has no way to one.
+ */
+bool LacksAccount(const NMVariantMapMap &settings);
+
+/** Whether the method asks for an account, which a WLANProfile doesn't have. */
+bool NeedsAccount(const WLANProfile &profile);
+
+/**
+ * Gives settings the method and the key of a profile, and leaves the rest of their security as it is. Of the
+ * same method only the key is put in: settings may allow more than the words tell, such as every version of
+ * WPA.
  *
- * The methods with EAP are stored for a SIM card, as only these need no credentials that a WLANProfile
- * doesn't have. WPA2PSK serves for WPA3 as well, as NetworkManager takes "wpa-psk" to mean both.
+ * WPA2PSK serves for WPA3 as well, as NetworkManager takes "wpa-psk" to mean both.
  *
  * @return false when the words don't go together; settings are as they were then.
  */
 bool Apply(const WLANProfile &profile, NMVariantMapMap *settings);
 
-/** What at least one device can do; everything when there is no device yet. */
-QList<QString> Methods(const QList<WirelessDevice> &devices, bool isEapKnown);
+/** Those without an account that at least one device can do; all of them when there is no device yet. */
+QList<QString> Methods(const QList<WirelessDevice> &devices);
 
 } // namespace NetworkSecurity
 

@@ -81,6 +81,19 @@ void CPriorityKeeper::Trigger()
     }
 }
 
+void CPriorityKeeper::StartAgain()
+{
+    if (m_reader) {
+        m_reader->disconnect(this);
+        m_reader->deleteLater();
+        m_reader = nullptr;
+    }
+    delete m_batch;
+    m_batch = nullptr;
+    m_changes.clear();
+    Trigger();
+}
+
 void CPriorityKeeper::TakeManagerChange(const QString &, const QVariantMap &changed, const QStringList &)
 {
     if (changed.contains(QLatin1String("ActiveConnections"))) {
@@ -130,7 +143,10 @@ void CPriorityKeeper::TakeProfiles()
         list.clear();
         ReadList(&list);
     }
-    Write(list);
+    // Whoever is told of a new first entry may have changed a profile.
+    if (m_reader) {
+        Write(list);
+    }
 }
 
 bool CPriorityKeeper::ReadList(QList<PriorityList> *list)

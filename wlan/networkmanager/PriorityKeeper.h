@@ -39,6 +39,12 @@ public slots:
     /** Has the two compared soon. */
     void Trigger();
 
+    /**
+     * Drops what has been read and not yet written, and begins anew: a profile is about to be changed, and
+     * its former settings must not be written over that.
+     */
+    void StartAgain();
+
 private slots:
     void Begin();
     void TakeProfiles();

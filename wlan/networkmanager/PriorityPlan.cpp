@@ -43,7 +43,7 @@ QList<PriorityChange> PriorityPlan::Make(const QList<PriorityList> &list,
             profile.uuid.isEmpty()) {
             continue;
         }
-        const int place = places.value(profile.ListKey(), -1);
+        const int place = profile.lacksAccount ? -1 : places.value(profile.ListKey(), -1);
         const PriorityRecord record = records->value(profile.uuid);
         const bool isOwn = records->contains(profile.uuid) && record.IsOwn(profile.priority);
         const int before = isOwn ? record.before : profile.priority;

@@ -61,6 +61,7 @@ bool CWLANPlugin::Init()
     }
     m_service = new CNetworkManagerWLANService(m_client, nullptr);
     m_keeper = new CPriorityKeeper(m_client, UserDataDirectory(), nullptr);
+    connect(m_service, SIGNAL(AboutToChange()), m_keeper, SLOT(StartAgain()));
     return true;
 }
 

@@ -1,5 +1,6 @@
 #include "ProfileStore.h"
 
+#include "ProfileRules.h"
 #include "UserDataDirectory.h"
 #include "XmlRecords.h"
 
@@ -80,6 +81,65 @@ XmlRecord ToRecord(const StoredProfile &stored)
     return record;
 }
 
+QList<ProfileRules::RememberedProfile> WifiProfiles(const QList<StoredProfile> &profiles)
+{
+    QList<ProfileRules::RememberedProfile> remembered;
+    for (int i = 0; i < profiles.size(); ++i) {
+        if (profiles.at(i).IsWifi()) {
+            const ProfileRules::RememberedProfile profile = {profiles.at(i).profile, false, i};
+            remembered.append(profile);
+        }
+    }
+    return remembered;
+}
+
+void ChangeNetworkAndSecurity(const WLANProfile &wanted, WLANProfile *profile)
+{
+    profile->ssid = wanted.ssid.isEmpty() ? profile->ssid : wanted.ssid;
+    profile->authentication = wanted.authentication;
+    profile->encryption = wanted.encryption;
+    profile->keyType = wanted.keyType;
+    profile->keyMaterial = wanted.keyMaterial;
+    profile->keyIndex = wanted.keyIndex;
+}
+
+struct Refusal {
+    WLANResult result;
+    const char *text;
+};
+
+/** Success and no text for what is no refusal. */
+Refusal RefusalOf(ProfileRules::Verdict verdict)
+{
+    Refusal refusal = {WLANResultSuccess, nullptr};
+    switch (verdict) {
+    case ProfileRules::NewProfile:
+    case ProfileRules::ChangedProfile:
+        break;
+    case ProfileRules::SeveralProfiles:
+        refusal = {WLANResultSeveralProfiles, "several profiles have that name, none of them is changed"};
+        break;
+    case ProfileRules::ReadOnlyProfile:
+        refusal = {WLANResultReadOnlyProfile, "a read-only profile is not changed"};
+        break;
+    case ProfileRules::UndescribedProfile:
+        refusal = {WLANResultUndescribedProfile,
+                   "a profile of a kind that the dialog can't describe is not changed"};
+        break;
+    case ProfileRules::WeakerMethod:
+        refusal = {WLANResultWeakerMethod, "a profile is not given a weaker method"};
+        break;
+    case ProfileRules::IncompleteKey:
+        refusal = {WLANResultIncompleteKey, "a profile is not changed without a key that is complete"};
+        break;
+    case ProfileRules::BetterProfile:
+        refusal = {WLANResultBetterProfile,
+                   "a profile is not stored beside a better one for the same network"};
+        break;
+    }
+    return refusal;
+}
+
 /** The file for the time of one operation, with what is to be said about it. */
 class ProfileFile
 {
@@ -111,7 +171,7 @@ public:
         return lock.IsHeld() ? ReadOrMakeLocked(profiles) : ComplainOfLock();
     }
 
-    WLANResult Store(const WLANProfile &profile)
+    WLANResult Store(const WLANProfile &profile, QString *better)
     {
         if (m_directory.isEmpty()) {
             return ComplainOfDirectory();
@@ -125,21 +185,22 @@ public:
         if (result != WLANResultSuccess) {
             return result;
         }
-        StoredProfile stored;
-        stored.type = WifiType();
-        stored.profile = profile;
-        for (int i = 0; i < profiles.size(); ++i) {
-            if (!profiles.at(i).IsWifi() || profiles.at(i).profile.profileName != profile.profileName) {
-                continue;
+        const ProfileRules::Decision decision = ProfileRules::Decide(WifiProfiles(profiles), profile);
+        const Refusal refusal = RefusalOf(decision.verdict);
+        if (refusal.result != WLANResultSuccess) {
+            if (refusal.result == WLANResultBetterProfile) {
+                *better = profiles.at(decision.place).profile.profileName;
             }
-            if (profiles.at(i).profile.readOnly == QLatin1String("true")) {
-                return Complain(WLANResultReadOnlyProfile,
-                                QLatin1String("a read-only profile is not replaced"));
-            }
-            profiles[i] = stored;
-            return Write(profiles);
+            return Complain(refusal.result, QLatin1String(refusal.text));
         }
-        profiles.append(stored);
+        if (decision.verdict == ProfileRules::NewProfile) {
+            StoredProfile stored;
+            stored.type = WifiType();
+            stored.profile = profile;
+            profiles.append(stored);
+        } else {
+            ChangeNetworkAndSecurity(profile, &profiles[decision.place].profile);
+        }
         return Write(profiles);
     }
 
@@ -261,13 +322,13 @@ WLANResult CProfileStore::List(QList<StoredProfile> *profiles)
     return result;
 }
 
-WLANResult CProfileStore::Store(const WLANProfile &profile)
+WLANResult CProfileStore::Store(const WLANProfile &profile, QString *better)
 {
     ProfileFile file;
     const WLANResult result =
         profile.profileName.isEmpty()
             ? file.Complain(WLANResultEmptyName, QLatin1String("a profile without a name is not stored"))
-            : file.Store(profile);
+            : file.Store(profile, better);
     // A refused change is told every time: it is an answer to somebody.
     m_complaints.Forget();
     m_complaints.Tell(file.Complaints());

@@ -24,13 +24,53 @@ int FindNetwork(const QList<NetworkInRange> &networks, const QString &name)
     return -1;
 }
 
+/** The id of the text that tells the user; null when there is nothing to be told. */
+const char *NoticeOf(WLANResult result)
+{
+    switch (result) {
+    case WLANResultEmptyName:
+        return "IDS_WLAN_BAD_NAME";
+    case WLANResultReadOnlyProfile:
+        return "IDS_WLAN_KEPT_READ_ONLY";
+    case WLANResultSeveralProfiles:
+        return "IDS_WLAN_KEPT_SEVERAL";
+    case WLANResultUndescribedProfile:
+        return "IDS_WLAN_KEPT_UNDESCRIBED";
+    case WLANResultWeakerMethod:
+        return "IDS_WLAN_KEPT_STRONGER";
+    case WLANResultIncompleteKey:
+        return "IDS_WLAN_KEPT_KEY";
+    case WLANResultBetterProfile:
+        return "IDS_WLAN_BETTER_PROFILE";
+    case WLANResultFileDamaged:
+        return "IDS_WLAN_FILE_DAMAGED";
+    case WLANResultBusy:
+        return "IDS_WLAN_BUSY";
+    case WLANResultNoDirectory:
+    case WLANResultFileNotReadable:
+    case WLANResultFileNotWritable:
+    case WLANResultSymbolicLink:
+        return "IDS_WLAN_FILE_UNUSABLE";
+    case WLANResultSuccess:
+    case WLANResultNullPointer:
+    case WLANResultUnknownName:
+        break;
+    }
+    return nullptr;
+}
+
 } // namespace
 
 CStoredWLANService::CStoredWLANService(QObject *parent) : QObject(parent) {}
 
 int CStoredWLANService::CreateWLANProfile(WLANProfile profile)
 {
-    return m_profiles.Store(profile);
+    QString better;
+    const WLANResult result = m_profiles.Store(profile, &better);
+    if (const char *id = NoticeOf(result)) {
+        m_notice.Tell(id, profile.profileName, better);
+    }
+    return result;
 }
 
 int CStoredWLANService::GetRememberedList(QList<RememberedList> *list)
@@ -72,10 +112,10 @@ int CStoredWLANService::GetConfigData(WLANConfigData *config)
     if (!config) {
         return WLANResultNullPointer;
     }
+    // No more than the dialog has room for; a profile with EAP is for the SIM card.
     QList<QString> methods;
     methods << QLatin1String("open") << QLatin1String("shared") << QLatin1String("WPAPSK")
-            << QLatin1String("WPA2PSK") << QLatin1String("WPA(EAP)") << QLatin1String("WPA2(EAP)")
-            << QLatin1String("IEEE 802.1X");
+            << QLatin1String("WPA2PSK") << QLatin1String("WPA(EAP)") << QLatin1String("WPA2(EAP)");
     config->authenticationList = methods;
     return WLANResultSuccess;
 }

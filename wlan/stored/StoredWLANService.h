@@ -5,6 +5,7 @@
 #include "RangeSource.h"
 
 #include <IWLANUIPlugin.h>
+#include <UserNotice.h>
 
 /**
  * The WLAN interface over the two files. Results are those of WLANResult.h, GetNetworkProfile's are 1 and 0.
@@ -20,7 +21,11 @@ class CStoredWLANService : public QObject, public IWLANUIPlugin
 public:
     explicit CStoredWLANService(QObject *parent);
 
-    /** A profile of the mobile-broadband kind is not replaced: it and the new one differ in their type. */
+    /**
+     * Destroys nothing: ProfileRules.h tells what becomes of a profile of the same name. A profile of the
+     * mobile-broadband kind stays as it is: it and the new one differ in their type. What goes wrong is told
+     * to the user.
+     */
     int CreateWLANProfile(WLANProfile profile) override;
 
     int GetRememberedList(QList<RememberedList> *list) override;
@@ -44,6 +49,7 @@ private:
 
     CProfileStore m_profiles;
     CRangeSource m_range;
+    CUserNotice m_notice;
 };
 
 #endif

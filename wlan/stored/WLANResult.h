@@ -11,7 +11,7 @@ enum WLANResult {
     WLANResultEmptyName = 2,
     /** No profile of that name is remembered; the output is as it was. */
     WLANResultUnknownName = 3,
-    /** The profile of that name is read-only and was not replaced. */
+    /** The profile of that name is read-only and was not changed. */
     WLANResultReadOnlyProfile = 4,
     /** The host gives no directory for the user's data. */
     WLANResultNoDirectory = 5,
@@ -24,7 +24,20 @@ enum WLANResult {
     /** The profiles file, or the temporary one beside it, is a symbolic link; nothing was read or written. */
     WLANResultSymbolicLink = 9,
     /** Another process is writing the profiles; nothing was written. */
-    WLANResultBusy = 10
+    WLANResultBusy = 10,
+
+    // Of CreateWLANProfile alone, which left the profiles as they are; ProfileRules.h tells why.
+
+    /** Several profiles have that name. */
+    WLANResultSeveralProfiles = 11,
+    /** The profile of that name is of a kind that the New dialog can't describe. */
+    WLANResultUndescribedProfile = 12,
+    /** The profile of that name has a stronger method. */
+    WLANResultWeakerMethod = 13,
+    /** The profile of that name can only be changed with a key that is complete. */
+    WLANResultIncompleteKey = 14,
+    /** A profile of another name is for the same network, and could not be changed in that way. */
+    WLANResultBetterProfile = 15
 };
 
 #endif
