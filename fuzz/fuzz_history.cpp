@@ -15,33 +15,91 @@ const char path[] = "history/states.xml";
 bool IsSame(const ListHistory &left, const ListHistory &right)
 {
     return left.States() == right.States() && left.Position() == right.Position() &&
-           left.Target() == right.Target();
+           left.Target() == right.Target() && left.CameBack() == right.CameBack();
+}
+
+bool CanBeInForce(const ListHistory &history, int place)
+{
+    return place >= 0 && place < history.States().size() && !history.States().at(place).isPassedBy;
 }
 
 void RequireSound(const ListHistory &history)
 {
     using FuzzSupport::Require;
     const int count = history.States().size();
-    Require(count <= ListHistory::Limit, "no more states are kept than can be");
-    Require(count > 0 ? history.Position() >= 0 && history.Position() < count : history.Position() == -1,
-            "the state in force is one of the states");
-    Require(history.Target() >= -1 && history.Target() < count, "the target is one of the states");
-    Require(history.CanUndo() == (history.Position() > 0),
-            "what is before the state in force can be undone to");
-    Require(history.CanRedo() == (history.Position() < count - 1),
-            "what is behind the state in force can be redone");
+    Require(count <= ListHistory::Most, "no more states are kept than can be");
+    Require(count > 0 ? CanBeInForce(history, history.Position()) : history.Position() == -1,
+            "the state in force is one of the states that are not passed by");
+    Require(history.Target() == -1 || CanBeInForce(history, history.Target()),
+            "so is the target, where there is one");
+    int before = 0;
+    int behind = 0;
+    for (int i = 0; i < count; ++i) {
+        before += i < history.Position() && CanBeInForce(history, i) ? 1 : 0;
+        behind += i > history.Position() && CanBeInForce(history, i) ? 1 : 0;
+    }
+    Require((history.UndoPlace() >= 0) == (before > 0), "what is before the state in force can be undone to");
+    Require((history.RedoPlace() >= 0) == (behind > 0), "what is behind the state in force can be redone");
+}
+
+/** The lists of the states that the limits spare, oldest first. */
+QList<QList<PriorityList>> Spared(const QList<ListState> &states)
+{
+    QList<QList<PriorityList>> spared;
+    QList<QDate> days;
+    for (int i = states.size() - 1; i >= 0; --i) {
+        const QDate day = states.at(i).time.toLocalTime().date();
+        const bool isNewDay = !days.contains(day);
+        if (isNewDay) {
+            days.append(day);
+        }
+        if (states.size() - i <= ListHistory::Recent || (isNewDay && days.size() <= ListHistory::Days)) {
+            spared.prepend(states.at(i).entries);
+        }
+    }
+    return spared;
 }
 
 void TryToRecord(ListHistory *history, const ListState &state)
 {
     using FuzzSupport::Require;
-    QList<ListState> expected = history->States().mid(0, history->Position() + 1);
+    QList<ListState> expected = history->States();
+    if (history->RedoPlace() >= 0) {
+        ListState back = expected.at(history->Position());
+        back.time = history->CameBack().isValid() ? history->CameBack() : state.time;
+        expected.append(back);
+    }
     expected.append(state);
     history->Record(state);
-    Require(history->States() == expected.mid(qMax(0, expected.size() - ListHistory::Limit)),
-            "what was undone goes, and of too many states the oldest; no other does");
+    QList<QList<PriorityList>> kept;
+    for (const ListState &one : history->States()) {
+        kept.append(one.entries);
+    }
+    const QList<QList<PriorityList>> spared = Spared(expected);
+    bool isSame = kept.size() == spared.size();
+    for (int i = 0; isSame && i < kept.size(); ++i) {
+        isSame = ListEntries::IsSame(kept.at(i), spared.at(i));
+    }
+    Require(isSame,
+            "a change is added, after an undo behind what was gone back to; only the limits take any");
     Require(history->Position() == history->States().size() - 1, "a new state is in force");
+    Require(history->RedoPlace() == -1, "nothing can be redone after a change");
     Require(history->Target() == -1, "a new state ends the way to another");
+}
+
+void TryToRecordJoined(ListHistory *history, const ListState &state)
+{
+    using FuzzSupport::Require;
+    const ListHistory before = *history;
+    history->RecordJoined(state, QDateTime());
+    ListHistory recorded = before;
+    recorded.Record(state);
+    if (!IsSame(*history, recorded)) {
+        const int count = before.States().size();
+        Require(count > 1 && history->States().mid(0, count - 1) == before.States().mid(0, count - 1),
+                "joining touches the newest state only");
+    }
+    Require(ListEntries::IsSame(history->Entries(), state.entries), "joined or not, the list is in force");
 }
 
 void TryToShorten(ListHistory *history)
@@ -56,27 +114,51 @@ void TryToShorten(ListHistory *history)
     Require(history->Position() == before.Position() - taken, "the state in force stays in force");
 }
 
+/** Adds an entry, takes one away, or moves one by one place. */
+void Edit(QList<PriorityList> *entries, InputReader *input)
+{
+    const std::uint8_t kind = input->Byte();
+    const int place = entries->isEmpty() ? 0 : (kind >> 2) % entries->size();
+    if (kind % 4 == 0 || entries->isEmpty()) {
+        entries->insert(place, input->Entry());
+    } else if (kind % 4 == 1) {
+        entries->removeAt(place);
+    } else if (place > 0) {
+        entries->move(place, place - 1);
+    }
+}
+
 /** Any changes, as the input says. */
 void Change(ListHistory *history, InputReader *input)
 {
     qint64 seconds = 1772355600;
-    const int most = 4 * ListHistory::Limit;
+    const int most = 4 * ListHistory::Most;
     for (int changes = 0; changes < most && !input->AtEnd(); ++changes) {
         const std::uint8_t kind = input->Byte();
         const int place = int(kind >> 2) - 2;
         switch (kind & 3) {
         case 0: {
             ListState state;
-            state.time = QDateTime::fromMSecsSinceEpoch(++seconds * 1000).toUTC();
+            // Days apart, now and then back in time.
+            seconds += kind & 4 ? 86000 : kind & 8 ? -200000 : 1;
+            state.time = QDateTime::fromMSecsSinceEpoch(seconds * 1000).toUTC();
+            state.entries = history->Entries();
             for (int i = kind >> 5; i > 0 && !input->AtEnd(); --i) {
-                state.entries.append(input->Entry());
+                Edit(&state.entries, input);
             }
             state.entries = ListEntries::Storable(state.entries);
-            TryToRecord(history, state);
+            if (kind & 16) {
+                TryToRecordJoined(history, state);
+            } else {
+                TryToRecord(history, state);
+            }
             break;
         }
         case 1:
-            history->GoTo(place);
+            history->GoTo(kind & 4   ? history->UndoPlace()
+                          : kind & 8 ? history->RedoPlace()
+                                     : place,
+                          QDateTime::fromMSecsSinceEpoch(++seconds * 1000).toUTC());
             break;
         case 2:
             history->SetTarget(place);

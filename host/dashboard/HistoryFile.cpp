@@ -17,7 +17,9 @@
 namespace
 {
 
-const char version[] = "1";
+const char version[] = "2";
+const char firstVersion[] = "1";
+const char passedBy[] = "true";
 const mode_t ownerOnlyDirectory = S_IRWXU;
 
 /** The entries of all states, each once, with their places. */
@@ -97,12 +99,28 @@ QList<PriorityList> ReadEntries(StrictXmlReader *reader)
     return entries;
 }
 
+QDateTime ReadTime(StrictXmlReader *reader, const char *attribute)
+{
+    const QDateTime time = TimeOf(reader->Value(attribute));
+    if (!time.isValid()) {
+        reader->Refuse(FileFault::WrongValue, QLatin1String(attribute));
+    }
+    return time;
+}
+
+QDateTime ReadTimeIfThere(StrictXmlReader *reader, const char *attribute)
+{
+    return reader->Has(attribute) ? ReadTime(reader, attribute) : QDateTime();
+}
+
 void ReadState(StrictXmlReader *reader, const QList<PriorityList> &table, QList<ListState> *states)
 {
     ListState state;
-    state.time = TimeOf(reader->Value("time"));
-    if (!state.time.isValid()) {
-        reader->Refuse(FileFault::WrongValue, QLatin1String("time"));
+    state.time = ReadTime(reader, "time");
+    state.backTo = ReadTimeIfThere(reader, "back");
+    state.isPassedBy = reader->Has("passed");
+    if (state.isPassedBy && reader->Value("passed") != QLatin1String(passedBy)) {
+        reader->Refuse(FileFault::WrongValue, QLatin1String("passed"));
     }
     const QString order = reader->Value("order");
     const QStringList places = order.isEmpty() ? QStringList() : order.split(QLatin1Char(' '));
@@ -114,7 +132,7 @@ void ReadState(StrictXmlReader *reader, const QList<PriorityList> &table, QList<
             state.entries.append(table.at(place));
         }
     }
-    if (states->size() == ListHistory::Limit) {
+    if (states->size() == ListHistory::Most) {
         reader->Refuse(FileFault::TooMany, reader->Name());
     }
     reader->Leave();
@@ -239,6 +257,9 @@ QByteArray HistoryFile::Document(const ListHistory &history)
     writer.writeStartElement(QLatin1String("listhistory"));
     writer.writeAttribute(QLatin1String("version"), QLatin1String(version));
     writer.writeAttribute(QLatin1String("current"), QString::number(history.Position()));
+    if (history.CameBack().isValid()) {
+        writer.writeAttribute(QLatin1String("since"), TimeText(history.CameBack()));
+    }
     if (history.Target() >= 0) {
         writer.writeAttribute(QLatin1String("target"), QString::number(history.Target()));
     }
@@ -251,8 +272,15 @@ QByteArray HistoryFile::Document(const ListHistory &history)
     writer.writeEndElement();
     writer.writeStartElement(QLatin1String("states"));
     for (int i = 0; i < states.size(); ++i) {
+        const ListState &state = states.at(i);
         writer.writeEmptyElement(QLatin1String("state"));
-        writer.writeAttribute(QLatin1String("time"), TimeText(states.at(i).time));
+        writer.writeAttribute(QLatin1String("time"), TimeText(state.time));
+        if (state.backTo.isValid()) {
+            writer.writeAttribute(QLatin1String("back"), TimeText(state.backTo));
+        }
+        if (state.isPassedBy) {
+            writer.writeAttribute(QLatin1String("passed"), QLatin1String(passedBy));
+        }
         writer.writeAttribute(QLatin1String("order"), QString::fromLatin1(table.Order(i)));
     }
     writer.writeEndDocument();
@@ -265,37 +293,35 @@ FileFault HistoryFile::Parse(const QByteArray &bytes, ListHistory *history)
     QList<ListState> states;
     int position = -1;
     int target = -1;
+    QDateTime since;
     if (reader.NextElement("listhistory")) {
-        if (reader.Value("version") != QLatin1String(version)) {
+        const QString found = reader.Value("version");
+        if (found != QLatin1String(version) && found != QLatin1String(firstVersion)) {
             reader.Refuse(FileFault::WrongValue, QLatin1String("version"));
         }
         const qint64 line = reader.Line();
-        position = PlaceIn(reader.Value("current"), ListHistory::Limit);
+        position = PlaceIn(reader.Value("current"), ListHistory::Most);
+        since = ReadTimeIfThere(&reader, "since");
         const bool hasTarget = reader.Has("target");
-        target = hasTarget ? PlaceIn(reader.Value("target"), ListHistory::Limit) : -1;
+        target = hasTarget ? PlaceIn(reader.Value("target"), ListHistory::Most) : -1;
         const QList<PriorityList> table = ReadEntries(&reader);
         if (reader.NextElement("states")) {
             while (reader.NextElement("state")) {
                 ReadState(&reader, table, &states);
             }
         }
-        if (position < 0 || position >= states.size()) {
+        if (position < 0 || position >= states.size() || states.at(position).isPassedBy) {
             reader.RefuseLine(line, FileFault::WrongValue, QLatin1String("current"));
         }
-        if (hasTarget && (target < 0 || target >= states.size())) {
+        if (hasTarget && (target < 0 || target >= states.size() || states.at(target).isPassedBy)) {
             reader.RefuseLine(line, FileFault::WrongValue, QLatin1String("target"));
         }
         reader.Leave();
         reader.Leave();
     }
     if (!reader.HasFault()) {
-        ListHistory parsed;
-        for (int i = 0; i < states.size(); ++i) {
-            parsed.Record(states.at(i));
-        }
-        parsed.GoTo(position);
-        parsed.SetTarget(target);
-        *history = parsed;
+        *history = ListHistory(states, position, since);
+        history->SetTarget(target);
     }
     return reader.Fault();
 }

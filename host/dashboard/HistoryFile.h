@@ -8,24 +8,30 @@
 #include <QString>
 
 /**
- * The file with the last states of the priority list: "states.xml" in the directory "history" of the user
- * data directory, both for the owner only.
+ * The file with the record of the priority list: "states.xml" in the directory "history" of the user data
+ * directory, both for the owner only.
  *
- *     <listhistory version="1" current="1">
+ *     <listhistory version="2" current="3">
  *         <entries>
  *             <item name="Café" type="1"/>
  *             <item name="Office" type="1"/>
  *         </entries>
  *         <states>
- *             <state time="2026-03-01T09:00:00Z" order="0"/>
- *             <state time="2026-03-01T09:05:00Z" order="1 0"/>
+ *             <state time="2026-03-01T09:00:00Z" order="0" passed="true"/>
+ *             <state time="2026-03-01T09:05:00Z" order="1 0" passed="true"/>
+ *             <state time="2026-03-01T09:10:00Z" back="2026-03-01T09:00:00Z" order="0"/>
+ *             <state time="2026-03-01T09:12:00Z" order="0 1"/>
  *         </states>
  *     </listhistory>
  *
  * Every entry that is in any state stands in it once; a state tells the order by the entries' places, counted
- * from 0. The states stand oldest first; "current" is the place of the one in force. While the list is
- * being taken to another of them, "target" is the place of that one. The file is written anew beside and then
- * takes the earlier one's place, so that it can be read whenever a program dies.
+ * from 0. The states stand oldest first; "current" is the place of the one in force. "back" is the time of
+ * the state that was gone back to, and "passed" marks what Undo and Redo pass by. A list that an undo or a
+ * redo has brought into force has "since", the time of that. While the list is being taken to another state,
+ * "target" is the place of that one. Version 1 had neither "back" nor "passed" nor "since", and is read.
+ *
+ * The file is written anew beside and then takes the earlier one's place, so that it can be read whenever a
+ * program dies.
  *
  * Several dashboards may keep one history: each holds a DirectoryLock on Directory() from Load to Save.
  */
@@ -61,7 +67,8 @@ public:
      */
     bool Load(ListHistory *history);
 
-    /** Where there is no room for all of it, the oldest states go. */
+    /** Where there is no room for all of it, the older half of the states before the one in force goes, and
+     * again until there is. */
     bool Save(ListHistory *history);
 
     /** Gives a file that can't be used another name, so that a new history can begin. Its new path, or null.

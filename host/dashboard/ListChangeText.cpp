@@ -60,6 +60,15 @@ QString ListChangeText::Describe(const QList<PriorityList> &before, const QList<
     return parts.join(QString::fromUtf8(" · "));
 }
 
+QString ListChangeText::DescribeStep(const QList<ListState> &states, int from, int to)
+{
+    const ListState &state = states.at(to);
+    // With others in between, it stands for the change that had led to the list that was gone back to.
+    return state.backTo.isValid() && from == to - 1
+               ? DashboardText("IDS_CHANGE_WENT_BACK").arg(Moment(state.backTo))
+               : Describe(states.at(from).entries, state.entries);
+}
+
 QString ListChangeText::Name(const PriorityList &entry)
 {
     QString name = entry.name.simplified();

@@ -1,7 +1,7 @@
 #ifndef LISTCHANGETEXT_H
 #define LISTCHANGETEXT_H
 
-#include <PriorityList.h>
+#include "ListHistory.h"
 
 #include <QDateTime>
 #include <QList>
@@ -13,6 +13,9 @@ namespace ListChangeText
 
 /** Such as "Moved Café up" or "Added 3 entries · Deleted Office"; one line whatever the names hold. */
 QString Describe(const QList<PriorityList> &before, const QList<PriorityList> &after);
+
+/** What led from one of the states to a later one; also such as "Went back to the list of 3/1/26 9:05 AM". */
+QString DescribeStep(const QList<ListState> &states, int from, int to);
 
 /** An entry's name on one line, shortened when it is long, reading in its own direction. */
 QString Name(const PriorityList &entry);

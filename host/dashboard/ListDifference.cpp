@@ -1,5 +1,7 @@
 #include "ListDifference.h"
 
+#include "ListEntries.h"
+
 #include <QHash>
 #include <QPair>
 #include <QString>
@@ -117,4 +119,34 @@ ListDifference ListDifference::Between(const QList<PriorityList> &before, const 
         difference.moved.append(move);
     }
     return difference;
+}
+
+QList<PriorityList> ListDifference::OnlyMoved(const QList<PriorityList> &before,
+                                              const QList<PriorityList> &after)
+{
+    QList<PriorityList> moved;
+    if (before.size() != after.size()) {
+        return moved;
+    }
+    int first = 0;
+    int last = before.size() - 1;
+    while (first <= last && ListEntries::IsSame(before.at(first), after.at(first))) {
+        ++first;
+    }
+    while (last > first && ListEntries::IsSame(before.at(last), after.at(last))) {
+        --last;
+    }
+    if (first >= last) {
+        return moved;
+    }
+    const int others = last - first;
+    if (ListEntries::IsSame(before.at(last), after.at(first)) &&
+        ListEntries::IsSame(before.mid(first, others), after.mid(first + 1, others))) {
+        moved.append(before.at(last));
+    }
+    if (ListEntries::IsSame(before.at(first), after.at(last)) &&
+        ListEntries::IsSame(before.mid(first + 1, others), after.mid(first, others))) {
+        moved.append(before.at(first));
+    }
+    return moved;
 }

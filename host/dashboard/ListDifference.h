@@ -32,6 +32,10 @@ struct ListDifference {
     bool IsNone() const { return added.isEmpty() && removed.isEmpty() && moved.isEmpty(); }
 
     static ListDifference Between(const QList<PriorityList> &before, const QList<PriorityList> &after);
+
+    /** The entries of which one alone has been moved: one, or two when neighbours have changed places. None
+     * when it takes more, or nothing, to get from one list to the other. */
+    static QList<PriorityList> OnlyMoved(const QList<PriorityList> &before, const QList<PriorityList> &after);
 };
 
 #endif

@@ -27,6 +27,11 @@ QDateTime WholeSeconds(const QDateTime &time)
     return utc.addMSecs(-utc.time().msec());
 }
 
+QDateTime Now()
+{
+    return WholeSeconds(QDateTime::currentDateTime());
+}
+
 } // namespace
 
 class ListKeeper::Session
@@ -96,6 +101,18 @@ void ListKeeper::Follow()
     }
 }
 
+void ListKeeper::BeginOpening()
+{
+    Follow();
+    m_opened = Now();
+}
+
+void ListKeeper::EndOpening()
+{
+    Follow();
+    m_opened = QDateTime();
+}
+
 void ListKeeper::ReadList()
 {
     IPriorityPlugin *priority = PluginObjects::Priority();
@@ -123,7 +140,7 @@ void ListKeeper::RecordIfNew()
         ListState state;
         state.time = TimeOfChange();
         state.entries = m_entries;
-        m_history.Record(state);
+        m_history.RecordJoined(state, m_opened);
         m_file.Save(&m_history);
     }
 }
@@ -135,8 +152,7 @@ QDateTime ListKeeper::TimeOfChange() const
     const QFileInfo file(m_listPath);
     const QDateTime written = file.lastModified();
     const bool isLikely =
-        file.exists() && written <= now &&
-        (m_history.IsEmpty() || written >= m_history.States().at(m_history.Position()).time);
+        file.exists() && written <= now && (m_history.IsEmpty() || written >= m_history.Since());
     return WholeSeconds(isLikely ? written : now);
 }
 
@@ -157,7 +173,7 @@ QString ListKeeper::UndoObstacle() const
     if (!obstacle.isNull()) {
         return obstacle;
     }
-    const bool canUndo = m_reading == Damaged ? !m_history.IsEmpty() : m_history.CanUndo();
+    const bool canUndo = m_reading == Damaged ? !m_history.IsEmpty() : m_history.UndoPlace() >= 0;
     return canUndo ? QString() : DashboardText("IDS_UNDO_NOTHING");
 }
 
@@ -170,7 +186,7 @@ QString ListKeeper::RedoObstacle() const
     if (m_reading == Damaged) {
         return DashboardText("IDS_REDO_DAMAGED");
     }
-    return m_history.CanRedo() ? QString() : DashboardText("IDS_REDO_NOTHING");
+    return m_history.RedoPlace() >= 0 ? QString() : DashboardText("IDS_REDO_NOTHING");
 }
 
 QString ListKeeper::UndoText() const
@@ -181,9 +197,7 @@ QString ListKeeper::UndoText() const
     if (m_reading == Damaged) {
         return DashboardText("IDS_CHANGE_DAMAGED");
     }
-    const QList<ListState> &states = m_history.States();
-    const int position = m_history.Position();
-    return ListChangeText::Describe(states.at(position - 1).entries, states.at(position).entries);
+    return ListChangeText::DescribeStep(m_history.States(), m_history.UndoPlace(), m_history.Position());
 }
 
 QString ListKeeper::RedoText() const
@@ -191,9 +205,7 @@ QString ListKeeper::RedoText() const
     if (!RedoObstacle().isNull()) {
         return QString();
     }
-    const QList<ListState> &states = m_history.States();
-    const int position = m_history.Position();
-    return ListChangeText::Describe(states.at(position).entries, states.at(position + 1).entries);
+    return ListChangeText::DescribeStep(m_history.States(), m_history.Position(), m_history.RedoPlace());
 }
 
 QString ListKeeper::LastChangeText() const
@@ -212,14 +224,14 @@ QString ListKeeper::Undo()
     if (!obstacle.isNull()) {
         return obstacle;
     }
-    return GoTo(m_reading == Damaged ? m_history.Position() : m_history.Position() - 1);
+    return GoTo(m_reading == Damaged ? m_history.Position() : m_history.UndoPlace());
 }
 
 QString ListKeeper::Redo()
 {
     const Session session(this);
     QString obstacle = m_isHeldByOther ? DashboardText("IDS_LIST_BUSY") : RedoObstacle();
-    return obstacle.isNull() ? GoTo(m_history.Position() + 1) : obstacle;
+    return obstacle.isNull() ? GoTo(m_history.RedoPlace()) : obstacle;
 }
 
 QString ListKeeper::Restore(int place, const ListState &state)
@@ -230,7 +242,13 @@ QString ListKeeper::Restore(int place, const ListState &state)
         return obstacle;
     }
     const int position = m_history.Find(place, state);
-    return position < 0 ? DashboardText("IDS_RESTORE_GONE") : GoTo(position);
+    if (position < 0) {
+        return DashboardText("IDS_RESTORE_GONE");
+    }
+    ListState restored = m_history.States().at(position);
+    restored.backTo = restored.time;
+    restored.isPassedBy = false;
+    return Change(restored);
 }
 
 QString ListKeeper::Replace(const QList<PriorityList> &entries)
@@ -240,38 +258,43 @@ QString ListKeeper::Replace(const QList<PriorityList> &entries)
     if (!obstacle.isNull()) {
         return obstacle;
     }
-    const ListHistory before = m_history;
     ListState state;
-    state.time = WholeSeconds(QDateTime::currentDateTime());
     state.entries = ListEntries::Storable(entries);
+    return Change(state);
+}
+
+QString ListKeeper::Change(ListState state)
+{
+    const ListHistory before = m_history;
     if (before.IsEmpty()) {
         QString problem = Write(state.entries);
         RecordIfNew();
         return problem;
     }
     if (ListEntries::IsSame(before.Entries(), state.entries)) {
-        return GoTo(before.Position());
+        return GoTo(before.Position(), before);
     }
     // As a state to go to: then an end on the way is made good like that of an undo.
+    state.time = Now();
     m_history.Record(state);
     const int position = m_history.Position();
-    m_history.GoTo(position - 1);
+    m_history.GoTo(m_history.UndoPlace(), QDateTime());
     return GoTo(position, before);
 }
 
 QString ListKeeper::GoTo(int position)
 {
-    return GoTo(position, m_history);
+    return GoTo(position, m_history, Now());
 }
 
-QString ListKeeper::GoTo(int position, ListHistory otherwise)
+QString ListKeeper::GoTo(int position, ListHistory otherwise, const QDateTime &since)
 {
     const QList<PriorityList> entries = m_history.States().at(position).entries;
     m_history.SetTarget(position);
     m_file.Save(&m_history);
     QString problem = Write(entries);
     if (problem.isNull()) {
-        m_history.GoTo(m_history.Target());
+        m_history.GoTo(m_history.Target(), since);
     } else {
         otherwise.SetTarget(-1);
         m_history = otherwise;
@@ -292,7 +315,7 @@ void ListKeeper::FinishInterrupted()
         return;
     }
     const bool hasArrived = m_reading == Readable && ListEntries::IsSame(m_entries, entries);
-    m_history.GoTo(hasArrived ? m_history.Target() : m_history.Position());
+    m_history.GoTo(hasArrived ? m_history.Target() : m_history.Position(), Now());
     m_file.Save(&m_history);
 }
 

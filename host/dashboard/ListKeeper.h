@@ -50,7 +50,7 @@ public:
     QString Redo();
 
     /**
-     * Goes to a state of the history; no state is lost by it.
+     * Makes the list of a state of the history the list again. That is a change like any other.
      *
      * @param place  where it stood when it was looked up; it is found again when others have gone meanwhile.
      */
@@ -58,6 +58,11 @@ public:
 
     /** Makes entries the list. */
     QString Replace(const QList<PriorityList> &entries);
+
+    /** While the page with the list is open, moves that follow each other on it are one change. Begin before
+     * it is shown, end once it is closed. */
+    void BeginOpening();
+    void EndOpening();
 
     /** What is wrong with the history; null when nothing is. */
     QString ProblemText() const;
@@ -85,9 +90,11 @@ private:
     void ReadList();
     void RecordIfNew();
     QDateTime TimeOfChange() const;
+    /** Makes state, whose time is now, the list. */
+    QString Change(ListState state);
     QString GoTo(int position);
-    /** @param otherwise  the history when the list can't be written. */
-    QString GoTo(int position, ListHistory otherwise);
+    /** @param otherwise  the history when the list can't be written. @param since  as ListHistory::GoTo. */
+    QString GoTo(int position, ListHistory otherwise, const QDateTime &since = QDateTime());
     /** Ends what a program that died on the way to another state has begun. Its file may be gone or cut
      * short: the plug-in rewrites it in place. */
     void FinishInterrupted();
@@ -101,6 +108,8 @@ private:
     ListHistory m_history;
     Reading m_reading;
     QList<PriorityList> m_entries;
+    /** Since when the page has been open; null when it isn't. */
+    QDateTime m_opened;
     bool m_isBusy;
     bool m_isHeldByOther;
 };

@@ -493,6 +493,7 @@ void MainWindow::OpenSettings()
         m_settings->activateWindow();
         return;
     }
+    m_keeper->BeginOpening();
     m_settings = new SettingsDialog(this);
     m_settings->AddPage(new GeneralPage(m_language, m_plugins));
     int firstPluginPage = 0;
@@ -520,6 +521,7 @@ void MainWindow::SettingsClosed()
         m_settings->deleteLater();
         m_settings = nullptr;
     }
+    m_keeper->EndOpening();
     Refresh();
 }
 

@@ -28,7 +28,7 @@ enum Column { TimeColumn, ChangeColumn, StatusColumn, ColumnCount };
 QString ChangeText(const QList<ListState> &states, int place)
 {
     return place == 0 ? DashboardText("IDS_RESTORE_OLDEST")
-                      : ListChangeText::Describe(states.at(place - 1).entries, states.at(place).entries);
+                      : ListChangeText::DescribeStep(states, place - 1, place);
 }
 
 QString StatusText(int place, int position)

@@ -223,7 +223,7 @@ const Tour::Step Tour::steps[] = {
      &Tour::CheckNothingSelected},
     {"settings-undo", "Undo brings it back; the open page follows", &Tour::ActSettingsUndo,
      &Tour::CheckUndone},
-    {"settings-redo", "Redo deletes it again", &Tour::ActSettingsRedo, &Tour::CheckRedone},
+    {"settings-redo", "Redo deletes it again", &Tour::ActSettingsRedo, &Tour::CheckNothingToRedo},
     {"add-dialog", "Add offers the remembered networks that are not in the list", &Tour::ActAddDialog,
      &Tour::CheckAddDialog},
     {"add-elsewhere", "both are ticked; meanwhile another plug-in puts the first of them on top",
@@ -256,13 +256,14 @@ const Tour::Step Tour::steps[] = {
     {"connect-ok", "one is chosen; to be connected puts it on top of the list", &Tour::ActConnectOk,
      &Tour::CheckConnected},
     {"undo", "the Undo button takes that back", &Tour::ActUndo, &Tour::CheckUndone},
-    {"redo", "the Redo button puts it on top again", &Tour::ActRedo, &Tour::CheckRedone},
+    {"redo", "the Redo button puts it on top again", &Tour::ActRedo, &Tour::CheckNothingToRedo},
     {"restore-dialog", "the Restore button lists the earlier lists, with what changed and when",
      &Tour::ActRestoreDialog, &Tour::CheckRestoreDialog},
-    {"restore-ok", "the one before is chosen by key and restored", &Tour::ActRestoreOk, &Tour::CheckUndone},
+    {"restore-ok", "the one before is chosen by key and restored; that is a change like any other",
+     &Tour::ActRestoreOk, &Tour::CheckNothingToRedo},
     {"export", "Export in the Edit menu writes the order to a file, without any keys", &Tour::ActExport,
      &Tour::CheckExported},
-    {"import-dialog", "the Redo button takes the restoring back; Import tells what that file would do",
+    {"import-dialog", "the Undo button takes the restoring back; Import tells what that file would do",
      &Tour::ActImportDialog, &Tour::CheckImportDialog},
     {"import-ok", "Import, by key: the order is that of the file", &Tour::ActImportOk, &Tour::CheckImported},
     {"window-arabic", "the Language menu turns the main window to Arabic", &Tour::ActWindowArabic,
@@ -780,7 +781,7 @@ void Tour::CheckUndone()
     ExpectUndoAndRedo(true, true);
 }
 
-void Tour::CheckRedone()
+void Tour::CheckNothingToRedo()
 {
     ExpectUndoAndRedo(true, false);
 }
@@ -1118,7 +1119,7 @@ void Tour::CheckExported()
 void Tour::ActImportDialog()
 {
     SwapWithListBefore();
-    Click("redoButton");
+    Click("undoButton");
     Choose("editMenu", "importAction");
     EnterFile("importFileDialog", OrderPath());
 }

@@ -100,7 +100,7 @@ private:
     void ActSettingsUndo();
     void ActSettingsRedo();
     void CheckUndone();
-    void CheckRedone();
+    void CheckNothingToRedo();
     void ActAddDialog();
     void CheckAddDialog();
     void ActAddElsewhere();

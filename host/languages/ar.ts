@@ -577,6 +577,10 @@
         <translation>إدخالات منقولة: %1</translation>
     </message>
     <message>
+        <source>IDS_CHANGE_WENT_BACK</source>
+        <translation>عودة إلى قائمة %1</translation>
+    </message>
+    <message>
         <source>IDS_CHANGE_UNNAMED</source>
         <translation>(بلا اسم)</translation>
     </message>
@@ -586,7 +590,7 @@
     </message>
     <message>
         <source>IDS_RESTORE_HINT</source>
-        <translation>اختر الحال التي تريد أن تعود إليها قائمتك. لن تُفقد أي حال أخرى بذلك.</translation>
+        <translation>اختر الحال التي تريد أن تعود إليها قائمتك. وتبقى القائمة الحالية هنا أيضًا.</translation>
     </message>
     <message>
         <source>IDS_RESTORE_TIME</source>

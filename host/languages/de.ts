@@ -578,6 +578,10 @@ Erwartet: %3</translation>
         <translation>%1 Einträge verschoben</translation>
     </message>
     <message>
+        <source>IDS_CHANGE_WENT_BACK</source>
+        <translation>Zurück zur Liste vom %1</translation>
+    </message>
+    <message>
         <source>IDS_CHANGE_UNNAMED</source>
         <translation>(ohne Namen)</translation>
     </message>
@@ -587,7 +591,7 @@ Erwartet: %3</translation>
     </message>
     <message>
         <source>IDS_RESTORE_HINT</source>
-        <translation>Wählen Sie, wie Ihre Liste wieder sein soll. Kein anderer Stand geht dabei verloren.</translation>
+        <translation>Wählen Sie, wie Ihre Liste wieder sein soll. Auch die jetzige Liste bleibt hier erhalten.</translation>
     </message>
     <message>
         <source>IDS_RESTORE_TIME</source>

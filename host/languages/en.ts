@@ -618,6 +618,11 @@ Expected: %3</translation>
         <translation>Moved %1 entries</translation>
     </message>
     <message>
+        <source>IDS_CHANGE_WENT_BACK</source>
+        <extracomment>%1: date and time</extracomment>
+        <translation>Went back to the list of %1</translation>
+    </message>
+    <message>
         <source>IDS_CHANGE_UNNAMED</source>
         <extracomment>In place of a network's name that is empty</extracomment>
         <translation>(no name)</translation>
@@ -628,7 +633,7 @@ Expected: %3</translation>
     </message>
     <message>
         <source>IDS_RESTORE_HINT</source>
-        <translation>Choose how your list should be again. No other state is lost by that.</translation>
+        <translation>Choose how your list should be again. The list as it is now stays here as well.</translation>
     </message>
     <message>
         <source>IDS_RESTORE_TIME</source>

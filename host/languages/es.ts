@@ -578,6 +578,10 @@ Esperado: %3</translation>
         <translation>%1 entradas movidas</translation>
     </message>
     <message>
+        <source>IDS_CHANGE_WENT_BACK</source>
+        <translation>Vuelta a la lista del %1</translation>
+    </message>
+    <message>
         <source>IDS_CHANGE_UNNAMED</source>
         <translation>(sin nombre)</translation>
     </message>
@@ -587,7 +591,7 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_RESTORE_HINT</source>
-        <translation>Elija cómo debe volver a ser su lista. No se pierde ningún otro estado.</translation>
+        <translation>Elija cómo debe volver a ser su lista. La lista actual también se conserva aquí.</translation>
     </message>
     <message>
         <source>IDS_RESTORE_TIME</source>

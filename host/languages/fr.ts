@@ -578,6 +578,10 @@ Attendu&#xa0;: %3</translation>
         <translation>%1 entrées déplacées</translation>
     </message>
     <message>
+        <source>IDS_CHANGE_WENT_BACK</source>
+        <translation>Retour à la liste du %1</translation>
+    </message>
+    <message>
         <source>IDS_CHANGE_UNNAMED</source>
         <translation>(sans nom)</translation>
     </message>
@@ -587,7 +591,7 @@ Attendu&#xa0;: %3</translation>
     </message>
     <message>
         <source>IDS_RESTORE_HINT</source>
-        <translation>Choisissez comment votre liste doit redevenir. Aucun autre état n’est perdu.</translation>
+        <translation>Choisissez comment votre liste doit redevenir. La liste actuelle reste ici aussi.</translation>
     </message>
     <message>
         <source>IDS_RESTORE_TIME</source>

@@ -577,6 +577,10 @@
         <translation>רשומות שהועברו: %1</translation>
     </message>
     <message>
+        <source>IDS_CHANGE_WENT_BACK</source>
+        <translation>חזרה לרשימה מיום %1</translation>
+    </message>
+    <message>
         <source>IDS_CHANGE_UNNAMED</source>
         <translation>(ללא שם)</translation>
     </message>
@@ -586,7 +590,7 @@
     </message>
     <message>
         <source>IDS_RESTORE_HINT</source>
-        <translation>בחר איך הרשימה תהיה שוב. שום מצב אחר לא יאבד בכך.</translation>
+        <translation>בחר איך הרשימה תהיה שוב. גם הרשימה הנוכחית נשארת כאן.</translation>
     </message>
     <message>
         <source>IDS_RESTORE_TIME</source>

@@ -578,6 +578,10 @@
         <translation>%1 個の項目を移動</translation>
     </message>
     <message>
+        <source>IDS_CHANGE_WENT_BACK</source>
+        <translation>%1 のリストへ復元</translation>
+    </message>
+    <message>
         <source>IDS_CHANGE_UNNAMED</source>
         <translation>(名前なし)</translation>
     </message>
@@ -587,7 +591,7 @@
     </message>
     <message>
         <source>IDS_RESTORE_HINT</source>
-        <translation>リストをどの状態に戻すかを選択してください。ほかの状態は失われません。</translation>
+        <translation>リストをどの状態に戻すかを選択してください。現在のリストもここに残ります。</translation>
     </message>
     <message>
         <source>IDS_RESTORE_TIME</source>

@@ -578,6 +578,10 @@ Esperado: %3</translation>
         <translation>%1 entradas movidas</translation>
     </message>
     <message>
+        <source>IDS_CHANGE_WENT_BACK</source>
+        <translation>Volta à lista de %1</translation>
+    </message>
+    <message>
         <source>IDS_CHANGE_UNNAMED</source>
         <translation>(sem nome)</translation>
     </message>
@@ -587,7 +591,7 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_RESTORE_HINT</source>
-        <translation>Escolha como a sua lista deve voltar a ser. Nenhum outro estado se perde.</translation>
+        <translation>Escolha como a sua lista deve voltar a ser. A lista atual também continua aqui.</translation>
     </message>
     <message>
         <source>IDS_RESTORE_TIME</source>

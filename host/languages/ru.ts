@@ -578,6 +578,10 @@
         <translation>Перемещено записей: %1</translation>
     </message>
     <message>
+        <source>IDS_CHANGE_WENT_BACK</source>
+        <translation>Возврат к списку от %1</translation>
+    </message>
+    <message>
         <source>IDS_CHANGE_UNNAMED</source>
         <translation>(без имени)</translation>
     </message>
@@ -587,7 +591,7 @@
     </message>
     <message>
         <source>IDS_RESTORE_HINT</source>
-        <translation>Выберите, каким снова должен стать список. Остальные состояния не пропадут.</translation>
+        <translation>Выберите, каким снова должен стать список. Нынешний список тоже останется здесь.</translation>
     </message>
     <message>
         <source>IDS_RESTORE_TIME</source>

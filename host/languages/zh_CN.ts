@@ -578,6 +578,10 @@
         <translation>已移动 %1 个条目</translation>
     </message>
     <message>
+        <source>IDS_CHANGE_WENT_BACK</source>
+        <translation>已恢复到 %1 的列表</translation>
+    </message>
+    <message>
         <source>IDS_CHANGE_UNNAMED</source>
         <translation>（无名称）</translation>
     </message>
@@ -587,7 +591,7 @@
     </message>
     <message>
         <source>IDS_RESTORE_HINT</source>
-        <translation>选择要让列表恢复成什么样。其他状态不会丢失。</translation>
+        <translation>选择要让列表恢复成什么样。当前的列表也会保留在这里。</translation>
     </message>
     <message>
         <source>IDS_RESTORE_TIME</source>

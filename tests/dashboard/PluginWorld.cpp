@@ -8,6 +8,9 @@
 #include <PluginObjects.h>
 
 #include <QDir>
+#include <QFile>
+
+#include <sys/time.h>
 
 bool PluginWorld::Load()
 {
@@ -41,6 +44,13 @@ void PluginWorld::Write(const QString &name, const QByteArray &bytes) const
 QByteArray PluginWorld::Read(const QString &name) const
 {
     return m_directory->Read("priority-dashboard/" + name);
+}
+
+bool PluginWorld::SetTime(const QString &name, const QDateTime &time) const
+{
+    const time_t seconds = static_cast<time_t>(time.toMSecsSinceEpoch() / 1000);
+    const struct timeval times[2] = {{seconds, 0}, {seconds, 0}};
+    return utimes(QFile::encodeName(UserData() + name).constData(), times) == 0;
 }
 
 QString PluginWorld::Stored()

@@ -4,6 +4,7 @@
 #include <PluginHost.h>
 #include <TemporaryDirectory.h>
 
+#include <QDateTime>
 #include <QScopedPointer>
 #include <QString>
 
@@ -27,6 +28,9 @@ public:
     /** A file of the user data directory; its bytes. */
     void Write(const QString &name, const QByteArray &bytes) const;
     QByteArray Read(const QString &name) const;
+
+    /** Whether the file could be made to look as if it was written then. */
+    bool SetTime(const QString &name, const QDateTime &time) const;
 
     /** The list as the plug-in has it, and new entries on top of it, as tests write lists down. */
     static QString Stored();

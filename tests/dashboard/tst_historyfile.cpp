@@ -33,14 +33,14 @@ ListHistory Example()
     history.Record(State(0, QString::fromUtf8("Café")));
     history.Record(State(5, QString::fromUtf8("Café, Office")));
     history.Record(State(6, QString::fromUtf8("Office, Café")));
-    history.GoTo(1);
+    history.GoTo(1, QDateTime(QDate(2026, 3, 1), QTime(9, 7), Qt::UTC));
     return history;
 }
 
 QByteArray ExampleDocument()
 {
     return QByteArray("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-                      "<listhistory version=\"1\" current=\"1\">\n"
+                      "<listhistory version=\"2\" current=\"1\" since=\"2026-03-01T09:07:00Z\">\n"
                       "    <entries>\n"
                       "        <item name=\"Caf\xc3\xa9\" type=\"1\"/>\n"
                       "        <item name=\"Office\" type=\"1\"/>\n"
@@ -55,7 +55,8 @@ QByteArray ExampleDocument()
 
 bool IsSame(const ListHistory &left, const ListHistory &right)
 {
-    return left.Position() == right.Position() && left.States() == right.States();
+    return left.Position() == right.Position() && left.States() == right.States() &&
+           left.CameBack() == right.CameBack();
 }
 
 int Permissions(const QString &path)
@@ -76,6 +77,8 @@ private slots:
 
     void DocumentIsAsDocumented();
     void WhatIsSavedIsLoaded();
+    void HistoryOfTheFormerVersionIsRead();
+    void EveryMarkComesBack();
     void AnyEntryComesBack();
     void TimesOfOtherWritersAreWholeSeconds();
     void OnlyTheOwnerMayReadIt();
@@ -129,6 +132,42 @@ void HistoryFileTest::WhatIsSavedIsLoaded()
     QVERIFY(other.Load(&loaded));
     QVERIFY(IsSame(loaded, Example()));
     QCOMPARE(m_directory->Read("history/states.xml"), ExampleDocument());
+}
+
+void HistoryFileTest::HistoryOfTheFormerVersionIsRead()
+{
+    WriteFile(ExampleDocument()
+                  .replace("version=\"2\"", "version=\"1\"")
+                  .replace(" since=\"2026-03-01T09:07:00Z\"", ""));
+    HistoryFile file(UserData());
+    ListHistory history;
+    QVERIFY2(file.Load(&history), qPrintable(file.Fault().Text()));
+    QCOMPARE(history.States(), Example().States());
+    QCOMPARE(history.Position(), 1);
+    QCOMPARE(history.RedoPlace(), 2);
+    QVERIFY(file.Save(&history));
+    QVERIFY(m_directory->Read("history/states.xml").contains("<listhistory version=\"2\" current=\"1\">"));
+}
+
+void HistoryFileTest::EveryMarkComesBack()
+{
+    ListHistory history = Example();
+    history.Record(State(8, "Office"));
+    history.GoTo(history.UndoPlace(), State(9, QString()).time);
+    history.SetTarget(4);
+    const QByteArray document = HistoryFile::Document(history);
+    QVERIFY2(document.contains("<listhistory version=\"2\" current=\"3\" since=\"2026-03-01T09:09:00Z\" "
+                               "target=\"4\">\n"),
+             document.constData());
+    QVERIFY2(document.contains("<state time=\"2026-03-01T09:06:00Z\" passed=\"true\" order=\"1 0\"/>\n"),
+             document.constData());
+    QVERIFY2(document.contains("<state time=\"2026-03-01T09:07:00Z\" back=\"2026-03-01T09:05:00Z\" "
+                               "order=\"0 1\"/>\n"),
+             document.constData());
+    ListHistory parsed;
+    QCOMPARE(HistoryFile::Parse(document, &parsed).kind, FileFault::None);
+    QVERIFY(IsSame(parsed, history));
+    QCOMPARE(parsed.Target(), 4);
 }
 
 void HistoryFileTest::AnyEntryComesBack()
@@ -193,12 +232,30 @@ void HistoryFileTest::FaultIsNamedWithItsLineAndLeftAlone_data()
     QTest::newRow("nothing there") << ExampleDocument() << QByteArray() << "Line 1: ";
     QTest::newRow("other root") << QByteArray("listhistory") << QByteArray("history")
                                 << QString::fromUtf8("Line 2: the element “history”");
-    QTest::newRow("later version") << QByteArray("version=\"1\"") << QByteArray("version=\"2\"")
+    QTest::newRow("later version") << QByteArray("version=\"2\"") << QByteArray("version=\"3\"")
                                    << QString::fromUtf8("Line 2: the attribute “version”");
     QTest::newRow("no state in force") << QByteArray("current=\"1\"") << QByteArray("current=\"3\"")
                                        << QString::fromUtf8("Line 2: the attribute “current”");
     QTest::newRow("state in force below 0") << QByteArray("current=\"1\"") << QByteArray("current=\"-1\"")
                                             << QString::fromUtf8("Line 2: the attribute “current”");
+    QTest::newRow("state in force passed by")
+        << QByteArray("09:05:00Z\"") << QByteArray("09:05:00Z\" passed=\"true\"")
+        << QString::fromUtf8("Line 2: the attribute “current”");
+    QTest::newRow("target passed by")
+        << QByteArray("current=\"1\" since=\"2026-03-01T09:07:00Z\">\n    <entries>\n        <item "
+                      "name=\"Caf\xc3\xa9\" type=\"1\"/>\n        <item name=\"Office\" type=\"1\"/>\n    "
+                      "</entries>\n    <states>\n        <state ")
+        << QByteArray("current=\"1\" target=\"0\"><entries><item name=\"a\" type=\"1\"/>"
+                      "<item name=\"b\" type=\"1\"/></entries><states><state passed=\"true\" ")
+        << QString::fromUtf8("Line 2: the attribute “target”");
+    QTest::newRow("passed by in another way")
+        << QByteArray("09:06:00Z\"") << QByteArray("09:06:00Z\" passed=\"maybe\"")
+        << QString::fromUtf8("Line 10: the attribute “passed”");
+    QTest::newRow("gone back to no time")
+        << QByteArray("09:06:00Z\"") << QByteArray("09:06:00Z\" back=\"9:00\"")
+        << QString::fromUtf8("Line 10: the attribute “back”");
+    QTest::newRow("since no time") << QByteArray("since=\"2026") << QByteArray("since=\"today")
+                                   << QString::fromUtf8("Line 2: the attribute “since”");
     QTest::newRow("place behind the entries") << QByteArray("\"0 1\"") << QByteArray("\"0 2\"")
                                               << QString::fromUtf8("Line 9: the attribute “order”");
     QTest::newRow("place that is none") << QByteArray("\"0 1\"") << QByteArray("\"0 x\"")
@@ -217,11 +274,11 @@ void HistoryFileTest::FaultIsNamedWithItsLineAndLeftAlone_data()
     QTest::newRow("unknown element") << QByteArray("<states>") << QByteArray("<states><note/>")
                                      << QString::fromUtf8("Line 7: the element “note”");
     QByteArray states;
-    for (int i = 0; i < 48; ++i) {
+    for (int i = 0; i < 62; ++i) {
         states += "\n<state time=\"2026-03-01T09:05:00Z\" order=\"\"/>";
     }
     QTest::newRow("too many states") << QByteArray("<states>") << "<states>" + states
-                                     << QString::fromUtf8("Line 58: there are too many elements “state”");
+                                     << QString::fromUtf8("Line 72: there are too many elements “state”");
 }
 
 void HistoryFileTest::FaultIsNamedWithItsLineAndLeftAlone()
@@ -342,7 +399,7 @@ void HistoryFileTest::ChangesByOthersAreSeen()
     QVERIFY(!mine.HasChanged());
     HistoryFile other(UserData());
     ListHistory others = Example();
-    others.GoTo(0);
+    others.GoTo(0, QDateTime());
     QVERIFY(other.Save(&others));
     QVERIFY(mine.HasChanged());
     QVERIFY(mine.Load(&history));

@@ -1,6 +1,7 @@
 #include "Eventually.h"
 #include "Lists.h"
 #include "PluginWorld.h"
+#include "ShiftedClock.h"
 
 #include <DashboardLanguage.h>
 #include <HostControl.h>
@@ -80,6 +81,8 @@ private slots:
     void ChangeOfTheFileCanBeUndone();
     void ChangeOnTheOpenPageIsUndoneThere_data();
     void ChangeOnTheOpenPageIsUndoneThere();
+    void FiftyNinePressesAreOneChange();
+    void PressesOfOneOpeningAreOneChange();
     void OkAfterAnUndoKeepsTheRestoredList();
     void RestoreButtonOpensTheDialog();
     void ReasonIsToldWithoutThePlugin();
@@ -160,6 +163,7 @@ void ListActionsTest::init()
 
 void ListActionsTest::cleanup()
 {
+    ShiftedClock::Shift(0);
     m_window.reset();
 }
 
@@ -287,6 +291,69 @@ void ListActionsTest::ChangeOnTheOpenPageIsUndoneThere()
     }
     QCOMPARE(PluginWorld::Stored(), QString("A, C, B"));
     QCOMPARE(table->cellWidget(1, 0)->accessibleName(), QString("C"));
+}
+
+void ListActionsTest::FiftyNinePressesAreOneChange()
+{
+    QStringList names;
+    for (int i = 1; i <= 60; ++i) {
+        names.append(QString("Network %1").arg(i));
+    }
+    m_world.Write("Priority.xml", OrderFile::Document(Listed(names.join(", "))));
+    m_window->Refresh();
+    Click("settingsButton");
+    QDialog *settings = m_window->findChild<QDialog *>("settingsDialog");
+    QTableWidget *table = settings->findChild<QTableWidget *>("priorityTable");
+    table->scrollToBottom();
+    QTest::mouseClick(table->viewport(), Qt::LeftButton, Qt::NoModifier,
+                      table->visualRect(table->model()->index(59, 0)).center());
+    for (int i = 0; i < 59; ++i) {
+        QTest::mouseClick(settings->findChild<QPushButton *>("upButton"), Qt::LeftButton);
+        // Each step is seen.
+        m_window->Refresh();
+    }
+    QCOMPARE(PluginWorld::Stored().section(", ", 0, 1), QString("Network 60, Network 1"));
+    QCOMPARE(Plain(Button("settingsUndoButton")->accessibleDescription()),
+             QString("Undo: Moved Network 60 to the top"));
+    Click("settingsUndoButton");
+    QCOMPARE(PluginWorld::Stored(), names.join(", "));
+    Click("settingsUndoButton");
+    QCOMPARE(PluginWorld::Stored(), QString());
+    QVERIFY(!Button("settingsUndoButton")->isEnabled());
+}
+
+void ListActionsTest::PressesOfOneOpeningAreOneChange()
+{
+    QList<PriorityList> entries = Listed("A, B, C, D, E, F");
+    PluginObjects::Priority()->AddPriorityList(entries);
+    for (int opening = 0; opening < 2; ++opening) {
+        ShiftedClock::ShiftToNoon(60 * (1 + 3 * opening));
+        Click("settingsButton");
+        const QTableWidget *table = m_window->findChild<QTableWidget *>("priorityTable");
+        const int row = table->rowCount() - 1 - 2 * opening;
+        QTest::mouseClick(table->viewport(), Qt::LeftButton, Qt::NoModifier,
+                          table->visualRect(table->model()->index(row, 0)).center());
+        for (int press = 0; press < 2; ++press) {
+            ShiftedClock::ShiftToNoon(60 * (2 + 3 * opening + press));
+            Click("upButton");
+            QVERIFY(m_world.SetTime("Priority.xml", QDateTime::currentDateTime()));
+            m_window->Refresh();
+        }
+        Click("settingsCancelButton");
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    // The same entry, but in another opening, and with the page closed.
+    ShiftedClock::ShiftToNoon(3600);
+    PluginWorld::AddTop("F");
+    QVERIFY(m_world.SetTime("Priority.xml", QDateTime::currentDateTime()));
+    m_window->Refresh();
+    QCOMPARE(PluginWorld::Stored(), QString("F, A, B, C, D, E"));
+    Click("undoButton");
+    QCOMPARE(PluginWorld::Stored(), QString("A, F, B, C, D, E"));
+    Click("undoButton");
+    QCOMPARE(PluginWorld::Stored(), QString("A, B, C, F, D, E"));
+    Click("undoButton");
+    QCOMPARE(PluginWorld::Stored(), QString("A, B, C, D, E, F"));
 }
 
 void ListActionsTest::OkAfterAnUndoKeepsTheRestoredList()

@@ -64,6 +64,8 @@ private slots:
     void ChangesAreFound();
     void FewestEntriesMove();
     void EveryEntryIsAccountedFor();
+    void OnlyMovedNamesWhatCanHaveBeenMovedAlone_data();
+    void OnlyMovedNamesWhatCanHaveBeenMovedAlone();
 };
 
 void ListDifferenceTest::ChangesAreFound_data()
@@ -195,6 +197,51 @@ void ListDifferenceTest::EveryEntryIsAccountedFor()
         }
         QCOMPARE(AsText(rest), AsText(after));
     }
+}
+
+void ListDifferenceTest::OnlyMovedNamesWhatCanHaveBeenMovedAlone_data()
+{
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("after");
+    QTest::addColumn<QString>("moved");
+    QTest::newRow("up") << "A, B, C, D"
+                        << "C, A, B, D"
+                        << "C";
+    QTest::newRow("down") << "A, B, C, D"
+                          << "A, C, D, B"
+                          << "B";
+    QTest::newRow("neighbours") << "A, B, C"
+                                << "A, C, B"
+                                << "C, B";
+    QTest::newRow("two") << "A, B, C, D"
+                         << "B, A, D, C"
+                         << "";
+    QTest::newRow("turned round") << "A, B, C"
+                                  << "C, B, A"
+                                  << "";
+    QTest::newRow("nothing") << "A, B"
+                             << "A, B"
+                             << "";
+    QTest::newRow("one more") << "A, B"
+                              << "B, A, C"
+                              << "";
+    QTest::newRow("another in place") << "A, B, C"
+                                      << "B, A, D"
+                                      << "";
+    QTest::newRow("of a pair of the same name") << "x, a, x, b"
+                                                << "x, a, b, x"
+                                                << "b, x";
+    QTest::newRow("none at all") << ""
+                                 << ""
+                                 << "";
+}
+
+void ListDifferenceTest::OnlyMovedNamesWhatCanHaveBeenMovedAlone()
+{
+    QFETCH(QString, before);
+    QFETCH(QString, after);
+    QFETCH(QString, moved);
+    QCOMPARE(AsText(ListDifference::OnlyMoved(Listed(before), Listed(after))), moved);
 }
 
 QTEST_GUILESS_MAIN(ListDifferenceTest)

@@ -1,5 +1,6 @@
 #include "Lists.h"
 #include "PluginWorld.h"
+#include "ShiftedClock.h"
 
 #include <HostControl.h>
 #include <IPriorityPlugin.h>
@@ -17,7 +18,6 @@
 #include <csignal>
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/time.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -41,12 +41,19 @@ private slots:
     void UndoAndRedoWalkThroughTheStates();
     void UndoRestoresTheVeryBytesThePluginWrote();
     void UndoOfAForeignChangeRestoresTheEntries();
-    void NewChangeClearsRedo();
+    void ChangeAfterUndoCutsNothingOff();
     void ChangeNotYetSeenIsTheOneUndone();
     void ChangeMadeWhileNotRunningIsFoundWithItsTime();
     void TimeInTheFutureIsNotBelieved();
     void HistoryOutlivesTheProgram();
-    void RestoreKeepsEveryState();
+    void RestoreIsAChangeThatCanBeUndone();
+    void RestoreOfTheListAsItIsAddsNothing();
+    void MovesInARowAreOneChange();
+    void MovesOfOneOpeningAreOneChange_data();
+    void MovesOfOneOpeningAreOneChange();
+    void ImportIsNotJoinedWithMoves();
+    void ClockThatWasWrongLosesNothing_data();
+    void ClockThatWasWrongLosesNothing();
     void RestoreOfAStateNoLongerKeptIsTold();
     void ReplaceIsAChangeThatCanBeUndone();
     void EverybodyIsToldOfAnUndo();
@@ -74,12 +81,20 @@ private:
     {
         m_world.Write("Priority.xml", OrderFile::Document(Listed(entries)));
     }
+    bool SetTimeOfList(const QDateTime &time) const { return m_world.SetTime("Priority.xml", time); }
+    /** Writes the list so many seconds after noon. */
+    void WriteListAfterNoon(const QString &entries, long seconds) const
+    {
+        ShiftedClock::ShiftToNoon(seconds);
+        WriteList(entries);
+        QVERIFY(SetTimeOfList(QDateTime::currentDateTime()));
+    }
     QByteArray ListBytes() const { return m_world.Read("Priority.xml"); }
     QString UserData() const { return m_world.UserData(); }
     QString ListPath() const { return UserData() + "Priority.xml"; }
     static QString Stored() { return PluginWorld::Stored(); }
     static void AddTop(const QString &entry) { PluginWorld::AddTop(entry); }
-    /** All states, newest last, with the one in force in brackets. */
+    /** All states, newest last, with the one in force in brackets and those passed by in round ones. */
     QString History() const { return History(*m_keeper); }
     static QString History(const ListKeeper &keeper);
     void StartAnew() { m_keeper.reset(new ListKeeper(UserData(), nullptr)); }
@@ -95,7 +110,9 @@ QString ListKeeperTest::History(const ListKeeper &keeper)
     const QList<ListState> states = keeper.History().States();
     for (int i = 0; i < states.size(); ++i) {
         const QString text = AsText(states.at(i).entries);
-        texts.append(i == keeper.History().Position() ? '[' + text + ']' : text);
+        texts.append(i == keeper.History().Position() ? '[' + text + ']'
+                     : states.at(i).isPassedBy        ? '(' + text + ')'
+                                                      : text);
     }
     return texts.join(" | ");
 }
@@ -118,6 +135,7 @@ void ListKeeperTest::init()
 
 void ListKeeperTest::cleanup()
 {
+    ShiftedClock::Shift(0);
     m_keeper.reset();
 }
 
@@ -204,7 +222,7 @@ void ListKeeperTest::UndoOfAForeignChangeRestoresTheEntries()
     QCOMPARE(ListBytes(), OrderFile::Document(Listed("A, B/2")));
 }
 
-void ListKeeperTest::NewChangeClearsRedo()
+void ListKeeperTest::ChangeAfterUndoCutsNothingOff()
 {
     AddTop("A");
     m_keeper->Follow();
@@ -213,8 +231,16 @@ void ListKeeperTest::NewChangeClearsRedo()
     QCOMPARE(m_keeper->Undo(), QString());
     WriteList("C");
     m_keeper->Follow();
-    QCOMPARE(History(), QString(" | A | [C]"));
+    QCOMPARE(History(), QString(" | (A) | (B, A) | A | [C]"));
     QVERIFY(!m_keeper->RedoObstacle().isNull());
+    StartAnew();
+    QCOMPARE(m_keeper->Undo(), QString());
+    QCOMPARE(Plain(m_keeper->UndoText()), QString("Added A"));
+    QCOMPARE(m_keeper->Undo(), QString());
+    QCOMPARE(History(), QString("[] | (A) | (B, A) | A | C"));
+    // What was undone first can still be had.
+    QCOMPARE(m_keeper->Restore(2, m_keeper->History().States().at(2)), QString());
+    QCOMPARE(Stored(), QString("B, A"));
 }
 
 void ListKeeperTest::ChangeNotYetSeenIsTheOneUndone()
@@ -232,17 +258,12 @@ void ListKeeperTest::ChangeMadeWhileNotRunningIsFoundWithItsTime()
     WriteList("A");
     const QDateTime longAgo(QDate(2020, 1, 2), QTime(3, 4, 5), Qt::UTC);
     const QDateTime later = longAgo.addDays(1);
-    const auto setTime = [this](const QDateTime &time) {
-        const time_t seconds = static_cast<time_t>(time.toMSecsSinceEpoch() / 1000);
-        const struct timeval times[2] = {{seconds, 0}, {seconds, 0}};
-        return utimes(QFile::encodeName(ListPath()).constData(), times) == 0;
-    };
-    QVERIFY(setTime(longAgo));
+    QVERIFY(SetTimeOfList(longAgo));
     QVERIFY(QDir(UserData() + "history").removeRecursively());
     StartAnew();
     m_keeper.reset();
     WriteList("A, B");
-    QVERIFY(setTime(later));
+    QVERIFY(SetTimeOfList(later));
     StartAnew();
     QCOMPARE(History(), QString("A | [A, B]"));
     QCOMPARE(m_keeper->History().States().at(0).time, longAgo);
@@ -250,7 +271,7 @@ void ListKeeperTest::ChangeMadeWhileNotRunningIsFoundWithItsTime()
     // Older than the state before it: the file was brought back from somewhere, and that was now.
     m_keeper.reset();
     WriteList("A, B, C");
-    QVERIFY(setTime(longAgo));
+    QVERIFY(SetTimeOfList(longAgo));
     StartAnew();
     QVERIFY(m_keeper->History().States().at(2).time > later);
 }
@@ -258,9 +279,7 @@ void ListKeeperTest::ChangeMadeWhileNotRunningIsFoundWithItsTime()
 void ListKeeperTest::TimeInTheFutureIsNotBelieved()
 {
     WriteList("A");
-    const time_t future = time(nullptr) + 100000;
-    const struct timeval times[2] = {{future, 0}, {future, 0}};
-    QCOMPARE(utimes(QFile::encodeName(ListPath()).constData(), times), 0);
+    QVERIFY(SetTimeOfList(QDateTime::currentDateTime().addSecs(100000)));
     m_keeper->Follow();
     QVERIFY(m_keeper->History().States().last().time <= QDateTime::currentDateTime());
 }
@@ -278,7 +297,7 @@ void ListKeeperTest::HistoryOutlivesTheProgram()
     QCOMPARE(Stored(), QString("B, A"));
 }
 
-void ListKeeperTest::RestoreKeepsEveryState()
+void ListKeeperTest::RestoreIsAChangeThatCanBeUndone()
 {
     const QStringList tops = QStringList() << "A"
                                            << "B"
@@ -287,11 +306,135 @@ void ListKeeperTest::RestoreKeepsEveryState()
         AddTop(tops.at(i));
         m_keeper->Follow();
     }
-    QCOMPARE(m_keeper->Restore(1, m_keeper->History().States().at(1)), QString());
+    const ListState earlier = m_keeper->History().States().at(1);
+    ShiftedClock::Shift(3600);
+    QCOMPARE(m_keeper->Restore(1, earlier), QString());
     QCOMPARE(Stored(), QString("A"));
-    QCOMPARE(History(), QString(" | [A] | B, A | C, B, A"));
+    QCOMPARE(History(), QString(" | A | B, A | C, B, A | [A]"));
+    const ListState restored = m_keeper->History().States().last();
+    QCOMPARE(restored.backTo, earlier.time);
+    QVERIFY(restored.time >= earlier.time.addSecs(3600));
+    QVERIFY2(m_keeper->UndoText().startsWith("Went back to the list of "), qPrintable(m_keeper->UndoText()));
+    QVERIFY2(m_keeper->LastChangeText().startsWith("Last change: Went back to the list of "),
+             qPrintable(m_keeper->LastChangeText()));
+    QVERIFY(!m_keeper->RedoObstacle().isNull());
     QCOMPARE(m_keeper->Restore(3, m_keeper->History().States().at(3)), QString());
+    QCOMPARE(History(), QString(" | A | B, A | C, B, A | A | [C, B, A]"));
+    QCOMPARE(m_keeper->Undo(), QString());
+    QCOMPARE(Stored(), QString("A"));
+    QVERIFY2(m_keeper->RedoText().startsWith("Went back to the list of "), qPrintable(m_keeper->RedoText()));
+    QCOMPARE(m_keeper->Undo(), QString());
     QCOMPARE(Stored(), QString("C, B, A"));
+}
+
+void ListKeeperTest::RestoreOfTheListAsItIsAddsNothing()
+{
+    const QStringList lists = QStringList() << "A"
+                                            << "B"
+                                            << "A";
+    for (int i = 0; i < lists.size(); ++i) {
+        WriteList(lists.at(i));
+        m_keeper->Follow();
+    }
+    QCOMPARE(m_keeper->Restore(1, m_keeper->History().States().at(1)), QString());
+    QCOMPARE(History(), QString(" | A | B | [A]"));
+    QCOMPARE(m_keeper->UndoText(), QString::fromUtf8("Added A · Deleted B"));
+}
+
+void ListKeeperTest::MovesInARowAreOneChange()
+{
+    WriteList("A, B, C, D");
+    m_keeper->Follow();
+    ListKeeper other(UserData(), nullptr);
+    PriorityList moved = Listed("C").first();
+    // By whomever, seen by whomever.
+    WriteList("A, C, B, D");
+    other.Follow();
+    PluginObjects::Priority()->AddTopPriority(moved);
+    m_keeper->Follow();
+    QCOMPARE(History(), QString(" | A, B, C, D | [C, A, B, D]"));
+    QCOMPARE(Plain(m_keeper->UndoText()), QString("Moved C to the top"));
+    QCOMPARE(m_keeper->Undo(), QString());
+    QCOMPARE(Stored(), QString("A, B, C, D"));
+    QCOMPARE(m_keeper->Redo(), QString());
+    QCOMPARE(Stored(), QString("C, A, B, D"));
+}
+
+void ListKeeperTest::MovesOfOneOpeningAreOneChange_data()
+{
+    QTest::addColumn<QString>("opening");
+    QTest::addColumn<QString>("history");
+    const QString apart = " | A, B, C, D | A, B, D, C | [A, D, B, C]";
+    QTest::newRow("one") << "one"
+                         << " | A, B, C, D | [A, D, B, C]";
+    QTest::newRow("closed after the second") << "closed after"
+                                             << " | A, B, C, D | [A, D, B, C]";
+    QTest::newRow("closed before the second") << "closed" << apart;
+    QTest::newRow("opened before the second") << "opened" << apart;
+    QTest::newRow("none") << "none" << apart;
+}
+
+void ListKeeperTest::MovesOfOneOpeningAreOneChange()
+{
+    QFETCH(QString, opening);
+    WriteList("A, B, C, D");
+    m_keeper->Follow();
+    ShiftedClock::ShiftToNoon(20);
+    if (opening == "one" || opening.startsWith("closed")) {
+        m_keeper->BeginOpening();
+    }
+    WriteListAfterNoon("A, B, D, C", 30);
+    if (opening == "closed") {
+        m_keeper->EndOpening();
+    }
+    m_keeper->Follow();
+    ShiftedClock::ShiftToNoon(40);
+    if (opening == "opened") {
+        m_keeper->BeginOpening();
+    }
+    WriteListAfterNoon("A, D, B, C", 50);
+    if (opening == "closed after") {
+        m_keeper->EndOpening();
+    }
+    m_keeper->Follow();
+    QTEST(History(), "history");
+}
+
+void ListKeeperTest::ImportIsNotJoinedWithMoves()
+{
+    WriteList("A, B, C");
+    m_keeper->Follow();
+    WriteList("A, C, B");
+    m_keeper->Follow();
+    QCOMPARE(m_keeper->Replace(Listed("C, A, B")), QString());
+    QCOMPARE(History(), QString(" | A, B, C | A, C, B | [C, A, B]"));
+}
+
+void ListKeeperTest::ClockThatWasWrongLosesNothing_data()
+{
+    QTest::addColumn<int>("days");
+    QTest::newRow("ahead") << 4000;
+    QTest::newRow("behind") << -4000;
+}
+
+void ListKeeperTest::ClockThatWasWrongLosesNothing()
+{
+    QFETCH(int, days);
+    AddTop("A");
+    m_keeper->Follow();
+    const long secondsOfADay = 24 * 60 * 60;
+    ShiftedClock::Shift(days * secondsOfADay);
+    AddTop("B");
+    m_keeper->Follow();
+    QCOMPARE(m_keeper->Undo(), QString());
+    AddTop("C");
+    m_keeper->Follow();
+    ShiftedClock::Shift(0);
+    StartAnew();
+    AddTop("D");
+    m_keeper->Follow();
+    QCOMPARE(History(), QString(" | (A) | (B, A) | A | C, A | [D, C, A]"));
+    QVERIFY(m_keeper->History().States().last().time <= QDateTime::currentDateTime());
 }
 
 void ListKeeperTest::RestoreOfAStateNoLongerKeptIsTold()
@@ -580,7 +723,8 @@ void ListKeeperTest::InterruptedUndoIsFinished_data()
     QTest::newRow("file gone") << QByteArray() << " | A | [A, B] | A, B, C | A, B, C, D";
     QTest::newRow("file cut short") << undone.left(undone.size() / 2)
                                     << " | A | [A, B] | A, B, C | A, B, C, D";
-    QTest::newRow("changed since") << OrderFile::Document(Listed("X")) << " | A | A, B | A, B, C | [X]";
+    QTest::newRow("changed since") << OrderFile::Document(Listed("X"))
+                                   << " | A | A, B | (A, B, C) | (A, B, C, D) | A, B, C | [X]";
 }
 
 void ListKeeperTest::InterruptedUndoIsFinished()
@@ -647,7 +791,7 @@ void ListKeeperTest::SuddenEndInTheMiddleOfUndoLosesNothing()
         const int place = kept.lastIndexOf("C, B, A");
         QCOMPARE(m_keeper->Restore(place, states.at(place)), QString());
         QCOMPARE(Stored(), QString("C, B, A"));
-        undone += m_keeper->History().CanUndo() ? 1 : 0;
+        undone += m_keeper->History().UndoPlace() >= 0 ? 1 : 0;
     }
     QVERIFY(undone > 0);
 }

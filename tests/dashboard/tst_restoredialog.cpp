@@ -173,7 +173,19 @@ void RestoreDialogTest::KeysChooseAndRestore()
     QTest::keyClick(Table(), Qt::Key_Return);
     QVERIFY(!m_dialog->isVisible());
     QCOMPARE(PluginWorld::Stored(), QString("Office, Home"));
-    QCOMPARE(m_keeper->History().States().size(), 4);
+    // The list that was left is kept, and can be gone back to as well.
+    Open();
+    QVERIFY2(Cells(ChangeColumn).first().startsWith("Went back to the list of "),
+             qPrintable(Cells(ChangeColumn).first()));
+    QCOMPARE(Cells(ChangeColumn).at(1), QString("Added Cafe"));
+    QCOMPARE(Cells(StatusColumn), QStringList() << "Now"
+                                                << ""
+                                                << ""
+                                                << ""
+                                                << "");
+    QTest::keyClick(Table(), Qt::Key_Down);
+    QTest::keyClick(Table(), Qt::Key_Return);
+    QCOMPARE(PluginWorld::Stored(), QString("Cafe, Office, Home"));
 }
 
 void RestoreDialogTest::ClicksChooseAndRestore()
@@ -232,7 +244,12 @@ void RestoreDialogTest::UndoneStatesAreMarkedAndCanBeRestored()
     QTest::keyClick(Table(), Qt::Key_Up);
     QTest::keyClick(Table(), Qt::Key_Return);
     QCOMPARE(PluginWorld::Stored(), QString("Cafe, Office, Home"));
-    QCOMPARE(m_keeper->History().States().size(), 4);
+    // That it was gone back before is told as well.
+    Open();
+    QCOMPARE(Table()->rowCount(), 6);
+    QVERIFY2(Cells(ChangeColumn).at(1).startsWith("Went back to the list of "),
+             qPrintable(Cells(ChangeColumn).at(1)));
+    QVERIFY(!Cells(StatusColumn).contains("Undone"));
 }
 
 void RestoreDialogTest::ChangeMeanwhileIsListedAndTheChoiceKept()

@@ -65,6 +65,8 @@ const char *const states[] = {"",
                               "Company, Home, Office, Guest house at the upper end of the long road",
                               "Company, Home, Office"};
 const int stateInForce = 12;
+/** The state that came about by going back to that one. */
+const int stateOfReturn = 14;
 
 QStringList States()
 {
@@ -596,13 +598,10 @@ void Screens::ShowHistoryFile(const char *content)
 
 void Screens::ShowHistoryTooLong(const char *)
 {
-    QStringList lists;
-    for (int i = 0; i < ListHistory::Limit; ++i) {
-        lists.append(QLatin1String(i % 2 == 0 ? "Home" : "Office"));
-    }
-    KeepHistory(lists, 0);
+    KeepHistory(QStringList(QLatin1String("Home")), 0);
     QByteArray content = m_directory->Read(QLatin1String("priority-dashboard/history/states.xml"));
-    content.replace("</states>", "<state time='2026-03-15T09:00:00Z' order='0'/></states>");
+    const QByteArray state("<state time='2026-03-15T09:00:00Z' order='0'/>");
+    content.replace("</states>", state.repeated(ListHistory::Most) + "</states>");
     WriteUserFile(QLatin1String("history/states.xml"), content);
     OpenWindow(m_plugins.data());
     Visit();
@@ -793,9 +792,12 @@ void Screens::KeepHistory(const QStringList &lists, int position)
         ListState state;
         state.time = QDateTime(QDate(2026, 3, 15), QTime(9, 0), Qt::UTC).addSecs(i * 60);
         state.entries = Listed(lists.at(i));
+        if (i == stateOfReturn) {
+            state.backTo = history.States().at(stateInForce).time;
+        }
         history.Record(state);
     }
-    history.GoTo(position);
+    history.GoTo(position, QDateTime());
     WriteUserFile(QLatin1String("Priority.xml"), OrderFile::Document(history.Entries()));
     HistoryFile file(UserPath(QString()));
     if (!file.Prepare() || !file.Save(&history)) {
