@@ -34,8 +34,8 @@ const int valueRole = Qt::UserRole;
 
 ConnectDialog::ConnectDialog(QWidget *parent)
     : ExtendDialog(parent, Qt::WindowCloseButtonHint, enWidgetTypeDialog), m_isWlanMissing(false),
-      m_hint(nullptr), m_body(nullptr), m_table(nullptr), m_empty(nullptr), m_problem(nullptr),
-      m_okButton(nullptr), m_cancelButton(nullptr)
+      m_outcome(Done), m_hint(nullptr), m_body(nullptr), m_table(nullptr), m_empty(nullptr),
+      m_problem(nullptr), m_okButton(nullptr), m_cancelButton(nullptr)
 {
     setObjectName(QLatin1String("connectDialog"));
     QWidget *content = new QWidget(this);
@@ -54,7 +54,6 @@ ConnectDialog::ConnectDialog(QWidget *parent)
     layout->addWidget(m_body, 1);
 
     m_problem = DialogParts::Label("connectProblemLabel");
-    m_problem->hide();
     layout->addWidget(m_problem);
     layout->addWidget(CreateButtons());
     AddMainWidget(content);
@@ -134,7 +133,7 @@ void ConnectDialog::Retranslate()
         signal->setText(SignalStrength::Text(SignalStrength::Percent(signal->data(valueRole).toInt())));
     }
     m_empty->setText(DashboardText(m_isWlanMissing ? "IDS_CONNECT_NO_WLAN" : "IDS_CONNECT_NONE"));
-    m_problem->setText(DashboardText("IDS_CONNECT_NO_PRIORITY"));
+    ShowOutcome();
     m_okButton->setText(DashboardText("IDS_CONNECT_OK"));
     m_cancelButton->setText(DashboardText("IDS_CANCEL"));
 }
@@ -150,17 +149,27 @@ QString ConnectDialog::ChosenNetwork() const
     return chosen.isEmpty() ? QString() : chosen.first().data(valueRole).toString();
 }
 
-bool ConnectDialog::Connect(const QString &network)
+void ConnectDialog::ShowOutcome()
+{
+    m_problem->setText(
+        DashboardText(m_outcome == NoPlugin ? "IDS_CONNECT_NO_PRIORITY" : "IDS_CONNECT_DAMAGED"));
+    m_problem->setVisible(m_outcome != Done);
+}
+
+ConnectDialog::Outcome ConnectDialog::Connect(const QString &network)
 {
     IPriorityPlugin *priority = PluginObjects::Priority();
     if (!priority) {
-        return false;
+        return NoPlugin;
+    }
+    if (!PluginObjects::IsListWhole()) {
+        return ListDamaged;
     }
     PriorityList entry;
     entry.name = network;
     entry.type = QLatin1String("1");
     priority->AddTopPriority(entry);
-    return true;
+    return Done;
 }
 
 void ConnectDialog::accept()
@@ -169,9 +178,9 @@ void ConnectDialog::accept()
     if (network.isEmpty()) {
         return;
     }
-    if (!Connect(network)) {
-        m_problem->show();
-        return;
+    m_outcome = Connect(network);
+    ShowOutcome();
+    if (m_outcome == Done) {
+        ExtendDialog::accept();
     }
-    ExtendDialog::accept();
 }

@@ -21,9 +21,14 @@ class ConnectDialog : public ExtendDialog
 public:
     explicit ConnectDialog(QWidget *parent);
 
-    /** Puts the Wi-Fi network of that name on top, in range or not. False: there is no priority plug-in to
-     * ask. */
-    static bool Connect(const QString &network);
+    enum Outcome {
+        Done,
+        NoPlugin,   /**< There is no priority plug-in to ask. */
+        ListDamaged /**< The list can't be read in full, and is left alone. */
+    };
+
+    /** Puts the Wi-Fi network of that name on top, in range or not. */
+    static Outcome Connect(const QString &network);
 
     /** Stays open, and says why, when the chosen network can't be put on top. */
     void accept() override;
@@ -39,8 +44,10 @@ private:
     QWidget *CreateButtons();
     void ListNetworks();
     QString ChosenNetwork() const;
+    void ShowOutcome();
 
     bool m_isWlanMissing;
+    Outcome m_outcome;
     QLabel *m_hint;
     QStackedWidget *m_body;
     QTableWidget *m_table;

@@ -1,7 +1,9 @@
 #include "DialogParts.h"
 
+#include "DashboardText.h"
 #include "WrappedLabel.h"
 
+#include <CommonUtils.h>
 #include <ToolkitCompat.h>
 
 #include <QApplication>
@@ -110,4 +112,14 @@ QWidget *DialogParts::ButtonBar(const char *name, QPushButton *accept, QPushButt
     row->addWidget(accept);
     row->addWidget(reject);
     return bar;
+}
+
+void DialogParts::Tell(const QString &problem)
+{
+    if (!problem.isNull()) {
+        CommonUtils::ShowMessage(QMessageBox::Warning, QApplication::activeWindow(),
+                                 DashboardText("IDS_WINDOW_TITLE"), problem, QLatin1String("IDS_OK"),
+                                 QString(), QString(), true, Qt::WindowCloseButtonHint, nullptr, QString(),
+                                 true);
+    }
 }

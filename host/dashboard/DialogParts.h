@@ -35,6 +35,9 @@ void SetCell(QTableWidget *table, int row, int column, const QString &text);
  */
 QWidget *ButtonBar(const char *name, QPushButton *accept, QPushButton *reject);
 
+/** Tells a problem, and waits until the user has seen it; null is none. */
+void Tell(const QString &problem);
+
 } // namespace DialogParts
 
 #endif

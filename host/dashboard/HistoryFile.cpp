@@ -1,5 +1,6 @@
 #include "HistoryFile.h"
 
+#include "DamagedFile.h"
 #include "ListEntries.h"
 #include "StrictXmlReader.h"
 
@@ -101,7 +102,7 @@ QList<PriorityList> ReadEntries(StrictXmlReader *reader)
 
 QDateTime ReadTime(StrictXmlReader *reader, const char *attribute)
 {
-    const QDateTime time = TimeOf(reader->Value(attribute));
+    QDateTime time = TimeOf(reader->Value(attribute));
     if (!time.isValid()) {
         reader->Refuse(FileFault::WrongValue, QLatin1String(attribute));
     }
@@ -234,16 +235,13 @@ bool HistoryFile::Save(ListHistory *history)
 
 QString HistoryFile::SetAside()
 {
-    const int names = 1000;
-    for (int i = 1; i <= names; ++i) {
-        QString path = m_directory + QString::fromLatin1("/states-damaged-%1.xml").arg(i);
-        // Unlike the system's, this renaming puts nothing in the place of an earlier file.
-        if (!QFile::exists(path) && QFile::rename(Path(), path)) {
-            m_wasLoaded = false;
-            return path;
-        }
+    QString path = DamagedFile::FreePath(Path());
+    // Unlike the system's, this renaming puts nothing in the place of another file.
+    if (path.isNull() || !QFile::rename(Path(), path)) {
+        return QString();
     }
-    return QString();
+    m_wasLoaded = false;
+    return path;
 }
 
 QByteArray HistoryFile::Document(const ListHistory &history)

@@ -3,41 +3,22 @@
 #include "ActionButton.h"
 #include "BidiText.h"
 #include "DashboardText.h"
+#include "DialogParts.h"
 #include "ElidedLabel.h"
 #include "ImportDialog.h"
 #include "ListKeeper.h"
 #include "OrderFile.h"
+#include "OrdinaryFile.h"
 #include "RestoreDialog.h"
 
-#include <CommonUtils.h>
 #include <PrivateFile.h>
 #include <ToolkitCompat.h>
 
 #include <QAction>
-#include <QApplication>
 #include <QDir>
-#include <QFile>
 #include <QFileDialog>
-#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QMenu>
-
-namespace
-{
-
-bool ReadFile(const QString &path, QByteArray *bytes)
-{
-    // A pipe in its place would never end.
-    QFile file(path);
-    if (!QFileInfo(path).isFile() || file.size() > OrderFile::largestFile ||
-        !file.open(QIODevice::ReadOnly)) {
-        return false;
-    }
-    *bytes = file.readAll();
-    return file.error() == QFile::NoError;
-}
-
-} // namespace
 
 ListActions::ListActions(ListKeeper *keeper, QWidget *window)
     : QObject(window), m_keeper(keeper), m_window(window), m_undo(CreateAction("undoAction", SLOT(Undo()))),
@@ -142,12 +123,12 @@ void ListActions::Update()
 
 void ListActions::Undo()
 {
-    Tell(m_keeper->Undo());
+    DialogParts::Tell(m_keeper->Undo());
 }
 
 void ListActions::Redo()
 {
-    Tell(m_keeper->Redo());
+    DialogParts::Tell(m_keeper->Redo());
 }
 
 void ListActions::OpenRestore()
@@ -191,14 +172,14 @@ void ListActions::OpenExport()
 void ListActions::Import(const QString &path)
 {
     QByteArray bytes;
-    if (!ReadFile(path, &bytes)) {
-        Tell(DashboardText("IDS_IMPORT_NOT_READABLE").arg(InOwnDirection(path)));
+    if (!OrdinaryFile::Read(path, OrderFile::largestFile, &bytes)) {
+        DialogParts::Tell(DashboardText("IDS_IMPORT_NOT_READABLE").arg(InOwnDirection(path)));
         return;
     }
     QList<PriorityList> entries;
     const FileFault fault = OrderFile::Parse(bytes, &entries);
     if (fault.kind != FileFault::None) {
-        Tell(DashboardText("IDS_IMPORT_DAMAGED").arg(InOwnDirection(path), fault.Text()));
+        DialogParts::Tell(DashboardText("IDS_IMPORT_DAMAGED").arg(InOwnDirection(path), fault.Text()));
         return;
     }
     m_importDialog = new ImportDialog(m_keeper, entries, m_window);
@@ -210,16 +191,6 @@ void ListActions::Import(const QString &path)
 void ListActions::Export(const QString &path)
 {
     if (PrivateFile::Replace(path, OrderFile::Document(m_keeper->Entries())) != PrivateFile::OutcomeDone) {
-        Tell(DashboardText("IDS_EXPORT_NOT_WRITTEN").arg(InOwnDirection(path)));
-    }
-}
-
-void ListActions::Tell(const QString &problem)
-{
-    if (!problem.isNull()) {
-        CommonUtils::ShowMessage(QMessageBox::Warning, QApplication::activeWindow(),
-                                 DashboardText("IDS_WINDOW_TITLE"), problem, QLatin1String("IDS_OK"),
-                                 QString(), QString(), true, Qt::WindowCloseButtonHint, nullptr, QString(),
-                                 true);
+        DialogParts::Tell(DashboardText("IDS_EXPORT_NOT_WRITTEN").arg(InOwnDirection(path)));
     }
 }

@@ -53,7 +53,6 @@ private:
     QAction *CreateAction(const char *name, const char *slot);
     void SetHelp(QAction *action, const QString &help);
     QFileDialog *CreateFileDialog(const char *name, const char *titleId);
-    void Tell(const QString &problem);
 
     ListKeeper *const m_keeper;
     QWidget *const m_window;

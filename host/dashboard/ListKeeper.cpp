@@ -1,6 +1,7 @@
 #include "ListKeeper.h"
 
 #include "BidiText.h"
+#include "DamagedFile.h"
 #include "DashboardText.h"
 #include "ListChangeText.h"
 #include "ListEntries.h"
@@ -38,15 +39,17 @@ class ListKeeper::Session
 {
 public:
     explicit Session(ListKeeper *keeper)
-        : m_keeper(keeper), m_isDirectoryThere(keeper->m_file.Prepare()), m_lock(keeper->m_file.Directory()),
+        : m_keeper(keeper), m_isDirectoryThere(keeper->m_file.Prepare()),
+          m_lock(new DirectoryLock(keeper->m_file.Directory())),
           m_listLock(new ListLock(QFileInfo(keeper->m_listPath).path(), ListLock::Changing, waitMilliseconds))
     {
         m_keeper->m_isBusy = true;
         // Where nothing can be kept there is nobody to share it with: the history lives as long as the
         // program.
-        m_keeper->m_isHeldByOther = (m_isDirectoryThere && !m_lock.IsHeld()) || m_listLock->IsRefused();
+        m_keeper->m_isHeldByOther = (m_isDirectoryThere && !m_lock->IsHeld()) || m_listLock->IsRefused();
         m_isUsable = !m_keeper->m_isHeldByOther && m_keeper->m_file.Load(&m_keeper->m_history);
         m_keeper->ReadList();
+        m_keeper->KeepIfDamaged();
         if (m_isUsable) {
             m_keeper->FinishInterrupted();
             m_keeper->RecordIfNew();
@@ -56,8 +59,9 @@ public:
     ~Session()
     {
         m_keeper->m_isBusy = false;
-        // Whoever is told may have the Wi-Fi plug-in work in the same directory.
+        // Whoever is told may have the Wi-Fi plug-in work in the same directory, or begin a session.
         m_listLock.reset();
+        m_lock.reset();
         emit m_keeper->Changed();
     }
 
@@ -68,7 +72,7 @@ private:
 
     ListKeeper *const m_keeper;
     const bool m_isDirectoryThere;
-    const DirectoryLock m_lock;
+    QScopedPointer<DirectoryLock> m_lock;
     QScopedPointer<ListLock> m_listLock;
     bool m_isUsable;
 };
@@ -94,7 +98,7 @@ void ListKeeper::Follow()
         }
         return;
     }
-    if (IsListNew() || m_isHeldByOther || m_file.HasChanged()) {
+    if (IsListNew() || IsDamaged() || m_isHeldByOther || m_file.HasChanged()) {
         const Session session(this);
     } else if (m_reading != before) {
         emit Changed();
@@ -173,7 +177,7 @@ QString ListKeeper::UndoObstacle() const
     if (!obstacle.isNull()) {
         return obstacle;
     }
-    const bool canUndo = m_reading == Damaged ? !m_history.IsEmpty() : m_history.UndoPlace() >= 0;
+    const bool canUndo = IsDamaged() ? !m_history.IsEmpty() : m_history.UndoPlace() >= 0;
     return canUndo ? QString() : DashboardText("IDS_UNDO_NOTHING");
 }
 
@@ -183,7 +187,7 @@ QString ListKeeper::RedoObstacle() const
     if (!obstacle.isNull()) {
         return obstacle;
     }
-    if (m_reading == Damaged) {
+    if (IsDamaged()) {
         return DashboardText("IDS_REDO_DAMAGED");
     }
     return m_history.RedoPlace() >= 0 ? QString() : DashboardText("IDS_REDO_NOTHING");
@@ -194,7 +198,7 @@ QString ListKeeper::UndoText() const
     if (!UndoObstacle().isNull()) {
         return QString();
     }
-    if (m_reading == Damaged) {
+    if (IsDamaged()) {
         return DashboardText("IDS_CHANGE_DAMAGED");
     }
     return ListChangeText::DescribeStep(m_history.States(), m_history.UndoPlace(), m_history.Position());
@@ -210,7 +214,7 @@ QString ListKeeper::RedoText() const
 
 QString ListKeeper::LastChangeText() const
 {
-    if (!UndoObstacle().isNull() || m_reading == Damaged) {
+    if (!UndoObstacle().isNull() || IsDamaged()) {
         return QString();
     }
     const ListState &state = m_history.States().at(m_history.Position());
@@ -224,7 +228,7 @@ QString ListKeeper::Undo()
     if (!obstacle.isNull()) {
         return obstacle;
     }
-    return GoTo(m_reading == Damaged ? m_history.Position() : m_history.UndoPlace());
+    return GoTo(IsDamaged() ? m_history.Position() : m_history.UndoPlace());
 }
 
 QString ListKeeper::Redo()
@@ -245,10 +249,8 @@ QString ListKeeper::Restore(int place, const ListState &state)
     if (position < 0) {
         return DashboardText("IDS_RESTORE_GONE");
     }
-    ListState restored = m_history.States().at(position);
-    restored.backTo = restored.time;
-    restored.isPassedBy = false;
-    return Change(restored);
+    const ListState &earlier = m_history.States().at(position);
+    return Change(earlier.entries, earlier.time);
 }
 
 QString ListKeeper::Replace(const QList<PriorityList> &entries)
@@ -258,14 +260,16 @@ QString ListKeeper::Replace(const QList<PriorityList> &entries)
     if (!obstacle.isNull()) {
         return obstacle;
     }
-    ListState state;
-    state.entries = ListEntries::Storable(entries);
-    return Change(state);
+    return Change(ListEntries::Storable(entries), QDateTime());
 }
 
-QString ListKeeper::Change(ListState state)
+QString ListKeeper::Change(const QList<PriorityList> &entries, const QDateTime &backTo)
 {
     const ListHistory before = m_history;
+    ListState state;
+    state.time = Now();
+    state.entries = entries;
+    state.backTo = backTo;
     if (before.IsEmpty()) {
         QString problem = Write(state.entries);
         RecordIfNew();
@@ -275,7 +279,6 @@ QString ListKeeper::Change(ListState state)
         return GoTo(before.Position(), before);
     }
     // As a state to go to: then an end on the way is made good like that of an undo.
-    state.time = Now();
     m_history.Record(state);
     const int position = m_history.Position();
     m_history.GoTo(m_history.UndoPlace(), QDateTime());
@@ -310,7 +313,7 @@ void ListKeeper::FinishInterrupted()
         return;
     }
     const QList<PriorityList> entries = m_history.States().at(m_history.Target()).entries;
-    const bool isCutShort = m_reading == Damaged || !QFile::exists(m_listPath);
+    const bool isCutShort = IsDamaged() || !QFile::exists(m_listPath);
     if (isCutShort && !Write(entries).isNull()) {
         return;
     }
@@ -321,8 +324,8 @@ void ListKeeper::FinishInterrupted()
 
 QString ListKeeper::Write(const QList<PriorityList> &entries)
 {
-    if (m_reading == Damaged && !KeepDamagedList()) {
-        return DashboardText("IDS_LIST_NOT_KEPT").arg(InOwnDirection(m_listPath));
+    if (IsDamaged() && m_copyPath.isNull()) {
+        return WriteObstacle();
     }
     if (PrivateFile::Replace(m_listPath, OrderFile::Document(entries)) == PrivateFile::OutcomeDone) {
         // Adding nothing has the plug-in write its file anew, and tell everybody.
@@ -334,17 +337,50 @@ QString ListKeeper::Write(const QList<PriorityList> &entries)
     return isWritten ? QString() : DashboardText("IDS_LIST_NOT_WRITTEN").arg(InOwnDirection(m_listPath));
 }
 
-bool ListKeeper::KeepDamagedList() const
+void ListKeeper::KeepIfDamaged()
 {
-    const int names = 1000;
-    const QString directory = QFileInfo(m_listPath).path();
-    for (int i = 1; i <= names; ++i) {
-        const QString path = directory + QString::fromLatin1("/Priority-damaged-%1.xml").arg(i);
-        if (!QFile::exists(path)) {
-            return QFile::copy(m_listPath, path);
-        }
+    // What another program is writing may only look damaged.
+    m_copyPath = IsDamaged() && !m_isHeldByOther ? DamagedFile::Keep(m_listPath) : QString();
+}
+
+QString ListKeeper::WriteObstacle() const
+{
+    if (m_reading == NotOpened) {
+        return DashboardText("IDS_LIST_NOT_OPENED");
     }
-    return false;
+    if (!IsDamaged() || !m_copyPath.isNull()) {
+        return QString();
+    }
+    return m_isHeldByOther ? DashboardText("IDS_LIST_BUSY")
+                           : DashboardText("IDS_LIST_NOT_KEPT").arg(InOwnDirection(m_listPath));
+}
+
+bool ListKeeper::CanBringBack() const
+{
+    return IsDamaged() && UndoObstacle().isNull();
+}
+
+QString ListKeeper::BringBack()
+{
+    const Session session(this);
+    if (!IsDamaged()) {
+        return WriteObstacle();
+    }
+    QString obstacle = m_isHeldByOther ? DashboardText("IDS_LIST_BUSY") : UndoObstacle();
+    return obstacle.isNull() ? GoTo(m_history.Position()) : obstacle;
+}
+
+QString ListKeeper::GoOnWith(const QList<PriorityList> &entries)
+{
+    const Session session(this);
+    if (!IsDamaged()) {
+        return WriteObstacle();
+    }
+    if (m_isHeldByOther || !ListEntries::IsSame(m_entries, entries)) {
+        return DashboardText("IDS_LIST_BUSY");
+    }
+    // The list doesn't depend on its history, which is left alone when it can't be used.
+    return IsHistoryUnusable() ? Write(m_entries) : Change(m_entries, QDateTime());
 }
 
 QString ListKeeper::ProblemText() const

@@ -12,7 +12,8 @@
  *
  * Whoever changes the list, the change is found by comparing the list with the newest state: so changes that
  * were made while no dashboard ran are found too. A list that can't be read is no state; once it can be read
- * again, it is compared with what was there before.
+ * again, it is compared with what was there before. Whatever is found of a damaged list is copied beside it
+ * as soon as it is seen: whoever changes the list then writes what could be read, and the rest would be lost.
  *
  * The list itself is the priority plug-in's. To change it as a whole, the keeper puts a new file in the place
  * of the earlier one, in one go, and then has the plug-in rewrite it through IPriorityPlugin, which tells
@@ -59,6 +60,25 @@ public:
     /** Makes entries the list. */
     QString Replace(const QList<PriorityList> &entries);
 
+    /** Whether the list can be read up to some place only. */
+    bool IsDamaged() const { return m_reading == Damaged; }
+
+    /** Where the damaged file was copied to; null when it isn't damaged or could not be copied. */
+    QString CopyPath() const { return m_copyPath; }
+
+    /**
+     * Why nothing may write the list, in plain words; null when there is no such reason. A list that is
+     * damaged and was copied may be written once the user has decided how.
+     */
+    QString WriteObstacle() const;
+
+    // What can be done with a damaged list. A list that is whole by then is left alone.
+    bool CanBringBack() const;
+    /** Makes the list what it was last when it was whole: the one in force in the history. */
+    QString BringBack();
+    /** Makes what can be read of it the list, if that is what it was: entries. */
+    QString GoOnWith(const QList<PriorityList> &entries);
+
     /** While the page with the list is open, moves that follow each other on it are one change. Begin before
      * it is shown, end once it is closed. */
     void BeginOpening();
@@ -90,8 +110,8 @@ private:
     void ReadList();
     void RecordIfNew();
     QDateTime TimeOfChange() const;
-    /** Makes state, whose time is now, the list. */
-    QString Change(ListState state);
+    /** Makes entries, which a file can carry, the list; backTo is as ListState's. */
+    QString Change(const QList<PriorityList> &entries, const QDateTime &backTo);
     QString GoTo(int position);
     /** @param otherwise  the history when the list can't be written. @param since  as ListHistory::GoTo. */
     QString GoTo(int position, ListHistory otherwise, const QDateTime &since = QDateTime());
@@ -99,8 +119,8 @@ private:
      * short: the plug-in rewrites it in place. */
     void FinishInterrupted();
     QString Write(const QList<PriorityList> &entries);
-    /** Copies a list file that can't be read to its end before it is replaced. */
-    bool KeepDamagedList() const;
+    /** Copies a list file that can't be read to its end, before anything replaces it. */
+    void KeepIfDamaged();
     bool IsListNew() const;
 
     const QString m_listPath;
@@ -108,6 +128,7 @@ private:
     ListHistory m_history;
     Reading m_reading;
     QList<PriorityList> m_entries;
+    QString m_copyPath;
     /** Since when the page has been open; null when it isn't. */
     QDateTime m_opened;
     bool m_isBusy;

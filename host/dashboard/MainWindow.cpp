@@ -2,12 +2,14 @@
 
 #include "AccessibleRows.h"
 #include "Appearance.h"
+#include "BidiText.h"
 #include "ConnectDialog.h"
 #include "DashboardLanguage.h"
 #include "DashboardText.h"
 #include "DialogParts.h"
 #include "GeneralPage.h"
 #include "ListActions.h"
+#include "ListGuard.h"
 #include "ListKeeper.h"
 #include "OverviewDelegate.h"
 #include "OverviewText.h"
@@ -78,7 +80,7 @@ MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLo
     : m_plugins(plugins), m_language(language), m_languageProblems(HostControl::LanguageProblems()),
       m_watcher(UserData::FilePath(QLatin1String("Priority.xml")), nullptr),
       m_keeper(new ListKeeper(UserData::Directory(), this)), m_listActions(new ListActions(m_keeper, this)),
-      m_rangeTimer(new QTimer(this))
+      m_guard(new ListGuard(m_keeper, this)), m_rangeTimer(new QTimer(this))
 {
     setObjectName(QLatin1String("mainWindow"));
     new AccessibleRows(this);
@@ -101,6 +103,9 @@ MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLo
     m_problems->setForegroundRole(QPalette::ToolTipText);
     m_problems->setMargin(10);
     layout->addWidget(m_problems);
+    m_repairButton = MakeButton("repairButton");
+    connect(m_repairButton, SIGNAL(clicked()), m_guard, SLOT(Ask()));
+    layout->addWidget(m_repairButton, 0, Qt::AlignLeading);
 
     m_list = new QListWidget;
     m_list->setObjectName(QLatin1String("overviewList"));
@@ -301,7 +306,9 @@ void MainWindow::Retranslate()
     m_list->setAccessibleName(DashboardText("IDS_PLUGIN_PRIORITY"));
     m_refreshButton->setText(DashboardText("IDS_BUTTON_REFRESH"));
     m_traceButton->setText(DashboardText("IDS_BUTTON_TRACE"));
+    m_repairButton->setText(DashboardText("IDS_BUTTON_REPAIR"));
     m_listActions->Retranslate();
+    m_guard->Retranslate();
     m_trace->Retranslate();
     m_trace->toggleViewAction()->setText(DashboardText("IDS_ACTION_TRACE"));
     m_searchAction->setText(DashboardText("IDS_ACTION_TRACE_SEARCH"));
@@ -352,9 +359,18 @@ void MainWindow::ShowNote()
 
 void MainWindow::FollowRange()
 {
-    // Nobody looks at a window that isn't shown.
-    if (isVisible() && m_overview.HasRangeChanged()) {
+    // Nobody looks at a window that is hidden or minimised.
+    if (isVisible() && !isMinimized() && m_overview.HasRangeChanged()) {
         Refresh();
+    }
+}
+
+void MainWindow::changeEvent(QEvent *event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange) {
+        // It may have been minimised for long.
+        FollowRange();
     }
 }
 
@@ -396,12 +412,9 @@ void MainWindow::ShowProblems()
     for (int i = 0; i < m_languageProblems.size(); ++i) {
         problems.append(DashboardLanguage::ProblemText(m_languageProblems.at(i)));
     }
-    if (m_overview.status == PriorityDamaged) {
-        QString problem = DashboardText("IDS_LIST_DAMAGED");
-        if (m_keeper->UndoObstacle().isNull()) {
-            problem += QLatin1Char(' ') + DashboardText("IDS_LIST_UNDO_DAMAGE");
-        }
-        problems.append(problem);
+    m_repairButton->setVisible(m_keeper->IsDamaged());
+    if (m_keeper->IsDamaged()) {
+        problems.append(DamageText());
     } else if (m_overview.status == PriorityNotOpened) {
         problems.append(DashboardText("IDS_LIST_NOT_OPENED"));
     }
@@ -411,6 +424,19 @@ void MainWindow::ShowProblems()
     }
     m_problems->setText(problems.join(QLatin1String("\n\n")));
     m_problems->setVisible(!problems.isEmpty());
+}
+
+QString MainWindow::DamageText() const
+{
+    QStringList sentences(DashboardText("IDS_LIST_DAMAGED"));
+    const QString obstacle = m_keeper->WriteObstacle();
+    sentences.append(obstacle.isNull()
+                         ? DashboardText("IDS_LIST_KEPT").arg(InOwnDirection(m_keeper->CopyPath()))
+                         : obstacle);
+    if (m_keeper->CanBringBack()) {
+        sentences.append(DashboardText("IDS_LIST_UNDO_DAMAGE"));
+    }
+    return sentences.join(QLatin1String(" "));
 }
 
 void MainWindow::ShowList()
@@ -493,6 +519,9 @@ void MainWindow::OpenSettings()
         m_settings->activateWindow();
         return;
     }
+    if (!m_guard->MayOpen(SLOT(OpenSettings()))) {
+        return;
+    }
     m_keeper->BeginOpening();
     m_settings = new SettingsDialog(this);
     m_settings->AddPage(new GeneralPage(m_language, m_plugins));
@@ -513,6 +542,7 @@ void MainWindow::OpenSettings()
     connect(m_settings.data(), SIGNAL(finished(int)), this, SLOT(SettingsClosed()));
     m_settings->setModal(true);
     m_settings->show();
+    m_guard->Watch(m_settings.data());
 }
 
 void MainWindow::SettingsClosed()
@@ -532,10 +562,14 @@ void MainWindow::OpenConnect()
         m_connect->activateWindow();
         return;
     }
+    if (!m_guard->MayOpen(SLOT(OpenConnect()))) {
+        return;
+    }
     m_connect = new ConnectDialog(this);
     connect(m_connect.data(), SIGNAL(finished(int)), this, SLOT(ConnectClosed()));
     m_connect->setModal(true);
     m_connect->show();
+    m_guard->Watch(m_connect.data());
 }
 
 void MainWindow::ConnectClosed()

@@ -11,6 +11,7 @@
 class ConnectDialog;
 class DashboardLanguage;
 class ListActions;
+class ListGuard;
 class ListKeeper;
 class PluginHost;
 class QAction;
@@ -41,6 +42,7 @@ public slots:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private slots:
     void Retranslate();
@@ -62,6 +64,7 @@ private:
     void ShowConnect();
     void ShowHead();
     void ShowProblems();
+    QString DamageText() const;
     void ShowList();
     void ShowNote();
 
@@ -71,6 +74,7 @@ private:
     ListWatcher m_watcher;
     ListKeeper *m_keeper;
     ListActions *m_listActions;
+    ListGuard *m_guard;
     QTimer *m_rangeTimer;
     TracePanel *m_trace;
     Overview m_overview;
@@ -93,6 +97,7 @@ private:
     QLabel *m_headline;
     QLabel *m_explanation;
     QLabel *m_problems;
+    QPushButton *m_repairButton;
     QStackedWidget *m_body;
     QListWidget *m_list;
     QWidget *m_messagePage;

@@ -19,7 +19,7 @@ struct KnownPlugin {
     QString classId;
     /** Resource id of what the user calls it. */
     QString titleId;
-    /** Whether it has a page in the settings dialog. */
+    /** Whether it has a page in the settings dialog; that is the list's. */
     bool hasSettingsPage = false;
     /** Whether it is loaded only where no plug-in before it with the same class id is ready. */
     bool isStandIn = false;

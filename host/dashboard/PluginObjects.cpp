@@ -1,5 +1,7 @@
 #include "PluginObjects.h"
 
+#include "PriorityResult.h"
+
 #include <IPluginContainer.h>
 #include <IPriorityPlugin.h>
 #include <IWLANUIPlugin.h>
@@ -27,6 +29,14 @@ QObject *PluginObjects::PriorityService()
 IPriorityPlugin *PluginObjects::Priority()
 {
     return qobject_cast<IPriorityPlugin *>(PriorityService());
+}
+
+bool PluginObjects::IsListWhole()
+{
+    QList<PriorityList> entries;
+    IPriorityPlugin *priority = Priority();
+    const int status = priority ? priority->GetPriorityList(&entries) : PriorityRead;
+    return status == PriorityRead || status == PriorityMissing;
 }
 
 IWLANUIPlugin *PluginObjects::Wlan()

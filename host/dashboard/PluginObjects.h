@@ -12,6 +12,9 @@ public:
     static IPriorityPlugin *Priority();
     static IWLANUIPlugin *Wlan();
 
+    /** Whether the list can be written without a loss: all of it can be read, or there is none yet. */
+    static bool IsListWhole();
+
     /** The object behind Priority(), which has the signal OnUpdataPriorityView(). */
     static QObject *PriorityService();
 };

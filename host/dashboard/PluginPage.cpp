@@ -1,6 +1,7 @@
 #include "PluginPage.h"
 
 #include "DashboardText.h"
+#include "PluginObjects.h"
 
 #include <ISettingUIPlugin.h>
 
@@ -47,7 +48,9 @@ QString PluginPage::ProblemText() const
 
 void PluginPage::Close(Answer answer)
 {
-    switch (answer) {
+    // OK would write what the page shows over what it could not read.
+    const bool mayWrite = !m_plugin.known.hasSettingsPage || PluginObjects::IsListWhole();
+    switch (answer == Ok && !mayWrite ? Cancel : answer) {
     case Ok:
         m_page->OnClickSettingOkButton();
         break;

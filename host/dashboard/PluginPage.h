@@ -19,6 +19,7 @@ public:
     QString Title() const override;
     bool Show(QWidget *place) override;
     QString ProblemText() const override;
+    /** The page of a list that can't be read in full hears of Cancel in place of OK. */
     void Close(Answer answer) override;
     void Retranslate() override;
 

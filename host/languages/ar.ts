@@ -233,6 +233,10 @@
         <translation>الإضافة التي تحفظ القائمة غير متوفرة، لذلك لا يمكن وضع شبكة في أعلاها.</translation>
     </message>
     <message>
+        <source>IDS_CONNECT_DAMAGED</source>
+        <translation>لا يمكن قراءة قائمتك كاملة، لذلك لا توضع أي شبكة في أعلاها.</translation>
+    </message>
+    <message>
         <source>IDS_CLOSE</source>
         <translation>إغلاق</translation>
     </message>
@@ -362,7 +366,47 @@
     </message>
     <message>
         <source>IDS_LIST_DAMAGED</source>
-        <translation>الملف الذي يحوي قائمتك تالف. يُعرض ما قبل موضع التلف؛ وإضافة شبكة من الإعدادات تكتب الملف من جديد.</translation>
+        <translation>الملف الذي يحوي قائمتك تالف. لا يُعرض إلا ما قبل موضع التلف.</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_KEPT</source>
+        <translation>نُسخ الملف إلى %1. ولن يغيّره هذا البرنامج إلا بعد أن تقرر ما يجب فعله.</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_REPAIR</source>
+        <translation>تقرير ما يجب فعله…</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_TITLE</source>
+        <translation>قائمتك تالفة</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_READ</source>
+        <translation>لا يمكن قراءة الملف الذي يحوي قائمتك حتى نهايته. عدد الشبكات التي أمكنت قراءتها: %1.</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_LAST</source>
+        <translation>آخر قائمة كاملة هي قائمة %1. عدد الشبكات فيها: %2.</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_NO_LAST</source>
+        <translation>لا توجد قائمة سابقة يمكن إرجاعها.</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_COPY</source>
+        <translation>مهما اخترت، يُحفظ الملف التالف باسم %1.</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_BRING_BACK</source>
+        <translation>إرجاع آخر قائمة كاملة</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_GO_ON</source>
+        <translation>المتابعة بما أمكنت قراءته</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_LEAVE</source>
+        <translation>تركه كما هو</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_OPENED</source>
@@ -738,7 +782,7 @@
     </message>
     <message>
         <source>IDS_LIST_NOT_KEPT</source>
-        <translation>لا يمكن نسخ الملف التالف %1 لحفظه، لذا تُرك كما هو.</translation>
+        <translation>لا يمكن نسخ الملف التالف %1 لحفظه، لذا تُرك كما هو. تحقق مما إذا كان القرص ممتلئًا أو المجلد محميًا.</translation>
     </message>
     <message>
         <source>IDS_HISTORY_DAMAGED</source>

@@ -233,6 +233,10 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
         <translation>Das Plugin, das die Liste verwaltet, ist nicht verfügbar, daher kann kein Netzwerk an ihre Spitze rücken.</translation>
     </message>
     <message>
+        <source>IDS_CONNECT_DAMAGED</source>
+        <translation>Ihre Liste lässt sich nicht vollständig lesen, daher rückt kein Netzwerk an ihre Spitze.</translation>
+    </message>
+    <message>
         <source>IDS_CLOSE</source>
         <translation>Schließen</translation>
     </message>
@@ -362,7 +366,47 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
     </message>
     <message>
         <source>IDS_LIST_DAMAGED</source>
-        <translation>Die Datei mit Ihrer Liste ist beschädigt. Angezeigt wird, was vor der beschädigten Stelle steht. Wenn Sie in den Einstellungen ein Netzwerk hinzufügen, wird die Datei neu geschrieben.</translation>
+        <translation>Die Datei mit Ihrer Liste ist beschädigt. Angezeigt wird nur, was vor der beschädigten Stelle steht.</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_KEPT</source>
+        <translation>Die Datei wurde nach %1 kopiert. Dieses Programm ändert sie erst, wenn Sie entschieden haben, was geschehen soll.</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_REPAIR</source>
+        <translation>Entscheiden…</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_TITLE</source>
+        <translation>Ihre Liste ist beschädigt</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_READ</source>
+        <translation>Die Datei mit Ihrer Liste lässt sich nicht bis zum Ende lesen. Lesbare Netzwerke: %1.</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_LAST</source>
+        <translation>Die letzte vollständige Liste ist vom %1. Netzwerke darin: %2.</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_NO_LAST</source>
+        <translation>Es gibt keine frühere Liste, die sich zurückholen ließe.</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_COPY</source>
+        <translation>Wie Sie auch wählen, die beschädigte Datei bleibt als %1 erhalten.</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_BRING_BACK</source>
+        <translation>Letzte vollständige Liste zurückholen</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_GO_ON</source>
+        <translation>Mit dem Lesbaren weitermachen</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_LEAVE</source>
+        <translation>So lassen</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_OPENED</source>
@@ -739,7 +783,7 @@ Erwartet: %3</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_KEPT</source>
-        <translation>Die beschädigte Datei %1 lässt sich nicht zur Sicherheit kopieren und wurde deshalb nicht angetastet.</translation>
+        <translation>Die beschädigte Datei %1 lässt sich nicht zur Sicherheit kopieren und wurde deshalb nicht angetastet. Prüfen Sie, ob der Datenträger voll oder das Verzeichnis geschützt ist.</translation>
     </message>
     <message>
         <source>IDS_HISTORY_DAMAGED</source>

@@ -256,6 +256,10 @@ Allowed are letters, digits and these signs:
         <translation>The plug-in that keeps the list is not available, so no network can be put on top of it.</translation>
     </message>
     <message>
+        <source>IDS_CONNECT_DAMAGED</source>
+        <translation>Your list cannot be read in full, so no network is put on top of it.</translation>
+    </message>
+    <message>
         <source>IDS_CLOSE</source>
         <extracomment>Button</extracomment>
         <translation>Close</translation>
@@ -387,7 +391,55 @@ Allowed are letters, digits and these signs:
     </message>
     <message>
         <source>IDS_LIST_DAMAGED</source>
-        <translation>The file with your list is damaged. What stands before the damage is shown; adding a network in the settings writes the file anew.</translation>
+        <translation>The file with your list is damaged. Only what stands before the damage is shown.</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_KEPT</source>
+        <extracomment>Follows the message that the file with the list is damaged. %1: path of a file</extracomment>
+        <translation>The file was copied to %1. This program changes it only once you have decided what to do.</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_REPAIR</source>
+        <extracomment>Button; opens the question what to do with a damaged list</extracomment>
+        <translation>Decide what to do…</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_TITLE</source>
+        <translation>Your list is damaged</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_READ</source>
+        <extracomment>%1: a number, 0 or more</extracomment>
+        <translation>The file with your list cannot be read to its end. Networks that could be read: %1.</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_LAST</source>
+        <extracomment>%1: date and time; %2: a number, 0 or more</extracomment>
+        <translation>The last whole list is of %1. Networks in it: %2.</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_NO_LAST</source>
+        <translation>There is no earlier list that could be brought back.</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_COPY</source>
+        <extracomment>%1: name of a file</extracomment>
+        <translation>Whatever you choose, the damaged file is kept as %1.</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_BRING_BACK</source>
+        <extracomment>Button</extracomment>
+        <translation>Bring back the last whole list</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_GO_ON</source>
+        <extracomment>Button</extracomment>
+        <translation>Go on with what could be read</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_LEAVE</source>
+        <extracomment>Button</extracomment>
+        <translation>Leave it as it is</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_OPENED</source>
@@ -805,7 +857,7 @@ Expected: %3</translation>
     <message>
         <source>IDS_LIST_NOT_KEPT</source>
         <extracomment>%1: path of a file</extracomment>
-        <translation>The damaged file %1 cannot be copied for safekeeping, so it was left alone.</translation>
+        <translation>The damaged file %1 cannot be copied for safekeeping, so it was left alone. See whether the disk is full or the directory protected.</translation>
     </message>
     <message>
         <source>IDS_HISTORY_DAMAGED</source>

@@ -233,6 +233,10 @@ Se permiten letras, números y estos signos:
         <translation>El complemento que guarda la lista no está disponible, así que no se puede poner ninguna red al principio.</translation>
     </message>
     <message>
+        <source>IDS_CONNECT_DAMAGED</source>
+        <translation>Su lista no se puede leer por completo, así que no se pone ninguna red al principio.</translation>
+    </message>
+    <message>
         <source>IDS_CLOSE</source>
         <translation>Cerrar</translation>
     </message>
@@ -362,7 +366,47 @@ Se permiten letras, números y estos signos:
     </message>
     <message>
         <source>IDS_LIST_DAMAGED</source>
-        <translation>El archivo de su lista está dañado. Se muestra lo que hay antes del daño; al añadir una red en la configuración, el archivo se escribe de nuevo.</translation>
+        <translation>El archivo de su lista está dañado. Solo se muestra lo que hay antes del daño.</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_KEPT</source>
+        <translation>El archivo se ha copiado en %1. Este programa no lo modifica hasta que usted decida qué hacer.</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_REPAIR</source>
+        <translation>Decidir qué hacer…</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_TITLE</source>
+        <translation>Su lista está dañada</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_READ</source>
+        <translation>El archivo de su lista no se puede leer hasta el final. Redes que se han podido leer: %1.</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_LAST</source>
+        <translation>La última lista completa es del %1. Redes que contiene: %2.</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_NO_LAST</source>
+        <translation>No hay ninguna lista anterior que recuperar.</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_COPY</source>
+        <translation>Elija lo que elija, el archivo dañado se conserva como %1.</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_BRING_BACK</source>
+        <translation>Recuperar la última lista completa</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_GO_ON</source>
+        <translation>Continuar con lo que se ha podido leer</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_LEAVE</source>
+        <translation>Dejarlo como está</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_OPENED</source>
@@ -739,7 +783,7 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_KEPT</source>
-        <translation>El archivo dañado %1 no se puede copiar para conservarlo, así que no se ha tocado.</translation>
+        <translation>El archivo dañado %1 no se puede copiar para conservarlo, así que no se ha tocado. Compruebe si el disco está lleno o la carpeta protegida.</translation>
     </message>
     <message>
         <source>IDS_HISTORY_DAMAGED</source>

@@ -233,6 +233,10 @@ Sont autorisés les lettres, les chiffres et les signes suivants&#xa0;:
         <translation>Le module qui gère la liste n’est pas disponible&#x202f;; aucun réseau ne peut donc y être placé en tête.</translation>
     </message>
     <message>
+        <source>IDS_CONNECT_DAMAGED</source>
+        <translation>Votre liste ne peut pas être lue en entier&#x202f;; aucun réseau n’y est donc placé en tête.</translation>
+    </message>
+    <message>
         <source>IDS_CLOSE</source>
         <translation>Fermer</translation>
     </message>
@@ -362,7 +366,47 @@ Sont autorisés les lettres, les chiffres et les signes suivants&#xa0;:
     </message>
     <message>
         <source>IDS_LIST_DAMAGED</source>
-        <translation>Le fichier de votre liste est endommagé. Ce qui précède l’endroit endommagé est affiché&#x202f;; ajouter un réseau dans les paramètres réécrit le fichier.</translation>
+        <translation>Le fichier de votre liste est endommagé. Seul ce qui précède l’endroit endommagé est affiché.</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_KEPT</source>
+        <translation>Le fichier a été copié dans %1. Ce programme ne le modifie pas tant que vous n’avez pas décidé que faire.</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_REPAIR</source>
+        <translation>Décider que faire…</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_TITLE</source>
+        <translation>Votre liste est endommagée</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_READ</source>
+        <translation>Le fichier de votre liste ne peut pas être lu jusqu’à la fin. Réseaux lisibles&#x202f;: %1.</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_LAST</source>
+        <translation>La dernière liste complète date du %1. Réseaux qu’elle contient&#x202f;: %2.</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_NO_LAST</source>
+        <translation>Il n’y a pas de liste précédente à rétablir.</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_COPY</source>
+        <translation>Quel que soit votre choix, le fichier endommagé est conservé sous le nom %1.</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_BRING_BACK</source>
+        <translation>Rétablir la dernière liste complète</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_GO_ON</source>
+        <translation>Continuer avec ce qui a pu être lu</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_LEAVE</source>
+        <translation>Laisser tel quel</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_OPENED</source>
@@ -739,7 +783,7 @@ Attendu&#xa0;: %3</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_KEPT</source>
-        <translation>Le fichier endommagé %1 ne peut pas être copié par sécurité ; il a été laissé tel quel.</translation>
+        <translation>Le fichier endommagé %1 ne peut pas être copié par sécurité&#x202f;; il a été laissé tel quel. Vérifiez si le disque est plein ou le dossier protégé.</translation>
     </message>
     <message>
         <source>IDS_HISTORY_DAMAGED</source>

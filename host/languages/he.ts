@@ -233,6 +233,10 @@
         <translation>התוסף ששומר את הרשימה אינו זמין, ולכן לא ניתן להעביר רשת לראשה.</translation>
     </message>
     <message>
+        <source>IDS_CONNECT_DAMAGED</source>
+        <translation>לא ניתן לקרוא את כל הרשימה שלך, ולכן שום רשת לא מועברת לראשה.</translation>
+    </message>
+    <message>
         <source>IDS_CLOSE</source>
         <translation>סגירה</translation>
     </message>
@@ -362,7 +366,47 @@
     </message>
     <message>
         <source>IDS_LIST_DAMAGED</source>
-        <translation>הקובץ עם הרשימה שלך פגום. מוצג מה שלפני הפגם; הוספת רשת בהגדרות תכתוב את הקובץ מחדש.</translation>
+        <translation>הקובץ עם הרשימה שלך פגום. מוצג רק מה שלפני הפגם.</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_KEPT</source>
+        <translation>הקובץ הועתק אל %1. התוכנית הזו תשנה אותו רק אחרי שתחליט מה לעשות.</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_REPAIR</source>
+        <translation>החלטה מה לעשות…</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_TITLE</source>
+        <translation>הרשימה שלך פגומה</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_READ</source>
+        <translation>לא ניתן לקרוא את הקובץ עם הרשימה שלך עד סופו. מספר הרשתות שניתן היה לקרוא: %1.</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_LAST</source>
+        <translation>הרשימה השלמה האחרונה היא מיום %1. מספר הרשתות בה: %2.</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_NO_LAST</source>
+        <translation>אין רשימה קודמת שניתן להחזיר.</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_COPY</source>
+        <translation>בכל בחירה, הקובץ הפגום נשמר בשם %1.</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_BRING_BACK</source>
+        <translation>החזרת הרשימה השלמה האחרונה</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_GO_ON</source>
+        <translation>להמשיך עם מה שניתן היה לקרוא</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_LEAVE</source>
+        <translation>להשאיר כפי שהוא</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_OPENED</source>
@@ -738,7 +782,7 @@
     </message>
     <message>
         <source>IDS_LIST_NOT_KEPT</source>
-        <translation>לא ניתן להעתיק את הקובץ הפגום %1 לשמירה, ולכן הוא נשאר כפי שהוא.</translation>
+        <translation>לא ניתן להעתיק את הקובץ הפגום %1 לשמירה, ולכן הוא נשאר כפי שהוא. בדוק אם הדיסק מלא או שהתיקייה מוגנת.</translation>
     </message>
     <message>
         <source>IDS_HISTORY_DAMAGED</source>

@@ -233,6 +233,10 @@
         <translation>リストを管理するプラグインを利用できないため、ネットワークをリストの先頭に移動できません。</translation>
     </message>
     <message>
+        <source>IDS_CONNECT_DAMAGED</source>
+        <translation>リスト全体を読み取れないため、ネットワークを先頭に移動しません。</translation>
+    </message>
+    <message>
         <source>IDS_CLOSE</source>
         <translation>閉じる</translation>
     </message>
@@ -362,7 +366,47 @@
     </message>
     <message>
         <source>IDS_LIST_DAMAGED</source>
-        <translation>リストのファイルが破損しています。破損箇所より前の内容を表示しています。設定でネットワークを追加すると、ファイルは新しく書き直されます。</translation>
+        <translation>リストのファイルが破損しています。破損箇所より前の内容だけを表示しています。</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_KEPT</source>
+        <translation>ファイルは %1 にコピーしました。対処を選択するまで、このプログラムはファイルを変更しません。</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_REPAIR</source>
+        <translation>対処を選択…</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_TITLE</source>
+        <translation>リストの破損</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_READ</source>
+        <translation>リストのファイルを最後まで読み取れません。読み取れたネットワークの数: %1</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_LAST</source>
+        <translation>完全だった最後のリストは %1 のものです。ネットワークの数: %2</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_NO_LAST</source>
+        <translation>元に戻せる以前のリストはありません。</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_COPY</source>
+        <translation>どれを選択しても、破損したファイルは %1 として残ります。</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_BRING_BACK</source>
+        <translation>最後の完全なリストに戻す</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_GO_ON</source>
+        <translation>読み取れた内容で続ける</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_LEAVE</source>
+        <translation>このままにする</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_OPENED</source>
@@ -739,7 +783,7 @@
     </message>
     <message>
         <source>IDS_LIST_NOT_KEPT</source>
-        <translation>壊れたファイル %1 を保管用にコピーできないため、そのままにしました。</translation>
+        <translation>壊れたファイル %1 を保管用にコピーできないため、そのままにしました。ディスクがいっぱいか、フォルダーが保護されていないか確認してください。</translation>
     </message>
     <message>
         <source>IDS_HISTORY_DAMAGED</source>

@@ -233,6 +233,10 @@ São permitidos letras, números e estes sinais:
         <translation>O plug-in que guarda a lista não está disponível, portanto nenhuma rede pode ser colocada no topo dela.</translation>
     </message>
     <message>
+        <source>IDS_CONNECT_DAMAGED</source>
+        <translation>A sua lista não pode ser lida por completo, portanto nenhuma rede é colocada no topo dela.</translation>
+    </message>
+    <message>
         <source>IDS_CLOSE</source>
         <translation>Fechar</translation>
     </message>
@@ -362,7 +366,47 @@ São permitidos letras, números e estes sinais:
     </message>
     <message>
         <source>IDS_LIST_DAMAGED</source>
-        <translation>O arquivo da sua lista está danificado. É exibido o que vem antes do dano; adicionar uma rede nas configurações grava o arquivo novamente.</translation>
+        <translation>O arquivo da sua lista está danificado. Só é exibido o que vem antes do dano.</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_KEPT</source>
+        <translation>O arquivo foi copiado para %1. Este programa só o altera depois que você decidir o que fazer.</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_REPAIR</source>
+        <translation>Decidir o que fazer…</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_TITLE</source>
+        <translation>A sua lista está danificada</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_READ</source>
+        <translation>O arquivo da sua lista não pode ser lido até o fim. Redes que puderam ser lidas: %1.</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_LAST</source>
+        <translation>A última lista completa é de %1. Redes nela: %2.</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_NO_LAST</source>
+        <translation>Não há lista anterior que possa ser recuperada.</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_COPY</source>
+        <translation>Seja qual for a escolha, o arquivo danificado é mantido como %1.</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_BRING_BACK</source>
+        <translation>Recuperar a última lista completa</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_GO_ON</source>
+        <translation>Continuar com o que pôde ser lido</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_LEAVE</source>
+        <translation>Deixar como está</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_OPENED</source>
@@ -739,7 +783,7 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_KEPT</source>
-        <translation>O arquivo danificado %1 não pode ser copiado por segurança, portanto não foi tocado.</translation>
+        <translation>O arquivo danificado %1 não pode ser copiado por segurança, portanto não foi tocado. Verifique se o disco está cheio ou a pasta protegida.</translation>
     </message>
     <message>
         <source>IDS_HISTORY_DAMAGED</source>

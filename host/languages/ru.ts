@@ -233,6 +233,10 @@
         <translation>Модуль, который хранит список, недоступен, поэтому поставить сеть на первое место нельзя.</translation>
     </message>
     <message>
+        <source>IDS_CONNECT_DAMAGED</source>
+        <translation>Ваш список не читается полностью, поэтому ни одна сеть не ставится на первое место.</translation>
+    </message>
+    <message>
         <source>IDS_CLOSE</source>
         <translation>Закрыть</translation>
     </message>
@@ -362,7 +366,47 @@
     </message>
     <message>
         <source>IDS_LIST_DAMAGED</source>
-        <translation>Файл с вашим списком повреждён. Показано то, что стоит до повреждённого места; при добавлении сети в настройках файл будет записан заново.</translation>
+        <translation>Файл с вашим списком повреждён. Показано только то, что стоит до повреждённого места.</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_KEPT</source>
+        <translation>Файл скопирован в %1. Программа изменит его только после того, как вы решите, что делать.</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_REPAIR</source>
+        <translation>Решить, что делать…</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_TITLE</source>
+        <translation>Ваш список повреждён</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_READ</source>
+        <translation>Файл с вашим списком не читается до конца. Прочитано сетей: %1.</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_LAST</source>
+        <translation>Последний целый список — от %1. Сетей в нём: %2.</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_NO_LAST</source>
+        <translation>Нет более раннего списка, который можно вернуть.</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_COPY</source>
+        <translation>Что бы вы ни выбрали, повреждённый файл сохранён как %1.</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_BRING_BACK</source>
+        <translation>Вернуть последний целый список</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_GO_ON</source>
+        <translation>Продолжить с тем, что прочитано</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_LEAVE</source>
+        <translation>Оставить как есть</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_OPENED</source>
@@ -739,7 +783,7 @@
     </message>
     <message>
         <source>IDS_LIST_NOT_KEPT</source>
-        <translation>Повреждённый файл %1 не удаётся скопировать на всякий случай, поэтому он не тронут.</translation>
+        <translation>Повреждённый файл %1 не удаётся скопировать на всякий случай, поэтому он не тронут. Проверьте, не заполнен ли диск и не защищён ли каталог.</translation>
     </message>
     <message>
         <source>IDS_HISTORY_DAMAGED</source>

@@ -233,6 +233,10 @@
         <translation>保存列表的插件不可用，因此无法将网络移到列表顶部。</translation>
     </message>
     <message>
+        <source>IDS_CONNECT_DAMAGED</source>
+        <translation>无法完整读取您的列表，因此不会将任何网络移到顶部。</translation>
+    </message>
+    <message>
         <source>IDS_CLOSE</source>
         <translation>关闭</translation>
     </message>
@@ -362,7 +366,47 @@
     </message>
     <message>
         <source>IDS_LIST_DAMAGED</source>
-        <translation>保存列表的文件已损坏。当前显示损坏位置之前的内容；在设置中添加网络后，该文件将重新写入。</translation>
+        <translation>保存列表的文件已损坏。仅显示损坏位置之前的内容。</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_KEPT</source>
+        <translation>该文件已复制到 %1。在您决定如何处理之前，本程序不会更改它。</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_REPAIR</source>
+        <translation>决定如何处理…</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_TITLE</source>
+        <translation>您的列表已损坏</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_READ</source>
+        <translation>保存列表的文件无法读取到末尾。能读取的网络数：%1。</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_LAST</source>
+        <translation>最后一个完整的列表是 %1 的。其中的网络数：%2。</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_NO_LAST</source>
+        <translation>没有可以恢复的早期列表。</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_COPY</source>
+        <translation>无论如何选择，损坏的文件都会保留为 %1。</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_BRING_BACK</source>
+        <translation>恢复最后一个完整的列表</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_GO_ON</source>
+        <translation>使用能读取的内容继续</translation>
+    </message>
+    <message>
+        <source>IDS_DAMAGE_LEAVE</source>
+        <translation>保持原样</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_OPENED</source>
@@ -739,7 +783,7 @@
     </message>
     <message>
         <source>IDS_LIST_NOT_KEPT</source>
-        <translation>损坏的文件 %1 无法复制留存，因此未作改动。</translation>
+        <translation>损坏的文件 %1 无法复制留存，因此未作改动。请检查磁盘是否已满或文件夹是否受保护。</translation>
     </message>
     <message>
         <source>IDS_HISTORY_DAMAGED</source>

@@ -1,5 +1,6 @@
 #include "Eventually.h"
 #include "Lists.h"
+#include "MessageReader.h"
 #include "PluginWorld.h"
 #include "ShiftedClock.h"
 
@@ -23,7 +24,6 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QTableWidget>
-#include <QTimer>
 #include <QtTest>
 
 #include <csignal>
@@ -32,34 +32,6 @@
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
-
-namespace
-{
-
-/** Answers the next message box with its first button, and keeps its text. */
-class MessageReader : public QObject
-{
-    Q_OBJECT
-
-public:
-    MessageReader() { QTimer::singleShot(0, this, SLOT(Look())); }
-
-    QString text;
-
-private slots:
-    void Look()
-    {
-        QWidget *box = QApplication::activeModalWidget();
-        if (!box || box->objectName() != "messageBox") {
-            QTimer::singleShot(5, this, SLOT(Look()));
-            return;
-        }
-        text = box->findChild<QLabel *>("messageText")->text();
-        QTest::mouseClick(box->findChild<QPushButton *>("messageButton1"), Qt::LeftButton);
-    }
-};
-
-} // namespace
 
 /** Undo, redo, restore, import and export as the user has them in the window, over the real plug-ins. */
 class ListActionsTest : public QObject

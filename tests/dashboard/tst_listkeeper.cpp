@@ -59,6 +59,16 @@ private slots:
     void EverybodyIsToldOfAnUndo();
     void RemovedFileIsAnEmptyListAndComesBack();
     void DamagedListIsNoStateAndUndoRepairsIt();
+    void DamagedListIsCopiedAsSoonAsItIsSeen();
+    void EachDifferentDamageIsKept();
+    void NothingWritesADamagedListThatCannotBeCopied();
+    void DamageMadeByAnotherInTheMiddleOfItsWorkIsNotCopied();
+    void LastWholeListIsBroughtBack();
+    void WhatCouldBeReadBecomesTheList();
+    void OtherEntriesThanWereSeenDoNotBecomeTheList();
+    void WholeListIsNotMended();
+    void WhatCouldBeReadBecomesTheListWithoutAHistory_data();
+    void WhatCouldBeReadBecomesTheListWithoutAHistory();
     void ListThatCannotBeOpenedIsLeftAlone();
     void AwkwardNamesAreNoEndlessChange();
     void WithoutThePluginNothingCanBeDone();
@@ -97,6 +107,15 @@ private:
     /** All states, newest last, with the one in force in brackets and those passed by in round ones. */
     QString History() const { return History(*m_keeper); }
     static QString History(const ListKeeper &keeper);
+    /** Writes the list, cut off in the last entry; the bytes of that. */
+    QByteArray WriteDamaged(const QString &entries) const
+    {
+        const QByteArray whole = OrderFile::Document(Listed(entries));
+        const QByteArray damaged = whole.left(whole.lastIndexOf("<item") + 8);
+        m_world.Write("Priority.xml", damaged);
+        return damaged;
+    }
+    QStringList Copies() const { return QDir(UserData()).entryList(QStringList("Priority-*"), QDir::Files); }
     void StartAnew() { m_keeper.reset(new ListKeeper(UserData(), nullptr)); }
 
     PluginWorld m_world;
@@ -500,6 +519,169 @@ void ListKeeperTest::DamagedListIsNoStateAndUndoRepairsIt()
     QCOMPARE(History(), QString(" | A, B, C | [D, A, B]"));
 }
 
+void ListKeeperTest::DamagedListIsCopiedAsSoonAsItIsSeen()
+{
+    const QByteArray damaged = WriteDamaged("A, B, C");
+    StartAnew();
+    QVERIFY(m_keeper->IsDamaged());
+    QCOMPARE(m_keeper->CopyPath(), UserData() + "Priority-damaged-1.xml");
+    QCOMPARE(m_world.Read("Priority-damaged-1.xml"), damaged);
+    QVERIFY(m_keeper->WriteObstacle().isNull());
+    QCOMPARE(ListBytes(), damaged);
+    // So another plug-in can do what it likes.
+    AddTop("D");
+    m_keeper->Follow();
+    QVERIFY(!m_keeper->IsDamaged());
+    QVERIFY(m_keeper->CopyPath().isNull());
+    QCOMPARE(m_world.Read("Priority-damaged-1.xml"), damaged);
+}
+
+void ListKeeperTest::EachDifferentDamageIsKept()
+{
+    const QByteArray first = WriteDamaged("A, B, C");
+    m_keeper->Follow();
+    m_keeper->Follow();
+    const QByteArray second = WriteDamaged("A, B, C, D");
+    m_keeper->Follow();
+    WriteDamaged("A, B, C");
+    m_keeper->Follow();
+    QCOMPARE(Copies(), QStringList() << "Priority-damaged-1.xml"
+                                     << "Priority-damaged-2.xml");
+    QCOMPARE(m_keeper->CopyPath(), UserData() + "Priority-damaged-1.xml");
+    QCOMPARE(m_world.Read("Priority-damaged-1.xml"), first);
+    QCOMPARE(m_world.Read("Priority-damaged-2.xml"), second);
+}
+
+void ListKeeperTest::NothingWritesADamagedListThatCannotBeCopied()
+{
+    WriteList("A, B, C");
+    m_keeper->Follow();
+    const QByteArray damaged = WriteDamaged("A, B, C");
+    // A directory where the new file is made: nothing can be written there.
+    const QString blocked = PrivateFile::TemporaryPath(UserData() + "Priority-damaged-1.xml");
+    QVERIFY(QDir().mkdir(blocked));
+    m_keeper->Follow();
+    const QString reason = m_keeper->WriteObstacle();
+    QVERIFY2(Plain(reason).contains("Priority.xml cannot be copied for safekeeping"), qPrintable(reason));
+    QCOMPARE(m_keeper->Undo(), reason);
+    QCOMPARE(m_keeper->BringBack(), reason);
+    QCOMPARE(m_keeper->GoOnWith(Listed("A, B")), reason);
+    QCOMPARE(m_keeper->Replace(Listed("Z")), reason);
+    QCOMPARE(ListBytes(), damaged);
+    QCOMPARE(History(), QString(" | [A, B, C]"));
+    QVERIFY(QDir().rmdir(blocked));
+    m_keeper->Follow();
+    QVERIFY(m_keeper->WriteObstacle().isNull());
+    QCOMPARE(m_world.Read("Priority-damaged-1.xml"), damaged);
+    QCOMPARE(m_keeper->Undo(), QString());
+    QCOMPARE(Stored(), QString("A, B, C"));
+}
+
+void ListKeeperTest::DamageMadeByAnotherInTheMiddleOfItsWorkIsNotCopied()
+{
+    {
+        const ListLock command(UserData(), ListLock::Changing, 0);
+        WriteDamaged("A, B, C");
+        m_keeper->Follow();
+        QVERIFY(Copies().isEmpty());
+        const QString busy = "Another program is working with the list. Try again in a moment.";
+        QCOMPARE(m_keeper->WriteObstacle(), busy);
+        QCOMPARE(m_keeper->BringBack(), busy);
+        QCOMPARE(m_keeper->GoOnWith(Listed("A, B")), busy);
+        WriteList("A, B, C");
+    }
+    m_keeper->Follow();
+    QVERIFY(Copies().isEmpty());
+    QVERIFY(m_keeper->WriteObstacle().isNull());
+}
+
+void ListKeeperTest::LastWholeListIsBroughtBack()
+{
+    WriteList("A, B, C");
+    m_keeper->Follow();
+    WriteList("A, B, C, D");
+    m_keeper->Follow();
+    QCOMPARE(m_keeper->Undo(), QString());
+    WriteDamaged("A, B");
+    m_keeper->Follow();
+    QVERIFY(m_keeper->CanBringBack());
+    QCOMPARE(m_keeper->BringBack(), QString());
+    QCOMPARE(Stored(), QString("A, B, C"));
+    QCOMPARE(History(), QString(" | [A, B, C] | A, B, C, D"));
+    QVERIFY(!m_keeper->CanBringBack());
+}
+
+void ListKeeperTest::WhatCouldBeReadBecomesTheList()
+{
+    WriteList("A, B, C");
+    m_keeper->Follow();
+    WriteDamaged("A, B, C");
+    m_keeper->Follow();
+    QSignalSpy spy(PluginObjects::PriorityService(), SIGNAL(OnUpdataPriorityView()));
+    QCOMPARE(m_keeper->GoOnWith(Listed("A, B")), QString());
+    QCOMPARE(spy.count(), 1);
+    QCOMPARE(ListBytes(), OrderFile::Document(Listed("A, B")));
+    QCOMPARE(History(), QString(" | A, B, C | [A, B]"));
+    QCOMPARE(m_keeper->Undo(), QString());
+    QCOMPARE(Stored(), QString("A, B, C"));
+}
+
+void ListKeeperTest::OtherEntriesThanWereSeenDoNotBecomeTheList()
+{
+    WriteDamaged("A, B, C");
+    m_keeper->Follow();
+    const QByteArray damaged = WriteDamaged("A, B");
+    QVERIFY(!m_keeper->GoOnWith(Listed("A, B")).isNull());
+    QCOMPARE(ListBytes(), damaged);
+    QCOMPARE(m_keeper->GoOnWith(Listed("A")), QString());
+    QCOMPARE(Stored(), QString("A"));
+}
+
+void ListKeeperTest::WholeListIsNotMended()
+{
+    WriteList("A, B");
+    m_keeper->Follow();
+    WriteDamaged("A, B, C");
+    m_keeper->Follow();
+    // Somebody else was faster.
+    WriteList("A, B, C");
+    QSignalSpy spy(PluginObjects::PriorityService(), SIGNAL(OnUpdataPriorityView()));
+    QCOMPARE(m_keeper->BringBack(), QString());
+    QCOMPARE(Stored(), QString("A, B, C"));
+    QCOMPARE(m_keeper->GoOnWith(Listed("A, B")), QString());
+    QCOMPARE(Stored(), QString("A, B, C"));
+    QCOMPARE(spy.count(), 0);
+    QCOMPARE(History(), QString(" | A, B | [A, B, C]"));
+}
+
+void ListKeeperTest::WhatCouldBeReadBecomesTheListWithoutAHistory_data()
+{
+    QTest::addColumn<QByteArray>("history");
+    QTest::newRow("none") << QByteArray();
+    QTest::newRow("damaged") << QByteArray("nonsense");
+}
+
+void ListKeeperTest::WhatCouldBeReadBecomesTheListWithoutAHistory()
+{
+    QFETCH(QByteArray, history);
+    QVERIFY(QFile::remove(UserData() + "history/states.xml"));
+    if (!history.isEmpty()) {
+        m_world.Write("history/states.xml", history);
+    }
+    WriteDamaged("A, B, C");
+    StartAnew();
+    QVERIFY(!m_keeper->CanBringBack());
+    QVERIFY(!m_keeper->BringBack().isNull());
+    QCOMPARE(m_keeper->GoOnWith(Listed("A, B")), QString());
+    QCOMPARE(Stored(), QString("A, B"));
+    QVERIFY(!m_keeper->IsDamaged());
+    if (history.isEmpty()) {
+        QCOMPARE(History(), QString("[A, B]"));
+    } else {
+        QCOMPARE(m_world.Read("history/states.xml"), history);
+    }
+}
+
 void ListKeeperTest::ListThatCannotBeOpenedIsLeftAlone()
 {
     AddTop("A");
@@ -509,6 +691,7 @@ void ListKeeperTest::ListThatCannotBeOpenedIsLeftAlone()
     m_keeper->Follow();
     QCOMPARE(History(), QString(" | [A]"));
     QVERIFY(m_keeper->UndoObstacle().contains("be opened"));
+    QVERIFY(m_keeper->WriteObstacle().contains("be opened"));
     QVERIFY(!m_keeper->Undo().isNull());
     QVERIFY(QDir(ListPath()).exists());
 }

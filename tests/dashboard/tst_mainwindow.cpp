@@ -24,6 +24,7 @@
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QTableWidget>
 #include <QtTest>
 
@@ -68,6 +69,7 @@ private slots:
     void ExplanationTellsWhyNotThoseAbove();
     void NothingInRangeIsToldWithAHint();
     void ChangeOfTheRangeIsFollowed();
+    void RangeIsNotFollowedWhileTheWindowIsMinimised();
     void ChosenRowStaysChosen();
     void AppearanceMenuSwitchesAndIsKept();
     void ChangeThroughThePluginIsShownAtOnce();
@@ -278,6 +280,27 @@ void MainWindowTest::ChangeOfTheRangeIsFollowed()
     QCOMPARE(States(), QStringList() << "Out of range" << QString::fromUtf8("In use now · 70%"));
 }
 
+void MainWindowTest::RangeIsNotFollowedWhileTheWindowIsMinimised()
+{
+    WriteList(ListFile(QStringList() << "Home"
+                                     << "Library"));
+    m_window->Refresh();
+    m_window->showMinimized();
+    QTimer *timer = m_window->findChild<QTimer *>("rangeTimer");
+    timer->setInterval(10);
+    QFile networks(m_directory->FilePath("priority-dashboard/WLANNetworks.xml"));
+    QVERIFY(networks.open(QIODevice::WriteOnly));
+    networks.write("<wlannetworks><network name=\"Library\" signal=\"70\"/></wlannetworks>");
+    networks.close();
+    QSignalSpy ticks(timer, SIGNAL(timeout()));
+    QVERIFY(Eventually([&ticks]() { return ticks.count() >= 5; }));
+    QCOMPARE(Plain(Text("headlineLabel")), QString("In use now: Home"));
+    // At once, and not with the next tick.
+    timer->stop();
+    m_window->showNormal();
+    QCOMPARE(Plain(Text("headlineLabel")), QString("In use now: Library"));
+}
+
 void MainWindowTest::ChosenRowStaysChosen()
 {
     WriteList(ListFile(QStringList() << "Office"
@@ -441,7 +464,7 @@ void MainWindowTest::OpenPageFollowsAConnection()
     m_window->OpenSettings();
     const QTableWidget *table = m_window->findChild<QTableWidget *>("priorityTable");
     QCOMPARE(table->rowCount(), 1);
-    QVERIFY(ConnectDialog::Connect("Home"));
+    QCOMPARE(int(ConnectDialog::Connect("Home")), int(ConnectDialog::Done));
     QCOMPARE(table->rowCount(), 2);
     QCOMPARE(table->cellWidget(0, 0)->accessibleName(), QString("Home"));
 

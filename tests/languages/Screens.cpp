@@ -160,6 +160,10 @@ const Screens::Screen Screens::screens[] = {
     {"list, damaged from the start", &Screens::ShowListFile, "no list"},
     {"list, to be undone and redone", &Screens::ShowHistory, nullptr},
     {"list, damaged, to be undone", &Screens::ShowHistory, damagedList},
+    {"list, damaged, not copied", &Screens::ShowListNotCopied, nullptr},
+    {"question, damaged list", &Screens::ShowDamageQuestion, "with history"},
+    {"question, damaged list without an earlier one", &Screens::ShowDamageQuestion, nullptr},
+    {"question, damaged list, not written", &Screens::ShowDamageNotMended, nullptr},
     {"history, not well-formed", &Screens::ShowHistoryFile, "no history"},
     {"history, declaration", &Screens::ShowHistoryFile, "<!DOCTYPE a><listhistory/>"},
     {"history, another element", &Screens::ShowHistoryFile, "<z/>"},
@@ -171,7 +175,6 @@ const Screens::Screen Screens::screens[] = {
     {"history, not writable", &Screens::ShowHistoryNotWritable, nullptr},
     {"undo, history held by another", &Screens::ShowUndoOfHeldHistory, nullptr},
     {"undo, list not written", &Screens::ShowUndoNotWritten, nullptr},
-    {"undo, damaged list not kept", &Screens::ShowUndoOfListNotKept, nullptr},
     {"restore dialog", &Screens::ShowRestore, "4"},
     {"restore dialog, list as it is", &Screens::ShowRestore, "12"},
     {"restore dialog, list like now", &Screens::ShowRestore, "14"},
@@ -249,6 +252,7 @@ const Screens::Screen Screens::screens[] = {
     {"connect dialog, nothing in range", &Screens::ShowConnect, noNetworks},
     {"connect dialog, Wi-Fi plug-in missing", &Screens::ShowConnectWithout, "WLAN"},
     {"connect dialog, priority plug-in missing", &Screens::ShowConnectWithout, "priority"},
+    {"connect dialog, list damaged", &Screens::ShowConnectOfDamagedList, nullptr},
     {"language file damaged", &Screens::ShowDamagedLanguage, "damaged"},
     {"language file without texts", &Screens::ShowDamagedLanguage, "empty"},
     {"language file not readable", &Screens::ShowDamagedLanguage, "unreadable"},
@@ -558,6 +562,16 @@ void Screens::ShowConnectWithout(const char *plugin)
     Visit();
 }
 
+void Screens::ShowConnectOfDamagedList(const char *)
+{
+    Fill();
+    OpenWindow(m_plugins.data());
+    Click("connectButton");
+    WriteUserFile(QLatin1String("Priority.xml"), damagedList);
+    Click("connectOkButton");
+    Visit();
+}
+
 void Screens::ShowDamagedLanguage(const char *kind)
 {
     QDir().mkdir(m_directory->FilePath(QLatin1String("languages")));
@@ -639,13 +653,34 @@ void Screens::ShowUndoNotWritten(const char *)
     ClickAndVisitMessage("undoButton");
 }
 
-void Screens::ShowUndoOfListNotKept(const char *)
+void Screens::ShowListNotCopied(const char *)
 {
-    KeepHistory(States(), stateInForce);
+    TakeNames("Priority-damaged-%1.xml");
+    ShowListFile(damagedList);
+}
+
+void Screens::OpenDamageQuestion(const char *history)
+{
+    if (history) {
+        KeepHistory(States(), stateInForce);
+    }
     WriteUserFile(QLatin1String("Priority.xml"), damagedList);
     OpenWindow(m_plugins.data());
-    TakeNames("Priority-damaged-%1.xml");
-    ClickAndVisitMessage("undoButton");
+    Click("repairButton");
+}
+
+void Screens::ShowDamageQuestion(const char *history)
+{
+    OpenDamageQuestion(history);
+    Visit();
+}
+
+void Screens::ShowDamageNotMended(const char *)
+{
+    OpenDamageQuestion("with history");
+    QDir().mkdir(PrivateFile::TemporaryPath(UserPath(QLatin1String("Priority.xml"))));
+    Click("damageBringBackButton");
+    Visit();
 }
 
 void Screens::ShowRestore(const char *place)

@@ -76,6 +76,7 @@ private:
     void ShowStoringNotice(const char *id);
     void ShowConnect(const char *networksInRange);
     void ShowConnectWithout(const char *plugin);
+    void ShowConnectOfDamagedList(const char *);
     void ShowDamagedLanguage(const char *kind);
     void ShowHistory(const char *listFile);
     void ShowHistoryFile(const char *content);
@@ -84,7 +85,9 @@ private:
     void ShowHistoryNotWritable(const char *);
     void ShowUndoOfHeldHistory(const char *);
     void ShowUndoNotWritten(const char *);
-    void ShowUndoOfListNotKept(const char *);
+    void ShowListNotCopied(const char *);
+    void ShowDamageQuestion(const char *history);
+    void ShowDamageNotMended(const char *);
     void ShowRestore(const char *place);
     void ShowRestoreNotWritten(const char *);
     void ShowRestoreOfLostState(const char *);
@@ -98,6 +101,7 @@ private:
     void OpenWindow(PluginHost *plugins);
     void OpenPage();
     void OpenNewDialog(const char *method);
+    void OpenDamageQuestion(const char *history);
     void OpenRestore(int place);
     void OpenImport(const char *names);
     void CallAndVisitMessage(const char *listAction, const QString &path);
