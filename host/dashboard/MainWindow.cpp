@@ -412,7 +412,7 @@ void MainWindow::ShowProblems()
     for (int i = 0; i < m_languageProblems.size(); ++i) {
         problems.append(DashboardLanguage::ProblemText(m_languageProblems.at(i)));
     }
-    m_repairButton->setVisible(m_keeper->IsDamaged());
+    m_repairButton->setVisible(m_keeper->IsDamaged() && m_keeper->WriteObstacle().isNull());
     if (m_keeper->IsDamaged()) {
         problems.append(DamageText());
     } else if (m_overview.status == PriorityNotOpened) {
