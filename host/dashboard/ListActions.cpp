@@ -114,8 +114,11 @@ void ListActions::Update()
     SetHelp(m_restore, canOpen ? DashboardText("IDS_RESTORE_HINT") : obstacle);
     m_import->setEnabled(obstacle.isNull());
     SetHelp(m_import, obstacle.isNull() ? DashboardText("IDS_IMPORT_HINT") : obstacle);
-    m_export->setEnabled(obstacle.isNull());
-    SetHelp(m_export, obstacle.isNull() ? DashboardText("IDS_EXPORT_HINT") : obstacle);
+    // What can be read of a damaged list would pass for all of it, and take the place of a file that has all.
+    const QString exportObstacle =
+        obstacle.isNull() && m_keeper->IsDamaged() ? DashboardText("IDS_LIST_DAMAGED") : obstacle;
+    m_export->setEnabled(exportObstacle.isNull());
+    SetHelp(m_export, exportObstacle.isNull() ? DashboardText("IDS_EXPORT_HINT") : exportObstacle);
     if (m_lastChange) {
         m_lastChange->SetFullText(m_keeper->LastChangeText());
     }

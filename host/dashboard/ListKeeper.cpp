@@ -187,7 +187,7 @@ QString ListKeeper::RedoObstacle() const
     if (!obstacle.isNull()) {
         return obstacle;
     }
-    if (IsDamaged()) {
+    if (CanBringBack()) {
         return DashboardText("IDS_REDO_DAMAGED");
     }
     return m_history.RedoPlace() >= 0 ? QString() : DashboardText("IDS_REDO_NOTHING");

@@ -64,6 +64,7 @@ private slots:
     void FailureIsTold();
     void OrderIsExported();
     void ExportHasNoSecrets();
+    void DamagedListIsNotExported();
     void ExportThatCannotBeWrittenIsTold();
     void OrderIsImportedAndTheImportUndone();
     void FileThatIsNoOrderIsToldWithItsLine_data();
@@ -413,6 +414,8 @@ void ListActionsTest::UndoIsNoHelpForAListNeverRead()
     const QString told = Label("problemsLabel");
     QVERIFY2(told.contains("is damaged") && !told.contains("brings back"), qPrintable(told));
     QVERIFY(!Button("undoButton")->isEnabled());
+    QVERIFY2(!Button("redoButton")->toolTip().contains("brings back"),
+             qPrintable(Button("redoButton")->toolTip()));
 }
 
 void ListActionsTest::FailureIsTold()
@@ -449,6 +452,18 @@ void ListActionsTest::ExportHasNoSecrets()
     QVERIFY(exported.contains("Home"));
     QVERIFY(!exported.contains("sesame"));
     QVERIFY(!m_world.Read("history/states.xml").contains("sesame"));
+}
+
+void ListActionsTest::DamagedListIsNotExported()
+{
+    PluginWorld::AddTop("Home");
+    m_world.Write("Priority.xml", m_world.Read("Priority.xml").replace("</zeltdoc>", ""));
+    m_window->Refresh();
+    QVERIFY(!Action("exportAction")->isEnabled());
+    QVERIFY2(Action("exportAction")->whatsThis().contains("is damaged"),
+             qPrintable(Action("exportAction")->whatsThis()));
+    Click("undoButton");
+    QVERIFY(Action("exportAction")->isEnabled());
 }
 
 void ListActionsTest::ExportThatCannotBeWrittenIsTold()
