@@ -7,6 +7,8 @@
  * function-like macro.
  */
 
+#include <QAbstractItemView>
+#include <QApplication>
 #include <QComboBox>
 #include <QImage>
 #include <QLibraryInfo>
@@ -156,6 +158,17 @@ inline QImage ImageFor(const QWidget *widget, const QSize &size)
     return image;
 }
 
+/** Gives the keyboard to a window, before this returns where the window system is quick enough. */
+inline void ActivateWindow(QWidget *window)
+{
+#if QT_VERSION >= 0x060500
+    window->activateWindow();
+    QGuiApplication::sync();
+#else
+    QApplication::setActiveWindow(window);
+#endif
+}
+
 /** Where the mouse was, in the screen's coordinates. */
 inline QPoint GlobalPosition(const QMouseEvent *event)
 {
@@ -168,13 +181,23 @@ inline QPoint GlobalPosition(const QMouseEvent *event)
 
 /**
  * Calls receiver's slot, which takes a QString, with the text of every item of a box that can't be edited:
- * when the user's choice moves over the item, and when it becomes the current one.
+ * when the user's choice moves over the item in the open list, and when it becomes the current one.
  */
 inline void ConnectItemTexts(QComboBox *box, QObject *receiver, const char *slot)
 {
 #if QT_VERSION >= 0x060000
-    QObject::connect(box, SIGNAL(textHighlighted(QString)), receiver, slot);
-    QObject::connect(box, SIGNAL(currentTextChanged(QString)), receiver, slot);
+    // The signals with texts can't be relied upon: that of a moving choice comes for a closed list, too, and
+    // that of the current text not for another item of the same text.
+    const QByteArray signature(slot);
+    const QByteArray name = signature.mid(1, signature.indexOf('(') - 1);
+    QObject::connect(box, &QComboBox::textHighlighted, receiver, [box, receiver, name](const QString &text) {
+        if (box->view()->isVisible()) {
+            QMetaObject::invokeMethod(receiver, name.constData(), Q_ARG(QString, text));
+        }
+    });
+    QObject::connect(box, &QComboBox::currentIndexChanged, receiver, [box, receiver, name](int index) {
+        QMetaObject::invokeMethod(receiver, name.constData(), Q_ARG(QString, box->itemText(index)));
+    });
 #else
     QObject::connect(box, SIGNAL(highlighted(QString)), receiver, slot);
     QObject::connect(box, SIGNAL(currentIndexChanged(QString)), receiver, slot);

@@ -8,6 +8,7 @@
 #include <QMouseEvent>
 #include <QPointer>
 #include <QTableWidget>
+#include <ToolkitCompat.h>
 
 namespace
 {
@@ -40,9 +41,19 @@ QString Obstacle(const QWidget *widget)
 
 void SendMouse(QEvent::Type type, QWidget *target, const QPoint &position)
 {
-    const Qt::MouseButtons held = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
-    QMouseEvent event(type, position, target->mapToGlobal(position), Qt::LeftButton, held, Qt::NoModifier);
+    const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+    const Qt::MouseButtons held = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
+    QMouseEvent event(type, position, target->mapToGlobal(position), button, held, Qt::NoModifier);
     QApplication::sendEvent(target, &event);
+}
+
+/** A menu takes a click for its own only when the mouse has come to it from where it was opened. */
+void MoveAlong(QWidget *menu, const QPoint &position)
+{
+    const int steps = 8;
+    for (int i = 0; i < steps; ++i) {
+        SendMouse(QEvent::MouseMove, menu, position - QPoint(0, steps - 1 - i));
+    }
 }
 
 /** What a window manager does: a dialog that closes leaves the keyboard to the window before it. */
@@ -50,7 +61,7 @@ void ActivateWindowOf(QWidget *widget)
 {
     const bool isPopup = (widget->window()->windowFlags() & Qt::WindowType_Mask) == Qt::Popup;
     if (QApplication::activeWindow() != widget->window() && !isPopup) {
-        QApplication::setActiveWindow(widget->window());
+        ToolkitCompat::ActivateWindow(widget->window());
     }
 }
 
@@ -137,6 +148,7 @@ QString UserActions::ChooseFromMenu(QMenu *menu, QAction *action)
         problem = QString::fromLatin1("%1 is disabled").arg(action->objectName());
     }
     if (problem.isNull()) {
+        MoveAlong(menu, menu->actionGeometry(action).center());
         problem = ClickAt(menu, menu->actionGeometry(action).center());
     }
     if (menu->isVisible()) {

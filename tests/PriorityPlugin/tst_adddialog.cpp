@@ -1,5 +1,6 @@
 #include "DialogScene.h"
 
+#include <ToolkitCompat.h>
 #include <TraceCapture.h>
 
 #include <QApplication>
@@ -391,7 +392,7 @@ void tst_AddDialog::keysReachEveryRow()
     Remember(names);
     m_scene.Open("addButton");
     QWidget *dialog = m_scene.Find<QWidget>("addDialog");
-    QApplication::setActiveWindow(dialog);
+    ToolkitCompat::ActivateWindow(dialog);
     for (int row = 0; row < 20; ++row) {
         QCOMPARE(dialog->focusWidget(), static_cast<QWidget *>(CheckBox(row)));
         QVERIFY(Table()->viewport()->rect().contains(

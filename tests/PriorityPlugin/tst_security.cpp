@@ -26,6 +26,7 @@ private slots:
     void methodsAreFilledInAsAWhole_data();
     void methodsAreFilledInAsAWhole();
     void methodsGrowUpToSix();
+    void methodsGrowOnceForEachChoice();
     void otherBoxesNeverGrow();
     void noMethods();
     void firstMethodIsSetUp();
@@ -262,6 +263,15 @@ void tst_Security::methodsGrowUpToSix()
     QCOMPARE(Items("authenticationBox"), QString("open,shared,open,shared,open,shared"));
     m_body->onHighLighted("open");
     QCOMPARE(Box("authenticationBox")->count(), 6);
+}
+
+void tst_Security::methodsGrowOnceForEachChoice()
+{
+    Build("open");
+    QCOMPARE(Items("authenticationBox"), QString("open,open"));
+    QTest::keyClick(Box("authenticationBox"), Qt::Key_Down);
+    QCOMPARE(Box("authenticationBox")->currentIndex(), 1);
+    QCOMPARE(Items("authenticationBox"), QString("open,open,open"));
 }
 
 void tst_Security::otherBoxesNeverGrow()

@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QtTest>
+#include <ToolkitCompat.h>
 
 namespace
 {
@@ -26,7 +27,7 @@ bool IsControl(const QWidget *widget)
 QList<QWidget *> TabStops::Walk(QWidget *window, bool isForward)
 {
     QList<QWidget *> stops;
-    QApplication::setActiveWindow(window);
+    ToolkitCompat::ActivateWindow(window);
     if (!window->focusWidget()) {
         QTest::keyClick(window, Qt::Key_Tab);
     }

@@ -5,6 +5,7 @@
 #include <FakeWLAN.h>
 #include <HostControl.h>
 #include <IPluginContainer.h>
+#include <ToolkitCompat.h>
 
 #include <QApplication>
 #include <QLabel>
@@ -120,7 +121,7 @@ void ConnectDialogTest::Open()
 {
     m_dialog.reset(new ConnectDialog(nullptr));
     m_dialog->show();
-    QApplication::setActiveWindow(m_dialog.data());
+    ToolkitCompat::ActivateWindow(m_dialog.data());
 }
 
 QStringList ConnectDialogTest::Column(int column) const

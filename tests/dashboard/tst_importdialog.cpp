@@ -4,6 +4,7 @@
 #include <DashboardLanguage.h>
 #include <ImportDialog.h>
 #include <ListKeeper.h>
+#include <ToolkitCompat.h>
 
 #include <QApplication>
 #include <QLabel>
@@ -76,7 +77,7 @@ void ImportDialogTest::Open(const QString &entries)
 {
     m_dialog.reset(new ImportDialog(m_keeper.data(), Listed(entries), nullptr));
     m_dialog->show();
-    QApplication::setActiveWindow(m_dialog.data());
+    ToolkitCompat::ActivateWindow(m_dialog.data());
 }
 
 QStringList ImportDialogTest::Rows() const

@@ -5,6 +5,7 @@
 #include <HostControl.h>
 #include <MainWindow.h>
 #include <TextPattern.h>
+#include <ToolkitCompat.h>
 #include <TraceLog.h>
 
 #include <Change.h>
@@ -62,7 +63,7 @@ bool ActivateFront(QWidget *window)
 {
     QWidget *front = QApplication::activeModalWidget() ? QApplication::activeModalWidget() : window;
     if (QApplication::activeWindow() != front) {
-        QApplication::setActiveWindow(front);
+        ToolkitCompat::ActivateWindow(front);
     }
     return Eventually(
         [front] { return QApplication::focusWidget() && QApplication::focusWidget()->window() == front; });

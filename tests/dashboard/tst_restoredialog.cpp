@@ -4,6 +4,7 @@
 #include <DashboardLanguage.h>
 #include <ListKeeper.h>
 #include <RestoreDialog.h>
+#include <ToolkitCompat.h>
 
 #include <QApplication>
 #include <QLabel>
@@ -97,7 +98,7 @@ void RestoreDialogTest::Open()
 {
     m_dialog.reset(new RestoreDialog(m_keeper.data(), nullptr));
     m_dialog->show();
-    QApplication::setActiveWindow(m_dialog.data());
+    ToolkitCompat::ActivateWindow(m_dialog.data());
 }
 
 QStringList RestoreDialogTest::Cells(int column) const
