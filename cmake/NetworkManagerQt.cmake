@@ -1,17 +1,20 @@
-# NetworkManagerQt, for the WLAN plug-in over NetworkManager. PRIORITY_HAS_NETWORKMANAGER tells whether it is there:
-# Debian has it for Qt 5 only, and in a package of its own.
+# NetworkManagerQt, for the WLAN plug-in over NetworkManager: the target PriorityNetworkManagerQt, where there is one.
+# PRIORITY_HAS_NETWORKMANAGER tells whether. The generations of its library have the numbers of Qt's.
 
 set(PRIORITY_HAS_NETWORKMANAGER OFF)
-if(NOT PRIORITY_QT EQUAL 5)
-    message(STATUS "WLANNetworkManager is left out: NetworkManagerQt is for Qt 5, and this build for Qt ${PRIORITY_QT}")
+if(PRIORITY_QT EQUAL 4)
+    message(STATUS "WLANNetworkManager is left out: there is no NetworkManagerQt for Qt 4")
     return()
 endif()
 
-# Both have to be known before the package is looked for.
-find_package(Qt5 5.15 QUIET COMPONENTS DBus Network)
-find_package(KF5NetworkManagerQt QUIET)
-if(KF5NetworkManagerQt_FOUND)
+# Both components have to be known before the package is looked for.
+find_package(Qt${PRIORITY_QT} QUIET COMPONENTS DBus Network)
+find_package(KF${PRIORITY_QT}NetworkManagerQt QUIET)
+if(KF${PRIORITY_QT}NetworkManagerQt_FOUND)
     set(PRIORITY_HAS_NETWORKMANAGER ON)
+    add_library(PriorityNetworkManagerQt INTERFACE)
+    target_link_libraries(PriorityNetworkManagerQt INTERFACE KF${PRIORITY_QT}::NetworkManagerQt)
 else()
-    message(STATUS "WLANNetworkManager is left out: NetworkManagerQt is missing, install libkf5networkmanagerqt-dev")
+    message(STATUS "WLANNetworkManager is left out: NetworkManagerQt for Qt ${PRIORITY_QT} is missing; "
+        "its package is libkf${PRIORITY_QT}networkmanagerqt-dev")
 endif()

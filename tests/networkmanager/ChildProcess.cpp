@@ -3,7 +3,6 @@
 #include <QFileInfo>
 
 #include <csignal>
-#include <sys/prctl.h>
 
 ChildProcess::ChildProcess() : m_isFrozen(false) {}
 
@@ -16,7 +15,8 @@ bool ChildProcess::Begin(const QString &program, const QStringList &arguments, c
 {
     setStandardOutputFile(logFile, QIODevice::Append);
     setStandardErrorFile(logFile, QIODevice::Append);
-    start(program, arguments);
+    start("setpriv", QStringList() << "--pdeathsig"
+                                   << "KILL" << program << arguments);
     return waitForStarted();
 }
 
@@ -64,9 +64,4 @@ QString ChildProcess::Find(const QString &program)
         }
     }
     return QString();
-}
-
-void ChildProcess::setupChildProcess()
-{
-    prctl(PR_SET_PDEATHSIG, SIGKILL);
 }

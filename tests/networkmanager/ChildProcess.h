@@ -28,9 +28,6 @@ public:
 
     static QString Find(const QString &program);
 
-protected:
-    void setupChildProcess() override;
-
 private:
     bool m_isFrozen;
 };

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 #include <QtTest>
 
 namespace
@@ -120,7 +121,8 @@ QStringList NetworkManagerDaemon::KeyfilesWith(const QByteArray &text) const
 
 QByteArray NetworkManagerDaemon::Keyfile(const QString &name) const
 {
-    const QStringList files = Keyfiles().filter(QRegExp("^" + QRegExp::escape(name) + "\\b.*"));
+    const QStringList files =
+        Keyfiles().filter(QRegularExpression("^" + QRegularExpression::escape(name) + "\\b.*"));
     QFile file(m_bus->Path("profiles/" + files.value(0)));
     return files.size() == 1 && file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }

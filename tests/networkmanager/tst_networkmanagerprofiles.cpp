@@ -28,7 +28,7 @@ QStringList Texts(const QVariantMap &section)
 {
     QStringList texts;
     for (QVariantMap::const_iterator i = section.constBegin(); i != section.constEnd(); ++i) {
-        const bool isList = i.value().type() == QVariant::StringList;
+        const bool isList = i.value().userType() == QMetaType::QStringList;
         texts.append(i.key() + "=" + (isList ? i.value().toStringList().join(",") : i.value().toString()));
     }
     return texts;

@@ -3,6 +3,7 @@
 #include "TimeLimit.h"
 
 #include <NetworkManagerQt/GenericTypes>
+#include <NetworkManagerQt/Setting>
 
 #include <QDBusError>
 #include <QDBusMetaType>
@@ -42,52 +43,52 @@ CNetworkManagerClient::~CNetworkManagerClient() = default;
 
 QString CNetworkManagerClient::ServiceName()
 {
-    return QLatin1String("org.freedesktop.NetworkManager");
+    return QLatin1String(NM_DBUS_SERVICE);
 }
 
 QString CNetworkManagerClient::ManagerPath()
 {
-    return QLatin1String("/org/freedesktop/NetworkManager");
+    return QLatin1String(NM_DBUS_PATH);
 }
 
 QString CNetworkManagerClient::ManagerInterface()
 {
-    return QLatin1String("org.freedesktop.NetworkManager");
+    return QLatin1String(NM_DBUS_INTERFACE);
 }
 
 QString CNetworkManagerClient::SettingsPath()
 {
-    return QLatin1String("/org/freedesktop/NetworkManager/Settings");
+    return QLatin1String(NM_DBUS_PATH_SETTINGS);
 }
 
 QString CNetworkManagerClient::SettingsInterface()
 {
-    return QLatin1String("org.freedesktop.NetworkManager.Settings");
+    return QLatin1String(NM_DBUS_INTERFACE_SETTINGS);
 }
 
 QString CNetworkManagerClient::ProfileInterface()
 {
-    return QLatin1String("org.freedesktop.NetworkManager.Settings.Connection");
+    return QLatin1String(NM_DBUS_INTERFACE_SETTINGS_CONNECTION);
 }
 
 QString CNetworkManagerClient::ActiveConnectionInterface()
 {
-    return QLatin1String("org.freedesktop.NetworkManager.Connection.Active");
+    return QLatin1String(NM_DBUS_INTERFACE_ACTIVE_CONNECTION);
 }
 
 QString CNetworkManagerClient::DeviceInterface()
 {
-    return QLatin1String("org.freedesktop.NetworkManager.Device");
+    return QLatin1String(NM_DBUS_INTERFACE_DEVICE);
 }
 
 QString CNetworkManagerClient::WirelessDeviceInterface()
 {
-    return QLatin1String("org.freedesktop.NetworkManager.Device.Wireless");
+    return QLatin1String(NM_DBUS_INTERFACE_DEVICE_WIRELESS);
 }
 
 QString CNetworkManagerClient::AccessPointInterface()
 {
-    return QLatin1String("org.freedesktop.NetworkManager.AccessPoint");
+    return QLatin1String(NM_DBUS_INTERFACE_ACCESS_POINT);
 }
 
 QString CNetworkManagerClient::PropertiesInterface()

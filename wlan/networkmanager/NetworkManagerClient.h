@@ -20,9 +20,14 @@ class QDBusServiceWatcher;
 /**
  * The way to NetworkManager on the system bus.
  *
- * NetworkManagerQt has objects for all that NetworkManager offers, but they wait for every answer, for 25
- * seconds if need be. So the calls are made here, each with a time limit, and that library serves for what
- * the calls carry.
+ * NetworkManagerQt serves for what the calls carry: names, flags, the classes of single settings. The calls
+ * are made here, and not by its objects and notifiers, which, in 5.103 and 6.13 alike,
+ * - wait for every answer on the thread of their caller, without a limit: a NetworkManager that does not
+ *   answer held listConnections() up for 50 seconds, networkInterfaces() for 75, permissions() for 25;
+ * - have no bus any more, for good, once the system bus has been restarted;
+ * - lose what they have no member for: ConnectionSettings, read and written back, lost the sections "proxy",
+ *   "user" and "match" and 18 more properties, such as "connection.dns-over-tls" and "ipv4.dhcp-timeout";
+ * - have no Update2, and don't tell where and how a profile is kept (Filename, Flags).
  *
  * A NetworkManager that let a call run out of time counts as silent until it answers a question that is put
  * to it aside: while it is silent, operations fail at once instead of making their caller wait again.

@@ -183,7 +183,8 @@ void NetworkSecurity::Describe(const NMVariantMapMap &settings, WLANProfile *pro
     case WirelessSecuritySetting::WpaEapSuiteB192:
         Tell(isOnlyOld ? wpaEnterprise : wpa2Enterprise, CipherOf(security.pairwise()), 0, profile);
         break;
-    case WirelessSecuritySetting::Unknown:
+    default:
+        // Without a key, be it unknown or OWE, which only later generations of the library know.
         Tell(openSystem, noEncryption, 0, profile);
         break;
     }
