@@ -1,4 +1,6 @@
 set(PRIORITY_CXX_STANDARD 17)
+# What Qt 6.8 and those before it advise against is not declared at all, so that nothing here uses it.
+add_compile_definitions(QT_DISABLE_DEPRECATED_UP_TO=0x060800)
 
 find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets LinguistTools)
 target_link_libraries(PriorityQtCore INTERFACE Qt6::Core)

@@ -22,7 +22,7 @@ namespace
 ListState State(int minute, const QString &entries)
 {
     ListState state;
-    state.time = QDateTime(QDate(2026, 3, 1), QTime(9, minute), Qt::UTC);
+    state.time = QDateTime::fromString("2026-03-01T09:00:00Z", Qt::ISODate).addSecs(minute * 60);
     state.entries = Listed(entries);
     return state;
 }

@@ -136,7 +136,7 @@ void ListChangeTextTest::TextsFollowTheLanguage()
 
 void ListChangeTextTest::MomentFollowsTheLanguage()
 {
-    const QDateTime time(QDate(2026, 3, 1), QTime(17, 5), Qt::LocalTime);
+    const QDateTime time(QDate(2026, 3, 1), QTime(17, 5));
     const QString english = ListChangeText::Moment(time.toUTC());
     QVERIFY2(english.contains("5:05"), qPrintable(english));
     QVERIFY(DashboardLanguage::Apply("he"));

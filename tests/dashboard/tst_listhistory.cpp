@@ -2,6 +2,7 @@
 
 #include <ListHistory.h>
 
+#include <QTimeZone>
 #include <QtTest>
 
 #include <cstdlib>
@@ -12,7 +13,7 @@ namespace
 
 QDateTime Time(int day, int hour = 9, int minute = 0, int second = 0)
 {
-    return QDateTime(QDate(2026, 3, day), QTime(hour, minute, second), Qt::UTC);
+    return QDateTime(QDate(2026, 3, day), QTime(hour, minute, second), QTimeZone::utc());
 }
 
 ListState State(const QString &entries, const QDateTime &time = Time(1))
@@ -421,8 +422,8 @@ void ListHistoryTest::LastListOfEachOfFourteenDaysIsKept()
 void ListHistoryTest::ClockThatWasWrongLosesNoDay_data()
 {
     QTest::addColumn<QDateTime>("wrong");
-    QTest::newRow("years ahead") << QDateTime(QDate(2044, 1, 1), QTime(9, 0), Qt::UTC);
-    QTest::newRow("years behind") << QDateTime(QDate(1970, 1, 1), QTime(0, 0), Qt::UTC);
+    QTest::newRow("years ahead") << QDateTime(QDate(2044, 1, 1), QTime(9, 0), QTimeZone::utc());
+    QTest::newRow("years behind") << QDateTime(QDate(1970, 1, 1), QTime(0, 0), QTimeZone::utc());
 }
 
 void ListHistoryTest::ClockThatWasWrongLosesNoDay()

@@ -275,7 +275,7 @@ void ListKeeperTest::ChangeNotYetSeenIsTheOneUndone()
 void ListKeeperTest::ChangeMadeWhileNotRunningIsFoundWithItsTime()
 {
     WriteList("A");
-    const QDateTime longAgo(QDate(2020, 1, 2), QTime(3, 4, 5), Qt::UTC);
+    const QDateTime longAgo = QDateTime::fromString("2020-01-02T03:04:05Z", Qt::ISODate);
     const QDateTime later = longAgo.addDays(1);
     QVERIFY(SetTimeOfList(longAgo));
     QVERIFY(QDir(UserData() + "history").removeRecursively());

@@ -825,7 +825,7 @@ void Screens::KeepHistory(const QStringList &lists, int position)
     ListHistory history;
     for (int i = 0; i < lists.size(); ++i) {
         ListState state;
-        state.time = QDateTime(QDate(2026, 3, 15), QTime(9, 0), Qt::UTC).addSecs(i * 60);
+        state.time = QDateTime::fromString("2026-03-15T09:00:00Z", Qt::ISODate).addSecs(i * 60);
         state.entries = Listed(lists.at(i));
         if (i == stateOfReturn) {
             state.backTo = history.States().at(stateInForce).time;

@@ -125,6 +125,7 @@ void tst_networkmanagerlibrary::ExportsItsEntryPointsOnly()
     QVERIFY(symbols.removeAll("qt_plugin_query_verification_data"));
     // The toolkit's own addition, and what linkers define in every library.
     const QStringList harmless = QStringList() << "qt_plugin_query_metadata"
+                                               << "qt_plugin_query_metadata_v2"
                                                << "_init"
                                                << "_fini"
                                                << "__bss_start"
