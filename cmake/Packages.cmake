@@ -3,7 +3,8 @@
 set(PRIORITY_MAINTAINER "PriorityPlugin maintainers <maintainers@priority-plugin.example>" CACHE STRING
     "Name and address of who answers for the packages")
 
-# A build for another generation of the toolkit has the same files, and takes the place of the default one.
+# A build for another generation of the toolkit has the same files, and takes the place of any other. The name tells the
+# generation, whichever the release has: what was built against the libraries of one crashes with those of another.
 if(PRIORITY_QT EQUAL 5)
     set(package_suffix "")
 else()
@@ -28,7 +29,9 @@ set(CPACK_POST_BUILD_SCRIPTS "${PROJECT_SOURCE_DIR}/cmake/RepackPackages.cmake")
 set(CPACK_PRIORITY_SOURCE_DIRECTORY "${PROJECT_SOURCE_DIR}")
 
 set(CPACK_DEB_COMPONENT_INSTALL ON)
-set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
+# The package of a later release comes after that of an earlier one, as it is another build.
+cmake_host_system_information(RESULT release QUERY DISTRIB_INFO)
+set(CPACK_DEBIAN_PACKAGE_RELEASE "1+${release_ID}${release_VERSION_ID}")
 set(CPACK_DEBIAN_PACKAGE_SOURCE priority-plugin)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_COMPRESSION_TYPE xz)

@@ -6,6 +6,7 @@ if(PRIORITY_TESTS)
 endif()
 # Whatever Qt 4 was installed from, its qmake is asked where it is: -DQT_QMAKE_EXECUTABLE=... names it.
 find_package(Qt4 4.8 REQUIRED COMPONENTS ${needed})
+set(Qt4_VERSION "${QTVERSION}")
 target_link_libraries(PriorityQtCore INTERFACE Qt4::QtCore)
 target_link_libraries(PriorityQtWidgets INTERFACE Qt4::QtGui)
 if(PRIORITY_TESTS)
