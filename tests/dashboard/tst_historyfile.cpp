@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QTimeZone>
 #include <QtTest>
 
 #include <csignal>
