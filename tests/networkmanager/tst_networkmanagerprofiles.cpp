@@ -328,6 +328,8 @@ void tst_networkmanagerprofiles::SecurityOfAProfileIsTold_data()
     section.clear();
     section["key-mgmt"] = "sae";
     QTest::newRow("SAE") << section << "WPA2PSK CCMP passPhrase 0";
+    section["key-mgmt"] = "owe";
+    QTest::newRow("OWE") << section << "open none passPhrase 0";
 }
 
 void tst_networkmanagerprofiles::SecurityOfAProfileIsTold()
