@@ -2,13 +2,13 @@
 #include <StandInHost.h>
 #include <TemporaryDirectory.h>
 
-#include <QElapsedTimer>
 #include <QFile>
 #include <QScopedPointer>
 #include <QtTest>
 
 #include <csignal>
 #include <cstdlib>
+#include <ctime>
 
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -145,10 +145,10 @@ qint64 tst_HostileFiles::TimeOfReading(const QByteArray &xml)
     qint64 shortest = -1;
     for (int i = 0; i < 3; ++i) {
         QList<PriorityList> list;
-        QElapsedTimer timer;
-        timer.start();
+        // The processor's time, in which it doesn't matter what else the machine does.
+        const std::clock_t begin = std::clock();
         Read(&list);
-        const qint64 elapsed = timer.nsecsElapsed();
+        const qint64 elapsed = std::clock() - begin;
         if (shortest < 0 || elapsed < shortest) {
             shortest = elapsed;
         }
