@@ -9,6 +9,7 @@
 #include <MainWindow.h>
 #include <OrderFile.h>
 #include <PluginObjects.h>
+#include <ToolkitCompat.h>
 #include <TraceLog.h>
 
 #include <QApplication>
@@ -136,7 +137,7 @@ void DamagedListTest::init()
     m_language.reset(new DashboardLanguage(m_world.Plugins(), nullptr));
     m_window.reset(new MainWindow(m_world.Plugins(), m_language.data(), m_log.data()));
     m_window->show();
-    QApplication::setActiveWindow(m_window.data());
+    ToolkitCompat::ActivateWindow(m_window.data());
 }
 
 void DamagedListTest::cleanup()
@@ -275,7 +276,7 @@ void DamagedListTest::QuestionIsAnsweredByKeys()
     Damage();
     QTest::keyClick(m_window.data(), Qt::Key_Comma, Qt::ControlModifier);
     QVERIFY(Question());
-    QApplication::setActiveWindow(Question());
+    ToolkitCompat::ActivateWindow(Question());
     for (int i = 0; i < tabs; ++i) {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     }

@@ -7,7 +7,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QTimeZone>
 #include <QtTest>
 
 #include <csignal>
@@ -34,7 +33,7 @@ ListHistory Example()
     history.Record(State(0, QString::fromUtf8("Café")));
     history.Record(State(5, QString::fromUtf8("Café, Office")));
     history.Record(State(6, QString::fromUtf8("Office, Café")));
-    history.GoTo(1, QDateTime(QDate(2026, 3, 1), QTime(9, 7), QTimeZone::utc()));
+    history.GoTo(1, QDateTime::fromString("2026-03-01T09:07:00Z", Qt::ISODate));
     return history;
 }
 

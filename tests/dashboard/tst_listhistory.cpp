@@ -2,7 +2,6 @@
 
 #include <ListHistory.h>
 
-#include <QTimeZone>
 #include <QtTest>
 
 #include <cstdlib>
@@ -13,7 +12,8 @@ namespace
 
 QDateTime Time(int day, int hour = 9, int minute = 0, int second = 0)
 {
-    return QDateTime(QDate(2026, 3, day), QTime(hour, minute, second), QTimeZone::utc());
+    const QDateTime dayBefore = QDateTime::fromString("2026-02-28T00:00:00Z", Qt::ISODate);
+    return dayBefore.addDays(day).addSecs((hour * 60 + minute) * 60 + second);
 }
 
 ListState State(const QString &entries, const QDateTime &time = Time(1))
@@ -422,8 +422,8 @@ void ListHistoryTest::LastListOfEachOfFourteenDaysIsKept()
 void ListHistoryTest::ClockThatWasWrongLosesNoDay_data()
 {
     QTest::addColumn<QDateTime>("wrong");
-    QTest::newRow("years ahead") << QDateTime(QDate(2044, 1, 1), QTime(9, 0), QTimeZone::utc());
-    QTest::newRow("years behind") << QDateTime(QDate(1970, 1, 1), QTime(0, 0), QTimeZone::utc());
+    QTest::newRow("years ahead") << QDateTime::fromString("2044-01-01T09:00:00Z", Qt::ISODate);
+    QTest::newRow("years behind") << QDateTime::fromString("1970-01-01T00:00:00Z", Qt::ISODate);
 }
 
 void ListHistoryTest::ClockThatWasWrongLosesNoDay()
