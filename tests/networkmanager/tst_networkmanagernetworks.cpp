@@ -16,6 +16,7 @@ const unsigned int psk = 0x100;
 const unsigned int eap = 0x200;
 const unsigned int sae = 0x400;
 const unsigned int owe = 0x800;
+const unsigned int oweTransition = 0x1000;
 const unsigned int suiteB = 0x2000;
 
 WLANProfile ProfileOf(const QString &network)
@@ -178,7 +179,9 @@ void tst_networkmanagernetworks::SecurityIsReadFromTheFlags_data()
     QTest::newRow("WPA2 with EAP") << privacy << 0U << (eap | ccmp) << "WPA2(EAP) CCMP passPhrase 0";
     QTest::newRow("WPA3 with EAP") << privacy << 0U << suiteB << "WPA2(EAP) CCMP passPhrase 0";
     QTest::newRow("key and EAP") << privacy << 0U << (psk | eap | ccmp) << "WPA2PSK CCMP passPhrase 0";
-    QTest::newRow("encrypted without a key") << 0U << 0U << (owe | ccmp) << "open none passPhrase 0";
+    QTest::newRow("encrypted without a key") << privacy << 0U << (owe | ccmp) << "  passPhrase 0";
+    QTest::newRow("open, with an encrypted one beside")
+        << 0U << 0U << oweTransition << "open none passPhrase 0";
 }
 
 void tst_networkmanagernetworks::SecurityIsReadFromTheFlags()

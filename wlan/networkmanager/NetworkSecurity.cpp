@@ -22,6 +22,7 @@ const char wpa2Enterprise[] = "WPA2(EAP)";
 const char dynamicWep[] = "IEEE 802.1X";
 
 const char noEncryption[] = "none";
+const char noWord[] = "";
 const char wepEncryption[] = "WEP";
 const char tkipEncryption[] = "TKIP";
 const char ccmpEncryption[] = "CCMP";
@@ -153,6 +154,8 @@ void NetworkSecurity::Describe(const AccessPoint &point, WLANProfile *profile)
         Tell(wpa2Enterprise, CipherOf(point.rsnFlags), 0, profile);
     } else if ((point.wpaFlags & enterprise) != 0) {
         Tell(wpaEnterprise, CipherOf(point.wpaFlags), 0, profile);
+    } else if ((point.rsnFlags & NM_802_11_AP_SEC_KEY_MGMT_OWE) != 0) {
+        Tell(noWord, noWord, 0, profile);
     } else if (IsWep(point)) {
         Tell(openSystem, wepEncryption, 0, profile);
     } else {

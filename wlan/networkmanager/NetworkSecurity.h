@@ -14,7 +14,10 @@ struct WirelessDevice;
 namespace NetworkSecurity
 {
 
-/** What fills authentication, encryption, keyType and keyIndex. */
+/**
+ * What fills authentication, encryption, keyType and keyIndex. For a network that encrypts without a key
+ * there are no words, and both are empty: NetworkManager does not join it with an open profile.
+ */
 void Describe(const AccessPoint &point, WLANProfile *profile);
 void Describe(const NMVariantMapMap &settings, WLANProfile *profile);
 
