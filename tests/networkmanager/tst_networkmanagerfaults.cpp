@@ -88,6 +88,7 @@ private slots:
     void AnswersToStoringAreTold_data();
     void AnswersToStoringAreTold();
     void RefusedChangeLeavesTheProfile();
+    void ProfileIsNotChangedWhileAnotherOneCannotBeRead();
 
     void MissingNetworkManagerIsTold();
     void NetworkManagerThatComesBackIsUsedAgain();
@@ -366,6 +367,20 @@ void tst_networkmanagerfaults::RefusedChangeLeavesTheProfile()
     LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("A", "WPA2PSK", "CCMP", "12345678"));
     QCOMPARE(Fake().SettingsOf(path), before);
     QCOMPARE(Fake().ProfilePaths(), QStringList(path));
+}
+
+void tst_networkmanagerfaults::ProfileIsNotChangedWhileAnotherOneCannotBeRead()
+{
+    const QString path = Fake().AddProfile("A");
+    const NMVariantMapMap before = Fake().SettingsOf(path);
+    Fake().AnswerWithError("GetSettings", "org.freedesktop.NetworkManager.Settings.Failed",
+                           Fake().AddProfile("B"));
+    QCOMPARE(
+        LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("A", "WPA2PSK", "CCMP", "12345678")),
+        int(NetworkManagerResultFailed));
+    QCOMPARE(Fake().SettingsOf(path), before);
+    // What is new can't take anything away.
+    QCOMPARE(LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("C", "open", "none", "")), 0);
 }
 
 void tst_networkmanagerfaults::MissingNetworkManagerIsTold()

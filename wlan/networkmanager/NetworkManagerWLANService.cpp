@@ -251,7 +251,10 @@ NetworkManagerResult CNetworkManagerWLANService::Store(WLANProfile wanted, QStri
         return Add(wanted, reader.Rights(), limit);
     }
     if (decision.verdict == ProfileRules::ChangedProfile) {
-        return Change(reader.Profiles().at(decision.place), wanted, limit);
+        // One that could not be read may have the same name.
+        return reader.Shortfall() == NetworkManagerResultSuccess
+                   ? Change(reader.Profiles().at(decision.place), wanted, limit)
+                   : reader.Shortfall();
     }
     if (decision.verdict == ProfileRules::BetterProfile) {
         *better = reader.Profiles().at(decision.place).name;
