@@ -84,6 +84,8 @@ private slots:
     void OnlyNetworkNameMethodAndKeyChange();
     void ProfileOfAnotherNameIsNeverChanged_data();
     void ProfileOfAnotherNameIsNeverChanged();
+    void CaseCounts_data();
+    void CaseCounts();
     void NetworkOfAHotspotIsAnotherNetwork();
     void ProfileOfAnotherKindIsNoObstacle();
     void KeyIsInNoNotice();
@@ -210,6 +212,8 @@ void tst_networkmanagerkept::ProfileOfThatNameIsKept_data()
         << "wifi-sec.key-mgmt|wpa-psk|wifi-sec.psk-flags|1" << newKey << undescribed << ofAnotherKind;
     QTest::newRow("key asked for each time")
         << "wifi-sec.key-mgmt|wpa-psk|wifi-sec.psk-flags|2" << newKey << undescribed << ofAnotherKind;
+    QTest::newRow("WEP key in the desktop's safe") << "wifi-sec.key-mgmt|none|wifi-sec.wep-key-flags|1"
+                                                   << "open|WEP|12345" << undescribed << ofAnotherKind;
     QTest::newRow("WEP by pass phrase") << "wifi-sec.key-mgmt|none|wifi-sec.wep-key-type|2|wifi-sec.wep-key0|"
                                            "a pass phrase"
                                         << "open|WEP|12345" << undescribed << ofAnotherKind;
@@ -365,6 +369,29 @@ void tst_networkmanagerkept::ProfileOfAnotherNameIsNeverChanged()
     QCOMPARE(m_daemon->Keyfile(name), before);
     QCOMPARE(m_daemon->Keyfiles().size(), result == 0 ? 3 : 2);
     QCOMPARE(Notices(), result == 0 ? QStringList() : QStringList("WLAN?IDS_WLAN_BETTER_PROFILE"));
+}
+
+void tst_networkmanagerkept::CaseCounts_data()
+{
+    QTest::addColumn<QString>("newName");
+    QTest::addColumn<QString>("newNetwork");
+    QTest::newRow("of the name") << "under the roof"
+                                 << "skylight";
+    QTest::newRow("of the network name") << "Upstairs"
+                                         << "Attic";
+}
+
+void tst_networkmanagerkept::CaseCounts()
+{
+    QFETCH(QString, newName);
+    QFETCH(QString, newNetwork);
+    QVERIFY(Add(name, network, wpa2));
+    const QByteArray before = m_daemon->Keyfile(name);
+    WLANProfile profile = NewProfile(newName, "open|none");
+    profile.ssid = newNetwork;
+    QCOMPARE(LoadedWLAN::Wlan()->CreateWLANProfile(profile), 0);
+    QCOMPARE(m_daemon->Keyfile(name), before);
+    QVERIFY(m_daemon->Keyfile(newName).contains("ssid=" + newNetwork.toUtf8()));
 }
 
 void tst_networkmanagerkept::NetworkOfAHotspotIsAnotherNetwork()

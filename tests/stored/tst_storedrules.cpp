@@ -114,6 +114,8 @@ private slots:
     void SeveralProfilesOfOneNameAreKept();
     void ProfileOfAnotherNameIsNeverChanged_data();
     void ProfileOfAnotherNameIsNeverChanged();
+    void CaseCounts_data();
+    void CaseCounts();
     void NetworksThatOthersMakeAreOtherNetworks();
     void ProfilesWithoutANetworkNameAreForNone();
 };
@@ -279,6 +281,29 @@ void tst_storedrules::ProfileOfAnotherNameIsNeverChanged()
     QCOMPARE(TextsOf("Under the roof"), Texts(OldProfile("Under the roof", "attic", before)));
     QCOMPARE(TextsOf("attic"),
              result == WLANResultSuccess ? Texts(NewProfile("attic", "attic", wanted)) : QString("none"));
+}
+
+void tst_storedrules::CaseCounts_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("network");
+    QTest::newRow("of the name") << "under the roof"
+                                 << "skylight";
+    QTest::newRow("of the network name") << "Upstairs"
+                                         << "Attic";
+}
+
+void tst_storedrules::CaseCounts()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, network);
+    StoredFixture fixture;
+    const WLANProfile old = OldProfile("Under the roof", "attic", wpa2);
+    Remember(fixture, old);
+    const WLANProfile made = NewProfile(name, network, "open|none");
+    QCOMPARE(Wlan()->CreateWLANProfile(made), int(WLANResultSuccess));
+    QCOMPARE(TextsOf("Under the roof"), Texts(old));
+    QCOMPARE(TextsOf(name), Texts(made));
 }
 
 void tst_storedrules::NetworksThatOthersMakeAreOtherNetworks()
