@@ -84,9 +84,9 @@ install(DIRECTORY "${PROJECT_SOURCE_DIR}/examples" DESTINATION "${documentation_
 
 # Dashboard
 
-install(TARGETS dashboard RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT dashboard)
+install(TARGETS priority-dashboard RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT dashboard)
 file(RELATIVE_PATH host_libraries_from_program "${CMAKE_INSTALL_FULL_BINDIR}" "${CMAKE_INSTALL_FULL_LIBDIR}")
-set_target_properties(dashboard PROPERTIES INSTALL_RPATH "$ORIGIN/${host_libraries_from_program}")
+set_target_properties(priority-dashboard PROPERTIES INSTALL_RPATH "$ORIGIN/${host_libraries_from_program}")
 foreach(sibling WLANStored WLANNetworkManager)
     if(TARGET ${sibling})
         priority_install_plugin(${sibling} dashboard)
@@ -105,13 +105,13 @@ foreach(size 48 128)
     install(FILES "${PROJECT_SOURCE_DIR}/packaging/priority-dashboard-${size}.png"
         DESTINATION "${icon_directory}/${size}x${size}/apps" COMPONENT dashboard RENAME priority-dashboard.png)
 endforeach()
-install(FILES "${PROJECT_SOURCE_DIR}/packaging/dashboard.1"
+install(FILES "${PROJECT_SOURCE_DIR}/packaging/priority-dashboard.1"
     DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT dashboard)
 
 # Where the installed dashboard finds the rest, seen from its own directory.
 set(library_path_from_program "${host_libraries_from_program}/priority-dashboard")
 file(RELATIVE_PATH languages_from_program
     "${CMAKE_INSTALL_FULL_BINDIR}" "${CMAKE_INSTALL_FULL_DATADIR}/priority-dashboard/languages")
-target_compile_definitions(dashboardcore PRIVATE
+target_compile_definitions(dashboard_base PRIVATE
     DASHBOARD_LIBRARY_PATH="${library_path_from_program}"
     DASHBOARD_LANGUAGES="${languages_from_program}")

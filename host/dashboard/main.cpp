@@ -1,17 +1,16 @@
-#include "Appearance.h"
-#include "Arguments.h"
-#include "DashboardLanguage.h"
-#include "HostControl.h"
-#include "Installation.h"
-#include "ListCommands.h"
-#include "MainWindow.h"
-#include "PluginHost.h"
-#include "Terminal.h"
-#include "Tour.h"
-#include "TraceLog.h"
-#include "UserData.h"
-
+#include <Appearance.h>
+#include <Arguments.h>
+#include <DashboardLanguage.h>
+#include <HostControl.h>
+#include <Installation.h>
+#include <ListCommands.h>
+#include <MainWindow.h>
+#include <PluginHost.h>
+#include <Terminal.h>
 #include <ToolkitCompat.h>
+#include <Tour.h>
+#include <TraceLog.h>
+#include <UserData.h>
 
 #include <QApplication>
 #include <QDir>
@@ -141,7 +140,7 @@ int RunWindow(const Arguments &arguments, const TourDirectory &tourDirectory, Tr
             TraceLog::Warn(PluginHost::ProblemText(loaded.at(i)));
         }
     }
-    DashboardLanguage language(&plugins, nullptr);
+    DashboardLanguage language(nullptr);
     MainWindow window(&plugins, &language, log);
     window.show();
     QScopedPointer<Tour> tour;
@@ -200,7 +199,7 @@ int main(int argc, char **argv)
     // The log before the toolkit, which has things to say while it starts.
     TraceLog log(UserData::FilePath(QLatin1String("dashboard.log")));
     const QApplication application(argc, argv);
-    QApplication::setApplicationName(QLatin1String("dashboard"));
+    QApplication::setApplicationName(QLatin1String("priority-dashboard"));
     QApplication::setApplicationVersion(Arguments::VersionText().section(QLatin1Char(' '), 1).trimmed());
     const QString problem = PrepareHost(arguments);
     if (!problem.isNull()) {

@@ -38,5 +38,5 @@ Outcome RunProgram(const QString &program, const QStringList &arguments, const Q
 
 Outcome RunDashboard(const QStringList &arguments, const QStringList &environment)
 {
-    return RunProgram(BUILD_DIRECTORY "/bin/dashboard", arguments, environment);
+    return RunProgram(BUILD_DIRECTORY "/bin/priority-dashboard", arguments, environment);
 }

@@ -222,16 +222,16 @@ void InstalledTest::componentsHaveTheirFiles_data()
                                      ? QStringList(plugins + "WLANNetworkManager/libWLANNetworkManager.so")
                                      : QStringList();
     QTest::newRow("dashboard") << "dashboard"
-                               << (QStringList()
-                                   << "bin/dashboard" << siblings << plugins + "WLANStored/libWLANStored.so"
-                                   << "share/priority-dashboard/languages/ar.qm"
-                                   << "share/priority-dashboard/languages/en.qm"
-                                   << "share/priority-dashboard/languages/he.qm"
-                                   << "share/applications/priority-dashboard.desktop"
-                                   << "share/icons/hicolor/48x48/apps/priority-dashboard.png"
-                                   << "share/icons/hicolor/128x128/apps/priority-dashboard.png"
-                                   << "share/icons/hicolor/scalable/apps/priority-dashboard.svg"
-                                   << "share/man/man1/dashboard.1");
+                               << (QStringList() << "bin/priority-dashboard" << siblings
+                                                 << plugins + "WLANStored/libWLANStored.so"
+                                                 << "share/priority-dashboard/languages/ar.qm"
+                                                 << "share/priority-dashboard/languages/en.qm"
+                                                 << "share/priority-dashboard/languages/he.qm"
+                                                 << "share/applications/priority-dashboard.desktop"
+                                                 << "share/icons/hicolor/48x48/apps/priority-dashboard.png"
+                                                 << "share/icons/hicolor/128x128/apps/priority-dashboard.png"
+                                                 << "share/icons/hicolor/scalable/apps/priority-dashboard.svg"
+                                                 << "share/man/man1/priority-dashboard.1");
 }
 
 void InstalledTest::componentsHaveTheirFiles()
@@ -296,7 +296,8 @@ void InstalledTest::resourceFolderIsComplete()
 void InstalledTest::dashboardWorks()
 {
     const QString home = Home("dashboard-home");
-    const Outcome outcome = Run(Path("bin/dashboard"), QStringList() << "--tour" << home + "/tour", home);
+    const Outcome outcome =
+        Run(Path("bin/priority-dashboard"), QStringList() << "--tour" << home + "/tour", home);
     QVERIFY2(outcome.status == 0, qPrintable(outcome.out + outcome.err));
     QVERIFY2(outcome.out.trimmed().endsWith(" 0 failed"), qPrintable(outcome.out));
     QCOMPARE(outcome.err, QString());
@@ -308,7 +309,8 @@ void InstalledTest::dashboardLeavesTheListOfItsUser()
     QDir().mkpath(home + "/data/priority-dashboard");
     const QString list("list-home/data/priority-dashboard/Priority.xml");
     m_directory.Write(list, "the list");
-    const Outcome outcome = Run(Path("bin/dashboard"), QStringList() << "--tour" << home + "/tour", home);
+    const Outcome outcome =
+        Run(Path("bin/priority-dashboard"), QStringList() << "--tour" << home + "/tour", home);
     QCOMPARE(outcome.status, 0);
     QCOMPARE(m_directory.Read(list), QByteArray("the list"));
 }

@@ -319,7 +319,7 @@ void Screens::Show(const QString &name, const QString &language, const Visitor &
     if (!DashboardLanguage::Apply(language)) {
         qFatal("a language is missing");
     }
-    m_language.reset(new DashboardLanguage(m_plugins.data(), nullptr));
+    m_language.reset(new DashboardLanguage(nullptr));
     m_visitor = &visitor;
     const Screen *screen = Find(name);
     m_visits = 0;

@@ -58,7 +58,7 @@ void DashboardSession::VerifyPlugins() const
 
 void DashboardSession::OpenWindow()
 {
-    m_language.reset(new DashboardLanguage(m_plugins.data(), nullptr));
+    m_language.reset(new DashboardLanguage(nullptr));
     m_window.reset(new MainWindow(m_plugins.data(), m_language.data(), m_log.data()));
     m_window->show();
     m_notices.clear();

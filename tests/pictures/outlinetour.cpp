@@ -100,7 +100,7 @@ int main(int argc, char **argv)
     qputenv("XDG_DATA_HOME", QFile::encodeName(tourDirectory.DataPath()));
     TraceLog log(UserData::FilePath(QLatin1String("dashboard.log")));
     const QApplication application(argc, argv);
-    QApplication::setApplicationName(QLatin1String("dashboard"));
+    QApplication::setApplicationName(QLatin1String("priority-dashboard"));
     HostControl::SetPluginLibraryPath(QLatin1String(BUILD_DIRECTORY));
     HostControl::SetLanguageDirectory(QLatin1String(BUILD_DIRECTORY "/share/priority-dashboard/languages"));
     HostControl::ApplyLook();
@@ -115,7 +115,7 @@ int main(int argc, char **argv)
     }
     PluginHost plugins(QLatin1String(BUILD_DIRECTORY), PluginHost::KnownPlugins(WlanStored));
     plugins.Load();
-    DashboardLanguage language(&plugins, nullptr);
+    DashboardLanguage language(nullptr);
     MainWindow window(&plugins, &language, &log);
     window.show();
     OutlineWriter writer(&window, directory);

@@ -1,0 +1,29 @@
+#ifndef LISTSOURCE_H
+#define LISTSOURCE_H
+
+#include "PriorityResult.h"
+
+#include <PriorityList.h>
+
+#include <QList>
+
+/** What whoever keeps the list has answered for it. */
+struct ListReading {
+    /** A PriorityResult. */
+    int status = PriorityNoPlugin;
+    QList<PriorityList> entries;
+};
+
+/** Where the list is read, and who tells everybody of a file that took the place of another. */
+class ListSource
+{
+public:
+    virtual ~ListSource() = default;
+
+    virtual ListReading Read() = 0;
+
+    /** The file is another now: has it written as its owner writes it, and everybody told. */
+    virtual void FileReplaced() = 0;
+};
+
+#endif

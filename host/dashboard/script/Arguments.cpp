@@ -1,0 +1,289 @@
+#include "Arguments.h"
+
+#include <QByteArray>
+#include <QLatin1String>
+
+namespace
+{
+
+struct ValueOption {
+    const char *name;
+    QString Arguments::*value;
+};
+
+const ValueOption valueOptions[] = {
+    {"--language", &Arguments::language},
+    {"--library-path", &Arguments::pluginLibraryPath},
+    {"--tour", &Arguments::tourDirectory},
+    {"--wlan", &Arguments::wlan},
+};
+
+struct WlanWord {
+    const char *word;
+    WlanChoice choice;
+};
+
+const WlanWord wlanWords[] = {
+    {"auto", WlanAutomatic},
+    {"networkmanager", WlanNetworkManager},
+    {"stored", WlanStored},
+};
+
+const WlanWord *FindWlanWord(const QString &word)
+{
+    for (const WlanWord &known : wlanWords) {
+        if (word == QLatin1String(known.word)) {
+            return &known;
+        }
+    }
+    return nullptr;
+}
+
+struct CommandOption {
+    const char *name;
+    ListCommand::Kind kind;
+};
+
+const CommandOption commandOptions[] = {
+    {"--list", ListCommand::List},
+    {"--check", ListCommand::Check},
+    {"--add", ListCommand::Add},
+    {"--add-top", ListCommand::AddTop},
+};
+
+/** Words for the types of entries. */
+struct TypeWord {
+    const char *word;
+    const char *type;
+};
+
+const TypeWord typeWords[] = {
+    {"wifi", "1"},
+    {"mobile", "2"},
+};
+
+const CommandOption *FindCommandOption(const QString &name)
+{
+    for (const CommandOption &option : commandOptions) {
+        if (name == QLatin1String(option.name)) {
+            return &option;
+        }
+    }
+    return nullptr;
+}
+
+ListCommand CommandOf(const CommandOption &option)
+{
+    ListCommand command;
+    command.kind = option.kind;
+    return command;
+}
+
+bool TakesEntry(const CommandOption &option)
+{
+    return CommandOf(option).IsChange();
+}
+
+/** The type that text stands for; null when it stands for none. */
+QString TypeOf(const QString &text)
+{
+    for (const TypeWord &known : typeWords) {
+        if (text == QLatin1String(known.word)) {
+            return QLatin1String(known.type);
+        }
+    }
+    const bool isDigit = text.size() == 1 && text.at(0) >= QLatin1Char('0') && text.at(0) <= QLatin1Char('9');
+    return isDigit ? text : QString();
+}
+
+/** NAME or NAME:TYPE. A name may have colons in it: the last one counts when a type follows. */
+PriorityList EntryOf(const QString &text)
+{
+    PriorityList entry;
+    const int colon = static_cast<int>(text.lastIndexOf(QLatin1Char(':')));
+    const QString type = colon < 0 ? QString() : TypeOf(text.mid(colon + 1));
+    entry.name = type.isNull() ? text : text.left(colon);
+    entry.type = type.isNull() ? QString::fromLatin1(typeWords[0].type) : type;
+    return entry;
+}
+
+/** Whether the list's file can hold every character of the name. */
+bool CanBeStored(const QString &name)
+{
+    for (int i = 0; i < name.size(); ++i) {
+        const ushort unit = name.at(i).unicode();
+        if ((unit < ' ' && unit != '\t' && unit != '\n' && unit != '\r') || unit >= 0xfffe) {
+            return false;
+        }
+    }
+    return true;
+}
+
+const ValueOption *FindValueOption(const QString &name)
+{
+    for (const ValueOption &option : valueOptions) {
+        if (name == QLatin1String(option.name)) {
+            return &option;
+        }
+    }
+    return nullptr;
+}
+
+Arguments Refused(const QString &problem)
+{
+    Arguments refused;
+    refused.action = Arguments::Refuse;
+    refused.problem = problem;
+    return refused;
+}
+
+} // namespace
+
+Arguments Arguments::Read(int count, const char *const *arguments)
+{
+    QStringList texts;
+    for (int i = 1; i < count; ++i) {
+        const QByteArray bytes(arguments[i]);
+        QString text = QString::fromUtf8(bytes);
+        if (text.toUtf8() != bytes) {
+            text = QString::fromLocal8Bit(bytes);
+            if (text.toLocal8Bit() != bytes) {
+                return Refused(
+                    QString::fromLatin1("argument %1 is no text: \"%2\"").arg(QString::number(i), text));
+            }
+        }
+        texts.append(text);
+    }
+    return Parse(texts);
+}
+
+Arguments Arguments::Parse(const QStringList &arguments)
+{
+    Arguments parsed;
+    for (int i = 0; i < arguments.size(); ++i) {
+        const QString &argument = arguments.at(i);
+        if (argument == QLatin1String("--help") || argument == QLatin1String("-h")) {
+            parsed.action = Help;
+            return parsed;
+        }
+        if (argument == QLatin1String("--version")) {
+            parsed.action = Version;
+            return parsed;
+        }
+        const int equals = static_cast<int>(argument.indexOf(QLatin1Char('=')));
+        const QString name = argument.left(equals);
+        const ValueOption *option = FindValueOption(name);
+        const CommandOption *command = FindCommandOption(name);
+        if (!option && !command) {
+            const bool isOption = argument.startsWith(QLatin1Char('-'));
+            return Refused(
+                isOption ? QString::fromLatin1("there is no option %1; see --help").arg(name)
+                         : QString::fromLatin1("can't do anything with \"%1\"; see --help").arg(argument));
+        }
+        if (command && !TakesEntry(*command)) {
+            if (equals >= 0) {
+                return Refused(QString::fromLatin1("%1 takes no value; see --help").arg(name));
+            }
+            parsed.commands.append(CommandOf(*command));
+            continue;
+        }
+        QString value;
+        if (equals >= 0) {
+            value = argument.mid(equals + 1);
+        } else if (i + 1 < arguments.size() && !arguments.at(i + 1).startsWith(QLatin1String("--"))) {
+            value = arguments.at(++i);
+        }
+        if (value.isEmpty()) {
+            return Refused(QString::fromLatin1("%1 needs a value; see --help").arg(name));
+        }
+        if (option) {
+            parsed.*(option->value) = value;
+            continue;
+        }
+        ListCommand given = CommandOf(*command);
+        given.entry = EntryOf(value);
+        if (given.entry.name.isEmpty()) {
+            return Refused(QString::fromLatin1("%1 needs a name before the type; see --help").arg(name));
+        }
+        if (!CanBeStored(given.entry.name)) {
+            return Refused(QString::fromLatin1("the list can't hold all characters of the name \"%1\"")
+                               .arg(given.entry.name));
+        }
+        parsed.commands.append(given);
+    }
+    if (!parsed.commands.isEmpty() && !parsed.tourDirectory.isNull()) {
+        return Refused(QLatin1String("a tour has a list of its own, and can't be combined with commands for "
+                                     "yours; see --help"));
+    }
+    if (!parsed.wlan.isNull() && !FindWlanWord(parsed.wlan)) {
+        return Refused(QString::fromLatin1("--wlan is auto, networkmanager or stored, not \"%1\"; see --help")
+                           .arg(parsed.wlan));
+    }
+    if (!parsed.tourDirectory.isNull() && parsed.wlan == QLatin1String("networkmanager")) {
+        return Refused(QLatin1String("--tour makes and deletes networks, so it leaves NetworkManager alone: "
+                                     "it can't be had with --wlan networkmanager"));
+    }
+    return parsed;
+}
+
+WlanChoice Arguments::ChosenWlan() const
+{
+    if (!tourDirectory.isNull()) {
+        return WlanStored;
+    }
+    const WlanWord *given = FindWlanWord(wlan);
+    return given ? given->choice : WlanAutomatic;
+}
+
+QString Arguments::HelpText()
+{
+    return QString::fromLatin1(
+        "Usage: priority-dashboard [options]\n"
+        "Shows the priority list of a connection manager and its settings.\n"
+        "\n"
+        "  --language NAME      start in this language, such as en, ar or pt_BR; in pseudo, what\n"
+        "                       can't be translated and what is cut off can be seen\n"
+        "  --library-path DIR   look for plug-ins in DIR/plugins\n"
+        "  --tour DIR           show the whole program to itself: work with a list of its own,\n"
+        "                       save a picture of each step in DIR, and check each effect\n"
+        "  --wlan SOURCE        where the Wi-Fi networks come from:\n"
+        "                         networkmanager  this computer's own; the list decides which is joined\n"
+        "                         stored          a file of the dashboard's; nothing real is touched\n"
+        "                         auto            the former where NetworkManager runs, else the latter\n"
+        "                       auto is the default; a tour always has stored\n"
+        "  --version            print the version\n"
+        "  -h, --help           print this help\n"
+        "\n"
+        "Commands for scripts. They open no window and need no display; several are done in\n"
+        "the order given, and the first that fails is the last:\n"
+        "\n"
+        "  --list               print the entries, the first to be tried first:\n"
+        "                       position, type and name, with tabs between them\n"
+        "  --check              say whether the list's file can be read, how many entries it has,\n"
+        "                       and which of them are listed more than once\n"
+        "  --add NAME[:TYPE]    make this the last entry\n"
+        "  --add-top NAME[:TYPE]\n"
+        "                       make this the first entry, whether it is listed already or not\n"
+        "\n"
+        "TYPE is wifi (or 1), which is also the type of an entry that is given without one,\n"
+        "mobile (or 2), or another digit. NAME may have colons in it: the last one counts when\n"
+        "a type follows.\n"
+        "\n"
+        "Exit status:\n"
+        "   0  done\n"
+        "   1  a step of the tour failed, or there is no display\n"
+        "   2  the command line can't be followed\n"
+        "   3  the tour took too long\n"
+        "   4  the entry to add is listed already\n"
+        "   5  the priority plug-in is missing, was refused or is broken\n"
+        "   6  the list's file is damaged\n"
+        "   7  the list's file can't be opened, or there is no directory for it\n"
+        "   8  the list's file, or the output, can't be written\n"
+        "   9  --check found entries that are listed more than once\n"
+        "  10  another command was busy with the list for too long\n");
+}
+
+QString Arguments::VersionText()
+{
+    return QString::fromLatin1("priority-dashboard %1\n").arg(QLatin1String(DASHBOARD_VERSION));
+}

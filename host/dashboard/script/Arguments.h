@@ -1,0 +1,41 @@
+#ifndef ARGUMENTS_H
+#define ARGUMENTS_H
+
+#include "ListCommands.h"
+
+#include <WlanChoice.h>
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+/** What the command line asks for. */
+struct Arguments {
+    enum Action { Run, Help, Version, Refuse };
+
+    Action action = Run;
+    QString problem; /**< In plain words, when the action is Refuse. */
+
+    /** Each is null when it wasn't given. */
+    QString language;
+    QString pluginLibraryPath;
+    QString tourDirectory;
+    QString wlan;
+
+    /** A tour makes and changes profiles: it is never taken with those of the computer. */
+    WlanChoice ChosenWlan() const;
+
+    /** What to do with the list, in this order, instead of opening a window. */
+    QList<ListCommand> commands;
+
+    /** What main was given. Arguments are UTF-8, or text in the locale's encoding when they aren't. */
+    static Arguments Read(int count, const char *const *arguments);
+
+    /** @param arguments  without the program's name. */
+    static Arguments Parse(const QStringList &arguments);
+
+    static QString HelpText();
+    static QString VersionText();
+};
+
+#endif

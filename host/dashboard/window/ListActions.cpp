@@ -1,0 +1,204 @@
+#include "ListActions.h"
+
+#include "ImportDialog.h"
+#include "RestoreDialog.h"
+
+#include <ActionButton.h>
+#include <BidiText.h>
+#include <DashboardText.h>
+#include <DialogParts.h>
+#include <ElidedLabel.h>
+#include <FileFaultText.h>
+#include <ListKeeper.h>
+#include <ListKeeperText.h>
+#include <OrderFile.h>
+#include <OrdinaryFile.h>
+#include <PrivateFile.h>
+#include <ToolkitCompat.h>
+
+#include <QAction>
+#include <QDir>
+#include <QFileDialog>
+#include <QHBoxLayout>
+#include <QMenu>
+
+ListActions::ListActions(ListKeeper *keeper, QWidget *window)
+    : QObject(window), m_keeper(keeper), m_window(window), m_undo(CreateAction("undoAction", SLOT(Undo()))),
+      m_redo(CreateAction("redoAction", SLOT(Redo()))),
+      m_restore(CreateAction("restoreAction", SLOT(OpenRestore()))),
+      m_import(CreateAction("importAction", SLOT(OpenImport()))),
+      m_export(CreateAction("exportAction", SLOT(OpenExport()))), m_lastChange(nullptr)
+{
+    m_undo->setShortcut(QKeySequence(QLatin1String("Ctrl+Z")));
+    m_redo->setShortcut(QKeySequence(QLatin1String("Ctrl+Shift+Z")));
+    connect(m_keeper, SIGNAL(Changed()), this, SLOT(Update()));
+}
+
+QAction *ListActions::CreateAction(const char *name, const char *slot)
+{
+    QAction *action = new QAction(this);
+    action->setObjectName(QLatin1String(name));
+    connect(action, SIGNAL(triggered()), this, slot);
+    return action;
+}
+
+void ListActions::FillMenu(QMenu *menu)
+{
+    menu->addAction(m_undo);
+    menu->addAction(m_redo);
+    menu->addAction(m_restore);
+    menu->addSeparator();
+    menu->addAction(m_import);
+    menu->addAction(m_export);
+}
+
+QWidget *ListActions::CreateBar()
+{
+    m_lastChange = new ElidedLabel("lastChangeLabel");
+    QWidget *bar = new QWidget;
+    bar->setObjectName(QLatin1String("listBar"));
+    QHBoxLayout *layout = new QHBoxLayout(bar);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_lastChange, 1);
+    const QList<QWidget *> buttons = CreateButtons("undoButton", "redoButton");
+    for (int i = 0; i < buttons.size(); ++i) {
+        layout->addWidget(buttons.at(i));
+    }
+    layout->addWidget(new ActionButton("restoreButton", m_restore));
+    return bar;
+}
+
+QList<QWidget *> ListActions::CreateButtons(const char *undoName, const char *redoName)
+{
+    return QList<QWidget *>() << new ActionButton(undoName, m_undo) << new ActionButton(redoName, m_redo);
+}
+
+void ListActions::Retranslate()
+{
+    m_undo->setText(DashboardText("IDS_ACTION_UNDO"));
+    m_redo->setText(DashboardText("IDS_ACTION_REDO"));
+    m_restore->setText(DashboardText("IDS_ACTION_RESTORE"));
+    m_import->setText(DashboardText("IDS_ACTION_IMPORT"));
+    m_export->setText(DashboardText("IDS_ACTION_EXPORT"));
+    m_undo->setIconText(DashboardText("IDS_BUTTON_UNDO"));
+    m_redo->setIconText(DashboardText("IDS_BUTTON_REDO"));
+    m_restore->setIconText(DashboardText("IDS_BUTTON_RESTORE"));
+    if (m_restoreDialog) {
+        m_restoreDialog->Retranslate();
+    }
+    if (m_importDialog) {
+        m_importDialog->Retranslate();
+    }
+    Update();
+}
+
+void ListActions::SetHelp(QAction *action, const QString &help)
+{
+    // Both may hold the names of networks, which must not be taken for rich text.
+    action->setToolTip(ToolkitCompat::PlainTextAsHtml(help));
+    action->setWhatsThis(help);
+}
+
+void ListActions::Update()
+{
+    const QString undoObstacle = ListKeeperText::Reason(*m_keeper, m_keeper->UndoObstacle());
+    const QString redoObstacle = ListKeeperText::Reason(*m_keeper, m_keeper->RedoObstacle());
+    const QString obstacle = ListKeeperText::Reason(*m_keeper, m_keeper->ChangeObstacle());
+    m_undo->setEnabled(undoObstacle.isNull());
+    SetHelp(m_undo, undoObstacle.isNull()
+                        ? DashboardText("IDS_UNDO_WHAT").arg(ListKeeperText::Undo(*m_keeper))
+                        : undoObstacle);
+    m_redo->setEnabled(redoObstacle.isNull());
+    SetHelp(m_redo, redoObstacle.isNull()
+                        ? DashboardText("IDS_REDO_WHAT").arg(ListKeeperText::Redo(*m_keeper))
+                        : redoObstacle);
+    // A history that can't be used is what the dialog helps with.
+    const bool canOpen = obstacle.isNull() || m_keeper->IsHistoryUnusable();
+    m_restore->setEnabled(canOpen);
+    SetHelp(m_restore, canOpen ? DashboardText("IDS_RESTORE_HINT") : obstacle);
+    m_import->setEnabled(obstacle.isNull());
+    SetHelp(m_import, obstacle.isNull() ? DashboardText("IDS_IMPORT_HINT") : obstacle);
+    // What can be read of a damaged list would pass for all of it, and take the place of a file that has all.
+    const QString exportObstacle =
+        obstacle.isNull() && m_keeper->IsDamaged() ? DashboardText("IDS_LIST_DAMAGED") : obstacle;
+    m_export->setEnabled(exportObstacle.isNull());
+    SetHelp(m_export, exportObstacle.isNull() ? DashboardText("IDS_EXPORT_HINT") : exportObstacle);
+    if (m_lastChange) {
+        m_lastChange->SetFullText(ListKeeperText::LastChange(*m_keeper));
+    }
+}
+
+void ListActions::Undo()
+{
+    DialogParts::Tell(ListKeeperText::Reason(*m_keeper, m_keeper->Undo()));
+}
+
+void ListActions::Redo()
+{
+    DialogParts::Tell(ListKeeperText::Reason(*m_keeper, m_keeper->Redo()));
+}
+
+void ListActions::OpenRestore()
+{
+    m_restoreDialog = new RestoreDialog(m_keeper, m_window);
+    m_restoreDialog->setAttribute(Qt::WA_DeleteOnClose);
+    m_restoreDialog->setModal(true);
+    m_restoreDialog->show();
+}
+
+QFileDialog *ListActions::CreateFileDialog(const char *name, const char *titleId)
+{
+    QFileDialog *dialog = new QFileDialog(m_window, DashboardText(titleId), QDir::homePath());
+    dialog->setObjectName(QLatin1String(name));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setModal(true);
+    dialog->setNameFilters(QStringList() << DashboardText("IDS_ORDER_FILES") + QLatin1String(" (*.xml)")
+                                         << DashboardText("IDS_ALL_FILES") + QLatin1String(" (*)"));
+    return dialog;
+}
+
+void ListActions::OpenImport()
+{
+    QFileDialog *dialog = CreateFileDialog("importFileDialog", "IDS_IMPORT_TITLE");
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    connect(dialog, SIGNAL(fileSelected(QString)), this, SLOT(Import(QString)));
+    dialog->show();
+}
+
+void ListActions::OpenExport()
+{
+    QFileDialog *dialog = CreateFileDialog("exportFileDialog", "IDS_EXPORT_TITLE");
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setFileMode(QFileDialog::AnyFile);
+    dialog->setDefaultSuffix(QLatin1String("xml"));
+    dialog->selectFile(DashboardText("IDS_EXPORT_FILE_NAME"));
+    connect(dialog, SIGNAL(fileSelected(QString)), this, SLOT(Export(QString)));
+    dialog->show();
+}
+
+void ListActions::Import(const QString &path)
+{
+    QByteArray bytes;
+    if (!OrdinaryFile::Read(path, OrderFile::largestFile, &bytes)) {
+        DialogParts::Tell(DashboardText("IDS_IMPORT_NOT_READABLE").arg(InOwnDirection(path)));
+        return;
+    }
+    QList<PriorityList> entries;
+    const FileFault fault = OrderFile::Parse(bytes, &entries);
+    if (fault.kind != FileFault::None) {
+        DialogParts::Tell(
+            DashboardText("IDS_IMPORT_DAMAGED").arg(InOwnDirection(path), FileFaultText(fault)));
+        return;
+    }
+    m_importDialog = new ImportDialog(m_keeper, entries, m_window);
+    m_importDialog->setAttribute(Qt::WA_DeleteOnClose);
+    m_importDialog->setModal(true);
+    m_importDialog->show();
+}
+
+void ListActions::Export(const QString &path)
+{
+    if (PrivateFile::Replace(path, OrderFile::Document(m_keeper->Entries())) != PrivateFile::OutcomeDone) {
+        DialogParts::Tell(DashboardText("IDS_EXPORT_NOT_WRITTEN").arg(InOwnDirection(path)));
+    }
+}

@@ -1,0 +1,601 @@
+#include "MainWindow.h"
+
+#include "ConnectDialog.h"
+#include "ListActions.h"
+#include "ListGuard.h"
+
+#include <AccessibleRows.h>
+#include <Appearance.h>
+#include <BidiText.h>
+#include <Change.h>
+#include <DashboardLanguage.h>
+#include <DashboardText.h>
+#include <DialogParts.h>
+#include <GeneralPage.h>
+#include <ListKeeper.h>
+#include <ListKeeperText.h>
+#include <OverviewDelegate.h>
+#include <OverviewText.h>
+#include <PluginHost.h>
+#include <PluginObjects.h>
+#include <PluginPage.h>
+#include <PriorityResult.h>
+#include <Settings.h>
+#include <SettingsDialog.h>
+#include <ToolkitCompat.h>
+#include <TracePanel.h>
+#include <UserData.h>
+#include <WrappedLabel.h>
+
+#include <QActionGroup>
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QStackedWidget>
+#include <QTimer>
+#include <QVBoxLayout>
+
+namespace
+{
+
+const unsigned int languageChangeEvent = 320;
+
+// Wi-Fi plug-ins don't tell when the networks in range change.
+const int rangeMilliseconds = 3000;
+
+QString GeometryKey()
+{
+    return QLatin1String("window/geometry");
+}
+
+QString TraceShownKey()
+{
+    return QLatin1String("trace/shown");
+}
+
+QLabel *MakeLabel(const char *name, qreal sizeFactor, bool isBold)
+{
+    QLabel *label = new WrappedLabel(name);
+    QFont font = label->font();
+    if (font.pointSizeF() > 0) {
+        font.setPointSizeF(font.pointSizeF() * sizeFactor);
+    }
+    font.setBold(isBold);
+    label->setFont(font);
+    return label;
+}
+
+QPushButton *MakeButton(const char *name)
+{
+    QPushButton *button = new QPushButton;
+    button->setObjectName(QLatin1String(name));
+    return button;
+}
+
+} // namespace
+
+MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLog *log)
+    : m_plugins(plugins), m_language(language), m_languageProblems(HostControl::LanguageProblems()),
+      m_watcher(UserData::FilePath(QLatin1String("Priority.xml")), nullptr),
+      m_keeper(new ListKeeper(UserData::Directory(), &m_source, this)),
+      m_listActions(new ListActions(m_keeper, this)), m_guard(new ListGuard(m_keeper, this)),
+      m_rangeTimer(new QTimer(this))
+{
+    setObjectName(QLatin1String("mainWindow"));
+    new AccessibleRows(this);
+    m_trace = new TracePanel(log, this);
+    addDockWidget(Qt::BottomDockWidgetArea, m_trace);
+    m_trace->setVisible(Settings::Read(TraceShownKey()).toBool());
+
+    CreateMenus();
+    QWidget *central = new QWidget;
+    central->setObjectName(QLatin1String("central"));
+    QVBoxLayout *layout = new QVBoxLayout(central);
+    layout->setContentsMargins(18, 16, 18, 14);
+    layout->setSpacing(12);
+    layout->addWidget(CreateHead());
+
+    m_problems = MakeLabel("problemsLabel", 1, false);
+    m_problems->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_problems->setAutoFillBackground(true);
+    m_problems->setBackgroundRole(QPalette::ToolTipBase);
+    m_problems->setForegroundRole(QPalette::ToolTipText);
+    m_problems->setMargin(10);
+    layout->addWidget(m_problems);
+    m_repairButton = MakeButton("repairButton");
+    connect(m_repairButton, SIGNAL(clicked()), m_guard, SLOT(Ask()));
+    layout->addWidget(m_repairButton, 0, Qt::AlignLeading);
+
+    m_list = new QListWidget;
+    m_list->setObjectName(QLatin1String("overviewList"));
+    m_list->setItemDelegate(new OverviewDelegate(m_list));
+    m_list->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_list->setUniformItemSizes(true);
+    m_body = new QStackedWidget;
+    m_body->setObjectName(QLatin1String("body"));
+    m_body->addWidget(m_list);
+    m_body->addWidget(CreateMessagePage());
+    layout->addWidget(m_body, 1);
+    layout->addWidget(m_listActions->CreateBar());
+    layout->addWidget(CreateFoot());
+    setCentralWidget(central);
+
+    if (QObject *service = PluginObjects::PriorityService()) {
+        connect(service, SIGNAL(OnUpdataPriorityView()), this, SLOT(Refresh()));
+    }
+    connect(&m_watcher, SIGNAL(Changed()), this, SLOT(Refresh()));
+    m_rangeTimer->setObjectName(QLatin1String("rangeTimer"));
+    m_rangeTimer->setInterval(rangeMilliseconds);
+    connect(m_rangeTimer, SIGNAL(timeout()), this, SLOT(FollowRange()));
+    m_rangeTimer->start();
+    connect(m_keeper, SIGNAL(Changed()), this, SLOT(FollowHistory()));
+    connect(m_language, SIGNAL(Switched()), this, SLOT(FollowLanguage()));
+
+    resize(DialogParts::ForFont(820), DialogParts::ForFont(620));
+    restoreGeometry(Settings::Read(GeometryKey()).toByteArray());
+    Retranslate();
+}
+
+MainWindow::~MainWindow()
+{
+    // The pages are the plug-ins'; they are out of the dialog before it is deleted as a child of this window.
+    delete m_settings.data();
+}
+
+void MainWindow::CreateMenus()
+{
+    m_fileMenu = menuBar()->addMenu(QString());
+    m_editMenu = menuBar()->addMenu(QString());
+    m_viewMenu = menuBar()->addMenu(QString());
+    m_languageMenu = menuBar()->addMenu(QString());
+    menuBar()->setObjectName(QLatin1String("menuBar"));
+    m_fileMenu->setObjectName(QLatin1String("fileMenu"));
+    m_editMenu->setObjectName(QLatin1String("editMenu"));
+    m_viewMenu->setObjectName(QLatin1String("viewMenu"));
+    m_languageMenu->setObjectName(QLatin1String("languageMenu"));
+
+    m_connectAction = m_fileMenu->addAction(QString(), this, SLOT(OpenConnect()));
+    m_connectAction->setObjectName(QLatin1String("connectAction"));
+    m_connectAction->setShortcut(QKeySequence(QLatin1String("Ctrl+K")));
+    m_settingsAction = m_fileMenu->addAction(QString(), this, SLOT(OpenSettings()));
+    m_settingsAction->setShortcut(QKeySequence(QLatin1String("Ctrl+,")));
+    m_refreshAction = m_fileMenu->addAction(QString(), this, SLOT(Refresh()));
+    m_refreshAction->setShortcut(QKeySequence(QLatin1String("F5")));
+    m_fileMenu->addSeparator();
+    m_quitAction = m_fileMenu->addAction(QString(), this, SLOT(close()));
+    m_quitAction->setShortcut(QKeySequence(QLatin1String("Ctrl+Q")));
+    m_listActions->FillMenu(m_editMenu);
+    m_trace->toggleViewAction()->setShortcut(QKeySequence(QLatin1String("F12")));
+    m_viewMenu->addAction(m_trace->toggleViewAction());
+    m_searchAction = m_viewMenu->addAction(QString(), m_trace, SLOT(StartSearch()));
+    m_searchAction->setObjectName(QLatin1String("traceSearchAction"));
+    m_searchAction->setShortcut(QKeySequence(QLatin1String("Ctrl+F")));
+    CreateAppearanceActions();
+    CreateLanguageActions();
+}
+
+void MainWindow::CreateAppearanceActions()
+{
+    m_appearanceMenu = m_viewMenu->addMenu(QString());
+    m_appearanceMenu->setObjectName(QLatin1String("appearanceMenu"));
+    m_appearanceActions = new QActionGroup(this);
+    const char *names[] = {"appearanceSystemAction", "appearanceLightAction", "appearanceDarkAction"};
+    const Appearance::Choice choices[] = {Appearance::System, Appearance::Light, Appearance::Dark};
+    for (Appearance::Choice choice : choices) {
+        QAction *action = m_appearanceMenu->addAction(QString());
+        action->setObjectName(QLatin1String(names[choice]));
+        action->setCheckable(true);
+        action->setChecked(choice == Appearance::Stored());
+        action->setData(static_cast<int>(choice));
+        m_appearanceActions->addAction(action);
+    }
+    connect(m_appearanceActions, SIGNAL(triggered(QAction *)), this, SLOT(ChooseAppearance(QAction *)));
+}
+
+void MainWindow::CreateLanguageActions()
+{
+    m_languageActions = new QActionGroup(this);
+    const QStringList names = HostControl::LanguageNames();
+    for (int i = 0; i < names.size(); ++i) {
+        QAction *action = m_languageMenu->addAction(DashboardLanguage::NativeName(names.at(i)));
+        action->setObjectName(QLatin1String("languageAction_") + names.at(i));
+        action->setCheckable(true);
+        action->setData(names.at(i));
+        m_languageActions->addAction(action);
+    }
+    connect(m_languageActions, SIGNAL(triggered(QAction *)), this, SLOT(ChooseLanguage(QAction *)));
+    // The menu's mnemonic is a letter of the language, which another keyboard may not have.
+    QAction *open = new QAction(this);
+    open->setShortcut(QKeySequence(QLatin1String("Ctrl+L")));
+    connect(open, SIGNAL(triggered()), this, SLOT(OpenLanguageMenu()));
+    addAction(open);
+}
+
+QWidget *MainWindow::CreateHead()
+{
+    m_headline = MakeLabel("headlineLabel", 1.5, true);
+    m_explanation = MakeLabel("explanationLabel", 1, false);
+    m_connectButton = MakeButton("connectButton");
+    m_connectButton->setMinimumSize(120, 38);
+    connect(m_connectButton, SIGNAL(clicked()), this, SLOT(OpenConnect()));
+    m_settingsButton = MakeButton("settingsButton");
+    m_settingsButton->setMinimumSize(120, 38);
+    connect(m_settingsButton, SIGNAL(clicked()), this, SLOT(OpenSettings()));
+
+    QWidget *head = new QWidget;
+    head->setObjectName(QLatin1String("head"));
+    QVBoxLayout *texts = new QVBoxLayout;
+    texts->setSpacing(4);
+    texts->addWidget(m_headline);
+    texts->addWidget(m_explanation);
+    QHBoxLayout *layout = new QHBoxLayout(head);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(16);
+    layout->addLayout(texts, 1);
+    QHBoxLayout *buttons = new QHBoxLayout;
+    buttons->setSpacing(8);
+    buttons->addWidget(m_connectButton, 0, Qt::AlignTop);
+    buttons->addWidget(m_settingsButton, 0, Qt::AlignTop);
+    layout->addLayout(buttons);
+    return head;
+}
+
+QWidget *MainWindow::CreateMessagePage()
+{
+    m_messageTitle = MakeLabel("messageTitle", 1.2, true);
+    m_messageText = MakeLabel("messageText", 1, false);
+    m_messageTitle->setAlignment(Qt::AlignCenter);
+    m_messageText->setAlignment(Qt::AlignCenter);
+    m_messagePage = new QWidget;
+    m_messagePage->setObjectName(QLatin1String("messagePage"));
+    m_messagePage->setAutoFillBackground(true);
+    m_messagePage->setBackgroundRole(QPalette::Base);
+    QVBoxLayout *layout = new QVBoxLayout(m_messagePage);
+    layout->setContentsMargins(60, 20, 60, 20);
+    layout->setSpacing(10);
+    layout->addStretch();
+    layout->addWidget(m_messageTitle);
+    layout->addWidget(m_messageText);
+    layout->addStretch();
+    return m_messagePage;
+}
+
+QWidget *MainWindow::CreateFoot()
+{
+    m_refreshButton = MakeButton("refreshButton");
+    connect(m_refreshButton, SIGNAL(clicked()), this, SLOT(Refresh()));
+    m_languageButton = MakeButton("languageButton");
+    m_languageButton->setMenu(m_languageMenu);
+    m_traceButton = MakeButton("traceButton");
+    m_traceButton->setCheckable(true);
+    m_traceButton->setChecked(m_trace->toggleViewAction()->isChecked());
+    connect(m_traceButton, SIGNAL(toggled(bool)), m_trace, SLOT(setVisible(bool)));
+    connect(m_trace->toggleViewAction(), SIGNAL(toggled(bool)), m_traceButton, SLOT(setChecked(bool)));
+
+    m_note = MakeLabel("noteLabel", 0.9, false);
+
+    QWidget *foot = new QWidget;
+    foot->setObjectName(QLatin1String("foot"));
+    QHBoxLayout *layout = new QHBoxLayout(foot);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_refreshButton);
+    layout->addSpacing(6);
+    layout->addWidget(m_note, 1);
+    layout->addSpacing(6);
+    layout->addWidget(m_languageButton);
+    layout->addWidget(m_traceButton);
+    return foot;
+}
+
+void MainWindow::FollowLanguage()
+{
+    // The plug-ins first: what this window shows has texts of theirs.
+    m_plugins->Notify(languageChangeEvent);
+    Retranslate();
+}
+
+void MainWindow::Retranslate()
+{
+    setWindowTitle(DashboardText("IDS_WINDOW_TITLE"));
+    m_fileMenu->setTitle(DashboardText("IDS_MENU_FILE"));
+    m_editMenu->setTitle(DashboardText("IDS_MENU_EDIT"));
+    m_viewMenu->setTitle(DashboardText("IDS_MENU_VIEW"));
+    m_languageMenu->setTitle(DashboardText("IDS_MENU_LANGUAGE"));
+    m_connectAction->setText(DashboardText("IDS_ACTION_CONNECT"));
+    m_settingsAction->setText(DashboardText("IDS_ACTION_SETTINGS"));
+    m_refreshAction->setText(DashboardText("IDS_ACTION_REFRESH"));
+    m_quitAction->setText(DashboardText("IDS_ACTION_QUIT"));
+    m_connectButton->setText(DashboardText("IDS_BUTTON_CONNECT"));
+    m_settingsButton->setText(DashboardText("IDS_BUTTON_SETTINGS"));
+    m_list->setAccessibleName(DashboardText("IDS_PLUGIN_PRIORITY"));
+    m_refreshButton->setText(DashboardText("IDS_BUTTON_REFRESH"));
+    m_traceButton->setText(DashboardText("IDS_BUTTON_TRACE"));
+    m_repairButton->setText(DashboardText("IDS_BUTTON_REPAIR"));
+    m_listActions->Retranslate();
+    m_guard->Retranslate();
+    m_trace->Retranslate();
+    m_trace->toggleViewAction()->setText(DashboardText("IDS_ACTION_TRACE"));
+    m_searchAction->setText(DashboardText("IDS_ACTION_TRACE_SEARCH"));
+    m_appearanceMenu->setTitle(DashboardText("IDS_MENU_APPEARANCE"));
+    const char *appearances[] = {"IDS_APPEARANCE_SYSTEM", "IDS_APPEARANCE_LIGHT", "IDS_APPEARANCE_DARK"};
+    const QList<QAction *> choices = m_appearanceActions->actions();
+    for (int i = 0; i < choices.size(); ++i) {
+        choices.at(i)->setText(DashboardText(appearances[choices.at(i)->data().toInt()]));
+    }
+    const QList<QAction *> actions = m_languageActions->actions();
+    for (int i = 0; i < actions.size(); ++i) {
+        actions.at(i)->setChecked(actions.at(i)->data().toString() == Change::GetLangName());
+    }
+    m_languageButton->setText(DashboardLanguage::NativeName(Change::GetLangName()));
+    m_languageButton->setAccessibleDescription(DashboardText("IDS_GENERAL_LANGUAGE"));
+    if (m_settings) {
+        m_settings->Retranslate();
+    }
+    if (m_connect) {
+        m_connect->Retranslate();
+    }
+    Refresh();
+}
+
+void MainWindow::Refresh()
+{
+    m_keeper->Follow();
+    m_overview = Overview::Read();
+    ShowConnect();
+    ShowHead();
+    ShowProblems();
+    ShowList();
+    ShowNote();
+}
+
+void MainWindow::ShowNote()
+{
+    QStringList notes;
+    const QList<PluginHost::Plugin> plugins = m_plugins->Plugins();
+    for (int i = 0; i < plugins.size(); ++i) {
+        const PluginHost::Plugin &plugin = plugins.at(i);
+        if (plugin.state == PluginReady && !plugin.known.noteId.isEmpty()) {
+            notes.append(DashboardText(plugin.known.noteId.toLatin1().constData()));
+        }
+    }
+    m_note->setText(notes.join(QLatin1String(" ")));
+}
+
+void MainWindow::FollowRange()
+{
+    // Nobody looks at a window that is hidden or minimised.
+    if (isVisible() && !isMinimized() && m_overview.HasRangeChanged()) {
+        Refresh();
+    }
+}
+
+void MainWindow::changeEvent(QEvent *event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange) {
+        // It may have been minimised for long.
+        FollowRange();
+    }
+}
+
+void MainWindow::FollowHistory()
+{
+    ShowProblems();
+}
+
+void MainWindow::ShowConnect()
+{
+    const char *obstacle = nullptr;
+    if (!m_overview.isRangeKnown) {
+        obstacle = "IDS_CONNECT_NO_WLAN";
+    } else if (m_overview.status < 0) {
+        obstacle = "IDS_CONNECT_NO_PRIORITY";
+    }
+    m_connectAction->setEnabled(!obstacle);
+    m_connectButton->setEnabled(!obstacle);
+    m_connectButton->setToolTip(obstacle ? DashboardText(obstacle) : QString());
+}
+
+void MainWindow::ShowHead()
+{
+    m_headline->setText(OverviewText::Headline(m_overview));
+    m_explanation->setText(OverviewText::Explanation(m_overview));
+}
+
+void MainWindow::ShowProblems()
+{
+    QStringList problems;
+    const QList<PluginHost::Plugin> plugins = m_plugins->Plugins();
+    for (int i = 0; i < plugins.size(); ++i) {
+        // Where there is no list, that of its plug-in stands in place of the list.
+        const PluginHost::Plugin &plugin = plugins.at(i);
+        if (m_plugins->IsMissed(plugin) && !(m_overview.status < 0 && plugin.known.hasSettingsPage)) {
+            problems.append(PluginHost::ProblemText(plugin));
+        }
+    }
+    for (int i = 0; i < m_languageProblems.size(); ++i) {
+        problems.append(DashboardLanguage::ProblemText(m_languageProblems.at(i)));
+    }
+    m_repairButton->setVisible(m_keeper->IsDamaged() && m_keeper->WriteObstacle() == ListKeeper::NoObstacle);
+    if (m_keeper->IsDamaged()) {
+        problems.append(DamageText());
+    } else if (m_overview.status == PriorityNotOpened) {
+        problems.append(DashboardText("IDS_LIST_NOT_OPENED"));
+    }
+    const QString historyProblem = ListKeeperText::Reason(*m_keeper, m_keeper->HistoryProblem());
+    if (!historyProblem.isNull()) {
+        problems.append(historyProblem);
+    }
+    m_problems->setText(problems.join(QLatin1String("\n\n")));
+    m_problems->setVisible(!problems.isEmpty());
+}
+
+QString MainWindow::DamageText() const
+{
+    QStringList sentences(DashboardText("IDS_LIST_DAMAGED"));
+    const QString obstacle = ListKeeperText::Reason(*m_keeper, m_keeper->WriteObstacle());
+    sentences.append(obstacle.isNull()
+                         ? DashboardText("IDS_LIST_KEPT").arg(InOwnDirection(m_keeper->CopyPath()))
+                         : obstacle);
+    if (m_keeper->CanBringBack()) {
+        sentences.append(DashboardText("IDS_LIST_UNDO_DAMAGE"));
+    }
+    return sentences.join(QLatin1String(" "));
+}
+
+void MainWindow::ShowList()
+{
+    if (m_overview.status < 0) {
+        const QList<PluginHost::Plugin> plugins = m_plugins->Plugins();
+        QStringList problems;
+        for (int i = 0; i < plugins.size(); ++i) {
+            if (plugins.at(i).known.hasSettingsPage) {
+                const QString problem = PluginHost::ProblemText(plugins.at(i));
+                problems.append(problem.isEmpty()
+                                    ? DashboardText("IDS_LIST_NOT_OFFERED").arg(plugins.at(i).file)
+                                    : problem);
+            }
+        }
+        m_messageTitle->setText(DashboardText("IDS_NO_LIST_TITLE"));
+        m_messageText->setText(problems.join(QLatin1String("\n\n")));
+        m_body->setCurrentWidget(m_messagePage);
+        return;
+    }
+    if (m_overview.entries.isEmpty()) {
+        m_messageTitle->setText(DashboardText("IDS_EMPTY_TITLE"));
+        m_messageText->setText(
+            DashboardText(m_overview.status == PriorityRead || m_overview.status == PriorityMissing
+                              ? "IDS_EMPTY_HINT"
+                              : "IDS_EMPTY_UNREADABLE"));
+        m_body->setCurrentWidget(m_messagePage);
+        return;
+    }
+    const int scrolledTo = m_list->verticalScrollBar()->value();
+    const int current = m_list->currentRow();
+    m_list->clear();
+    for (int i = 0; i < m_overview.entries.size(); ++i) {
+        const Overview::Entry &entry = m_overview.entries.at(i);
+        QListWidgetItem *item = new QListWidgetItem(entry.entry.name, m_list);
+        const QString kind = OverviewText::Kind(entry);
+        const QString state = OverviewText::State(entry);
+        const QString reason = OverviewText::Reason(m_overview, i);
+        item->setData(OverviewDelegate::KindTextRole, kind);
+        item->setData(OverviewDelegate::StateTextRole, state);
+        item->setData(OverviewDelegate::IsWifiRole, entry.IsWifi());
+        item->setData(OverviewDelegate::IsAvailableRole, entry.range != Overview::OutOfRange);
+        item->setData(OverviewDelegate::IsInUseRole, entry.isInUse);
+        item->setData(OverviewDelegate::SignalRole, entry.signal);
+        item->setToolTip(ToolkitCompat::PlainTextAsHtml(reason));
+        item->setData(Qt::AccessibleDescriptionRole, reason);
+        item->setData(Qt::AccessibleTextRole,
+                      QString::fromLatin1("%1, %2, %3").arg(entry.entry.name, kind, state));
+    }
+    m_body->setCurrentWidget(m_list);
+    m_list->setCurrentRow(qMin(current, m_list->count() - 1));
+    m_list->verticalScrollBar()->setValue(scrolledTo);
+}
+
+void MainWindow::OpenLanguageMenu()
+{
+    const QRect button(m_languageButton->mapToGlobal(QPoint()), m_languageButton->size());
+    const int beginning =
+        isRightToLeft() ? button.right() + 1 - m_languageMenu->sizeHint().width() : button.left();
+    m_languageMenu->popup(QPoint(beginning, button.bottom() + 1));
+    m_languageMenu->setActiveAction(m_languageActions->checkedAction());
+}
+
+void MainWindow::ChooseLanguage(QAction *action)
+{
+    m_language->Switch(action->data().toString());
+}
+
+void MainWindow::ChooseAppearance(QAction *action)
+{
+    const Appearance::Choice choice = static_cast<Appearance::Choice>(action->data().toInt());
+    Appearance::Apply(choice);
+    Appearance::Store(choice);
+}
+
+void MainWindow::OpenSettings()
+{
+    if (m_settings) {
+        m_settings->raise();
+        m_settings->activateWindow();
+        return;
+    }
+    if (!m_guard->MayOpen(SLOT(OpenSettings()))) {
+        return;
+    }
+    m_keeper->BeginOpening();
+    m_settings = new SettingsDialog(this);
+    m_settings->AddPage(new GeneralPage(m_language, m_plugins));
+    int firstPluginPage = 0;
+    const QList<PluginHost::Plugin> plugins = m_plugins->Plugins();
+    int pages = 1;
+    for (int i = 0; i < plugins.size(); ++i) {
+        if (PluginPage *page = PluginPage::Make(plugins.at(i), m_plugins)) {
+            m_settings->AddPage(page);
+            // The settings are opened for the sake of the list, so its page comes first.
+            firstPluginPage =
+                plugins.at(i).known.hasSettingsPage && firstPluginPage == 0 ? pages : firstPluginPage;
+            ++pages;
+        }
+    }
+    m_settings->AddButtons(m_listActions->CreateButtons("settingsUndoButton", "settingsRedoButton"));
+    m_settings->SelectPage(firstPluginPage);
+    connect(m_settings.data(), SIGNAL(finished(int)), this, SLOT(SettingsClosed()));
+    m_settings->setModal(true);
+    m_settings->show();
+    m_guard->Watch(m_settings.data());
+}
+
+void MainWindow::SettingsClosed()
+{
+    if (m_settings) {
+        m_settings->deleteLater();
+        m_settings = nullptr;
+    }
+    m_keeper->EndOpening();
+    Refresh();
+}
+
+void MainWindow::OpenConnect()
+{
+    if (m_connect) {
+        m_connect->raise();
+        m_connect->activateWindow();
+        return;
+    }
+    if (!m_guard->MayOpen(SLOT(OpenConnect()))) {
+        return;
+    }
+    m_connect = new ConnectDialog(this);
+    connect(m_connect.data(), SIGNAL(finished(int)), this, SLOT(ConnectClosed()));
+    m_connect->setModal(true);
+    m_connect->show();
+    m_guard->Watch(m_connect.data());
+}
+
+void MainWindow::ConnectClosed()
+{
+    if (m_connect) {
+        m_connect->deleteLater();
+        m_connect = nullptr;
+    }
+    Refresh();
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    m_keeper->Follow();
+    Settings::Write(GeometryKey(), saveGeometry());
+    Settings::Write(TraceShownKey(), m_trace->toggleViewAction()->isChecked());
+    QMainWindow::closeEvent(event);
+}

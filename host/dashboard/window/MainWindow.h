@@ -1,0 +1,117 @@
+#ifndef MAINWINDOW_H
+#define MAINWINDOW_H
+
+#include <HostControl.h>
+#include <ListWatcher.h>
+#include <Overview.h>
+#include <PluginList.h>
+
+#include <QMainWindow>
+#include <QPointer>
+
+class ConnectDialog;
+class DashboardLanguage;
+class ListActions;
+class ListGuard;
+class ListKeeper;
+class PluginHost;
+class QAction;
+class QActionGroup;
+class QLabel;
+class QListWidget;
+class QMenu;
+class QPushButton;
+class QStackedWidget;
+class QTimer;
+class SettingsDialog;
+class TraceLog;
+class TracePanel;
+
+/** Shows the priority list and what the connection manager would make of it now. */
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLog *log);
+    ~MainWindow() override;
+
+public slots:
+    void Refresh();
+    void OpenSettings();
+    void OpenConnect();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private slots:
+    void FollowLanguage();
+    void Retranslate();
+    void FollowHistory();
+    void FollowRange();
+    void OpenLanguageMenu();
+    void ChooseLanguage(QAction *action);
+    void ChooseAppearance(QAction *action);
+    void SettingsClosed();
+    void ConnectClosed();
+
+private:
+    void CreateMenus();
+    void CreateAppearanceActions();
+    void CreateLanguageActions();
+    QWidget *CreateHead();
+    QWidget *CreateMessagePage();
+    QWidget *CreateFoot();
+    void ShowConnect();
+    void ShowHead();
+    void ShowProblems();
+    QString DamageText() const;
+    void ShowList();
+    void ShowNote();
+
+    PluginHost *const m_plugins;
+    DashboardLanguage *const m_language;
+    const QList<LanguageProblem> m_languageProblems;
+    ListWatcher m_watcher;
+    PluginList m_source;
+    ListKeeper *m_keeper;
+    ListActions *m_listActions;
+    ListGuard *m_guard;
+    QTimer *m_rangeTimer;
+    TracePanel *m_trace;
+    Overview m_overview;
+    QPointer<SettingsDialog> m_settings;
+    QPointer<ConnectDialog> m_connect;
+
+    QMenu *m_fileMenu;
+    QMenu *m_editMenu;
+    QMenu *m_viewMenu;
+    QMenu *m_languageMenu;
+    QAction *m_connectAction;
+    QAction *m_settingsAction;
+    QAction *m_refreshAction;
+    QAction *m_quitAction;
+    QAction *m_searchAction;
+    QMenu *m_appearanceMenu;
+    QActionGroup *m_appearanceActions;
+    QActionGroup *m_languageActions;
+
+    QLabel *m_headline;
+    QLabel *m_explanation;
+    QLabel *m_problems;
+    QPushButton *m_repairButton;
+    QStackedWidget *m_body;
+    QListWidget *m_list;
+    QWidget *m_messagePage;
+    QLabel *m_messageTitle;
+    QLabel *m_messageText;
+    QPushButton *m_connectButton;
+    QPushButton *m_settingsButton;
+    QPushButton *m_refreshButton;
+    QLabel *m_note;
+    QPushButton *m_languageButton;
+    QPushButton *m_traceButton;
+};
+
+#endif

@@ -1,0 +1,295 @@
+#include <Change.h>
+#include <DashboardLanguage.h>
+#include <HostControl.h>
+#include <TemporaryDirectory.h>
+#include <ToolkitCompat.h>
+#include <ToolkitTest.h>
+
+#include <QApplication>
+#include <QFile>
+#include <QProcess>
+#include <QSignalSpy>
+#include <QtTest>
+
+class DashboardLanguageTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void FirstLanguageThatThereIsCounts_data();
+    void FirstLanguageThatThereIsCounts();
+    void SystemsLanguagesAreThoseOfTheEnvironment_data();
+    void SystemsLanguagesAreThoseOfTheEnvironment();
+    void SwitchIsTold();
+    void SwitchSetsTheReadingDirection_data();
+    void SwitchSetsTheReadingDirection();
+    void SwitchKeepsTheChoice();
+    void SwitchToTheSameTellsNobody();
+    void UnknownLanguageChangesNothing();
+    void LanguagesAreCalledByTheirOwnNames_data();
+    void LanguagesAreCalledByTheirOwnNames();
+    void ToolkitsOwnTextsFollowTheLanguage();
+    void ProblemNamesTheFileAndThePlace_data();
+    void ProblemNamesTheFileAndThePlace();
+
+private:
+    QScopedPointer<TemporaryDirectory> m_directory;
+};
+
+void DashboardLanguageTest::init()
+{
+    m_directory.reset(new TemporaryDirectory);
+    qputenv("XDG_DATA_HOME", m_directory->Path().toLocal8Bit());
+    HostControl::SetLanguageDirectory(QLatin1String(BUILD_DIRECTORY "/share/priority-dashboard/languages"));
+    QVERIFY(DashboardLanguage::Apply("en"));
+}
+
+void DashboardLanguageTest::cleanup()
+{
+    m_directory.reset();
+}
+
+void DashboardLanguageTest::FirstLanguageThatThereIsCounts_data()
+{
+    QTest::addColumn<QString>("wanted");
+    QTest::addColumn<QString>("stored");
+    QTest::addColumn<QString>("system");
+    QTest::addColumn<QString>("chosen");
+    QTest::newRow("wanted") << "ar"
+                            << "he"
+                            << "en_GB"
+                            << "ar";
+    QTest::newRow("stored") << ""
+                            << "he"
+                            << "ar_EG"
+                            << "he";
+    QTest::newRow("stored one is gone") << ""
+                                        << "tlh"
+                                        << "ar_EG"
+                                        << "ar";
+    QTest::newRow("system, exactly") << ""
+                                     << ""
+                                     << "pt_BR"
+                                     << "pt_BR";
+    QTest::newRow("system, without region") << ""
+                                            << ""
+                                            << "he_IL"
+                                            << "he";
+    QTest::newRow("system, region that there is not") << ""
+                                                      << ""
+                                                      << "pt_PT"
+                                                      << "pt_BR";
+    QTest::newRow("system, no region at all") << ""
+                                              << ""
+                                              << "pt"
+                                              << "pt_BR";
+    QTest::newRow("system, same script") << ""
+                                         << ""
+                                         << "zh_SG"
+                                         << "zh_CN";
+    QTest::newRow("system, Taiwan") << ""
+                                    << ""
+                                    << "zh_TW"
+                                    << "en";
+    QTest::newRow("system, Hong Kong") << ""
+                                       << ""
+                                       << "zh_HK"
+                                       << "en";
+    QTest::newRow("system, first of several") << ""
+                                              << ""
+                                              << "fi_FI zh_TW he_IL ar_EG"
+                                              << "he";
+    QTest::newRow("system, similar name") << ""
+                                          << ""
+                                          << "arn_CL"
+                                          << "en";
+    QTest::newRow("none of them") << ""
+                                  << ""
+                                  << "fi_FI"
+                                  << "en";
+    QTest::newRow("plain C") << ""
+                             << ""
+                             << "C"
+                             << "en";
+    QTest::newRow("nothing known") << ""
+                                   << ""
+                                   << ""
+                                   << "en";
+}
+
+void DashboardLanguageTest::FirstLanguageThatThereIsCounts()
+{
+    QFETCH(QString, wanted);
+    QFETCH(QString, stored);
+    QFETCH(QString, system);
+    const QStringList available = QStringList() << "ar"
+                                                << "en"
+                                                << "he"
+                                                << "pt_BR"
+                                                << "zh_CN";
+    QTEST(DashboardLanguage::Choose(wanted, stored, system.split(' '), available), "chosen");
+}
+
+void DashboardLanguageTest::SystemsLanguagesAreThoseOfTheEnvironment_data()
+{
+    QTest::addColumn<QStringList>("environment");
+    QTest::addColumn<QString>("locales");
+    QTest::newRow("LANG") << QStringList("LANG=de_AT.UTF-8") << "de_AT";
+    QTest::newRow("messages before LANG") << (QStringList() << "LANG=de_AT.UTF-8"
+                                                            << "LC_MESSAGES=fr_CA.UTF-8")
+                                          << "fr_CA";
+    QTest::newRow("numbers are no texts") << (QStringList() << "LANG=fr_CA.UTF-8"
+                                                            << "LC_NUMERIC=de_AT.UTF-8")
+                                          << "fr_CA";
+    QTest::newRow("several, in order") << (QStringList() << "LANG=en_GB.UTF-8"
+                                                         << "LANGUAGE=zh_TW:pt")
+                                       << "zh_TW pt_BR";
+    QTest::newRow("old name") << QStringList("LANG=iw_IL.UTF-8") << "he_IL";
+    QTest::newRow("C") << QStringList("LANG=C.UTF-8") << "";
+    QTest::newRow("none") << QStringList() << "";
+}
+
+void DashboardLanguageTest::SystemsLanguagesAreThoseOfTheEnvironment()
+{
+    // The toolkit looks at the environment once in a process.
+    QFETCH(QStringList, environment);
+    QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
+    const char *const names[] = {"LC_ALL", "LC_MESSAGES", "LC_NUMERIC", "LANG", "LANGUAGE"};
+    for (const char *name : names) {
+        variables.remove(QLatin1String(name));
+    }
+    foreach (const QString &assignment, environment) {
+        variables.insert(assignment.section('=', 0, 0), assignment.section('=', 1));
+    }
+    QProcess process;
+    process.setProcessEnvironment(variables);
+    process.start(BUILD_DIRECTORY "/tests/systemlanguages", QStringList());
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(process.exitCode(), 0);
+    QTEST(QString::fromLatin1(process.readAllStandardOutput()).trimmed(), "locales");
+}
+
+void DashboardLanguageTest::SwitchIsTold()
+{
+    DashboardLanguage language(nullptr);
+    QSignalSpy spy(&language, SIGNAL(Switched()));
+    QVERIFY(language.Switch("ar"));
+    QCOMPARE(spy.count(), 1);
+    QCOMPARE(Change::GetLangName(), QString("ar"));
+}
+
+void DashboardLanguageTest::SwitchSetsTheReadingDirection_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("direction");
+    QTest::newRow("ar") << "ar" << static_cast<int>(Qt::RightToLeft);
+    QTest::newRow("he") << "he" << static_cast<int>(Qt::RightToLeft);
+    QTest::newRow("en") << "en" << static_cast<int>(Qt::LeftToRight);
+}
+
+void DashboardLanguageTest::SwitchSetsTheReadingDirection()
+{
+    QFETCH(QString, name);
+    DashboardLanguage language(nullptr);
+    QVERIFY(language.Switch(name == "en" ? "ar" : "en"));
+    QVERIFY(language.Switch(name));
+    QTEST(static_cast<int>(QApplication::layoutDirection()), "direction");
+}
+
+void DashboardLanguageTest::SwitchKeepsTheChoice()
+{
+    DashboardLanguage language(nullptr);
+    QCOMPARE(DashboardLanguage::Stored(), QString());
+    QVERIFY(language.Switch("he"));
+    QCOMPARE(DashboardLanguage::Stored(), QString("he"));
+    QVERIFY(m_directory->Read("priority-dashboard/dashboard.ini").contains("language=he"));
+}
+
+void DashboardLanguageTest::SwitchToTheSameTellsNobody()
+{
+    DashboardLanguage language(nullptr);
+    QSignalSpy spy(&language, SIGNAL(Switched()));
+    QVERIFY(language.Switch("en"));
+    QCOMPARE(spy.count(), 0);
+}
+
+void DashboardLanguageTest::UnknownLanguageChangesNothing()
+{
+    DashboardLanguage language(nullptr);
+    QSignalSpy spy(&language, SIGNAL(Switched()));
+    QVERIFY(!language.Switch("tlh"));
+    QCOMPARE(Change::GetLangName(), QString("en"));
+    QCOMPARE(DashboardLanguage::Stored(), QString());
+    QCOMPARE(spy.count(), 0);
+}
+
+void DashboardLanguageTest::LanguagesAreCalledByTheirOwnNames_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("native");
+    QTest::newRow("ar") << "ar" << QString::fromUtf8("العربية");
+    QTest::newRow("de") << "de"
+                        << "Deutsch";
+    QTest::newRow("en") << "en"
+                        << "English";
+    QTest::newRow("es") << "es" << QString::fromUtf8("Español");
+    QTest::newRow("fr") << "fr" << QString::fromUtf8("Français");
+    QTest::newRow("he") << "he" << QString::fromUtf8("עברית");
+    QTest::newRow("ja") << "ja" << QString::fromUtf8("日本語");
+    QTest::newRow("pt_BR") << "pt_BR" << QString::fromUtf8("Português (Brasil)");
+    QTest::newRow("ru") << "ru" << QString::fromUtf8("Русский");
+    QTest::newRow("zh_CN") << "zh_CN" << QString::fromUtf8("简体中文");
+    QTest::newRow("one without a file") << "fi"
+                                        << "suomi";
+    QTest::newRow("one that nobody knows") << "xx"
+                                           << "xx";
+}
+
+void DashboardLanguageTest::LanguagesAreCalledByTheirOwnNames()
+{
+    QFETCH(QString, name);
+    QTEST(DashboardLanguage::NativeName(name), "native");
+}
+
+void DashboardLanguageTest::ToolkitsOwnTextsFollowTheLanguage()
+{
+    const QString installed = ToolkitCompat::TranslationDirectory() + "/qtbase_de.qm";
+    if (!QFile::exists(installed)) {
+        SKIP_TEST("The toolkit's own translations are not installed (package qttranslations5-l10n).");
+    }
+    QVERIFY(DashboardLanguage::Apply("de"));
+    QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), QString("Abbrechen"));
+    QVERIFY(DashboardLanguage::Apply("pt_BR"));
+    QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), QString("Cancelar"));
+    QVERIFY(DashboardLanguage::Apply("en"));
+    QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), QString("Cancel"));
+}
+
+void DashboardLanguageTest::ProblemNamesTheFileAndThePlace_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("not readable") << static_cast<int>(LanguageProblem::Unreadable)
+                                  << "The language file /l/de.qm cannot be read: no %2 memory";
+    QTest::newRow("damaged") << static_cast<int>(LanguageProblem::Damaged)
+                             << "The language file /l/de.qm is damaged from byte 17 on, so it is not used.";
+    QTest::newRow("no texts")
+        << static_cast<int>(LanguageProblem::NoTexts)
+        << "The language file /l/de.qm has no texts that can be used, so it is not used.";
+}
+
+void DashboardLanguageTest::ProblemNamesTheFileAndThePlace()
+{
+    QFETCH(int, kind);
+    LanguageProblem problem;
+    problem.path = "/l/de.qm";
+    problem.kind = static_cast<LanguageProblem::Kind>(kind);
+    problem.reason = "no %2 memory";
+    problem.damagedByte = 17;
+    QTEST(DashboardLanguage::ProblemText(problem), "text");
+}
+
+QTEST_MAIN(DashboardLanguageTest)
+#include "tst_dashboardlanguage.moc"

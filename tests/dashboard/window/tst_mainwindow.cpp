@@ -1,0 +1,545 @@
+#include "Eventually.h"
+#include "Lists.h"
+
+#include <ConnectDialog.h>
+#include <DashboardLanguage.h>
+#include <HostControl.h>
+#include <MainWindow.h>
+#include <OverviewDelegate.h>
+#include <PluginHost.h>
+#include <PluginObjects.h>
+#include <TemporaryDirectory.h>
+#include <TraceLog.h>
+
+#include <CommonUtils.h>
+#include <IPriorityPlugin.h>
+
+#include <QAction>
+#include <QDialog>
+#include <QDir>
+#include <QDockWidget>
+#include <QFile>
+#include <QLabel>
+#include <QListWidget>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTableWidget>
+#include <QtTest>
+
+namespace
+{
+
+PriorityList Entry(const QString &name, const QString &type = QLatin1String("1"))
+{
+    PriorityList entry;
+    entry.name = name;
+    entry.type = type;
+    return entry;
+}
+
+QByteArray ListFile(const QStringList &names)
+{
+    QByteArray items;
+    for (int i = 0; i < names.size(); ++i) {
+        items += "<item name=\"" + names.at(i).toUtf8() + "\" type=\"1\"/>";
+    }
+    return "<zeltdoc><profile>" + items + "</profile></zeltdoc>";
+}
+
+} // namespace
+
+/** The window over the real plug-ins. They live once in a process, so they are loaded for all tests together.
+ */
+class MainWindowTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void cleanupTestCase();
+    void init();
+    void cleanup();
+
+    void NoListIsToldWithAHint();
+    void EntriesAreShownInOrder();
+    void StateOfEachEntryIsShown();
+    void HeadlineNamesTheNetworkInUse();
+    void ExplanationTellsWhyNotThoseAbove();
+    void NothingInRangeIsToldWithAHint();
+    void ChangeOfTheRangeIsFollowed();
+    void RangeIsNotFollowedWhileTheWindowIsMinimised();
+    void ChosenRowStaysChosen();
+    void AppearanceMenuSwitchesAndIsKept();
+    void ChangeThroughThePluginIsShownAtOnce();
+    void ChangeOfTheFileIsFollowed();
+    void DamagedFileIsTold();
+    void SettingsOpenAtTheListsPage();
+    void SettingsOpenOnce();
+    void WindowIsRefreshedWhenSettingsClose();
+    void WindowClosedWithOpenSettingsSparesThePage();
+    void ConnectPutsTheNetworkOnTop_data();
+    void ConnectPutsTheNetworkOnTop();
+    void ConnectMovesAListedNetworkToTheTop();
+    void ConnectOpensOnceAndAgain();
+    void OpenPageFollowsAConnection();
+    void OpenConnectFollowsTheLanguage();
+    void LanguageMenuSwitches();
+    void OpenSettingsFollowTheLanguage();
+    void TraceIsShownOnDemand();
+    void TraceShowsLines();
+    void LongListIsShown();
+
+private:
+    QString Text(const char *name) const
+    {
+        return m_window->findChild<QLabel *>(QLatin1String(name))->text();
+    }
+    QListWidget *List() const { return m_window->findChild<QListWidget *>("overviewList"); }
+    QStringList Names() const;
+    QStringList States() const;
+    /** The tool tips, which tell assistive technology the same. */
+    QStringList Reasons() const;
+    QString ListPath() const { return m_directory->FilePath("priority-dashboard/Priority.xml"); }
+    void WriteList(const QByteArray &bytes) const;
+
+    QScopedPointer<TemporaryDirectory> m_directory;
+    QScopedPointer<TraceLog> m_log;
+    QScopedPointer<PluginHost> m_plugins;
+    QScopedPointer<DashboardLanguage> m_language;
+    QScopedPointer<MainWindow> m_window;
+};
+
+QStringList MainWindowTest::Names() const
+{
+    QStringList names;
+    for (int i = 0; i < List()->count(); ++i) {
+        names.append(List()->item(i)->text());
+    }
+    return names;
+}
+
+QStringList MainWindowTest::States() const
+{
+    QStringList states;
+    for (int i = 0; i < List()->count(); ++i) {
+        states.append(List()->item(i)->data(OverviewDelegate::StateTextRole).toString());
+    }
+    return states;
+}
+
+QStringList MainWindowTest::Reasons() const
+{
+    QStringList reasons;
+    for (int i = 0; i < List()->count(); ++i) {
+        const QListWidgetItem *item = List()->item(i);
+        reasons.append(Plain(item->toolTip()));
+        if (item->data(Qt::AccessibleDescriptionRole).toString() != item->toolTip()) {
+            reasons.append("something else is described");
+        }
+    }
+    return reasons;
+}
+
+void MainWindowTest::WriteList(const QByteArray &bytes) const
+{
+    m_directory->Write("priority-dashboard/Priority.xml", bytes);
+}
+
+void MainWindowTest::initTestCase()
+{
+    m_directory.reset(new TemporaryDirectory);
+    qputenv("XDG_DATA_HOME", m_directory->Path().toLocal8Bit());
+    m_log.reset(new TraceLog(m_directory->FilePath("dashboard.log")));
+    HostControl::SetPluginLibraryPath(BUILD_DIRECTORY);
+    HostControl::SetLanguageDirectory(QLatin1String(BUILD_DIRECTORY "/share/priority-dashboard/languages"));
+    m_plugins.reset(new PluginHost(BUILD_DIRECTORY, PluginHost::KnownPlugins(WlanStored)));
+    m_plugins->Load();
+    QCOMPARE(m_plugins->Plugins().at(0).state, PluginReady);
+    QCOMPARE(m_plugins->Plugins().at(1).state, PluginReady);
+}
+
+void MainWindowTest::cleanupTestCase()
+{
+    m_plugins->Shutdown();
+}
+
+void MainWindowTest::init()
+{
+    m_directory.reset(new TemporaryDirectory);
+    qputenv("XDG_DATA_HOME", m_directory->Path().toLocal8Bit());
+    QVERIFY(QDir().mkpath(m_directory->FilePath("priority-dashboard")));
+    m_directory->Write("priority-dashboard/WLANNetworks.xml",
+                       "<wlannetworks><network name=\"Home\" signal=\"90\"/><network name=\"Library\" "
+                       "signal=\"50\"/></wlannetworks>");
+    QVERIFY(DashboardLanguage::Apply("en"));
+    m_language.reset(new DashboardLanguage(nullptr));
+    m_window.reset(new MainWindow(m_plugins.data(), m_language.data(), m_log.data()));
+    m_window->show();
+}
+
+void MainWindowTest::cleanup()
+{
+    m_window.reset();
+}
+
+void MainWindowTest::NoListIsToldWithAHint()
+{
+    QVERIFY(!List()->isVisible());
+    QVERIFY(m_window->findChild<QWidget *>("messagePage")->isVisible());
+    QCOMPARE(Text("messageTitle"), QString("Your priority list is empty"));
+    QVERIFY(Text("messageText").contains("Open the settings"));
+    QVERIFY(!m_window->findChild<QWidget *>("problemsLabel")->isVisible());
+    QVERIFY(!QFile::exists(ListPath()));
+}
+
+void MainWindowTest::EntriesAreShownInOrder()
+{
+    WriteList(ListFile(QStringList() << "Office"
+                                     << "Home"
+                                     << "A & B <i>x</i>"));
+    m_window->Refresh();
+    QVERIFY(List()->isVisible());
+    // An ampersand alone ends the reading: what stands before is shown.
+    QCOMPARE(Names(), QStringList() << "Office"
+                                    << "Home");
+    WriteList(ListFile(QStringList() << "Office"
+                                     << "Home"
+                                     << "A &amp; B &lt;i>x&lt;/i>"));
+    m_window->Refresh();
+    QCOMPARE(Names(), QStringList() << "Office"
+                                    << "Home"
+                                    << "A & B <i>x</i>");
+}
+
+void MainWindowTest::StateOfEachEntryIsShown()
+{
+    QList<PriorityList> entries;
+    entries << Entry("Office") << Entry("Home") << Entry("Library") << Entry("Mobile", "2");
+    PluginObjects::Priority()->AddPriorityList(entries);
+    QCOMPARE(States(), QStringList() << "Out of range" << QString::fromUtf8("In use now · 90%")
+                                     << QString::fromUtf8("In range · 50%") << "Ready as fallback");
+    QCOMPARE(Reasons(), QStringList() << "It cannot be used now, because it is out of range."
+                                      << "It is the first network of your list that is in range."
+                                      << "It could be used, but Home is higher in the list."
+                                      << "It could be used, but Home is higher in the list.");
+}
+
+void MainWindowTest::HeadlineNamesTheNetworkInUse()
+{
+    QList<PriorityList> entries;
+    entries << Entry("Office");
+    PluginObjects::Priority()->AddPriorityList(entries);
+    QCOMPARE(Text("headlineLabel"), QString("No network in use"));
+    PluginObjects::Priority()->AddTopPriority(Entry("Mobile", "2"));
+    QCOMPARE(Plain(Text("headlineLabel")), QString("In use now: Mobile"));
+    PluginObjects::Priority()->AddTopPriority(Entry("Home"));
+    QCOMPARE(Plain(Text("headlineLabel")), QString("In use now: Home"));
+}
+
+void MainWindowTest::ExplanationTellsWhyNotThoseAbove()
+{
+    WriteList(ListFile(QStringList() << "Office"
+                                     << "Train"
+                                     << "Library"
+                                     << "Garden"));
+    m_window->Refresh();
+    QCOMPARE(Plain(Text("explanationLabel")),
+             QString("It is the first network of your list that is in range. "
+                     "Higher in the list, but out of range: Office, Train."));
+    WriteList(ListFile(QStringList() << "Library"
+                                     << "Office"));
+    m_window->Refresh();
+    QCOMPARE(Text("explanationLabel"), QString("It is the first network of your list that is in range."));
+}
+
+void MainWindowTest::NothingInRangeIsToldWithAHint()
+{
+    WriteList(ListFile(QStringList("Office")));
+    m_window->Refresh();
+    QVERIFY(Text("explanationLabel").startsWith("None of the networks of your list is in range. "));
+    QVERIFY(Text("explanationLabel").contains("Connect"));
+    m_directory->Write("priority-dashboard/WLANNetworks.xml", "<wlannetworks/>");
+    m_window->Refresh();
+    QCOMPARE(Text("explanationLabel"), QString("None of the networks of your list is in range."));
+}
+
+void MainWindowTest::ChangeOfTheRangeIsFollowed()
+{
+    WriteList(ListFile(QStringList() << "Home"
+                                     << "Library"));
+    m_window->Refresh();
+    m_window->findChild<QTimer *>("rangeTimer")->setInterval(10);
+    // In place, so that only the plug-in can tell of it: the directory stays what it was.
+    QFile networks(m_directory->FilePath("priority-dashboard/WLANNetworks.xml"));
+    QVERIFY(networks.open(QIODevice::WriteOnly));
+    networks.write("<wlannetworks><network name=\"Library\" signal=\"70\"/></wlannetworks>");
+    networks.close();
+    QVERIFY(Eventually([this]() { return Plain(Text("headlineLabel")) == "In use now: Library"; }));
+    QCOMPARE(States(), QStringList() << "Out of range" << QString::fromUtf8("In use now · 70%"));
+}
+
+void MainWindowTest::RangeIsNotFollowedWhileTheWindowIsMinimised()
+{
+    WriteList(ListFile(QStringList() << "Home"
+                                     << "Library"));
+    m_window->Refresh();
+    m_window->showMinimized();
+    QTimer *timer = m_window->findChild<QTimer *>("rangeTimer");
+    timer->setInterval(10);
+    QFile networks(m_directory->FilePath("priority-dashboard/WLANNetworks.xml"));
+    QVERIFY(networks.open(QIODevice::WriteOnly));
+    networks.write("<wlannetworks><network name=\"Library\" signal=\"70\"/></wlannetworks>");
+    networks.close();
+    QSignalSpy ticks(timer, SIGNAL(timeout()));
+    QVERIFY(Eventually([&ticks]() { return ticks.count() >= 5; }));
+    QCOMPARE(Plain(Text("headlineLabel")), QString("In use now: Home"));
+    // At once, and not with the next tick.
+    timer->stop();
+    m_window->showNormal();
+    QCOMPARE(Plain(Text("headlineLabel")), QString("In use now: Library"));
+}
+
+void MainWindowTest::ChosenRowStaysChosen()
+{
+    WriteList(ListFile(QStringList() << "Office"
+                                     << "Home"
+                                     << "Library"));
+    m_window->Refresh();
+    List()->setFocus();
+    QTest::keyClick(List(), Qt::Key_Down);
+    QTest::keyClick(List(), Qt::Key_Down);
+    QCOMPARE(List()->currentRow(), 1);
+    m_window->Refresh();
+    QCOMPARE(List()->currentRow(), 1);
+    WriteList(ListFile(QStringList("Office")));
+    m_window->Refresh();
+    QCOMPARE(List()->currentRow(), 0);
+}
+
+void MainWindowTest::AppearanceMenuSwitchesAndIsKept()
+{
+    const QColor systemColour = QApplication::palette().color(QPalette::Base);
+    QAction *dark = m_window->findChild<QAction *>("appearanceDarkAction");
+    dark->trigger();
+    QVERIFY(dark->isChecked());
+    QVERIFY(List()->palette().color(QPalette::Base).lightness() < 64);
+    m_window.reset(new MainWindow(m_plugins.data(), m_language.data(), m_log.data()));
+    QVERIFY(m_window->findChild<QAction *>("appearanceDarkAction")->isChecked());
+    m_window->findChild<QAction *>("appearanceSystemAction")->trigger();
+    QCOMPARE(List()->palette().color(QPalette::Base), systemColour);
+    QVERIFY(!m_window->findChild<QAction *>("appearanceDarkAction")->isChecked());
+}
+
+void MainWindowTest::ChangeThroughThePluginIsShownAtOnce()
+{
+    PluginObjects::Priority()->AddTopPriority(Entry("Home"));
+    QCOMPARE(Names(), QStringList("Home"));
+    PluginObjects::Priority()->AddTopPriority(Entry("Library"));
+    QCOMPARE(Names(), QStringList() << "Library"
+                                    << "Home");
+}
+
+void MainWindowTest::ChangeOfTheFileIsFollowed()
+{
+    for (int i = 0; i < 2; ++i) {
+        const QString name = QString("Written %1").arg(i);
+        QFile::remove(ListPath());
+        WriteList(ListFile(QStringList(name)));
+        QVERIFY(Eventually([this, name]() { return Names() == QStringList(name); }));
+    }
+}
+
+void MainWindowTest::DamagedFileIsTold()
+{
+    WriteList("<zeltdoc><item name=\"Home\" type=\"1\"/><item");
+    m_window->Refresh();
+    QVERIFY(m_window->findChild<QWidget *>("problemsLabel")->isVisible());
+    QVERIFY(Text("problemsLabel").contains("damaged"));
+    QCOMPARE(Names(), QStringList("Home"));
+    WriteList(ListFile(QStringList("Home")));
+    m_window->Refresh();
+    QVERIFY(!m_window->findChild<QWidget *>("problemsLabel")->isVisible());
+}
+
+void MainWindowTest::SettingsOpenAtTheListsPage()
+{
+    PluginObjects::Priority()->AddTopPriority(Entry("Home"));
+    QTest::mouseClick(m_window->findChild<QPushButton *>("settingsButton"), Qt::LeftButton);
+    const QDialog *dialog = m_window->findChild<QDialog *>("settingsDialog");
+    QVERIFY(dialog && dialog->isVisible() && dialog->isModal());
+    const QListWidget *pages = dialog->findChild<QListWidget *>("pageList");
+    QCOMPARE(pages->count(), 2);
+    QCOMPARE(pages->item(0)->text(), QString("General"));
+    QCOMPARE(pages->currentItem()->text(), QString("Network priority"));
+    const QTableWidget *table = dialog->findChild<QTableWidget *>("priorityTable");
+    QVERIFY(table && table->isVisible());
+    QCOMPARE(table->rowCount(), 1);
+}
+
+void MainWindowTest::SettingsOpenOnce()
+{
+    m_window->OpenSettings();
+    m_window->OpenSettings();
+    QCOMPARE(m_window->findChildren<QDialog *>("settingsDialog").size(), 1);
+}
+
+void MainWindowTest::WindowIsRefreshedWhenSettingsClose()
+{
+    m_window->OpenSettings();
+    m_directory->Write("priority-dashboard/WLANNetworks.xml", "<wlannetworks/>");
+    WriteList(ListFile(QStringList("Home")));
+    m_window->findChild<QDialog *>("settingsDialog")->reject();
+    QCOMPARE(Names(), QStringList("Home"));
+    QCOMPARE(States(), QStringList("Out of range"));
+}
+
+void MainWindowTest::WindowClosedWithOpenSettingsSparesThePage()
+{
+    m_window->OpenSettings();
+    QVERIFY(m_window->findChild<QWidget *>("priorityPage"));
+    m_window.reset(new MainWindow(m_plugins.data(), m_language.data(), m_log.data()));
+    m_window->show();
+    m_window->OpenSettings();
+    const QWidget *page = m_window->findChild<QWidget *>("priorityPage");
+    QVERIFY(page && page->isVisible());
+}
+
+void MainWindowTest::ConnectPutsTheNetworkOnTop_data()
+{
+    QTest::addColumn<bool>("byMenu");
+    QTest::newRow("button") << false;
+    QTest::newRow("File menu") << true;
+}
+
+void MainWindowTest::ConnectPutsTheNetworkOnTop()
+{
+    QFETCH(bool, byMenu);
+    m_window->Refresh();
+    if (byMenu) {
+        QAction *action = m_window->findChild<QAction *>("connectAction");
+        QVERIFY(m_window->findChild<QMenu *>("fileMenu")->actions().contains(action));
+        action->trigger();
+    } else {
+        QTest::mouseClick(m_window->findChild<QPushButton *>("connectButton"), Qt::LeftButton);
+    }
+    QTableWidget *list = m_window->findChild<QTableWidget *>("connectList");
+    QVERIFY(list && list->isVisible() && list->window()->isModal());
+    QCOMPARE(list->rowCount(), 2);
+    QTest::keyClick(list, Qt::Key_Down);
+    QTest::mouseClick(m_window->findChild<QPushButton *>("connectOkButton"), Qt::LeftButton);
+    QCOMPARE(Names(), QStringList("Library"));
+    QCOMPARE(Plain(Text("headlineLabel")), QString("In use now: Library"));
+    QVERIFY(m_directory->Read("priority-dashboard/Priority.xml").contains("name=\"Library\" type=\"1\""));
+}
+
+void MainWindowTest::ConnectMovesAListedNetworkToTheTop()
+{
+    QList<PriorityList> entries;
+    entries << Entry("Office") << Entry("Mobile", "2") << Entry("Home");
+    PluginObjects::Priority()->AddPriorityList(entries);
+    m_window->OpenConnect();
+    QTest::keyClick(m_window->findChild<QTableWidget *>("connectList"), Qt::Key_Return);
+    QCOMPARE(Names(), QStringList() << "Home"
+                                    << "Office"
+                                    << "Mobile");
+}
+
+void MainWindowTest::ConnectOpensOnceAndAgain()
+{
+    m_window->OpenConnect();
+    m_window->OpenConnect();
+    QCOMPARE(m_window->findChildren<QDialog *>("connectDialog").size(), 1);
+    m_window->findChild<QDialog *>("connectDialog")->reject();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCOMPARE(m_window->findChildren<QDialog *>("connectDialog").size(), 0);
+    m_window->OpenConnect();
+    QVERIFY(m_window->findChild<QDialog *>("connectDialog")->isVisible());
+}
+
+void MainWindowTest::OpenPageFollowsAConnection()
+{
+    PluginObjects::Priority()->AddTopPriority(Entry("Office"));
+    m_window->OpenSettings();
+    const QTableWidget *table = m_window->findChild<QTableWidget *>("priorityTable");
+    QCOMPARE(table->rowCount(), 1);
+    QCOMPARE(int(ConnectDialog::Connect("Home")), int(ConnectDialog::Done));
+    QCOMPARE(table->rowCount(), 2);
+    QCOMPARE(table->cellWidget(0, 0)->accessibleName(), QString("Home"));
+
+    m_window->OpenConnect();
+    QTableWidget *networks = m_window->findChild<QTableWidget *>("connectList");
+    QTest::keyClick(networks, Qt::Key_Down);
+    QTest::mouseClick(m_window->findChild<QPushButton *>("connectOkButton"), Qt::LeftButton);
+    QCOMPARE(table->rowCount(), 3);
+    QCOMPARE(table->cellWidget(0, 0)->accessibleName(), QString("Library"));
+    QVERIFY(table->isVisible());
+    QCOMPARE(Names(), QStringList() << "Library"
+                                    << "Home"
+                                    << "Office");
+}
+
+void MainWindowTest::OpenConnectFollowsTheLanguage()
+{
+    m_window->OpenConnect();
+    QVERIFY(m_language->Switch("he"));
+    QCOMPARE(m_window->findChild<QDialog *>("connectDialog")->windowTitle(),
+             QString::fromUtf8("התחברות לרשת"));
+}
+
+void MainWindowTest::LanguageMenuSwitches()
+{
+    PluginObjects::Priority()->AddTopPriority(Entry("Home"));
+    QAction *arabic = m_window->findChild<QAction *>("languageAction_ar");
+    QVERIFY(arabic && !arabic->isChecked());
+    arabic->trigger();
+    QVERIFY(arabic->isChecked());
+    QCOMPARE(m_window->layoutDirection(), Qt::RightToLeft);
+    QVERIFY(Text("headlineLabel").contains(QString::fromUtf8("قيد الاستخدام")));
+    QVERIFY(States().first().contains(QString::fromUtf8("قيد الاستخدام")));
+    QCOMPARE(m_window->findChild<QPushButton *>("languageButton")->text(), QString::fromUtf8("العربية"));
+}
+
+void MainWindowTest::OpenSettingsFollowTheLanguage()
+{
+    m_window->OpenSettings();
+    QVERIFY(m_language->Switch("he"));
+    const QListWidget *pages = m_window->findChild<QListWidget *>("pageList");
+    QCOMPARE(pages->item(0)->text(), QString::fromUtf8("כללי"));
+    QVERIFY(pages->item(1)->text() != QString("Network priority"));
+}
+
+void MainWindowTest::TraceIsShownOnDemand()
+{
+    QDockWidget *trace = m_window->findChild<QDockWidget *>("tracePanel");
+    QPushButton *button = m_window->findChild<QPushButton *>("traceButton");
+    QVERIFY(!trace->isVisible());
+    QTest::mouseClick(button, Qt::LeftButton);
+    QVERIFY(trace->isVisible());
+    trace->close();
+    QVERIFY(!button->isChecked());
+}
+
+void MainWindowTest::TraceShowsLines()
+{
+    qDebug("a line for the panel");
+    QPlainTextEdit *text = m_window->findChild<QPlainTextEdit *>("traceText");
+    QVERIFY(Eventually([text]() { return text->toPlainText().contains("a line for the panel"); }));
+    QVERIFY(text->isReadOnly());
+    QVERIFY(text->maximumBlockCount() > 0);
+}
+
+void MainWindowTest::LongListIsShown()
+{
+    QStringList names;
+    for (int i = 0; i < 1000; ++i) {
+        names.append(QString("Network %1").arg(i));
+    }
+    WriteList(ListFile(names));
+    m_window->Refresh();
+    QCOMPARE(Names(), names);
+}
+
+QTEST_MAIN(MainWindowTest)
+#include "tst_mainwindow.moc"
