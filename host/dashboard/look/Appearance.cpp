@@ -1,6 +1,6 @@
 #include "Appearance.h"
 
-#include "FocusStyle.h"
+#include "DashboardStyle.h"
 
 #include <HostControl.h>
 #include <Settings.h>
@@ -42,33 +42,17 @@ struct SystemLook {
     QPalette palette = QApplication::palette();
 };
 
-QString Fusion()
-{
-    return QLatin1String("fusion");
-}
-
 QString ChoiceKey()
 {
     return QLatin1String("window/appearance");
 }
 
-/** The style that paints as the palette says; those of desktops may paint in the desktop's colours instead.
- */
-void UseFusion()
-{
-    if (!qobject_cast<FocusStyle *>(QApplication::style())) {
-        QApplication::setStyle(FocusStyle::Over(QStyleFactory::create(Fusion())));
-    }
-}
-
 void UseStyle(const QString &name)
 {
-    if (name.compare(Fusion(), Qt::CaseInsensitive) == 0) {
-        UseFusion();
-    } else if (QApplication::style()->objectName().compare(name, Qt::CaseInsensitive) != 0) {
-        if (QStyle *style = QStyleFactory::create(name)) {
-            QApplication::setStyle(style);
-        }
+    const QStyle *style = QApplication::style();
+    if (!qobject_cast<const DashboardStyle *>(style) ||
+        style->objectName().compare(name, Qt::CaseInsensitive) != 0) {
+        QApplication::setStyle(DashboardStyle::Over(QStyleFactory::create(name)));
     }
 }
 
@@ -96,7 +80,8 @@ void Appearance::Apply(Choice choice)
         UseStyle(system.style);
         QApplication::setPalette(system.palette);
     } else {
-        UseFusion();
+        // It paints as the palette says; the styles of desktops may paint in the desktop's colours instead.
+        UseStyle(QLatin1String("fusion"));
         QApplication::setPalette(Colours(choice == Dark));
     }
     HostControl::ApplyLook();

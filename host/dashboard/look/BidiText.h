@@ -5,18 +5,38 @@
 #include <QChar>
 #include <QString>
 
-/** A name that stays whole and reads in its own direction where the program's texts read in the other one. */
+/** Whether text has a letter or a sign that makes what is beside it read from right to left. */
+inline bool HasRightToLeft(const QString &text)
+{
+    for (const uint character : text.toUcs4()) {
+        switch (QChar::direction(character)) {
+        case QChar::DirR:
+        case QChar::DirAL:
+        case QChar::DirAN:
+        case QChar::DirRLE:
+        case QChar::DirRLO:
+        case QChar::DirRLI:
+            return true;
+        default:
+            break;
+        }
+    }
+    return false;
+}
+
+/**
+ * A name that reads in its own direction among the program's texts, and leaves these theirs: without the
+ * signs around it digits and brackets that follow would be drawn into the name. Where all reads from left to
+ * right it is left as it is, so that a path can be copied.
+ */
 inline QString InOwnDirection(const QString &name)
 {
-    const bool isTextRightToLeft = QApplication::layoutDirection() == Qt::RightToLeft;
-    if (name.isRightToLeft() == isTextRightToLeft) {
+    if (QApplication::layoutDirection() == Qt::LeftToRight && !HasRightToLeft(name)) {
         return name;
     }
-    const ushort leftToRightEmbedding = 0x202a;
-    const ushort rightToLeftEmbedding = 0x202b;
-    const ushort endOfEmbedding = 0x202c;
-    return QChar(name.isRightToLeft() ? rightToLeftEmbedding : leftToRightEmbedding) + name +
-           QChar(endOfEmbedding);
+    const QChar firstStrongIsolate(0x2068);
+    const QChar popDirectionalIsolate(0x2069);
+    return firstStrongIsolate + name + popDirectionalIsolate;
 }
 
 #endif

@@ -1,10 +1,29 @@
 #include <Appearance.h>
 #include <Contrast.h>
+#include <DashboardLanguage.h>
+#include <HostControl.h>
 #include <TemporaryDirectory.h>
+#include <ToolkitCompat.h>
 
 #include <QApplication>
+#include <QPushButton>
+#include <QSignalSpy>
 #include <QStyle>
 #include <QtTest>
+
+namespace
+{
+
+QImage PictureOf(QWidget *widget)
+{
+    widget->resize(160, 40);
+    QImage picture(widget->size(), QImage::Format_ARGB32_Premultiplied);
+    picture.fill(0);
+    widget->render(&picture);
+    return picture;
+}
+
+} // namespace
 
 class AppearanceTest : public QObject
 {
@@ -23,6 +42,8 @@ private slots:
     void ChoiceIsKept_data();
     void ChoiceIsKept();
     void UnknownChoiceIsTheSystems();
+    void LetterOfAKeyLeavesAWordWhole_data();
+    void LetterOfAKeyLeavesAWordWhole();
 
 private:
     QScopedPointer<TemporaryDirectory> m_directory;
@@ -37,6 +58,7 @@ void AppearanceTest::init()
 void AppearanceTest::cleanup()
 {
     Appearance::Apply(Appearance::System);
+    DashboardLanguage::Apply("en");
 }
 
 void AppearanceTest::TextIsReadable_data()
@@ -125,6 +147,49 @@ void AppearanceTest::UnknownChoiceIsTheSystems()
     QCOMPARE(int(Appearance::Stored()), int(Appearance::System));
     m_directory->Write("priority-dashboard/dashboard.ini", "[window]\nappearance=striped\n");
     QCOMPARE(int(Appearance::Stored()), int(Appearance::System));
+}
+
+void AppearanceTest::LetterOfAKeyLeavesAWordWhole_data()
+{
+    QTest::addColumn<int>("choice");
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("caption");
+    QTest::addColumn<bool>("isUnderlined");
+    for (int choice : {int(Appearance::System), int(Appearance::Light), int(Appearance::Dark)}) {
+        const QByteArray number = QByteArray::number(choice);
+        QTest::newRow(("Arabic " + number).constData())
+            << choice << "ar" << QString::fromUtf8("إ&ضافة") << false;
+        QTest::newRow(("Hebrew " + number).constData())
+            << choice << "he" << QString::fromUtf8("ה&סרה") << true;
+        QTest::newRow(("English " + number).constData()) << choice << "en"
+                                                         << "&Add" << true;
+    }
+}
+
+void AppearanceTest::LetterOfAKeyLeavesAWordWhole()
+{
+    QFETCH(int, choice);
+    QFETCH(QString, language);
+    QFETCH(QString, caption);
+    QFETCH(bool, isUnderlined);
+    Appearance::Apply(Appearance::Choice(choice));
+    HostControl::SetLanguageDirectory(BUILD_DIRECTORY "/share/priority-dashboard/languages");
+    QVERIFY(DashboardLanguage::Apply(language));
+    QPushButton button(caption);
+    QString plain = caption;
+    QPushButton plainButton(plain.remove('&'));
+    QCOMPARE(PictureOf(&button) != PictureOf(&plainButton), isUnderlined);
+
+    // The key works all the same.
+    button.show();
+    ToolkitCompat::ActivateWindow(&button);
+    const QSignalSpy clicks(&button, SIGNAL(clicked()));
+    const QChar letter = caption.at(caption.indexOf('&') + 1);
+    QTest::sendKeyEvent(QTest::Click, &button, Qt::Key(letter.toUpper().unicode()), letter, Qt::AltModifier);
+    for (int i = 0; i < 100 && clicks.isEmpty(); ++i) {
+        QTest::qWait(20);
+    }
+    QCOMPARE(clicks.size(), 1);
 }
 
 QTEST_MAIN(AppearanceTest)

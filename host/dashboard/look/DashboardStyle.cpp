@@ -1,6 +1,9 @@
-#include "FocusStyle.h"
+#include "DashboardStyle.h"
+
+#include <Change.h>
 
 #include <QApplication>
+#include <QLocale>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -19,21 +22,22 @@ void DrawLine(QPainter *painter, const QRect &around, const QColor &colour, Qt::
 
 } // namespace
 
-FocusStyle::FocusStyle(QStyle *style) : QProxyStyle(style)
+DashboardStyle::DashboardStyle(QStyle *style) : QProxyStyle(style)
 {
     setObjectName(baseStyle()->objectName());
 }
 
-QStyle *FocusStyle::Over(QStyle *style)
+QStyle *DashboardStyle::Over(QStyle *style)
 {
-    return new FocusStyle(style);
+    return new DashboardStyle(style);
 }
 
-void FocusStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
-                             const QWidget *widget) const
+void DashboardStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                                 const QWidget *widget) const
 {
     QProxyStyle::drawControl(element, option, painter, widget);
-    if (!(option->state & State_HasFocus)) {
+    const bool isFusion = objectName().compare(QLatin1String("fusion"), Qt::CaseInsensitive) == 0;
+    if (!isFusion || !(option->state & State_HasFocus)) {
         return;
     }
     if (element == CE_PushButton) {
@@ -43,4 +47,13 @@ void FocusStyle::drawControl(ControlElement element, const QStyleOption *option,
         // The application's highlight: that of lists is a soft one.
         DrawLine(painter, option->rect, QApplication::palette().color(QPalette::Highlight), Qt::SolidLine);
     }
+}
+
+int DashboardStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                              QStyleHintReturn *returned) const
+{
+    const bool areLettersJoined = QLocale(Change::GetLangName()).script() == QLocale::ArabicScript;
+    return hint == SH_UnderlineShortcut && areLettersJoined
+               ? 0
+               : QProxyStyle::styleHint(hint, option, widget, returned);
 }
