@@ -3,6 +3,8 @@
 #include "HostState.h"
 #include "MessageBox.h"
 
+#include <Change.h>
+
 #include <QApplication>
 #include <QDir>
 #include <QEventLoop>
@@ -62,6 +64,14 @@ QString Elided(const QString &text, Qt::TextElideMode mode, const QFontMetrics &
     return shown;
 }
 
+/** The caption of a question's first button. Whoever asks may only know "OK"; what it does is clearer. */
+QString CaptionOfAct(const QString &caption, const QString &question)
+{
+    const QString removal = Change::tr(QLatin1String("IDS_WARNING_DELETE"), QLatin1String("PriorityPlugin"));
+    return caption == QLatin1String("IDS_OK") && question == removal ? QLatin1String("IDS_PROFILE_DELETE")
+                                                                     : caption;
+}
+
 } // namespace
 
 QString CommonUtils::GetPluginLibraryPath()
@@ -92,7 +102,7 @@ int CommonUtils::ShowMessage(QMessageBox::Icon icon, QWidget *parent, QString ti
     const QPointer<MessageBox> box = new MessageBox(child ? belongsTo : nullptr, flags, dialog);
     box->setWindowTitle(title);
     box->SetContent(icon, text, detail);
-    box->SetButtons(button1, button2, button3);
+    box->SetButtons(CaptionOfAct(button1, text), button2, button3);
     box->setWindowModality(modal ? Qt::ApplicationModal : Qt::NonModal);
 
     QEventLoop answered;

@@ -30,13 +30,13 @@
     </message>
     <message>
         <source>IDS_PROFILE_ADD</source>
-        <extracomment>Button, 100 pixels wide at most: adds networks that the computer remembers</extracomment>
+        <extracomment>Button, 100 pixels wide at most: adds networks that are saved on this computer</extracomment>
         <translation>&amp;Add</translation>
     </message>
     <message>
         <source>IDS_PROFILE_DELETE</source>
-        <extracomment>Button, 100 pixels wide at most: takes the selected network out of the list</extracomment>
-        <translation>De&amp;lete</translation>
+        <extracomment>Button, 100 pixels wide at most: takes the selected network out of the list; also in the question about that</extracomment>
+        <translation>&amp;Remove</translation>
     </message>
     <message>
         <source>IDS_PROFILE_NEW</source>
@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>IDS_PROFILE_ADD_TITLE</source>
-        <extracomment>Title of the dialog with the remembered networks</extracomment>
+        <extracomment>Title of the dialog with the saved networks</extracomment>
         <translation>Add networks</translation>
     </message>
     <message>
@@ -94,12 +94,12 @@
     <message>
         <source>IDS_KEYINDEX</source>
         <extracomment>Label, cut off beyond 100 pixels</extracomment>
-        <translation>Key index</translation>
+        <translation>WEP index</translation>
     </message>
     <message>
         <source>IDS_EAP_METHOD</source>
         <extracomment>Label, cut off beyond 100 pixels</extracomment>
-        <translation>EAP type</translation>
+        <translation>EAP method</translation>
     </message>
     <message>
         <source>IDS_PROFILE_BOX_TITLE</source>
@@ -108,7 +108,8 @@
     </message>
     <message>
         <source>IDS_WARNING_DELETE</source>
-        <translation>Remove the selected network from the priority list?</translation>
+        <extracomment>A question; its buttons are “Remove” and “Cancel”. The network stays saved on this computer</extracomment>
+        <translation>Remove the selected network from your list?</translation>
     </message>
     <message>
         <source>IDS_ERROR_EMPTY_SSID</source>
@@ -116,31 +117,31 @@
     </message>
     <message>
         <source>IDS_PROFILE_NAME_REPEAT</source>
-        <translation>A network of this name is already in the priority list.</translation>
+        <translation>A network with this name is already in your list. Enter another name.</translation>
     </message>
     <message>
         <source>IDS_ERROR_KEY_WRONG_LENGTH_40</source>
         <extracomment>WEP key of wrong length or form</extracomment>
-        <translation>The key does not fit WEP. It must have 5 or 13 characters, or 10, 26 or 32 hexadecimal digits (0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F).
+        <translation>This is not a valid WEP key. A WEP key has 5 or 13 characters, or 10, 26 or 32 hexadecimal digits (0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F).
 
-Allowed are letters, digits and these signs:
+You can use letters, digits and these symbols:
 - _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :</translation>
     </message>
     <message>
         <source>IDS_ERROR_KEY_WRONG_LENGTH_128</source>
         <extracomment>WPA or WPA2 key of wrong length or form</extracomment>
-        <translation>The key does not fit WPA. It must have 8 to 63 characters, or 64 hexadecimal digits (0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F).
+        <translation>This is not a valid WPA key. A WPA key has 8 to 63 characters, or 64 hexadecimal digits (0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F).
 
-Allowed are letters, digits and these signs:
+You can use letters, digits and these symbols:
 - _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :</translation>
     </message>
     <message>
         <source>IDS_ERROR_KEY_DIFFERENT</source>
-        <translation>The two keys differ. Enter the same key in both fields; upper and lower case count.</translation>
+        <translation>The two keys are different. Enter the same key in both fields, with the same capital and small letters.</translation>
     </message>
     <message>
         <source>IDS_ERROR_WRONG_AUTHENTICATION</source>
-        <translation>Choose a security method.</translation>
+        <translation>Choose a security type.</translation>
     </message>
 </context>
 <context>
@@ -149,6 +150,21 @@ Allowed are letters, digits and these signs:
         <source>IDS_LANGUAGE_NAME</source>
         <extracomment>What speakers of this language call it; in menus</extracomment>
         <translation>English</translation>
+    </message>
+    <message>
+        <source>IDS_SENTENCES</source>
+        <extracomment>Two sentences, one behind the other. Chinese and Japanese have no blank there</extracomment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>IDS_NAMES</source>
+        <extracomment>Names of networks side by side. %1: the first ones, %2: one more</extracomment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>IDS_LABEL</source>
+        <extracomment>%1: a label, such as Wi-Fi; %2: what is told about it</extracomment>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>IDS_WINDOW_TITLE</source>
@@ -184,7 +200,7 @@ Allowed are letters, digits and these signs:
     </message>
     <message>
         <source>IDS_ACTION_TRACE</source>
-        <translation>Show &amp;trace</translation>
+        <translation>Show &amp;log</translation>
     </message>
     <message>
         <source>IDS_BUTTON_CONNECT</source>
@@ -200,15 +216,15 @@ Allowed are letters, digits and these signs:
     </message>
     <message>
         <source>IDS_BUTTON_TRACE</source>
-        <translation>Show trace</translation>
+        <translation>Show log</translation>
     </message>
     <message>
         <source>IDS_TRACE_TITLE</source>
-        <translation>Trace</translation>
+        <translation>Log</translation>
     </message>
     <message>
         <source>IDS_LOG_NOT_WRITABLE</source>
-        <translation>The log file %1 cannot be written; the trace is shown here only.</translation>
+        <translation>The log file %1 cannot be written. The log is shown here only.</translation>
     </message>
     <message>
         <source>IDS_OK</source>
@@ -245,7 +261,7 @@ Allowed are letters, digits and these signs:
     </message>
     <message>
         <source>IDS_CONNECT_NONE</source>
-        <translation>No network is in range. Once there is one, open this again.</translation>
+        <translation>No network is in range. Open this window again when there is one.</translation>
     </message>
     <message>
         <source>IDS_CONNECT_NO_WLAN</source>
@@ -253,11 +269,11 @@ Allowed are letters, digits and these signs:
     </message>
     <message>
         <source>IDS_CONNECT_NO_PRIORITY</source>
-        <translation>The plug-in that keeps the list is not available, so no network can be put on top of it.</translation>
+        <translation>The plug-in that keeps the list is not available, so no network can be put at the top of your list.</translation>
     </message>
     <message>
         <source>IDS_CONNECT_DAMAGED</source>
-        <translation>Your list cannot be read in full, so no network is put on top of it.</translation>
+        <translation>Your list cannot be read in full, so no network can be put at the top of it.</translation>
     </message>
     <message>
         <source>IDS_CLOSE</source>
@@ -271,7 +287,7 @@ Allowed are letters, digits and these signs:
     <message>
         <source>IDS_SETTINGS_KEYS</source>
         <extracomment>Under the list of pages in the settings, 170 pixels wide, on as many lines as it takes.</extracomment>
-        <translation>With the keyboard: Ctrl+↑ and Ctrl+↓ choose an entry, ↑ and ↓ move it.</translation>
+        <translation>Keyboard: Ctrl+↑ and Ctrl+↓ select a network, ↑ and ↓ move it.</translation>
     </message>
     <message>
         <source>IDS_PLUGIN_PRIORITY</source>
@@ -283,7 +299,7 @@ Allowed are letters, digits and these signs:
     </message>
     <message>
         <source>IDS_PLUGIN_WLAN_STORED</source>
-        <translation>Wi-Fi (networks in a file)</translation>
+        <translation>Wi-Fi (practice networks)</translation>
     </message>
     <message>
         <source>IDS_GENERAL_TITLE</source>
@@ -311,7 +327,7 @@ Allowed are letters, digits and these signs:
     </message>
     <message>
         <source>IDS_GENERAL_PLACES</source>
-        <translation>About this dashboard</translation>
+        <translation>About this program</translation>
     </message>
     <message>
         <source>IDS_GENERAL_USER_DATA</source>
@@ -319,7 +335,7 @@ Allowed are letters, digits and these signs:
     </message>
     <message>
         <source>IDS_GENERAL_PLUGIN_LIBRARY</source>
-        <translation>Plug-ins from: %1</translation>
+        <translation>Plug-in folder: %1</translation>
     </message>
     <message>
         <source>IDS_GENERAL_VERSION</source>
@@ -327,7 +343,7 @@ Allowed are letters, digits and these signs:
     </message>
     <message>
         <source>IDS_PAGE_NOT_SHOWN</source>
-        <translation>This page cannot be shown: the plug-in %1 was loaded, but does not hand out its page. The trace may tell more.</translation>
+        <translation>This page cannot be shown: the plug-in %1 was loaded but does not provide the page. See the log for details.</translation>
     </message>
     <message>
         <source>IDS_KIND_WIFI</source>
@@ -351,11 +367,12 @@ Allowed are letters, digits and these signs:
     </message>
     <message>
         <source>IDS_STATE_UNKNOWN</source>
-        <translation>Not known whether in range</translation>
+        <translation>Not known if in range</translation>
     </message>
     <message>
         <source>IDS_STATE_FALLBACK</source>
-        <translation>Ready as fallback</translation>
+        <extracomment>Of mobile broadband that is not in use: it is used when no Wi-Fi network above it is in range</extracomment>
+        <translation>Ready</translation>
     </message>
     <message>
         <source>IDS_HEAD_IN_USE</source>
@@ -363,7 +380,7 @@ Allowed are letters, digits and these signs:
     </message>
     <message>
         <source>IDS_HEAD_IN_USE_WIFI</source>
-        <translation>It is the first network of your list that is in range.</translation>
+        <translation>It is the first network in your list that is in range.</translation>
     </message>
     <message>
         <source>IDS_HEAD_IN_USE_MOBILE</source>
@@ -374,12 +391,22 @@ Allowed are letters, digits and these signs:
         <translation>No network in use</translation>
     </message>
     <message>
+        <source>IDS_HEAD_UNKNOWN</source>
+        <extracomment>In place of the network in use when it is not known which one that is</extracomment>
+        <translation>Connection not known</translation>
+    </message>
+    <message>
         <source>IDS_HEAD_EMPTY</source>
         <translation>Your list is empty, so there is nothing to choose from.</translation>
     </message>
     <message>
+        <source>IDS_HEAD_UNREADABLE</source>
+        <extracomment>The list is damaged or cannot be opened; a message below tells which</extracomment>
+        <translation>Your list cannot be read in full, so it is not known which network comes first.</translation>
+    </message>
+    <message>
         <source>IDS_HEAD_NOTHING_IN_RANGE</source>
-        <translation>None of the networks of your list is in range.</translation>
+        <translation>None of the networks in your list is in range.</translation>
     </message>
     <message>
         <source>IDS_HEAD_RANGE_UNKNOWN</source>
@@ -391,12 +418,12 @@ Allowed are letters, digits and these signs:
     </message>
     <message>
         <source>IDS_LIST_DAMAGED</source>
-        <translation>The file with your list is damaged. Only what stands before the damage is shown.</translation>
+        <translation>The file with your list is damaged. Only the networks before the damaged part are shown.</translation>
     </message>
     <message>
         <source>IDS_LIST_KEPT</source>
         <extracomment>Follows the message that the file with the list is damaged. %1: path of a file</extracomment>
-        <translation>The file was copied to %1. This program changes it only once you have decided what to do.</translation>
+        <translation>A copy of the file is kept as %1. This program does not change your list until you decide what to do.</translation>
     </message>
     <message>
         <source>IDS_BUTTON_REPAIR</source>
@@ -410,16 +437,16 @@ Allowed are letters, digits and these signs:
     <message>
         <source>IDS_DAMAGE_READ</source>
         <extracomment>%1: a number, 0 or more</extracomment>
-        <translation>The file with your list cannot be read to its end. Networks that could be read: %1.</translation>
+        <translation>The file with your list cannot be read to the end. Networks that could be read: %1.</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_LAST</source>
         <extracomment>%1: date and time; %2: a number, 0 or more</extracomment>
-        <translation>The last whole list is of %1. Networks in it: %2.</translation>
+        <translation>The last complete list is from %1. Networks in it: %2.</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_NO_LAST</source>
-        <translation>There is no earlier list that could be brought back.</translation>
+        <translation>There is no earlier list that can be restored.</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_COPY</source>
@@ -429,42 +456,42 @@ Allowed are letters, digits and these signs:
     <message>
         <source>IDS_DAMAGE_BRING_BACK</source>
         <extracomment>Button</extracomment>
-        <translation>Bring back the last whole list</translation>
+        <translation>Restore the last complete list</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_GO_ON</source>
         <extracomment>Button</extracomment>
-        <translation>Go on with what could be read</translation>
+        <translation>Keep the networks that could be read</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_LEAVE</source>
         <extracomment>Button</extracomment>
-        <translation>Leave it as it is</translation>
+        <translation>Leave the file as it is</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_OPENED</source>
-        <translation>The file with your list is there but cannot be opened. Check its permissions, then refresh.</translation>
+        <translation>The file with your list exists but cannot be opened. Check its permissions, then choose “Refresh”.</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_OFFERED</source>
-        <translation>The plug-in %1 was loaded, but does not hand out the list.</translation>
+        <translation>The plug-in %1 was loaded but does not provide the list.</translation>
     </message>
     <message>
         <source>IDS_NO_LIST_TITLE</source>
-        <translation>There is no list to show</translation>
+        <translation>Your list cannot be shown</translation>
     </message>
     <message>
         <source>IDS_EMPTY_TITLE</source>
-        <translation>Your priority list is empty</translation>
+        <translation>Your list is empty</translation>
     </message>
     <message>
         <source>IDS_EMPTY_HINT</source>
         <extracomment>Names the buttons of the priority page by their captions</extracomment>
-        <translation>Open the settings, then choose “Add” for networks that this computer remembers, or “New” to enter one yourself. The network highest in the list is preferred.</translation>
+        <translation>Open the settings, then choose “Add” for networks that are saved on this computer, or “New” to enter one yourself. The network highest in the list is preferred.</translation>
     </message>
     <message>
         <source>IDS_EMPTY_UNREADABLE</source>
-        <translation>Nothing of it can be read. See the message above.</translation>
+        <translation>The message above tells why.</translation>
     </message>
     <message>
         <source>IDS_LOAD_NOT_LOADED</source>
@@ -472,15 +499,15 @@ Allowed are letters, digits and these signs:
     </message>
     <message>
         <source>IDS_LOAD_MISSING</source>
-        <translation>The plug-in %1 is not there. Install it, or start the dashboard with --library-path and the directory that has the folder plugins/ in it.</translation>
+        <translation>The plug-in %1 was not found. Install it, or start the program with --library-path and the folder that contains plugins/.</translation>
     </message>
     <message>
         <source>IDS_LOAD_CUT</source>
-        <translation>The plug-in %1 is not whole: its file ends too early, so it is not used. Install it again.</translation>
+        <translation>The plug-in %1 is incomplete: its file ends too early, so it is not used. Install it again.</translation>
     </message>
     <message>
         <source>IDS_LOAD_OTHER_TOOLKIT</source>
-        <translation>The plug-in %1 was built for another generation of Qt, so it is not used.
+        <translation>The plug-in %1 was built for another major version of Qt, so it is not used.
 Found: Qt %2
 Expected: Qt %3</translation>
     </message>
@@ -494,25 +521,25 @@ Expected: Qt %3</translation>
     </message>
     <message>
         <source>IDS_LOAD_REFUSED</source>
-        <translation>The plug-in %1 was built for another dashboard, so it is not used.
+        <translation>The plug-in %1 was built for another program, so it is not used.
 Found: %2
 Expected: %3</translation>
     </message>
     <message>
         <source>IDS_LOAD_NO_ENTRY_POINT</source>
-        <translation>The library %1 has no entry point of a plug-in, so it is not used.</translation>
+        <translation>The library %1 is not a plug-in, so it is not used.</translation>
     </message>
     <message>
         <source>IDS_LOAD_NULL_INSTANCE</source>
-        <translation>The plug-in %1 gave no object to work with, so it is not used.</translation>
+        <translation>The plug-in %1 did not provide an object to work with, so it is not used.</translation>
     </message>
     <message>
         <source>IDS_LOAD_NOT_A_PLUGIN</source>
-        <translation>What %1 gave is not a plug-in of this dashboard, so it is not used.</translation>
+        <translation>%1 is not a plug-in for this program, so it is not used.</translation>
     </message>
     <message>
         <source>IDS_LOAD_INIT_FAILED</source>
-        <translation>The plug-in %1 says that it cannot work, so it is not used. The trace may tell more.</translation>
+        <translation>The plug-in %1 could not start, so it is not used. See the log for details.</translation>
     </message>
     <message>
         <source>IDS_LANGUAGE_UNREADABLE</source>
@@ -535,15 +562,15 @@ Expected: %3</translation>
     <message>
         <source>IDS_NOTE_NETWORKMANAGER</source>
         <extracomment>At the foot of the main window; two lines of 450 pixels at most</extracomment>
-        <translation>This computer’s networks, from NetworkManager, which follows the order of this list.</translation>
+        <translation>These are this computer’s networks. NetworkManager tries them in the order of this list.</translation>
     </message>
     <message>
         <source>IDS_NOTE_STORED</source>
-        <translation>Networks of the dashboard’s own; this computer’s are left alone.</translation>
+        <translation>These are practice networks. This computer’s networks are not changed.</translation>
     </message>
     <message>
         <source>IDS_NOTE_STORED_STANDS_IN</source>
-        <translation>There is no NetworkManager to work with. These are networks of the dashboard’s own; this computer’s are left alone.</translation>
+        <translation>NetworkManager is not available, so these are practice networks. This computer’s networks are not changed.</translation>
     </message>
     <message>
         <source>IDS_MENU_EDIT</source>
@@ -559,15 +586,15 @@ Expected: %3</translation>
     </message>
     <message>
         <source>IDS_ACTION_RESTORE</source>
-        <translation>Re&amp;store…</translation>
+        <translation>Earlier &amp;lists…</translation>
     </message>
     <message>
         <source>IDS_ACTION_IMPORT</source>
-        <translation>&amp;Import order…</translation>
+        <translation>&amp;Import list…</translation>
     </message>
     <message>
         <source>IDS_ACTION_EXPORT</source>
-        <translation>&amp;Export order…</translation>
+        <translation>&amp;Export list…</translation>
     </message>
     <message>
         <source>IDS_BUTTON_UNDO</source>
@@ -579,7 +606,7 @@ Expected: %3</translation>
     </message>
     <message>
         <source>IDS_BUTTON_RESTORE</source>
-        <translation>Restore…</translation>
+        <translation>Earlier lists…</translation>
     </message>
     <message>
         <source>IDS_UNDO_WHAT</source>
@@ -601,7 +628,7 @@ Expected: %3</translation>
     </message>
     <message>
         <source>IDS_REDO_DAMAGED</source>
-        <translation>The file with your list is damaged. “Undo” brings back the last list that could be read.</translation>
+        <translation>The file with your list is damaged. “Undo” restores the last complete list.</translation>
     </message>
     <message>
         <source>IDS_UNDO_NO_PLUGIN</source>
@@ -618,7 +645,7 @@ Expected: %3</translation>
     </message>
     <message>
         <source>IDS_CHANGE_EMPTIED</source>
-        <translation>Deleted all entries</translation>
+        <translation>Removed all networks</translation>
     </message>
     <message>
         <source>IDS_CHANGE_DAMAGED</source>
@@ -632,17 +659,17 @@ Expected: %3</translation>
     <message>
         <source>IDS_CHANGE_ADDED_MANY</source>
         <extracomment>%1: a number, two or more</extracomment>
-        <translation>Added %1 entries</translation>
+        <translation>Added %1 networks</translation>
     </message>
     <message>
         <source>IDS_CHANGE_DELETED_ONE</source>
         <extracomment>%1: a network</extracomment>
-        <translation>Deleted %1</translation>
+        <translation>Removed %1</translation>
     </message>
     <message>
         <source>IDS_CHANGE_DELETED_MANY</source>
         <extracomment>%1: a number, two or more</extracomment>
-        <translation>Deleted %1 entries</translation>
+        <translation>Removed %1 networks</translation>
     </message>
     <message>
         <source>IDS_CHANGE_MOVED_UP</source>
@@ -667,12 +694,12 @@ Expected: %3</translation>
     <message>
         <source>IDS_CHANGE_MOVED_MANY</source>
         <extracomment>%1: a number, two or more</extracomment>
-        <translation>Moved %1 entries</translation>
+        <translation>Moved %1 networks</translation>
     </message>
     <message>
         <source>IDS_CHANGE_WENT_BACK</source>
         <extracomment>%1: date and time</extracomment>
-        <translation>Went back to the list of %1</translation>
+        <translation>Restored the list from %1</translation>
     </message>
     <message>
         <source>IDS_CHANGE_UNNAMED</source>
@@ -680,12 +707,67 @@ Expected: %3</translation>
         <translation>(no name)</translation>
     </message>
     <message>
+        <source>IDS_PLAN_NONE</source>
+        <extracomment>What will be done, before it is done</extracomment>
+        <translation>Your list stays as it is.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_EMPTY</source>
+        <extracomment>What will be done, before it is done</extracomment>
+        <translation>All networks will be removed.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_ADD_ONE</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>%1 will be added.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_ADD_MANY</source>
+        <extracomment>What will be done, before it is done. %1: a number, two or more</extracomment>
+        <translation>%1 networks will be added.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_REMOVE_ONE</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>%1 will be removed.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_REMOVE_MANY</source>
+        <extracomment>What will be done, before it is done. %1: a number, two or more</extracomment>
+        <translation>%1 networks will be removed.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_UP</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>%1 will move up.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_DOWN</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>%1 will move down.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_TOP</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>%1 will move to the top.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_END</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>%1 will move to the end.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_MANY</source>
+        <extracomment>What will be done, before it is done. %1: a number, two or more</extracomment>
+        <translation>%1 networks will move.</translation>
+    </message>
+    <message>
         <source>IDS_RESTORE_TITLE</source>
-        <translation>Restore an earlier list</translation>
+        <translation>Earlier lists</translation>
     </message>
     <message>
         <source>IDS_RESTORE_HINT</source>
-        <translation>Choose how your list should be again. The list as it is now stays here as well.</translation>
+        <translation>Choose the list to restore. Your list as it is now is kept as well.</translation>
     </message>
     <message>
         <source>IDS_RESTORE_TIME</source>
@@ -720,12 +802,12 @@ Expected: %3</translation>
     <message>
         <source>IDS_RESTORE_PREVIEW</source>
         <extracomment>Label above the chosen list</extracomment>
-        <translation>The list then</translation>
+        <translation>List at that time</translation>
     </message>
     <message>
         <source>IDS_RESTORE_EFFECT</source>
-        <extracomment>%1: a change, such as Moved Café up</extracomment>
-        <translation>What restoring does: %1</translation>
+        <extracomment>%1: what will be done, such as Café will move up.</extracomment>
+        <translation>Result of restoring: %1</translation>
     </message>
     <message>
         <source>IDS_RESTORE_IS_NOW</source>
@@ -738,8 +820,8 @@ Expected: %3</translation>
     </message>
     <message>
         <source>IDS_RESTORE_ASIDE</source>
-        <extracomment>Button</extracomment>
-        <translation>Set it aside and begin anew</translation>
+        <extracomment>Button: the file with the earlier lists that cannot be read gets another name, and a new one is begun</extracomment>
+        <translation>Keep the file and start a new one</translation>
     </message>
     <message>
         <source>IDS_RESTORE_GONE</source>
@@ -747,16 +829,16 @@ Expected: %3</translation>
     </message>
     <message>
         <source>IDS_IMPORT_TITLE</source>
-        <translation>Import an order</translation>
+        <translation>Import a list</translation>
     </message>
     <message>
         <source>IDS_IMPORT_HINT</source>
-        <translation>Takes a list from a file. You see first what would change.</translation>
+        <translation>Replaces your list with one from a file. You can check the changes first.</translation>
     </message>
     <message>
         <source>IDS_IMPORT_SUMMARY</source>
-        <extracomment>%1: a change, such as Added 3 entries</extracomment>
-        <translation>What the import does: %1</translation>
+        <extracomment>%1: what will be done, such as 3 networks will be added.</extracomment>
+        <translation>Result of the import: %1</translation>
     </message>
     <message>
         <source>IDS_IMPORT_NO_CHANGE</source>
@@ -774,37 +856,37 @@ Expected: %3</translation>
     </message>
     <message>
         <source>IDS_IMPORT_STAYS</source>
-        <translation>Stays</translation>
+        <translation>Stays where it is</translation>
     </message>
     <message>
         <source>IDS_IMPORT_ADDED</source>
-        <translation>Added</translation>
+        <translation>Will be added</translation>
     </message>
     <message>
         <source>IDS_IMPORT_MOVED_UP</source>
-        <translation>Moves up</translation>
+        <translation>Will move up</translation>
     </message>
     <message>
         <source>IDS_IMPORT_MOVED_DOWN</source>
-        <translation>Moves down</translation>
+        <translation>Will move down</translation>
     </message>
     <message>
         <source>IDS_IMPORT_MOVED</source>
-        <translation>Others move around it</translation>
+        <translation>Stays; others will move</translation>
     </message>
     <message>
         <source>IDS_IMPORT_REMOVED</source>
-        <translation>Removed from the list</translation>
+        <translation>Will be removed from the list</translation>
     </message>
     <message>
         <source>IDS_IMPORT_EFFECT_UNKNOWN</source>
-        <extracomment>%1: what happens, such as Added</extracomment>
-        <translation>%1; not known here</translation>
+        <extracomment>%1: what happens, such as Will be added; “here” is this computer</extracomment>
+        <translation>%1; not saved here</translation>
     </message>
     <message>
         <source>IDS_IMPORT_UNKNOWN</source>
         <extracomment>%1: names of networks</extracomment>
-        <translation>Not known on this computer: %1. An entry like that is used only once the network has been set up here.</translation>
+        <translation>Not saved on this computer: %1. These networks are not used until they have been set up here.</translation>
     </message>
     <message>
         <source>IDS_IMPORT_OK</source>
@@ -814,35 +896,35 @@ Expected: %3</translation>
     <message>
         <source>IDS_IMPORT_NOT_READABLE</source>
         <extracomment>%1: path of a file</extracomment>
-        <translation>The file %1 cannot be read, or is far too large for a list. Your list is as it was.</translation>
+        <translation>The file %1 cannot be read, or is far too large for a list. Your list has not been changed.</translation>
     </message>
     <message>
         <source>IDS_IMPORT_DAMAGED</source>
         <extracomment>%1: path of a file; %2: where and why</extracomment>
-        <translation>The file %1 is no list of networks that can be imported. %2. Your list is as it was.</translation>
+        <translation>The file %1 is not a network list that can be imported. %2. Your list has not been changed.</translation>
     </message>
     <message>
         <source>IDS_EXPORT_TITLE</source>
-        <translation>Export the order</translation>
+        <translation>Export the list</translation>
     </message>
     <message>
         <source>IDS_EXPORT_HINT</source>
-        <translation>Writes the order of your list to a file, without any keys.</translation>
+        <translation>Saves your list to a file, without any keys.</translation>
     </message>
     <message>
         <source>IDS_EXPORT_FILE_NAME</source>
         <extracomment>A file name that is proposed</extracomment>
-        <translation>network-order.xml</translation>
+        <translation>network-list.xml</translation>
     </message>
     <message>
         <source>IDS_EXPORT_NOT_WRITTEN</source>
         <extracomment>%1: path of a file</extracomment>
-        <translation>The file %1 cannot be written. What was there before is as it was.</translation>
+        <translation>The file %1 cannot be written. Nothing has been changed.</translation>
     </message>
     <message>
         <source>IDS_ORDER_FILES</source>
         <extracomment>Kind of files in a file dialog</extracomment>
-        <translation>Orders of networks</translation>
+        <translation>Network lists</translation>
     </message>
     <message>
         <source>IDS_ALL_FILES</source>
@@ -852,27 +934,27 @@ Expected: %3</translation>
     <message>
         <source>IDS_LIST_NOT_WRITTEN</source>
         <extracomment>%1: path of a file</extracomment>
-        <translation>The list cannot be written to %1. See whether the disk is full or the file protected.</translation>
+        <translation>The list cannot be written to %1. Check whether the disk is full or the file is write-protected.</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_KEPT</source>
         <extracomment>%1: path of a file</extracomment>
-        <translation>The damaged file %1 cannot be copied for safekeeping, so it was left alone. See whether the disk is full or the directory protected.</translation>
+        <translation>The damaged file %1 cannot be backed up, so it was not changed. Check whether the disk is full or the folder is write-protected.</translation>
     </message>
     <message>
         <source>IDS_HISTORY_DAMAGED</source>
         <extracomment>%1: path of a file; %2: where and why</extracomment>
-        <translation>The file with the earlier lists, %1, is damaged and was left alone. %2. Until it is set aside under “Restore…”, nothing can be undone.</translation>
+        <translation>The file with the earlier lists, %1, is damaged and was not changed. %2. To use “Undo” again, choose “Earlier lists…” and start a new file. The damaged one is kept.</translation>
     </message>
     <message>
         <source>IDS_HISTORY_NOT_READABLE</source>
         <extracomment>%1: path of a file</extracomment>
-        <translation>The file with the earlier lists, %1, cannot be read and was left alone. Until it can be, or is set aside under “Restore…”, nothing can be undone.</translation>
+        <translation>The file with the earlier lists, %1, cannot be read and was not changed. To use “Undo” again, make the file readable, or choose “Earlier lists…” and start a new one. The old one is kept.</translation>
     </message>
     <message>
         <source>IDS_HISTORY_NOT_WRITABLE</source>
         <extracomment>%1: path of a file</extracomment>
-        <translation>Earlier lists cannot be kept in %1. What you change can be undone only until the program ends.</translation>
+        <translation>Earlier lists cannot be kept in %1. You can undo changes only until you quit the program.</translation>
     </message>
     <message>
         <source>IDS_LIST_BUSY</source>
@@ -881,7 +963,7 @@ Expected: %3</translation>
     <message>
         <source>IDS_HISTORY_NOT_SET_ASIDE</source>
         <extracomment>%1: path of a file</extracomment>
-        <translation>The file %1 cannot be renamed, so it was left alone.</translation>
+        <translation>The file %1 cannot be renamed, so no new one was started.</translation>
     </message>
     <message>
         <source>IDS_FAULT_LINE</source>
@@ -894,16 +976,16 @@ Expected: %3</translation>
     </message>
     <message>
         <source>IDS_FAULT_DECLARATION</source>
-        <translation>a document type declaration does not belong there</translation>
+        <translation>a document type declaration is not allowed here</translation>
     </message>
     <message>
         <source>IDS_FAULT_ELEMENT</source>
         <extracomment>%1: name of an XML element</extracomment>
-        <translation>the element “%1” does not belong there</translation>
+        <translation>the element “%1” is not allowed here</translation>
     </message>
     <message>
         <source>IDS_FAULT_TEXT</source>
-        <translation>text does not belong there</translation>
+        <translation>text is not allowed here</translation>
     </message>
     <message>
         <source>IDS_FAULT_ATTRIBUTE</source>
@@ -913,17 +995,17 @@ Expected: %3</translation>
     <message>
         <source>IDS_FAULT_VALUE</source>
         <extracomment>%1: name of an XML attribute</extracomment>
-        <translation>the attribute “%1” has a value that is not possible</translation>
+        <translation>the attribute “%1” has an invalid value</translation>
     </message>
     <message>
         <source>IDS_FAULT_TOO_MANY</source>
         <extracomment>%1: name of an XML element</extracomment>
-        <translation>there are too many elements “%1”</translation>
+        <translation>there are too many “%1” elements</translation>
     </message>
     <message>
         <source>IDS_LIST_UNDO_DAMAGE</source>
         <extracomment>Follows the message that the file with the list is damaged</extracomment>
-        <translation>“Undo” brings back the last list that could be read.</translation>
+        <translation>“Undo” restores the last complete list.</translation>
     </message>
     <message>
         <source>IDS_HEAD_SKIPPED</source>
@@ -932,52 +1014,52 @@ Expected: %3</translation>
     </message>
     <message>
         <source>IDS_HEAD_CONNECT_HINT</source>
-        <extracomment>Follows: None of the networks of your list is in range</extracomment>
-        <translation>“Connect…” shows the networks that are.</translation>
+        <extracomment>Follows: None of the networks in your list is in range</extracomment>
+        <translation>“Connect…” shows the other networks in range.</translation>
     </message>
     <message>
         <source>IDS_WHY_OUT_OF_RANGE</source>
         <extracomment>Tool tip of an entry</extracomment>
-        <translation>It cannot be used now, because it is out of range.</translation>
+        <translation>Not in use, because it is out of range.</translation>
     </message>
     <message>
         <source>IDS_WHY_LOWER</source>
         <extracomment>Tool tip of an entry. %1: a network</extracomment>
-        <translation>It could be used, but %1 is higher in the list.</translation>
+        <translation>Not in use, because %1 is higher in the list.</translation>
     </message>
     <message>
         <source>IDS_WHY_UNDECIDED</source>
         <extracomment>Tool tip of an entry</extracomment>
-        <translation>It could be used, but it is not known whether a network higher in the list is in range.</translation>
+        <translation>Not in use, because it is not known whether a network higher in the list is in range.</translation>
     </message>
     <message>
         <source>IDS_ACTION_TRACE_SEARCH</source>
         <extracomment>Menu entry</extracomment>
-        <translation>&amp;Search the trace…</translation>
+        <translation>&amp;Search the log…</translation>
     </message>
     <message>
         <source>IDS_TRACE_SEARCH</source>
         <extracomment>In an empty search field</extracomment>
-        <translation>Search the trace</translation>
+        <translation>Search the log</translation>
     </message>
     <message>
         <source>IDS_TRACE_NEXT</source>
         <extracomment>Tool tip of a button with an arrow down</extracomment>
-        <translation>Next place</translation>
+        <translation>Next match</translation>
     </message>
     <message>
         <source>IDS_TRACE_PREVIOUS</source>
         <extracomment>Tool tip of a button with an arrow up</extracomment>
-        <translation>Previous place</translation>
+        <translation>Previous match</translation>
     </message>
     <message>
         <source>IDS_TRACE_MATCHES</source>
         <extracomment>%1: a number, one or more</extracomment>
-        <translation>Found: %1</translation>
+        <translation>Matches: %1</translation>
     </message>
     <message>
         <source>IDS_TRACE_NO_MATCH</source>
-        <translation>Not found</translation>
+        <translation>No matches</translation>
     </message>
     <message>
         <source>IDS_MENU_APPEARANCE</source>
@@ -987,7 +1069,7 @@ Expected: %3</translation>
     <message>
         <source>IDS_APPEARANCE_SYSTEM</source>
         <extracomment>Menu entry: the desktop's colours</extracomment>
-        <translation>Like the &amp;desktop</translation>
+        <translation>Same as &amp;desktop</translation>
     </message>
     <message>
         <source>IDS_APPEARANCE_LIGHT</source>
@@ -1010,87 +1092,87 @@ Expected: %3</translation>
     <message>
         <source>IDS_WLAN_KEPT_READ_ONLY</source>
         <extracomment>%1: a network</extracomment>
-        <translation>“%1” was left as it is: a network of this name is set up already, and it cannot be changed.</translation>
+        <translation>“%1” was not changed: a network with this name is already saved, and it cannot be changed.</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_SEVERAL</source>
         <extracomment>%1: a network</extracomment>
-        <translation>Nothing was changed: several networks are set up under the name “%1”, and it cannot be known which one is meant. Choose another name.</translation>
+        <translation>Nothing was changed: several networks are saved under the name “%1”, and it is not known which one is meant. Choose another name.</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_UNDESCRIBED</source>
         <extracomment>%1: a network</extracomment>
-        <translation>“%1” was left as it is: a network of this name is set up already, with more than can be entered here, such as an account. Change it where it was set up, or choose another name.</translation>
+        <translation>“%1” was not changed: a network with this name is already saved, with details that cannot be entered here, such as an account. Change it where it was set up, or choose another name.</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_STRONGER</source>
         <extracomment>%1: a network</extracomment>
-        <translation>“%1” was left as it is: a network of this name is set up already, and this security or encryption would be weaker. Choose at least the same, or another name.</translation>
+        <translation>“%1” was not changed: a network with this name is already saved, and this security or encryption would be weaker. Choose one that is at least as strong, or another name.</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_KEY</source>
         <extracomment>%1: a network</extracomment>
-        <translation>“%1” was left as it is: a network of this name is set up already, and changing it needs a complete key. Enter one, or choose another name.</translation>
+        <translation>“%1” was not changed: a network with this name is already saved, and changing it needs a complete key. Enter the key, or choose another name.</translation>
     </message>
     <message>
         <source>IDS_WLAN_BETTER_PROFILE</source>
-        <extracomment>%1: the new network; %2: the name under which it is set up</extracomment>
-        <translation>“%1” was not stored: the same network is set up already as “%2”, and better than this. Add “%2” to the list instead.</translation>
+        <extracomment>%1: the new network; %2: the name under which it is saved</extracomment>
+        <translation>“%1” was not saved: the same network is already saved as “%2”, with better settings. Add “%2” to your list instead.</translation>
     </message>
     <message>
         <source>IDS_WLAN_BAD_NAME</source>
         <extracomment>%1: a network</extracomment>
-        <translation>“%1” was not stored: the name of a network has 1 to 32 bytes. Letters with accents and other scripts take two to four bytes each.</translation>
+        <translation>“%1” was not saved: the name of a network has 1 to 32 bytes. Letters with accents and letters of other scripts take two to four bytes each.</translation>
     </message>
     <message>
         <source>IDS_WLAN_BAD_SECURITY</source>
         <extracomment>%1: a network</extracomment>
-        <translation>“%1” was not stored: this security, this encryption and this key do not go together.</translation>
+        <translation>“%1” was not saved: this security, this encryption and this key do not go together.</translation>
     </message>
     <message>
         <source>IDS_WLAN_NO_ACCOUNT</source>
         <extracomment>%1: a network</extracomment>
-        <translation>“%1” was not stored: this security needs an account, which cannot be entered here. Set the network up in the settings of your desktop, then add it to the list.</translation>
+        <translation>“%1” was not saved: this security needs an account, which cannot be entered here. Set the network up in the settings of your desktop, then add it to your list.</translation>
     </message>
     <message>
         <source>IDS_WLAN_NOT_RUNNING</source>
         <extracomment>%1: a network</extracomment>
-        <translation>“%1” was not stored: NetworkManager is not running.</translation>
+        <translation>“%1” was not saved: NetworkManager is not running.</translation>
     </message>
     <message>
         <source>IDS_WLAN_NO_ANSWER</source>
         <extracomment>%1: a network</extracomment>
-        <translation>It is not known whether “%1” was stored: NetworkManager gives no answer.</translation>
+        <translation>It is not known whether “%1” was saved: NetworkManager does not answer.</translation>
     </message>
     <message>
         <source>IDS_WLAN_DENIED</source>
         <extracomment>%1: a network</extracomment>
-        <translation>“%1” was not stored: you do not have permission to do that on this computer.</translation>
+        <translation>“%1” was not saved: you do not have permission to save networks on this computer.</translation>
     </message>
     <message>
         <source>IDS_WLAN_REFUSED</source>
         <extracomment>%1: a network</extracomment>
-        <translation>“%1” was not stored: NetworkManager does not accept it, most likely because of the key.</translation>
+        <translation>“%1” was not saved: NetworkManager does not accept it, most likely because of the key.</translation>
     </message>
     <message>
         <source>IDS_WLAN_FAILED</source>
         <extracomment>%1: a network</extracomment>
-        <translation>“%1” was not stored: NetworkManager reports an error.</translation>
+        <translation>“%1” was not saved: NetworkManager reports an error.</translation>
     </message>
     <message>
         <source>IDS_WLAN_FILE_UNUSABLE</source>
         <extracomment>%1: a network</extracomment>
-        <translation>“%1” was not stored: the file of the networks that are set up cannot be read or written. The trace tells more.</translation>
+        <translation>“%1” was not saved: the file with the saved networks cannot be read or written. See the log for details.</translation>
     </message>
     <message>
         <source>IDS_WLAN_FILE_DAMAGED</source>
         <extracomment>%1: a network</extracomment>
-        <translation>“%1” was not stored: the file of the networks that are set up is damaged, and it is left as it is. The trace tells the line.</translation>
+        <translation>“%1” was not saved: the file with the saved networks is damaged and was not changed. See the log for the line.</translation>
     </message>
     <message>
         <source>IDS_WLAN_BUSY</source>
         <extracomment>%1: a network</extracomment>
-        <translation>“%1” was not stored: another program is changing the networks. Try again.</translation>
+        <translation>“%1” was not saved: another program is changing the networks. Try again in a moment.</translation>
     </message>
 </context>
 </TS>

@@ -472,8 +472,8 @@ void TestAccessibility::menuItemsTellTheirState()
             }
         }
     });
-    QCOMPARE(told.join(", "), QString::fromUtf8("Undo off, Redo off, Restore… on, Import order… on, "
-                                                "Export order… on"));
+    QCOMPARE(told.join(", "), QString::fromUtf8("Undo off, Redo off, Earlier lists… on, Import list… on, "
+                                                "Export list… on"));
 }
 
 QTEST_MAIN(TestAccessibility)

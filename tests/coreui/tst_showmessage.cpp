@@ -1,3 +1,4 @@
+#include <Change.h>
 #include <CommonUtils.h>
 #include <HostControl.h>
 
@@ -150,6 +151,7 @@ private slots:
     void textsAreShownAsGiven();
     void captionsAreTranslated_data();
     void captionsAreTranslated();
+    void questionOfRemovalNamesTheAct();
     void emptyCaptionIsNoButton();
     void firstButtonIsTheDefault();
     void detailIsShownWhenThereIsOne_data();
@@ -249,6 +251,17 @@ void TestShowMessage::captionsAreTranslated()
     User user(QLatin1String("escape"));
     Ask(nullptr);
     QCOMPARE(user.captions, captions);
+}
+
+void TestShowMessage::questionOfRemovalNamesTheAct()
+{
+    const QString question = Change::tr(QLatin1String("IDS_WARNING_DELETE"), QLatin1String("PriorityPlugin"));
+    User user(QLatin1String("messageButton1"));
+    const int answer = CommonUtils::ShowMessage(QMessageBox::Question, nullptr, QString(), question,
+                                                QLatin1String("IDS_OK"), QLatin1String("IDS_CANCEL"),
+                                                QString(), true, Qt::WindowFlags(), nullptr, QString(), true);
+    QCOMPARE(user.captions, QStringList() << QLatin1String("&Remove") << QLatin1String("Cancel"));
+    QCOMPARE(answer, 1024);
 }
 
 void TestShowMessage::emptyCaptionIsNoButton()

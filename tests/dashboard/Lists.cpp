@@ -25,5 +25,5 @@ QString AsText(const QList<PriorityList> &entries)
 
 QString Plain(QString text)
 {
-    return text.remove(QChar(0x202a)).remove(QChar(0x202b)).remove(QChar(0x202c));
+    return text.remove(QChar(0x2068)).remove(QChar(0x2069));
 }

@@ -447,7 +447,7 @@ void tst_networkmanagerdaemon::NewDialogOutlivesAKilledNetworkManager()
     QCOMPARE(Find<QTableWidget>("priorityTable")->rowCount(), 1);
     QTRY_COMPARE(
         m_dashboard->Notices(),
-        QStringList(QString::fromUtf8("“Summer house” was not stored: NetworkManager is not running.")));
+        QStringList(QString::fromUtf8("“Summer house” was not saved: NetworkManager is not running.")));
     QVERIFY(
         m_dashboard->Log().contains("WLANNetworkManager: CreateWLANProfile: NetworkManager is not running"));
 
@@ -479,7 +479,7 @@ void tst_networkmanagerdaemon::NewDialogWithoutNetworkManagerTellsWhatIsMissing(
     QCOMPARE(Find<QComboBox>("authenticationBox")->count(), 0);
     m_dashboard->Fill("networkNameBox", "Summer house");
     QCOMPARE(m_dashboard->Click("newOkButton"), QString());
-    QCOMPARE(m_dashboard->Notices(), QStringList("Choose a security method."));
+    QCOMPARE(m_dashboard->Notices(), QStringList("Choose a security type."));
     QVERIFY(IsVisible("networkNameBox"));
     QCOMPARE(m_dashboard->Click("newCancelButton"), QString());
     QCOMPARE(Find<QTableWidget>("priorityTable")->rowCount(), 0);

@@ -112,7 +112,7 @@ QString DashboardLanguage::ProblemText(const LanguageProblem &problem)
     case LanguageProblem::Unreadable:
         return DashboardText("IDS_LANGUAGE_UNREADABLE").arg(problem.path, problem.reason);
     case LanguageProblem::Damaged:
-        return DashboardText("IDS_LANGUAGE_DAMAGED").arg(problem.path, QString::number(problem.damagedByte));
+        return DashboardText("IDS_LANGUAGE_DAMAGED").arg(problem.path, DashboardNumber(problem.damagedByte));
     case LanguageProblem::NoTexts:
         break;
     }

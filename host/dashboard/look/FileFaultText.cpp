@@ -31,5 +31,5 @@ QString ReasonText(const FileFault &fault)
 
 QString FileFaultText(const FileFault &fault)
 {
-    return DashboardText("IDS_FAULT_LINE").arg(fault.line).arg(ReasonText(fault));
+    return DashboardText("IDS_FAULT_LINE").arg(DashboardNumber(fault.line), ReasonText(fault));
 }

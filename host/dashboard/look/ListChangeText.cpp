@@ -14,51 +14,86 @@ namespace
 const int longestName = 40;
 const int namesTold = 5;
 
-const char *MoveTextId(const ListDifference::Move &move)
+/** The texts for a change, by what has happened to networks. */
+struct ChangeTexts {
+    const char *none;
+    const char *emptied;
+    const char *addedOne;
+    const char *addedMany;
+    const char *removedOne;
+    const char *removedMany;
+    const char *movedUp;
+    const char *movedDown;
+    const char *movedToTop;
+    const char *movedToEnd;
+    const char *movedMany;
+};
+
+const ChangeTexts done = {"IDS_CHANGE_NONE",       "IDS_CHANGE_EMPTIED",     "IDS_CHANGE_ADDED_ONE",
+                          "IDS_CHANGE_ADDED_MANY", "IDS_CHANGE_DELETED_ONE", "IDS_CHANGE_DELETED_MANY",
+                          "IDS_CHANGE_MOVED_UP",   "IDS_CHANGE_MOVED_DOWN",  "IDS_CHANGE_MOVED_TOP",
+                          "IDS_CHANGE_MOVED_END",  "IDS_CHANGE_MOVED_MANY"};
+
+const ChangeTexts planned = {"IDS_PLAN_NONE",     "IDS_PLAN_EMPTY",      "IDS_PLAN_ADD_ONE",
+                             "IDS_PLAN_ADD_MANY", "IDS_PLAN_REMOVE_ONE", "IDS_PLAN_REMOVE_MANY",
+                             "IDS_PLAN_MOVE_UP",  "IDS_PLAN_MOVE_DOWN",  "IDS_PLAN_MOVE_TOP",
+                             "IDS_PLAN_MOVE_END", "IDS_PLAN_MOVE_MANY"};
+
+const char *MoveTextId(const ListDifference::Move &move, const ChangeTexts &texts)
 {
     // The neighbour of an entry that moved by one may be the one that was moved; "up" is true of both.
     if (move.distance > 1 && move.isFirst) {
-        return "IDS_CHANGE_MOVED_TOP";
+        return texts.movedToTop;
     }
     if (move.distance > 1 && move.isLast) {
-        return "IDS_CHANGE_MOVED_END";
+        return texts.movedToEnd;
     }
-    return move.direction == ListDifference::Down ? "IDS_CHANGE_MOVED_DOWN" : "IDS_CHANGE_MOVED_UP";
+    return move.direction == ListDifference::Down ? texts.movedDown : texts.movedUp;
 }
 
 QString OneOrMany(const char *oneId, const char *manyId, const QList<PriorityList> &list,
                   const QList<int> &places)
 {
     return places.size() == 1 ? DashboardText(oneId).arg(ListChangeText::Name(list.at(places.first())))
-                              : DashboardText(manyId).arg(places.size());
+                              : DashboardText(manyId).arg(DashboardNumber(places.size()));
+}
+
+QStringList PartsOf(const QList<PriorityList> &before, const QList<PriorityList> &after,
+                    const ChangeTexts &texts)
+{
+    const ListDifference difference = ListDifference::Between(before, after);
+    if (difference.IsNone()) {
+        return QStringList(DashboardText(texts.none));
+    }
+    if (after.isEmpty() && before.size() > 1) {
+        return QStringList(DashboardText(texts.emptied));
+    }
+    QStringList parts;
+    if (!difference.added.isEmpty()) {
+        parts.append(OneOrMany(texts.addedOne, texts.addedMany, after, difference.added));
+    }
+    if (!difference.removed.isEmpty()) {
+        parts.append(OneOrMany(texts.removedOne, texts.removedMany, before, difference.removed));
+    }
+    if (difference.moved.size() == 1) {
+        const ListDifference::Move &move = difference.moved.first();
+        parts.append(DashboardText(MoveTextId(move, texts)).arg(ListChangeText::Name(after.at(move.to))));
+    } else if (!difference.moved.isEmpty()) {
+        parts.append(DashboardText(texts.movedMany).arg(DashboardNumber(difference.moved.size())));
+    }
+    return parts;
 }
 
 } // namespace
 
 QString ListChangeText::Describe(const QList<PriorityList> &before, const QList<PriorityList> &after)
 {
-    const ListDifference difference = ListDifference::Between(before, after);
-    if (difference.IsNone()) {
-        return DashboardText("IDS_CHANGE_NONE");
-    }
-    if (after.isEmpty() && before.size() > 1) {
-        return DashboardText("IDS_CHANGE_EMPTIED");
-    }
-    QStringList parts;
-    if (!difference.added.isEmpty()) {
-        parts.append(OneOrMany("IDS_CHANGE_ADDED_ONE", "IDS_CHANGE_ADDED_MANY", after, difference.added));
-    }
-    if (!difference.removed.isEmpty()) {
-        parts.append(
-            OneOrMany("IDS_CHANGE_DELETED_ONE", "IDS_CHANGE_DELETED_MANY", before, difference.removed));
-    }
-    if (difference.moved.size() == 1) {
-        const ListDifference::Move &move = difference.moved.first();
-        parts.append(DashboardText(MoveTextId(move)).arg(Name(after.at(move.to))));
-    } else if (!difference.moved.isEmpty()) {
-        parts.append(DashboardText("IDS_CHANGE_MOVED_MANY").arg(difference.moved.size()));
-    }
-    return parts.join(QString::fromUtf8(" · "));
+    return PartsOf(before, after, done).join(QString::fromUtf8(" · "));
+}
+
+QString ListChangeText::Announce(const QList<PriorityList> &before, const QList<PriorityList> &after)
+{
+    return DashboardJoined("IDS_SENTENCES", PartsOf(before, after, planned));
 }
 
 QString ListChangeText::DescribeStep(const QList<ListState> &states, int from, int to)
@@ -86,13 +121,13 @@ QString ListChangeText::Name(const PriorityList &entry)
 QString ListChangeText::Names(const QList<PriorityList> &entries)
 {
     QStringList names;
-    for (int i = 0; i < entries.size() && i < namesTold; ++i) {
-        names.append(Name(entries.at(i)));
+    for (const PriorityList &entry : entries.mid(0, namesTold)) {
+        names.append(Name(entry));
     }
     if (entries.size() > namesTold) {
         names.append(QString(QChar(0x2026)));
     }
-    return names.join(QLatin1String(", "));
+    return DashboardJoined("IDS_NAMES", names);
 }
 
 QString ListChangeText::Moment(const QDateTime &time)

@@ -11,11 +11,16 @@
 namespace ListChangeText
 {
 
-/** Such as "Moved Café up" or "Added 3 entries · Deleted Office"; one line whatever the names hold. */
+/** What was done, such as "Moved Café up" or "Added 3 networks · Removed Office"; one line whatever the names
+ * hold. */
 QString Describe(const QList<PriorityList> &before, const QList<PriorityList> &after);
 
-/** What led from one of the states to a later one; also such as "Went back to the list of 3/1/26 9:05 AM". */
+/** What was done from one of the states to a later one; also such as "Restored the list of 3/1/26 9:05 AM".
+ */
 QString DescribeStep(const QList<ListState> &states, int from, int to);
+
+/** What will be done, in sentences, such as "3 networks will be added. Office will be removed." */
+QString Announce(const QList<PriorityList> &before, const QList<PriorityList> &after);
 
 /** An entry's name on one line, shortened when it is long, reading in its own direction. */
 QString Name(const PriorityList &entry);

@@ -1,5 +1,6 @@
 #include "OverviewDelegate.h"
 
+#include <DashboardText.h>
 #include <SignalStrength.h>
 
 #include <QApplication>
@@ -103,7 +104,7 @@ void OverviewDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opti
     painter->setFont(smallFont);
     painter->setPen(faint);
     painter->drawText(QStyle::visualRect(direction, row, place), Qt::AlignCenter,
-                      QString::number(index.row() + 1));
+                      DashboardNumber(index.row() + 1));
 
     const QRect glyph(place.right() + margin, row.top() + (row.height() - glyphSize) / 2, glyphSize,
                       glyphSize);

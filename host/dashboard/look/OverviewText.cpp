@@ -20,9 +20,8 @@ QString SkippedText(const Overview &overview)
     for (int i = 0; i < overview.entries.size() && !overview.entries.at(i).isInUse; ++i) {
         skipped.append(overview.entries.at(i).entry);
     }
-    return skipped.isEmpty()
-               ? QString()
-               : QLatin1Char(' ') + DashboardText("IDS_HEAD_SKIPPED").arg(ListChangeText::Names(skipped));
+    return skipped.isEmpty() ? QString()
+                             : DashboardText("IDS_HEAD_SKIPPED").arg(ListChangeText::Names(skipped));
 }
 
 QString NothingInUseText(const Overview &overview)
@@ -30,35 +29,46 @@ QString NothingInUseText(const Overview &overview)
     if (overview.status < 0) {
         return DashboardText("IDS_HEAD_NO_PRIORITY_PLUGIN");
     }
+    if (!overview.IsListWhole()) {
+        return DashboardText("IDS_HEAD_UNREADABLE");
+    }
     if (overview.entries.isEmpty()) {
         return DashboardText("IDS_HEAD_EMPTY");
     }
     if (!overview.isRangeKnown) {
         return DashboardText("IDS_HEAD_RANGE_UNKNOWN");
     }
-    const QString text = DashboardText("IDS_HEAD_NOTHING_IN_RANGE");
-    return overview.signalOf.isEmpty() ? text
-                                       : text + QLatin1Char(' ') + DashboardText("IDS_HEAD_CONNECT_HINT");
+    QStringList sentences(DashboardText("IDS_HEAD_NOTHING_IN_RANGE"));
+    if (!overview.signalOf.isEmpty()) {
+        sentences.append(DashboardText("IDS_HEAD_CONNECT_HINT"));
+    }
+    return DashboardJoined("IDS_SENTENCES", sentences);
 }
 
 } // namespace
 
 QString OverviewText::Signal(int percent)
 {
-    return percent == SignalStrength::unknown ? QString() : DashboardText("IDS_CONNECT_PERCENT").arg(percent);
+    return percent == SignalStrength::unknown
+               ? QString()
+               : DashboardText("IDS_CONNECT_PERCENT").arg(DashboardNumber(percent));
 }
 
 QString OverviewText::Headline(const Overview &overview)
 {
-    const Overview::Entry *inUse = overview.InUse();
-    return inUse ? DashboardText("IDS_HEAD_IN_USE").arg(ListChangeText::Name(inUse->entry))
-                 : DashboardText("IDS_HEAD_NONE");
+    if (const Overview::Entry *inUse = overview.InUse()) {
+        return DashboardText("IDS_HEAD_IN_USE").arg(ListChangeText::Name(inUse->entry));
+    }
+    const bool isNone = overview.IsListWhole() && (overview.entries.isEmpty() || overview.isRangeKnown);
+    return DashboardText(isNone ? "IDS_HEAD_NONE" : "IDS_HEAD_UNKNOWN");
 }
 
 QString OverviewText::Explanation(const Overview &overview)
 {
     const Overview::Entry *inUse = overview.InUse();
-    return inUse ? DashboardText(ReasonInUseId(*inUse)) + SkippedText(overview) : NothingInUseText(overview);
+    return inUse ? DashboardJoined("IDS_SENTENCES", QStringList() << DashboardText(ReasonInUseId(*inUse))
+                                                                  << SkippedText(overview))
+                 : NothingInUseText(overview);
 }
 
 QString OverviewText::Kind(const Overview::Entry &entry)

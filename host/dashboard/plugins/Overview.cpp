@@ -1,6 +1,7 @@
 #include "Overview.h"
 
 #include "PluginObjects.h"
+#include "PriorityResult.h"
 
 #include <IPriorityPlugin.h>
 #include <IWLANUIPlugin.h>
@@ -73,6 +74,11 @@ Overview Overview::Make(int status, const QList<PriorityList> &list, bool isRang
         overview.entries.append(entry);
     }
     return overview;
+}
+
+bool Overview::IsListWhole() const
+{
+    return status == PriorityRead || status == PriorityMissing;
 }
 
 bool Overview::HasRangeChanged() const

@@ -39,6 +39,9 @@ struct Overview {
     static Overview Make(int status, const QList<PriorityList> &list, bool isRangeKnown,
                          const QList<WlanAvilableNetworkInfo> &networksInRange);
 
+    /** Whether entries has the whole list; one that can't be read in full may have more. */
+    bool IsListWhole() const;
+
     /** Whether the Wi-Fi plug-in would tell something else now. */
     bool HasRangeChanged() const;
 

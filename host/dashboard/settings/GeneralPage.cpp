@@ -127,9 +127,9 @@ void GeneralPage::Retranslate()
     const QList<PluginHost::Plugin> plugins = m_plugins->Plugins();
     for (int i = 0; i < plugins.size(); ++i) {
         const PluginHost::Plugin &plugin = plugins.at(i);
-        lines +=
-            Line(QString::fromLatin1("%1: %2").arg(DashboardText(plugin.known.titleId.toLatin1().constData()),
-                                                   DashboardText(StateTextId(plugin.state))));
+        lines += Line(DashboardText("IDS_LABEL")
+                          .arg(DashboardText(plugin.known.titleId.toLatin1().constData()),
+                               DashboardText(StateTextId(plugin.state))));
     }
     m_pluginsText->setText(lines);
     m_placesText->setText(

@@ -207,7 +207,7 @@ void TracePanel::CountMatches()
     if (text.isEmpty()) {
         m_matches->clear();
     } else {
-        m_matches->setText(matches > 0 ? DashboardText("IDS_TRACE_MATCHES").arg(matches)
+        m_matches->setText(matches > 0 ? DashboardText("IDS_TRACE_MATCHES").arg(DashboardNumber(matches))
                                        : DashboardText("IDS_TRACE_NO_MATCH"));
     }
 }

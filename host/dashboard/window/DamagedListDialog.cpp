@@ -22,7 +22,7 @@ QString LastText(const ListHistory &history)
 {
     return DashboardText("IDS_DAMAGE_LAST")
         .arg(ListChangeText::Moment(history.Since()))
-        .arg(history.Entries().size());
+        .arg(DashboardNumber(history.Entries().size()));
 }
 
 } // namespace
@@ -81,7 +81,7 @@ void DamagedListDialog::Follow()
         return;
     }
     m_entries = m_keeper->Entries();
-    m_damage->setText(DashboardText("IDS_DAMAGE_READ").arg(m_entries.size()));
+    m_damage->setText(DashboardText("IDS_DAMAGE_READ").arg(DashboardNumber(m_entries.size())));
     const bool canBringBack = m_keeper->CanBringBack();
     m_last->setText(canBringBack ? LastText(m_keeper->History()) : DashboardText("IDS_DAMAGE_NO_LAST"));
     const QString copy = DashboardText("IDS_DAMAGE_COPY");

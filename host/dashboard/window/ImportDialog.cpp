@@ -18,7 +18,7 @@
 namespace
 {
 
-const int dialogWidth = 600;
+const int dialogWidth = 640;
 const int dialogHeight = 460;
 const int placeWidth = 60;
 const int nameWidth = 220;
@@ -115,14 +115,14 @@ void ImportDialog::ShowPlan()
     const bool isKnown = PluginObjects::RememberedNetworks(&known);
     const ImportPlan plan = ImportPlan::Make(before, m_entries, isKnown ? &known : nullptr);
     m_summary->setText(
-        plan.IsChange() ? DashboardText("IDS_IMPORT_SUMMARY").arg(ListChangeText::Describe(before, m_entries))
+        plan.IsChange() ? DashboardText("IDS_IMPORT_SUMMARY").arg(ListChangeText::Announce(before, m_entries))
                         : DashboardText("IDS_IMPORT_NO_CHANGE"));
     m_table->setRowCount(plan.rows.size());
     for (int row = 0; row < plan.rows.size(); ++row) {
         const ImportPlan::Row &planned = plan.rows.at(row);
         const bool isRemoved = planned.effect == ImportPlan::Removed;
         const QString effect = DashboardText(EffectTextId(planned.effect));
-        DialogParts::SetCell(m_table, row, PlaceColumn, isRemoved ? QString() : QString::number(row + 1));
+        DialogParts::SetCell(m_table, row, PlaceColumn, isRemoved ? QString() : DashboardNumber(row + 1));
         m_table->item(row, PlaceColumn)->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
         DialogParts::SetCell(m_table, row, NameColumn, planned.entry.name);
         DialogParts::SetCell(m_table, row, EffectColumn,

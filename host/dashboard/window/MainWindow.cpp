@@ -365,7 +365,7 @@ void MainWindow::ShowNote()
             notes.append(DashboardText(plugin.known.noteId.toLatin1().constData()));
         }
     }
-    m_note->setText(notes.join(QLatin1String(" ")));
+    m_note->setText(DashboardJoined("IDS_SENTENCES", notes));
 }
 
 void MainWindow::FollowRange()
@@ -444,10 +444,10 @@ QString MainWindow::DamageText() const
     sentences.append(obstacle.isNull()
                          ? DashboardText("IDS_LIST_KEPT").arg(InOwnDirection(m_keeper->CopyPath()))
                          : obstacle);
-    if (m_keeper->CanBringBack()) {
+    if (obstacle.isNull() && m_keeper->CanBringBack()) {
         sentences.append(DashboardText("IDS_LIST_UNDO_DAMAGE"));
     }
-    return sentences.join(QLatin1String(" "));
+    return DashboardJoined("IDS_SENTENCES", sentences);
 }
 
 void MainWindow::ShowList()
@@ -469,11 +469,9 @@ void MainWindow::ShowList()
         return;
     }
     if (m_overview.entries.isEmpty()) {
-        m_messageTitle->setText(DashboardText("IDS_EMPTY_TITLE"));
-        m_messageText->setText(
-            DashboardText(m_overview.status == PriorityRead || m_overview.status == PriorityMissing
-                              ? "IDS_EMPTY_HINT"
-                              : "IDS_EMPTY_UNREADABLE"));
+        const bool isEmpty = m_overview.IsListWhole();
+        m_messageTitle->setText(DashboardText(isEmpty ? "IDS_EMPTY_TITLE" : "IDS_NO_LIST_TITLE"));
+        m_messageText->setText(DashboardText(isEmpty ? "IDS_EMPTY_HINT" : "IDS_EMPTY_UNREADABLE"));
         m_body->setCurrentWidget(m_messagePage);
         return;
     }

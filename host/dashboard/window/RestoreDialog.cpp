@@ -199,7 +199,7 @@ void RestoreDialog::ShowChoice()
         }
         effect = place == m_position ? DashboardText("IDS_RESTORE_IS_NOW")
                                      : DashboardText("IDS_RESTORE_EFFECT")
-                                           .arg(ListChangeText::Describe(m_keeper->Entries(), entries));
+                                           .arg(ListChangeText::Announce(m_keeper->Entries(), entries));
     }
     m_effect->setText(effect);
     m_okButton->setEnabled(place >= 0 && place != m_position &&

@@ -279,7 +279,7 @@ void HistoryFileTest::FaultIsNamedWithItsLineAndLeftAlone_data()
         states += "\n<state time=\"2026-03-01T09:05:00Z\" order=\"\"/>";
     }
     QTest::newRow("too many states") << QByteArray("<states>") << "<states>" + states
-                                     << QString::fromUtf8("Line 72: there are too many elements “state”");
+                                     << QString::fromUtf8("Line 72: there are too many “state” elements");
 }
 
 void HistoryFileTest::FaultIsNamedWithItsLineAndLeftAlone()

@@ -336,16 +336,16 @@ void ListKeeperTest::RestoreIsAChangeThatCanBeUndone()
     const ListState restored = m_keeper->History().States().last();
     QCOMPARE(restored.backTo, earlier.time);
     QVERIFY(restored.time >= earlier.time.addSecs(3600));
-    QVERIFY2(ListKeeperText::Undo(*m_keeper).startsWith("Went back to the list of "),
+    QVERIFY2(ListKeeperText::Undo(*m_keeper).startsWith("Restored the list from "),
              qPrintable(ListKeeperText::Undo(*m_keeper)));
-    QVERIFY2(ListKeeperText::LastChange(*m_keeper).startsWith("Last change: Went back to the list of "),
+    QVERIFY2(ListKeeperText::LastChange(*m_keeper).startsWith("Last change: Restored the list from "),
              qPrintable(ListKeeperText::LastChange(*m_keeper)));
     QVERIFY(m_keeper->RedoObstacle() != ListKeeper::NoObstacle);
     QCOMPARE(m_keeper->Restore(3, m_keeper->History().States().at(3)), ListKeeper::NoObstacle);
     QCOMPARE(History(), QString(" | A | B, A | C, B, A | A | [C, B, A]"));
     QCOMPARE(m_keeper->Undo(), ListKeeper::NoObstacle);
     QCOMPARE(Stored(), QString("A"));
-    QVERIFY2(ListKeeperText::Redo(*m_keeper).startsWith("Went back to the list of "),
+    QVERIFY2(ListKeeperText::Redo(*m_keeper).startsWith("Restored the list from "),
              qPrintable(ListKeeperText::Redo(*m_keeper)));
     QCOMPARE(m_keeper->Undo(), ListKeeper::NoObstacle);
     QCOMPARE(Stored(), QString("C, B, A"));
@@ -362,7 +362,7 @@ void ListKeeperTest::RestoreOfTheListAsItIsAddsNothing()
     }
     QCOMPARE(m_keeper->Restore(1, m_keeper->History().States().at(1)), ListKeeper::NoObstacle);
     QCOMPARE(History(), QString(" | A | B | [A]"));
-    QCOMPARE(ListKeeperText::Undo(*m_keeper), QString::fromUtf8("Added A · Deleted B"));
+    QCOMPARE(ListKeeperText::Undo(*m_keeper), QString::fromUtf8("Added A · Removed B"));
 }
 
 void ListKeeperTest::MovesInARowAreOneChange()

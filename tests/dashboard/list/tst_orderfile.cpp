@@ -108,16 +108,16 @@ void OrderFileTest::FaultIsNamedWithItsLine_data()
     QTest::newRow("something behind the end") << QByteArray("<zeltdoc/>\n<zeltdoc/>") << "Line 2: ";
     QTest::newRow("other root") << QByteArray("<wlanprofiles/>")
                                 << QString::fromUtf8(
-                                       "Line 1: the element “wlanprofiles” does not belong there");
+                                       "Line 1: the element “wlanprofiles” is not allowed here");
     QTest::newRow("other element") << QByteArray("<zeltdoc>\n<profile>\n<entry/></profile></zeltdoc>")
-                                   << QString::fromUtf8("Line 3: the element “entry” does not belong there");
+                                   << QString::fromUtf8("Line 3: the element “entry” is not allowed here");
     QTest::newRow("other element below the root")
         << QByteArray("<zeltdoc>\n<list/></zeltdoc>") << QString::fromUtf8("Line 2: the element “list”");
     QTest::newRow("element in an item")
         << QByteArray("<zeltdoc>\n<item name=\"A\" type=\"1\"><key/></item></zeltdoc>")
         << QString::fromUtf8("Line 2: the element “key”");
     QTest::newRow("text") << QByteArray("<zeltdoc>\n<profile>Home</profile></zeltdoc>")
-                          << "Line 2: text does not belong there";
+                          << "Line 2: text is not allowed here";
     QTest::newRow("no name") << QByteArray("<zeltdoc>\n\n<item type=\"1\"/></zeltdoc>")
                              << QString::fromUtf8("Line 3: the attribute “name” is missing");
     QTest::newRow("no type") << QByteArray("<zeltdoc>\n<item name=\"A\"/></zeltdoc>")

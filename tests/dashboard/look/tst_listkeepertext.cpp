@@ -38,14 +38,14 @@ void ListKeeperTextTest::ReasonSaysWhatIsInTheWay_data()
     add(ListKeeper::ListNotOpened, "be opened");
     add(ListKeeper::ListBusy, "Another program is working with the list");
     add(ListKeeper::ListNotWritten, "cannot be written to /data/Priority.xml");
-    add(ListKeeper::ListNotKept, "/data/Priority.xml cannot be copied for safekeeping");
+    add(ListKeeper::ListNotKept, "/data/Priority.xml cannot be backed up");
     add(ListKeeper::NothingToUndo, "There is no earlier list to go back to.");
     add(ListKeeper::NothingToRedo, "Nothing was undone");
     add(ListKeeper::NoRedoOfDamage, "damaged");
     add(ListKeeper::StateGone, "That list is no longer kept.");
-    add(ListKeeper::HistoryDamaged, "/data/history/states.xml, is damaged and was left alone. Line 0: ");
+    add(ListKeeper::HistoryDamaged, "/data/history/states.xml, is damaged and was not changed. Line 0: ");
     add(ListKeeper::HistoryNotReadable, "/data/history/states.xml");
-    add(ListKeeper::HistoryNotWritable, "only until the program ends");
+    add(ListKeeper::HistoryNotWritable, "only until you quit the program");
     add(ListKeeper::HistoryNotSetAside, "/data/history/states.xml");
 }
 

@@ -51,8 +51,8 @@ void WrappedLabelTest::RightToLeftLineIsWholeAtAnyWidth()
     QApplication::setLayoutDirection(Qt::RightToLeft);
     WrappedLabel label("label");
     label.setText(
-        QString::fromUtf8("ما يفعله الاستيراد: أضيفت \u202aGuest house at the upper end of the long…\u202c · "
-                          "حُذفت \u202aCompany\u202c · إدخالات منقولة: 3"));
+        QString::fromUtf8("نتيجة الاستيراد: ستُضاف \u2068Guest house at the upper end of the long…\u2069. "
+                          "ستُزال \u2068Company\u2069. ستُنقل ٣ من الشبكات."));
     int widths = 0;
     for (int width = 300; width < 700; ++width) {
         const QImage picture = PictureOf(&label, width);

@@ -97,13 +97,13 @@ void PluginHostTest::StateTellsHowFarItCame_data()
     QTest::addColumn<QString>("folder");
     QTest::addColumn<PluginState>("state");
     QTest::addColumn<QString>("text");
-    QTest::newRow("missing") << "Absent" << PluginMissing << "is not there";
+    QTest::newRow("missing") << "Absent" << PluginMissing << "was not found";
     QTest::newRow("no verification") << "NoVerification" << PluginNoVerification << "does not say";
-    QTest::newRow("wrong verification") << "WrongVerification" << PluginRefused << "another dashboard";
-    QTest::newRow("no entry point") << "NoEntryPoint" << PluginNoEntryPoint << "no entry point";
-    QTest::newRow("null instance") << "NullInstance" << PluginNullInstance << "no object";
-    QTest::newRow("not a plug-in") << "NotAPlugin" << PluginNotAPlugin << "not a plug-in";
-    QTest::newRow("init fails") << "InitFails" << PluginInitFailed << "cannot work";
+    QTest::newRow("wrong verification") << "WrongVerification" << PluginRefused << "another program";
+    QTest::newRow("no entry point") << "NoEntryPoint" << PluginNoEntryPoint << "is not a plug-in, so";
+    QTest::newRow("null instance") << "NullInstance" << PluginNullInstance << "did not provide an object";
+    QTest::newRow("not a plug-in") << "NotAPlugin" << PluginNotAPlugin << "not a plug-in for";
+    QTest::newRow("init fails") << "InitFails" << PluginInitFailed << "could not start";
     QTest::newRow("ready") << "Working" << PluginReady << "";
     QTest::newRow("ready without window") << "BaseOnly" << PluginReady << "";
 }
@@ -171,7 +171,7 @@ void PluginHostTest::LibraryThatIsCutIsNotLoaded()
     const PluginHost::Plugin plugin = host.Plugins().first();
     const QString problem = PluginHost::ProblemText(plugin);
     QCOMPARE(plugin.state, PluginCut);
-    QVERIFY2(problem.contains("not whole") && problem.contains(plugin.file), qPrintable(problem));
+    QVERIFY2(problem.contains("incomplete") && problem.contains(plugin.file), qPrintable(problem));
 }
 
 void PluginHostTest::LibraryOfOtherToolkitIsNotLoaded_data()
@@ -214,7 +214,7 @@ void PluginHostTest::LibraryOfOtherToolkitIsNotLoaded()
     QCOMPARE(plugin.state, PluginOtherToolkit);
     QVERIFY2(TextPattern::Fits(plugin.detail, version), qPrintable(plugin.detail));
     QCOMPARE(PluginHost::ProblemText(plugin),
-             QString("The plug-in %1 was built for another generation of Qt, so it is not used.\n"
+             QString("The plug-in %1 was built for another major version of Qt, so it is not used.\n"
                      "Found: Qt %2\n"
                      "Expected: Qt %3")
                  .arg(plugin.file, plugin.detail, QString(qVersion())));

@@ -643,7 +643,7 @@ void CommandsTest::PluginThatIsNotToBeHadIsTold_data()
     QTest::addColumn<QString>("fixture");
     QTest::addColumn<QString>("told");
     QTest::newRow("missing") << ""
-                             << "is not there";
+                             << "was not found";
     QTest::newRow("no library") << "../../../../Makefile"
                                 << "libPriorityPlugin.so";
     QTest::newRow("no verification") << "NoVerification"
@@ -825,7 +825,7 @@ void CommandsTest::MessagesAreEnglishEverywhere()
                                          Environment() << "LANG=ar_EG.UTF-8"
                                                        << "LC_ALL=ar_EG.UTF-8");
     QCOMPARE(outcome.status, 5);
-    QVERIFY2(outcome.err.contains("is not there"), qPrintable(outcome.err));
+    QVERIFY2(outcome.err.contains("was not found"), qPrintable(outcome.err));
 }
 
 void CommandsTest::OtherOptionsGoOnToWork()

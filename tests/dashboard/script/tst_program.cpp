@@ -276,7 +276,7 @@ void ProgramTest::TourFailsWhenStepsHaveNoEffect_data()
     QTest::addColumn<QString>("libraryPath");
     QTest::addColumn<QString>("told");
     QTest::newRow("the priority plug-in is missing") << BUILD_DIRECTORY "/tests/fixtures"
-                                                     << "libPriorityPlugin.so is not there";
+                                                     << "libPriorityPlugin.so was not found";
     QTest::newRow("the priority plug-in does nothing") << BUILD_DIRECTORY "/tests/fixtures/Idle"
                                                        << "";
 }

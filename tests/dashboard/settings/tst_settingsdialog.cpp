@@ -373,7 +373,7 @@ void SettingsDialogTest::GeneralPageTellsOfPlugins()
     dialog.SelectPage(0);
     QVERIFY(dialog.findChild<QLabel *>("pluginsText")
                 ->text()
-                .contains("Wi-Fi (networks in a file): not available"));
+                .contains("Wi-Fi (practice networks): not available"));
     QVERIFY(dialog.findChild<QLabel *>("placesText")->text().contains(m_directory.Path()));
 }
 

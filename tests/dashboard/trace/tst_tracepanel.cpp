@@ -138,7 +138,7 @@ void TracePanelTest::ArrowsGoThroughThePlaces()
 void TracePanelTest::EveryPlaceIsMarkedAndCounted()
 {
     Type("list");
-    QCOMPARE(Matches(), QString("Found: 3"));
+    QCOMPARE(Matches(), QString("Matches: 3"));
     QCOMPARE(Marked(1), QStringList("list"));
     QCOMPARE(Marked(3), QStringList() << "List"
                                       << "list");
@@ -149,7 +149,7 @@ void TracePanelTest::LinesThatComeLaterAreMarkedAndCounted()
 {
     Type("list");
     qDebug("a list of lists");
-    QVERIFY(Eventually([this]() { return Matches() == "Found: 5"; }));
+    QVERIFY(Eventually([this]() { return Matches() == "Matches: 5"; }));
     const QTextCursor added = Text()->document()->find("a list of lists");
     QCOMPARE(Marked(added.blockNumber() + 1), QStringList() << "list"
                                                             << "list");
@@ -159,7 +159,7 @@ void TracePanelTest::LinesThatComeLaterAreMarkedAndCounted()
 void TracePanelTest::TextThatIsNotThereIsTold()
 {
     Type("cellar");
-    QCOMPARE(Matches(), QString("Not found"));
+    QCOMPARE(Matches(), QString("No matches"));
     QCOMPARE(Found(), QString());
     QVERIFY(!m_window->findChild<QToolButton *>("traceNextButton")->isEnabled());
     QTest::keyClick(Search(), Qt::Key_Return);
@@ -170,7 +170,7 @@ void TracePanelTest::SignsHaveNoSpecialMeaning()
 {
     Text()->setPlainText("abc\na.c (x*");
     Type("a.c (x*");
-    QCOMPARE(Matches(), QString("Found: 1"));
+    QCOMPARE(Matches(), QString("Matches: 1"));
     QCOMPARE(Found(), QString("2:1"));
 }
 
@@ -196,8 +196,8 @@ void TracePanelTest::TextsFollowTheLanguage()
     Type("list");
     QVERIFY(DashboardLanguage::Apply("he"));
     m_panel->Retranslate();
-    QCOMPARE(Matches(), QString::fromUtf8("נמצאו: 3"));
-    QCOMPARE(Search()->placeholderText(), QString::fromUtf8("חיפוש במעקב"));
+    QCOMPARE(Matches(), QString::fromUtf8("תוצאות: 3"));
+    QCOMPARE(Search()->placeholderText(), QString::fromUtf8("חיפוש ביומן"));
 }
 
 QTEST_MAIN(TracePanelTest)

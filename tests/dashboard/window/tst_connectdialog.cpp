@@ -344,7 +344,7 @@ void ConnectDialogTest::TextsAndSidesFollowTheLanguage_data()
     QTest::addColumn<QString>("language");
     QTest::addColumn<QString>("connectText");
     QTest::addColumn<QString>("percent");
-    QTest::newRow("Arabic") << "ar" << QString::fromUtf8("اتصال") << QString::fromUtf8("92٪");
+    QTest::newRow("Arabic") << "ar" << QString::fromUtf8("اتصال") << QString::fromUtf8("٩٢٪");
     QTest::newRow("Hebrew") << "he" << QString::fromUtf8("התחברות") << "92%";
 }
 

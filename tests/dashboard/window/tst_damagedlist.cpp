@@ -153,10 +153,10 @@ void DamagedListTest::WindowTellsAndOffersTheQuestion()
     const QByteArray damaged = Damage();
     QCOMPARE(
         Text("problemsLabel"),
-        QString::fromUtf8("The file with your list is damaged. Only what stands before the damage is shown. "
-                          "The file was copied to %1Priority-damaged-1.xml. This program changes it only "
-                          "once you have decided what to do. “Undo” brings back the last list that could be "
-                          "read.")
+        QString::fromUtf8("The file with your list is damaged. Only the networks before the damaged part are "
+                          "shown. A copy of the file is kept as %1Priority-damaged-1.xml. This program does "
+                          "not change your list until you decide what to do. “Undo” restores the last "
+                          "complete list.")
             .arg(m_world.UserData()));
     QVERIFY(!Question());
     QCOMPARE(m_world.Read("Priority-damaged-1.xml"), damaged);
@@ -209,9 +209,9 @@ void DamagedListTest::QuestionTellsWhatThereIs()
     Click("settingsButton");
     QCOMPARE(Question()->windowTitle(), QString("Your list is damaged"));
     QCOMPARE(Text("damageTextLabel"),
-             QString("The file with your list cannot be read to its end. Networks that could be read: 2."));
+             QString("The file with your list cannot be read to the end. Networks that could be read: 2."));
     const QString last = Text("damageLastLabel");
-    QVERIFY2(last.startsWith("The last whole list is of ") && last.endsWith(". Networks in it: 3."),
+    QVERIFY2(last.startsWith("The last complete list is from ") && last.endsWith(". Networks in it: 3."),
              qPrintable(last));
     QCOMPARE(Text("damageCopyLabel"),
              QString("Whatever you choose, the damaged file is kept as Priority-damaged-1.xml."));
@@ -232,7 +232,7 @@ void DamagedListTest::WithoutAnEarlierListNothingCanBeBroughtBack()
     Click("settingsButton");
     QVERIFY(Question());
     QVERIFY(!Find<QPushButton>("damageBringBackButton")->isVisible());
-    QCOMPARE(Text("damageLastLabel"), QString("There is no earlier list that could be brought back."));
+    QCOMPARE(Text("damageLastLabel"), QString("There is no earlier list that can be restored."));
     // Return takes nothing away.
     QVERIFY(Find<QPushButton>("damageLeaveButton")->isDefault());
     QCOMPARE(ListBytes(), damaged);
@@ -357,13 +357,12 @@ void DamagedListTest::NothingIsOpenedWithoutACopy()
     QFETCH(QString, button);
     QVERIFY(QDir().mkdir(m_world.UserData() + "Priority-damaged-1.xml.new"));
     const QByteArray damaged = Damage();
-    QVERIFY2(Text("problemsLabel").contains("cannot be copied for safekeeping"),
-             qPrintable(Text("problemsLabel")));
+    QVERIFY2(Text("problemsLabel").contains("cannot be backed up"), qPrintable(Text("problemsLabel")));
+    QVERIFY(!Text("problemsLabel").contains("Undo"));
     QVERIFY(!Find<QPushButton>("repairButton")->isVisible());
     MessageReader message;
     QTest::mouseClick(m_window->findChild<QPushButton *>(button), Qt::LeftButton);
-    QVERIFY2(Plain(message.text).contains("Priority.xml cannot be copied for safekeeping"),
-             qPrintable(message.text));
+    QVERIFY2(Plain(message.text).contains("Priority.xml cannot be backed up"), qPrintable(message.text));
     QVERIFY(!Question());
     QVERIFY(!Dialog("settingsDialog"));
     QVERIFY(!Dialog("connectDialog"));
@@ -375,7 +374,7 @@ void DamagedListTest::NothingIsOpenedOverAListThatCannotBeOpened()
     QVERIFY(QDir().mkdir(m_world.UserData() + "Priority.xml"));
     MessageReader message;
     Click("settingsButton");
-    QVERIFY2(message.text.contains("is there but cannot be opened"), qPrintable(message.text));
+    QVERIFY2(message.text.contains("exists but cannot be opened"), qPrintable(message.text));
     QVERIFY(!Dialog("settingsDialog"));
 }
 
@@ -472,7 +471,7 @@ void DamagedListTest::PageClosesWhenTheDamagedListCannotBeCopied()
     MessageReader message;
     QVERIFY(Eventually([this]() { return !Dialog("settingsDialog"); }));
     QVERIFY(Eventually([&message]() { return !message.text.isEmpty(); }));
-    QVERIFY2(Plain(message.text).contains("cannot be copied for safekeeping"), qPrintable(message.text));
+    QVERIFY2(Plain(message.text).contains("cannot be backed up"), qPrintable(message.text));
     QCOMPARE(ListBytes(), damaged);
 }
 
@@ -485,7 +484,7 @@ void DamagedListTest::ConnectionIsNotPutOnTopOfADamagedList()
     QTest::mouseClick(Find<QPushButton>("connectOkButton"), Qt::LeftButton);
     QVERIFY(Dialog("connectDialog"));
     QCOMPARE(Text("connectProblemLabel"),
-             QString("Your list cannot be read in full, so no network is put on top of it."));
+             QString("Your list cannot be read in full, so no network can be put at the top of it."));
     QCOMPARE(ListBytes(), damaged);
     QVERIFY(Eventually([this]() { return Question() != nullptr; }));
     Click("damageBringBackButton");
@@ -499,9 +498,9 @@ void DamagedListTest::TextsFollowTheLanguage()
     Damage();
     Click("repairButton");
     QVERIFY(m_language->Switch("he"));
-    QCOMPARE(Question()->windowTitle(), QString::fromUtf8("הרשימה שלך פגומה"));
+    QCOMPARE(Question()->windowTitle(), QString::fromUtf8("הקובץ עם הרשימה שלך פגום"));
     QCOMPARE(Find<QPushButton>("repairButton")->text(), QString::fromUtf8("החלטה מה לעשות…"));
-    QCOMPARE(Find<QPushButton>("damageLeaveButton")->text(), QString::fromUtf8("להשאיר כפי שהוא"));
+    QCOMPARE(Find<QPushButton>("damageLeaveButton")->text(), QString::fromUtf8("השארת הקובץ כפי שהוא"));
 }
 
 QTEST_MAIN(DamagedListTest)

@@ -42,7 +42,7 @@ private:
     QTableWidget *Table() const { return m_dialog->findChild<QTableWidget *>("importList"); }
     QPushButton *Button(const char *name) const { return m_dialog->findChild<QPushButton *>(name); }
     QLabel *Label(const char *name) const { return m_dialog->findChild<QLabel *>(QLatin1String(name)); }
-    /** "1 Home: Stays" */
+    /** "1 Home: Stays where it is" */
     QStringList Rows() const;
 
     PluginWorld m_world;
@@ -96,13 +96,13 @@ QStringList ImportDialogTest::Rows() const
 void ImportDialogTest::PlanIsShownAndNothingDoneYet()
 {
     Open("Old printer, Home, Company");
-    QCOMPARE(Rows(), QStringList() << "1 Old printer: Moves up"
-                                   << "2 Home: Stays"
-                                   << "3 Company: Added"
-                                   << " Office: Removed from the list");
-    QCOMPARE(
-        Plain(Label("importSummaryLabel")->text()),
-        QString::fromUtf8("What the import does: Added Company · Deleted Office · Moved Old printer up"));
+    QCOMPARE(Rows(), QStringList() << "1 Old printer: Will move up"
+                                   << "2 Home: Stays where it is"
+                                   << "3 Company: Will be added"
+                                   << " Office: Will be removed from the list");
+    QCOMPARE(Plain(Label("importSummaryLabel")->text()),
+             QString("Result of the import: Company will be added. Office will be removed. "
+                     "Old printer will move up."));
     QVERIFY(!Label("importUnknownLabel")->isVisible());
     QCOMPARE(PluginWorld::Stored(), QString("Home, Office, Old printer"));
 }
@@ -110,11 +110,11 @@ void ImportDialogTest::PlanIsShownAndNothingDoneYet()
 void ImportDialogTest::UnknownNetworksAreTold()
 {
     Open("Home, Office, Old printer, Hotel, Beach");
-    QVERIFY(Rows().contains("4 Hotel: Added; not known here"));
-    QVERIFY(Rows().contains("1 Home: Stays"));
+    QVERIFY(Rows().contains("4 Hotel: Will be added; not saved here"));
+    QVERIFY(Rows().contains("1 Home: Stays where it is"));
     QVERIFY(Label("importUnknownLabel")->isVisible());
     QVERIFY2(
-        Plain(Label("importUnknownLabel")->text()).startsWith("Not known on this computer: Hotel, Beach. "),
+        Plain(Label("importUnknownLabel")->text()).startsWith("Not saved on this computer: Hotel, Beach. "),
         qPrintable(Label("importUnknownLabel")->text()));
 }
 
@@ -122,7 +122,7 @@ void ImportDialogTest::ManyUnknownNetworksAreToldShortly()
 {
     Open("N1, N2, N3, N4, N5, N6, N7");
     QVERIFY2(Plain(Label("importUnknownLabel")->text())
-                 .startsWith(QString::fromUtf8("Not known on this computer: N1, N2, N3, N4, N5, …. ")),
+                 .startsWith(QString::fromUtf8("Not saved on this computer: N1, N2, N3, N4, N5, …. ")),
              qPrintable(Label("importUnknownLabel")->text()));
 }
 
@@ -179,7 +179,8 @@ void ImportDialogTest::SameListCannotBeImported()
 void ImportDialogTest::EmptyListCanBeImported()
 {
     Open("");
-    QCOMPARE(Label("importSummaryLabel")->text(), QString("What the import does: Deleted all entries"));
+    QCOMPARE(Label("importSummaryLabel")->text(),
+             QString("Result of the import: All networks will be removed."));
     QTest::mouseClick(Button("importOkButton"), Qt::LeftButton);
     QCOMPARE(PluginWorld::Stored(), QString());
 }
@@ -189,7 +190,7 @@ void ImportDialogTest::PlanFollowsTheList()
     Open("Home, Office, Old printer");
     PluginWorld::AddTop("Company");
     m_keeper->Follow();
-    QVERIFY(Rows().contains(" Company: Removed from the list"));
+    QVERIFY(Rows().contains(" Company: Will be removed from the list"));
     QVERIFY(Button("importOkButton")->isEnabled());
 }
 
@@ -213,8 +214,8 @@ void ImportDialogTest::TextsFollowTheLanguage()
     Open("Company");
     QVERIFY(DashboardLanguage::Apply("ar"));
     m_dialog->Retranslate();
-    QCOMPARE(m_dialog->windowTitle(), QString::fromUtf8("استيراد ترتيب"));
-    QVERIFY(Rows().first().endsWith(QString::fromUtf8("تُضاف")));
+    QCOMPARE(m_dialog->windowTitle(), QString::fromUtf8("استيراد قائمة"));
+    QVERIFY(Rows().first().endsWith(QString::fromUtf8("ستُضاف")));
 }
 
 QTEST_MAIN(ImportDialogTest)

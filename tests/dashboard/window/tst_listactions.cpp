@@ -188,9 +188,9 @@ void ListActionsTest::MenuHasEverything()
         texts.append(actions.at(i)->text());
     }
     QCOMPARE(texts, QStringList() << "&Undo"
-                                  << "&Redo" << QString::fromUtf8("Re&store…") << QString()
-                                  << QString::fromUtf8("&Import order…")
-                                  << QString::fromUtf8("&Export order…"));
+                                  << "&Redo" << QString::fromUtf8("Earlier &lists…") << QString()
+                                  << QString::fromUtf8("&Import list…")
+                                  << QString::fromUtf8("&Export list…"));
     PluginWorld::AddTop("Home");
     Action("undoAction")->trigger();
     QCOMPARE(PluginWorld::Stored(), QString());
@@ -223,7 +223,7 @@ void ListActionsTest::ChangeOfTheFileCanBeUndone()
     m_world.Write("Priority.xml", OrderFile::Document(Listed("Other")));
     QVERIFY(Eventually([this]() { return Shown() == "Other"; }));
     QCOMPARE(Plain(Button("undoButton")->accessibleDescription()),
-             QString::fromUtf8("Undo: Added Other · Deleted Home"));
+             QString::fromUtf8("Undo: Added Other · Removed Home"));
     QTest::keyClick(m_window.data(), Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(PluginWorld::Stored(), QString("Home"));
     QCOMPARE(m_world.Read("Priority.xml"), OrderFile::Document(Listed("Home")));
@@ -377,7 +377,7 @@ void ListActionsTest::DamagedHistoryIsToldInTheWindow()
     m_window->Refresh();
     const QLabel *problems = m_window->findChild<QLabel *>("problemsLabel");
     QVERIFY(problems->isVisible());
-    QVERIFY2(Plain(problems->text()).contains("history/states.xml, is damaged and was left alone. Line 2: "),
+    QVERIFY2(Plain(problems->text()).contains("history/states.xml, is damaged and was not changed. Line 2: "),
              qPrintable(problems->text()));
     QVERIFY(!Button("undoButton")->isEnabled());
     QCOMPARE(m_world.Read("history/states.xml"),
@@ -400,7 +400,8 @@ void ListActionsTest::DamagedListIsRepairedByUndo()
     m_world.Write("Priority.xml", whole.left(whole.indexOf("\"B\"")));
     m_window->Refresh();
     QCOMPARE(Shown(), QString("A"));
-    QVERIFY(m_window->findChild<QLabel *>("problemsLabel")->text().contains("brings back the last list"));
+    QVERIFY(
+        m_window->findChild<QLabel *>("problemsLabel")->text().contains("restores the last complete list"));
     Click("undoButton");
     QCOMPARE(Shown(), QString("A, B, C"));
     QCOMPARE(m_world.Read("Priority.xml"), whole);
@@ -501,8 +502,7 @@ void ListActionsTest::FileThatIsNoOrderIsToldWithItsLine_data()
     QTest::addColumn<QString>("told");
     QTest::newRow("damaged") << QByteArray("<zeltdoc>\n<item name=\"A\"") << "Line 2: ";
     QTest::newRow("profiles") << QByteArray("<wlanprofiles/>")
-                              << QString::fromUtf8(
-                                     "Line 1: the element “wlanprofiles” does not belong there");
+                              << QString::fromUtf8("Line 1: the element “wlanprofiles” is not allowed here");
     QTest::newRow("far too large") << QByteArray(OrderFile::largestFile + 1, ' ') << "far too large";
 }
 
@@ -552,7 +552,7 @@ void ListActionsTest::TextsFollowTheLanguage()
     QVERIFY(m_language->Switch("he"));
     QCOMPARE(Button("undoButton")->text(), QString::fromUtf8("ביטול פעולה"));
     QCOMPARE(Plain(Button("undoButton")->accessibleDescription()),
-             QString::fromUtf8("ביטול פעולה: Home נוספה"));
+             QString::fromUtf8("ביטול פעולה: הוספת Home"));
     QVERIFY(Plain(Label("lastChangeLabel")).contains(QString::fromUtf8("השינוי האחרון")));
 }
 

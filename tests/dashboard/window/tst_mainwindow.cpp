@@ -75,6 +75,8 @@ private slots:
     void ChangeThroughThePluginIsShownAtOnce();
     void ChangeOfTheFileIsFollowed();
     void DamagedFileIsTold();
+    void ListThatCannotBeReadIsNotCalledEmpty_data();
+    void ListThatCannotBeReadIsNotCalledEmpty();
     void SettingsOpenAtTheListsPage();
     void SettingsOpenOnce();
     void WindowIsRefreshedWhenSettingsClose();
@@ -188,7 +190,7 @@ void MainWindowTest::NoListIsToldWithAHint()
 {
     QVERIFY(!List()->isVisible());
     QVERIFY(m_window->findChild<QWidget *>("messagePage")->isVisible());
-    QCOMPARE(Text("messageTitle"), QString("Your priority list is empty"));
+    QCOMPARE(Text("messageTitle"), QString("Your list is empty"));
     QVERIFY(Text("messageText").contains("Open the settings"));
     QVERIFY(!m_window->findChild<QWidget *>("problemsLabel")->isVisible());
     QVERIFY(!QFile::exists(ListPath()));
@@ -219,11 +221,11 @@ void MainWindowTest::StateOfEachEntryIsShown()
     entries << Entry("Office") << Entry("Home") << Entry("Library") << Entry("Mobile", "2");
     PluginObjects::Priority()->AddPriorityList(entries);
     QCOMPARE(States(), QStringList() << "Out of range" << QString::fromUtf8("In use now · 90%")
-                                     << QString::fromUtf8("In range · 50%") << "Ready as fallback");
-    QCOMPARE(Reasons(), QStringList() << "It cannot be used now, because it is out of range."
-                                      << "It is the first network of your list that is in range."
-                                      << "It could be used, but Home is higher in the list."
-                                      << "It could be used, but Home is higher in the list.");
+                                     << QString::fromUtf8("In range · 50%") << "Ready");
+    QCOMPARE(Reasons(), QStringList() << "Not in use, because it is out of range."
+                                      << "It is the first network in your list that is in range."
+                                      << "Not in use, because Home is higher in the list."
+                                      << "Not in use, because Home is higher in the list.");
 }
 
 void MainWindowTest::HeadlineNamesTheNetworkInUse()
@@ -246,23 +248,23 @@ void MainWindowTest::ExplanationTellsWhyNotThoseAbove()
                                      << "Garden"));
     m_window->Refresh();
     QCOMPARE(Plain(Text("explanationLabel")),
-             QString("It is the first network of your list that is in range. "
+             QString("It is the first network in your list that is in range. "
                      "Higher in the list, but out of range: Office, Train."));
     WriteList(ListFile(QStringList() << "Library"
                                      << "Office"));
     m_window->Refresh();
-    QCOMPARE(Text("explanationLabel"), QString("It is the first network of your list that is in range."));
+    QCOMPARE(Text("explanationLabel"), QString("It is the first network in your list that is in range."));
 }
 
 void MainWindowTest::NothingInRangeIsToldWithAHint()
 {
     WriteList(ListFile(QStringList("Office")));
     m_window->Refresh();
-    QVERIFY(Text("explanationLabel").startsWith("None of the networks of your list is in range. "));
+    QVERIFY(Text("explanationLabel").startsWith("None of the networks in your list is in range. "));
     QVERIFY(Text("explanationLabel").contains("Connect"));
     m_directory->Write("priority-dashboard/WLANNetworks.xml", "<wlannetworks/>");
     m_window->Refresh();
-    QCOMPARE(Text("explanationLabel"), QString("None of the networks of your list is in range."));
+    QCOMPARE(Text("explanationLabel"), QString("None of the networks in your list is in range."));
 }
 
 void MainWindowTest::ChangeOfTheRangeIsFollowed()
@@ -361,6 +363,28 @@ void MainWindowTest::DamagedFileIsTold()
     WriteList(ListFile(QStringList("Home")));
     m_window->Refresh();
     QVERIFY(!m_window->findChild<QWidget *>("problemsLabel")->isVisible());
+}
+
+void MainWindowTest::ListThatCannotBeReadIsNotCalledEmpty_data()
+{
+    QTest::addColumn<bool>("isFile");
+    QTest::newRow("damaged from the start") << true;
+    QTest::newRow("cannot be opened") << false;
+}
+
+void MainWindowTest::ListThatCannotBeReadIsNotCalledEmpty()
+{
+    QFETCH(bool, isFile);
+    if (isFile) {
+        WriteList("no list");
+    } else {
+        QVERIFY(QDir().mkdir(ListPath()));
+    }
+    m_window->Refresh();
+    QCOMPARE(Text("headlineLabel"), QString("Connection not known"));
+    QVERIFY(Text("explanationLabel").startsWith("Your list cannot be read in full"));
+    QCOMPARE(Text("messageTitle"), QString("Your list cannot be shown"));
+    QVERIFY(!Text("messageText").contains("empty"));
 }
 
 void MainWindowTest::SettingsOpenAtTheListsPage()

@@ -83,15 +83,15 @@ void MainWindowProblemsTest::MissingListIsExplainedInItsPlace_data()
     QTest::addColumn<QString>("folder");
     QTest::addColumn<QString>("told");
     QTest::newRow("missing") << "Absent"
-                             << "Absent/libAbsent.so is not there";
+                             << "Absent/libAbsent.so was not found";
     QTest::newRow("refused") << "WrongVerification"
-                             << "another dashboard";
+                             << "another program";
     QTest::newRow("init fails") << "InitFails"
-                                << "cannot work";
+                                << "could not start";
     QTest::newRow("hands out nothing") << "QueryNull"
-                                       << "does not hand out the list";
+                                       << "does not provide the list";
     QTest::newRow("hands out something else") << "Working"
-                                              << "does not hand out the list";
+                                              << "does not provide the list";
 }
 
 void MainWindowProblemsTest::MissingListIsExplainedInItsPlace()
@@ -124,7 +124,7 @@ void MainWindowProblemsTest::SettingsExplainItToo()
     QCOMPARE(pages->count(), 3);
     QCOMPARE(pages->currentRow(), 1);
     const QLabel *problem = dialog->findChild<QLabel *>("pageProblem");
-    QVERIFY(problem && problem->text().contains("is not there"));
+    QVERIFY(problem && problem->text().contains("was not found"));
     dialog->accept();
     QVERIFY(!dialog->isVisible());
 }
@@ -162,17 +162,17 @@ void MainWindowProblemsTest::SourceOfTheNetworksIsTold_data()
     QTest::addColumn<QStringList>("folders");
     QTest::addColumn<QString>("told");
     QTest::newRow("networkmanager") << int(WlanNetworkManager) << QStringList("Working")
-                                    << QString::fromUtf8("This computer’s networks, from NetworkManager");
+                                    << QString::fromUtf8(
+                                           "These are this computer’s networks. NetworkManager");
     QTest::newRow("auto") << int(WlanAutomatic)
                           << (QStringList() << "Working"
                                             << "Absent")
-                          << QString::fromUtf8("This computer’s networks, from NetworkManager");
+                          << QString::fromUtf8("These are this computer’s networks. NetworkManager");
     QTest::newRow("auto without it") << int(WlanAutomatic)
                                      << (QStringList() << "InitFails"
                                                        << "Working")
-                                     << "There is no NetworkManager to work with";
-    QTest::newRow("stored") << int(WlanStored) << QStringList("Working")
-                            << QString::fromUtf8("Networks of the dashboard’s own");
+                                     << "NetworkManager is not available";
+    QTest::newRow("stored") << int(WlanStored) << QStringList("Working") << "These are practice networks.";
     QTest::newRow("none") << int(WlanStored) << QStringList("Absent") << "";
 }
 
@@ -240,7 +240,8 @@ void MainWindowProblemsTest::DamagedLanguageFileIsNamedAndTheOthersWork()
     QVERIFY(!window.findChild<QAction *>("languageAction_fr"));
 
     window.findChild<QAction *>("languageAction_de")->trigger();
-    QCOMPARE(window.findChild<QPushButton *>("settingsButton")->text(), QString::fromUtf8("Einstellungen…"));
+    QCOMPARE(window.findChild<QPushButton *>("settingsButton")->text(),
+             QString::fromUtf8("Einstellungen\u00a0…"));
     QVERIFY2(problems->text().contains("languages/fr.qm"), qPrintable(problems->text()));
     HostControl::SetPluginContainer(nullptr);
     QCOMPARE(m_directory.Read("languages/fr.qm"), cut);

@@ -164,7 +164,7 @@ void RestoreDialogTest::ChosenListAndItsEffectAreShown()
     QTest::keyClick(Table(), Qt::Key_Down);
     QTest::keyClick(Table(), Qt::Key_Down);
     QCOMPARE(Preview(), QString("Home"));
-    QCOMPARE(Text("restoreEffectLabel"), QString("What restoring does: Deleted 2 entries"));
+    QCOMPARE(Text("restoreEffectLabel"), QString("Result of restoring: 2 networks will be removed."));
     QVERIFY(Button("restoreOkButton")->isEnabled());
     QCOMPARE(PluginWorld::Stored(), QString("Cafe, Office, Home"));
 }
@@ -178,7 +178,7 @@ void RestoreDialogTest::KeysChooseAndRestore()
     QCOMPARE(PluginWorld::Stored(), QString("Office, Home"));
     // The list that was left is kept, and can be gone back to as well.
     Open();
-    QVERIFY2(Cells(ChangeColumn).first().startsWith("Went back to the list of "),
+    QVERIFY2(Cells(ChangeColumn).first().startsWith("Restored the list from "),
              qPrintable(Cells(ChangeColumn).first()));
     QCOMPARE(Cells(ChangeColumn).at(1), QString("Added Cafe"));
     QCOMPARE(Cells(StatusColumn), QStringList() << "Now"
@@ -250,7 +250,7 @@ void RestoreDialogTest::UndoneStatesAreMarkedAndCanBeRestored()
     // That it was gone back before is told as well.
     Open();
     QCOMPARE(Table()->rowCount(), 6);
-    QVERIFY2(Cells(ChangeColumn).at(1).startsWith("Went back to the list of "),
+    QVERIFY2(Cells(ChangeColumn).at(1).startsWith("Restored the list from "),
              qPrintable(Cells(ChangeColumn).at(1)));
     QVERIFY(!Cells(StatusColumn).contains("Undone"));
 }
@@ -266,7 +266,7 @@ void RestoreDialogTest::ChangeMeanwhileIsListedAndTheChoiceKept()
     QCOMPARE(Table()->currentRow(), 2);
     QCOMPARE(Preview(), QString("Office, Home"));
     QCOMPARE(Text("restoreEffectLabel"),
-             QString::fromUtf8("What restoring does: Deleted Cafe · Moved Office up"));
+             QString::fromUtf8("Result of restoring: Cafe will be removed. Office will move up."));
     QTest::keyClick(Table(), Qt::Key_Return);
     QCOMPARE(PluginWorld::Stored(), QString("Office, Home"));
 }
@@ -343,9 +343,9 @@ void RestoreDialogTest::TextsFollowTheLanguage()
     Open();
     QVERIFY(DashboardLanguage::Apply("he"));
     m_dialog->Retranslate();
-    QCOMPARE(m_dialog->windowTitle(), QString::fromUtf8("שחזור רשימה קודמת"));
+    QCOMPARE(m_dialog->windowTitle(), QString::fromUtf8("רשימות קודמות"));
     QCOMPARE(Cells(StatusColumn).first(), QString::fromUtf8("עכשיו"));
-    QCOMPARE(Cells(ChangeColumn).first(), QString::fromUtf8("Cafe נוספה"));
+    QCOMPARE(Cells(ChangeColumn).first(), QString::fromUtf8("הוספת Cafe"));
     QCOMPARE(Button("restoreOkButton")->text(), QString::fromUtf8("שחזור"));
 }
 
