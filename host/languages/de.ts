@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>IDS_PROFILE_INFO</source>
-        <translation>Sind mehrere dieser Netzwerke in Reichweite, wird das in der Liste oberste verwendet.</translation>
+        <translation>Sind mehrere dieser Netzwerke in Reichweite, wird das verwendet, das in der Liste am höchsten steht.</translation>
     </message>
     <message>
         <source>IDS_PROFILE_UP</source>
@@ -77,7 +77,7 @@
     </message>
     <message>
         <source>IDS_KEYINDEX</source>
-        <translation>Schlüssel-Nr.</translation>
+        <translation>WEP-Index</translation>
     </message>
     <message>
         <source>IDS_EAP_METHOD</source>
@@ -89,7 +89,7 @@
     </message>
     <message>
         <source>IDS_WARNING_DELETE</source>
-        <translation>Soll das ausgewählte Netzwerk aus der Prioritätsliste entfernt werden?</translation>
+        <translation>Soll das ausgewählte Netzwerk aus Ihrer Liste entfernt werden?</translation>
     </message>
     <message>
         <source>IDS_ERROR_EMPTY_SSID</source>
@@ -97,29 +97,29 @@
     </message>
     <message>
         <source>IDS_PROFILE_NAME_REPEAT</source>
-        <translation>Ein Netzwerk mit diesem Namen steht bereits in der Prioritätsliste.</translation>
+        <translation>Ein Netzwerk mit diesem Namen steht bereits in Ihrer Liste. Geben Sie einen anderen Namen ein.</translation>
     </message>
     <message>
         <source>IDS_ERROR_KEY_WRONG_LENGTH_40</source>
-        <translation>Der Schlüssel eignet sich nicht für WEP. Er muss aus 5 oder 13 Zeichen oder aus 10, 26 oder 32 Hexadezimalziffern (0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F) bestehen.
+        <translation>Das ist kein gültiger WEP-Schlüssel. Ein WEP-Schlüssel hat 5 oder 13 Zeichen oder 10, 26 oder 32 Hexadezimalziffern (0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F).
 
 Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
 - _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :</translation>
     </message>
     <message>
         <source>IDS_ERROR_KEY_WRONG_LENGTH_128</source>
-        <translation>Der Schlüssel eignet sich nicht für WPA. Er muss aus 8 bis 63 Zeichen oder aus 64 Hexadezimalziffern (0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F) bestehen.
+        <translation>Das ist kein gültiger WPA-Schlüssel. Ein WPA-Schlüssel hat 8 bis 63 Zeichen oder 64 Hexadezimalziffern (0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F).
 
 Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
 - _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :</translation>
     </message>
     <message>
         <source>IDS_ERROR_KEY_DIFFERENT</source>
-        <translation>Die beiden Schlüssel stimmen nicht überein. Geben Sie in beide Felder denselben Schlüssel ein; Groß- und Kleinschreibung wird unterschieden.</translation>
+        <translation>Die beiden Schlüssel sind verschieden. Geben Sie in beide Felder denselben Schlüssel ein, mit denselben Groß- und Kleinbuchstaben.</translation>
     </message>
     <message>
         <source>IDS_ERROR_WRONG_AUTHENTICATION</source>
-        <translation>Wählen Sie ein Sicherheitsverfahren aus.</translation>
+        <translation>Wählen Sie einen Sicherheitstyp aus.</translation>
     </message>
 </context>
 <context>
@@ -127,6 +127,21 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
     <message>
         <source>IDS_LANGUAGE_NAME</source>
         <translation>Deutsch</translation>
+    </message>
+    <message>
+        <source>IDS_SENTENCES</source>
+        <extracomment>Two sentences, one behind the other. Chinese and Japanese have no blank there</extracomment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>IDS_NAMES</source>
+        <extracomment>Names of networks side by side. %1: the first ones, %2: one more</extracomment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>IDS_LABEL</source>
+        <extracomment>%1: a label, such as Wi-Fi; %2: what is told about it</extracomment>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>IDS_WINDOW_TITLE</source>
@@ -146,11 +161,11 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
     </message>
     <message>
         <source>IDS_ACTION_CONNECT</source>
-        <translation>&amp;Verbinden…</translation>
+        <translation>&amp;Verbinden&#xa0;…</translation>
     </message>
     <message>
         <source>IDS_ACTION_SETTINGS</source>
-        <translation>&amp;Einstellungen…</translation>
+        <translation>&amp;Einstellungen&#xa0;…</translation>
     </message>
     <message>
         <source>IDS_ACTION_REFRESH</source>
@@ -166,11 +181,11 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
     </message>
     <message>
         <source>IDS_BUTTON_CONNECT</source>
-        <translation>Verbinden…</translation>
+        <translation>Verbinden&#xa0;…</translation>
     </message>
     <message>
         <source>IDS_BUTTON_SETTINGS</source>
-        <translation>Einstellungen…</translation>
+        <translation>Einstellungen&#xa0;…</translation>
     </message>
     <message>
         <source>IDS_BUTTON_REFRESH</source>
@@ -178,7 +193,7 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
     </message>
     <message>
         <source>IDS_BUTTON_TRACE</source>
-        <translation>Protokoll anzeigen</translation>
+        <translation>Ablaufprotokoll</translation>
     </message>
     <message>
         <source>IDS_TRACE_TITLE</source>
@@ -186,7 +201,7 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
     </message>
     <message>
         <source>IDS_LOG_NOT_WRITABLE</source>
-        <translation>In die Protokolldatei %1 kann nicht geschrieben werden; das Ablaufprotokoll wird nur hier angezeigt.</translation>
+        <translation>In die Protokolldatei %1 kann nicht geschrieben werden. Das Ablaufprotokoll wird nur hier angezeigt.</translation>
     </message>
     <message>
         <source>IDS_OK</source>
@@ -202,7 +217,7 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
     </message>
     <message>
         <source>IDS_CONNECT_HINT</source>
-        <translation>Das Netzwerk, mit dem Sie sich verbinden, rückt an die Spitze Ihrer Liste.</translation>
+        <translation>Das Netzwerk, mit dem Sie sich verbinden, rückt an den Anfang Ihrer Liste.</translation>
     </message>
     <message>
         <source>IDS_CONNECT_NETWORK</source>
@@ -222,7 +237,7 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
     </message>
     <message>
         <source>IDS_CONNECT_NONE</source>
-        <translation>Es ist kein Netzwerk in Reichweite. Öffnen Sie dieses Fenster erneut, sobald eines da ist.</translation>
+        <translation>Kein Netzwerk ist in Reichweite. Öffnen Sie dieses Fenster erneut, sobald eines da ist.</translation>
     </message>
     <message>
         <source>IDS_CONNECT_NO_WLAN</source>
@@ -230,11 +245,11 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
     </message>
     <message>
         <source>IDS_CONNECT_NO_PRIORITY</source>
-        <translation>Das Plugin, das die Liste verwaltet, ist nicht verfügbar, daher kann kein Netzwerk an ihre Spitze rücken.</translation>
+        <translation>Das Plugin, das die Liste verwaltet, ist nicht verfügbar, daher kann kein Netzwerk an den Anfang Ihrer Liste rücken.</translation>
     </message>
     <message>
         <source>IDS_CONNECT_DAMAGED</source>
-        <translation>Ihre Liste lässt sich nicht vollständig lesen, daher rückt kein Netzwerk an ihre Spitze.</translation>
+        <translation>Ihre Liste lässt sich nicht vollständig lesen, daher kann kein Netzwerk an den Anfang rücken.</translation>
     </message>
     <message>
         <source>IDS_CLOSE</source>
@@ -246,7 +261,7 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
     </message>
     <message>
         <source>IDS_SETTINGS_KEYS</source>
-        <translation>Mit der Tastatur: Strg+↑ und Strg+↓ wählen einen Eintrag, ↑ und ↓ verschieben ihn.</translation>
+        <translation>Tastatur: Strg+↑ und Strg+↓ wählen ein Netzwerk aus, ↑ und ↓ verschieben es.</translation>
     </message>
     <message>
         <source>IDS_PLUGIN_PRIORITY</source>
@@ -258,7 +273,7 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
     </message>
     <message>
         <source>IDS_PLUGIN_WLAN_STORED</source>
-        <translation>WLAN (Netzwerke in einer Datei)</translation>
+        <translation>WLAN (Übungsnetzwerke)</translation>
     </message>
     <message>
         <source>IDS_GENERAL_TITLE</source>
@@ -282,7 +297,7 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
     </message>
     <message>
         <source>IDS_GENERAL_PLUGIN_NOT_NEEDED</source>
-        <translation>nicht nötig</translation>
+        <translation>nicht benötigt</translation>
     </message>
     <message>
         <source>IDS_GENERAL_PLACES</source>
@@ -294,7 +309,7 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
     </message>
     <message>
         <source>IDS_GENERAL_PLUGIN_LIBRARY</source>
-        <translation>Plugins aus: %1</translation>
+        <translation>Plugin-Ordner: %1</translation>
     </message>
     <message>
         <source>IDS_GENERAL_VERSION</source>
@@ -302,7 +317,7 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
     </message>
     <message>
         <source>IDS_PAGE_NOT_SHOWN</source>
-        <translation>Diese Seite kann nicht angezeigt werden: Das Plugin %1 wurde geladen, stellt seine Seite aber nicht bereit. Näheres steht möglicherweise im Ablaufprotokoll.</translation>
+        <translation>Diese Seite kann nicht angezeigt werden: Das Plugin %1 wurde geladen, stellt die Seite aber nicht bereit. Näheres steht im Ablaufprotokoll.</translation>
     </message>
     <message>
         <source>IDS_KIND_WIFI</source>
@@ -326,11 +341,11 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
     </message>
     <message>
         <source>IDS_STATE_UNKNOWN</source>
-        <translation>Reichweite unbekannt</translation>
+        <translation>Unbekannt, ob in Reichweite</translation>
     </message>
     <message>
         <source>IDS_STATE_FALLBACK</source>
-        <translation>Als Ersatz bereit</translation>
+        <translation>Bereit</translation>
     </message>
     <message>
         <source>IDS_HEAD_IN_USE</source>
@@ -338,23 +353,33 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
     </message>
     <message>
         <source>IDS_HEAD_IN_USE_WIFI</source>
-        <translation>Es ist das erste Netzwerk Ihrer Liste, das in Reichweite ist.</translation>
+        <translation>Es ist das erste Netzwerk in Ihrer Liste, das in Reichweite ist.</translation>
     </message>
     <message>
         <source>IDS_HEAD_IN_USE_MOBILE</source>
-        <translation>Kein WLAN, das in Ihrer Liste weiter oben steht, ist in Reichweite.</translation>
+        <translation>Kein WLAN-Netzwerk, das in Ihrer Liste weiter oben steht, ist in Reichweite.</translation>
     </message>
     <message>
         <source>IDS_HEAD_NONE</source>
         <translation>Kein Netzwerk wird verwendet</translation>
     </message>
     <message>
+        <source>IDS_HEAD_UNKNOWN</source>
+        <extracomment>In place of the network in use when it is not known which one that is</extracomment>
+        <translation>Verbindung nicht bekannt</translation>
+    </message>
+    <message>
         <source>IDS_HEAD_EMPTY</source>
         <translation>Ihre Liste ist leer, daher gibt es nichts auszuwählen.</translation>
     </message>
     <message>
+        <source>IDS_HEAD_UNREADABLE</source>
+        <extracomment>The list is damaged or cannot be opened; a message below tells which</extracomment>
+        <translation>Ihre Liste lässt sich nicht vollständig lesen, daher ist nicht bekannt, welches Netzwerk an erster Stelle steht.</translation>
+    </message>
+    <message>
         <source>IDS_HEAD_NOTHING_IN_RANGE</source>
-        <translation>Keines der Netzwerke Ihrer Liste ist in Reichweite.</translation>
+        <translation>Keines der Netzwerke in Ihrer Liste ist in Reichweite.</translation>
     </message>
     <message>
         <source>IDS_HEAD_RANGE_UNKNOWN</source>
@@ -366,15 +391,15 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
     </message>
     <message>
         <source>IDS_LIST_DAMAGED</source>
-        <translation>Die Datei mit Ihrer Liste ist beschädigt. Angezeigt wird nur, was vor der beschädigten Stelle steht.</translation>
+        <translation>Die Datei mit Ihrer Liste ist beschädigt. Nur die Netzwerke vor der beschädigten Stelle werden angezeigt.</translation>
     </message>
     <message>
         <source>IDS_LIST_KEPT</source>
-        <translation>Die Datei wurde nach %1 kopiert. Dieses Programm ändert sie erst, wenn Sie entschieden haben, was geschehen soll.</translation>
+        <translation>Eine Kopie der Datei wird als %1 aufbewahrt. Dieses Programm ändert Ihre Liste erst, wenn Sie entschieden haben, was geschehen soll.</translation>
     </message>
     <message>
         <source>IDS_BUTTON_REPAIR</source>
-        <translation>Entscheiden…</translation>
+        <translation>Entscheiden&#xa0;…</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_TITLE</source>
@@ -390,27 +415,27 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
     </message>
     <message>
         <source>IDS_DAMAGE_NO_LAST</source>
-        <translation>Es gibt keine frühere Liste, die sich zurückholen ließe.</translation>
+        <translation>Es gibt keine frühere Liste, die sich wiederherstellen lässt.</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_COPY</source>
-        <translation>Wie Sie auch wählen, die beschädigte Datei bleibt als %1 erhalten.</translation>
+        <translation>Was Sie auch wählen: Die beschädigte Datei bleibt als %1 erhalten.</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_BRING_BACK</source>
-        <translation>Letzte vollständige Liste zurückholen</translation>
+        <translation>Letzte vollständige Liste wiederherstellen</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_GO_ON</source>
-        <translation>Mit dem Lesbaren weitermachen</translation>
+        <translation>Lesbare Netzwerke behalten</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_LEAVE</source>
-        <translation>So lassen</translation>
+        <translation>Datei lassen, wie sie ist</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_OPENED</source>
-        <translation>Die Datei mit Ihrer Liste ist vorhanden, lässt sich aber nicht öffnen. Prüfen Sie ihre Zugriffsrechte und aktualisieren Sie dann die Anzeige.</translation>
+        <translation>Die Datei mit Ihrer Liste ist vorhanden, lässt sich aber nicht öffnen. Prüfen Sie die Zugriffsrechte der Datei, und wählen Sie dann „Aktualisieren“.</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_OFFERED</source>
@@ -418,19 +443,19 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
     </message>
     <message>
         <source>IDS_NO_LIST_TITLE</source>
-        <translation>Keine Liste vorhanden</translation>
+        <translation>Ihre Liste kann nicht angezeigt werden</translation>
     </message>
     <message>
         <source>IDS_EMPTY_TITLE</source>
-        <translation>Ihre Prioritätsliste ist leer</translation>
+        <translation>Ihre Liste ist leer</translation>
     </message>
     <message>
         <source>IDS_EMPTY_HINT</source>
-        <translation>Öffnen Sie die Einstellungen und wählen Sie „Hinzufügen“ für Netzwerke, die dieser Computer kennt, oder „Neu“, um selbst eines einzugeben. Das oberste Netzwerk der Liste wird bevorzugt.</translation>
+        <translation>Öffnen Sie die Einstellungen, und wählen Sie „Hinzufügen“ für Netzwerke, die auf diesem Computer gespeichert sind, oder „Neu“, um selbst eines einzugeben. Das Netzwerk, das in der Liste am höchsten steht, wird bevorzugt.</translation>
     </message>
     <message>
         <source>IDS_EMPTY_UNREADABLE</source>
-        <translation>Nichts davon ist lesbar. Beachten Sie die Meldung oben.</translation>
+        <translation>Die Meldung oben sagt, warum.</translation>
     </message>
     <message>
         <source>IDS_LOAD_NOT_LOADED</source>
@@ -438,7 +463,7 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
     </message>
     <message>
         <source>IDS_LOAD_MISSING</source>
-        <translation>Das Plugin %1 fehlt. Installieren Sie es, oder starten Sie das Programm mit --library-path und dem Verzeichnis, das den Ordner plugins/ enthält.</translation>
+        <translation>Das Plugin %1 wurde nicht gefunden. Installieren Sie es, oder starten Sie das Programm mit --library-path und dem Ordner, der plugins/ enthält.</translation>
     </message>
     <message>
         <source>IDS_LOAD_CUT</source>
@@ -446,7 +471,7 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
     </message>
     <message>
         <source>IDS_LOAD_OTHER_TOOLKIT</source>
-        <translation>Das Plugin %1 wurde für eine andere Qt-Generation erstellt und wird daher nicht verwendet.
+        <translation>Das Plugin %1 wurde für eine andere Hauptversion von Qt erstellt und wird daher nicht verwendet.
 Gefunden: Qt %2
 Erwartet: Qt %3</translation>
     </message>
@@ -466,19 +491,19 @@ Erwartet: %3</translation>
     </message>
     <message>
         <source>IDS_LOAD_NO_ENTRY_POINT</source>
-        <translation>Die Bibliothek %1 hat keinen Einsprungpunkt eines Plugins und wird daher nicht verwendet.</translation>
+        <translation>Die Bibliothek %1 ist kein Plugin und wird daher nicht verwendet.</translation>
     </message>
     <message>
         <source>IDS_LOAD_NULL_INSTANCE</source>
-        <translation>Das Plugin %1 hat kein Objekt geliefert und wird daher nicht verwendet.</translation>
+        <translation>Das Plugin %1 hat kein Objekt geliefert, mit dem sich arbeiten lässt, und wird daher nicht verwendet.</translation>
     </message>
     <message>
         <source>IDS_LOAD_NOT_A_PLUGIN</source>
-        <translation>Was %1 geliefert hat, ist kein Plugin dieses Programms und wird daher nicht verwendet.</translation>
+        <translation>%1 ist kein Plugin für dieses Programm und wird daher nicht verwendet.</translation>
     </message>
     <message>
         <source>IDS_LOAD_INIT_FAILED</source>
-        <translation>Das Plugin %1 meldet, dass es nicht arbeiten kann, und wird daher nicht verwendet. Näheres steht möglicherweise im Ablaufprotokoll.</translation>
+        <translation>Das Plugin %1 konnte nicht starten und wird daher nicht verwendet. Näheres steht im Ablaufprotokoll.</translation>
     </message>
     <message>
         <source>IDS_LANGUAGE_UNREADABLE</source>
@@ -499,15 +524,15 @@ Erwartet: %3</translation>
     <message>
         <source>IDS_NOTE_NETWORKMANAGER</source>
         <extracomment>At the foot of the main window; two lines of 450 pixels at most</extracomment>
-        <translation>Die Netzwerke dieses Computers, von NetworkManager, der die Reihenfolge dieser Liste befolgt.</translation>
+        <translation>Das sind die Netzwerke dieses Computers. NetworkManager probiert sie in der Reihenfolge dieser Liste.</translation>
     </message>
     <message>
         <source>IDS_NOTE_STORED</source>
-        <translation>Eigene Netzwerke dieses Programms; die des Computers bleiben unberührt.</translation>
+        <translation>Das sind Übungsnetzwerke. Die Netzwerke dieses Computers werden nicht verändert.</translation>
     </message>
     <message>
         <source>IDS_NOTE_STORED_STANDS_IN</source>
-        <translation>Es gibt keinen NetworkManager. Dies sind eigene Netzwerke dieses Programms; die des Computers bleiben unberührt.</translation>
+        <translation>NetworkManager ist nicht verfügbar, daher sind das Übungsnetzwerke. Die dieses Computers werden nicht verändert.</translation>
     </message>
     <message>
         <source>IDS_MENU_EDIT</source>
@@ -523,15 +548,15 @@ Erwartet: %3</translation>
     </message>
     <message>
         <source>IDS_ACTION_RESTORE</source>
-        <translation>Wieder&amp;herstellen…</translation>
+        <translation>&amp;Frühere Listen&#xa0;…</translation>
     </message>
     <message>
         <source>IDS_ACTION_IMPORT</source>
-        <translation>Reihenfolge &amp;importieren…</translation>
+        <translation>Liste &amp;importieren&#xa0;…</translation>
     </message>
     <message>
         <source>IDS_ACTION_EXPORT</source>
-        <translation>Reihenfolge &amp;exportieren…</translation>
+        <translation>Liste &amp;exportieren&#xa0;…</translation>
     </message>
     <message>
         <source>IDS_BUTTON_UNDO</source>
@@ -543,7 +568,7 @@ Erwartet: %3</translation>
     </message>
     <message>
         <source>IDS_BUTTON_RESTORE</source>
-        <translation>Wiederherstellen…</translation>
+        <translation>Frühere Listen&#xa0;…</translation>
     </message>
     <message>
         <source>IDS_UNDO_WHAT</source>
@@ -555,7 +580,7 @@ Erwartet: %3</translation>
     </message>
     <message>
         <source>IDS_UNDO_NOTHING</source>
-        <translation>Es gibt keine frühere Liste, zu der es zurückgehen könnte.</translation>
+        <translation>Es gibt keine frühere Liste, zu der Sie zurückkehren könnten.</translation>
     </message>
     <message>
         <source>IDS_REDO_NOTHING</source>
@@ -563,11 +588,11 @@ Erwartet: %3</translation>
     </message>
     <message>
         <source>IDS_REDO_DAMAGED</source>
-        <translation>Die Datei mit Ihrer Liste ist beschädigt. „Rückgängig“ bringt die letzte lesbare Liste zurück.</translation>
+        <translation>Die Datei mit Ihrer Liste ist beschädigt. Mit „Rückgängig“ lässt sich die letzte vollständige Liste wiederherstellen.</translation>
     </message>
     <message>
         <source>IDS_UNDO_NO_PLUGIN</source>
-        <translation>Das Plug-in, das die Liste führt, ist nicht verfügbar; deshalb lässt sich die Liste nicht ändern.</translation>
+        <translation>Das Plugin, das die Liste verwaltet, ist nicht verfügbar, daher lässt sich die Liste nicht ändern.</translation>
     </message>
     <message>
         <source>IDS_LAST_CHANGE</source>
@@ -579,7 +604,7 @@ Erwartet: %3</translation>
     </message>
     <message>
         <source>IDS_CHANGE_EMPTIED</source>
-        <translation>Alle Einträge gelöscht</translation>
+        <translation>Alle Netzwerke entfernt</translation>
     </message>
     <message>
         <source>IDS_CHANGE_DAMAGED</source>
@@ -591,15 +616,15 @@ Erwartet: %3</translation>
     </message>
     <message>
         <source>IDS_CHANGE_ADDED_MANY</source>
-        <translation>%1 Einträge hinzugefügt</translation>
+        <translation>%1 Netzwerke hinzugefügt</translation>
     </message>
     <message>
         <source>IDS_CHANGE_DELETED_ONE</source>
-        <translation>%1 gelöscht</translation>
+        <translation>%1 entfernt</translation>
     </message>
     <message>
         <source>IDS_CHANGE_DELETED_MANY</source>
-        <translation>%1 Einträge gelöscht</translation>
+        <translation>%1 Netzwerke entfernt</translation>
     </message>
     <message>
         <source>IDS_CHANGE_MOVED_UP</source>
@@ -619,23 +644,78 @@ Erwartet: %3</translation>
     </message>
     <message>
         <source>IDS_CHANGE_MOVED_MANY</source>
-        <translation>%1 Einträge verschoben</translation>
+        <translation>%1 Netzwerke verschoben</translation>
     </message>
     <message>
         <source>IDS_CHANGE_WENT_BACK</source>
-        <translation>Zurück zur Liste vom %1</translation>
+        <translation>Liste vom %1 wiederhergestellt</translation>
     </message>
     <message>
         <source>IDS_CHANGE_UNNAMED</source>
         <translation>(ohne Namen)</translation>
     </message>
     <message>
+        <source>IDS_PLAN_NONE</source>
+        <extracomment>What will be done, before it is done</extracomment>
+        <translation>Ihre Liste bleibt, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_EMPTY</source>
+        <extracomment>What will be done, before it is done</extracomment>
+        <translation>Alle Netzwerke werden entfernt.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_ADD_ONE</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>%1 wird hinzugefügt.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_ADD_MANY</source>
+        <extracomment>What will be done, before it is done. %1: a number, two or more</extracomment>
+        <translation>%1 Netzwerke werden hinzugefügt.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_REMOVE_ONE</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>%1 wird entfernt.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_REMOVE_MANY</source>
+        <extracomment>What will be done, before it is done. %1: a number, two or more</extracomment>
+        <translation>%1 Netzwerke werden entfernt.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_UP</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>%1 wird nach oben verschoben.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_DOWN</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>%1 wird nach unten verschoben.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_TOP</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>%1 wird an den Anfang verschoben.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_END</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>%1 wird ans Ende verschoben.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_MANY</source>
+        <extracomment>What will be done, before it is done. %1: a number, two or more</extracomment>
+        <translation>%1 Netzwerke werden verschoben.</translation>
+    </message>
+    <message>
         <source>IDS_RESTORE_TITLE</source>
-        <translation>Frühere Liste wiederherstellen</translation>
+        <translation>Frühere Listen</translation>
     </message>
     <message>
         <source>IDS_RESTORE_HINT</source>
-        <translation>Wählen Sie, wie Ihre Liste wieder sein soll. Auch die jetzige Liste bleibt hier erhalten.</translation>
+        <translation>Wählen Sie die Liste, die wiederhergestellt werden soll. Auch die jetzige Liste bleibt erhalten.</translation>
     </message>
     <message>
         <source>IDS_RESTORE_TIME</source>
@@ -647,7 +727,7 @@ Erwartet: %3</translation>
     </message>
     <message>
         <source>IDS_RESTORE_STATUS</source>
-        <translation>Stand</translation>
+        <translation>Status</translation>
     </message>
     <message>
         <source>IDS_RESTORE_NOW</source>
@@ -655,7 +735,7 @@ Erwartet: %3</translation>
     </message>
     <message>
         <source>IDS_RESTORE_UNDONE</source>
-        <translation>Zurückgenommen</translation>
+        <translation>Rückgängig gemacht</translation>
     </message>
     <message>
         <source>IDS_RESTORE_OLDEST</source>
@@ -663,11 +743,11 @@ Erwartet: %3</translation>
     </message>
     <message>
         <source>IDS_RESTORE_PREVIEW</source>
-        <translation>Die Liste damals</translation>
+        <translation>Liste zu diesem Zeitpunkt</translation>
     </message>
     <message>
         <source>IDS_RESTORE_EFFECT</source>
-        <translation>Das bewirkt die Wiederherstellung: %1</translation>
+        <translation>Ergebnis der Wiederherstellung: %1</translation>
     </message>
     <message>
         <source>IDS_RESTORE_IS_NOW</source>
@@ -679,7 +759,7 @@ Erwartet: %3</translation>
     </message>
     <message>
         <source>IDS_RESTORE_ASIDE</source>
-        <translation>Beiseitelegen und neu beginnen</translation>
+        <translation>Datei aufbewahren und neue beginnen</translation>
     </message>
     <message>
         <source>IDS_RESTORE_GONE</source>
@@ -687,15 +767,15 @@ Erwartet: %3</translation>
     </message>
     <message>
         <source>IDS_IMPORT_TITLE</source>
-        <translation>Reihenfolge importieren</translation>
+        <translation>Liste importieren</translation>
     </message>
     <message>
         <source>IDS_IMPORT_HINT</source>
-        <translation>Übernimmt eine Liste aus einer Datei. Sie sehen vorher, was sich ändern würde.</translation>
+        <translation>Ersetzt Ihre Liste durch eine aus einer Datei. Sie können die Änderungen vorher prüfen.</translation>
     </message>
     <message>
         <source>IDS_IMPORT_SUMMARY</source>
-        <translation>Das bewirkt der Import: %1</translation>
+        <translation>Ergebnis des Imports: %1</translation>
     </message>
     <message>
         <source>IDS_IMPORT_NO_CHANGE</source>
@@ -711,23 +791,23 @@ Erwartet: %3</translation>
     </message>
     <message>
         <source>IDS_IMPORT_STAYS</source>
-        <translation>Bleibt</translation>
+        <translation>Bleibt, wo es ist</translation>
     </message>
     <message>
         <source>IDS_IMPORT_ADDED</source>
-        <translation>Kommt hinzu</translation>
+        <translation>Wird hinzugefügt</translation>
     </message>
     <message>
         <source>IDS_IMPORT_MOVED_UP</source>
-        <translation>Rückt nach oben</translation>
+        <translation>Wird nach oben verschoben</translation>
     </message>
     <message>
         <source>IDS_IMPORT_MOVED_DOWN</source>
-        <translation>Rückt nach unten</translation>
+        <translation>Wird nach unten verschoben</translation>
     </message>
     <message>
         <source>IDS_IMPORT_MOVED</source>
-        <translation>Andere rücken um ihn herum</translation>
+        <translation>Bleibt; andere werden verschoben</translation>
     </message>
     <message>
         <source>IDS_IMPORT_REMOVED</source>
@@ -735,11 +815,11 @@ Erwartet: %3</translation>
     </message>
     <message>
         <source>IDS_IMPORT_EFFECT_UNKNOWN</source>
-        <translation>%1; hier nicht bekannt</translation>
+        <translation>%1; hier nicht gespeichert</translation>
     </message>
     <message>
         <source>IDS_IMPORT_UNKNOWN</source>
-        <translation>Auf diesem Computer nicht bekannt: %1. Ein solcher Eintrag wird erst verwendet, wenn das Netzwerk hier eingerichtet ist.</translation>
+        <translation>Auf diesem Computer nicht gespeichert: %1. Diese Netzwerke werden erst verwendet, wenn sie hier eingerichtet sind.</translation>
     </message>
     <message>
         <source>IDS_IMPORT_OK</source>
@@ -755,23 +835,23 @@ Erwartet: %3</translation>
     </message>
     <message>
         <source>IDS_EXPORT_TITLE</source>
-        <translation>Reihenfolge exportieren</translation>
+        <translation>Liste exportieren</translation>
     </message>
     <message>
         <source>IDS_EXPORT_HINT</source>
-        <translation>Schreibt die Reihenfolge Ihrer Liste in eine Datei, ohne Schlüssel.</translation>
+        <translation>Speichert Ihre Liste in einer Datei, ohne Schlüssel.</translation>
     </message>
     <message>
         <source>IDS_EXPORT_FILE_NAME</source>
-        <translation>netzwerk-reihenfolge.xml</translation>
+        <translation>netzwerkliste.xml</translation>
     </message>
     <message>
         <source>IDS_EXPORT_NOT_WRITTEN</source>
-        <translation>Die Datei %1 lässt sich nicht schreiben. Was vorher dort war, ist unverändert.</translation>
+        <translation>Die Datei %1 lässt sich nicht schreiben. Es wurde nichts geändert.</translation>
     </message>
     <message>
         <source>IDS_ORDER_FILES</source>
-        <translation>Netzwerk-Reihenfolgen</translation>
+        <translation>Netzwerklisten</translation>
     </message>
     <message>
         <source>IDS_ALL_FILES</source>
@@ -779,23 +859,23 @@ Erwartet: %3</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_WRITTEN</source>
-        <translation>Die Liste lässt sich nicht nach %1 schreiben. Prüfen Sie, ob der Datenträger voll oder die Datei geschützt ist.</translation>
+        <translation>Die Liste lässt sich nicht in %1 schreiben. Prüfen Sie, ob der Datenträger voll oder die Datei schreibgeschützt ist.</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_KEPT</source>
-        <translation>Die beschädigte Datei %1 lässt sich nicht zur Sicherheit kopieren und wurde deshalb nicht angetastet. Prüfen Sie, ob der Datenträger voll oder das Verzeichnis geschützt ist.</translation>
+        <translation>Von der beschädigten Datei %1 lässt sich keine Sicherungskopie anlegen, daher wurde sie nicht geändert. Prüfen Sie, ob der Datenträger voll oder der Ordner schreibgeschützt ist.</translation>
     </message>
     <message>
         <source>IDS_HISTORY_DAMAGED</source>
-        <translation>Die Datei mit den früheren Listen, %1, ist beschädigt und wurde nicht angetastet. %2. Bis sie unter „Wiederherstellen…“ beiseitegelegt ist, lässt sich nichts rückgängig machen.</translation>
+        <translation>Die Datei mit den früheren Listen, %1, ist beschädigt und wurde nicht geändert. %2. Um „Rückgängig“ wieder zu verwenden, wählen Sie „Frühere Listen&#xa0;…“ und beginnen Sie eine neue Datei. Die beschädigte wird aufbewahrt.</translation>
     </message>
     <message>
         <source>IDS_HISTORY_NOT_READABLE</source>
-        <translation>Die Datei mit den früheren Listen, %1, lässt sich nicht lesen und wurde nicht angetastet. Bis sie lesbar oder unter „Wiederherstellen…“ beiseitegelegt ist, lässt sich nichts rückgängig machen.</translation>
+        <translation>Die Datei mit den früheren Listen, %1, lässt sich nicht lesen und wurde nicht geändert. Um „Rückgängig“ wieder zu verwenden, machen Sie die Datei lesbar, oder wählen Sie „Frühere Listen&#xa0;…“ und beginnen Sie eine neue. Die alte wird aufbewahrt.</translation>
     </message>
     <message>
         <source>IDS_HISTORY_NOT_WRITABLE</source>
-        <translation>Frühere Listen lassen sich nicht in %1 aufbewahren. Ihre Änderungen lassen sich nur rückgängig machen, bis das Programm endet.</translation>
+        <translation>Frühere Listen lassen sich nicht in %1 aufbewahren. Änderungen lassen sich nur rückgängig machen, bis Sie das Programm beenden.</translation>
     </message>
     <message>
         <source>IDS_LIST_BUSY</source>
@@ -803,7 +883,7 @@ Erwartet: %3</translation>
     </message>
     <message>
         <source>IDS_HISTORY_NOT_SET_ASIDE</source>
-        <translation>Die Datei %1 lässt sich nicht umbenennen und wurde deshalb nicht angetastet.</translation>
+        <translation>Die Datei %1 lässt sich nicht umbenennen, daher wurde keine neue begonnen.</translation>
     </message>
     <message>
         <source>IDS_FAULT_LINE</source>
@@ -811,35 +891,35 @@ Erwartet: %3</translation>
     </message>
     <message>
         <source>IDS_FAULT_XML</source>
-        <translation>das ist kein wohlgeformtes XML</translation>
+        <translation>Das ist kein wohlgeformtes XML</translation>
     </message>
     <message>
         <source>IDS_FAULT_DECLARATION</source>
-        <translation>eine Dokumenttyp-Deklaration gehört nicht dorthin</translation>
+        <translation>Eine Dokumenttyp-Deklaration ist hier nicht erlaubt</translation>
     </message>
     <message>
         <source>IDS_FAULT_ELEMENT</source>
-        <translation>das Element „%1“ gehört nicht dorthin</translation>
+        <translation>Das Element „%1“ ist hier nicht erlaubt</translation>
     </message>
     <message>
         <source>IDS_FAULT_TEXT</source>
-        <translation>Text gehört nicht dorthin</translation>
+        <translation>Text ist hier nicht erlaubt</translation>
     </message>
     <message>
         <source>IDS_FAULT_ATTRIBUTE</source>
-        <translation>das Attribut „%1“ fehlt</translation>
+        <translation>Das Attribut „%1“ fehlt</translation>
     </message>
     <message>
         <source>IDS_FAULT_VALUE</source>
-        <translation>das Attribut „%1“ hat einen unmöglichen Wert</translation>
+        <translation>Das Attribut „%1“ hat einen ungültigen Wert</translation>
     </message>
     <message>
         <source>IDS_FAULT_TOO_MANY</source>
-        <translation>es gibt zu viele Elemente „%1“</translation>
+        <translation>Es gibt zu viele Elemente „%1“</translation>
     </message>
     <message>
         <source>IDS_LIST_UNDO_DAMAGE</source>
-        <translation>„Rückgängig“ bringt die letzte lesbare Liste zurück.</translation>
+        <translation>Mit „Rückgängig“ lässt sich die letzte vollständige Liste wiederherstellen.</translation>
     </message>
     <message>
         <source>IDS_HEAD_SKIPPED</source>
@@ -847,23 +927,23 @@ Erwartet: %3</translation>
     </message>
     <message>
         <source>IDS_HEAD_CONNECT_HINT</source>
-        <translation>„Verbinden…“ zeigt die Netzwerke in Reichweite.</translation>
+        <translation>„Verbinden&#xa0;…“ zeigt die anderen Netzwerke in Reichweite.</translation>
     </message>
     <message>
         <source>IDS_WHY_OUT_OF_RANGE</source>
-        <translation>Zurzeit nicht nutzbar, weil außer Reichweite.</translation>
+        <translation>Wird nicht verwendet, weil es außer Reichweite ist.</translation>
     </message>
     <message>
         <source>IDS_WHY_LOWER</source>
-        <translation>Nutzbar, aber %1 steht weiter oben in der Liste.</translation>
+        <translation>Wird nicht verwendet, weil %1 in der Liste weiter oben steht.</translation>
     </message>
     <message>
         <source>IDS_WHY_UNDECIDED</source>
-        <translation>Nutzbar, aber es ist nicht bekannt, ob ein Netzwerk weiter oben in der Liste in Reichweite ist.</translation>
+        <translation>Wird nicht verwendet, weil nicht bekannt ist, ob ein Netzwerk weiter oben in der Liste in Reichweite ist.</translation>
     </message>
     <message>
         <source>IDS_ACTION_TRACE_SEARCH</source>
-        <translation>Ablaufprotokoll &amp;durchsuchen…</translation>
+        <translation>Ablaufprotokoll &amp;durchsuchen&#xa0;…</translation>
     </message>
     <message>
         <source>IDS_TRACE_SEARCH</source>
@@ -871,19 +951,19 @@ Erwartet: %3</translation>
     </message>
     <message>
         <source>IDS_TRACE_NEXT</source>
-        <translation>Nächste Stelle</translation>
+        <translation>Nächster Treffer</translation>
     </message>
     <message>
         <source>IDS_TRACE_PREVIOUS</source>
-        <translation>Vorige Stelle</translation>
+        <translation>Vorheriger Treffer</translation>
     </message>
     <message>
         <source>IDS_TRACE_MATCHES</source>
-        <translation>Gefunden: %1</translation>
+        <translation>Treffer: %1</translation>
     </message>
     <message>
         <source>IDS_TRACE_NO_MATCH</source>
-        <translation>Nicht gefunden</translation>
+        <translation>Keine Treffer</translation>
     </message>
     <message>
         <source>IDS_MENU_APPEARANCE</source>
@@ -891,7 +971,7 @@ Erwartet: %3</translation>
     </message>
     <message>
         <source>IDS_APPEARANCE_SYSTEM</source>
-        <translation>Wie der &amp;Desktop</translation>
+        <translation>Wie im &amp;System</translation>
     </message>
     <message>
         <source>IDS_APPEARANCE_LIGHT</source>
@@ -910,27 +990,27 @@ Erwartet: %3</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_READ_ONLY</source>
-        <translation>„%1“ wurde nicht geändert: Ein Netzwerk mit diesem Namen ist bereits eingerichtet und darf nicht geändert werden.</translation>
+        <translation>„%1“ wurde nicht geändert: Ein Netzwerk mit diesem Namen ist bereits gespeichert und darf nicht geändert werden.</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_SEVERAL</source>
-        <translation>Es wurde nichts geändert: Unter dem Namen „%1“ sind mehrere Netzwerke eingerichtet, und es ist nicht erkennbar, welches gemeint ist. Wählen Sie einen anderen Namen.</translation>
+        <translation>Es wurde nichts geändert: Unter dem Namen „%1“ sind mehrere Netzwerke gespeichert, und es ist nicht bekannt, welches gemeint ist. Wählen Sie einen anderen Namen.</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_UNDESCRIBED</source>
-        <translation>„%1“ wurde nicht geändert: Ein Netzwerk mit diesem Namen ist bereits eingerichtet, mit mehr, als hier eingegeben werden kann, zum Beispiel mit einem Konto. Ändern Sie es dort, wo es eingerichtet wurde, oder wählen Sie einen anderen Namen.</translation>
+        <translation>„%1“ wurde nicht geändert: Ein Netzwerk mit diesem Namen ist bereits gespeichert, mit Angaben, die sich hier nicht eingeben lassen, zum Beispiel einem Konto. Ändern Sie es dort, wo es eingerichtet wurde, oder wählen Sie einen anderen Namen.</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_STRONGER</source>
-        <translation>„%1“ wurde nicht geändert: Ein Netzwerk mit diesem Namen ist bereits eingerichtet, und diese Sicherheit oder Verschlüsselung wäre schwächer. Wählen Sie mindestens die gleiche oder einen anderen Namen.</translation>
+        <translation>„%1“ wurde nicht geändert: Ein Netzwerk mit diesem Namen ist bereits gespeichert, und diese Sicherheit oder Verschlüsselung wäre schwächer. Wählen Sie eine, die mindestens so stark ist, oder einen anderen Namen.</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_KEY</source>
-        <translation>„%1“ wurde nicht geändert: Ein Netzwerk mit diesem Namen ist bereits eingerichtet, und zum Ändern ist ein vollständiger Schlüssel nötig. Geben Sie einen ein, oder wählen Sie einen anderen Namen.</translation>
+        <translation>„%1“ wurde nicht geändert: Ein Netzwerk mit diesem Namen ist bereits gespeichert, und zum Ändern ist ein vollständiger Schlüssel nötig. Geben Sie den Schlüssel ein, oder wählen Sie einen anderen Namen.</translation>
     </message>
     <message>
         <source>IDS_WLAN_BETTER_PROFILE</source>
-        <translation>„%1“ wurde nicht gespeichert: Dasselbe Netzwerk ist bereits als „%2“ eingerichtet, und zwar besser als so. Fügen Sie stattdessen „%2“ zur Liste hinzu.</translation>
+        <translation>„%1“ wurde nicht gespeichert: Dasselbe Netzwerk ist bereits als „%2“ gespeichert, mit besseren Einstellungen. Fügen Sie stattdessen „%2“ zu Ihrer Liste hinzu.</translation>
     </message>
     <message>
         <source>IDS_WLAN_BAD_NAME</source>
@@ -942,7 +1022,7 @@ Erwartet: %3</translation>
     </message>
     <message>
         <source>IDS_WLAN_NO_ACCOUNT</source>
-        <translation>„%1“ wurde nicht gespeichert: Diese Sicherheit verlangt ein Konto, das hier nicht eingegeben werden kann. Richten Sie das Netzwerk in den Einstellungen Ihres Desktops ein, und fügen Sie es dann zur Liste hinzu.</translation>
+        <translation>„%1“ wurde nicht gespeichert: Diese Sicherheit verlangt ein Konto, das sich hier nicht eingeben lässt. Das Netzwerk muss in den Einstellungen Ihres Desktops eingerichtet werden. Fügen Sie es danach zu Ihrer Liste hinzu.</translation>
     </message>
     <message>
         <source>IDS_WLAN_NOT_RUNNING</source>
@@ -954,7 +1034,7 @@ Erwartet: %3</translation>
     </message>
     <message>
         <source>IDS_WLAN_DENIED</source>
-        <translation>„%1“ wurde nicht gespeichert: Dazu haben Sie auf diesem Computer keine Berechtigung.</translation>
+        <translation>„%1“ wurde nicht gespeichert: Sie haben auf diesem Computer keine Berechtigung zum Speichern von Netzwerken.</translation>
     </message>
     <message>
         <source>IDS_WLAN_REFUSED</source>
@@ -966,15 +1046,15 @@ Erwartet: %3</translation>
     </message>
     <message>
         <source>IDS_WLAN_FILE_UNUSABLE</source>
-        <translation>„%1“ wurde nicht gespeichert: Die Datei der eingerichteten Netzwerke kann nicht gelesen oder geschrieben werden. Mehr dazu steht im Ablaufprotokoll.</translation>
+        <translation>„%1“ wurde nicht gespeichert: Die Datei mit den gespeicherten Netzwerken lässt sich nicht lesen oder schreiben. Näheres steht im Ablaufprotokoll.</translation>
     </message>
     <message>
         <source>IDS_WLAN_FILE_DAMAGED</source>
-        <translation>„%1“ wurde nicht gespeichert: Die Datei der eingerichteten Netzwerke ist beschädigt und bleibt, wie sie ist. Die Zeile steht im Ablaufprotokoll.</translation>
+        <translation>„%1“ wurde nicht gespeichert: Die Datei mit den gespeicherten Netzwerken ist beschädigt und wurde nicht geändert. Die Zeile steht im Ablaufprotokoll.</translation>
     </message>
     <message>
         <source>IDS_WLAN_BUSY</source>
-        <translation>„%1“ wurde nicht gespeichert: Ein anderes Programm ändert gerade die Netzwerke. Versuchen Sie es noch einmal.</translation>
+        <translation>„%1“ wurde nicht gespeichert: Ein anderes Programm ändert gerade die Netzwerke. Versuchen Sie es gleich noch einmal.</translation>
     </message>
 </context>
 </TS>

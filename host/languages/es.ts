@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>IDS_NEWPROFILE</source>
-        <translation>Red nueva</translation>
+        <translation>Nueva red</translation>
     </message>
     <message>
         <source>IDS_OK</source>
@@ -77,7 +77,7 @@
     </message>
     <message>
         <source>IDS_KEYINDEX</source>
-        <translation>N.º de clave</translation>
+        <translation>Índice WEP</translation>
     </message>
     <message>
         <source>IDS_EAP_METHOD</source>
@@ -89,7 +89,7 @@
     </message>
     <message>
         <source>IDS_WARNING_DELETE</source>
-        <translation>¿Quitar la red seleccionada de la lista de prioridad?</translation>
+        <translation>¿Quitar la red seleccionada de su lista?</translation>
     </message>
     <message>
         <source>IDS_ERROR_EMPTY_SSID</source>
@@ -97,29 +97,29 @@
     </message>
     <message>
         <source>IDS_PROFILE_NAME_REPEAT</source>
-        <translation>Ya hay una red con ese nombre en la lista de prioridad.</translation>
+        <translation>Ya hay una red con ese nombre en su lista. Escriba otro nombre.</translation>
     </message>
     <message>
         <source>IDS_ERROR_KEY_WRONG_LENGTH_40</source>
-        <translation>La clave no es válida para WEP. Debe tener 5 o 13 caracteres, o bien 10, 26 o 32 dígitos hexadecimales (0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F).
+        <translation>Esta clave WEP no es válida. Una clave WEP tiene 5 o 13 caracteres, o bien 10, 26 o 32 dígitos hexadecimales (0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F).
 
-Se permiten letras, números y estos signos:
+Puede usar letras, números y estos símbolos:
 - _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :</translation>
     </message>
     <message>
         <source>IDS_ERROR_KEY_WRONG_LENGTH_128</source>
-        <translation>La clave no es válida para WPA. Debe tener entre 8 y 63 caracteres, o bien 64 dígitos hexadecimales (0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F).
+        <translation>Esta clave WPA no es válida. Una clave WPA tiene entre 8 y 63 caracteres, o bien 64 dígitos hexadecimales (0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F).
 
-Se permiten letras, números y estos signos:
+Puede usar letras, números y estos símbolos:
 - _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :</translation>
     </message>
     <message>
         <source>IDS_ERROR_KEY_DIFFERENT</source>
-        <translation>Las dos claves no coinciden. Escriba la misma clave en ambos campos; se distinguen mayúsculas y minúsculas.</translation>
+        <translation>Las dos claves son distintas. Escriba la misma clave en ambos campos, con las mismas mayúsculas y minúsculas.</translation>
     </message>
     <message>
         <source>IDS_ERROR_WRONG_AUTHENTICATION</source>
-        <translation>Elija un método de seguridad.</translation>
+        <translation>Elija un tipo de seguridad.</translation>
     </message>
 </context>
 <context>
@@ -127,6 +127,21 @@ Se permiten letras, números y estos signos:
     <message>
         <source>IDS_LANGUAGE_NAME</source>
         <translation>Español</translation>
+    </message>
+    <message>
+        <source>IDS_SENTENCES</source>
+        <extracomment>Two sentences, one behind the other. Chinese and Japanese have no blank there</extracomment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>IDS_NAMES</source>
+        <extracomment>Names of networks side by side. %1: the first ones, %2: one more</extracomment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>IDS_LABEL</source>
+        <extracomment>%1: a label, such as Wi-Fi; %2: what is told about it</extracomment>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>IDS_WINDOW_TITLE</source>
@@ -162,7 +177,7 @@ Se permiten letras, números y estos signos:
     </message>
     <message>
         <source>IDS_ACTION_TRACE</source>
-        <translation>&amp;Mostrar seguimiento</translation>
+        <translation>&amp;Mostrar registro</translation>
     </message>
     <message>
         <source>IDS_BUTTON_CONNECT</source>
@@ -178,15 +193,15 @@ Se permiten letras, números y estos signos:
     </message>
     <message>
         <source>IDS_BUTTON_TRACE</source>
-        <translation>Mostrar seguimiento</translation>
+        <translation>Mostrar registro</translation>
     </message>
     <message>
         <source>IDS_TRACE_TITLE</source>
-        <translation>Seguimiento</translation>
+        <translation>Registro</translation>
     </message>
     <message>
         <source>IDS_LOG_NOT_WRITABLE</source>
-        <translation>No se puede escribir en el archivo de registro %1; el seguimiento solo se muestra aquí.</translation>
+        <translation>No se puede escribir en el archivo de registro %1. El registro solo se muestra aquí.</translation>
     </message>
     <message>
         <source>IDS_OK</source>
@@ -230,11 +245,11 @@ Se permiten letras, números y estos signos:
     </message>
     <message>
         <source>IDS_CONNECT_NO_PRIORITY</source>
-        <translation>El complemento que guarda la lista no está disponible, así que no se puede poner ninguna red al principio.</translation>
+        <translation>El complemento que gestiona la lista no está disponible, así que no se puede poner ninguna red al principio de su lista.</translation>
     </message>
     <message>
         <source>IDS_CONNECT_DAMAGED</source>
-        <translation>Su lista no se puede leer por completo, así que no se pone ninguna red al principio.</translation>
+        <translation>Su lista no se puede leer entera, así que no se puede poner ninguna red al principio.</translation>
     </message>
     <message>
         <source>IDS_CLOSE</source>
@@ -246,7 +261,7 @@ Se permiten letras, números y estos signos:
     </message>
     <message>
         <source>IDS_SETTINGS_KEYS</source>
-        <translation>Con el teclado: Ctrl+↑ y Ctrl+↓ eligen una entrada; ↑ y ↓ la mueven.</translation>
+        <translation>Teclado: Ctrl+↑ y Ctrl+↓ seleccionan una red; ↑ y ↓ la mueven.</translation>
     </message>
     <message>
         <source>IDS_PLUGIN_PRIORITY</source>
@@ -258,7 +273,7 @@ Se permiten letras, números y estos signos:
     </message>
     <message>
         <source>IDS_PLUGIN_WLAN_STORED</source>
-        <translation>Wi-Fi (redes en un archivo)</translation>
+        <translation>Wi-Fi (redes de prueba)</translation>
     </message>
     <message>
         <source>IDS_GENERAL_TITLE</source>
@@ -282,7 +297,7 @@ Se permiten letras, números y estos signos:
     </message>
     <message>
         <source>IDS_GENERAL_PLUGIN_NOT_NEEDED</source>
-        <translation>no hace falta</translation>
+        <translation>no necesario</translation>
     </message>
     <message>
         <source>IDS_GENERAL_PLACES</source>
@@ -294,7 +309,7 @@ Se permiten letras, números y estos signos:
     </message>
     <message>
         <source>IDS_GENERAL_PLUGIN_LIBRARY</source>
-        <translation>Complementos en: %1</translation>
+        <translation>Carpeta de complementos: %1</translation>
     </message>
     <message>
         <source>IDS_GENERAL_VERSION</source>
@@ -302,7 +317,7 @@ Se permiten letras, números y estos signos:
     </message>
     <message>
         <source>IDS_PAGE_NOT_SHOWN</source>
-        <translation>No se puede mostrar esta página: el complemento %1 se cargó, pero no ofrece su página. Es posible que el seguimiento dé más detalles.</translation>
+        <translation>No se puede mostrar esta página: el complemento %1 se cargó, pero no ofrece la página. Consulte el registro para ver los detalles.</translation>
     </message>
     <message>
         <source>IDS_KIND_WIFI</source>
@@ -330,7 +345,7 @@ Se permiten letras, números y estos signos:
     </message>
     <message>
         <source>IDS_STATE_FALLBACK</source>
-        <translation>Lista como alternativa</translation>
+        <translation>Preparada</translation>
     </message>
     <message>
         <source>IDS_HEAD_IN_USE</source>
@@ -342,15 +357,25 @@ Se permiten letras, números y estos signos:
     </message>
     <message>
         <source>IDS_HEAD_IN_USE_MOBILE</source>
-        <translation>Ninguna red Wi-Fi situada antes en su lista está al alcance.</translation>
+        <translation>Ninguna red Wi-Fi situada más arriba en su lista está al alcance.</translation>
     </message>
     <message>
         <source>IDS_HEAD_NONE</source>
         <translation>Ninguna red en uso</translation>
     </message>
     <message>
+        <source>IDS_HEAD_UNKNOWN</source>
+        <extracomment>In place of the network in use when it is not known which one that is</extracomment>
+        <translation>Conexión desconocida</translation>
+    </message>
+    <message>
         <source>IDS_HEAD_EMPTY</source>
         <translation>Su lista está vacía, así que no hay nada que elegir.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_UNREADABLE</source>
+        <extracomment>The list is damaged or cannot be opened; a message below tells which</extracomment>
+        <translation>Su lista no se puede leer entera, así que no se sabe qué red va primero.</translation>
     </message>
     <message>
         <source>IDS_HEAD_NOTHING_IN_RANGE</source>
@@ -362,15 +387,15 @@ Se permiten letras, números y estos signos:
     </message>
     <message>
         <source>IDS_HEAD_NO_PRIORITY_PLUGIN</source>
-        <translation>El complemento que guarda la lista no está disponible.</translation>
+        <translation>El complemento que gestiona la lista no está disponible.</translation>
     </message>
     <message>
         <source>IDS_LIST_DAMAGED</source>
-        <translation>El archivo de su lista está dañado. Solo se muestra lo que hay antes del daño.</translation>
+        <translation>El archivo de su lista está dañado. Solo se muestran las redes situadas antes de la parte dañada.</translation>
     </message>
     <message>
         <source>IDS_LIST_KEPT</source>
-        <translation>El archivo se ha copiado en %1. Este programa no lo modifica hasta que usted decida qué hacer.</translation>
+        <translation>Se conserva una copia del archivo como %1. Este programa no modifica su lista hasta que usted decida qué hacer.</translation>
     </message>
     <message>
         <source>IDS_BUTTON_REPAIR</source>
@@ -390,7 +415,7 @@ Se permiten letras, números y estos signos:
     </message>
     <message>
         <source>IDS_DAMAGE_NO_LAST</source>
-        <translation>No hay ninguna lista anterior que recuperar.</translation>
+        <translation>No hay ninguna lista anterior que se pueda restaurar.</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_COPY</source>
@@ -398,19 +423,19 @@ Se permiten letras, números y estos signos:
     </message>
     <message>
         <source>IDS_DAMAGE_BRING_BACK</source>
-        <translation>Recuperar la última lista completa</translation>
+        <translation>Restaurar la última lista completa</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_GO_ON</source>
-        <translation>Continuar con lo que se ha podido leer</translation>
+        <translation>Conservar las redes que se han podido leer</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_LEAVE</source>
-        <translation>Dejarlo como está</translation>
+        <translation>Dejar el archivo como está</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_OPENED</source>
-        <translation>El archivo de su lista existe, pero no se puede abrir. Revise sus permisos y actualice la vista.</translation>
+        <translation>El archivo de su lista existe, pero no se puede abrir. Revise los permisos del archivo y elija «Actualizar».</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_OFFERED</source>
@@ -418,19 +443,19 @@ Se permiten letras, números y estos signos:
     </message>
     <message>
         <source>IDS_NO_LIST_TITLE</source>
-        <translation>No hay ninguna lista que mostrar</translation>
+        <translation>No se puede mostrar su lista</translation>
     </message>
     <message>
         <source>IDS_EMPTY_TITLE</source>
-        <translation>Su lista de prioridad está vacía</translation>
+        <translation>Su lista está vacía</translation>
     </message>
     <message>
         <source>IDS_EMPTY_HINT</source>
-        <translation>Abra la configuración y elija «Añadir» para las redes que este equipo recuerda, o «Nueva» para introducir una. Se prefiere la red que está más arriba en la lista.</translation>
+        <translation>Abra la configuración y elija «Añadir» para las redes guardadas en este equipo, o «Nueva» para introducir una. Se prefiere la red que está más arriba en la lista.</translation>
     </message>
     <message>
         <source>IDS_EMPTY_UNREADABLE</source>
-        <translation>No se puede leer nada de ella. Consulte el mensaje de arriba.</translation>
+        <translation>El mensaje de arriba explica por qué.</translation>
     </message>
     <message>
         <source>IDS_LOAD_NOT_LOADED</source>
@@ -438,7 +463,7 @@ Se permiten letras, números y estos signos:
     </message>
     <message>
         <source>IDS_LOAD_MISSING</source>
-        <translation>Falta el complemento %1. Instálelo o inicie el programa con --library-path y el directorio que contiene la carpeta plugins/.</translation>
+        <translation>No se encuentra el complemento %1. Instálelo, o inicie el programa con --library-path y la carpeta que contiene plugins/.</translation>
     </message>
     <message>
         <source>IDS_LOAD_CUT</source>
@@ -446,7 +471,7 @@ Se permiten letras, números y estos signos:
     </message>
     <message>
         <source>IDS_LOAD_OTHER_TOOLKIT</source>
-        <translation>El complemento %1 se compiló para otra generación de Qt, así que no se usa.
+        <translation>El complemento %1 se compiló para otra versión principal de Qt, así que no se usa.
 Encontrado: Qt %2
 Esperado: Qt %3</translation>
     </message>
@@ -466,7 +491,7 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_LOAD_NO_ENTRY_POINT</source>
-        <translation>La biblioteca %1 no tiene el punto de entrada de un complemento, así que no se usa.</translation>
+        <translation>La biblioteca %1 no es un complemento, así que no se usa.</translation>
     </message>
     <message>
         <source>IDS_LOAD_NULL_INSTANCE</source>
@@ -474,11 +499,11 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_LOAD_NOT_A_PLUGIN</source>
-        <translation>Lo que proporcionó %1 no es un complemento de este programa, así que no se usa.</translation>
+        <translation>%1 no es un complemento para este programa, así que no se usa.</translation>
     </message>
     <message>
         <source>IDS_LOAD_INIT_FAILED</source>
-        <translation>El complemento %1 indica que no puede funcionar, así que no se usa. Es posible que el seguimiento dé más detalles.</translation>
+        <translation>El complemento %1 no pudo iniciarse, así que no se usa. Consulte el registro para ver los detalles.</translation>
     </message>
     <message>
         <source>IDS_LANGUAGE_UNREADABLE</source>
@@ -494,20 +519,20 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_HINT_NETWORKMANAGER</source>
-        <translation>¿Está en marcha NetworkManager?</translation>
+        <translation>¿Se está ejecutando NetworkManager?</translation>
     </message>
     <message>
         <source>IDS_NOTE_NETWORKMANAGER</source>
         <extracomment>At the foot of the main window; two lines of 450 pixels at most</extracomment>
-        <translation>Redes de este equipo, de NetworkManager, que sigue el orden de esta lista.</translation>
+        <translation>Estas son las redes de este equipo. NetworkManager las prueba en el orden de esta lista.</translation>
     </message>
     <message>
         <source>IDS_NOTE_STORED</source>
-        <translation>Redes propias de este programa; las del equipo no se tocan.</translation>
+        <translation>Estas son redes de prueba. Las redes de este equipo no se modifican.</translation>
     </message>
     <message>
         <source>IDS_NOTE_STORED_STANDS_IN</source>
-        <translation>No hay ningún NetworkManager disponible. Estas redes son propias de este programa; las del equipo no se tocan.</translation>
+        <translation>NetworkManager no está disponible, así que estas son redes de prueba. Las redes de este equipo no se modifican.</translation>
     </message>
     <message>
         <source>IDS_MENU_EDIT</source>
@@ -523,15 +548,15 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_ACTION_RESTORE</source>
-        <translation>Re&amp;staurar…</translation>
+        <translation>&amp;Listas anteriores…</translation>
     </message>
     <message>
         <source>IDS_ACTION_IMPORT</source>
-        <translation>&amp;Importar orden…</translation>
+        <translation>&amp;Importar lista…</translation>
     </message>
     <message>
         <source>IDS_ACTION_EXPORT</source>
-        <translation>E&amp;xportar orden…</translation>
+        <translation>E&amp;xportar lista…</translation>
     </message>
     <message>
         <source>IDS_BUTTON_UNDO</source>
@@ -543,7 +568,7 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_BUTTON_RESTORE</source>
-        <translation>Restaurar…</translation>
+        <translation>Listas anteriores…</translation>
     </message>
     <message>
         <source>IDS_UNDO_WHAT</source>
@@ -563,11 +588,11 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_REDO_DAMAGED</source>
-        <translation>El archivo de su lista está dañado. «Deshacer» recupera la última lista que se pudo leer.</translation>
+        <translation>El archivo de su lista está dañado. «Deshacer» restaura la última lista completa.</translation>
     </message>
     <message>
         <source>IDS_UNDO_NO_PLUGIN</source>
-        <translation>El complemento que guarda la lista no está disponible, así que la lista no se puede cambiar.</translation>
+        <translation>El complemento que gestiona la lista no está disponible, así que la lista no se puede cambiar.</translation>
     </message>
     <message>
         <source>IDS_LAST_CHANGE</source>
@@ -579,63 +604,118 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_CHANGE_EMPTIED</source>
-        <translation>Se eliminaron todas las entradas</translation>
+        <translation>Todas las redes quitadas</translation>
     </message>
     <message>
         <source>IDS_CHANGE_DAMAGED</source>
-        <translation>El archivo se dañó</translation>
+        <translation>El archivo resultó dañado</translation>
     </message>
     <message>
         <source>IDS_CHANGE_ADDED_ONE</source>
-        <translation>Añadida: %1</translation>
+        <translation>%1 añadida</translation>
     </message>
     <message>
         <source>IDS_CHANGE_ADDED_MANY</source>
-        <translation>%1 entradas añadidas</translation>
+        <translation>%1 redes añadidas</translation>
     </message>
     <message>
         <source>IDS_CHANGE_DELETED_ONE</source>
-        <translation>Eliminada: %1</translation>
+        <translation>%1 quitada</translation>
     </message>
     <message>
         <source>IDS_CHANGE_DELETED_MANY</source>
-        <translation>%1 entradas eliminadas</translation>
+        <translation>%1 redes quitadas</translation>
     </message>
     <message>
         <source>IDS_CHANGE_MOVED_UP</source>
-        <translation>%1: movida hacia arriba</translation>
+        <translation>%1 movida hacia arriba</translation>
     </message>
     <message>
         <source>IDS_CHANGE_MOVED_DOWN</source>
-        <translation>%1: movida hacia abajo</translation>
+        <translation>%1 movida hacia abajo</translation>
     </message>
     <message>
         <source>IDS_CHANGE_MOVED_TOP</source>
-        <translation>%1: movida al principio</translation>
+        <translation>%1 movida al principio</translation>
     </message>
     <message>
         <source>IDS_CHANGE_MOVED_END</source>
-        <translation>%1: movida al final</translation>
+        <translation>%1 movida al final</translation>
     </message>
     <message>
         <source>IDS_CHANGE_MOVED_MANY</source>
-        <translation>%1 entradas movidas</translation>
+        <translation>%1 redes movidas</translation>
     </message>
     <message>
         <source>IDS_CHANGE_WENT_BACK</source>
-        <translation>Vuelta a la lista del %1</translation>
+        <translation>Lista del %1 restaurada</translation>
     </message>
     <message>
         <source>IDS_CHANGE_UNNAMED</source>
         <translation>(sin nombre)</translation>
     </message>
     <message>
+        <source>IDS_PLAN_NONE</source>
+        <extracomment>What will be done, before it is done</extracomment>
+        <translation>Su lista queda como está.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_EMPTY</source>
+        <extracomment>What will be done, before it is done</extracomment>
+        <translation>Se quitarán todas las redes.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_ADD_ONE</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>Se añadirá %1.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_ADD_MANY</source>
+        <extracomment>What will be done, before it is done. %1: a number, two or more</extracomment>
+        <translation>Se añadirán %1 redes.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_REMOVE_ONE</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>Se quitará %1.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_REMOVE_MANY</source>
+        <extracomment>What will be done, before it is done. %1: a number, two or more</extracomment>
+        <translation>Se quitarán %1 redes.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_UP</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>%1 se moverá hacia arriba.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_DOWN</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>%1 se moverá hacia abajo.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_TOP</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>%1 se moverá al principio.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_END</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>%1 se moverá al final.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_MANY</source>
+        <extracomment>What will be done, before it is done. %1: a number, two or more</extracomment>
+        <translation>Se moverán %1 redes.</translation>
+    </message>
+    <message>
         <source>IDS_RESTORE_TITLE</source>
-        <translation>Restaurar una lista anterior</translation>
+        <translation>Listas anteriores</translation>
     </message>
     <message>
         <source>IDS_RESTORE_HINT</source>
-        <translation>Elija cómo debe volver a ser su lista. La lista actual también se conserva aquí.</translation>
+        <translation>Elija la lista que quiere restaurar. La lista actual también se conserva.</translation>
     </message>
     <message>
         <source>IDS_RESTORE_TIME</source>
@@ -659,15 +739,15 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_RESTORE_OLDEST</source>
-        <translation>La lista más antigua guardada</translation>
+        <translation>La lista más antigua conservada</translation>
     </message>
     <message>
         <source>IDS_RESTORE_PREVIEW</source>
-        <translation>La lista entonces</translation>
+        <translation>La lista en ese momento</translation>
     </message>
     <message>
         <source>IDS_RESTORE_EFFECT</source>
-        <translation>Lo que hará la restauración: %1</translation>
+        <translation>Resultado de la restauración: %1</translation>
     </message>
     <message>
         <source>IDS_RESTORE_IS_NOW</source>
@@ -679,23 +759,23 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_RESTORE_ASIDE</source>
-        <translation>Apartarlo y empezar de nuevo</translation>
+        <translation>Conservar el archivo y empezar otro</translation>
     </message>
     <message>
         <source>IDS_RESTORE_GONE</source>
-        <translation>Esa lista ya no se guarda. Elija otra.</translation>
+        <translation>Esa lista ya no se conserva. Elija otra.</translation>
     </message>
     <message>
         <source>IDS_IMPORT_TITLE</source>
-        <translation>Importar un orden</translation>
+        <translation>Importar una lista</translation>
     </message>
     <message>
         <source>IDS_IMPORT_HINT</source>
-        <translation>Toma una lista de un archivo. Antes verá lo que cambiaría.</translation>
+        <translation>Sustituye su lista por la de un archivo. Antes puede comprobar los cambios.</translation>
     </message>
     <message>
         <source>IDS_IMPORT_SUMMARY</source>
-        <translation>Lo que hará la importación: %1</translation>
+        <translation>Resultado de la importación: %1</translation>
     </message>
     <message>
         <source>IDS_IMPORT_NO_CHANGE</source>
@@ -711,35 +791,35 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_IMPORT_STAYS</source>
-        <translation>Se queda</translation>
+        <translation>Se queda donde está</translation>
     </message>
     <message>
         <source>IDS_IMPORT_ADDED</source>
-        <translation>Se añade</translation>
+        <translation>Se añadirá</translation>
     </message>
     <message>
         <source>IDS_IMPORT_MOVED_UP</source>
-        <translation>Sube</translation>
+        <translation>Se moverá hacia arriba</translation>
     </message>
     <message>
         <source>IDS_IMPORT_MOVED_DOWN</source>
-        <translation>Baja</translation>
+        <translation>Se moverá hacia abajo</translation>
     </message>
     <message>
         <source>IDS_IMPORT_MOVED</source>
-        <translation>Otras se mueven a su alrededor</translation>
+        <translation>Se queda en su sitio; otras se moverán</translation>
     </message>
     <message>
         <source>IDS_IMPORT_REMOVED</source>
-        <translation>Se quita de la lista</translation>
+        <translation>Se quitará de la lista</translation>
     </message>
     <message>
         <source>IDS_IMPORT_EFFECT_UNKNOWN</source>
-        <translation>%1; no se conoce aquí</translation>
+        <translation>%1; no guardada aquí</translation>
     </message>
     <message>
         <source>IDS_IMPORT_UNKNOWN</source>
-        <translation>No se conocen en este equipo: %1. Una entrada así solo se usa cuando la red se haya configurado aquí.</translation>
+        <translation>No guardadas en este equipo: %1. Estas redes no se usarán hasta que se configuren aquí.</translation>
     </message>
     <message>
         <source>IDS_IMPORT_OK</source>
@@ -747,31 +827,31 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_IMPORT_NOT_READABLE</source>
-        <translation>El archivo %1 no se puede leer o es demasiado grande para una lista. Su lista sigue igual.</translation>
+        <translation>El archivo %1 no se puede leer o es demasiado grande para una lista. Su lista no ha cambiado.</translation>
     </message>
     <message>
         <source>IDS_IMPORT_DAMAGED</source>
-        <translation>El archivo %1 no es una lista de redes que se pueda importar. %2. Su lista sigue igual.</translation>
+        <translation>El archivo %1 no es una lista de redes que se pueda importar. %2. Su lista no ha cambiado.</translation>
     </message>
     <message>
         <source>IDS_EXPORT_TITLE</source>
-        <translation>Exportar el orden</translation>
+        <translation>Exportar la lista</translation>
     </message>
     <message>
         <source>IDS_EXPORT_HINT</source>
-        <translation>Escribe el orden de su lista en un archivo, sin claves.</translation>
+        <translation>Guarda su lista en un archivo, sin claves.</translation>
     </message>
     <message>
         <source>IDS_EXPORT_FILE_NAME</source>
-        <translation>orden-de-redes.xml</translation>
+        <translation>lista-de-redes.xml</translation>
     </message>
     <message>
         <source>IDS_EXPORT_NOT_WRITTEN</source>
-        <translation>El archivo %1 no se puede escribir. Lo que había antes sigue igual.</translation>
+        <translation>El archivo %1 no se puede escribir. No ha cambiado nada.</translation>
     </message>
     <message>
         <source>IDS_ORDER_FILES</source>
-        <translation>Órdenes de redes</translation>
+        <translation>Listas de redes</translation>
     </message>
     <message>
         <source>IDS_ALL_FILES</source>
@@ -779,23 +859,23 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_WRITTEN</source>
-        <translation>La lista no se puede escribir en %1. Compruebe si el disco está lleno o el archivo protegido.</translation>
+        <translation>La lista no se puede escribir en %1. Compruebe si el disco está lleno o el archivo está protegido contra escritura.</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_KEPT</source>
-        <translation>El archivo dañado %1 no se puede copiar para conservarlo, así que no se ha tocado. Compruebe si el disco está lleno o la carpeta protegida.</translation>
+        <translation>No se puede hacer una copia de seguridad del archivo dañado %1, así que no se ha modificado. Compruebe si el disco está lleno o la carpeta está protegida contra escritura.</translation>
     </message>
     <message>
         <source>IDS_HISTORY_DAMAGED</source>
-        <translation>El archivo de las listas anteriores, %1, está dañado y no se ha tocado. %2. Hasta que se aparte en «Restaurar…», no se puede deshacer nada.</translation>
+        <translation>El archivo de las listas anteriores, %1, está dañado y no se ha modificado. %2. Para volver a usar «Deshacer», elija «Listas anteriores…» y empiece un archivo nuevo. El dañado se conserva.</translation>
     </message>
     <message>
         <source>IDS_HISTORY_NOT_READABLE</source>
-        <translation>El archivo de las listas anteriores, %1, no se puede leer y no se ha tocado. Hasta que se pueda o se aparte en «Restaurar…», no se puede deshacer nada.</translation>
+        <translation>El archivo de las listas anteriores, %1, no se puede leer y no se ha modificado. Para volver a usar «Deshacer», haga legible el archivo, o elija «Listas anteriores…» y empiece uno nuevo. El antiguo se conserva.</translation>
     </message>
     <message>
         <source>IDS_HISTORY_NOT_WRITABLE</source>
-        <translation>Las listas anteriores no se pueden guardar en %1. Lo que cambie solo podrá deshacerse hasta que termine el programa.</translation>
+        <translation>Las listas anteriores no se pueden conservar en %1. Solo puede deshacer los cambios hasta que salga del programa.</translation>
     </message>
     <message>
         <source>IDS_LIST_BUSY</source>
@@ -803,7 +883,7 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_HISTORY_NOT_SET_ASIDE</source>
-        <translation>El archivo %1 no se puede renombrar, así que no se ha tocado.</translation>
+        <translation>No se puede cambiar el nombre del archivo %1, así que no se ha empezado otro.</translation>
     </message>
     <message>
         <source>IDS_FAULT_LINE</source>
@@ -815,15 +895,15 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_FAULT_DECLARATION</source>
-        <translation>una declaración de tipo de documento no corresponde ahí</translation>
+        <translation>aquí no se permite una declaración de tipo de documento</translation>
     </message>
     <message>
         <source>IDS_FAULT_ELEMENT</source>
-        <translation>el elemento «%1» no corresponde ahí</translation>
+        <translation>aquí no se permite el elemento «%1»</translation>
     </message>
     <message>
         <source>IDS_FAULT_TEXT</source>
-        <translation>no corresponde texto ahí</translation>
+        <translation>aquí no se permite texto</translation>
     </message>
     <message>
         <source>IDS_FAULT_ATTRIBUTE</source>
@@ -831,7 +911,7 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_FAULT_VALUE</source>
-        <translation>el atributo «%1» tiene un valor imposible</translation>
+        <translation>el atributo «%1» tiene un valor no válido</translation>
     </message>
     <message>
         <source>IDS_FAULT_TOO_MANY</source>
@@ -839,7 +919,7 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_LIST_UNDO_DAMAGE</source>
-        <translation>«Deshacer» recupera la última lista que se pudo leer.</translation>
+        <translation>«Deshacer» restaura la última lista completa.</translation>
     </message>
     <message>
         <source>IDS_HEAD_SKIPPED</source>
@@ -847,43 +927,43 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_HEAD_CONNECT_HINT</source>
-        <translation>«Conectar…» muestra las redes al alcance.</translation>
+        <translation>«Conectar…» muestra las otras redes al alcance.</translation>
     </message>
     <message>
         <source>IDS_WHY_OUT_OF_RANGE</source>
-        <translation>No se puede usar ahora, porque está fuera de alcance.</translation>
+        <translation>No está en uso porque está fuera de alcance.</translation>
     </message>
     <message>
         <source>IDS_WHY_LOWER</source>
-        <translation>Se podría usar, pero %1 está más arriba en la lista.</translation>
+        <translation>No está en uso porque %1 está más arriba en la lista.</translation>
     </message>
     <message>
         <source>IDS_WHY_UNDECIDED</source>
-        <translation>Se podría usar, pero no se sabe si hay al alcance una red más arriba en la lista.</translation>
+        <translation>No está en uso porque no se sabe si hay al alcance una red más arriba en la lista.</translation>
     </message>
     <message>
         <source>IDS_ACTION_TRACE_SEARCH</source>
-        <translation>&amp;Buscar en el seguimiento…</translation>
+        <translation>&amp;Buscar en el registro…</translation>
     </message>
     <message>
         <source>IDS_TRACE_SEARCH</source>
-        <translation>Buscar en el seguimiento</translation>
+        <translation>Buscar en el registro</translation>
     </message>
     <message>
         <source>IDS_TRACE_NEXT</source>
-        <translation>Lugar siguiente</translation>
+        <translation>Coincidencia siguiente</translation>
     </message>
     <message>
         <source>IDS_TRACE_PREVIOUS</source>
-        <translation>Lugar anterior</translation>
+        <translation>Coincidencia anterior</translation>
     </message>
     <message>
         <source>IDS_TRACE_MATCHES</source>
-        <translation>Encontrados: %1</translation>
+        <translation>Coincidencias: %1</translation>
     </message>
     <message>
         <source>IDS_TRACE_NO_MATCH</source>
-        <translation>No encontrado</translation>
+        <translation>Sin coincidencias</translation>
     </message>
     <message>
         <source>IDS_MENU_APPEARANCE</source>
@@ -891,7 +971,7 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_APPEARANCE_SYSTEM</source>
-        <translation>Como el &amp;escritorio</translation>
+        <translation>Como el &amp;sistema</translation>
     </message>
     <message>
         <source>IDS_APPEARANCE_LIGHT</source>
@@ -910,71 +990,71 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_READ_ONLY</source>
-        <translation>«%1» se dejó como estaba: ya hay una red configurada con ese nombre y no se debe cambiar.</translation>
+        <translation>«%1» no se ha modificado: ya hay una red guardada con ese nombre y no se puede modificar.</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_SEVERAL</source>
-        <translation>No se cambió nada: hay varias redes configuradas con el nombre «%1» y no se puede saber cuál es la indicada. Elija otro nombre.</translation>
+        <translation>No se ha modificado nada: hay varias redes guardadas con el nombre «%1» y no se sabe a cuál se refiere. Elija otro nombre.</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_UNDESCRIBED</source>
-        <translation>«%1» se dejó como estaba: ya hay una red configurada con ese nombre, con más de lo que se puede introducir aquí, por ejemplo una cuenta. Cámbiela donde se configuró o elija otro nombre.</translation>
+        <translation>«%1» no se ha modificado: ya hay una red guardada con ese nombre, con datos que no se pueden introducir aquí, por ejemplo una cuenta. Modifíquela donde se configuró o elija otro nombre.</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_STRONGER</source>
-        <translation>«%1» se dejó como estaba: ya hay una red configurada con ese nombre, y esta seguridad o este cifrado serían más débiles. Elija al menos lo mismo u otro nombre.</translation>
+        <translation>«%1» no se ha modificado: ya hay una red guardada con ese nombre, y esta seguridad o este cifrado serían más débiles. Elija una opción que sea al menos igual de segura u otro nombre.</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_KEY</source>
-        <translation>«%1» se dejó como estaba: ya hay una red configurada con ese nombre y para cambiarla hace falta una clave completa. Introduzca una o elija otro nombre.</translation>
+        <translation>«%1» no se ha modificado: ya hay una red guardada con ese nombre y para modificarla hace falta una clave completa. Introduzca la clave o elija otro nombre.</translation>
     </message>
     <message>
         <source>IDS_WLAN_BETTER_PROFILE</source>
-        <translation>«%1» no se guardó: la misma red ya está configurada como «%2», y mejor que así. Añada «%2» a la lista en su lugar.</translation>
+        <translation>«%1» no se ha guardado: la misma red ya está guardada como «%2», con una configuración mejor. Añada «%2» a su lista en su lugar.</translation>
     </message>
     <message>
         <source>IDS_WLAN_BAD_NAME</source>
-        <translation>«%1» no se guardó: el nombre de una red tiene de 1 a 32 bytes. Las letras con tilde y otras escrituras ocupan de dos a cuatro bytes cada una.</translation>
+        <translation>«%1» no se ha guardado: el nombre de una red tiene de 1 a 32 bytes. Las letras con tilde y las de otras escrituras ocupan de dos a cuatro bytes cada una.</translation>
     </message>
     <message>
         <source>IDS_WLAN_BAD_SECURITY</source>
-        <translation>«%1» no se guardó: esta seguridad, este cifrado y esta clave no son compatibles.</translation>
+        <translation>«%1» no se ha guardado: esta seguridad, este cifrado y esta clave no son compatibles.</translation>
     </message>
     <message>
         <source>IDS_WLAN_NO_ACCOUNT</source>
-        <translation>«%1» no se guardó: esta seguridad requiere una cuenta, que no se puede introducir aquí. Configure la red en los ajustes de su escritorio y añádala después a la lista.</translation>
+        <translation>«%1» no se ha guardado: esta seguridad requiere una cuenta, que no se puede introducir aquí. La red se puede configurar en la configuración de su escritorio; después, añádala a su lista.</translation>
     </message>
     <message>
         <source>IDS_WLAN_NOT_RUNNING</source>
-        <translation>«%1» no se guardó: NetworkManager no está en ejecución.</translation>
+        <translation>«%1» no se ha guardado: NetworkManager no se está ejecutando.</translation>
     </message>
     <message>
         <source>IDS_WLAN_NO_ANSWER</source>
-        <translation>No se sabe si «%1» se guardó: NetworkManager no responde.</translation>
+        <translation>No se sabe si «%1» se ha guardado: NetworkManager no responde.</translation>
     </message>
     <message>
         <source>IDS_WLAN_DENIED</source>
-        <translation>«%1» no se guardó: no tiene permiso para hacerlo en este equipo.</translation>
+        <translation>«%1» no se ha guardado: no tiene permiso para guardar redes en este equipo.</translation>
     </message>
     <message>
         <source>IDS_WLAN_REFUSED</source>
-        <translation>«%1» no se guardó: NetworkManager no la acepta, muy probablemente por la clave.</translation>
+        <translation>«%1» no se ha guardado: NetworkManager no acepta la red, muy probablemente por la clave.</translation>
     </message>
     <message>
         <source>IDS_WLAN_FAILED</source>
-        <translation>«%1» no se guardó: NetworkManager comunica un error.</translation>
+        <translation>«%1» no se ha guardado: NetworkManager comunica un error.</translation>
     </message>
     <message>
         <source>IDS_WLAN_FILE_UNUSABLE</source>
-        <translation>«%1» no se guardó: el archivo de las redes configuradas no se puede leer o escribir. El seguimiento dice más.</translation>
+        <translation>«%1» no se ha guardado: el archivo de las redes guardadas no se puede leer o escribir. Consulte el registro para ver los detalles.</translation>
     </message>
     <message>
         <source>IDS_WLAN_FILE_DAMAGED</source>
-        <translation>«%1» no se guardó: el archivo de las redes configuradas está dañado y se deja como está. El seguimiento indica la línea.</translation>
+        <translation>«%1» no se ha guardado: el archivo de las redes guardadas está dañado y no se ha modificado. El registro indica la línea.</translation>
     </message>
     <message>
         <source>IDS_WLAN_BUSY</source>
-        <translation>«%1» no se guardó: otro programa está cambiando las redes. Inténtelo de nuevo.</translation>
+        <translation>«%1» no se ha guardado: otro programa está cambiando las redes. Inténtelo de nuevo dentro de un momento.</translation>
     </message>
 </context>
 </TS>

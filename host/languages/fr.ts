@@ -77,7 +77,7 @@
     </message>
     <message>
         <source>IDS_KEYINDEX</source>
-        <translation>N° de clé</translation>
+        <translation>Index WEP</translation>
     </message>
     <message>
         <source>IDS_EAP_METHOD</source>
@@ -89,7 +89,7 @@
     </message>
     <message>
         <source>IDS_WARNING_DELETE</source>
-        <translation>Retirer le réseau sélectionné de la liste de priorité&#x202f;?</translation>
+        <translation>Retirer le réseau sélectionné de votre liste&#x202f;?</translation>
     </message>
     <message>
         <source>IDS_ERROR_EMPTY_SSID</source>
@@ -97,20 +97,20 @@
     </message>
     <message>
         <source>IDS_PROFILE_NAME_REPEAT</source>
-        <translation>Un réseau de ce nom figure déjà dans la liste de priorité.</translation>
+        <translation>Un réseau de ce nom figure déjà dans votre liste. Saisissez un autre nom.</translation>
     </message>
     <message>
         <source>IDS_ERROR_KEY_WRONG_LENGTH_40</source>
-        <translation>La clé ne convient pas à WEP. Elle doit comporter 5 ou 13 caractères, ou bien 10, 26 ou 32 chiffres hexadécimaux (0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F).
+        <translation>Cette clé WEP n’est pas valide. Une clé WEP comporte 5 ou 13 caractères, ou bien 10, 26 ou 32 chiffres hexadécimaux (0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F).
 
-Sont autorisés les lettres, les chiffres et les signes suivants&#xa0;:
+Vous pouvez utiliser des lettres, des chiffres et les symboles suivants&#xa0;:
 - _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :</translation>
     </message>
     <message>
         <source>IDS_ERROR_KEY_WRONG_LENGTH_128</source>
-        <translation>La clé ne convient pas à WPA. Elle doit comporter de 8 à 63 caractères, ou bien 64 chiffres hexadécimaux (0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F).
+        <translation>Cette clé WPA n’est pas valide. Une clé WPA comporte de 8 à 63 caractères, ou bien 64 chiffres hexadécimaux (0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F).
 
-Sont autorisés les lettres, les chiffres et les signes suivants&#xa0;:
+Vous pouvez utiliser des lettres, des chiffres et les symboles suivants&#xa0;:
 - _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :</translation>
     </message>
     <message>
@@ -127,6 +127,21 @@ Sont autorisés les lettres, les chiffres et les signes suivants&#xa0;:
     <message>
         <source>IDS_LANGUAGE_NAME</source>
         <translation>Français</translation>
+    </message>
+    <message>
+        <source>IDS_SENTENCES</source>
+        <extracomment>Two sentences, one behind the other. Chinese and Japanese have no blank there</extracomment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>IDS_NAMES</source>
+        <extracomment>Names of networks side by side. %1: the first ones, %2: one more</extracomment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>IDS_LABEL</source>
+        <extracomment>%1: a label, such as Wi-Fi; %2: what is told about it</extracomment>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>IDS_WINDOW_TITLE</source>
@@ -162,7 +177,7 @@ Sont autorisés les lettres, les chiffres et les signes suivants&#xa0;:
     </message>
     <message>
         <source>IDS_ACTION_TRACE</source>
-        <translation>Afficher la &amp;trace</translation>
+        <translation>Afficher le &amp;journal</translation>
     </message>
     <message>
         <source>IDS_BUTTON_CONNECT</source>
@@ -178,15 +193,15 @@ Sont autorisés les lettres, les chiffres et les signes suivants&#xa0;:
     </message>
     <message>
         <source>IDS_BUTTON_TRACE</source>
-        <translation>Afficher la trace</translation>
+        <translation>Afficher le journal</translation>
     </message>
     <message>
         <source>IDS_TRACE_TITLE</source>
-        <translation>Trace</translation>
+        <translation>Journal</translation>
     </message>
     <message>
         <source>IDS_LOG_NOT_WRITABLE</source>
-        <translation>Impossible d’écrire dans le fichier journal %1&#x202f;; la trace n’est affichée qu’ici.</translation>
+        <translation>Impossible d’écrire dans le fichier journal %1. Le journal n’est affiché qu’ici.</translation>
     </message>
     <message>
         <source>IDS_OK</source>
@@ -230,11 +245,11 @@ Sont autorisés les lettres, les chiffres et les signes suivants&#xa0;:
     </message>
     <message>
         <source>IDS_CONNECT_NO_PRIORITY</source>
-        <translation>Le module qui gère la liste n’est pas disponible&#x202f;; aucun réseau ne peut donc y être placé en tête.</translation>
+        <translation>Le module qui gère la liste n’est pas disponible&#x202f;; aucun réseau ne peut donc être placé en tête de votre liste.</translation>
     </message>
     <message>
         <source>IDS_CONNECT_DAMAGED</source>
-        <translation>Votre liste ne peut pas être lue en entier&#x202f;; aucun réseau n’y est donc placé en tête.</translation>
+        <translation>Votre liste ne peut pas être lue en entier&#x202f;; aucun réseau ne peut donc y être placé en tête.</translation>
     </message>
     <message>
         <source>IDS_CLOSE</source>
@@ -246,7 +261,7 @@ Sont autorisés les lettres, les chiffres et les signes suivants&#xa0;:
     </message>
     <message>
         <source>IDS_SETTINGS_KEYS</source>
-        <translation>Au clavier&#xa0;: Ctrl+↑ et Ctrl+↓ choisissent une entrée, ↑ et ↓ la déplacent.</translation>
+        <translation>Clavier&#xa0;: Ctrl+↑ et Ctrl+↓ sélectionnent un réseau, ↑ et ↓ le déplacent.</translation>
     </message>
     <message>
         <source>IDS_PLUGIN_PRIORITY</source>
@@ -258,7 +273,7 @@ Sont autorisés les lettres, les chiffres et les signes suivants&#xa0;:
     </message>
     <message>
         <source>IDS_PLUGIN_WLAN_STORED</source>
-        <translation>Wi-Fi (réseaux dans un fichier)</translation>
+        <translation>Wi-Fi (réseaux d’essai)</translation>
     </message>
     <message>
         <source>IDS_GENERAL_TITLE</source>
@@ -282,7 +297,7 @@ Sont autorisés les lettres, les chiffres et les signes suivants&#xa0;:
     </message>
     <message>
         <source>IDS_GENERAL_PLUGIN_NOT_NEEDED</source>
-        <translation>pas nécessaire</translation>
+        <translation>non nécessaire</translation>
     </message>
     <message>
         <source>IDS_GENERAL_PLACES</source>
@@ -294,7 +309,7 @@ Sont autorisés les lettres, les chiffres et les signes suivants&#xa0;:
     </message>
     <message>
         <source>IDS_GENERAL_PLUGIN_LIBRARY</source>
-        <translation>Emplacement des modules&#xa0;: %1</translation>
+        <translation>Dossier des modules&#xa0;: %1</translation>
     </message>
     <message>
         <source>IDS_GENERAL_VERSION</source>
@@ -302,7 +317,7 @@ Sont autorisés les lettres, les chiffres et les signes suivants&#xa0;:
     </message>
     <message>
         <source>IDS_PAGE_NOT_SHOWN</source>
-        <translation>Cette page ne peut pas être affichée&#xa0;: le module %1 a été chargé, mais il ne fournit pas sa page. La trace en dit peut-être plus.</translation>
+        <translation>Cette page ne peut pas être affichée&#xa0;: le module %1 a été chargé, mais il ne fournit pas la page. Consultez le journal pour plus de détails.</translation>
     </message>
     <message>
         <source>IDS_KIND_WIFI</source>
@@ -326,11 +341,11 @@ Sont autorisés les lettres, les chiffres et les signes suivants&#xa0;:
     </message>
     <message>
         <source>IDS_STATE_UNKNOWN</source>
-        <translation>Portée inconnue</translation>
+        <translation>On ignore s’il est à portée</translation>
     </message>
     <message>
         <source>IDS_STATE_FALLBACK</source>
-        <translation>Prêt en secours</translation>
+        <translation>Prêt</translation>
     </message>
     <message>
         <source>IDS_HEAD_IN_USE</source>
@@ -342,15 +357,25 @@ Sont autorisés les lettres, les chiffres et les signes suivants&#xa0;:
     </message>
     <message>
         <source>IDS_HEAD_IN_USE_MOBILE</source>
-        <translation>Aucun réseau Wi-Fi placé avant lui dans votre liste n’est à portée.</translation>
+        <translation>Aucun réseau Wi-Fi placé plus haut dans votre liste n’est à portée.</translation>
     </message>
     <message>
         <source>IDS_HEAD_NONE</source>
         <translation>Aucun réseau utilisé</translation>
     </message>
     <message>
+        <source>IDS_HEAD_UNKNOWN</source>
+        <extracomment>In place of the network in use when it is not known which one that is</extracomment>
+        <translation>Connexion inconnue</translation>
+    </message>
+    <message>
         <source>IDS_HEAD_EMPTY</source>
         <translation>Votre liste est vide&#x202f;; il n’y a donc rien à choisir.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_UNREADABLE</source>
+        <extracomment>The list is damaged or cannot be opened; a message below tells which</extracomment>
+        <translation>Votre liste ne peut pas être lue en entier&#x202f;; on ne sait donc pas quel réseau vient en premier.</translation>
     </message>
     <message>
         <source>IDS_HEAD_NOTHING_IN_RANGE</source>
@@ -366,11 +391,11 @@ Sont autorisés les lettres, les chiffres et les signes suivants&#xa0;:
     </message>
     <message>
         <source>IDS_LIST_DAMAGED</source>
-        <translation>Le fichier de votre liste est endommagé. Seul ce qui précède l’endroit endommagé est affiché.</translation>
+        <translation>Le fichier de votre liste est endommagé. Seuls les réseaux situés avant la partie endommagée sont affichés.</translation>
     </message>
     <message>
         <source>IDS_LIST_KEPT</source>
-        <translation>Le fichier a été copié dans %1. Ce programme ne le modifie pas tant que vous n’avez pas décidé que faire.</translation>
+        <translation>Une copie du fichier est conservée sous le nom %1. Ce programme ne modifie pas votre liste tant que vous n’avez pas décidé que faire.</translation>
     </message>
     <message>
         <source>IDS_BUTTON_REPAIR</source>
@@ -382,15 +407,15 @@ Sont autorisés les lettres, les chiffres et les signes suivants&#xa0;:
     </message>
     <message>
         <source>IDS_DAMAGE_READ</source>
-        <translation>Le fichier de votre liste ne peut pas être lu jusqu’à la fin. Réseaux lisibles&#x202f;: %1.</translation>
+        <translation>Le fichier de votre liste ne peut pas être lu jusqu’à la fin. Réseaux lisibles&#xa0;: %1.</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_LAST</source>
-        <translation>La dernière liste complète date du %1. Réseaux qu’elle contient&#x202f;: %2.</translation>
+        <translation>La dernière liste complète date du %1. Réseaux qu’elle contient&#xa0;: %2.</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_NO_LAST</source>
-        <translation>Il n’y a pas de liste précédente à rétablir.</translation>
+        <translation>Aucune liste précédente ne peut être restaurée.</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_COPY</source>
@@ -398,19 +423,19 @@ Sont autorisés les lettres, les chiffres et les signes suivants&#xa0;:
     </message>
     <message>
         <source>IDS_DAMAGE_BRING_BACK</source>
-        <translation>Rétablir la dernière liste complète</translation>
+        <translation>Restaurer la dernière liste complète</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_GO_ON</source>
-        <translation>Continuer avec ce qui a pu être lu</translation>
+        <translation>Conserver les réseaux lisibles</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_LEAVE</source>
-        <translation>Laisser tel quel</translation>
+        <translation>Laisser le fichier tel quel</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_OPENED</source>
-        <translation>Le fichier de votre liste existe, mais il ne peut pas être ouvert. Vérifiez ses droits d’accès, puis actualisez.</translation>
+        <translation>Le fichier de votre liste existe, mais il ne peut pas être ouvert. Vérifiez ses droits d’accès, puis choisissez «&#xa0;Actualiser&#xa0;».</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_OFFERED</source>
@@ -418,19 +443,19 @@ Sont autorisés les lettres, les chiffres et les signes suivants&#xa0;:
     </message>
     <message>
         <source>IDS_NO_LIST_TITLE</source>
-        <translation>Aucune liste à afficher</translation>
+        <translation>Votre liste ne peut pas être affichée</translation>
     </message>
     <message>
         <source>IDS_EMPTY_TITLE</source>
-        <translation>Votre liste de priorité est vide</translation>
+        <translation>Votre liste est vide</translation>
     </message>
     <message>
         <source>IDS_EMPTY_HINT</source>
-        <translation>Ouvrez les paramètres, puis choisissez «&#xa0;Ajouter&#xa0;» pour les réseaux que cet ordinateur connaît, ou «&#xa0;Nouveau&#xa0;» pour en saisir un vous-même. Le réseau le plus haut dans la liste est préféré.</translation>
+        <translation>Ouvrez les paramètres, puis choisissez «&#xa0;Ajouter&#xa0;» pour les réseaux enregistrés sur cet ordinateur, ou «&#xa0;Nouveau&#xa0;» pour en saisir un vous-même. Le réseau le plus haut dans la liste est préféré.</translation>
     </message>
     <message>
         <source>IDS_EMPTY_UNREADABLE</source>
-        <translation>Rien n’a pu en être lu. Consultez le message ci-dessus.</translation>
+        <translation>Le message ci-dessus dit pourquoi.</translation>
     </message>
     <message>
         <source>IDS_LOAD_NOT_LOADED</source>
@@ -438,7 +463,7 @@ Sont autorisés les lettres, les chiffres et les signes suivants&#xa0;:
     </message>
     <message>
         <source>IDS_LOAD_MISSING</source>
-        <translation>Le module %1 est absent. Installez-le, ou démarrez le programme avec --library-path et le répertoire qui contient le dossier plugins/.</translation>
+        <translation>Le module %1 est introuvable. Installez-le, ou démarrez le programme avec --library-path et le dossier qui contient plugins/.</translation>
     </message>
     <message>
         <source>IDS_LOAD_CUT</source>
@@ -446,7 +471,7 @@ Sont autorisés les lettres, les chiffres et les signes suivants&#xa0;:
     </message>
     <message>
         <source>IDS_LOAD_OTHER_TOOLKIT</source>
-        <translation>Le module %1 a été compilé pour une autre génération de Qt&#x202f;; il n’est donc pas utilisé.
+        <translation>Le module %1 a été compilé pour une autre version majeure de Qt&#x202f;; il n’est donc pas utilisé.
 Trouvé&#xa0;: Qt %2
 Attendu&#xa0;: Qt %3</translation>
     </message>
@@ -466,7 +491,7 @@ Attendu&#xa0;: %3</translation>
     </message>
     <message>
         <source>IDS_LOAD_NO_ENTRY_POINT</source>
-        <translation>La bibliothèque %1 n’a pas le point d’entrée d’un module&#x202f;; elle n’est donc pas utilisée.</translation>
+        <translation>La bibliothèque %1 n’est pas un module&#x202f;; elle n’est donc pas utilisée.</translation>
     </message>
     <message>
         <source>IDS_LOAD_NULL_INSTANCE</source>
@@ -474,11 +499,11 @@ Attendu&#xa0;: %3</translation>
     </message>
     <message>
         <source>IDS_LOAD_NOT_A_PLUGIN</source>
-        <translation>Ce que %1 a fourni n’est pas un module de ce programme&#x202f;; il n’est donc pas utilisé.</translation>
+        <translation>%1 n’est pas un module pour ce programme&#x202f;; il n’est donc pas utilisé.</translation>
     </message>
     <message>
         <source>IDS_LOAD_INIT_FAILED</source>
-        <translation>Le module %1 signale qu’il ne peut pas fonctionner&#x202f;; il n’est donc pas utilisé. La trace en dit peut-être plus.</translation>
+        <translation>Le module %1 n’a pas pu démarrer&#x202f;; il n’est donc pas utilisé. Consultez le journal pour plus de détails.</translation>
     </message>
     <message>
         <source>IDS_LANGUAGE_UNREADABLE</source>
@@ -494,20 +519,20 @@ Attendu&#xa0;: %3</translation>
     </message>
     <message>
         <source>IDS_HINT_NETWORKMANAGER</source>
-        <translation>NetworkManager est-il en marche&#x202f;?</translation>
+        <translation>NetworkManager est-il en cours d’exécution&#x202f;?</translation>
     </message>
     <message>
         <source>IDS_NOTE_NETWORKMANAGER</source>
         <extracomment>At the foot of the main window; two lines of 450 pixels at most</extracomment>
-        <translation>Réseaux de cet ordinateur, gérés par NetworkManager, qui suit l’ordre de cette liste.</translation>
+        <translation>Ce sont les réseaux de cet ordinateur. NetworkManager les essaie dans l’ordre de cette liste.</translation>
     </message>
     <message>
         <source>IDS_NOTE_STORED</source>
-        <translation>Réseaux propres à ce programme&#x202f;; ceux de l’ordinateur ne sont pas modifiés.</translation>
+        <translation>Ce sont des réseaux d’essai. Les réseaux de cet ordinateur ne sont pas modifiés.</translation>
     </message>
     <message>
         <source>IDS_NOTE_STORED_STANDS_IN</source>
-        <translation>NetworkManager n’est pas disponible. Ces réseaux sont propres à ce programme&#x202f;; ceux de l’ordinateur ne sont pas modifiés.</translation>
+        <translation>NetworkManager n’est pas disponible&#x202f;; ce sont donc des réseaux d’essai. Les réseaux de cet ordinateur ne sont pas modifiés.</translation>
     </message>
     <message>
         <source>IDS_MENU_EDIT</source>
@@ -515,7 +540,7 @@ Attendu&#xa0;: %3</translation>
     </message>
     <message>
         <source>IDS_ACTION_UNDO</source>
-        <translation>Ann&amp;uler</translation>
+        <translation>Ann&amp;uler l’action</translation>
     </message>
     <message>
         <source>IDS_ACTION_REDO</source>
@@ -523,15 +548,15 @@ Attendu&#xa0;: %3</translation>
     </message>
     <message>
         <source>IDS_ACTION_RESTORE</source>
-        <translation>Re&amp;staurer…</translation>
+        <translation>&amp;Listes précédentes…</translation>
     </message>
     <message>
         <source>IDS_ACTION_IMPORT</source>
-        <translation>&amp;Importer un ordre…</translation>
+        <translation>&amp;Importer une liste…</translation>
     </message>
     <message>
         <source>IDS_ACTION_EXPORT</source>
-        <translation>E&amp;xporter l’ordre…</translation>
+        <translation>E&amp;xporter la liste…</translation>
     </message>
     <message>
         <source>IDS_BUTTON_UNDO</source>
@@ -543,11 +568,11 @@ Attendu&#xa0;: %3</translation>
     </message>
     <message>
         <source>IDS_BUTTON_RESTORE</source>
-        <translation>Restaurer…</translation>
+        <translation>Listes précédentes…</translation>
     </message>
     <message>
         <source>IDS_UNDO_WHAT</source>
-        <translation>Annuler : %1</translation>
+        <translation>Annuler l’action&#xa0;: %1</translation>
     </message>
     <message>
         <source>IDS_REDO_WHAT</source>
@@ -559,15 +584,15 @@ Attendu&#xa0;: %3</translation>
     </message>
     <message>
         <source>IDS_REDO_NOTHING</source>
-        <translation>Rien n’a été annulé, il n’y a donc rien à rétablir.</translation>
+        <translation>Rien n’a été annulé&#x202f;; il n’y a donc rien à rétablir.</translation>
     </message>
     <message>
         <source>IDS_REDO_DAMAGED</source>
-        <translation>Le fichier de votre liste est endommagé. « Annuler l’action » ramène la dernière liste lisible.</translation>
+        <translation>Le fichier de votre liste est endommagé. «&#xa0;Annuler l’action&#xa0;» permet de restaurer la dernière liste complète.</translation>
     </message>
     <message>
         <source>IDS_UNDO_NO_PLUGIN</source>
-        <translation>Le module qui tient la liste n’est pas disponible ; la liste ne peut donc pas être modifiée.</translation>
+        <translation>Le module qui gère la liste n’est pas disponible&#x202f;; la liste ne peut donc pas être modifiée.</translation>
     </message>
     <message>
         <source>IDS_LAST_CHANGE</source>
@@ -575,11 +600,11 @@ Attendu&#xa0;: %3</translation>
     </message>
     <message>
         <source>IDS_CHANGE_NONE</source>
-        <translation>Aucun changement</translation>
+        <translation>Aucune modification</translation>
     </message>
     <message>
         <source>IDS_CHANGE_EMPTIED</source>
-        <translation>Toutes les entrées supprimées</translation>
+        <translation>Tous les réseaux retirés</translation>
     </message>
     <message>
         <source>IDS_CHANGE_DAMAGED</source>
@@ -591,15 +616,15 @@ Attendu&#xa0;: %3</translation>
     </message>
     <message>
         <source>IDS_CHANGE_ADDED_MANY</source>
-        <translation>%1 entrées ajoutées</translation>
+        <translation>%1 réseaux ajoutés</translation>
     </message>
     <message>
         <source>IDS_CHANGE_DELETED_ONE</source>
-        <translation>%1 supprimé</translation>
+        <translation>%1 retiré</translation>
     </message>
     <message>
         <source>IDS_CHANGE_DELETED_MANY</source>
-        <translation>%1 entrées supprimées</translation>
+        <translation>%1 réseaux retirés</translation>
     </message>
     <message>
         <source>IDS_CHANGE_MOVED_UP</source>
@@ -619,23 +644,78 @@ Attendu&#xa0;: %3</translation>
     </message>
     <message>
         <source>IDS_CHANGE_MOVED_MANY</source>
-        <translation>%1 entrées déplacées</translation>
+        <translation>%1 réseaux déplacés</translation>
     </message>
     <message>
         <source>IDS_CHANGE_WENT_BACK</source>
-        <translation>Retour à la liste du %1</translation>
+        <translation>Liste du %1 restaurée</translation>
     </message>
     <message>
         <source>IDS_CHANGE_UNNAMED</source>
         <translation>(sans nom)</translation>
     </message>
     <message>
+        <source>IDS_PLAN_NONE</source>
+        <extracomment>What will be done, before it is done</extracomment>
+        <translation>Votre liste reste telle quelle.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_EMPTY</source>
+        <extracomment>What will be done, before it is done</extracomment>
+        <translation>Tous les réseaux seront retirés.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_ADD_ONE</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>%1 sera ajouté.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_ADD_MANY</source>
+        <extracomment>What will be done, before it is done. %1: a number, two or more</extracomment>
+        <translation>%1 réseaux seront ajoutés.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_REMOVE_ONE</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>%1 sera retiré.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_REMOVE_MANY</source>
+        <extracomment>What will be done, before it is done. %1: a number, two or more</extracomment>
+        <translation>%1 réseaux seront retirés.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_UP</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>%1 sera déplacé vers le haut.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_DOWN</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>%1 sera déplacé vers le bas.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_TOP</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>%1 sera déplacé en tête.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_END</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>%1 sera déplacé à la fin.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_MANY</source>
+        <extracomment>What will be done, before it is done. %1: a number, two or more</extracomment>
+        <translation>%1 réseaux seront déplacés.</translation>
+    </message>
+    <message>
         <source>IDS_RESTORE_TITLE</source>
-        <translation>Restaurer une liste précédente</translation>
+        <translation>Listes précédentes</translation>
     </message>
     <message>
         <source>IDS_RESTORE_HINT</source>
-        <translation>Choisissez comment votre liste doit redevenir. La liste actuelle reste ici aussi.</translation>
+        <translation>Choisissez la liste à restaurer. La liste actuelle est également conservée.</translation>
     </message>
     <message>
         <source>IDS_RESTORE_TIME</source>
@@ -663,11 +743,11 @@ Attendu&#xa0;: %3</translation>
     </message>
     <message>
         <source>IDS_RESTORE_PREVIEW</source>
-        <translation>La liste à ce moment</translation>
+        <translation>Liste à ce moment-là</translation>
     </message>
     <message>
         <source>IDS_RESTORE_EFFECT</source>
-        <translation>Effet de la restauration : %1</translation>
+        <translation>Résultat de la restauration&#xa0;: %1</translation>
     </message>
     <message>
         <source>IDS_RESTORE_IS_NOW</source>
@@ -679,7 +759,7 @@ Attendu&#xa0;: %3</translation>
     </message>
     <message>
         <source>IDS_RESTORE_ASIDE</source>
-        <translation>Le mettre de côté et recommencer</translation>
+        <translation>Conserver le fichier et en commencer un autre</translation>
     </message>
     <message>
         <source>IDS_RESTORE_GONE</source>
@@ -687,15 +767,15 @@ Attendu&#xa0;: %3</translation>
     </message>
     <message>
         <source>IDS_IMPORT_TITLE</source>
-        <translation>Importer un ordre</translation>
+        <translation>Importer une liste</translation>
     </message>
     <message>
         <source>IDS_IMPORT_HINT</source>
-        <translation>Reprend une liste depuis un fichier. Vous voyez d’abord ce qui changerait.</translation>
+        <translation>Remplace votre liste par celle d’un fichier. Vous pouvez d’abord vérifier les modifications.</translation>
     </message>
     <message>
         <source>IDS_IMPORT_SUMMARY</source>
-        <translation>Effet de l’importation : %1</translation>
+        <translation>Résultat de l’importation&#xa0;: %1</translation>
     </message>
     <message>
         <source>IDS_IMPORT_NO_CHANGE</source>
@@ -711,35 +791,35 @@ Attendu&#xa0;: %3</translation>
     </message>
     <message>
         <source>IDS_IMPORT_STAYS</source>
-        <translation>Reste</translation>
+        <translation>Reste à sa place</translation>
     </message>
     <message>
         <source>IDS_IMPORT_ADDED</source>
-        <translation>Est ajouté</translation>
+        <translation>Sera ajouté</translation>
     </message>
     <message>
         <source>IDS_IMPORT_MOVED_UP</source>
-        <translation>Monte</translation>
+        <translation>Sera déplacé vers le haut</translation>
     </message>
     <message>
         <source>IDS_IMPORT_MOVED_DOWN</source>
-        <translation>Descend</translation>
+        <translation>Sera déplacé vers le bas</translation>
     </message>
     <message>
         <source>IDS_IMPORT_MOVED</source>
-        <translation>D’autres se déplacent autour</translation>
+        <translation>Reste en place&#x202f;; d’autres seront déplacés</translation>
     </message>
     <message>
         <source>IDS_IMPORT_REMOVED</source>
-        <translation>Est retiré de la liste</translation>
+        <translation>Sera retiré de la liste</translation>
     </message>
     <message>
         <source>IDS_IMPORT_EFFECT_UNKNOWN</source>
-        <translation>%1 ; inconnu ici</translation>
+        <translation>%1&#x202f;; non enregistré ici</translation>
     </message>
     <message>
         <source>IDS_IMPORT_UNKNOWN</source>
-        <translation>Inconnus sur cet ordinateur : %1. Une telle entrée n’est utilisée qu’une fois le réseau configuré ici.</translation>
+        <translation>Non enregistrés sur cet ordinateur&#xa0;: %1. Ces réseaux ne seront utilisés qu’une fois configurés ici.</translation>
     </message>
     <message>
         <source>IDS_IMPORT_OK</source>
@@ -747,7 +827,7 @@ Attendu&#xa0;: %3</translation>
     </message>
     <message>
         <source>IDS_IMPORT_NOT_READABLE</source>
-        <translation>Le fichier %1 ne peut pas être lu ou est bien trop grand pour une liste. Votre liste est inchangée.</translation>
+        <translation>Le fichier %1 ne peut pas être lu ou est bien trop volumineux pour une liste. Votre liste est inchangée.</translation>
     </message>
     <message>
         <source>IDS_IMPORT_DAMAGED</source>
@@ -755,23 +835,23 @@ Attendu&#xa0;: %3</translation>
     </message>
     <message>
         <source>IDS_EXPORT_TITLE</source>
-        <translation>Exporter l’ordre</translation>
+        <translation>Exporter la liste</translation>
     </message>
     <message>
         <source>IDS_EXPORT_HINT</source>
-        <translation>Écrit l’ordre de votre liste dans un fichier, sans les clés.</translation>
+        <translation>Enregistre votre liste dans un fichier, sans les clés.</translation>
     </message>
     <message>
         <source>IDS_EXPORT_FILE_NAME</source>
-        <translation>ordre-des-reseaux.xml</translation>
+        <translation>liste-de-reseaux.xml</translation>
     </message>
     <message>
         <source>IDS_EXPORT_NOT_WRITTEN</source>
-        <translation>Le fichier %1 ne peut pas être écrit. Ce qui s’y trouvait est inchangé.</translation>
+        <translation>Le fichier %1 ne peut pas être écrit. Rien n’a été modifié.</translation>
     </message>
     <message>
         <source>IDS_ORDER_FILES</source>
-        <translation>Ordres de réseaux</translation>
+        <translation>Listes de réseaux</translation>
     </message>
     <message>
         <source>IDS_ALL_FILES</source>
@@ -779,23 +859,23 @@ Attendu&#xa0;: %3</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_WRITTEN</source>
-        <translation>La liste ne peut pas être écrite dans %1. Vérifiez si le disque est plein ou le fichier protégé.</translation>
+        <translation>La liste ne peut pas être écrite dans %1. Vérifiez si le disque est plein ou si le fichier est protégé en écriture.</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_KEPT</source>
-        <translation>Le fichier endommagé %1 ne peut pas être copié par sécurité&#x202f;; il a été laissé tel quel. Vérifiez si le disque est plein ou le dossier protégé.</translation>
+        <translation>Impossible de faire une copie de sauvegarde du fichier endommagé %1&#x202f;; il n’a donc pas été modifié. Vérifiez si le disque est plein ou si le dossier est protégé en écriture.</translation>
     </message>
     <message>
         <source>IDS_HISTORY_DAMAGED</source>
-        <translation>Le fichier des listes précédentes, %1, est endommagé et a été laissé tel quel. %2. Tant qu’il n’est pas mis de côté dans « Restaurer… », rien ne peut être annulé.</translation>
+        <translation>Le fichier des listes précédentes, %1, est endommagé et n’a pas été modifié. %2. Pour pouvoir de nouveau utiliser «&#xa0;Annuler l’action&#xa0;», choisissez «&#xa0;Listes précédentes…&#xa0;» et commencez un nouveau fichier. Celui qui est endommagé est conservé.</translation>
     </message>
     <message>
         <source>IDS_HISTORY_NOT_READABLE</source>
-        <translation>Le fichier des listes précédentes, %1, ne peut pas être lu et a été laissé tel quel. Tant qu’il ne l’est pas ou n’est pas mis de côté dans « Restaurer… », rien ne peut être annulé.</translation>
+        <translation>Le fichier des listes précédentes, %1, ne peut pas être lu et n’a pas été modifié. Pour pouvoir de nouveau utiliser «&#xa0;Annuler l’action&#xa0;», rendez le fichier lisible, ou choisissez «&#xa0;Listes précédentes…&#xa0;» et commencez un nouveau fichier. L’ancien est conservé.</translation>
     </message>
     <message>
         <source>IDS_HISTORY_NOT_WRITABLE</source>
-        <translation>Les listes précédentes ne peuvent pas être conservées dans %1. Vos modifications ne pourront être annulées que jusqu’à la fin du programme.</translation>
+        <translation>Les listes précédentes ne peuvent pas être conservées dans %1. Vous ne pouvez annuler vos modifications que jusqu’à la fermeture du programme.</translation>
     </message>
     <message>
         <source>IDS_LIST_BUSY</source>
@@ -803,7 +883,7 @@ Attendu&#xa0;: %3</translation>
     </message>
     <message>
         <source>IDS_HISTORY_NOT_SET_ASIDE</source>
-        <translation>Le fichier %1 ne peut pas être renommé ; il a été laissé tel quel.</translation>
+        <translation>Le fichier %1 ne peut pas être renommé&#x202f;; aucun nouveau fichier n’a donc été commencé.</translation>
     </message>
     <message>
         <source>IDS_FAULT_LINE</source>
@@ -815,15 +895,15 @@ Attendu&#xa0;: %3</translation>
     </message>
     <message>
         <source>IDS_FAULT_DECLARATION</source>
-        <translation>une déclaration de type de document n’a pas sa place ici</translation>
+        <translation>une déclaration de type de document n’est pas autorisée ici</translation>
     </message>
     <message>
         <source>IDS_FAULT_ELEMENT</source>
-        <translation>l’élément « %1 » n’a pas sa place ici</translation>
+        <translation>l’élément «&#xa0;%1&#xa0;» n’est pas autorisé ici</translation>
     </message>
     <message>
         <source>IDS_FAULT_TEXT</source>
-        <translation>du texte n’a pas sa place ici</translation>
+        <translation>du texte n’est pas autorisé ici</translation>
     </message>
     <message>
         <source>IDS_FAULT_ATTRIBUTE</source>
@@ -831,7 +911,7 @@ Attendu&#xa0;: %3</translation>
     </message>
     <message>
         <source>IDS_FAULT_VALUE</source>
-        <translation>l’attribut « %1 » a une valeur impossible</translation>
+        <translation>l’attribut «&#xa0;%1&#xa0;» a une valeur non valide</translation>
     </message>
     <message>
         <source>IDS_FAULT_TOO_MANY</source>
@@ -839,7 +919,7 @@ Attendu&#xa0;: %3</translation>
     </message>
     <message>
         <source>IDS_LIST_UNDO_DAMAGE</source>
-        <translation>« Annuler l’action » ramène la dernière liste lisible.</translation>
+        <translation>«&#xa0;Annuler l’action&#xa0;» permet de restaurer la dernière liste complète.</translation>
     </message>
     <message>
         <source>IDS_HEAD_SKIPPED</source>
@@ -847,27 +927,27 @@ Attendu&#xa0;: %3</translation>
     </message>
     <message>
         <source>IDS_HEAD_CONNECT_HINT</source>
-        <translation>« Se connecter… » montre les réseaux à portée.</translation>
+        <translation>«&#xa0;Se connecter…&#xa0;» montre les autres réseaux à portée.</translation>
     </message>
     <message>
         <source>IDS_WHY_OUT_OF_RANGE</source>
-        <translation>Inutilisable pour l’instant, car hors de portée.</translation>
+        <translation>Non utilisé, car il est hors de portée.</translation>
     </message>
     <message>
         <source>IDS_WHY_LOWER</source>
-        <translation>Utilisable, mais %1 est plus haut dans la liste.</translation>
+        <translation>Non utilisé, car %1 est plus haut dans la liste.</translation>
     </message>
     <message>
         <source>IDS_WHY_UNDECIDED</source>
-        <translation>Utilisable, mais on ignore si un réseau plus haut dans la liste est à portée.</translation>
+        <translation>Non utilisé, car on ignore si un réseau plus haut dans la liste est à portée.</translation>
     </message>
     <message>
         <source>IDS_ACTION_TRACE_SEARCH</source>
-        <translation>&amp;Rechercher dans la trace…</translation>
+        <translation>&amp;Rechercher dans le journal…</translation>
     </message>
     <message>
         <source>IDS_TRACE_SEARCH</source>
-        <translation>Rechercher dans la trace</translation>
+        <translation>Rechercher dans le journal</translation>
     </message>
     <message>
         <source>IDS_TRACE_NEXT</source>
@@ -879,11 +959,11 @@ Attendu&#xa0;: %3</translation>
     </message>
     <message>
         <source>IDS_TRACE_MATCHES</source>
-        <translation>Trouvés : %1</translation>
+        <translation>Occurrences&#xa0;: %1</translation>
     </message>
     <message>
         <source>IDS_TRACE_NO_MATCH</source>
-        <translation>Introuvable</translation>
+        <translation>Aucune occurrence</translation>
     </message>
     <message>
         <source>IDS_MENU_APPEARANCE</source>
@@ -891,7 +971,7 @@ Attendu&#xa0;: %3</translation>
     </message>
     <message>
         <source>IDS_APPEARANCE_SYSTEM</source>
-        <translation>Comme le &amp;bureau</translation>
+        <translation>Comme le s&amp;ystème</translation>
     </message>
     <message>
         <source>IDS_APPEARANCE_LIGHT</source>
@@ -910,27 +990,27 @@ Attendu&#xa0;: %3</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_READ_ONLY</source>
-        <translation>«&#xa0;%1&#xa0;» est resté tel quel&#xa0;: un réseau de ce nom est déjà configuré et ne doit pas être modifié.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas été modifié&#xa0;: un réseau de ce nom est déjà enregistré et ne peut pas être modifié.</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_SEVERAL</source>
-        <translation>Rien n’a été modifié&#xa0;: plusieurs réseaux sont configurés sous le nom «&#xa0;%1&#xa0;», et rien ne dit lequel est visé. Choisissez un autre nom.</translation>
+        <translation>Rien n’a été modifié&#xa0;: plusieurs réseaux sont enregistrés sous le nom «&#xa0;%1&#xa0;», et on ne sait pas lequel est visé. Choisissez un autre nom.</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_UNDESCRIBED</source>
-        <translation>«&#xa0;%1&#xa0;» est resté tel quel&#xa0;: un réseau de ce nom est déjà configuré, avec plus que ce qui peut être saisi ici, par exemple un compte. Modifiez-le là où il a été configuré ou choisissez un autre nom.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas été modifié&#xa0;: un réseau de ce nom est déjà enregistré, avec des données qui ne peuvent pas être saisies ici, par exemple un compte. Modifiez-le là où il a été configuré, ou choisissez un autre nom.</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_STRONGER</source>
-        <translation>«&#xa0;%1&#xa0;» est resté tel quel&#xa0;: un réseau de ce nom est déjà configuré, et cette sécurité ou ce chiffrement serait plus faible. Choisissez au moins l’équivalent ou un autre nom.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas été modifié&#xa0;: un réseau de ce nom est déjà enregistré, et cette sécurité ou ce chiffrement serait plus faible. Choisissez-en un qui soit au moins aussi fort, ou un autre nom.</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_KEY</source>
-        <translation>«&#xa0;%1&#xa0;» est resté tel quel&#xa0;: un réseau de ce nom est déjà configuré, et sa modification demande une clé complète. Saisissez-en une ou choisissez un autre nom.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas été modifié&#xa0;: un réseau de ce nom est déjà enregistré, et sa modification demande une clé complète. Saisissez la clé, ou choisissez un autre nom.</translation>
     </message>
     <message>
         <source>IDS_WLAN_BETTER_PROFILE</source>
-        <translation>«&#xa0;%1&#xa0;» n’a pas été enregistré&#xa0;: le même réseau est déjà configuré sous le nom «&#xa0;%2&#xa0;», et mieux qu’ainsi. Ajoutez plutôt «&#xa0;%2&#xa0;» à la liste.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas été enregistré&#xa0;: le même réseau est déjà enregistré sous le nom «&#xa0;%2&#xa0;», avec de meilleurs paramètres. Ajoutez plutôt «&#xa0;%2&#xa0;» à votre liste.</translation>
     </message>
     <message>
         <source>IDS_WLAN_BAD_NAME</source>
@@ -942,11 +1022,11 @@ Attendu&#xa0;: %3</translation>
     </message>
     <message>
         <source>IDS_WLAN_NO_ACCOUNT</source>
-        <translation>«&#xa0;%1&#xa0;» n’a pas été enregistré&#xa0;: cette sécurité demande un compte, qui ne peut pas être saisi ici. Configurez le réseau dans les paramètres de votre bureau, puis ajoutez-le à la liste.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas été enregistré&#xa0;: cette sécurité demande un compte, qui ne peut pas être saisi ici. Configurez le réseau dans les paramètres de votre bureau, puis ajoutez-le à votre liste.</translation>
     </message>
     <message>
         <source>IDS_WLAN_NOT_RUNNING</source>
-        <translation>«&#xa0;%1&#xa0;» n’a pas été enregistré&#xa0;: NetworkManager n’est pas lancé.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas été enregistré&#xa0;: NetworkManager n’est pas en cours d’exécution.</translation>
     </message>
     <message>
         <source>IDS_WLAN_NO_ANSWER</source>
@@ -954,7 +1034,7 @@ Attendu&#xa0;: %3</translation>
     </message>
     <message>
         <source>IDS_WLAN_DENIED</source>
-        <translation>«&#xa0;%1&#xa0;» n’a pas été enregistré&#xa0;: vous n’y êtes pas autorisé sur cet ordinateur.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas été enregistré&#xa0;: vous n’êtes pas autorisé à enregistrer des réseaux sur cet ordinateur.</translation>
     </message>
     <message>
         <source>IDS_WLAN_REFUSED</source>
@@ -966,15 +1046,15 @@ Attendu&#xa0;: %3</translation>
     </message>
     <message>
         <source>IDS_WLAN_FILE_UNUSABLE</source>
-        <translation>«&#xa0;%1&#xa0;» n’a pas été enregistré&#xa0;: le fichier des réseaux configurés ne peut pas être lu ou écrit. La trace en dit plus.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas été enregistré&#xa0;: le fichier des réseaux enregistrés ne peut pas être lu ou écrit. Consultez le journal pour plus de détails.</translation>
     </message>
     <message>
         <source>IDS_WLAN_FILE_DAMAGED</source>
-        <translation>«&#xa0;%1&#xa0;» n’a pas été enregistré&#xa0;: le fichier des réseaux configurés est endommagé et reste tel quel. La trace indique la ligne.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas été enregistré&#xa0;: le fichier des réseaux enregistrés est endommagé et n’a pas été modifié. Le journal indique la ligne.</translation>
     </message>
     <message>
         <source>IDS_WLAN_BUSY</source>
-        <translation>«&#xa0;%1&#xa0;» n’a pas été enregistré&#xa0;: un autre programme modifie les réseaux. Réessayez.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas été enregistré&#xa0;: un autre programme modifie les réseaux. Réessayez dans un instant.</translation>
     </message>
 </context>
 </TS>

@@ -77,7 +77,7 @@
     </message>
     <message>
         <source>IDS_KEYINDEX</source>
-        <translation>Nº da chave</translation>
+        <translation>Índice WEP</translation>
     </message>
     <message>
         <source>IDS_EAP_METHOD</source>
@@ -89,7 +89,7 @@
     </message>
     <message>
         <source>IDS_WARNING_DELETE</source>
-        <translation>Remover a rede selecionada da lista de prioridades?</translation>
+        <translation>Remover a rede selecionada da sua lista?</translation>
     </message>
     <message>
         <source>IDS_ERROR_EMPTY_SSID</source>
@@ -97,20 +97,20 @@
     </message>
     <message>
         <source>IDS_PROFILE_NAME_REPEAT</source>
-        <translation>Já existe uma rede com esse nome na lista de prioridades.</translation>
+        <translation>Já existe uma rede com esse nome na sua lista. Digite outro nome.</translation>
     </message>
     <message>
         <source>IDS_ERROR_KEY_WRONG_LENGTH_40</source>
-        <translation>A chave não é válida para WEP. Ela deve ter 5 ou 13 caracteres, ou então 10, 26 ou 32 dígitos hexadecimais (0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F).
+        <translation>Esta chave WEP não é válida. Uma chave WEP tem 5 ou 13 caracteres, ou então 10, 26 ou 32 dígitos hexadecimais (0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F).
 
-São permitidos letras, números e estes sinais:
+Você pode usar letras, números e estes símbolos:
 - _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :</translation>
     </message>
     <message>
         <source>IDS_ERROR_KEY_WRONG_LENGTH_128</source>
-        <translation>A chave não é válida para WPA. Ela deve ter de 8 a 63 caracteres, ou então 64 dígitos hexadecimais (0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F).
+        <translation>Esta chave WPA não é válida. Uma chave WPA tem de 8 a 63 caracteres, ou então 64 dígitos hexadecimais (0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F).
 
-São permitidos letras, números e estes sinais:
+Você pode usar letras, números e estes símbolos:
 - _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :</translation>
     </message>
     <message>
@@ -127,6 +127,21 @@ São permitidos letras, números e estes sinais:
     <message>
         <source>IDS_LANGUAGE_NAME</source>
         <translation>Português (Brasil)</translation>
+    </message>
+    <message>
+        <source>IDS_SENTENCES</source>
+        <extracomment>Two sentences, one behind the other. Chinese and Japanese have no blank there</extracomment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>IDS_NAMES</source>
+        <extracomment>Names of networks side by side. %1: the first ones, %2: one more</extracomment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>IDS_LABEL</source>
+        <extracomment>%1: a label, such as Wi-Fi; %2: what is told about it</extracomment>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>IDS_WINDOW_TITLE</source>
@@ -162,7 +177,7 @@ São permitidos letras, números e estes sinais:
     </message>
     <message>
         <source>IDS_ACTION_TRACE</source>
-        <translation>Mostrar &amp;rastreamento</translation>
+        <translation>Mostrar &amp;registro</translation>
     </message>
     <message>
         <source>IDS_BUTTON_CONNECT</source>
@@ -178,15 +193,15 @@ São permitidos letras, números e estes sinais:
     </message>
     <message>
         <source>IDS_BUTTON_TRACE</source>
-        <translation>Mostrar rastreamento</translation>
+        <translation>Mostrar registro</translation>
     </message>
     <message>
         <source>IDS_TRACE_TITLE</source>
-        <translation>Rastreamento</translation>
+        <translation>Registro</translation>
     </message>
     <message>
         <source>IDS_LOG_NOT_WRITABLE</source>
-        <translation>Não é possível gravar no arquivo de log %1; o rastreamento é exibido apenas aqui.</translation>
+        <translation>Não é possível gravar no arquivo de registro %1. O registro é exibido apenas aqui.</translation>
     </message>
     <message>
         <source>IDS_OK</source>
@@ -222,7 +237,7 @@ São permitidos letras, números e estes sinais:
     </message>
     <message>
         <source>IDS_CONNECT_NONE</source>
-        <translation>Não há rede ao alcance. Quando houver, abra esta janela novamente.</translation>
+        <translation>Nenhuma rede está ao alcance. Abra esta janela novamente quando houver uma.</translation>
     </message>
     <message>
         <source>IDS_CONNECT_NO_WLAN</source>
@@ -230,11 +245,11 @@ São permitidos letras, números e estes sinais:
     </message>
     <message>
         <source>IDS_CONNECT_NO_PRIORITY</source>
-        <translation>O plug-in que guarda a lista não está disponível, portanto nenhuma rede pode ser colocada no topo dela.</translation>
+        <translation>O plug-in que gerencia a lista não está disponível, portanto nenhuma rede pode ser colocada no topo da sua lista.</translation>
     </message>
     <message>
         <source>IDS_CONNECT_DAMAGED</source>
-        <translation>A sua lista não pode ser lida por completo, portanto nenhuma rede é colocada no topo dela.</translation>
+        <translation>Sua lista não pode ser lida por inteiro, portanto nenhuma rede pode ser colocada no topo dela.</translation>
     </message>
     <message>
         <source>IDS_CLOSE</source>
@@ -246,7 +261,7 @@ São permitidos letras, números e estes sinais:
     </message>
     <message>
         <source>IDS_SETTINGS_KEYS</source>
-        <translation>Pelo teclado: Ctrl+↑ e Ctrl+↓ escolhem uma entrada; ↑ e ↓ a movem.</translation>
+        <translation>Teclado: Ctrl+↑ e Ctrl+↓ selecionam uma rede; ↑ e ↓ a movem.</translation>
     </message>
     <message>
         <source>IDS_PLUGIN_PRIORITY</source>
@@ -258,7 +273,7 @@ São permitidos letras, números e estes sinais:
     </message>
     <message>
         <source>IDS_PLUGIN_WLAN_STORED</source>
-        <translation>Wi-Fi (redes em um arquivo)</translation>
+        <translation>Wi-Fi (redes de teste)</translation>
     </message>
     <message>
         <source>IDS_GENERAL_TITLE</source>
@@ -282,7 +297,7 @@ São permitidos letras, números e estes sinais:
     </message>
     <message>
         <source>IDS_GENERAL_PLUGIN_NOT_NEEDED</source>
-        <translation>não é necessário</translation>
+        <translation>não necessário</translation>
     </message>
     <message>
         <source>IDS_GENERAL_PLACES</source>
@@ -294,7 +309,7 @@ São permitidos letras, números e estes sinais:
     </message>
     <message>
         <source>IDS_GENERAL_PLUGIN_LIBRARY</source>
-        <translation>Local dos plug-ins: %1</translation>
+        <translation>Pasta dos plug-ins: %1</translation>
     </message>
     <message>
         <source>IDS_GENERAL_VERSION</source>
@@ -302,7 +317,7 @@ São permitidos letras, números e estes sinais:
     </message>
     <message>
         <source>IDS_PAGE_NOT_SHOWN</source>
-        <translation>Esta página não pode ser exibida: o plug-in %1 foi carregado, mas não fornece sua página. O rastreamento talvez traga mais detalhes.</translation>
+        <translation>Esta página não pode ser exibida: o plug-in %1 foi carregado, mas não fornece a página. Veja os detalhes no registro.</translation>
     </message>
     <message>
         <source>IDS_KIND_WIFI</source>
@@ -326,11 +341,11 @@ São permitidos letras, números e estes sinais:
     </message>
     <message>
         <source>IDS_STATE_UNKNOWN</source>
-        <translation>Alcance desconhecido</translation>
+        <translation>Não se sabe se está ao alcance</translation>
     </message>
     <message>
         <source>IDS_STATE_FALLBACK</source>
-        <translation>Pronta como alternativa</translation>
+        <translation>Pronta</translation>
     </message>
     <message>
         <source>IDS_HEAD_IN_USE</source>
@@ -349,8 +364,18 @@ São permitidos letras, números e estes sinais:
         <translation>Nenhuma rede em uso</translation>
     </message>
     <message>
+        <source>IDS_HEAD_UNKNOWN</source>
+        <extracomment>In place of the network in use when it is not known which one that is</extracomment>
+        <translation>Conexão desconhecida</translation>
+    </message>
+    <message>
         <source>IDS_HEAD_EMPTY</source>
         <translation>Sua lista está vazia, portanto não há o que escolher.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_UNREADABLE</source>
+        <extracomment>The list is damaged or cannot be opened; a message below tells which</extracomment>
+        <translation>Sua lista não pode ser lida por inteiro, portanto não se sabe qual rede vem primeiro.</translation>
     </message>
     <message>
         <source>IDS_HEAD_NOTHING_IN_RANGE</source>
@@ -362,15 +387,15 @@ São permitidos letras, números e estes sinais:
     </message>
     <message>
         <source>IDS_HEAD_NO_PRIORITY_PLUGIN</source>
-        <translation>O plug-in que guarda a lista não está disponível.</translation>
+        <translation>O plug-in que gerencia a lista não está disponível.</translation>
     </message>
     <message>
         <source>IDS_LIST_DAMAGED</source>
-        <translation>O arquivo da sua lista está danificado. Só é exibido o que vem antes do dano.</translation>
+        <translation>O arquivo da sua lista está danificado. São exibidas apenas as redes que vêm antes da parte danificada.</translation>
     </message>
     <message>
         <source>IDS_LIST_KEPT</source>
-        <translation>O arquivo foi copiado para %1. Este programa só o altera depois que você decidir o que fazer.</translation>
+        <translation>Uma cópia do arquivo é mantida como %1. Este programa não altera sua lista até que você decida o que fazer.</translation>
     </message>
     <message>
         <source>IDS_BUTTON_REPAIR</source>
@@ -378,7 +403,7 @@ São permitidos letras, números e estes sinais:
     </message>
     <message>
         <source>IDS_DAMAGE_TITLE</source>
-        <translation>A sua lista está danificada</translation>
+        <translation>Sua lista está danificada</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_READ</source>
@@ -390,7 +415,7 @@ São permitidos letras, números e estes sinais:
     </message>
     <message>
         <source>IDS_DAMAGE_NO_LAST</source>
-        <translation>Não há lista anterior que possa ser recuperada.</translation>
+        <translation>Não há lista anterior que possa ser restaurada.</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_COPY</source>
@@ -398,19 +423,19 @@ São permitidos letras, números e estes sinais:
     </message>
     <message>
         <source>IDS_DAMAGE_BRING_BACK</source>
-        <translation>Recuperar a última lista completa</translation>
+        <translation>Restaurar a última lista completa</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_GO_ON</source>
-        <translation>Continuar com o que pôde ser lido</translation>
+        <translation>Manter as redes que puderam ser lidas</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_LEAVE</source>
-        <translation>Deixar como está</translation>
+        <translation>Deixar o arquivo como está</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_OPENED</source>
-        <translation>O arquivo da sua lista existe, mas não pode ser aberto. Verifique as permissões dele e atualize a exibição.</translation>
+        <translation>O arquivo da sua lista existe, mas não pode ser aberto. Verifique as permissões dele e escolha “Atualizar”.</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_OFFERED</source>
@@ -418,19 +443,19 @@ São permitidos letras, números e estes sinais:
     </message>
     <message>
         <source>IDS_NO_LIST_TITLE</source>
-        <translation>Não há lista para exibir</translation>
+        <translation>Sua lista não pode ser exibida</translation>
     </message>
     <message>
         <source>IDS_EMPTY_TITLE</source>
-        <translation>Sua lista de prioridades está vazia</translation>
+        <translation>Sua lista está vazia</translation>
     </message>
     <message>
         <source>IDS_EMPTY_HINT</source>
-        <translation>Abra as configurações e escolha “Adicionar” para redes que este computador já conhece ou “Nova” para inserir uma. A rede que está mais acima na lista é a preferida.</translation>
+        <translation>Abra as configurações e escolha “Adicionar” para redes salvas neste computador ou “Nova” para inserir uma. A rede que está mais acima na lista é a preferida.</translation>
     </message>
     <message>
         <source>IDS_EMPTY_UNREADABLE</source>
-        <translation>Nada dela pode ser lido. Veja a mensagem acima.</translation>
+        <translation>A mensagem acima diz o motivo.</translation>
     </message>
     <message>
         <source>IDS_LOAD_NOT_LOADED</source>
@@ -438,7 +463,7 @@ São permitidos letras, números e estes sinais:
     </message>
     <message>
         <source>IDS_LOAD_MISSING</source>
-        <translation>O plug-in %1 não foi encontrado. Instale-o ou inicie o programa com --library-path e o diretório que contém a pasta plugins/.</translation>
+        <translation>O plug-in %1 não foi encontrado. Instale-o ou inicie o programa com --library-path e a pasta que contém plugins/.</translation>
     </message>
     <message>
         <source>IDS_LOAD_CUT</source>
@@ -446,7 +471,7 @@ São permitidos letras, números e estes sinais:
     </message>
     <message>
         <source>IDS_LOAD_OTHER_TOOLKIT</source>
-        <translation>O plug-in %1 foi compilado para outra geração do Qt, portanto não é usado.
+        <translation>O plug-in %1 foi compilado para outra versão principal do Qt, portanto não é usado.
 Encontrado: Qt %2
 Esperado: Qt %3</translation>
     </message>
@@ -466,7 +491,7 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_LOAD_NO_ENTRY_POINT</source>
-        <translation>A biblioteca %1 não tem o ponto de entrada de um plug-in, portanto não é usada.</translation>
+        <translation>A biblioteca %1 não é um plug-in, portanto não é usada.</translation>
     </message>
     <message>
         <source>IDS_LOAD_NULL_INSTANCE</source>
@@ -474,11 +499,11 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_LOAD_NOT_A_PLUGIN</source>
-        <translation>O que %1 forneceu não é um plug-in deste programa, portanto não é usado.</translation>
+        <translation>%1 não é um plug-in para este programa, portanto não é usado.</translation>
     </message>
     <message>
         <source>IDS_LOAD_INIT_FAILED</source>
-        <translation>O plug-in %1 informa que não pode funcionar, portanto não é usado. O rastreamento talvez traga mais detalhes.</translation>
+        <translation>O plug-in %1 não pôde iniciar, portanto não é usado. Veja os detalhes no registro.</translation>
     </message>
     <message>
         <source>IDS_LANGUAGE_UNREADABLE</source>
@@ -499,15 +524,15 @@ Esperado: %3</translation>
     <message>
         <source>IDS_NOTE_NETWORKMANAGER</source>
         <extracomment>At the foot of the main window; two lines of 450 pixels at most</extracomment>
-        <translation>Redes deste computador, do NetworkManager, que segue a ordem desta lista.</translation>
+        <translation>Estas são as redes deste computador. O NetworkManager as experimenta na ordem desta lista.</translation>
     </message>
     <message>
         <source>IDS_NOTE_STORED</source>
-        <translation>Redes próprias deste programa; as do computador não são alteradas.</translation>
+        <translation>Estas são redes de teste. As redes deste computador não são alteradas.</translation>
     </message>
     <message>
         <source>IDS_NOTE_STORED_STANDS_IN</source>
-        <translation>Não há NetworkManager disponível. Estas redes são próprias deste programa; as do computador não são alteradas.</translation>
+        <translation>O NetworkManager não está disponível, portanto estas são redes de teste. As redes deste computador não são alteradas.</translation>
     </message>
     <message>
         <source>IDS_MENU_EDIT</source>
@@ -523,15 +548,15 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_ACTION_RESTORE</source>
-        <translation>Re&amp;staurar…</translation>
+        <translation>&amp;Listas anteriores…</translation>
     </message>
     <message>
         <source>IDS_ACTION_IMPORT</source>
-        <translation>&amp;Importar ordem…</translation>
+        <translation>&amp;Importar lista…</translation>
     </message>
     <message>
         <source>IDS_ACTION_EXPORT</source>
-        <translation>E&amp;xportar ordem…</translation>
+        <translation>E&amp;xportar lista…</translation>
     </message>
     <message>
         <source>IDS_BUTTON_UNDO</source>
@@ -543,7 +568,7 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_BUTTON_RESTORE</source>
-        <translation>Restaurar…</translation>
+        <translation>Listas anteriores…</translation>
     </message>
     <message>
         <source>IDS_UNDO_WHAT</source>
@@ -563,11 +588,11 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_REDO_DAMAGED</source>
-        <translation>O arquivo da sua lista está danificado. “Desfazer” traz de volta a última lista que pôde ser lida.</translation>
+        <translation>O arquivo da sua lista está danificado. “Desfazer” permite restaurar a última lista completa.</translation>
     </message>
     <message>
         <source>IDS_UNDO_NO_PLUGIN</source>
-        <translation>O plug-in que mantém a lista não está disponível, portanto a lista não pode ser alterada.</translation>
+        <translation>O plug-in que gerencia a lista não está disponível, portanto a lista não pode ser alterada.</translation>
     </message>
     <message>
         <source>IDS_LAST_CHANGE</source>
@@ -579,7 +604,7 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_CHANGE_EMPTIED</source>
-        <translation>Todas as entradas excluídas</translation>
+        <translation>Todas as redes removidas</translation>
     </message>
     <message>
         <source>IDS_CHANGE_DAMAGED</source>
@@ -591,15 +616,15 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_CHANGE_ADDED_MANY</source>
-        <translation>%1 entradas adicionadas</translation>
+        <translation>%1 redes adicionadas</translation>
     </message>
     <message>
         <source>IDS_CHANGE_DELETED_ONE</source>
-        <translation>%1 excluída</translation>
+        <translation>%1 removida</translation>
     </message>
     <message>
         <source>IDS_CHANGE_DELETED_MANY</source>
-        <translation>%1 entradas excluídas</translation>
+        <translation>%1 redes removidas</translation>
     </message>
     <message>
         <source>IDS_CHANGE_MOVED_UP</source>
@@ -611,7 +636,7 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_CHANGE_MOVED_TOP</source>
-        <translation>%1 movida para o início</translation>
+        <translation>%1 movida para o topo</translation>
     </message>
     <message>
         <source>IDS_CHANGE_MOVED_END</source>
@@ -619,23 +644,78 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_CHANGE_MOVED_MANY</source>
-        <translation>%1 entradas movidas</translation>
+        <translation>%1 redes movidas</translation>
     </message>
     <message>
         <source>IDS_CHANGE_WENT_BACK</source>
-        <translation>Volta à lista de %1</translation>
+        <translation>Lista de %1 restaurada</translation>
     </message>
     <message>
         <source>IDS_CHANGE_UNNAMED</source>
         <translation>(sem nome)</translation>
     </message>
     <message>
+        <source>IDS_PLAN_NONE</source>
+        <extracomment>What will be done, before it is done</extracomment>
+        <translation>Sua lista fica como está.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_EMPTY</source>
+        <extracomment>What will be done, before it is done</extracomment>
+        <translation>Todas as redes serão removidas.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_ADD_ONE</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>%1 será adicionada.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_ADD_MANY</source>
+        <extracomment>What will be done, before it is done. %1: a number, two or more</extracomment>
+        <translation>%1 redes serão adicionadas.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_REMOVE_ONE</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>%1 será removida.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_REMOVE_MANY</source>
+        <extracomment>What will be done, before it is done. %1: a number, two or more</extracomment>
+        <translation>%1 redes serão removidas.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_UP</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>%1 será movida para cima.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_DOWN</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>%1 será movida para baixo.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_TOP</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>%1 será movida para o topo.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_END</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>%1 será movida para o fim.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_MANY</source>
+        <extracomment>What will be done, before it is done. %1: a number, two or more</extracomment>
+        <translation>%1 redes serão movidas.</translation>
+    </message>
+    <message>
         <source>IDS_RESTORE_TITLE</source>
-        <translation>Restaurar uma lista anterior</translation>
+        <translation>Listas anteriores</translation>
     </message>
     <message>
         <source>IDS_RESTORE_HINT</source>
-        <translation>Escolha como a sua lista deve voltar a ser. A lista atual também continua aqui.</translation>
+        <translation>Escolha a lista a restaurar. A lista atual também é mantida.</translation>
     </message>
     <message>
         <source>IDS_RESTORE_TIME</source>
@@ -667,7 +747,7 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_RESTORE_EFFECT</source>
-        <translation>O que a restauração fará: %1</translation>
+        <translation>Resultado da restauração: %1</translation>
     </message>
     <message>
         <source>IDS_RESTORE_IS_NOW</source>
@@ -679,7 +759,7 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_RESTORE_ASIDE</source>
-        <translation>Separá-lo e começar de novo</translation>
+        <translation>Manter o arquivo e começar outro</translation>
     </message>
     <message>
         <source>IDS_RESTORE_GONE</source>
@@ -687,19 +767,19 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_IMPORT_TITLE</source>
-        <translation>Importar uma ordem</translation>
+        <translation>Importar uma lista</translation>
     </message>
     <message>
         <source>IDS_IMPORT_HINT</source>
-        <translation>Obtém uma lista de um arquivo. Antes você vê o que mudaria.</translation>
+        <translation>Substitui sua lista pela de um arquivo. Antes você pode conferir as alterações.</translation>
     </message>
     <message>
         <source>IDS_IMPORT_SUMMARY</source>
-        <translation>O que a importação fará: %1</translation>
+        <translation>Resultado da importação: %1</translation>
     </message>
     <message>
         <source>IDS_IMPORT_NO_CHANGE</source>
-        <translation>A sua lista já está nesta ordem. Não há nada a importar.</translation>
+        <translation>Sua lista já está nesta ordem. Não há nada a importar.</translation>
     </message>
     <message>
         <source>IDS_IMPORT_PLACE</source>
@@ -711,35 +791,35 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_IMPORT_STAYS</source>
-        <translation>Permanece</translation>
+        <translation>Fica onde está</translation>
     </message>
     <message>
         <source>IDS_IMPORT_ADDED</source>
-        <translation>É adicionada</translation>
+        <translation>Será adicionada</translation>
     </message>
     <message>
         <source>IDS_IMPORT_MOVED_UP</source>
-        <translation>Sobe</translation>
+        <translation>Será movida para cima</translation>
     </message>
     <message>
         <source>IDS_IMPORT_MOVED_DOWN</source>
-        <translation>Desce</translation>
+        <translation>Será movida para baixo</translation>
     </message>
     <message>
         <source>IDS_IMPORT_MOVED</source>
-        <translation>Outras se movem ao redor</translation>
+        <translation>Fica no lugar; outras serão movidas</translation>
     </message>
     <message>
         <source>IDS_IMPORT_REMOVED</source>
-        <translation>É removida da lista</translation>
+        <translation>Será removida da lista</translation>
     </message>
     <message>
         <source>IDS_IMPORT_EFFECT_UNKNOWN</source>
-        <translation>%1; não conhecida aqui</translation>
+        <translation>%1; não salva aqui</translation>
     </message>
     <message>
         <source>IDS_IMPORT_UNKNOWN</source>
-        <translation>Não conhecidas neste computador: %1. Uma entrada assim só é usada depois que a rede for configurada aqui.</translation>
+        <translation>Não salvas neste computador: %1. Estas redes não serão usadas até serem configuradas aqui.</translation>
     </message>
     <message>
         <source>IDS_IMPORT_OK</source>
@@ -747,31 +827,31 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_IMPORT_NOT_READABLE</source>
-        <translation>O arquivo %1 não pode ser lido ou é grande demais para uma lista. A sua lista continua como estava.</translation>
+        <translation>O arquivo %1 não pode ser lido ou é grande demais para uma lista. Sua lista não foi alterada.</translation>
     </message>
     <message>
         <source>IDS_IMPORT_DAMAGED</source>
-        <translation>O arquivo %1 não é uma lista de redes que possa ser importada. %2. A sua lista continua como estava.</translation>
+        <translation>O arquivo %1 não é uma lista de redes que possa ser importada. %2. Sua lista não foi alterada.</translation>
     </message>
     <message>
         <source>IDS_EXPORT_TITLE</source>
-        <translation>Exportar a ordem</translation>
+        <translation>Exportar a lista</translation>
     </message>
     <message>
         <source>IDS_EXPORT_HINT</source>
-        <translation>Grava a ordem da sua lista em um arquivo, sem chaves.</translation>
+        <translation>Salva sua lista em um arquivo, sem chaves.</translation>
     </message>
     <message>
         <source>IDS_EXPORT_FILE_NAME</source>
-        <translation>ordem-das-redes.xml</translation>
+        <translation>lista-de-redes.xml</translation>
     </message>
     <message>
         <source>IDS_EXPORT_NOT_WRITTEN</source>
-        <translation>O arquivo %1 não pode ser gravado. O que havia antes continua como estava.</translation>
+        <translation>O arquivo %1 não pode ser gravado. Nada foi alterado.</translation>
     </message>
     <message>
         <source>IDS_ORDER_FILES</source>
-        <translation>Ordens de redes</translation>
+        <translation>Listas de redes</translation>
     </message>
     <message>
         <source>IDS_ALL_FILES</source>
@@ -779,23 +859,23 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_WRITTEN</source>
-        <translation>A lista não pode ser gravada em %1. Verifique se o disco está cheio ou o arquivo protegido.</translation>
+        <translation>A lista não pode ser gravada em %1. Verifique se o disco está cheio ou se o arquivo está protegido contra gravação.</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_KEPT</source>
-        <translation>O arquivo danificado %1 não pode ser copiado por segurança, portanto não foi tocado. Verifique se o disco está cheio ou a pasta protegida.</translation>
+        <translation>Não é possível fazer uma cópia de segurança do arquivo danificado %1, portanto ele não foi alterado. Verifique se o disco está cheio ou se a pasta está protegida contra gravação.</translation>
     </message>
     <message>
         <source>IDS_HISTORY_DAMAGED</source>
-        <translation>O arquivo das listas anteriores, %1, está danificado e não foi tocado. %2. Até que seja separado em “Restaurar…”, nada pode ser desfeito.</translation>
+        <translation>O arquivo das listas anteriores, %1, está danificado e não foi alterado. %2. Para voltar a usar “Desfazer”, escolha “Listas anteriores…” e comece um novo arquivo. O danificado é mantido.</translation>
     </message>
     <message>
         <source>IDS_HISTORY_NOT_READABLE</source>
-        <translation>O arquivo das listas anteriores, %1, não pode ser lido e não foi tocado. Até que possa ou seja separado em “Restaurar…”, nada pode ser desfeito.</translation>
+        <translation>O arquivo das listas anteriores, %1, não pode ser lido e não foi alterado. Para voltar a usar “Desfazer”, torne o arquivo legível, ou escolha “Listas anteriores…” e comece um novo. O antigo é mantido.</translation>
     </message>
     <message>
         <source>IDS_HISTORY_NOT_WRITABLE</source>
-        <translation>As listas anteriores não podem ser guardadas em %1. O que você alterar só poderá ser desfeito até o programa terminar.</translation>
+        <translation>As listas anteriores não podem ser guardadas em %1. Você só pode desfazer alterações até sair do programa.</translation>
     </message>
     <message>
         <source>IDS_LIST_BUSY</source>
@@ -803,7 +883,7 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_HISTORY_NOT_SET_ASIDE</source>
-        <translation>O arquivo %1 não pode ser renomeado, portanto não foi tocado.</translation>
+        <translation>O arquivo %1 não pode ser renomeado, portanto nenhum novo foi começado.</translation>
     </message>
     <message>
         <source>IDS_FAULT_LINE</source>
@@ -815,15 +895,15 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_FAULT_DECLARATION</source>
-        <translation>uma declaração de tipo de documento não pertence a esse lugar</translation>
+        <translation>uma declaração de tipo de documento não é permitida aqui</translation>
     </message>
     <message>
         <source>IDS_FAULT_ELEMENT</source>
-        <translation>o elemento “%1” não pertence a esse lugar</translation>
+        <translation>o elemento “%1” não é permitido aqui</translation>
     </message>
     <message>
         <source>IDS_FAULT_TEXT</source>
-        <translation>texto não pertence a esse lugar</translation>
+        <translation>texto não é permitido aqui</translation>
     </message>
     <message>
         <source>IDS_FAULT_ATTRIBUTE</source>
@@ -831,7 +911,7 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_FAULT_VALUE</source>
-        <translation>o atributo “%1” tem um valor impossível</translation>
+        <translation>o atributo “%1” tem um valor inválido</translation>
     </message>
     <message>
         <source>IDS_FAULT_TOO_MANY</source>
@@ -839,7 +919,7 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_LIST_UNDO_DAMAGE</source>
-        <translation>“Desfazer” traz de volta a última lista que pôde ser lida.</translation>
+        <translation>“Desfazer” permite restaurar a última lista completa.</translation>
     </message>
     <message>
         <source>IDS_HEAD_SKIPPED</source>
@@ -847,27 +927,27 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_HEAD_CONNECT_HINT</source>
-        <translation>“Conectar…” mostra as redes ao alcance.</translation>
+        <translation>“Conectar…” mostra as outras redes ao alcance.</translation>
     </message>
     <message>
         <source>IDS_WHY_OUT_OF_RANGE</source>
-        <translation>Não pode ser usada agora, pois está fora de alcance.</translation>
+        <translation>Não está em uso porque está fora de alcance.</translation>
     </message>
     <message>
         <source>IDS_WHY_LOWER</source>
-        <translation>Poderia ser usada, mas %1 está mais acima na lista.</translation>
+        <translation>Não está em uso porque %1 está mais acima na lista.</translation>
     </message>
     <message>
         <source>IDS_WHY_UNDECIDED</source>
-        <translation>Poderia ser usada, mas não se sabe se uma rede mais acima na lista está ao alcance.</translation>
+        <translation>Não está em uso porque não se sabe se uma rede mais acima na lista está ao alcance.</translation>
     </message>
     <message>
         <source>IDS_ACTION_TRACE_SEARCH</source>
-        <translation>&amp;Pesquisar no rastreamento…</translation>
+        <translation>&amp;Pesquisar no registro…</translation>
     </message>
     <message>
         <source>IDS_TRACE_SEARCH</source>
-        <translation>Pesquisar no rastreamento</translation>
+        <translation>Pesquisar no registro</translation>
     </message>
     <message>
         <source>IDS_TRACE_NEXT</source>
@@ -879,11 +959,11 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_TRACE_MATCHES</source>
-        <translation>Encontrados: %1</translation>
+        <translation>Ocorrências: %1</translation>
     </message>
     <message>
         <source>IDS_TRACE_NO_MATCH</source>
-        <translation>Não encontrado</translation>
+        <translation>Nenhuma ocorrência</translation>
     </message>
     <message>
         <source>IDS_MENU_APPEARANCE</source>
@@ -891,7 +971,7 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_APPEARANCE_SYSTEM</source>
-        <translation>Como a área de &amp;trabalho</translation>
+        <translation>Como o &amp;sistema</translation>
     </message>
     <message>
         <source>IDS_APPEARANCE_LIGHT</source>
@@ -910,31 +990,31 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_READ_ONLY</source>
-        <translation>“%1” ficou como estava: já existe uma rede configurada com esse nome, e ela não deve ser alterada.</translation>
+        <translation>“%1” não foi alterada: já existe uma rede salva com esse nome, e ela não pode ser alterada.</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_SEVERAL</source>
-        <translation>Nada foi alterado: várias redes estão configuradas com o nome “%1”, e não é possível saber qual delas é. Escolha outro nome.</translation>
+        <translation>Nada foi alterado: várias redes estão salvas com o nome “%1”, e não se sabe qual delas é. Escolha outro nome.</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_UNDESCRIBED</source>
-        <translation>“%1” ficou como estava: já existe uma rede configurada com esse nome, com mais do que pode ser informado aqui, como uma conta. Altere-a onde ela foi configurada ou escolha outro nome.</translation>
+        <translation>“%1” não foi alterada: já existe uma rede salva com esse nome, com dados que não podem ser informados aqui, como uma conta. Altere-a onde ela foi configurada ou escolha outro nome.</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_STRONGER</source>
-        <translation>“%1” ficou como estava: já existe uma rede configurada com esse nome, e esta segurança ou criptografia seria mais fraca. Escolha pelo menos a mesma ou outro nome.</translation>
+        <translation>“%1” não foi alterada: já existe uma rede salva com esse nome, e esta segurança ou criptografia seria mais fraca. Escolha uma que seja pelo menos tão forte ou outro nome.</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_KEY</source>
-        <translation>“%1” ficou como estava: já existe uma rede configurada com esse nome, e para alterá-la é preciso uma chave completa. Digite uma ou escolha outro nome.</translation>
+        <translation>“%1” não foi alterada: já existe uma rede salva com esse nome, e para alterá-la é preciso uma chave completa. Digite a chave ou escolha outro nome.</translation>
     </message>
     <message>
         <source>IDS_WLAN_BETTER_PROFILE</source>
-        <translation>“%1” não foi salva: a mesma rede já está configurada como “%2”, e melhor do que assim. Adicione “%2” à lista em vez disso.</translation>
+        <translation>“%1” não foi salva: a mesma rede já está salva como “%2”, com configurações melhores. Em vez disso, adicione “%2” à sua lista.</translation>
     </message>
     <message>
         <source>IDS_WLAN_BAD_NAME</source>
-        <translation>“%1” não foi salva: o nome de uma rede tem de 1 a 32 bytes. Letras com acento e outras escritas ocupam de dois a quatro bytes cada.</translation>
+        <translation>“%1” não foi salva: o nome de uma rede tem de 1 a 32 bytes. Letras com acento e de outras escritas ocupam de dois a quatro bytes cada.</translation>
     </message>
     <message>
         <source>IDS_WLAN_BAD_SECURITY</source>
@@ -942,7 +1022,7 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_WLAN_NO_ACCOUNT</source>
-        <translation>“%1” não foi salva: esta segurança exige uma conta, que não pode ser informada aqui. Configure a rede nas configurações da sua área de trabalho e depois adicione-a à lista.</translation>
+        <translation>“%1” não foi salva: esta segurança exige uma conta, que não pode ser informada aqui. Configure a rede nas configurações do sistema e depois adicione-a à sua lista.</translation>
     </message>
     <message>
         <source>IDS_WLAN_NOT_RUNNING</source>
@@ -954,7 +1034,7 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_WLAN_DENIED</source>
-        <translation>“%1” não foi salva: você não tem permissão para isso neste computador.</translation>
+        <translation>“%1” não foi salva: você não tem permissão para salvar redes neste computador.</translation>
     </message>
     <message>
         <source>IDS_WLAN_REFUSED</source>
@@ -966,15 +1046,15 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_WLAN_FILE_UNUSABLE</source>
-        <translation>“%1” não foi salva: não é possível ler ou gravar o arquivo das redes configuradas. O rastreamento diz mais.</translation>
+        <translation>“%1” não foi salva: o arquivo das redes salvas não pode ser lido ou gravado. Veja os detalhes no registro.</translation>
     </message>
     <message>
         <source>IDS_WLAN_FILE_DAMAGED</source>
-        <translation>“%1” não foi salva: o arquivo das redes configuradas está danificado e fica como está. O rastreamento indica a linha.</translation>
+        <translation>“%1” não foi salva: o arquivo das redes salvas está danificado e não foi alterado. Veja a linha no registro.</translation>
     </message>
     <message>
         <source>IDS_WLAN_BUSY</source>
-        <translation>“%1” não foi salva: outro programa está alterando as redes. Tente de novo.</translation>
+        <translation>“%1” não foi salva: outro programa está alterando as redes. Tente novamente em instantes.</translation>
     </message>
 </context>
 </TS>

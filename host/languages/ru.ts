@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>IDS_PROFILE_INFO</source>
-        <translation>Если в зоне действия несколько этих сетей, используется та, что выше в списке.</translation>
+        <translation>Если в зоне действия несколько из этих сетей, используется та, что выше в списке.</translation>
     </message>
     <message>
         <source>IDS_PROFILE_UP</source>
@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>IDS_PROFILE_DELETE</source>
-        <translation>&amp;Удалить</translation>
+        <translation>&amp;Убрать</translation>
     </message>
     <message>
         <source>IDS_PROFILE_NEW</source>
@@ -77,7 +77,7 @@
     </message>
     <message>
         <source>IDS_KEYINDEX</source>
-        <translation>Номер ключа</translation>
+        <translation>Индекс WEP</translation>
     </message>
     <message>
         <source>IDS_EAP_METHOD</source>
@@ -89,7 +89,7 @@
     </message>
     <message>
         <source>IDS_WARNING_DELETE</source>
-        <translation>Удалить выбранную сеть из списка приоритетов?</translation>
+        <translation>Убрать выбранную сеть из вашего списка?</translation>
     </message>
     <message>
         <source>IDS_ERROR_EMPTY_SSID</source>
@@ -97,29 +97,29 @@
     </message>
     <message>
         <source>IDS_PROFILE_NAME_REPEAT</source>
-        <translation>Сеть с таким именем уже есть в списке приоритетов.</translation>
+        <translation>Сеть с таким именем уже есть в вашем списке. Введите другое имя.</translation>
     </message>
     <message>
         <source>IDS_ERROR_KEY_WRONG_LENGTH_40</source>
-        <translation>Ключ не подходит для WEP. Он должен состоять из 5 или 13 символов либо из 10, 26 или 32 шестнадцатеричных цифр (0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F).
+        <translation>Это недопустимый ключ WEP. Ключ WEP состоит из 5 или 13 символов либо из 10, 26 или 32 шестнадцатеричных цифр (0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F).
 
-Допускаются буквы, цифры и следующие знаки:
+Допускаются буквы, цифры и следующие символы:
 - _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :</translation>
     </message>
     <message>
         <source>IDS_ERROR_KEY_WRONG_LENGTH_128</source>
-        <translation>Ключ не подходит для WPA. Он должен содержать от 8 до 63 символов либо 64 шестнадцатеричные цифры (0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F).
+        <translation>Это недопустимый ключ WPA. Ключ WPA содержит от 8 до 63 символов либо 64 шестнадцатеричные цифры (0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F).
 
-Допускаются буквы, цифры и следующие знаки:
+Допускаются буквы, цифры и следующие символы:
 - _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :</translation>
     </message>
     <message>
         <source>IDS_ERROR_KEY_DIFFERENT</source>
-        <translation>Ключи не совпадают. Введите один и тот же ключ в оба поля с учётом регистра букв.</translation>
+        <translation>Ключи различаются. Введите в оба поля один и тот же ключ с одинаковыми прописными и строчными буквами.</translation>
     </message>
     <message>
         <source>IDS_ERROR_WRONG_AUTHENTICATION</source>
-        <translation>Выберите способ защиты.</translation>
+        <translation>Выберите тип защиты.</translation>
     </message>
 </context>
 <context>
@@ -127,6 +127,21 @@
     <message>
         <source>IDS_LANGUAGE_NAME</source>
         <translation>Русский</translation>
+    </message>
+    <message>
+        <source>IDS_SENTENCES</source>
+        <extracomment>Two sentences, one behind the other. Chinese and Japanese have no blank there</extracomment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>IDS_NAMES</source>
+        <extracomment>Names of networks side by side. %1: the first ones, %2: one more</extracomment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>IDS_LABEL</source>
+        <extracomment>%1: a label, such as Wi-Fi; %2: what is told about it</extracomment>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>IDS_WINDOW_TITLE</source>
@@ -162,7 +177,7 @@
     </message>
     <message>
         <source>IDS_ACTION_TRACE</source>
-        <translation>Показать &amp;трассировку</translation>
+        <translation>Показать &amp;журнал</translation>
     </message>
     <message>
         <source>IDS_BUTTON_CONNECT</source>
@@ -178,15 +193,15 @@
     </message>
     <message>
         <source>IDS_BUTTON_TRACE</source>
-        <translation>Показать трассировку</translation>
+        <translation>Показать журнал</translation>
     </message>
     <message>
         <source>IDS_TRACE_TITLE</source>
-        <translation>Трассировка</translation>
+        <translation>Журнал</translation>
     </message>
     <message>
         <source>IDS_LOG_NOT_WRITABLE</source>
-        <translation>Не удаётся записать файл журнала %1; трассировка отображается только здесь.</translation>
+        <translation>Не удаётся записать файл журнала %1. Журнал отображается только здесь.</translation>
     </message>
     <message>
         <source>IDS_OK</source>
@@ -202,7 +217,7 @@
     </message>
     <message>
         <source>IDS_CONNECT_HINT</source>
-        <translation>Сеть, к которой вы подключаетесь, становится первой в вашем списке.</translation>
+        <translation>Сеть, к которой вы подключаетесь, перемещается в начало вашего списка.</translation>
     </message>
     <message>
         <source>IDS_CONNECT_NETWORK</source>
@@ -226,15 +241,15 @@
     </message>
     <message>
         <source>IDS_CONNECT_NO_WLAN</source>
-        <translation>Модуль Wi-Fi недоступен, поэтому подключаться не к чему.</translation>
+        <translation>Модуль Wi-Fi недоступен, поэтому нет сети, к которой можно подключиться.</translation>
     </message>
     <message>
         <source>IDS_CONNECT_NO_PRIORITY</source>
-        <translation>Модуль, который хранит список, недоступен, поэтому поставить сеть на первое место нельзя.</translation>
+        <translation>Модуль, который ведёт список, недоступен, поэтому поместить сеть в начало вашего списка нельзя.</translation>
     </message>
     <message>
         <source>IDS_CONNECT_DAMAGED</source>
-        <translation>Ваш список не читается полностью, поэтому ни одна сеть не ставится на первое место.</translation>
+        <translation>Ваш список не удаётся прочитать полностью, поэтому поместить сеть в его начало нельзя.</translation>
     </message>
     <message>
         <source>IDS_CLOSE</source>
@@ -246,7 +261,7 @@
     </message>
     <message>
         <source>IDS_SETTINGS_KEYS</source>
-        <translation>С клавиатуры: Ctrl+↑ и Ctrl+↓ выбирают запись, ↑ и ↓ перемещают её.</translation>
+        <translation>Клавиатура: Ctrl+↑ и Ctrl+↓ выбирают сеть, ↑ и ↓ перемещают её.</translation>
     </message>
     <message>
         <source>IDS_PLUGIN_PRIORITY</source>
@@ -258,7 +273,7 @@
     </message>
     <message>
         <source>IDS_PLUGIN_WLAN_STORED</source>
-        <translation>Wi-Fi (сети в файле)</translation>
+        <translation>Wi-Fi (учебные сети)</translation>
     </message>
     <message>
         <source>IDS_GENERAL_TITLE</source>
@@ -294,7 +309,7 @@
     </message>
     <message>
         <source>IDS_GENERAL_PLUGIN_LIBRARY</source>
-        <translation>Расположение модулей: %1</translation>
+        <translation>Папка модулей: %1</translation>
     </message>
     <message>
         <source>IDS_GENERAL_VERSION</source>
@@ -302,7 +317,7 @@
     </message>
     <message>
         <source>IDS_PAGE_NOT_SHOWN</source>
-        <translation>Показать эту страницу нельзя: модуль %1 загружен, но не предоставляет свою страницу. Подробности, возможно, есть в трассировке.</translation>
+        <translation>Показать эту страницу нельзя: модуль %1 загружен, но не предоставляет страницу. Подробности есть в журнале.</translation>
     </message>
     <message>
         <source>IDS_KIND_WIFI</source>
@@ -326,11 +341,11 @@
     </message>
     <message>
         <source>IDS_STATE_UNKNOWN</source>
-        <translation>Доступность неизвестна</translation>
+        <translation>Неизвестно, в зоне ли действия</translation>
     </message>
     <message>
         <source>IDS_STATE_FALLBACK</source>
-        <translation>Готова как запасная</translation>
+        <translation>Готова</translation>
     </message>
     <message>
         <source>IDS_HEAD_IN_USE</source>
@@ -338,23 +353,33 @@
     </message>
     <message>
         <source>IDS_HEAD_IN_USE_WIFI</source>
-        <translation>Это первая сеть вашего списка, которая находится в зоне действия.</translation>
+        <translation>Это первая сеть в вашем списке, которая находится в зоне действия.</translation>
     </message>
     <message>
         <source>IDS_HEAD_IN_USE_MOBILE</source>
-        <translation>Ни одна из сетей Wi-Fi, стоящих в списке выше, не находится в зоне действия.</translation>
+        <translation>Ни одна из сетей Wi-Fi, стоящих в вашем списке выше, не находится в зоне действия.</translation>
     </message>
     <message>
         <source>IDS_HEAD_NONE</source>
         <translation>Сеть не используется</translation>
     </message>
     <message>
+        <source>IDS_HEAD_UNKNOWN</source>
+        <extracomment>In place of the network in use when it is not known which one that is</extracomment>
+        <translation>Подключение неизвестно</translation>
+    </message>
+    <message>
         <source>IDS_HEAD_EMPTY</source>
         <translation>Ваш список пуст, поэтому выбирать не из чего.</translation>
     </message>
     <message>
+        <source>IDS_HEAD_UNREADABLE</source>
+        <extracomment>The list is damaged or cannot be opened; a message below tells which</extracomment>
+        <translation>Ваш список не удаётся прочитать полностью, поэтому неизвестно, какая сеть первая.</translation>
+    </message>
+    <message>
         <source>IDS_HEAD_NOTHING_IN_RANGE</source>
-        <translation>Ни одна из сетей вашего списка не находится в зоне действия.</translation>
+        <translation>Ни одна из сетей в вашем списке не находится в зоне действия.</translation>
     </message>
     <message>
         <source>IDS_HEAD_RANGE_UNKNOWN</source>
@@ -362,15 +387,15 @@
     </message>
     <message>
         <source>IDS_HEAD_NO_PRIORITY_PLUGIN</source>
-        <translation>Модуль, который хранит список, недоступен.</translation>
+        <translation>Модуль, который ведёт список, недоступен.</translation>
     </message>
     <message>
         <source>IDS_LIST_DAMAGED</source>
-        <translation>Файл с вашим списком повреждён. Показано только то, что стоит до повреждённого места.</translation>
+        <translation>Файл с вашим списком повреждён. Показаны только сети, стоящие до повреждённого места.</translation>
     </message>
     <message>
         <source>IDS_LIST_KEPT</source>
-        <translation>Файл скопирован в %1. Программа изменит его только после того, как вы решите, что делать.</translation>
+        <translation>Копия файла сохранена как %1. Программа не изменит ваш список, пока вы не решите, что делать.</translation>
     </message>
     <message>
         <source>IDS_BUTTON_REPAIR</source>
@@ -382,35 +407,35 @@
     </message>
     <message>
         <source>IDS_DAMAGE_READ</source>
-        <translation>Файл с вашим списком не читается до конца. Прочитано сетей: %1.</translation>
+        <translation>Файл с вашим списком не удаётся прочитать до конца. Прочитано сетей: %1.</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_LAST</source>
-        <translation>Последний целый список — от %1. Сетей в нём: %2.</translation>
+        <translation>Последний полный список — от %1. Сетей в нём: %2.</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_NO_LAST</source>
-        <translation>Нет более раннего списка, который можно вернуть.</translation>
+        <translation>Нет прежнего списка, который можно восстановить.</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_COPY</source>
-        <translation>Что бы вы ни выбрали, повреждённый файл сохранён как %1.</translation>
+        <translation>Что бы вы ни выбрали, повреждённый файл останется под именем %1.</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_BRING_BACK</source>
-        <translation>Вернуть последний целый список</translation>
+        <translation>Восстановить последний полный список</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_GO_ON</source>
-        <translation>Продолжить с тем, что прочитано</translation>
+        <translation>Сохранить прочитанные сети</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_LEAVE</source>
-        <translation>Оставить как есть</translation>
+        <translation>Оставить файл как есть</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_OPENED</source>
-        <translation>Файл с вашим списком существует, но открыть его не удаётся. Проверьте права доступа к нему и обновите окно.</translation>
+        <translation>Файл с вашим списком существует, но открыть его не удаётся. Проверьте права доступа к нему и нажмите «Обновить».</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_OFFERED</source>
@@ -418,19 +443,19 @@
     </message>
     <message>
         <source>IDS_NO_LIST_TITLE</source>
-        <translation>Нет списка для показа</translation>
+        <translation>Ваш список нельзя показать</translation>
     </message>
     <message>
         <source>IDS_EMPTY_TITLE</source>
-        <translation>Ваш список приоритетов пуст</translation>
+        <translation>Ваш список пуст</translation>
     </message>
     <message>
         <source>IDS_EMPTY_HINT</source>
-        <translation>Откройте настройки и нажмите «Добавить», чтобы выбрать сети, которые помнит этот компьютер, или «Создать», чтобы ввести сеть самостоятельно. Предпочтение отдаётся сети, которая стоит в списке выше.</translation>
+        <translation>Откройте настройки и нажмите «Добавить», чтобы выбрать сети, сохранённые на этом компьютере, или «Создать», чтобы ввести сеть самостоятельно. Предпочтение отдаётся сети, которая стоит в списке выше остальных.</translation>
     </message>
     <message>
         <source>IDS_EMPTY_UNREADABLE</source>
-        <translation>Прочитать его не удалось. См. сообщение выше.</translation>
+        <translation>Причина указана в сообщении выше.</translation>
     </message>
     <message>
         <source>IDS_LOAD_NOT_LOADED</source>
@@ -438,7 +463,7 @@
     </message>
     <message>
         <source>IDS_LOAD_MISSING</source>
-        <translation>Модуль %1 отсутствует. Установите его или запустите программу с параметром --library-path и каталогом, в котором находится папка plugins/.</translation>
+        <translation>Модуль %1 не найден. Установите его или запустите программу с параметром --library-path и папкой, в которой находится plugins/.</translation>
     </message>
     <message>
         <source>IDS_LOAD_CUT</source>
@@ -446,7 +471,7 @@
     </message>
     <message>
         <source>IDS_LOAD_OTHER_TOOLKIT</source>
-        <translation>Модуль %1 собран для другого поколения Qt, поэтому он не используется.
+        <translation>Модуль %1 собран для другой основной версии Qt, поэтому он не используется.
 Найдено: Qt %2
 Ожидалось: Qt %3</translation>
     </message>
@@ -466,7 +491,7 @@
     </message>
     <message>
         <source>IDS_LOAD_NO_ENTRY_POINT</source>
-        <translation>В библиотеке %1 нет точки входа модуля, поэтому она не используется.</translation>
+        <translation>Библиотека %1 не является модулем, поэтому она не используется.</translation>
     </message>
     <message>
         <source>IDS_LOAD_NULL_INSTANCE</source>
@@ -474,11 +499,11 @@
     </message>
     <message>
         <source>IDS_LOAD_NOT_A_PLUGIN</source>
-        <translation>То, что предоставил %1, не является модулем этой программы, поэтому не используется.</translation>
+        <translation>%1 не является модулем для этой программы, поэтому не используется.</translation>
     </message>
     <message>
         <source>IDS_LOAD_INIT_FAILED</source>
-        <translation>Модуль %1 сообщает, что не может работать, поэтому он не используется. Подробности, возможно, есть в трассировке.</translation>
+        <translation>Модуль %1 не удалось запустить, поэтому он не используется. Подробности есть в журнале.</translation>
     </message>
     <message>
         <source>IDS_LANGUAGE_UNREADABLE</source>
@@ -499,15 +524,15 @@
     <message>
         <source>IDS_NOTE_NETWORKMANAGER</source>
         <extracomment>At the foot of the main window; two lines of 450 pixels at most</extracomment>
-        <translation>Сети этого компьютера из NetworkManager, который следует порядку этого списка.</translation>
+        <translation>Это сети этого компьютера. NetworkManager пробует их в порядке этого списка.</translation>
     </message>
     <message>
         <source>IDS_NOTE_STORED</source>
-        <translation>Собственные сети программы; сети компьютера не изменяются.</translation>
+        <translation>Это учебные сети. Сети этого компьютера не изменяются.</translation>
     </message>
     <message>
         <source>IDS_NOTE_STORED_STANDS_IN</source>
-        <translation>NetworkManager недоступен. Это собственные сети программы; сети компьютера не изменяются.</translation>
+        <translation>NetworkManager недоступен, поэтому это учебные сети. Сети этого компьютера не изменяются.</translation>
     </message>
     <message>
         <source>IDS_MENU_EDIT</source>
@@ -523,15 +548,15 @@
     </message>
     <message>
         <source>IDS_ACTION_RESTORE</source>
-        <translation>&amp;Восстановить…</translation>
+        <translation>Прежние &amp;списки…</translation>
     </message>
     <message>
         <source>IDS_ACTION_IMPORT</source>
-        <translation>&amp;Импорт порядка…</translation>
+        <translation>&amp;Импортировать список…</translation>
     </message>
     <message>
         <source>IDS_ACTION_EXPORT</source>
-        <translation>&amp;Экспорт порядка…</translation>
+        <translation>&amp;Экспортировать список…</translation>
     </message>
     <message>
         <source>IDS_BUTTON_UNDO</source>
@@ -543,7 +568,7 @@
     </message>
     <message>
         <source>IDS_BUTTON_RESTORE</source>
-        <translation>Восстановить…</translation>
+        <translation>Прежние списки…</translation>
     </message>
     <message>
         <source>IDS_UNDO_WHAT</source>
@@ -555,7 +580,7 @@
     </message>
     <message>
         <source>IDS_UNDO_NOTHING</source>
-        <translation>Нет более ранней версии списка, к которой можно вернуться.</translation>
+        <translation>Нет прежнего списка, к которому можно вернуться.</translation>
     </message>
     <message>
         <source>IDS_REDO_NOTHING</source>
@@ -563,7 +588,7 @@
     </message>
     <message>
         <source>IDS_REDO_DAMAGED</source>
-        <translation>Файл с вашим списком повреждён. «Отменить» вернёт последний список, который удалось прочитать.</translation>
+        <translation>Файл с вашим списком повреждён. «Отменить» восстановит последний полный список.</translation>
     </message>
     <message>
         <source>IDS_UNDO_NO_PLUGIN</source>
@@ -579,7 +604,7 @@
     </message>
     <message>
         <source>IDS_CHANGE_EMPTIED</source>
-        <translation>Удалены все записи</translation>
+        <translation>Убраны все сети</translation>
     </message>
     <message>
         <source>IDS_CHANGE_DAMAGED</source>
@@ -587,55 +612,110 @@
     </message>
     <message>
         <source>IDS_CHANGE_ADDED_ONE</source>
-        <translation>Добавлено: %1</translation>
+        <translation>Добавлена сеть %1</translation>
     </message>
     <message>
         <source>IDS_CHANGE_ADDED_MANY</source>
-        <translation>Добавлено записей: %1</translation>
+        <translation>Добавлено сетей: %1</translation>
     </message>
     <message>
         <source>IDS_CHANGE_DELETED_ONE</source>
-        <translation>Удалено: %1</translation>
+        <translation>Убрана сеть %1</translation>
     </message>
     <message>
         <source>IDS_CHANGE_DELETED_MANY</source>
-        <translation>Удалено записей: %1</translation>
+        <translation>Убрано сетей: %1</translation>
     </message>
     <message>
         <source>IDS_CHANGE_MOVED_UP</source>
-        <translation>Перемещено вверх: %1</translation>
+        <translation>Сеть %1 перемещена вверх</translation>
     </message>
     <message>
         <source>IDS_CHANGE_MOVED_DOWN</source>
-        <translation>Перемещено вниз: %1</translation>
+        <translation>Сеть %1 перемещена вниз</translation>
     </message>
     <message>
         <source>IDS_CHANGE_MOVED_TOP</source>
-        <translation>Перемещено в начало: %1</translation>
+        <translation>Сеть %1 перемещена в начало</translation>
     </message>
     <message>
         <source>IDS_CHANGE_MOVED_END</source>
-        <translation>Перемещено в конец: %1</translation>
+        <translation>Сеть %1 перемещена в конец</translation>
     </message>
     <message>
         <source>IDS_CHANGE_MOVED_MANY</source>
-        <translation>Перемещено записей: %1</translation>
+        <translation>Перемещено сетей: %1</translation>
     </message>
     <message>
         <source>IDS_CHANGE_WENT_BACK</source>
-        <translation>Возврат к списку от %1</translation>
+        <translation>Восстановлен список от %1</translation>
     </message>
     <message>
         <source>IDS_CHANGE_UNNAMED</source>
         <translation>(без имени)</translation>
     </message>
     <message>
+        <source>IDS_PLAN_NONE</source>
+        <extracomment>What will be done, before it is done</extracomment>
+        <translation>Ваш список останется прежним.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_EMPTY</source>
+        <extracomment>What will be done, before it is done</extracomment>
+        <translation>Все сети будут убраны.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_ADD_ONE</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>Сеть %1 будет добавлена.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_ADD_MANY</source>
+        <extracomment>What will be done, before it is done. %1: a number, two or more</extracomment>
+        <translation>Будет добавлено сетей: %1.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_REMOVE_ONE</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>Сеть %1 будет убрана.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_REMOVE_MANY</source>
+        <extracomment>What will be done, before it is done. %1: a number, two or more</extracomment>
+        <translation>Будет убрано сетей: %1.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_UP</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>Сеть %1 будет перемещена вверх.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_DOWN</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>Сеть %1 будет перемещена вниз.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_TOP</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>Сеть %1 будет перемещена в начало.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_END</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>Сеть %1 будет перемещена в конец.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_MANY</source>
+        <extracomment>What will be done, before it is done. %1: a number, two or more</extracomment>
+        <translation>Будет перемещено сетей: %1.</translation>
+    </message>
+    <message>
         <source>IDS_RESTORE_TITLE</source>
-        <translation>Восстановление прежнего списка</translation>
+        <translation>Прежние списки</translation>
     </message>
     <message>
         <source>IDS_RESTORE_HINT</source>
-        <translation>Выберите, каким снова должен стать список. Нынешний список тоже останется здесь.</translation>
+        <translation>Выберите список, который нужно восстановить. Нынешний список тоже сохранится.</translation>
     </message>
     <message>
         <source>IDS_RESTORE_TIME</source>
@@ -659,15 +739,15 @@
     </message>
     <message>
         <source>IDS_RESTORE_OLDEST</source>
-        <translation>Самый старый из сохранённых</translation>
+        <translation>Самый старый сохранённый список</translation>
     </message>
     <message>
         <source>IDS_RESTORE_PREVIEW</source>
-        <translation>Список тогда</translation>
+        <translation>Список на тот момент</translation>
     </message>
     <message>
         <source>IDS_RESTORE_EFFECT</source>
-        <translation>Что сделает восстановление: %1</translation>
+        <translation>Результат восстановления: %1</translation>
     </message>
     <message>
         <source>IDS_RESTORE_IS_NOW</source>
@@ -679,7 +759,7 @@
     </message>
     <message>
         <source>IDS_RESTORE_ASIDE</source>
-        <translation>Отложить его и начать заново</translation>
+        <translation>Сохранить файл и начать новый</translation>
     </message>
     <message>
         <source>IDS_RESTORE_GONE</source>
@@ -687,15 +767,15 @@
     </message>
     <message>
         <source>IDS_IMPORT_TITLE</source>
-        <translation>Импорт порядка</translation>
+        <translation>Импорт списка</translation>
     </message>
     <message>
         <source>IDS_IMPORT_HINT</source>
-        <translation>Берёт список из файла. Сначала вы увидите, что изменится.</translation>
+        <translation>Заменяет ваш список списком из файла. Сначала можно проверить изменения.</translation>
     </message>
     <message>
         <source>IDS_IMPORT_SUMMARY</source>
-        <translation>Что сделает импорт: %1</translation>
+        <translation>Результат импорта: %1</translation>
     </message>
     <message>
         <source>IDS_IMPORT_NO_CHANGE</source>
@@ -711,35 +791,35 @@
     </message>
     <message>
         <source>IDS_IMPORT_STAYS</source>
-        <translation>Остаётся</translation>
+        <translation>Останется на месте</translation>
     </message>
     <message>
         <source>IDS_IMPORT_ADDED</source>
-        <translation>Добавится</translation>
+        <translation>Будет добавлена</translation>
     </message>
     <message>
         <source>IDS_IMPORT_MOVED_UP</source>
-        <translation>Поднимется</translation>
+        <translation>Будет перемещена вверх</translation>
     </message>
     <message>
         <source>IDS_IMPORT_MOVED_DOWN</source>
-        <translation>Опустится</translation>
+        <translation>Будет перемещена вниз</translation>
     </message>
     <message>
         <source>IDS_IMPORT_MOVED</source>
-        <translation>Другие переместятся вокруг</translation>
+        <translation>Останется; переместятся другие</translation>
     </message>
     <message>
         <source>IDS_IMPORT_REMOVED</source>
-        <translation>Исчезнет из списка</translation>
+        <translation>Будет убрана из списка</translation>
     </message>
     <message>
         <source>IDS_IMPORT_EFFECT_UNKNOWN</source>
-        <translation>%1; здесь неизвестна</translation>
+        <translation>%1; здесь не сохранена</translation>
     </message>
     <message>
         <source>IDS_IMPORT_UNKNOWN</source>
-        <translation>Неизвестны на этом компьютере: %1. Такая запись используется, только когда сеть здесь настроена.</translation>
+        <translation>Не сохранены на этом компьютере: %1. Эти сети не используются, пока не настроены здесь.</translation>
     </message>
     <message>
         <source>IDS_IMPORT_OK</source>
@@ -755,23 +835,23 @@
     </message>
     <message>
         <source>IDS_EXPORT_TITLE</source>
-        <translation>Экспорт порядка</translation>
+        <translation>Экспорт списка</translation>
     </message>
     <message>
         <source>IDS_EXPORT_HINT</source>
-        <translation>Записывает порядок вашего списка в файл, без ключей.</translation>
+        <translation>Сохраняет ваш список в файл, без ключей.</translation>
     </message>
     <message>
         <source>IDS_EXPORT_FILE_NAME</source>
-        <translation>network-order.xml</translation>
+        <translation>network-list.xml</translation>
     </message>
     <message>
         <source>IDS_EXPORT_NOT_WRITTEN</source>
-        <translation>Файл %1 не удаётся записать. То, что там было, не изменено.</translation>
+        <translation>Файл %1 не удаётся записать. Ничего не изменено.</translation>
     </message>
     <message>
         <source>IDS_ORDER_FILES</source>
-        <translation>Порядок сетей</translation>
+        <translation>Списки сетей</translation>
     </message>
     <message>
         <source>IDS_ALL_FILES</source>
@@ -779,23 +859,23 @@
     </message>
     <message>
         <source>IDS_LIST_NOT_WRITTEN</source>
-        <translation>Список не удаётся записать в %1. Проверьте, не заполнен ли диск и не защищён ли файл.</translation>
+        <translation>Список не удаётся записать в %1. Проверьте, не заполнен ли диск и не защищён ли файл от записи.</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_KEPT</source>
-        <translation>Повреждённый файл %1 не удаётся скопировать на всякий случай, поэтому он не тронут. Проверьте, не заполнен ли диск и не защищён ли каталог.</translation>
+        <translation>Не удаётся сделать резервную копию повреждённого файла %1, поэтому он не изменён. Проверьте, не заполнен ли диск и не защищена ли папка от записи.</translation>
     </message>
     <message>
         <source>IDS_HISTORY_DAMAGED</source>
-        <translation>Файл с прежними списками, %1, повреждён и не тронут. %2. Пока он не отложен через «Восстановить…», отменить ничего нельзя.</translation>
+        <translation>Файл с прежними списками, %1, повреждён и не изменён. %2. Чтобы снова пользоваться командой «Отменить», выберите «Прежние списки…» и начните новый файл. Повреждённый файл сохранится.</translation>
     </message>
     <message>
         <source>IDS_HISTORY_NOT_READABLE</source>
-        <translation>Файл с прежними списками, %1, не читается и не тронут. Пока он не станет доступен или не будет отложен через «Восстановить…», отменить ничего нельзя.</translation>
+        <translation>Файл с прежними списками, %1, не читается и не изменён. Чтобы снова пользоваться командой «Отменить», откройте доступ к файлу или выберите «Прежние списки…» и начните новый файл. Старый файл сохранится.</translation>
     </message>
     <message>
         <source>IDS_HISTORY_NOT_WRITABLE</source>
-        <translation>Прежние списки нельзя сохранять в %1. Изменения можно будет отменить только до завершения программы.</translation>
+        <translation>Прежние списки не удаётся сохранять в %1. Изменения можно отменить только до выхода из программы.</translation>
     </message>
     <message>
         <source>IDS_LIST_BUSY</source>
@@ -803,7 +883,7 @@
     </message>
     <message>
         <source>IDS_HISTORY_NOT_SET_ASIDE</source>
-        <translation>Файл %1 не удаётся переименовать, поэтому он не тронут.</translation>
+        <translation>Файл %1 не удаётся переименовать, поэтому новый не начат.</translation>
     </message>
     <message>
         <source>IDS_FAULT_LINE</source>
@@ -811,19 +891,19 @@
     </message>
     <message>
         <source>IDS_FAULT_XML</source>
-        <translation>это не правильно построенный XML</translation>
+        <translation>это некорректный XML</translation>
     </message>
     <message>
         <source>IDS_FAULT_DECLARATION</source>
-        <translation>здесь не место объявлению типа документа</translation>
+        <translation>здесь недопустимо объявление типа документа</translation>
     </message>
     <message>
         <source>IDS_FAULT_ELEMENT</source>
-        <translation>здесь не место элементу «%1»</translation>
+        <translation>здесь недопустим элемент «%1»</translation>
     </message>
     <message>
         <source>IDS_FAULT_TEXT</source>
-        <translation>здесь не место тексту</translation>
+        <translation>здесь недопустим текст</translation>
     </message>
     <message>
         <source>IDS_FAULT_ATTRIBUTE</source>
@@ -839,7 +919,7 @@
     </message>
     <message>
         <source>IDS_LIST_UNDO_DAMAGE</source>
-        <translation>«Отменить» вернёт последний список, который удалось прочитать.</translation>
+        <translation>«Отменить» восстановит последний полный список.</translation>
     </message>
     <message>
         <source>IDS_HEAD_SKIPPED</source>
@@ -847,43 +927,43 @@
     </message>
     <message>
         <source>IDS_HEAD_CONNECT_HINT</source>
-        <translation>«Подключиться…» покажет сети в зоне действия.</translation>
+        <translation>«Подключиться…» покажет другие сети в зоне действия.</translation>
     </message>
     <message>
         <source>IDS_WHY_OUT_OF_RANGE</source>
-        <translation>Сейчас недоступна: вне зоны действия.</translation>
+        <translation>Не используется, потому что вне зоны действия.</translation>
     </message>
     <message>
         <source>IDS_WHY_LOWER</source>
-        <translation>Доступна, но %1 выше в списке.</translation>
+        <translation>Не используется, потому что %1 выше в списке.</translation>
     </message>
     <message>
         <source>IDS_WHY_UNDECIDED</source>
-        <translation>Доступна, но неизвестно, есть ли в зоне действия сеть выше в списке.</translation>
+        <translation>Не используется, потому что неизвестно, есть ли в зоне действия сеть выше в списке.</translation>
     </message>
     <message>
         <source>IDS_ACTION_TRACE_SEARCH</source>
-        <translation>&amp;Найти в трассировке…</translation>
+        <translation>&amp;Найти в журнале…</translation>
     </message>
     <message>
         <source>IDS_TRACE_SEARCH</source>
-        <translation>Поиск в трассировке</translation>
+        <translation>Поиск в журнале</translation>
     </message>
     <message>
         <source>IDS_TRACE_NEXT</source>
-        <translation>Следующее место</translation>
+        <translation>Следующее совпадение</translation>
     </message>
     <message>
         <source>IDS_TRACE_PREVIOUS</source>
-        <translation>Предыдущее место</translation>
+        <translation>Предыдущее совпадение</translation>
     </message>
     <message>
         <source>IDS_TRACE_MATCHES</source>
-        <translation>Найдено: %1</translation>
+        <translation>Совпадений: %1</translation>
     </message>
     <message>
         <source>IDS_TRACE_NO_MATCH</source>
-        <translation>Не найдено</translation>
+        <translation>Нет совпадений</translation>
     </message>
     <message>
         <source>IDS_MENU_APPEARANCE</source>
@@ -891,7 +971,7 @@
     </message>
     <message>
         <source>IDS_APPEARANCE_SYSTEM</source>
-        <translation>&amp;Как на рабочем столе</translation>
+        <translation>&amp;Как в системе</translation>
     </message>
     <message>
         <source>IDS_APPEARANCE_LIGHT</source>
@@ -910,31 +990,31 @@
     </message>
     <message>
         <source>IDS_WLAN_KEPT_READ_ONLY</source>
-        <translation>Сеть «%1» не изменена: сеть с таким именем уже настроена, и менять её нельзя.</translation>
+        <translation>Сеть «%1» не изменена: сеть с таким именем уже сохранена, и менять её нельзя.</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_SEVERAL</source>
-        <translation>Ничего не изменено: под именем «%1» настроено несколько сетей, и неизвестно, какая имеется в виду. Выберите другое имя.</translation>
+        <translation>Ничего не изменено: под именем «%1» сохранено несколько сетей, и неизвестно, какая имеется в виду. Выберите другое имя.</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_UNDESCRIBED</source>
-        <translation>Сеть «%1» не изменена: сеть с таким именем уже настроена, и у неё есть то, чего здесь не ввести, например учётная запись. Измените её там, где она настроена, или выберите другое имя.</translation>
+        <translation>Сеть «%1» не изменена: сеть с таким именем уже сохранена, и у неё есть данные, которые здесь ввести нельзя, например учётная запись. Измените её там, где она настроена, или выберите другое имя.</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_STRONGER</source>
-        <translation>Сеть «%1» не изменена: сеть с таким именем уже настроена, а эта защита или это шифрование слабее. Выберите не слабее прежнего или другое имя.</translation>
+        <translation>Сеть «%1» не изменена: сеть с таким именем уже сохранена, а эта защита или это шифрование слабее. Выберите не слабее прежнего или другое имя.</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_KEY</source>
-        <translation>Сеть «%1» не изменена: сеть с таким именем уже настроена, и для изменения нужен полный ключ. Введите его или выберите другое имя.</translation>
+        <translation>Сеть «%1» не изменена: сеть с таким именем уже сохранена, и для изменения нужен полный ключ. Введите ключ или выберите другое имя.</translation>
     </message>
     <message>
         <source>IDS_WLAN_BETTER_PROFILE</source>
-        <translation>Сеть «%1» не сохранена: эта же сеть уже настроена как «%2», и лучше, чем так. Добавьте в список «%2».</translation>
+        <translation>Сеть «%1» не сохранена: эта же сеть уже сохранена как «%2», и её настройки лучше. Добавьте в список «%2».</translation>
     </message>
     <message>
         <source>IDS_WLAN_BAD_NAME</source>
-        <translation>Сеть «%1» не сохранена: имя сети занимает от 1 до 32 байт. Буквы с диакритикой и другие письменности занимают от двух до четырёх байт на знак.</translation>
+        <translation>Сеть «%1» не сохранена: имя сети занимает от 1 до 32 байт. Кириллица, буквы с диакритикой и знаки других письменностей занимают от двух до четырёх байт каждый.</translation>
     </message>
     <message>
         <source>IDS_WLAN_BAD_SECURITY</source>
@@ -942,7 +1022,7 @@
     </message>
     <message>
         <source>IDS_WLAN_NO_ACCOUNT</source>
-        <translation>Сеть «%1» не сохранена: для этой защиты нужна учётная запись, а здесь её ввести нельзя. Настройте сеть в параметрах рабочего стола, затем добавьте её в список.</translation>
+        <translation>Сеть «%1» не сохранена: для этой защиты нужна учётная запись, а здесь её ввести нельзя. Настройте сеть в настройках рабочего стола, затем добавьте её в свой список.</translation>
     </message>
     <message>
         <source>IDS_WLAN_NOT_RUNNING</source>
@@ -954,7 +1034,7 @@
     </message>
     <message>
         <source>IDS_WLAN_DENIED</source>
-        <translation>Сеть «%1» не сохранена: на этом компьютере у вас нет на это прав.</translation>
+        <translation>Сеть «%1» не сохранена: у вас нет прав сохранять сети на этом компьютере.</translation>
     </message>
     <message>
         <source>IDS_WLAN_REFUSED</source>
@@ -966,15 +1046,15 @@
     </message>
     <message>
         <source>IDS_WLAN_FILE_UNUSABLE</source>
-        <translation>Сеть «%1» не сохранена: файл настроенных сетей не удаётся прочитать или записать. Подробнее — в трассировке.</translation>
+        <translation>Сеть «%1» не сохранена: файл сохранённых сетей не удаётся прочитать или записать. Подробности есть в журнале.</translation>
     </message>
     <message>
         <source>IDS_WLAN_FILE_DAMAGED</source>
-        <translation>Сеть «%1» не сохранена: файл настроенных сетей повреждён и оставлен как есть. Строка указана в трассировке.</translation>
+        <translation>Сеть «%1» не сохранена: файл сохранённых сетей повреждён и не изменён. Строка указана в журнале.</translation>
     </message>
     <message>
         <source>IDS_WLAN_BUSY</source>
-        <translation>Сеть «%1» не сохранена: другая программа меняет сети. Попробуйте ещё раз.</translation>
+        <translation>Сеть «%1» не сохранена: другая программа меняет сети. Попробуйте ещё раз чуть позже.</translation>
     </message>
 </context>
 </TS>
