@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>IDS_PROFILE_INFO</source>
-        <translation>عند توفّر أكثر من شبكة من هذه الشبكات، تُستخدم الشبكة الأعلى في القائمة.</translation>
+        <translation>عندما تكون عدة شبكات منها ضمن النطاق، تُستخدم الشبكة الأعلى في القائمة.</translation>
     </message>
     <message>
         <source>IDS_PROFILE_UP</source>
@@ -69,7 +69,7 @@
     </message>
     <message>
         <source>IDS_AUTHENTICATION</source>
-        <translation>المصادقة</translation>
+        <translation>الأمن</translation>
     </message>
     <message>
         <source>IDS_ENCRYPTION</source>
@@ -77,7 +77,7 @@
     </message>
     <message>
         <source>IDS_KEYINDEX</source>
-        <translation>رقم المفتاح</translation>
+        <translation>فهرس WEP</translation>
     </message>
     <message>
         <source>IDS_EAP_METHOD</source>
@@ -89,7 +89,7 @@
     </message>
     <message>
         <source>IDS_WARNING_DELETE</source>
-        <translation>هل تريد إزالة الشبكة المحددة من قائمة الأولوية؟</translation>
+        <translation>هل تريد إزالة الشبكة المحددة من قائمتك؟</translation>
     </message>
     <message>
         <source>IDS_ERROR_EMPTY_SSID</source>
@@ -97,29 +97,29 @@
     </message>
     <message>
         <source>IDS_PROFILE_NAME_REPEAT</source>
-        <translation>توجد شبكة بهذا الاسم في قائمة الأولوية بالفعل.</translation>
+        <translation>توجد شبكة بهذا الاسم في قائمتك بالفعل. أدخل اسمًا آخر.</translation>
     </message>
     <message>
         <source>IDS_ERROR_KEY_WRONG_LENGTH_40</source>
-        <translation>المفتاح غير مناسب لـ WEP. يجب أن يتكوّن من 5 أحرف أو 13 حرفًا، أو من 10 أو 26 أو 32 رقمًا ست عشريًا (&#x202a;0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F&#x202c;).
+        <translation>هذا ليس مفتاح WEP صالحًا. يتكوّن مفتاح WEP من ٥ أحرف أو ١٣ حرفًا، أو من ١٠ أو ٢٦ أو ٣٢ رقمًا ست عشريًا (&#x202a;0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F&#x202c;).
 
-يُسمح بالحروف والأرقام والرموز التالية:
+يمكنك استخدام الحروف والأرقام والرموز التالية:
 &#x200e;- _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :&#x200e;</translation>
     </message>
     <message>
         <source>IDS_ERROR_KEY_WRONG_LENGTH_128</source>
-        <translation>المفتاح غير مناسب لـ WPA. يجب أن يتكوّن من 8 أحرف إلى 63 حرفًا، أو من 64 رقمًا ست عشريًا (&#x202a;0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F&#x202c;).
+        <translation>هذا ليس مفتاح WPA صالحًا. يتكوّن مفتاح WPA من ٨ أحرف إلى ٦٣ حرفًا، أو من ٦٤ رقمًا ست عشريًا (&#x202a;0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F&#x202c;).
 
-يُسمح بالحروف والأرقام والرموز التالية:
+يمكنك استخدام الحروف والأرقام والرموز التالية:
 &#x200e;- _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :&#x200e;</translation>
     </message>
     <message>
         <source>IDS_ERROR_KEY_DIFFERENT</source>
-        <translation>المفتاحان غير متطابقين. أدخل المفتاح نفسه في الحقلين، مع مراعاة حالة الأحرف الكبيرة والصغيرة.</translation>
+        <translation>المفتاحان مختلفان. أدخل المفتاح نفسه في الحقلين، مع مراعاة حالة الأحرف الكبيرة والصغيرة.</translation>
     </message>
     <message>
         <source>IDS_ERROR_WRONG_AUTHENTICATION</source>
-        <translation>اختر أسلوب المصادقة.</translation>
+        <translation>اختر نوع الأمن.</translation>
     </message>
 </context>
 <context>
@@ -127,6 +127,21 @@
     <message>
         <source>IDS_LANGUAGE_NAME</source>
         <translation>العربية</translation>
+    </message>
+    <message>
+        <source>IDS_SENTENCES</source>
+        <extracomment>Two sentences, one behind the other. Chinese and Japanese have no blank there</extracomment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>IDS_NAMES</source>
+        <extracomment>Names of networks side by side. %1: the first ones, %2: one more</extracomment>
+        <translation>%1، %2</translation>
+    </message>
+    <message>
+        <source>IDS_LABEL</source>
+        <extracomment>%1: a label, such as Wi-Fi; %2: what is told about it</extracomment>
+        <translation>&#x200f;%1: %2</translation>
     </message>
     <message>
         <source>IDS_WINDOW_TITLE</source>
@@ -162,7 +177,7 @@
     </message>
     <message>
         <source>IDS_ACTION_TRACE</source>
-        <translation>إظهار سجل الت&amp;تبّع</translation>
+        <translation>إظ&amp;هار السجل</translation>
     </message>
     <message>
         <source>IDS_BUTTON_CONNECT</source>
@@ -178,15 +193,15 @@
     </message>
     <message>
         <source>IDS_BUTTON_TRACE</source>
-        <translation>إظهار التتبّع</translation>
+        <translation>إظهار السجل</translation>
     </message>
     <message>
         <source>IDS_TRACE_TITLE</source>
-        <translation>سجل التتبّع</translation>
+        <translation>السجل</translation>
     </message>
     <message>
         <source>IDS_LOG_NOT_WRITABLE</source>
-        <translation>تعذّرت الكتابة في ملف السجل &#x202a;%1&#x202c;؛ يظهر التتبّع هنا فقط.</translation>
+        <translation>تعذّرت الكتابة في ملف السجل &#x202a;%1&#x202c;. يظهر السجل هنا فقط.</translation>
     </message>
     <message>
         <source>IDS_OK</source>
@@ -202,7 +217,7 @@
     </message>
     <message>
         <source>IDS_CONNECT_HINT</source>
-        <translation>توضع الشبكة التي تتصل بها في أعلى قائمتك.</translation>
+        <translation>تُنقل الشبكة التي تتصل بها إلى أول قائمتك.</translation>
     </message>
     <message>
         <source>IDS_CONNECT_NETWORK</source>
@@ -222,19 +237,19 @@
     </message>
     <message>
         <source>IDS_CONNECT_NONE</source>
-        <translation>لا توجد شبكة في المدى. عندما توجد واحدة، افتح هذه النافذة من جديد.</translation>
+        <translation>لا توجد شبكة ضمن النطاق. افتح هذه النافذة مجددًا عند توفّر شبكة.</translation>
     </message>
     <message>
         <source>IDS_CONNECT_NO_WLAN</source>
-        <translation>إضافة الواي فاي غير متوفرة، لذلك لا توجد شبكة للاتصال بها.</translation>
+        <translation>ملحقة الواي فاي غير متوفرة، لذلك لا توجد شبكة للاتصال بها.</translation>
     </message>
     <message>
         <source>IDS_CONNECT_NO_PRIORITY</source>
-        <translation>الإضافة التي تحفظ القائمة غير متوفرة، لذلك لا يمكن وضع شبكة في أعلاها.</translation>
+        <translation>الملحقة التي تدير القائمة غير متوفرة، لذلك لا يمكن نقل شبكة إلى أول قائمتك.</translation>
     </message>
     <message>
         <source>IDS_CONNECT_DAMAGED</source>
-        <translation>لا يمكن قراءة قائمتك كاملة، لذلك لا توضع أي شبكة في أعلاها.</translation>
+        <translation>تتعذّر قراءة قائمتك كاملة، لذلك لا يمكن نقل شبكة إلى أول القائمة.</translation>
     </message>
     <message>
         <source>IDS_CLOSE</source>
@@ -246,7 +261,7 @@
     </message>
     <message>
         <source>IDS_SETTINGS_KEYS</source>
-        <translation>بلوحة المفاتيح: &#x202a;Ctrl+↑&#x202c; و&#x202a;Ctrl+↓&#x202c; لاختيار إدخال، و↑ و↓ لنقله.</translation>
+        <translation>لوحة المفاتيح: &#x202a;Ctrl+↑&#x202c; و&#x202a;Ctrl+↓&#x202c; لاختيار شبكة، و↑ و↓ لنقلها.</translation>
     </message>
     <message>
         <source>IDS_PLUGIN_PRIORITY</source>
@@ -258,7 +273,7 @@
     </message>
     <message>
         <source>IDS_PLUGIN_WLAN_STORED</source>
-        <translation>واي فاي (شبكات من ملف)</translation>
+        <translation>واي فاي (شبكات للتجربة)</translation>
     </message>
     <message>
         <source>IDS_GENERAL_TITLE</source>
@@ -270,7 +285,7 @@
     </message>
     <message>
         <source>IDS_GENERAL_PLUGINS</source>
-        <translation>الإضافات</translation>
+        <translation>الملحقات</translation>
     </message>
     <message>
         <source>IDS_GENERAL_PLUGIN_WORKS</source>
@@ -286,7 +301,7 @@
     </message>
     <message>
         <source>IDS_GENERAL_PLACES</source>
-        <translation>حول هذه اللوحة</translation>
+        <translation>حول هذا البرنامج</translation>
     </message>
     <message>
         <source>IDS_GENERAL_USER_DATA</source>
@@ -294,7 +309,7 @@
     </message>
     <message>
         <source>IDS_GENERAL_PLUGIN_LIBRARY</source>
-        <translation>موضع الإضافات: &#x202a;%1&#x202c;</translation>
+        <translation>مجلد الملحقات: &#x202a;%1&#x202c;</translation>
     </message>
     <message>
         <source>IDS_GENERAL_VERSION</source>
@@ -302,7 +317,7 @@
     </message>
     <message>
         <source>IDS_PAGE_NOT_SHOWN</source>
-        <translation>يتعذّر عرض هذه الصفحة: حُمّلت الإضافة &#x202a;%1&#x202c; لكنها لا تقدّم صفحتها. قد يوضّح سجل التتبّع المزيد.</translation>
+        <translation>يتعذّر عرض هذه الصفحة: حُمّلت الملحقة &#x202a;%1&#x202c; لكنها لا تقدّم الصفحة. راجع السجل لمعرفة التفاصيل.</translation>
     </message>
     <message>
         <source>IDS_KIND_WIFI</source>
@@ -310,7 +325,7 @@
     </message>
     <message>
         <source>IDS_KIND_MOBILE</source>
-        <translation>النطاق العريض للجوال</translation>
+        <translation>شبكة هاتف محمول</translation>
     </message>
     <message>
         <source>IDS_STATE_IN_USE</source>
@@ -318,19 +333,19 @@
     </message>
     <message>
         <source>IDS_STATE_IN_RANGE</source>
-        <translation>في المدى</translation>
+        <translation>ضمن النطاق</translation>
     </message>
     <message>
         <source>IDS_STATE_OUT_OF_RANGE</source>
-        <translation>خارج المدى</translation>
+        <translation>خارج النطاق</translation>
     </message>
     <message>
         <source>IDS_STATE_UNKNOWN</source>
-        <translation>غير معروف إن كانت في المدى</translation>
+        <translation>غير معروف إن كانت ضمن النطاق</translation>
     </message>
     <message>
         <source>IDS_STATE_FALLBACK</source>
-        <translation>جاهزة كبديل</translation>
+        <translation>جاهزة</translation>
     </message>
     <message>
         <source>IDS_HEAD_IN_USE</source>
@@ -338,39 +353,49 @@
     </message>
     <message>
         <source>IDS_HEAD_IN_USE_WIFI</source>
-        <translation>هي أول شبكة في قائمتك تقع في المدى.</translation>
+        <translation>هي أول شبكة ضمن النطاق في قائمتك.</translation>
     </message>
     <message>
         <source>IDS_HEAD_IN_USE_MOBILE</source>
-        <translation>لا توجد في المدى شبكة واي فاي تسبقها في قائمتك.</translation>
+        <translation>لا توجد ضمن النطاق شبكة واي فاي أعلى منها في قائمتك.</translation>
     </message>
     <message>
         <source>IDS_HEAD_NONE</source>
         <translation>لا توجد شبكة قيد الاستخدام</translation>
     </message>
     <message>
+        <source>IDS_HEAD_UNKNOWN</source>
+        <extracomment>In place of the network in use when it is not known which one that is</extracomment>
+        <translation>الاتصال غير معروف</translation>
+    </message>
+    <message>
         <source>IDS_HEAD_EMPTY</source>
         <translation>قائمتك فارغة، فلا يوجد ما يمكن الاختيار منه.</translation>
     </message>
     <message>
+        <source>IDS_HEAD_UNREADABLE</source>
+        <extracomment>The list is damaged or cannot be opened; a message below tells which</extracomment>
+        <translation>تتعذّر قراءة قائمتك كاملة، لذلك لا يُعرف أي شبكة هي الأولى.</translation>
+    </message>
+    <message>
         <source>IDS_HEAD_NOTHING_IN_RANGE</source>
-        <translation>لا توجد في المدى أي شبكة من قائمتك.</translation>
+        <translation>لا توجد ضمن النطاق أي شبكة من قائمتك.</translation>
     </message>
     <message>
         <source>IDS_HEAD_RANGE_UNKNOWN</source>
-        <translation>إضافة الواي فاي غير متوفرة، لذلك لا يُعرف أي الشبكات في المدى.</translation>
+        <translation>ملحقة الواي فاي غير متوفرة، لذلك لا يُعرف أي الشبكات ضمن النطاق.</translation>
     </message>
     <message>
         <source>IDS_HEAD_NO_PRIORITY_PLUGIN</source>
-        <translation>الإضافة التي تحفظ القائمة غير متوفرة.</translation>
+        <translation>الملحقة التي تدير القائمة غير متوفرة.</translation>
     </message>
     <message>
         <source>IDS_LIST_DAMAGED</source>
-        <translation>الملف الذي يحوي قائمتك تالف. لا يُعرض إلا ما قبل موضع التلف.</translation>
+        <translation>الملف الذي يحوي قائمتك تالف. لا تظهر إلا الشبكات التي تسبق موضع التلف.</translation>
     </message>
     <message>
         <source>IDS_LIST_KEPT</source>
-        <translation>نُسخ الملف إلى %1. ولن يغيّره هذا البرنامج إلا بعد أن تقرر ما يجب فعله.</translation>
+        <translation>حُفظت نسخة من الملف باسم %1. لن يغيّر هذا البرنامج قائمتك حتى تقرّر ما يجب فعله.</translation>
     </message>
     <message>
         <source>IDS_BUTTON_REPAIR</source>
@@ -382,103 +407,103 @@
     </message>
     <message>
         <source>IDS_DAMAGE_READ</source>
-        <translation>لا يمكن قراءة الملف الذي يحوي قائمتك حتى نهايته. عدد الشبكات التي أمكنت قراءتها: %1.</translation>
+        <translation>تتعذّر قراءة الملف الذي يحوي قائمتك حتى نهايته. عدد الشبكات التي أمكنت قراءتها: %1.</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_LAST</source>
-        <translation>آخر قائمة كاملة هي قائمة %1. عدد الشبكات فيها: %2.</translation>
+        <translation>آخر قائمة كاملة تعود إلى %1. عدد الشبكات فيها: %2.</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_NO_LAST</source>
-        <translation>لا توجد قائمة سابقة يمكن إرجاعها.</translation>
+        <translation>لا توجد قائمة سابقة يمكن استعادتها.</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_COPY</source>
-        <translation>مهما اخترت، يُحفظ الملف التالف باسم %1.</translation>
+        <translation>أيًا كان اختيارك، يُحتفظ بالملف التالف باسم %1.</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_BRING_BACK</source>
-        <translation>إرجاع آخر قائمة كاملة</translation>
+        <translation>استعادة آخر قائمة كاملة</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_GO_ON</source>
-        <translation>المتابعة بما أمكنت قراءته</translation>
+        <translation>الاحتفاظ بالشبكات التي أمكنت قراءتها</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_LEAVE</source>
-        <translation>تركه كما هو</translation>
+        <translation>ترك الملف كما هو</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_OPENED</source>
-        <translation>الملف الذي يحوي قائمتك موجود لكن يتعذّر فتحه. تحقّق من أذوناته ثم حدّث العرض.</translation>
+        <translation>الملف الذي يحوي قائمتك موجود لكن يتعذّر فتحه. تحقّق من أذوناته ثم اختر «تحديث».</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_OFFERED</source>
-        <translation>حُمّلت الإضافة &#x202a;%1&#x202c; لكنها لا تقدّم القائمة.</translation>
+        <translation>حُمّلت الملحقة &#x202a;%1&#x202c; لكنها لا تقدّم القائمة.</translation>
     </message>
     <message>
         <source>IDS_NO_LIST_TITLE</source>
-        <translation>لا توجد قائمة لعرضها</translation>
+        <translation>يتعذّر عرض قائمتك</translation>
     </message>
     <message>
         <source>IDS_EMPTY_TITLE</source>
-        <translation>قائمة الأولوية فارغة</translation>
+        <translation>قائمتك فارغة</translation>
     </message>
     <message>
         <source>IDS_EMPTY_HINT</source>
-        <translation>افتح الإعدادات ثم اختر «إضافة» للشبكات التي يتذكّرها هذا الحاسوب، أو «جديدة» لإدخال شبكة بنفسك. تُفضَّل الشبكة الأعلى في القائمة.</translation>
+        <translation>افتح الإعدادات ثم اختر «إضافة» للشبكات المحفوظة على هذا الحاسوب، أو «جديدة» لإدخال شبكة بنفسك. تُفضَّل الشبكة الأعلى في القائمة.</translation>
     </message>
     <message>
         <source>IDS_EMPTY_UNREADABLE</source>
-        <translation>لا يمكن قراءة أي شيء منها. راجع الرسالة أعلاه.</translation>
+        <translation>الرسالة أعلاه توضّح السبب.</translation>
     </message>
     <message>
         <source>IDS_LOAD_NOT_LOADED</source>
-        <translation>الإضافة &#x202a;%1&#x202c; غير محمّلة.</translation>
+        <translation>الملحقة &#x202a;%1&#x202c; غير محمّلة.</translation>
     </message>
     <message>
         <source>IDS_LOAD_MISSING</source>
-        <translation>الإضافة &#x202a;%1&#x202c; غير موجودة. ثبّتها، أو شغّل اللوحة بالخيار &#x202a;--library-path&#x202c; مع المجلد الذي يحوي المجلد &#x202a;plugins/&#x202c;.</translation>
+        <translation>لم يُعثر على الملحقة &#x202a;%1&#x202c;. ثبّتها، أو شغّل البرنامج بالخيار &#x202a;--library-path&#x202c; مع المجلد الذي يحوي &#x202a;plugins/&#x202c;.</translation>
     </message>
     <message>
         <source>IDS_LOAD_CUT</source>
-        <translation>الإضافة &#x202a;%1&#x202c; ناقصة: ينتهي ملفها قبل أوانه، لذلك لا تُستخدم. أعد تثبيتها.</translation>
+        <translation>الملحقة &#x202a;%1&#x202c; ناقصة: ينتهي ملفها قبل أوانه، لذلك لا تُستخدم. أعد تثبيتها.</translation>
     </message>
     <message>
         <source>IDS_LOAD_OTHER_TOOLKIT</source>
-        <translation>بُنيت الإضافة &#x202a;%1&#x202c; لجيل آخر من Qt، لذلك لا تُستخدم.
+        <translation>بُنيت الملحقة &#x202a;%1&#x202c; لإصدار رئيسي آخر من Qt، لذلك لا تُستخدم.
 الموجود: &#x202a;Qt %2&#x202c;
 المتوقّع: &#x202a;Qt %3&#x202c;</translation>
     </message>
     <message>
         <source>IDS_LOAD_NOT_A_LIBRARY</source>
-        <translation>يتعذّر تحميل الإضافة &#x202a;%1&#x202c; كمكتبة: &#x202a;%2&#x202c;</translation>
+        <translation>يتعذّر تحميل الملحقة &#x202a;%1&#x202c; كمكتبة: &#x202a;%2&#x202c;</translation>
     </message>
     <message>
         <source>IDS_LOAD_NO_VERIFICATION</source>
-        <translation>لا تذكر الإضافة &#x202a;%1&#x202c; ما بُنيت لأجله، لذلك لا تُستخدم.</translation>
+        <translation>لا تذكر الملحقة &#x202a;%1&#x202c; ما بُنيت لأجله، لذلك لا تُستخدم.</translation>
     </message>
     <message>
         <source>IDS_LOAD_REFUSED</source>
-        <translation>بُنيت الإضافة &#x202a;%1&#x202c; للوحة أخرى، لذلك لا تُستخدم.
+        <translation>بُنيت الملحقة &#x202a;%1&#x202c; لبرنامج آخر، لذلك لا تُستخدم.
 الموجود: &#x202a;%2&#x202c;
 المتوقّع: &#x202a;%3&#x202c;</translation>
     </message>
     <message>
         <source>IDS_LOAD_NO_ENTRY_POINT</source>
-        <translation>لا تحوي المكتبة &#x202a;%1&#x202c; نقطة دخول لإضافة، لذلك لا تُستخدم.</translation>
+        <translation>المكتبة &#x202a;%1&#x202c; ليست ملحقة، لذلك لا تُستخدم.</translation>
     </message>
     <message>
         <source>IDS_LOAD_NULL_INSTANCE</source>
-        <translation>لم تقدّم الإضافة &#x202a;%1&#x202c; كائنًا للعمل معه، لذلك لا تُستخدم.</translation>
+        <translation>لم تقدّم الملحقة &#x202a;%1&#x202c; كائنًا صالحًا للاستخدام، لذلك لا تُستخدم.</translation>
     </message>
     <message>
         <source>IDS_LOAD_NOT_A_PLUGIN</source>
-        <translation>ما قدّمته &#x202a;%1&#x202c; ليس إضافة لهذه اللوحة، لذلك لا يُستخدم.</translation>
+        <translation>ليست &#x202a;%1&#x202c; ملحقة لهذا البرنامج، لذلك لا تُستخدم.</translation>
     </message>
     <message>
         <source>IDS_LOAD_INIT_FAILED</source>
-        <translation>تفيد الإضافة &#x202a;%1&#x202c; بأنها لا تستطيع العمل، لذلك لا تُستخدم. قد يوضّح سجل التتبّع المزيد.</translation>
+        <translation>تعذّر بدء الملحقة &#x202a;%1&#x202c;، لذلك لا تُستخدم. راجع السجل لمعرفة التفاصيل.</translation>
     </message>
     <message>
         <source>IDS_LANGUAGE_UNREADABLE</source>
@@ -498,15 +523,15 @@
     </message>
     <message>
         <source>IDS_NOTE_NETWORKMANAGER</source>
-        <translation>شبكات هذا الحاسوب من &#x202a;NetworkManager&#x202c; الذي يتبع ترتيب هذه القائمة.</translation>
+        <translation>هذه شبكات هذا الحاسوب. يجرّبها &#x202a;NetworkManager&#x202c; بترتيب هذه القائمة.</translation>
     </message>
     <message>
         <source>IDS_NOTE_STORED</source>
-        <translation>شبكات خاصة بهذه اللوحة؛ أما شبكات هذا الحاسوب فلا تُمَسّ.</translation>
+        <translation>هذه شبكات للتجربة. لا تتغيّر شبكات هذا الحاسوب.</translation>
     </message>
     <message>
         <source>IDS_NOTE_STORED_STANDS_IN</source>
-        <translation>لا يتوفر &#x202a;NetworkManager&#x202c; للعمل معه. هذه شبكات خاصة بهذه اللوحة؛ أما شبكات هذا الحاسوب فلا تُمَسّ.</translation>
+        <translation>لا يتوفر &#x202a;NetworkManager&#x202c;، لذلك هذه شبكات للتجربة. لا تتغيّر شبكات هذا الحاسوب.</translation>
     </message>
     <message>
         <source>IDS_MENU_EDIT</source>
@@ -522,15 +547,15 @@
     </message>
     <message>
         <source>IDS_ACTION_RESTORE</source>
-        <translation>ا&amp;ستعادة…</translation>
+        <translation>القوائم ال&amp;سابقة…</translation>
     </message>
     <message>
         <source>IDS_ACTION_IMPORT</source>
-        <translation>است&amp;يراد الترتيب…</translation>
+        <translation>است&amp;يراد قائمة…</translation>
     </message>
     <message>
         <source>IDS_ACTION_EXPORT</source>
-        <translation>&amp;تصدير الترتيب…</translation>
+        <translation>&amp;تصدير القائمة…</translation>
     </message>
     <message>
         <source>IDS_BUTTON_UNDO</source>
@@ -542,11 +567,11 @@
     </message>
     <message>
         <source>IDS_BUTTON_RESTORE</source>
-        <translation>استعادة…</translation>
+        <translation>القوائم السابقة…</translation>
     </message>
     <message>
         <source>IDS_UNDO_WHAT</source>
-        <translation>تراجع: %1</translation>
+        <translation>تراجع عن: %1</translation>
     </message>
     <message>
         <source>IDS_REDO_WHAT</source>
@@ -558,15 +583,15 @@
     </message>
     <message>
         <source>IDS_REDO_NOTHING</source>
-        <translation>لم يُتراجع عن شيء، فلا شيء لإعادته.</translation>
+        <translation>لم يتم التراجع عن أي تغيير، لذلك لا يوجد ما يمكن إعادته.</translation>
     </message>
     <message>
         <source>IDS_REDO_DAMAGED</source>
-        <translation>ملف قائمتك تالف. يعيد «تراجع» آخر قائمة أمكنت قراءتها.</translation>
+        <translation>الملف الذي يحوي قائمتك تالف. يتيح «تراجع» استعادة آخر قائمة كاملة.</translation>
     </message>
     <message>
         <source>IDS_UNDO_NO_PLUGIN</source>
-        <translation>الملحق الذي يحفظ القائمة غير متوفر، لذا لا يمكن تغييرها.</translation>
+        <translation>الملحقة التي تدير القائمة غير متوفرة، لذلك لا يمكن تغيير القائمة.</translation>
     </message>
     <message>
         <source>IDS_LAST_CHANGE</source>
@@ -578,7 +603,7 @@
     </message>
     <message>
         <source>IDS_CHANGE_EMPTIED</source>
-        <translation>حُذفت كل الإدخالات</translation>
+        <translation>إزالة كل الشبكات</translation>
     </message>
     <message>
         <source>IDS_CHANGE_DAMAGED</source>
@@ -586,63 +611,118 @@
     </message>
     <message>
         <source>IDS_CHANGE_ADDED_ONE</source>
-        <translation>أُضيفت %1</translation>
+        <translation>إضافة %1</translation>
     </message>
     <message>
         <source>IDS_CHANGE_ADDED_MANY</source>
-        <translation>إدخالات مضافة: %1</translation>
+        <translation>إضافة %1 من الشبكات</translation>
     </message>
     <message>
         <source>IDS_CHANGE_DELETED_ONE</source>
-        <translation>حُذفت %1</translation>
+        <translation>إزالة %1</translation>
     </message>
     <message>
         <source>IDS_CHANGE_DELETED_MANY</source>
-        <translation>إدخالات محذوفة: %1</translation>
+        <translation>إزالة %1 من الشبكات</translation>
     </message>
     <message>
         <source>IDS_CHANGE_MOVED_UP</source>
-        <translation>نُقلت %1 إلى أعلى</translation>
+        <translation>نقل %1 إلى أعلى</translation>
     </message>
     <message>
         <source>IDS_CHANGE_MOVED_DOWN</source>
-        <translation>نُقلت %1 إلى أسفل</translation>
+        <translation>نقل %1 إلى أسفل</translation>
     </message>
     <message>
         <source>IDS_CHANGE_MOVED_TOP</source>
-        <translation>نُقلت %1 إلى أول القائمة</translation>
+        <translation>نقل %1 إلى أول القائمة</translation>
     </message>
     <message>
         <source>IDS_CHANGE_MOVED_END</source>
-        <translation>نُقلت %1 إلى آخر القائمة</translation>
+        <translation>نقل %1 إلى آخر القائمة</translation>
     </message>
     <message>
         <source>IDS_CHANGE_MOVED_MANY</source>
-        <translation>إدخالات منقولة: %1</translation>
+        <translation>نقل %1 من الشبكات</translation>
     </message>
     <message>
         <source>IDS_CHANGE_WENT_BACK</source>
-        <translation>عودة إلى قائمة %1</translation>
+        <translation>استعادة قائمة %1</translation>
     </message>
     <message>
         <source>IDS_CHANGE_UNNAMED</source>
         <translation>(بلا اسم)</translation>
     </message>
     <message>
+        <source>IDS_PLAN_NONE</source>
+        <extracomment>What will be done, before it is done</extracomment>
+        <translation>تبقى قائمتك كما هي.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_EMPTY</source>
+        <extracomment>What will be done, before it is done</extracomment>
+        <translation>ستُزال كل الشبكات.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_ADD_ONE</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>ستُضاف %1.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_ADD_MANY</source>
+        <extracomment>What will be done, before it is done. %1: a number, two or more</extracomment>
+        <translation>ستُضاف %1 من الشبكات.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_REMOVE_ONE</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>ستُزال %1.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_REMOVE_MANY</source>
+        <extracomment>What will be done, before it is done. %1: a number, two or more</extracomment>
+        <translation>ستُزال %1 من الشبكات.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_UP</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>ستُنقل %1 إلى أعلى.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_DOWN</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>ستُنقل %1 إلى أسفل.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_TOP</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>ستُنقل %1 إلى أول القائمة.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_END</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>ستُنقل %1 إلى آخر القائمة.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_MANY</source>
+        <extracomment>What will be done, before it is done. %1: a number, two or more</extracomment>
+        <translation>ستُنقل %1 من الشبكات.</translation>
+    </message>
+    <message>
         <source>IDS_RESTORE_TITLE</source>
-        <translation>استعادة قائمة سابقة</translation>
+        <translation>القوائم السابقة</translation>
     </message>
     <message>
         <source>IDS_RESTORE_HINT</source>
-        <translation>اختر الحال التي تريد أن تعود إليها قائمتك. وتبقى القائمة الحالية هنا أيضًا.</translation>
+        <translation>اختر القائمة التي تريد استعادتها. ستبقى القائمة الحالية محفوظة أيضًا.</translation>
     </message>
     <message>
         <source>IDS_RESTORE_TIME</source>
-        <translation>متى</translation>
+        <translation>الوقت</translation>
     </message>
     <message>
         <source>IDS_RESTORE_CHANGE</source>
-        <translation>ما الذي تغيّر</translation>
+        <translation>التغيير</translation>
     </message>
     <message>
         <source>IDS_RESTORE_STATUS</source>
@@ -654,7 +734,7 @@
     </message>
     <message>
         <source>IDS_RESTORE_UNDONE</source>
-        <translation>تُرُوجِع عنها</translation>
+        <translation>تم التراجع</translation>
     </message>
     <message>
         <source>IDS_RESTORE_OLDEST</source>
@@ -662,11 +742,11 @@
     </message>
     <message>
         <source>IDS_RESTORE_PREVIEW</source>
-        <translation>القائمة حينها</translation>
+        <translation>القائمة في ذلك الوقت</translation>
     </message>
     <message>
         <source>IDS_RESTORE_EFFECT</source>
-        <translation>ما تفعله الاستعادة: %1</translation>
+        <translation>نتيجة الاستعادة: %1</translation>
     </message>
     <message>
         <source>IDS_RESTORE_IS_NOW</source>
@@ -678,7 +758,7 @@
     </message>
     <message>
         <source>IDS_RESTORE_ASIDE</source>
-        <translation>نحّه جانبًا وابدأ من جديد</translation>
+        <translation>الاحتفاظ بالملف وبدء ملف جديد</translation>
     </message>
     <message>
         <source>IDS_RESTORE_GONE</source>
@@ -686,19 +766,19 @@
     </message>
     <message>
         <source>IDS_IMPORT_TITLE</source>
-        <translation>استيراد ترتيب</translation>
+        <translation>استيراد قائمة</translation>
     </message>
     <message>
         <source>IDS_IMPORT_HINT</source>
-        <translation>يأخذ قائمة من ملف. سترى أولًا ما الذي سيتغير.</translation>
+        <translation>استبدال قائمتك بقائمة من ملف، مع عرض التغييرات قبل تنفيذها.</translation>
     </message>
     <message>
         <source>IDS_IMPORT_SUMMARY</source>
-        <translation>ما يفعله الاستيراد: %1</translation>
+        <translation>نتيجة الاستيراد: %1</translation>
     </message>
     <message>
         <source>IDS_IMPORT_NO_CHANGE</source>
-        <translation>قائمتك بهذا الترتيب أصلًا. لا شيء لاستيراده.</translation>
+        <translation>قائمتك بهذا الترتيب بالفعل. لا يوجد ما يُستورد.</translation>
     </message>
     <message>
         <source>IDS_IMPORT_PLACE</source>
@@ -706,39 +786,39 @@
     </message>
     <message>
         <source>IDS_IMPORT_EFFECT</source>
-        <translation>ما يحدث</translation>
+        <translation>النتيجة</translation>
     </message>
     <message>
         <source>IDS_IMPORT_STAYS</source>
-        <translation>تبقى</translation>
+        <translation>تبقى في مكانها</translation>
     </message>
     <message>
         <source>IDS_IMPORT_ADDED</source>
-        <translation>تُضاف</translation>
+        <translation>ستُضاف</translation>
     </message>
     <message>
         <source>IDS_IMPORT_MOVED_UP</source>
-        <translation>تصعد</translation>
+        <translation>ستُنقل إلى أعلى</translation>
     </message>
     <message>
         <source>IDS_IMPORT_MOVED_DOWN</source>
-        <translation>تنزل</translation>
+        <translation>ستُنقل إلى أسفل</translation>
     </message>
     <message>
         <source>IDS_IMPORT_MOVED</source>
-        <translation>تتحرك غيرها حولها</translation>
+        <translation>تبقى في مكانها وستُنقل أخرى</translation>
     </message>
     <message>
         <source>IDS_IMPORT_REMOVED</source>
-        <translation>تُزال من القائمة</translation>
+        <translation>ستُزال من القائمة</translation>
     </message>
     <message>
         <source>IDS_IMPORT_EFFECT_UNKNOWN</source>
-        <translation>%1؛ غير معروفة هنا</translation>
+        <translation>%1؛ غير محفوظة هنا</translation>
     </message>
     <message>
         <source>IDS_IMPORT_UNKNOWN</source>
-        <translation>غير معروفة على هذا الحاسوب: %1. لا يُستخدم إدخال كهذا إلا بعد إعداد الشبكة هنا.</translation>
+        <translation>غير محفوظة على هذا الحاسوب: %1. لن تُستخدم هذه الشبكات إلا بعد إعدادها هنا.</translation>
     </message>
     <message>
         <source>IDS_IMPORT_OK</source>
@@ -746,31 +826,31 @@
     </message>
     <message>
         <source>IDS_IMPORT_NOT_READABLE</source>
-        <translation>لا يمكن قراءة الملف %1، أو هو أكبر بكثير من أن يكون قائمة. قائمتك كما كانت.</translation>
+        <translation>تتعذّر قراءة الملف %1، أو أن حجمه أكبر بكثير من حجم قائمة. لم تتغيّر قائمتك.</translation>
     </message>
     <message>
         <source>IDS_IMPORT_DAMAGED</source>
-        <translation>الملف %1 ليس قائمة شبكات يمكن استيرادها. %2. قائمتك كما كانت.</translation>
+        <translation>الملف %1 ليس قائمة شبكات يمكن استيرادها. %2. لم تتغيّر قائمتك.</translation>
     </message>
     <message>
         <source>IDS_EXPORT_TITLE</source>
-        <translation>تصدير الترتيب</translation>
+        <translation>تصدير القائمة</translation>
     </message>
     <message>
         <source>IDS_EXPORT_HINT</source>
-        <translation>يكتب ترتيب قائمتك في ملف، من دون أي مفاتيح.</translation>
+        <translation>حفظ قائمتك في ملف من دون أي مفاتيح.</translation>
     </message>
     <message>
         <source>IDS_EXPORT_FILE_NAME</source>
-        <translation>network-order.xml</translation>
+        <translation>network-list.xml</translation>
     </message>
     <message>
         <source>IDS_EXPORT_NOT_WRITTEN</source>
-        <translation>لا يمكن كتابة الملف %1. ما كان هناك من قبل باقٍ كما كان.</translation>
+        <translation>تتعذّر الكتابة في الملف %1. لم يتغيّر شيء.</translation>
     </message>
     <message>
         <source>IDS_ORDER_FILES</source>
-        <translation>ترتيبات الشبكات</translation>
+        <translation>قوائم الشبكات</translation>
     </message>
     <message>
         <source>IDS_ALL_FILES</source>
@@ -778,31 +858,31 @@
     </message>
     <message>
         <source>IDS_LIST_NOT_WRITTEN</source>
-        <translation>لا يمكن كتابة القائمة في %1. تحقق مما إذا كان القرص ممتلئًا أو الملف محميًا.</translation>
+        <translation>تتعذّر كتابة القائمة في %1. تحقّق مما إذا كان القرص ممتلئًا أو الملف محميًا من الكتابة.</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_KEPT</source>
-        <translation>لا يمكن نسخ الملف التالف %1 لحفظه، لذا تُرك كما هو. تحقق مما إذا كان القرص ممتلئًا أو المجلد محميًا.</translation>
+        <translation>يتعذّر إنشاء نسخة احتياطية من الملف التالف %1، لذلك لم يُغيَّر. تحقّق مما إذا كان القرص ممتلئًا أو المجلد محميًا من الكتابة.</translation>
     </message>
     <message>
         <source>IDS_HISTORY_DAMAGED</source>
-        <translation>الملف الذي فيه القوائم السابقة، %1، تالف وتُرك كما هو. %2. لا يمكن التراجع عن شيء قبل تنحيته جانبًا في «استعادة…».</translation>
+        <translation>الملف الذي يحوي القوائم السابقة، %1، تالف ولم يُغيَّر. %2. لاستخدام «تراجع» مجددًا، اختر «القوائم السابقة…» وابدأ ملفًا جديدًا. سيُحتفظ بالملف التالف.</translation>
     </message>
     <message>
         <source>IDS_HISTORY_NOT_READABLE</source>
-        <translation>لا يمكن قراءة الملف الذي فيه القوائم السابقة، %1، وتُرك كما هو. لا يمكن التراجع عن شيء إلى أن تمكن قراءته أو يُنحّى جانبًا في «استعادة…».</translation>
+        <translation>تتعذّر قراءة الملف الذي يحوي القوائم السابقة، %1، ولم يُغيَّر. لاستخدام «تراجع» مجددًا، اجعل الملف قابلًا للقراءة، أو اختر «القوائم السابقة…» وابدأ ملفًا جديدًا. سيُحتفظ بالملف القديم.</translation>
     </message>
     <message>
         <source>IDS_HISTORY_NOT_WRITABLE</source>
-        <translation>لا يمكن حفظ القوائم السابقة في %1. يمكن التراجع عما تغيّره إلى أن ينتهي البرنامج فقط.</translation>
+        <translation>يتعذّر حفظ القوائم السابقة في %1. لا يمكن التراجع عن التغييرات إلا قبل إنهاء البرنامج.</translation>
     </message>
     <message>
         <source>IDS_LIST_BUSY</source>
-        <translation>برنامج آخر يعمل على القائمة. حاول مرة أخرى بعد لحظة.</translation>
+        <translation>يستخدم برنامج آخر القائمة. حاول مرة أخرى بعد قليل.</translation>
     </message>
     <message>
         <source>IDS_HISTORY_NOT_SET_ASIDE</source>
-        <translation>لا يمكن إعادة تسمية الملف %1، لذا تُرك كما هو.</translation>
+        <translation>تتعذّر إعادة تسمية الملف %1، لذلك لم يُبدأ ملف جديد.</translation>
     </message>
     <message>
         <source>IDS_FAULT_LINE</source>
@@ -814,75 +894,75 @@
     </message>
     <message>
         <source>IDS_FAULT_DECLARATION</source>
-        <translation>لا مكان هنا لتصريح عن نوع المستند</translation>
+        <translation>تصريح نوع المستند غير مسموح به هنا</translation>
     </message>
     <message>
         <source>IDS_FAULT_ELEMENT</source>
-        <translation>لا مكان هنا للعنصر «%1»</translation>
+        <translation>العنصر «%1» غير مسموح به هنا</translation>
     </message>
     <message>
         <source>IDS_FAULT_TEXT</source>
-        <translation>لا مكان هنا لنص</translation>
+        <translation>النص غير مسموح به هنا</translation>
     </message>
     <message>
         <source>IDS_FAULT_ATTRIBUTE</source>
-        <translation>السمة «%1» ناقصة</translation>
+        <translation>السمة «%1» مفقودة</translation>
     </message>
     <message>
         <source>IDS_FAULT_VALUE</source>
-        <translation>للسمة «%1» قيمة غير ممكنة</translation>
+        <translation>قيمة السمة «%1» غير صالحة</translation>
     </message>
     <message>
         <source>IDS_FAULT_TOO_MANY</source>
-        <translation>عناصر «%1» أكثر مما يجوز</translation>
+        <translation>عدد العناصر «%1» أكبر من المسموح</translation>
     </message>
     <message>
         <source>IDS_LIST_UNDO_DAMAGE</source>
-        <translation>يعيد «تراجع» آخر قائمة أمكنت قراءتها.</translation>
+        <translation>يتيح «تراجع» استعادة آخر قائمة كاملة.</translation>
     </message>
     <message>
         <source>IDS_HEAD_SKIPPED</source>
-        <translation>أعلى منها في القائمة لكن خارج المدى: %1.</translation>
+        <translation>أعلى منها في القائمة لكن خارج النطاق: %1.</translation>
     </message>
     <message>
         <source>IDS_HEAD_CONNECT_HINT</source>
-        <translation>يعرض «اتصال…» الشبكات الموجودة في المدى.</translation>
+        <translation>يعرض «اتصال…» الشبكات الأخرى ضمن النطاق.</translation>
     </message>
     <message>
         <source>IDS_WHY_OUT_OF_RANGE</source>
-        <translation>لا يمكن استخدامها الآن لأنها خارج المدى.</translation>
+        <translation>غير مستخدمة لأنها خارج النطاق.</translation>
     </message>
     <message>
         <source>IDS_WHY_LOWER</source>
-        <translation>يمكن استخدامها، لكن %1 أعلى منها في القائمة.</translation>
+        <translation>غير مستخدمة لأن %1 أعلى منها في القائمة.</translation>
     </message>
     <message>
         <source>IDS_WHY_UNDECIDED</source>
-        <translation>يمكن استخدامها، لكن ليس معروفًا هل توجد في المدى شبكة أعلى منها في القائمة.</translation>
+        <translation>غير مستخدمة لأنه لا يُعرف هل توجد ضمن النطاق شبكة أعلى منها في القائمة.</translation>
     </message>
     <message>
         <source>IDS_ACTION_TRACE_SEARCH</source>
-        <translation>&amp;بحث في التتبّع…</translation>
+        <translation>&amp;البحث في السجل…</translation>
     </message>
     <message>
         <source>IDS_TRACE_SEARCH</source>
-        <translation>البحث في التتبّع</translation>
+        <translation>البحث في السجل</translation>
     </message>
     <message>
         <source>IDS_TRACE_NEXT</source>
-        <translation>الموضع التالي</translation>
+        <translation>النتيجة التالية</translation>
     </message>
     <message>
         <source>IDS_TRACE_PREVIOUS</source>
-        <translation>الموضع السابق</translation>
+        <translation>النتيجة السابقة</translation>
     </message>
     <message>
         <source>IDS_TRACE_MATCHES</source>
-        <translation>عدد المواضع: %1</translation>
+        <translation>عدد النتائج: %1</translation>
     </message>
     <message>
         <source>IDS_TRACE_NO_MATCH</source>
-        <translation>لا يوجد</translation>
+        <translation>لا توجد نتائج</translation>
     </message>
     <message>
         <source>IDS_MENU_APPEARANCE</source>
@@ -909,71 +989,71 @@
     </message>
     <message>
         <source>IDS_WLAN_KEPT_READ_ONLY</source>
-        <translation>بقيت «%1» كما هي: توجد شبكة مُعدّة بهذا الاسم، ولا يجوز تغييرها.</translation>
+        <translation>لم تُغيَّر «%1»: توجد شبكة محفوظة بهذا الاسم، ولا يمكن تغييرها.</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_SEVERAL</source>
-        <translation>لم يتغيّر شيء: توجد عدة شبكات مُعدّة بالاسم «%1»، ولا يمكن معرفة المقصودة منها. اختر اسمًا آخر.</translation>
+        <translation>لم يتغيّر شيء: توجد عدة شبكات محفوظة بالاسم «%1»، ولا يُعرف أيّها المقصودة. اختر اسمًا آخر.</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_UNDESCRIBED</source>
-        <translation>بقيت «%1» كما هي: توجد شبكة مُعدّة بهذا الاسم، وفيها أكثر مما يمكن إدخاله هنا، مثل حساب. غيّرها حيث أُعدّت، أو اختر اسمًا آخر.</translation>
+        <translation>لم تُغيَّر «%1»: توجد شبكة محفوظة بهذا الاسم، وفيها بيانات لا يمكن إدخالها هنا، مثل حساب. غيّرها حيث جرى إعدادها، أو اختر اسمًا آخر.</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_STRONGER</source>
-        <translation>بقيت «%1» كما هي: توجد شبكة مُعدّة بهذا الاسم، وهذه المصادقة أو هذا التشفير أضعف. اختر ما لا يقل عنه، أو اختر اسمًا آخر.</translation>
+        <translation>لم تُغيَّر «%1»: توجد شبكة محفوظة بهذا الاسم، وهذا الأمن أو هذا التشفير أضعف. اختر ما لا يقل عنه قوة، أو اختر اسمًا آخر.</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_KEY</source>
-        <translation>بقيت «%1» كما هي: توجد شبكة مُعدّة بهذا الاسم، ويتطلب تغييرها مفتاحًا كاملًا. أدخل مفتاحًا، أو اختر اسمًا آخر.</translation>
+        <translation>لم تُغيَّر «%1»: توجد شبكة محفوظة بهذا الاسم، ويتطلب تغييرها مفتاحًا كاملًا. أدخل المفتاح، أو اختر اسمًا آخر.</translation>
     </message>
     <message>
         <source>IDS_WLAN_BETTER_PROFILE</source>
-        <translation>لم تُحفظ «%1»: الشبكة نفسها مُعدّة بالفعل باسم «%2»، وبشكل أفضل من هذا. أضِف «%2» إلى القائمة بدلًا منها.</translation>
+        <translation>الشبكة «%1» غير محفوظة: الشبكة نفسها محفوظة بالفعل باسم «%2»، والإعدادات هناك أفضل. أضِف «%2» إلى قائمتك بدلًا منها.</translation>
     </message>
     <message>
         <source>IDS_WLAN_BAD_NAME</source>
-        <translation>لم تُحفظ «%1»: يتكوّن اسم الشبكة من بايت واحد إلى 32 بايت. الحروف المشكّلة والكتابات الأخرى، ومنها العربية، يأخذ كل حرف منها من بايتين إلى أربعة.</translation>
+        <translation>الشبكة «%1» غير محفوظة: يتكوّن اسم الشبكة من بايت واحد إلى ٣٢ بايت. وكل حرف من الحروف المشكّلة ومن الكتابات الأخرى، ومنها العربية، يأخذ من بايتين إلى أربعة.</translation>
     </message>
     <message>
         <source>IDS_WLAN_BAD_SECURITY</source>
-        <translation>لم تُحفظ «%1»: هذه المصادقة وهذا التشفير وهذا المفتاح لا تتوافق معًا.</translation>
+        <translation>الشبكة «%1» غير محفوظة: هذا الأمن وهذا التشفير وهذا المفتاح لا تتوافق معًا.</translation>
     </message>
     <message>
         <source>IDS_WLAN_NO_ACCOUNT</source>
-        <translation>لم تُحفظ «%1»: تتطلب هذه المصادقة حسابًا لا يمكن إدخاله هنا. أعِدّ الشبكة في إعدادات سطح المكتب، ثم أضِفها إلى القائمة.</translation>
+        <translation>الشبكة «%1» غير محفوظة: يتطلب هذا الأمن حسابًا لا يمكن إدخاله هنا. يمكن إعداد الشبكة في الإعدادات الخاصة بسطح المكتب. أضِفها بعد ذلك إلى قائمتك.</translation>
     </message>
     <message>
         <source>IDS_WLAN_NOT_RUNNING</source>
-        <translation>لم تُحفظ «%1»&#x200f;: &#x202a;NetworkManager&#x202c; لا يعمل.</translation>
+        <translation>الشبكة «%1» غير محفوظة&#x200f;: &#x202a;NetworkManager&#x202c; لا يعمل.</translation>
     </message>
     <message>
         <source>IDS_WLAN_NO_ANSWER</source>
-        <translation>لا يُعرف هل حُفظت «%1»&#x200f;: &#x202a;NetworkManager&#x202c; لا يجيب.</translation>
+        <translation>لا يُعرف هل الشبكة «%1» محفوظة&#x200f;: &#x202a;NetworkManager&#x202c; لا يجيب.</translation>
     </message>
     <message>
         <source>IDS_WLAN_DENIED</source>
-        <translation>لم تُحفظ «%1»: ليس لديك إذن بذلك على هذا الحاسوب.</translation>
+        <translation>الشبكة «%1» غير محفوظة: ليس لديك إذن بحفظ الشبكات على هذا الحاسوب.</translation>
     </message>
     <message>
         <source>IDS_WLAN_REFUSED</source>
-        <translation>لم تُحفظ «%1»&#x200f;: &#x202a;NetworkManager&#x202c; لا يقبلها، والسبب على الأرجح هو المفتاح.</translation>
+        <translation>الشبكة «%1» غير محفوظة&#x200f;: &#x202a;NetworkManager&#x202c; لا يقبلها، والسبب على الأرجح هو المفتاح.</translation>
     </message>
     <message>
         <source>IDS_WLAN_FAILED</source>
-        <translation>لم تُحفظ «%1»: أبلغ &#x202a;NetworkManager&#x202c; عن خطأ.</translation>
+        <translation>الشبكة «%1» غير محفوظة: أبلغ &#x202a;NetworkManager&#x202c; عن خطأ.</translation>
     </message>
     <message>
         <source>IDS_WLAN_FILE_UNUSABLE</source>
-        <translation>لم تُحفظ «%1»: تتعذّر قراءة ملف الشبكات المُعدّة أو الكتابة فيه. في سجل التتبّع تفاصيل أكثر.</translation>
+        <translation>الشبكة «%1» غير محفوظة: تتعذّر قراءة ملف الشبكات المحفوظة أو الكتابة فيه. راجع السجل لمعرفة التفاصيل.</translation>
     </message>
     <message>
         <source>IDS_WLAN_FILE_DAMAGED</source>
-        <translation>لم تُحفظ «%1»: ملف الشبكات المُعدّة تالف، وتُرك كما هو. السطر مذكور في سجل التتبّع.</translation>
+        <translation>الشبكة «%1» غير محفوظة: ملف الشبكات المحفوظة تالف ولم يُغيَّر. راجع السجل لمعرفة السطر.</translation>
     </message>
     <message>
         <source>IDS_WLAN_BUSY</source>
-        <translation>لم تُحفظ «%1»: برنامج آخر يغيّر الشبكات الآن. حاول مرة أخرى.</translation>
+        <translation>الشبكة «%1» غير محفوظة: برنامج آخر يغيّر الشبكات الآن. حاول مرة أخرى بعد قليل.</translation>
     </message>
 </context>
 </TS>

@@ -69,7 +69,7 @@
     </message>
     <message>
         <source>IDS_AUTHENTICATION</source>
-        <translation>שיטת אימות</translation>
+        <translation>אבטחה</translation>
     </message>
     <message>
         <source>IDS_ENCRYPTION</source>
@@ -77,7 +77,7 @@
     </message>
     <message>
         <source>IDS_KEYINDEX</source>
-        <translation>מספר מפתח</translation>
+        <translation>אינדקס WEP</translation>
     </message>
     <message>
         <source>IDS_EAP_METHOD</source>
@@ -89,7 +89,7 @@
     </message>
     <message>
         <source>IDS_WARNING_DELETE</source>
-        <translation>להסיר את הרשת שנבחרה מרשימת העדיפויות?</translation>
+        <translation>להסיר את הרשת שנבחרה מהרשימה שלך?</translation>
     </message>
     <message>
         <source>IDS_ERROR_EMPTY_SSID</source>
@@ -97,29 +97,29 @@
     </message>
     <message>
         <source>IDS_PROFILE_NAME_REPEAT</source>
-        <translation>רשת בשם הזה כבר נמצאת ברשימת העדיפויות.</translation>
+        <translation>רשת בשם הזה כבר נמצאת ברשימה שלך. יש להזין שם אחר.</translation>
     </message>
     <message>
         <source>IDS_ERROR_KEY_WRONG_LENGTH_40</source>
-        <translation>המפתח אינו מתאים ל-WEP. עליו להכיל 5 או 13 תווים, או 10, 26 או 32 ספרות הקסדצימליות (&#x202a;0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F&#x202c;).
+        <translation>זה אינו מפתח WEP תקין. מפתח WEP מכיל 5 או 13 תווים, או 10, 26 או 32 ספרות הקסדצימליות (&#x202a;0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F&#x202c;).
 
-מותר להשתמש באותיות, בספרות ובסימנים אלה:
+אפשר להשתמש באותיות, בספרות ובסימנים אלה:
 &#x200e;- _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :&#x200e;</translation>
     </message>
     <message>
         <source>IDS_ERROR_KEY_WRONG_LENGTH_128</source>
-        <translation>המפתח אינו מתאים ל-WPA. עליו להכיל בין 8 ל-63 תווים, או 64 ספרות הקסדצימליות (&#x202a;0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F&#x202c;).
+        <translation>זה אינו מפתח WPA תקין. מפתח WPA מכיל בין 8 ל־63 תווים, או 64 ספרות הקסדצימליות (&#x202a;0–&#x2060;9,&#xa0;a–&#x2060;f,&#xa0;A–&#x2060;F&#x202c;).
 
-מותר להשתמש באותיות, בספרות ובסימנים אלה:
+אפשר להשתמש באותיות, בספרות ובסימנים אלה:
 &#x200e;- _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :&#x200e;</translation>
     </message>
     <message>
         <source>IDS_ERROR_KEY_DIFFERENT</source>
-        <translation>שני המפתחות שונים. יש להזין אותו מפתח בשני השדות, כולל אותיות גדולות וקטנות.</translation>
+        <translation>שני המפתחות שונים. יש להזין בשני השדות אותו מפתח, עם אותן אותיות גדולות וקטנות.</translation>
     </message>
     <message>
         <source>IDS_ERROR_WRONG_AUTHENTICATION</source>
-        <translation>יש לבחור שיטת אימות.</translation>
+        <translation>יש לבחור סוג אבטחה.</translation>
     </message>
 </context>
 <context>
@@ -127,6 +127,21 @@
     <message>
         <source>IDS_LANGUAGE_NAME</source>
         <translation>עברית</translation>
+    </message>
+    <message>
+        <source>IDS_SENTENCES</source>
+        <extracomment>Two sentences, one behind the other. Chinese and Japanese have no blank there</extracomment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>IDS_NAMES</source>
+        <extracomment>Names of networks side by side. %1: the first ones, %2: one more</extracomment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>IDS_LABEL</source>
+        <extracomment>%1: a label, such as Wi-Fi; %2: what is told about it</extracomment>
+        <translation>&#x200f;%1: %2</translation>
     </message>
     <message>
         <source>IDS_WINDOW_TITLE</source>
@@ -162,7 +177,7 @@
     </message>
     <message>
         <source>IDS_ACTION_TRACE</source>
-        <translation>הצגת &amp;מעקב</translation>
+        <translation>הצגת ה&amp;יומן</translation>
     </message>
     <message>
         <source>IDS_BUTTON_CONNECT</source>
@@ -178,15 +193,15 @@
     </message>
     <message>
         <source>IDS_BUTTON_TRACE</source>
-        <translation>הצגת מעקב</translation>
+        <translation>הצגת היומן</translation>
     </message>
     <message>
         <source>IDS_TRACE_TITLE</source>
-        <translation>מעקב</translation>
+        <translation>יומן</translation>
     </message>
     <message>
         <source>IDS_LOG_NOT_WRITABLE</source>
-        <translation>לא ניתן לכתוב לקובץ היומן &#x202a;%1&#x202c;; המעקב מוצג כאן בלבד.</translation>
+        <translation>לא ניתן לכתוב לקובץ היומן &#x202a;%1&#x202c;. היומן מוצג כאן בלבד.</translation>
     </message>
     <message>
         <source>IDS_OK</source>
@@ -222,19 +237,19 @@
     </message>
     <message>
         <source>IDS_CONNECT_NONE</source>
-        <translation>אין רשת בטווח. כאשר תהיה אחת, יש לפתוח חלון זה שוב.</translation>
+        <translation>אין רשת בטווח. יש לפתוח חלון זה שוב כשתהיה רשת זמינה.</translation>
     </message>
     <message>
         <source>IDS_CONNECT_NO_WLAN</source>
-        <translation>תוסף ה-Wi-Fi אינו זמין, ולכן אין רשת להתחבר אליה.</translation>
+        <translation>תוסף ה־Wi-Fi אינו זמין, ולכן אין רשת להתחבר אליה.</translation>
     </message>
     <message>
         <source>IDS_CONNECT_NO_PRIORITY</source>
-        <translation>התוסף ששומר את הרשימה אינו זמין, ולכן לא ניתן להעביר רשת לראשה.</translation>
+        <translation>התוסף שמנהל את הרשימה אינו זמין, ולכן לא ניתן להעביר רשת לראש הרשימה שלך.</translation>
     </message>
     <message>
         <source>IDS_CONNECT_DAMAGED</source>
-        <translation>לא ניתן לקרוא את כל הרשימה שלך, ולכן שום רשת לא מועברת לראשה.</translation>
+        <translation>לא ניתן לקרוא את הרשימה שלך במלואה, ולכן לא ניתן להעביר רשת לראש הרשימה.</translation>
     </message>
     <message>
         <source>IDS_CLOSE</source>
@@ -246,7 +261,7 @@
     </message>
     <message>
         <source>IDS_SETTINGS_KEYS</source>
-        <translation>במקלדת: &#x202a;Ctrl+↑&#x202c; ו־&#x202a;Ctrl+↓&#x202c; בוחרים רשומה, ↑ ו־↓ מזיזים אותה.</translation>
+        <translation>מקלדת: &#x202a;Ctrl+↑&#x202c; ו־&#x202a;Ctrl+↓&#x202c; בוחרים רשת, ↑ ו־↓ מזיזים אותה.</translation>
     </message>
     <message>
         <source>IDS_PLUGIN_PRIORITY</source>
@@ -258,7 +273,7 @@
     </message>
     <message>
         <source>IDS_PLUGIN_WLAN_STORED</source>
-        <translation>Wi-Fi (רשתות מקובץ)</translation>
+        <translation>רשתות Wi-Fi לתרגול</translation>
     </message>
     <message>
         <source>IDS_GENERAL_TITLE</source>
@@ -286,7 +301,7 @@
     </message>
     <message>
         <source>IDS_GENERAL_PLACES</source>
-        <translation>אודות הלוח</translation>
+        <translation>אודות התוכנה</translation>
     </message>
     <message>
         <source>IDS_GENERAL_USER_DATA</source>
@@ -294,7 +309,7 @@
     </message>
     <message>
         <source>IDS_GENERAL_PLUGIN_LIBRARY</source>
-        <translation>מיקום התוספים: &#x202a;%1&#x202c;</translation>
+        <translation>תיקיית התוספים: &#x202a;%1&#x202c;</translation>
     </message>
     <message>
         <source>IDS_GENERAL_VERSION</source>
@@ -302,7 +317,7 @@
     </message>
     <message>
         <source>IDS_PAGE_NOT_SHOWN</source>
-        <translation>לא ניתן להציג דף זה: התוסף &#x202a;%1&#x202c; נטען אך אינו מספק את הדף שלו. ייתכן שיש פרטים נוספים במעקב.</translation>
+        <translation>לא ניתן להציג דף זה: התוסף &#x202a;%1&#x202c; נטען אך אינו מספק את הדף. פרטים נוספים ביומן.</translation>
     </message>
     <message>
         <source>IDS_KIND_WIFI</source>
@@ -310,7 +325,7 @@
     </message>
     <message>
         <source>IDS_KIND_MOBILE</source>
-        <translation>פס רחב סלולרי</translation>
+        <translation>פס רחב נייד</translation>
     </message>
     <message>
         <source>IDS_STATE_IN_USE</source>
@@ -330,7 +345,7 @@
     </message>
     <message>
         <source>IDS_STATE_FALLBACK</source>
-        <translation>מוכן כגיבוי</translation>
+        <translation>מוכן</translation>
     </message>
     <message>
         <source>IDS_HEAD_IN_USE</source>
@@ -342,15 +357,25 @@
     </message>
     <message>
         <source>IDS_HEAD_IN_USE_MOBILE</source>
-        <translation>אין בטווח רשת Wi-Fi הקודמת לו ברשימה שלך.</translation>
+        <translation>אין בטווח רשת Wi-Fi גבוהה ממנה ברשימה שלך.</translation>
     </message>
     <message>
         <source>IDS_HEAD_NONE</source>
         <translation>אין רשת בשימוש</translation>
     </message>
     <message>
+        <source>IDS_HEAD_UNKNOWN</source>
+        <extracomment>In place of the network in use when it is not known which one that is</extracomment>
+        <translation>החיבור אינו ידוע</translation>
+    </message>
+    <message>
         <source>IDS_HEAD_EMPTY</source>
         <translation>הרשימה שלך ריקה, ולכן אין ממה לבחור.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_UNREADABLE</source>
+        <extracomment>The list is damaged or cannot be opened; a message below tells which</extracomment>
+        <translation>לא ניתן לקרוא את הרשימה שלך במלואה, ולכן לא ידוע איזו רשת ראשונה.</translation>
     </message>
     <message>
         <source>IDS_HEAD_NOTHING_IN_RANGE</source>
@@ -358,19 +383,19 @@
     </message>
     <message>
         <source>IDS_HEAD_RANGE_UNKNOWN</source>
-        <translation>תוסף ה-Wi-Fi אינו זמין, ולכן לא ידוע אילו רשתות בטווח.</translation>
+        <translation>תוסף ה־Wi-Fi אינו זמין, ולכן לא ידוע אילו רשתות בטווח.</translation>
     </message>
     <message>
         <source>IDS_HEAD_NO_PRIORITY_PLUGIN</source>
-        <translation>התוסף ששומר את הרשימה אינו זמין.</translation>
+        <translation>התוסף שמנהל את הרשימה אינו זמין.</translation>
     </message>
     <message>
         <source>IDS_LIST_DAMAGED</source>
-        <translation>הקובץ עם הרשימה שלך פגום. מוצג רק מה שלפני הפגם.</translation>
+        <translation>הקובץ עם הרשימה שלך פגום. מוצגות רק הרשתות שלפני החלק הפגום.</translation>
     </message>
     <message>
         <source>IDS_LIST_KEPT</source>
-        <translation>הקובץ הועתק אל %1. התוכנית הזו תשנה אותו רק אחרי שתחליט מה לעשות.</translation>
+        <translation>עותק של הקובץ נשמר בשם %1. התוכנה הזו לא תשנה את הרשימה שלך עד שתתקבל החלטה מה לעשות.</translation>
     </message>
     <message>
         <source>IDS_BUTTON_REPAIR</source>
@@ -378,7 +403,7 @@
     </message>
     <message>
         <source>IDS_DAMAGE_TITLE</source>
-        <translation>הרשימה שלך פגומה</translation>
+        <translation>הקובץ עם הרשימה שלך פגום</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_READ</source>
@@ -390,27 +415,27 @@
     </message>
     <message>
         <source>IDS_DAMAGE_NO_LAST</source>
-        <translation>אין רשימה קודמת שניתן להחזיר.</translation>
+        <translation>אין רשימה קודמת שניתנת לשחזור.</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_COPY</source>
-        <translation>בכל בחירה, הקובץ הפגום נשמר בשם %1.</translation>
+        <translation>בכל מקרה, הקובץ הפגום נשמר בשם %1.</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_BRING_BACK</source>
-        <translation>החזרת הרשימה השלמה האחרונה</translation>
+        <translation>שחזור הרשימה השלמה האחרונה</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_GO_ON</source>
-        <translation>להמשיך עם מה שניתן היה לקרוא</translation>
+        <translation>שמירת הרשתות שניתן היה לקרוא</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_LEAVE</source>
-        <translation>להשאיר כפי שהוא</translation>
+        <translation>השארת הקובץ כפי שהוא</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_OPENED</source>
-        <translation>הקובץ עם הרשימה שלך קיים אך לא ניתן לפתוח אותו. יש לבדוק את ההרשאות שלו ולרענן.</translation>
+        <translation>הקובץ עם הרשימה שלך קיים אך לא ניתן לפתוח אותו. יש לבדוק את ההרשאות שלו ואז לבחור „רענון”.</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_OFFERED</source>
@@ -418,19 +443,19 @@
     </message>
     <message>
         <source>IDS_NO_LIST_TITLE</source>
-        <translation>אין רשימה להצגה</translation>
+        <translation>לא ניתן להציג את הרשימה שלך</translation>
     </message>
     <message>
         <source>IDS_EMPTY_TITLE</source>
-        <translation>רשימת העדיפויות ריקה</translation>
+        <translation>הרשימה שלך ריקה</translation>
     </message>
     <message>
         <source>IDS_EMPTY_HINT</source>
-        <translation>יש לפתוח את ההגדרות ולבחור ״הוספה״ עבור רשתות שהמחשב זוכר, או ״חדשה״ להזנת רשת. הרשת הגבוהה ביותר ברשימה מועדפת.</translation>
+        <translation>יש לפתוח את ההגדרות ולבחור „הוספה” עבור רשתות השמורות במחשב הזה, או „חדשה” להזנת רשת. הרשת הגבוהה ביותר ברשימה מועדפת.</translation>
     </message>
     <message>
         <source>IDS_EMPTY_UNREADABLE</source>
-        <translation>לא ניתן לקרוא ממנה דבר. יש לעיין בהודעה שלמעלה.</translation>
+        <translation>ההודעה למעלה מסבירה מדוע.</translation>
     </message>
     <message>
         <source>IDS_LOAD_NOT_LOADED</source>
@@ -438,7 +463,7 @@
     </message>
     <message>
         <source>IDS_LOAD_MISSING</source>
-        <translation>התוסף &#x202a;%1&#x202c; אינו קיים. יש להתקין אותו, או להפעיל את הלוח עם &#x202a;--library-path&#x202c; והתיקייה שבה נמצאת התיקייה &#x202a;plugins/&#x202c;.</translation>
+        <translation>התוסף &#x202a;%1&#x202c; לא נמצא. יש להתקין אותו, או להפעיל את התוכנה עם &#x202a;--library-path&#x202c; והתיקייה שמכילה את &#x202a;plugins/&#x202c;.</translation>
     </message>
     <message>
         <source>IDS_LOAD_CUT</source>
@@ -446,7 +471,7 @@
     </message>
     <message>
         <source>IDS_LOAD_OTHER_TOOLKIT</source>
-        <translation>התוסף &#x202a;%1&#x202c; נבנה עבור דור אחר של Qt, ולכן אינו בשימוש.
+        <translation>התוסף &#x202a;%1&#x202c; נבנה עבור גרסה ראשית אחרת של Qt, ולכן אינו בשימוש.
 נמצא: &#x202a;Qt %2&#x202c;
 נדרש: &#x202a;Qt %3&#x202c;</translation>
     </message>
@@ -460,13 +485,13 @@
     </message>
     <message>
         <source>IDS_LOAD_REFUSED</source>
-        <translation>התוסף &#x202a;%1&#x202c; נבנה עבור לוח אחר, ולכן אינו בשימוש.
+        <translation>התוסף &#x202a;%1&#x202c; נבנה עבור תוכנה אחרת, ולכן אינו בשימוש.
 נמצא: &#x202a;%2&#x202c;
 נדרש: &#x202a;%3&#x202c;</translation>
     </message>
     <message>
         <source>IDS_LOAD_NO_ENTRY_POINT</source>
-        <translation>לספרייה &#x202a;%1&#x202c; אין נקודת כניסה של תוסף, ולכן אינה בשימוש.</translation>
+        <translation>הספרייה &#x202a;%1&#x202c; אינה תוסף, ולכן אינה בשימוש.</translation>
     </message>
     <message>
         <source>IDS_LOAD_NULL_INSTANCE</source>
@@ -474,11 +499,11 @@
     </message>
     <message>
         <source>IDS_LOAD_NOT_A_PLUGIN</source>
-        <translation>מה שסיפק &#x202a;%1&#x202c; אינו תוסף של לוח זה, ולכן אינו בשימוש.</translation>
+        <translation>הקובץ &#x202a;%1&#x202c; אינו תוסף של תוכנה זו, ולכן אינו בשימוש.</translation>
     </message>
     <message>
         <source>IDS_LOAD_INIT_FAILED</source>
-        <translation>התוסף &#x202a;%1&#x202c; מדווח שאינו יכול לפעול, ולכן אינו בשימוש. ייתכן שיש פרטים נוספים במעקב.</translation>
+        <translation>לא ניתן היה להפעיל את התוסף &#x202a;%1&#x202c;, ולכן אינו בשימוש. פרטים נוספים ביומן.</translation>
     </message>
     <message>
         <source>IDS_LANGUAGE_UNREADABLE</source>
@@ -486,7 +511,7 @@
     </message>
     <message>
         <source>IDS_LANGUAGE_DAMAGED</source>
-        <translation>קובץ השפה &#x202a;%1&#x202c; פגום החל מבית %2, ולכן אינו בשימוש.</translation>
+        <translation>קובץ השפה &#x202a;%1&#x202c; פגום החל מבייט %2, ולכן אינו בשימוש.</translation>
     </message>
     <message>
         <source>IDS_LANGUAGE_NO_TEXTS</source>
@@ -498,15 +523,15 @@
     </message>
     <message>
         <source>IDS_NOTE_NETWORKMANAGER</source>
-        <translation>הרשתות של המחשב, מתוך &#x202a;NetworkManager&#x202c;, שפועל לפי סדר הרשימה הזו.</translation>
+        <translation>אלה הרשתות של המחשב הזה. &#x202a;NetworkManager&#x202c; מנסה אותן לפי הסדר ברשימה הזו.</translation>
     </message>
     <message>
         <source>IDS_NOTE_STORED</source>
-        <translation>רשתות של הלוח בלבד; הרשתות של המחשב אינן משתנות.</translation>
+        <translation>אלה רשתות לתרגול. הרשתות של המחשב הזה אינן משתנות.</translation>
     </message>
     <message>
         <source>IDS_NOTE_STORED_STANDS_IN</source>
-        <translation>אין &#x202a;NetworkManager&#x202c; לעבוד איתו. אלה רשתות של הלוח בלבד; הרשתות של המחשב אינן משתנות.</translation>
+        <translation>התוכנה &#x202a;NetworkManager&#x202c; אינה זמינה, ולכן אלה רשתות לתרגול. הרשתות של המחשב הזה אינן משתנות.</translation>
     </message>
     <message>
         <source>IDS_MENU_EDIT</source>
@@ -522,15 +547,15 @@
     </message>
     <message>
         <source>IDS_ACTION_RESTORE</source>
-        <translation>&amp;שחזור…</translation>
+        <translation>&amp;רשימות קודמות…</translation>
     </message>
     <message>
         <source>IDS_ACTION_IMPORT</source>
-        <translation>י&amp;יבוא סדר…</translation>
+        <translation>י&amp;יבוא רשימה…</translation>
     </message>
     <message>
         <source>IDS_ACTION_EXPORT</source>
-        <translation>יי&amp;צוא סדר…</translation>
+        <translation>יי&amp;צוא הרשימה…</translation>
     </message>
     <message>
         <source>IDS_BUTTON_UNDO</source>
@@ -542,7 +567,7 @@
     </message>
     <message>
         <source>IDS_BUTTON_RESTORE</source>
-        <translation>שחזור…</translation>
+        <translation>רשימות קודמות…</translation>
     </message>
     <message>
         <source>IDS_UNDO_WHAT</source>
@@ -562,11 +587,11 @@
     </message>
     <message>
         <source>IDS_REDO_DAMAGED</source>
-        <translation>הקובץ עם הרשימה פגום. „ביטול פעולה” מחזיר את הרשימה האחרונה שניתן היה לקרוא.</translation>
+        <translation>הקובץ עם הרשימה שלך פגום. „ביטול פעולה” מאפשר שחזור של הרשימה השלמה האחרונה.</translation>
     </message>
     <message>
         <source>IDS_UNDO_NO_PLUGIN</source>
-        <translation>התוסף ששומר את הרשימה אינו זמין, ולכן אי אפשר לשנות אותה.</translation>
+        <translation>התוסף שמנהל את הרשימה אינו זמין, ולכן לא ניתן לשנות את הרשימה.</translation>
     </message>
     <message>
         <source>IDS_LAST_CHANGE</source>
@@ -578,7 +603,7 @@
     </message>
     <message>
         <source>IDS_CHANGE_EMPTIED</source>
-        <translation>נמחקו כל הרשומות</translation>
+        <translation>הסרת כל הרשתות</translation>
     </message>
     <message>
         <source>IDS_CHANGE_DAMAGED</source>
@@ -586,63 +611,118 @@
     </message>
     <message>
         <source>IDS_CHANGE_ADDED_ONE</source>
-        <translation>%1 נוספה</translation>
+        <translation>הוספת %1</translation>
     </message>
     <message>
         <source>IDS_CHANGE_ADDED_MANY</source>
-        <translation>רשומות שנוספו: %1</translation>
+        <translation>הוספת %1 רשתות</translation>
     </message>
     <message>
         <source>IDS_CHANGE_DELETED_ONE</source>
-        <translation>%1 נמחקה</translation>
+        <translation>הסרת %1</translation>
     </message>
     <message>
         <source>IDS_CHANGE_DELETED_MANY</source>
-        <translation>רשומות שנמחקו: %1</translation>
+        <translation>הסרת %1 רשתות</translation>
     </message>
     <message>
         <source>IDS_CHANGE_MOVED_UP</source>
-        <translation>%1 הועברה למעלה</translation>
+        <translation>העברת %1 למעלה</translation>
     </message>
     <message>
         <source>IDS_CHANGE_MOVED_DOWN</source>
-        <translation>%1 הועברה למטה</translation>
+        <translation>העברת %1 למטה</translation>
     </message>
     <message>
         <source>IDS_CHANGE_MOVED_TOP</source>
-        <translation>%1 הועברה לראש הרשימה</translation>
+        <translation>העברת %1 לראש הרשימה</translation>
     </message>
     <message>
         <source>IDS_CHANGE_MOVED_END</source>
-        <translation>%1 הועברה לסוף הרשימה</translation>
+        <translation>העברת %1 לסוף הרשימה</translation>
     </message>
     <message>
         <source>IDS_CHANGE_MOVED_MANY</source>
-        <translation>רשומות שהועברו: %1</translation>
+        <translation>העברת %1 רשתות</translation>
     </message>
     <message>
         <source>IDS_CHANGE_WENT_BACK</source>
-        <translation>חזרה לרשימה מיום %1</translation>
+        <translation>שחזור הרשימה מיום %1</translation>
     </message>
     <message>
         <source>IDS_CHANGE_UNNAMED</source>
         <translation>(ללא שם)</translation>
     </message>
     <message>
+        <source>IDS_PLAN_NONE</source>
+        <extracomment>What will be done, before it is done</extracomment>
+        <translation>הרשימה שלך נשארת כפי שהיא.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_EMPTY</source>
+        <extracomment>What will be done, before it is done</extracomment>
+        <translation>כל הרשתות יוסרו.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_ADD_ONE</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>הרשת %1 תתווסף.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_ADD_MANY</source>
+        <extracomment>What will be done, before it is done. %1: a number, two or more</extracomment>
+        <translation>יתווספו %1 רשתות.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_REMOVE_ONE</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>הרשת %1 תוסר.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_REMOVE_MANY</source>
+        <extracomment>What will be done, before it is done. %1: a number, two or more</extracomment>
+        <translation>יוסרו %1 רשתות.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_UP</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>הרשת %1 תועבר למעלה.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_DOWN</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>הרשת %1 תועבר למטה.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_TOP</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>הרשת %1 תועבר לראש הרשימה.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_END</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>הרשת %1 תועבר לסוף הרשימה.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_MANY</source>
+        <extracomment>What will be done, before it is done. %1: a number, two or more</extracomment>
+        <translation>יועברו %1 רשתות.</translation>
+    </message>
+    <message>
         <source>IDS_RESTORE_TITLE</source>
-        <translation>שחזור רשימה קודמת</translation>
+        <translation>רשימות קודמות</translation>
     </message>
     <message>
         <source>IDS_RESTORE_HINT</source>
-        <translation>בחר איך הרשימה תהיה שוב. גם הרשימה הנוכחית נשארת כאן.</translation>
+        <translation>יש לבחור את הרשימה לשחזור. גם הרשימה הנוכחית תישמר.</translation>
     </message>
     <message>
         <source>IDS_RESTORE_TIME</source>
-        <translation>מתי</translation>
+        <translation>מועד</translation>
     </message>
     <message>
         <source>IDS_RESTORE_CHANGE</source>
-        <translation>מה השתנה</translation>
+        <translation>שינוי</translation>
     </message>
     <message>
         <source>IDS_RESTORE_STATUS</source>
@@ -662,11 +742,11 @@
     </message>
     <message>
         <source>IDS_RESTORE_PREVIEW</source>
-        <translation>הרשימה אז</translation>
+        <translation>הרשימה באותו מועד</translation>
     </message>
     <message>
         <source>IDS_RESTORE_EFFECT</source>
-        <translation>מה השחזור עושה: %1</translation>
+        <translation>תוצאת השחזור: %1</translation>
     </message>
     <message>
         <source>IDS_RESTORE_IS_NOW</source>
@@ -678,27 +758,27 @@
     </message>
     <message>
         <source>IDS_RESTORE_ASIDE</source>
-        <translation>הנח אותו בצד והתחל מחדש</translation>
+        <translation>שמירת הקובץ ופתיחת קובץ חדש</translation>
     </message>
     <message>
         <source>IDS_RESTORE_GONE</source>
-        <translation>רשימה זו כבר אינה שמורה. בחר אחרת.</translation>
+        <translation>רשימה זו כבר אינה שמורה. יש לבחור רשימה אחרת.</translation>
     </message>
     <message>
         <source>IDS_IMPORT_TITLE</source>
-        <translation>ייבוא סדר</translation>
+        <translation>ייבוא רשימה</translation>
     </message>
     <message>
         <source>IDS_IMPORT_HINT</source>
-        <translation>לוקח רשימה מקובץ. תראה קודם מה ישתנה.</translation>
+        <translation>החלפת הרשימה שלך ברשימה מקובץ. אפשר לבדוק את השינויים לפני ביצועם.</translation>
     </message>
     <message>
         <source>IDS_IMPORT_SUMMARY</source>
-        <translation>מה הייבוא עושה: %1</translation>
+        <translation>תוצאת הייבוא: %1</translation>
     </message>
     <message>
         <source>IDS_IMPORT_NO_CHANGE</source>
-        <translation>הרשימה כבר בסדר הזה. אין מה לייבא.</translation>
+        <translation>הרשימה שלך כבר בסדר הזה. אין מה לייבא.</translation>
     </message>
     <message>
         <source>IDS_IMPORT_PLACE</source>
@@ -706,39 +786,39 @@
     </message>
     <message>
         <source>IDS_IMPORT_EFFECT</source>
-        <translation>מה קורה</translation>
+        <translation>תוצאה</translation>
     </message>
     <message>
         <source>IDS_IMPORT_STAYS</source>
-        <translation>נשארת</translation>
+        <translation>נשארת במקומה</translation>
     </message>
     <message>
         <source>IDS_IMPORT_ADDED</source>
-        <translation>מתווספת</translation>
+        <translation>תתווסף</translation>
     </message>
     <message>
         <source>IDS_IMPORT_MOVED_UP</source>
-        <translation>עולה</translation>
+        <translation>תועבר למעלה</translation>
     </message>
     <message>
         <source>IDS_IMPORT_MOVED_DOWN</source>
-        <translation>יורדת</translation>
+        <translation>תועבר למטה</translation>
     </message>
     <message>
         <source>IDS_IMPORT_MOVED</source>
-        <translation>אחרות זזות סביבה</translation>
+        <translation>נשארת במקומה; אחרות יועברו</translation>
     </message>
     <message>
         <source>IDS_IMPORT_REMOVED</source>
-        <translation>מוסרת מהרשימה</translation>
+        <translation>תוסר מהרשימה</translation>
     </message>
     <message>
         <source>IDS_IMPORT_EFFECT_UNKNOWN</source>
-        <translation>%1; לא מוכרת כאן</translation>
+        <translation>%1; לא שמורה כאן</translation>
     </message>
     <message>
         <source>IDS_IMPORT_UNKNOWN</source>
-        <translation>לא מוכרות במחשב הזה: %1. רשומה כזו תשמש רק לאחר שהרשת תוגדר כאן.</translation>
+        <translation>לא שמורות במחשב הזה: %1. הרשתות האלה לא ישמשו עד שיוגדרו כאן.</translation>
     </message>
     <message>
         <source>IDS_IMPORT_OK</source>
@@ -746,31 +826,31 @@
     </message>
     <message>
         <source>IDS_IMPORT_NOT_READABLE</source>
-        <translation>לא ניתן לקרוא את הקובץ %1, או שהוא גדול מדי לרשימה. הרשימה שלך כפי שהייתה.</translation>
+        <translation>לא ניתן לקרוא את הקובץ %1, או שהוא גדול מדי לרשימה. הרשימה שלך לא השתנתה.</translation>
     </message>
     <message>
         <source>IDS_IMPORT_DAMAGED</source>
-        <translation>הקובץ %1 אינו רשימת רשתות שאפשר לייבא. %2. הרשימה שלך כפי שהייתה.</translation>
+        <translation>הקובץ %1 אינו רשימת רשתות שאפשר לייבא. %2. הרשימה שלך לא השתנתה.</translation>
     </message>
     <message>
         <source>IDS_EXPORT_TITLE</source>
-        <translation>ייצוא הסדר</translation>
+        <translation>ייצוא הרשימה</translation>
     </message>
     <message>
         <source>IDS_EXPORT_HINT</source>
-        <translation>כותב את סדר הרשימה לקובץ, בלי שום מפתחות.</translation>
+        <translation>שמירת הרשימה שלך בקובץ, ללא מפתחות.</translation>
     </message>
     <message>
         <source>IDS_EXPORT_FILE_NAME</source>
-        <translation>network-order.xml</translation>
+        <translation>network-list.xml</translation>
     </message>
     <message>
         <source>IDS_EXPORT_NOT_WRITTEN</source>
-        <translation>לא ניתן לכתוב את הקובץ %1. מה שהיה שם קודם נשאר כפי שהיה.</translation>
+        <translation>לא ניתן לכתוב לקובץ %1. דבר לא השתנה.</translation>
     </message>
     <message>
         <source>IDS_ORDER_FILES</source>
-        <translation>סדרי רשתות</translation>
+        <translation>רשימות של רשתות</translation>
     </message>
     <message>
         <source>IDS_ALL_FILES</source>
@@ -778,31 +858,31 @@
     </message>
     <message>
         <source>IDS_LIST_NOT_WRITTEN</source>
-        <translation>לא ניתן לכתוב את הרשימה אל %1. בדוק אם הדיסק מלא או שהקובץ מוגן.</translation>
+        <translation>לא ניתן לכתוב את הרשימה אל %1. יש לבדוק אם הדיסק מלא או אם הקובץ מוגן מפני כתיבה.</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_KEPT</source>
-        <translation>לא ניתן להעתיק את הקובץ הפגום %1 לשמירה, ולכן הוא נשאר כפי שהוא. בדוק אם הדיסק מלא או שהתיקייה מוגנת.</translation>
+        <translation>לא ניתן לגבות את הקובץ הפגום %1, ולכן הוא לא שונה. יש לבדוק אם הדיסק מלא או אם התיקייה מוגנת מפני כתיבה.</translation>
     </message>
     <message>
         <source>IDS_HISTORY_DAMAGED</source>
-        <translation>הקובץ עם הרשימות הקודמות, %1, פגום ונשאר כפי שהוא. %2. עד שיונח בצד תחת „שחזור…” אי אפשר לבטל דבר.</translation>
+        <translation>הקובץ עם הרשימות הקודמות, %1, פגום ולא שונה. %2. כדי להשתמש שוב ב־„ביטול פעולה”, יש לבחור „רשימות קודמות…” ולפתוח קובץ חדש. הקובץ הפגום יישמר.</translation>
     </message>
     <message>
         <source>IDS_HISTORY_NOT_READABLE</source>
-        <translation>לא ניתן לקרוא את הקובץ עם הרשימות הקודמות, %1, והוא נשאר כפי שהוא. עד שניתן יהיה, או שיונח בצד תחת „שחזור…”, אי אפשר לבטל דבר.</translation>
+        <translation>לא ניתן לקרוא את הקובץ עם הרשימות הקודמות, %1, והוא לא שונה. כדי להשתמש שוב ב־„ביטול פעולה”, יש לאפשר את קריאת הקובץ, או לבחור „רשימות קודמות…” ולפתוח קובץ חדש. הקובץ הישן יישמר.</translation>
     </message>
     <message>
         <source>IDS_HISTORY_NOT_WRITABLE</source>
-        <translation>לא ניתן לשמור רשימות קודמות אל %1. מה שתשנה ניתן לביטול רק עד סיום התוכנית.</translation>
+        <translation>לא ניתן לשמור רשימות קודמות אל %1. אפשר לבטל שינויים רק עד ליציאה מהתוכנה.</translation>
     </message>
     <message>
         <source>IDS_LIST_BUSY</source>
-        <translation>תוכנית אחרת עובדת עם הרשימה. נסה שוב בעוד רגע.</translation>
+        <translation>תוכנה אחרת משתמשת ברשימה. יש לנסות שוב בעוד רגע.</translation>
     </message>
     <message>
         <source>IDS_HISTORY_NOT_SET_ASIDE</source>
-        <translation>לא ניתן לשנות את שם הקובץ %1, ולכן הוא נשאר כפי שהוא.</translation>
+        <translation>לא ניתן לשנות את שם הקובץ %1, ולכן לא נפתח קובץ חדש.</translation>
     </message>
     <message>
         <source>IDS_FAULT_LINE</source>
@@ -814,15 +894,15 @@
     </message>
     <message>
         <source>IDS_FAULT_DECLARATION</source>
-        <translation>הצהרה על סוג המסמך אינה שייכת לשם</translation>
+        <translation>הצהרה על סוג המסמך אינה מותרת כאן</translation>
     </message>
     <message>
         <source>IDS_FAULT_ELEMENT</source>
-        <translation>הרכיב „%1” אינו שייך לשם</translation>
+        <translation>הרכיב „%1” אינו מותר כאן</translation>
     </message>
     <message>
         <source>IDS_FAULT_TEXT</source>
-        <translation>טקסט אינו שייך לשם</translation>
+        <translation>טקסט אינו מותר כאן</translation>
     </message>
     <message>
         <source>IDS_FAULT_ATTRIBUTE</source>
@@ -830,59 +910,59 @@
     </message>
     <message>
         <source>IDS_FAULT_VALUE</source>
-        <translation>לתכונה „%1” יש ערך שאינו אפשרי</translation>
+        <translation>הערך של התכונה „%1” אינו תקין</translation>
     </message>
     <message>
         <source>IDS_FAULT_TOO_MANY</source>
-        <translation>יש יותר מדי רכיבי „%1”</translation>
+        <translation>יש יותר מדי רכיבים „%1”</translation>
     </message>
     <message>
         <source>IDS_LIST_UNDO_DAMAGE</source>
-        <translation>„ביטול פעולה” מחזיר את הרשימה האחרונה שניתן היה לקרוא.</translation>
+        <translation>„ביטול פעולה” מאפשר שחזור של הרשימה השלמה האחרונה.</translation>
     </message>
     <message>
         <source>IDS_HEAD_SKIPPED</source>
-        <translation>גבוה יותר ברשימה אך מחוץ לטווח: %1.</translation>
+        <translation>רשתות גבוהות יותר ברשימה שמחוץ לטווח: %1.</translation>
     </message>
     <message>
         <source>IDS_HEAD_CONNECT_HINT</source>
-        <translation>„התחברות…” מציג את הרשתות שבטווח.</translation>
+        <translation>„התחברות…” מציג את שאר הרשתות שבטווח.</translation>
     </message>
     <message>
         <source>IDS_WHY_OUT_OF_RANGE</source>
-        <translation>אי אפשר להשתמש בה כעת, כי היא מחוץ לטווח.</translation>
+        <translation>לא בשימוש, כי היא מחוץ לטווח.</translation>
     </message>
     <message>
         <source>IDS_WHY_LOWER</source>
-        <translation>אפשר היה להשתמש בה, אבל %1 גבוהה ממנה ברשימה.</translation>
+        <translation>לא בשימוש, כי %1 גבוהה ממנה ברשימה.</translation>
     </message>
     <message>
         <source>IDS_WHY_UNDECIDED</source>
-        <translation>אפשר היה להשתמש בה, אבל לא ידוע אם רשת גבוהה ממנה ברשימה נמצאת בטווח.</translation>
+        <translation>לא בשימוש, כי לא ידוע אם רשת גבוהה ממנה ברשימה נמצאת בטווח.</translation>
     </message>
     <message>
         <source>IDS_ACTION_TRACE_SEARCH</source>
-        <translation>&amp;חיפוש במעקב…</translation>
+        <translation>&amp;חיפוש ביומן…</translation>
     </message>
     <message>
         <source>IDS_TRACE_SEARCH</source>
-        <translation>חיפוש במעקב</translation>
+        <translation>חיפוש ביומן</translation>
     </message>
     <message>
         <source>IDS_TRACE_NEXT</source>
-        <translation>המקום הבא</translation>
+        <translation>התוצאה הבאה</translation>
     </message>
     <message>
         <source>IDS_TRACE_PREVIOUS</source>
-        <translation>המקום הקודם</translation>
+        <translation>התוצאה הקודמת</translation>
     </message>
     <message>
         <source>IDS_TRACE_MATCHES</source>
-        <translation>נמצאו: %1</translation>
+        <translation>תוצאות: %1</translation>
     </message>
     <message>
         <source>IDS_TRACE_NO_MATCH</source>
-        <translation>לא נמצא</translation>
+        <translation>אין תוצאות</translation>
     </message>
     <message>
         <source>IDS_MENU_APPEARANCE</source>
@@ -909,71 +989,71 @@
     </message>
     <message>
         <source>IDS_WLAN_KEPT_READ_ONLY</source>
-        <translation>„%1” נשארה כפי שהייתה: כבר מוגדרת רשת בשם הזה, ואסור לשנות אותה.</translation>
+        <translation>הרשת „%1” לא שונתה: כבר שמורה רשת בשם הזה, ולא ניתן לשנות אותה.</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_SEVERAL</source>
-        <translation>דבר לא השתנה: כמה רשתות מוגדרות בשם „%1”&#x200f;, ולא ניתן לדעת לאיזו מהן הכוונה. יש לבחור שם אחר.</translation>
+        <translation>דבר לא שונה: כמה רשתות שמורות בשם „%1”&#x200f;, ולא ידוע לאיזו מהן הכוונה. יש לבחור שם אחר.</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_UNDESCRIBED</source>
-        <translation>„%1” נשארה כפי שהייתה: כבר מוגדרת רשת בשם הזה, ויש בה יותר ממה שאפשר להזין כאן, למשל חשבון. יש לשנות אותה במקום שבו הוגדרה, או לבחור שם אחר.</translation>
+        <translation>הרשת „%1” לא שונתה: כבר שמורה רשת בשם הזה, עם פרטים שלא ניתן להזין כאן, למשל חשבון. יש לשנות אותה במקום שבו הוגדרה, או לבחור שם אחר.</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_STRONGER</source>
-        <translation>„%1” נשארה כפי שהייתה: כבר מוגדרת רשת בשם הזה, ושיטת האימות או ההצפנה הזו חלשה יותר. יש לבחור לפחות באותה רמה, או לבחור שם אחר.</translation>
+        <translation>הרשת „%1” לא שונתה: כבר שמורה רשת בשם הזה, והאבטחה או ההצפנה שנבחרה חלשה יותר. יש לבחור אבטחה והצפנה חזקות לפחות באותה מידה, או שם אחר.</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_KEY</source>
-        <translation>„%1” נשארה כפי שהייתה: כבר מוגדרת רשת בשם הזה, וכדי לשנות אותה דרוש מפתח שלם. יש להזין מפתח, או לבחור שם אחר.</translation>
+        <translation>הרשת „%1” לא שונתה: כבר שמורה רשת בשם הזה, וכדי לשנות אותה דרוש מפתח שלם. יש להזין את המפתח, או לבחור שם אחר.</translation>
     </message>
     <message>
         <source>IDS_WLAN_BETTER_PROFILE</source>
-        <translation>„%1” לא נשמרה: אותה רשת כבר מוגדרת בשם „%2”&#x200f;, וטוב יותר מכך. במקום זאת יש להוסיף לרשימה את „%2”.</translation>
+        <translation>הרשת „%1” אינה שמורה: אותה רשת כבר שמורה בשם „%2”&#x200f;, עם הגדרות טובות יותר. במקום זאת יש להוסיף לרשימה שלך את „%2”.</translation>
     </message>
     <message>
         <source>IDS_WLAN_BAD_NAME</source>
-        <translation>„%1” לא נשמרה: בשם של רשת יש 1 עד 32 בתים. אותיות עם סימנים וכתבים אחרים, ובהם עברית, תופסים שניים עד ארבעה בתים לאות.</translation>
+        <translation>הרשת „%1” אינה שמורה: בשם של רשת יש 1 עד 32 בייטים. אותיות עם סימנים ואותיות של כתבים אחרים, ובהם עברית, תופסות שניים עד ארבעה בייטים כל אחת.</translation>
     </message>
     <message>
         <source>IDS_WLAN_BAD_SECURITY</source>
-        <translation>„%1” לא נשמרה: שיטת האימות, ההצפנה והמפתח האלה אינם מתאימים זה לזה.</translation>
+        <translation>הרשת „%1” אינה שמורה: האבטחה, ההצפנה והמפתח האלה אינם מתאימים זה לזה.</translation>
     </message>
     <message>
         <source>IDS_WLAN_NO_ACCOUNT</source>
-        <translation>„%1” לא נשמרה: שיטת האימות הזו דורשת חשבון, שלא ניתן להזין כאן. יש להגדיר את הרשת בהגדרות שולחן העבודה, ואז להוסיף אותה לרשימה.</translation>
+        <translation>הרשת „%1” אינה שמורה: האבטחה הזו דורשת חשבון, שלא ניתן להזין כאן. יש לבצע הגדרה של הרשת בהגדרות שולחן העבודה, ואז להוסיף אותה לרשימה שלך.</translation>
     </message>
     <message>
         <source>IDS_WLAN_NOT_RUNNING</source>
-        <translation>„%1” לא נשמרה: &#x202a;NetworkManager&#x202c; אינו פועל.</translation>
+        <translation>הרשת „%1” אינה שמורה: התוכנה &#x202a;NetworkManager&#x202c; אינה פועלת.</translation>
     </message>
     <message>
         <source>IDS_WLAN_NO_ANSWER</source>
-        <translation>לא ידוע אם „%1” נשמרה: &#x202a;NetworkManager&#x202c; אינו עונה.</translation>
+        <translation>לא ידוע אם הרשת „%1” שמורה: התוכנה &#x202a;NetworkManager&#x202c; אינה עונה.</translation>
     </message>
     <message>
         <source>IDS_WLAN_DENIED</source>
-        <translation>„%1” לא נשמרה: אין לך הרשאה לכך במחשב הזה.</translation>
+        <translation>הרשת „%1” אינה שמורה: אין לך הרשאה לשמור רשתות במחשב הזה.</translation>
     </message>
     <message>
         <source>IDS_WLAN_REFUSED</source>
-        <translation>„%1” לא נשמרה: &#x202a;NetworkManager&#x202c; אינו מקבל אותה, ככל הנראה בגלל המפתח.</translation>
+        <translation>הרשת „%1” אינה שמורה: התוכנה &#x202a;NetworkManager&#x202c; אינה מקבלת אותה, ככל הנראה בגלל המפתח.</translation>
     </message>
     <message>
         <source>IDS_WLAN_FAILED</source>
-        <translation>„%1” לא נשמרה: &#x202a;NetworkManager&#x202c; מדווח על שגיאה.</translation>
+        <translation>הרשת „%1” אינה שמורה: התוכנה &#x202a;NetworkManager&#x202c; מדווחת על שגיאה.</translation>
     </message>
     <message>
         <source>IDS_WLAN_FILE_UNUSABLE</source>
-        <translation>„%1” לא נשמרה: לא ניתן לקרוא או לכתוב את קובץ הרשתות המוגדרות. במעקב יש פרטים נוספים.</translation>
+        <translation>הרשת „%1” אינה שמורה: לא ניתן לקרוא או לכתוב את קובץ הרשתות השמורות. פרטים נוספים ביומן.</translation>
     </message>
     <message>
         <source>IDS_WLAN_FILE_DAMAGED</source>
-        <translation>„%1” לא נשמרה: קובץ הרשתות המוגדרות פגום, והוא נשאר כפי שהוא. השורה מצוינת במעקב.</translation>
+        <translation>הרשת „%1” אינה שמורה: קובץ הרשתות השמורות פגום ולא שונה. השורה מצוינת ביומן.</translation>
     </message>
     <message>
         <source>IDS_WLAN_BUSY</source>
-        <translation>„%1” לא נשמרה: תוכנית אחרת משנה את הרשתות. יש לנסות שוב.</translation>
+        <translation>הרשת „%1” אינה שמורה: תוכנה אחרת משנה את הרשתות. יש לנסות שוב בעוד רגע.</translation>
     </message>
 </context>
 </TS>

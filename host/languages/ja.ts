@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>IDS_PROFILE_INFO</source>
-        <translation>複数のネットワークが圏内にあるときは、リストで最も上にあるものが使用されます。</translation>
+        <translation>これらのネットワークのうち複数が圏内にあるときは、リストで最も上にあるものが使用されます。</translation>
     </message>
     <message>
         <source>IDS_PROFILE_UP</source>
@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>IDS_PROFILE_DELETE</source>
-        <translation>削除(&amp;L)</translation>
+        <translation>削除(&amp;R)</translation>
     </message>
     <message>
         <source>IDS_PROFILE_NEW</source>
@@ -77,7 +77,7 @@
     </message>
     <message>
         <source>IDS_KEYINDEX</source>
-        <translation>キー番号</translation>
+        <translation>WEP インデックス</translation>
     </message>
     <message>
         <source>IDS_EAP_METHOD</source>
@@ -89,7 +89,7 @@
     </message>
     <message>
         <source>IDS_WARNING_DELETE</source>
-        <translation>選択したネットワークを優先順位リストから削除しますか？</translation>
+        <translation>選択したネットワークをリストから削除しますか？</translation>
     </message>
     <message>
         <source>IDS_ERROR_EMPTY_SSID</source>
@@ -97,25 +97,25 @@
     </message>
     <message>
         <source>IDS_PROFILE_NAME_REPEAT</source>
-        <translation>この名前のネットワークはすでに優先順位リストにあります。</translation>
+        <translation>この名前のネットワークはすでにリストにあります。別の名前を入力してください。</translation>
     </message>
     <message>
         <source>IDS_ERROR_KEY_WRONG_LENGTH_40</source>
-        <translation>このキーは WEP には使用できません。キーは 5 文字または 13 文字、あるいは 10 桁、26 桁、32 桁のいずれかの 16 進数 (0–&#x2060;9、a–&#x2060;f、A–&#x2060;F) にしてください。
+        <translation>これは有効な WEP キーではありません。WEP キーは 5 文字または 13 文字、あるいは 10 桁、26 桁、32 桁のいずれかの 16 進数 (0–&#x2060;9、a–&#x2060;f、A–&#x2060;F) です。
 
 使用できるのは、文字、数字、および次の記号です。
 - _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :</translation>
     </message>
     <message>
         <source>IDS_ERROR_KEY_WRONG_LENGTH_128</source>
-        <translation>このキーは WPA には使用できません。キーは 8 ～ 63 文字、または 64 桁の 16 進数 (0–&#x2060;9、a–&#x2060;f、A–&#x2060;F) にしてください。
+        <translation>これは有効な WPA キーではありません。WPA キーは 8 ～ 63 文字、または 64 桁の 16 進数 (0–&#x2060;9、a–&#x2060;f、A–&#x2060;F) です。
 
 使用できるのは、文字、数字、および次の記号です。
 - _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :</translation>
     </message>
     <message>
         <source>IDS_ERROR_KEY_DIFFERENT</source>
-        <translation>2 つのキーが一致しません。両方の欄に同じキーを入力してください。大文字と小文字は区別されます。</translation>
+        <translation>2 つのキーが異なります。両方の欄に、大文字と小文字も含めて同じキーを入力してください。</translation>
     </message>
     <message>
         <source>IDS_ERROR_WRONG_AUTHENTICATION</source>
@@ -129,8 +129,23 @@
         <translation>日本語</translation>
     </message>
     <message>
+        <source>IDS_SENTENCES</source>
+        <extracomment>Two sentences, one behind the other. Chinese and Japanese have no blank there</extracomment>
+        <translation>%1%2</translation>
+    </message>
+    <message>
+        <source>IDS_NAMES</source>
+        <extracomment>Names of networks side by side. %1: the first ones, %2: one more</extracomment>
+        <translation>%1、%2</translation>
+    </message>
+    <message>
+        <source>IDS_LABEL</source>
+        <extracomment>%1: a label, such as Wi-Fi; %2: what is told about it</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
         <source>IDS_WINDOW_TITLE</source>
-        <translation>ネットワーク ダッシュボード</translation>
+        <translation>ネットワークダッシュボード</translation>
     </message>
     <message>
         <source>IDS_MENU_FILE</source>
@@ -162,7 +177,7 @@
     </message>
     <message>
         <source>IDS_ACTION_TRACE</source>
-        <translation>トレースを表示(&amp;T)</translation>
+        <translation>ログを表示(&amp;T)</translation>
     </message>
     <message>
         <source>IDS_BUTTON_CONNECT</source>
@@ -178,15 +193,15 @@
     </message>
     <message>
         <source>IDS_BUTTON_TRACE</source>
-        <translation>トレースを表示</translation>
+        <translation>ログを表示</translation>
     </message>
     <message>
         <source>IDS_TRACE_TITLE</source>
-        <translation>トレース</translation>
+        <translation>ログ</translation>
     </message>
     <message>
         <source>IDS_LOG_NOT_WRITABLE</source>
-        <translation>ログ ファイル %1 に書き込めません。トレースはここにのみ表示されます。</translation>
+        <translation>ログファイル %1 に書き込めません。ログはここにのみ表示されます。</translation>
     </message>
     <message>
         <source>IDS_OK</source>
@@ -222,7 +237,7 @@
     </message>
     <message>
         <source>IDS_CONNECT_NONE</source>
-        <translation>圏内にネットワークがありません。利用できるようになったら、この画面をもう一度開いてください。</translation>
+        <translation>圏内にネットワークがありません。利用できるようになったら、このウィンドウをもう一度開いてください。</translation>
     </message>
     <message>
         <source>IDS_CONNECT_NO_WLAN</source>
@@ -234,7 +249,7 @@
     </message>
     <message>
         <source>IDS_CONNECT_DAMAGED</source>
-        <translation>リスト全体を読み取れないため、ネットワークを先頭に移動しません。</translation>
+        <translation>リスト全体を読み取れないため、ネットワークをリストの先頭に移動できません。</translation>
     </message>
     <message>
         <source>IDS_CLOSE</source>
@@ -246,7 +261,7 @@
     </message>
     <message>
         <source>IDS_SETTINGS_KEYS</source>
-        <translation>キーボードでは、Ctrl+↑ と Ctrl+↓ で項目を選び、↑ と ↓ で移動します。</translation>
+        <translation>キーボード: Ctrl+↑ と Ctrl+↓ でネットワークを選択し、↑ と ↓ で移動します。</translation>
     </message>
     <message>
         <source>IDS_PLUGIN_PRIORITY</source>
@@ -258,7 +273,7 @@
     </message>
     <message>
         <source>IDS_PLUGIN_WLAN_STORED</source>
-        <translation>Wi-Fi (ファイル内のネットワーク)</translation>
+        <translation>Wi-Fi (練習用ネットワーク)</translation>
     </message>
     <message>
         <source>IDS_GENERAL_TITLE</source>
@@ -290,11 +305,11 @@
     </message>
     <message>
         <source>IDS_GENERAL_USER_DATA</source>
-        <translation>ユーザー データ: %1</translation>
+        <translation>ユーザーデータ: %1</translation>
     </message>
     <message>
         <source>IDS_GENERAL_PLUGIN_LIBRARY</source>
-        <translation>プラグインの場所: %1</translation>
+        <translation>プラグインのフォルダー: %1</translation>
     </message>
     <message>
         <source>IDS_GENERAL_VERSION</source>
@@ -302,7 +317,7 @@
     </message>
     <message>
         <source>IDS_PAGE_NOT_SHOWN</source>
-        <translation>このページは表示できません。プラグイン %1 は読み込まれましたが、ページを提供していません。詳細はトレースで確認できる場合があります。</translation>
+        <translation>このページは表示できません。プラグイン %1 は読み込まれましたが、ページを提供していません。詳細はログを確認してください。</translation>
     </message>
     <message>
         <source>IDS_KIND_WIFI</source>
@@ -310,7 +325,7 @@
     </message>
     <message>
         <source>IDS_KIND_MOBILE</source>
-        <translation>モバイル ブロードバンド</translation>
+        <translation>モバイルブロードバンド</translation>
     </message>
     <message>
         <source>IDS_STATE_IN_USE</source>
@@ -330,7 +345,7 @@
     </message>
     <message>
         <source>IDS_STATE_FALLBACK</source>
-        <translation>予備として待機中</translation>
+        <translation>待機中</translation>
     </message>
     <message>
         <source>IDS_HEAD_IN_USE</source>
@@ -349,8 +364,18 @@
         <translation>使用中のネットワークはありません</translation>
     </message>
     <message>
+        <source>IDS_HEAD_UNKNOWN</source>
+        <extracomment>In place of the network in use when it is not known which one that is</extracomment>
+        <translation>接続状態は不明です</translation>
+    </message>
+    <message>
         <source>IDS_HEAD_EMPTY</source>
         <translation>リストが空のため、選択できるネットワークがありません。</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_UNREADABLE</source>
+        <extracomment>The list is damaged or cannot be opened; a message below tells which</extracomment>
+        <translation>リスト全体を読み取れないため、どのネットワークが最初か不明です。</translation>
     </message>
     <message>
         <source>IDS_HEAD_NOTHING_IN_RANGE</source>
@@ -366,11 +391,11 @@
     </message>
     <message>
         <source>IDS_LIST_DAMAGED</source>
-        <translation>リストのファイルが破損しています。破損箇所より前の内容だけを表示しています。</translation>
+        <translation>リストのファイルが破損しています。破損箇所より前のネットワークだけを表示しています。</translation>
     </message>
     <message>
         <source>IDS_LIST_KEPT</source>
-        <translation>ファイルは %1 にコピーしました。対処を選択するまで、このプログラムはファイルを変更しません。</translation>
+        <translation>ファイルのコピーを %1 として残しました。対処を選択するまで、このプログラムはリストを変更しません。</translation>
     </message>
     <message>
         <source>IDS_BUTTON_REPAIR</source>
@@ -386,11 +411,11 @@
     </message>
     <message>
         <source>IDS_DAMAGE_LAST</source>
-        <translation>完全だった最後のリストは %1 のものです。ネットワークの数: %2</translation>
+        <translation>最後の完全なリストは %1 のものです。ネットワークの数: %2</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_NO_LAST</source>
-        <translation>元に戻せる以前のリストはありません。</translation>
+        <translation>復元できる以前のリストはありません。</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_COPY</source>
@@ -398,19 +423,19 @@
     </message>
     <message>
         <source>IDS_DAMAGE_BRING_BACK</source>
-        <translation>最後の完全なリストに戻す</translation>
+        <translation>最後の完全なリストを復元</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_GO_ON</source>
-        <translation>読み取れた内容で続ける</translation>
+        <translation>読み取れたネットワークを残す</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_LEAVE</source>
-        <translation>このままにする</translation>
+        <translation>ファイルをそのままにする</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_OPENED</source>
-        <translation>リストのファイルは存在しますが、開けません。アクセス権を確認してから更新してください。</translation>
+        <translation>リストのファイルは存在しますが、開けません。アクセス権を確認してから「更新」を選択してください。</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_OFFERED</source>
@@ -418,19 +443,19 @@
     </message>
     <message>
         <source>IDS_NO_LIST_TITLE</source>
-        <translation>表示できるリストがありません</translation>
+        <translation>リストを表示できません</translation>
     </message>
     <message>
         <source>IDS_EMPTY_TITLE</source>
-        <translation>優先順位リストは空です</translation>
+        <translation>リストは空です</translation>
     </message>
     <message>
         <source>IDS_EMPTY_HINT</source>
-        <translation>設定を開き、このコンピューターに登録済みのネットワークは「追加」、自分で入力する場合は「新規」を選択してください。リストで上にあるネットワークほど優先されます。</translation>
+        <translation>設定を開き、このコンピューターに登録済みのネットワークを加えるには「追加」を、自分で入力するには「新規」を選択してください。リストで上にあるネットワークほど優先されます。</translation>
     </message>
     <message>
         <source>IDS_EMPTY_UNREADABLE</source>
-        <translation>内容をまったく読み取れません。上のメッセージを確認してください。</translation>
+        <translation>理由は上のメッセージに示されています。</translation>
     </message>
     <message>
         <source>IDS_LOAD_NOT_LOADED</source>
@@ -438,7 +463,7 @@
     </message>
     <message>
         <source>IDS_LOAD_MISSING</source>
-        <translation>プラグイン %1 が見つかりません。インストールするか、--library-path に plugins/ フォルダーを含むディレクトリを指定して起動してください。</translation>
+        <translation>プラグイン %1 が見つかりません。インストールするか、plugins/ を含むフォルダーを --library-path に指定してプログラムを起動してください。</translation>
     </message>
     <message>
         <source>IDS_LOAD_CUT</source>
@@ -446,9 +471,9 @@
     </message>
     <message>
         <source>IDS_LOAD_OTHER_TOOLKIT</source>
-        <translation>プラグイン %1 は別の世代の Qt 用に作成されているため、使用されません。
+        <translation>プラグイン %1 は別のメジャーバージョンの Qt 用にビルドされているため、使用されません。
 検出: Qt %2
-期待: Qt %3</translation>
+必要: Qt %3</translation>
     </message>
     <message>
         <source>IDS_LOAD_NOT_A_LIBRARY</source>
@@ -460,13 +485,13 @@
     </message>
     <message>
         <source>IDS_LOAD_REFUSED</source>
-        <translation>プラグイン %1 は別のプログラム用に作成されているため、使用されません。
+        <translation>プラグイン %1 は別のプログラム用にビルドされているため、使用されません。
 検出: %2
-期待: %3</translation>
+必要: %3</translation>
     </message>
     <message>
         <source>IDS_LOAD_NO_ENTRY_POINT</source>
-        <translation>ライブラリ %1 にはプラグインのエントリ ポイントがないため、使用されません。</translation>
+        <translation>ライブラリ %1 はプラグインではないため、使用されません。</translation>
     </message>
     <message>
         <source>IDS_LOAD_NULL_INSTANCE</source>
@@ -474,11 +499,11 @@
     </message>
     <message>
         <source>IDS_LOAD_NOT_A_PLUGIN</source>
-        <translation>%1 が返したものはこのプログラムのプラグインではないため、使用されません。</translation>
+        <translation>%1 はこのプログラム用のプラグインではないため、使用されません。</translation>
     </message>
     <message>
         <source>IDS_LOAD_INIT_FAILED</source>
-        <translation>プラグイン %1 は動作できないと報告したため、使用されません。詳細はトレースで確認できる場合があります。</translation>
+        <translation>プラグイン %1 を開始できなかったため、使用されません。詳細はログを確認してください。</translation>
     </message>
     <message>
         <source>IDS_LANGUAGE_UNREADABLE</source>
@@ -499,15 +524,15 @@
     <message>
         <source>IDS_NOTE_NETWORKMANAGER</source>
         <extracomment>At the foot of the main window; two lines of 450 pixels at most</extracomment>
-        <translation>このコンピューターのネットワークです。NetworkManager がこのリストの順序に従います。</translation>
+        <translation>このコンピューターのネットワークです。NetworkManager がこのリストの順に接続を試みます。</translation>
     </message>
     <message>
         <source>IDS_NOTE_STORED</source>
-        <translation>このプログラム独自のネットワークです。コンピューターのネットワークは変更されません。</translation>
+        <translation>これは練習用ネットワークです。このコンピューターのネットワークは変更されません。</translation>
     </message>
     <message>
         <source>IDS_NOTE_STORED_STANDS_IN</source>
-        <translation>NetworkManager を利用できません。これはこのプログラム独自のネットワークで、コンピューターのネットワークは変更されません。</translation>
+        <translation>NetworkManager を利用できないため、これは練習用ネットワークです。このコンピューターのネットワークは変更されません。</translation>
     </message>
     <message>
         <source>IDS_MENU_EDIT</source>
@@ -523,15 +548,15 @@
     </message>
     <message>
         <source>IDS_ACTION_RESTORE</source>
-        <translation>復元(&amp;S)…</translation>
+        <translation>以前のリスト(&amp;L)…</translation>
     </message>
     <message>
         <source>IDS_ACTION_IMPORT</source>
-        <translation>順序のインポート(&amp;I)…</translation>
+        <translation>リストのインポート(&amp;I)…</translation>
     </message>
     <message>
         <source>IDS_ACTION_EXPORT</source>
-        <translation>順序のエクスポート(&amp;E)…</translation>
+        <translation>リストのエクスポート(&amp;E)…</translation>
     </message>
     <message>
         <source>IDS_BUTTON_UNDO</source>
@@ -543,7 +568,7 @@
     </message>
     <message>
         <source>IDS_BUTTON_RESTORE</source>
-        <translation>復元…</translation>
+        <translation>以前のリスト…</translation>
     </message>
     <message>
         <source>IDS_UNDO_WHAT</source>
@@ -555,7 +580,7 @@
     </message>
     <message>
         <source>IDS_UNDO_NOTHING</source>
-        <translation>戻れる以前のリストはありません。</translation>
+        <translation>戻すことのできる以前のリストはありません。</translation>
     </message>
     <message>
         <source>IDS_REDO_NOTHING</source>
@@ -563,11 +588,11 @@
     </message>
     <message>
         <source>IDS_REDO_DAMAGED</source>
-        <translation>リストのファイルが壊れています。「元に戻す」で、最後に読み取れたリストに戻ります。</translation>
+        <translation>リストのファイルが破損しています。「元に戻す」で、最後の完全なリストを復元できます。</translation>
     </message>
     <message>
         <source>IDS_UNDO_NO_PLUGIN</source>
-        <translation>リストを管理するプラグインが利用できないため、リストを変更できません。</translation>
+        <translation>リストを管理するプラグインを利用できないため、リストを変更できません。</translation>
     </message>
     <message>
         <source>IDS_LAST_CHANGE</source>
@@ -579,7 +604,7 @@
     </message>
     <message>
         <source>IDS_CHANGE_EMPTIED</source>
-        <translation>すべての項目を削除</translation>
+        <translation>すべてのネットワークを削除</translation>
     </message>
     <message>
         <source>IDS_CHANGE_DAMAGED</source>
@@ -591,7 +616,7 @@
     </message>
     <message>
         <source>IDS_CHANGE_ADDED_MANY</source>
-        <translation>%1 個の項目を追加</translation>
+        <translation>%1 個のネットワークを追加</translation>
     </message>
     <message>
         <source>IDS_CHANGE_DELETED_ONE</source>
@@ -599,7 +624,7 @@
     </message>
     <message>
         <source>IDS_CHANGE_DELETED_MANY</source>
-        <translation>%1 個の項目を削除</translation>
+        <translation>%1 個のネットワークを削除</translation>
     </message>
     <message>
         <source>IDS_CHANGE_MOVED_UP</source>
@@ -619,23 +644,78 @@
     </message>
     <message>
         <source>IDS_CHANGE_MOVED_MANY</source>
-        <translation>%1 個の項目を移動</translation>
+        <translation>%1 個のネットワークを移動</translation>
     </message>
     <message>
         <source>IDS_CHANGE_WENT_BACK</source>
-        <translation>%1 のリストへ復元</translation>
+        <translation>%1 のリストを復元</translation>
     </message>
     <message>
         <source>IDS_CHANGE_UNNAMED</source>
         <translation>(名前なし)</translation>
     </message>
     <message>
+        <source>IDS_PLAN_NONE</source>
+        <extracomment>What will be done, before it is done</extracomment>
+        <translation>リストは今のままです。</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_EMPTY</source>
+        <extracomment>What will be done, before it is done</extracomment>
+        <translation>すべてのネットワークが削除されます。</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_ADD_ONE</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>%1 が追加されます。</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_ADD_MANY</source>
+        <extracomment>What will be done, before it is done. %1: a number, two or more</extracomment>
+        <translation>%1 個のネットワークが追加されます。</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_REMOVE_ONE</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>%1 が削除されます。</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_REMOVE_MANY</source>
+        <extracomment>What will be done, before it is done. %1: a number, two or more</extracomment>
+        <translation>%1 個のネットワークが削除されます。</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_UP</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>%1 が上へ移動します。</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_DOWN</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>%1 が下へ移動します。</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_TOP</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>%1 が先頭へ移動します。</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_END</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>%1 が末尾へ移動します。</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_MANY</source>
+        <extracomment>What will be done, before it is done. %1: a number, two or more</extracomment>
+        <translation>%1 個のネットワークが移動します。</translation>
+    </message>
+    <message>
         <source>IDS_RESTORE_TITLE</source>
-        <translation>以前のリストの復元</translation>
+        <translation>以前のリスト</translation>
     </message>
     <message>
         <source>IDS_RESTORE_HINT</source>
-        <translation>リストをどの状態に戻すかを選択してください。現在のリストもここに残ります。</translation>
+        <translation>復元するリストを選択してください。現在のリストも残ります。</translation>
     </message>
     <message>
         <source>IDS_RESTORE_TIME</source>
@@ -655,7 +735,7 @@
     </message>
     <message>
         <source>IDS_RESTORE_UNDONE</source>
-        <translation>取り消し済み</translation>
+        <translation>元に戻した変更</translation>
     </message>
     <message>
         <source>IDS_RESTORE_OLDEST</source>
@@ -679,7 +759,7 @@
     </message>
     <message>
         <source>IDS_RESTORE_ASIDE</source>
-        <translation>別名で残して新しく始める</translation>
+        <translation>ファイルを残して新しく始める</translation>
     </message>
     <message>
         <source>IDS_RESTORE_GONE</source>
@@ -687,11 +767,11 @@
     </message>
     <message>
         <source>IDS_IMPORT_TITLE</source>
-        <translation>順序のインポート</translation>
+        <translation>リストのインポート</translation>
     </message>
     <message>
         <source>IDS_IMPORT_HINT</source>
-        <translation>ファイルからリストを取り込みます。何が変わるかを先に確認できます。</translation>
+        <translation>リストをファイルのリストに置き換えます。変更内容を先に確認できます。</translation>
     </message>
     <message>
         <source>IDS_IMPORT_SUMMARY</source>
@@ -711,35 +791,35 @@
     </message>
     <message>
         <source>IDS_IMPORT_STAYS</source>
-        <translation>そのまま</translation>
+        <translation>そのままです</translation>
     </message>
     <message>
         <source>IDS_IMPORT_ADDED</source>
-        <translation>追加</translation>
+        <translation>追加されます</translation>
     </message>
     <message>
         <source>IDS_IMPORT_MOVED_UP</source>
-        <translation>上へ移動</translation>
+        <translation>上へ移動します</translation>
     </message>
     <message>
         <source>IDS_IMPORT_MOVED_DOWN</source>
-        <translation>下へ移動</translation>
+        <translation>下へ移動します</translation>
     </message>
     <message>
         <source>IDS_IMPORT_MOVED</source>
-        <translation>前後の項目が移動</translation>
+        <translation>そのまま、ほかが移動します</translation>
     </message>
     <message>
         <source>IDS_IMPORT_REMOVED</source>
-        <translation>リストから削除</translation>
+        <translation>リストから削除されます</translation>
     </message>
     <message>
         <source>IDS_IMPORT_EFFECT_UNKNOWN</source>
-        <translation>%1 (ここでは未登録)</translation>
+        <translation>%1 (未登録)</translation>
     </message>
     <message>
         <source>IDS_IMPORT_UNKNOWN</source>
-        <translation>このコンピューターでは未登録: %1。このような項目は、ネットワークをここで設定してから使われます。</translation>
+        <translation>このコンピューターでは未登録: %1。これらのネットワークは、このコンピューターで設定するまで使用されません。</translation>
     </message>
     <message>
         <source>IDS_IMPORT_OK</source>
@@ -747,31 +827,31 @@
     </message>
     <message>
         <source>IDS_IMPORT_NOT_READABLE</source>
-        <translation>ファイル %1 は読み取れないか、リストとしては大きすぎます。リストは元のままです。</translation>
+        <translation>ファイル %1 は読み取れないか、リストとしては大きすぎます。リストは変更されていません。</translation>
     </message>
     <message>
         <source>IDS_IMPORT_DAMAGED</source>
-        <translation>ファイル %1 は、インポートできるネットワークのリストではありません。%2。リストは元のままです。</translation>
+        <translation>ファイル %1 は、インポートできるネットワークリストではありません。%2。リストは変更されていません。</translation>
     </message>
     <message>
         <source>IDS_EXPORT_TITLE</source>
-        <translation>順序のエクスポート</translation>
+        <translation>リストのエクスポート</translation>
     </message>
     <message>
         <source>IDS_EXPORT_HINT</source>
-        <translation>リストの順序をファイルに書き出します。キーは含まれません。</translation>
+        <translation>リストをファイルに保存します。キーは含まれません。</translation>
     </message>
     <message>
         <source>IDS_EXPORT_FILE_NAME</source>
-        <translation>network-order.xml</translation>
+        <translation>network-list.xml</translation>
     </message>
     <message>
         <source>IDS_EXPORT_NOT_WRITTEN</source>
-        <translation>ファイル %1 に書き込めません。以前の内容は元のままです。</translation>
+        <translation>ファイル %1 に書き込めません。何も変更されていません。</translation>
     </message>
     <message>
         <source>IDS_ORDER_FILES</source>
-        <translation>ネットワークの順序</translation>
+        <translation>ネットワークリスト</translation>
     </message>
     <message>
         <source>IDS_ALL_FILES</source>
@@ -779,23 +859,23 @@
     </message>
     <message>
         <source>IDS_LIST_NOT_WRITTEN</source>
-        <translation>リストを %1 に書き込めません。ディスクがいっぱいか、ファイルが保護されていないか確認してください。</translation>
+        <translation>リストを %1 に書き込めません。ディスクの空き容量と、ファイルが書き込み禁止になっていないかを確認してください。</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_KEPT</source>
-        <translation>壊れたファイル %1 を保管用にコピーできないため、そのままにしました。ディスクがいっぱいか、フォルダーが保護されていないか確認してください。</translation>
+        <translation>破損したファイル %1 のバックアップを作成できないため、変更していません。ディスクの空き容量と、フォルダーが書き込み禁止になっていないかを確認してください。</translation>
     </message>
     <message>
         <source>IDS_HISTORY_DAMAGED</source>
-        <translation>以前のリストのファイル %1 が壊れており、そのままにしました。%2。「復元…」で別名にするまで、元に戻す操作はできません。</translation>
+        <translation>以前のリストのファイル %1 は破損しているため、変更していません。%2。「元に戻す」をまた使うには、「以前のリスト…」で新しいファイルを始めてください。破損したファイルは残ります。</translation>
     </message>
     <message>
         <source>IDS_HISTORY_NOT_READABLE</source>
-        <translation>以前のリストのファイル %1 を読み取れないため、そのままにしました。読み取れるようになるか「復元…」で別名にするまで、元に戻す操作はできません。</translation>
+        <translation>以前のリストのファイル %1 を読み取れないため、変更していません。「元に戻す」をまた使うには、ファイルを読み取れるようにするか、「以前のリスト…」で新しいファイルを始めてください。古いファイルは残ります。</translation>
     </message>
     <message>
         <source>IDS_HISTORY_NOT_WRITABLE</source>
-        <translation>以前のリストを %1 に保存できません。変更を元に戻せるのはプログラムの終了までです。</translation>
+        <translation>以前のリストを %1 に保存できません。変更を元に戻せるのは、プログラムを終了するまでです。</translation>
     </message>
     <message>
         <source>IDS_LIST_BUSY</source>
@@ -803,7 +883,7 @@
     </message>
     <message>
         <source>IDS_HISTORY_NOT_SET_ASIDE</source>
-        <translation>ファイル %1 の名前を変更できないため、そのままにしました。</translation>
+        <translation>ファイル %1 の名前を変更できないため、新しいファイルは始めていません。</translation>
     </message>
     <message>
         <source>IDS_FAULT_LINE</source>
@@ -815,15 +895,15 @@
     </message>
     <message>
         <source>IDS_FAULT_DECLARATION</source>
-        <translation>文書型宣言は使えません</translation>
+        <translation>ここでは文書型宣言を使用できません</translation>
     </message>
     <message>
         <source>IDS_FAULT_ELEMENT</source>
-        <translation>要素「%1」はここでは使えません</translation>
+        <translation>ここでは要素「%1」を使用できません</translation>
     </message>
     <message>
         <source>IDS_FAULT_TEXT</source>
-        <translation>ここにテキストは使えません</translation>
+        <translation>ここではテキストを使用できません</translation>
     </message>
     <message>
         <source>IDS_FAULT_ATTRIBUTE</source>
@@ -839,51 +919,51 @@
     </message>
     <message>
         <source>IDS_LIST_UNDO_DAMAGE</source>
-        <translation>「元に戻す」で、最後に読み取れたリストに戻ります。</translation>
+        <translation>「元に戻す」で、最後の完全なリストを復元できます。</translation>
     </message>
     <message>
         <source>IDS_HEAD_SKIPPED</source>
-        <translation>リストの上位にあるが圏外: %1。</translation>
+        <translation>リストの上位にある次のネットワークは圏外です: %1</translation>
     </message>
     <message>
         <source>IDS_HEAD_CONNECT_HINT</source>
-        <translation>「接続…」で圏内のネットワークを表示します。</translation>
+        <translation>「接続…」で圏内のほかのネットワークを表示します。</translation>
     </message>
     <message>
         <source>IDS_WHY_OUT_OF_RANGE</source>
-        <translation>圏外のため、現在は使えません。</translation>
+        <translation>圏外のため、使用していません。</translation>
     </message>
     <message>
         <source>IDS_WHY_LOWER</source>
-        <translation>使えますが、%1 のほうがリストの上位にあります。</translation>
+        <translation>%1 がリストの上位にあるため、使用していません。</translation>
     </message>
     <message>
         <source>IDS_WHY_UNDECIDED</source>
-        <translation>使えますが、リストの上位のネットワークが圏内かどうかわかりません。</translation>
+        <translation>リストの上位のネットワークが圏内かどうか不明なため、使用していません。</translation>
     </message>
     <message>
         <source>IDS_ACTION_TRACE_SEARCH</source>
-        <translation>トレースを検索(&amp;S)…</translation>
+        <translation>ログを検索(&amp;S)…</translation>
     </message>
     <message>
         <source>IDS_TRACE_SEARCH</source>
-        <translation>トレースを検索</translation>
+        <translation>ログを検索</translation>
     </message>
     <message>
         <source>IDS_TRACE_NEXT</source>
-        <translation>次の箇所</translation>
+        <translation>次の一致</translation>
     </message>
     <message>
         <source>IDS_TRACE_PREVIOUS</source>
-        <translation>前の箇所</translation>
+        <translation>前の一致</translation>
     </message>
     <message>
         <source>IDS_TRACE_MATCHES</source>
-        <translation>%1 件</translation>
+        <translation>一致: %1 件</translation>
     </message>
     <message>
         <source>IDS_TRACE_NO_MATCH</source>
-        <translation>見つかりません</translation>
+        <translation>一致なし</translation>
     </message>
     <message>
         <source>IDS_MENU_APPEARANCE</source>
@@ -910,71 +990,71 @@
     </message>
     <message>
         <source>IDS_WLAN_KEPT_READ_ONLY</source>
-        <translation>「%1」は変更されませんでした。この名前のネットワークはすでに設定されていて、変更できません。</translation>
+        <translation>「%1」は変更されませんでした。この名前のネットワークはすでに登録されていて、変更できません。</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_SEVERAL</source>
-        <translation>何も変更されませんでした。「%1」という名前で複数のネットワークが設定されていて、どれのことか判断できません。別の名前を選んでください。</translation>
+        <translation>何も変更されませんでした。「%1」という名前で複数のネットワークが登録されていて、どれのことか不明です。別の名前を選択してください。</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_UNDESCRIBED</source>
-        <translation>「%1」は変更されませんでした。この名前のネットワークはすでに設定されていて、アカウントなど、ここでは入力できない内容を含んでいます。設定した場所で変更するか、別の名前を選んでください。</translation>
+        <translation>「%1」は変更されませんでした。この名前のネットワークはすでに登録されていて、アカウントなど、ここでは入力できない内容を含んでいます。設定した場所で変更するか、別の名前を選択してください。</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_STRONGER</source>
-        <translation>「%1」は変更されませんでした。この名前のネットワークはすでに設定されていて、このセキュリティまたは暗号化ではそれより弱くなります。同等以上のものか、別の名前を選んでください。</translation>
+        <translation>「%1」は変更されませんでした。この名前のネットワークはすでに登録されていて、このセキュリティまたは暗号化ではそれより弱くなります。同等以上のものか、別の名前を選択してください。</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_KEY</source>
-        <translation>「%1」は変更されませんでした。この名前のネットワークはすでに設定されていて、変更するには完全なキーが必要です。キーを入力するか、別の名前を選んでください。</translation>
+        <translation>「%1」は変更されませんでした。この名前のネットワークはすでに登録されていて、変更するには完全なキーが必要です。キーを入力するか、別の名前を選択してください。</translation>
     </message>
     <message>
         <source>IDS_WLAN_BETTER_PROFILE</source>
-        <translation>「%1」は保存されませんでした。同じネットワークが、これより良い内容で「%2」としてすでに設定されています。代わりに「%2」をリストに追加してください。</translation>
+        <translation>「%1」は登録されませんでした。同じネットワークが、より良い設定で「%2」としてすでに登録されています。代わりに「%2」をリストに追加してください。</translation>
     </message>
     <message>
         <source>IDS_WLAN_BAD_NAME</source>
-        <translation>「%1」は保存されませんでした。ネットワーク名は 1～32 バイトです。アクセント付きの文字や日本語などの文字は、1 文字につき 2～4 バイトになります。</translation>
+        <translation>「%1」は登録されませんでした。ネットワーク名は 1～32 バイトです。アクセント付きの文字や日本語などの文字は、1 文字につき 2～4 バイトになります。</translation>
     </message>
     <message>
         <source>IDS_WLAN_BAD_SECURITY</source>
-        <translation>「%1」は保存されませんでした。このセキュリティ、暗号化、キーは組み合わせられません。</translation>
+        <translation>「%1」は登録されませんでした。このセキュリティ、暗号化、キーは組み合わせられません。</translation>
     </message>
     <message>
         <source>IDS_WLAN_NO_ACCOUNT</source>
-        <translation>「%1」は保存されませんでした。このセキュリティにはアカウントが必要ですが、ここでは入力できません。デスクトップの設定でネットワークを設定してから、リストに追加してください。</translation>
+        <translation>「%1」は登録されませんでした。このセキュリティにはアカウントが必要ですが、ここでは入力できません。デスクトップの設定でネットワークを設定してから、リストに追加してください。</translation>
     </message>
     <message>
         <source>IDS_WLAN_NOT_RUNNING</source>
-        <translation>「%1」は保存されませんでした。NetworkManager が動作していません。</translation>
+        <translation>「%1」は登録されませんでした。NetworkManager が動作していません。</translation>
     </message>
     <message>
         <source>IDS_WLAN_NO_ANSWER</source>
-        <translation>「%1」が保存されたかどうかは不明です。NetworkManager が応答しません。</translation>
+        <translation>「%1」が登録されたかどうかは不明です。NetworkManager が応答しません。</translation>
     </message>
     <message>
         <source>IDS_WLAN_DENIED</source>
-        <translation>「%1」は保存されませんでした。このコンピューターでその操作を行う権限がありません。</translation>
+        <translation>「%1」は登録されませんでした。このコンピューターにネットワークを登録する権限がありません。</translation>
     </message>
     <message>
         <source>IDS_WLAN_REFUSED</source>
-        <translation>「%1」は保存されませんでした。NetworkManager に受け付けられませんでした。原因はおそらくキーです。</translation>
+        <translation>「%1」は登録されませんでした。NetworkManager に受け付けられませんでした。原因はおそらくキーです。</translation>
     </message>
     <message>
         <source>IDS_WLAN_FAILED</source>
-        <translation>「%1」は保存されませんでした。NetworkManager がエラーを返しました。</translation>
+        <translation>「%1」は登録されませんでした。NetworkManager がエラーを返しました。</translation>
     </message>
     <message>
         <source>IDS_WLAN_FILE_UNUSABLE</source>
-        <translation>「%1」は保存されませんでした。設定済みネットワークのファイルを読み書きできません。詳しくはトレースを見てください。</translation>
+        <translation>「%1」は登録されませんでした。登録済みネットワークのファイルを読み書きできません。詳細はログを確認してください。</translation>
     </message>
     <message>
         <source>IDS_WLAN_FILE_DAMAGED</source>
-        <translation>「%1」は保存されませんでした。設定済みネットワークのファイルが壊れているため、そのまま残しました。該当する行はトレースにあります。</translation>
+        <translation>「%1」は登録されませんでした。登録済みネットワークのファイルが破損しているため、変更していません。該当する行はログを確認してください。</translation>
     </message>
     <message>
         <source>IDS_WLAN_BUSY</source>
-        <translation>「%1」は保存されませんでした。別のプログラムがネットワークを変更しています。もう一度試してください。</translation>
+        <translation>「%1」は登録されませんでした。ほかのプログラムがネットワークを変更しています。しばらくしてからもう一度お試しください。</translation>
     </message>
 </context>
 </TS>

@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>IDS_PROFILE_DELETE</source>
-        <translation>移除(&amp;L)</translation>
+        <translation>移除(&amp;R)</translation>
     </message>
     <message>
         <source>IDS_PROFILE_NEW</source>
@@ -77,7 +77,7 @@
     </message>
     <message>
         <source>IDS_KEYINDEX</source>
-        <translation>密钥序号</translation>
+        <translation>WEP 索引</translation>
     </message>
     <message>
         <source>IDS_EAP_METHOD</source>
@@ -89,7 +89,7 @@
     </message>
     <message>
         <source>IDS_WARNING_DELETE</source>
-        <translation>要从优先级列表中移除所选网络吗？</translation>
+        <translation>要从列表中移除所选网络吗？</translation>
     </message>
     <message>
         <source>IDS_ERROR_EMPTY_SSID</source>
@@ -97,25 +97,25 @@
     </message>
     <message>
         <source>IDS_PROFILE_NAME_REPEAT</source>
-        <translation>优先级列表中已有同名网络。</translation>
+        <translation>您的列表中已有同名网络。请输入其他名称。</translation>
     </message>
     <message>
         <source>IDS_ERROR_KEY_WRONG_LENGTH_40</source>
-        <translation>此密钥不适用于 WEP。密钥必须为 5 个或 13 个字符，或者 10、26 或 32 位十六进制数字（0–&#x2060;9、a–&#x2060;f、A–&#x2060;F）。
+        <translation>此 WEP 密钥无效。WEP 密钥为 5 个或 13 个字符，或者 10、26 或 32 位十六进制数字（0–&#x2060;9、a–&#x2060;f、A–&#x2060;F）。
 
 可以使用字母、数字和以下符号：
 - _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :</translation>
     </message>
     <message>
         <source>IDS_ERROR_KEY_WRONG_LENGTH_128</source>
-        <translation>此密钥不适用于 WPA。密钥必须为 8 到 63 个字符，或者 64 位十六进制数字（0–&#x2060;9、a–&#x2060;f、A–&#x2060;F）。
+        <translation>此 WPA 密钥无效。WPA 密钥为 8 到 63 个字符，或者 64 位十六进制数字（0–&#x2060;9、a–&#x2060;f、A–&#x2060;F）。
 
 可以使用字母、数字和以下符号：
 - _ ~ ! @ # $ % ^ &amp; * ( ) + { } [ ] :</translation>
     </message>
     <message>
         <source>IDS_ERROR_KEY_DIFFERENT</source>
-        <translation>两次输入的密钥不一致。请在两个框中输入相同的密钥，并注意区分大小写。</translation>
+        <translation>两个密钥不同。请在两个框中输入相同的密钥，大小写也要相同。</translation>
     </message>
     <message>
         <source>IDS_ERROR_WRONG_AUTHENTICATION</source>
@@ -127,6 +127,21 @@
     <message>
         <source>IDS_LANGUAGE_NAME</source>
         <translation>简体中文</translation>
+    </message>
+    <message>
+        <source>IDS_SENTENCES</source>
+        <extracomment>Two sentences, one behind the other. Chinese and Japanese have no blank there</extracomment>
+        <translation>%1%2</translation>
+    </message>
+    <message>
+        <source>IDS_NAMES</source>
+        <extracomment>Names of networks side by side. %1: the first ones, %2: one more</extracomment>
+        <translation>%1、%2</translation>
+    </message>
+    <message>
+        <source>IDS_LABEL</source>
+        <extracomment>%1: a label, such as Wi-Fi; %2: what is told about it</extracomment>
+        <translation>%1：%2</translation>
     </message>
     <message>
         <source>IDS_WINDOW_TITLE</source>
@@ -162,7 +177,7 @@
     </message>
     <message>
         <source>IDS_ACTION_TRACE</source>
-        <translation>显示跟踪(&amp;T)</translation>
+        <translation>显示日志(&amp;T)</translation>
     </message>
     <message>
         <source>IDS_BUTTON_CONNECT</source>
@@ -178,15 +193,15 @@
     </message>
     <message>
         <source>IDS_BUTTON_TRACE</source>
-        <translation>显示跟踪</translation>
+        <translation>显示日志</translation>
     </message>
     <message>
         <source>IDS_TRACE_TITLE</source>
-        <translation>跟踪</translation>
+        <translation>日志</translation>
     </message>
     <message>
         <source>IDS_LOG_NOT_WRITABLE</source>
-        <translation>无法写入日志文件 %1；跟踪信息仅在此处显示。</translation>
+        <translation>无法写入日志文件 %1。日志仅在此处显示。</translation>
     </message>
     <message>
         <source>IDS_OK</source>
@@ -230,11 +245,11 @@
     </message>
     <message>
         <source>IDS_CONNECT_NO_PRIORITY</source>
-        <translation>保存列表的插件不可用，因此无法将网络移到列表顶部。</translation>
+        <translation>管理列表的插件不可用，因此无法将网络移到列表顶部。</translation>
     </message>
     <message>
         <source>IDS_CONNECT_DAMAGED</source>
-        <translation>无法完整读取您的列表，因此不会将任何网络移到顶部。</translation>
+        <translation>您的列表无法完整读取，因此无法将网络移到列表顶部。</translation>
     </message>
     <message>
         <source>IDS_CLOSE</source>
@@ -246,7 +261,7 @@
     </message>
     <message>
         <source>IDS_SETTINGS_KEYS</source>
-        <translation>使用键盘：Ctrl+↑ 和 Ctrl+↓ 选择条目，↑ 和 ↓ 移动它。</translation>
+        <translation>键盘：Ctrl+↑ 和 Ctrl+↓ 选择网络，↑ 和 ↓ 移动网络。</translation>
     </message>
     <message>
         <source>IDS_PLUGIN_PRIORITY</source>
@@ -258,7 +273,7 @@
     </message>
     <message>
         <source>IDS_PLUGIN_WLAN_STORED</source>
-        <translation>Wi-Fi（文件中的网络）</translation>
+        <translation>Wi-Fi（练习用网络）</translation>
     </message>
     <message>
         <source>IDS_GENERAL_TITLE</source>
@@ -294,7 +309,7 @@
     </message>
     <message>
         <source>IDS_GENERAL_PLUGIN_LIBRARY</source>
-        <translation>插件位置：%1</translation>
+        <translation>插件文件夹：%1</translation>
     </message>
     <message>
         <source>IDS_GENERAL_VERSION</source>
@@ -302,7 +317,7 @@
     </message>
     <message>
         <source>IDS_PAGE_NOT_SHOWN</source>
-        <translation>无法显示此页面：插件 %1 已加载，但没有提供其页面。跟踪信息中可能有更多详情。</translation>
+        <translation>无法显示此页面：插件 %1 已加载，但没有提供页面。详情请查看日志。</translation>
     </message>
     <message>
         <source>IDS_KIND_WIFI</source>
@@ -326,11 +341,11 @@
     </message>
     <message>
         <source>IDS_STATE_UNKNOWN</source>
-        <translation>信号范围未知</translation>
+        <translation>不确定是否在信号范围内</translation>
     </message>
     <message>
         <source>IDS_STATE_FALLBACK</source>
-        <translation>备用就绪</translation>
+        <translation>就绪</translation>
     </message>
     <message>
         <source>IDS_HEAD_IN_USE</source>
@@ -349,8 +364,18 @@
         <translation>没有正在使用的网络</translation>
     </message>
     <message>
+        <source>IDS_HEAD_UNKNOWN</source>
+        <extracomment>In place of the network in use when it is not known which one that is</extracomment>
+        <translation>连接情况未知</translation>
+    </message>
+    <message>
         <source>IDS_HEAD_EMPTY</source>
         <translation>您的列表为空，因此没有可选择的网络。</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_UNREADABLE</source>
+        <extracomment>The list is damaged or cannot be opened; a message below tells which</extracomment>
+        <translation>您的列表无法完整读取，因此不知道哪个网络排在第一位。</translation>
     </message>
     <message>
         <source>IDS_HEAD_NOTHING_IN_RANGE</source>
@@ -362,15 +387,15 @@
     </message>
     <message>
         <source>IDS_HEAD_NO_PRIORITY_PLUGIN</source>
-        <translation>保存列表的插件不可用。</translation>
+        <translation>管理列表的插件不可用。</translation>
     </message>
     <message>
         <source>IDS_LIST_DAMAGED</source>
-        <translation>保存列表的文件已损坏。仅显示损坏位置之前的内容。</translation>
+        <translation>保存列表的文件已损坏。仅显示损坏位置之前的网络。</translation>
     </message>
     <message>
         <source>IDS_LIST_KEPT</source>
-        <translation>该文件已复制到 %1。在您决定如何处理之前，本程序不会更改它。</translation>
+        <translation>该文件的副本已保留为 %1。在您决定如何处理之前，本程序不会更改您的列表。</translation>
     </message>
     <message>
         <source>IDS_BUTTON_REPAIR</source>
@@ -386,11 +411,11 @@
     </message>
     <message>
         <source>IDS_DAMAGE_LAST</source>
-        <translation>最后一个完整的列表是 %1 的。其中的网络数：%2。</translation>
+        <translation>最后一个完整的列表来自 %1。其中的网络数：%2。</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_NO_LAST</source>
-        <translation>没有可以恢复的早期列表。</translation>
+        <translation>没有可以恢复的以前的列表。</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_COPY</source>
@@ -402,15 +427,15 @@
     </message>
     <message>
         <source>IDS_DAMAGE_GO_ON</source>
-        <translation>使用能读取的内容继续</translation>
+        <translation>保留能读取的网络</translation>
     </message>
     <message>
         <source>IDS_DAMAGE_LEAVE</source>
-        <translation>保持原样</translation>
+        <translation>让文件保持原样</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_OPENED</source>
-        <translation>保存列表的文件存在，但无法打开。请检查其权限，然后刷新。</translation>
+        <translation>保存列表的文件存在，但无法打开。请检查其权限，然后选择“刷新”。</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_OFFERED</source>
@@ -418,19 +443,19 @@
     </message>
     <message>
         <source>IDS_NO_LIST_TITLE</source>
-        <translation>没有可显示的列表</translation>
+        <translation>无法显示您的列表</translation>
     </message>
     <message>
         <source>IDS_EMPTY_TITLE</source>
-        <translation>您的优先级列表为空</translation>
+        <translation>您的列表为空</translation>
     </message>
     <message>
         <source>IDS_EMPTY_HINT</source>
-        <translation>请打开设置，选择“添加”来添加此计算机记住的网络，或选择“新建”来自行输入网络。列表中最靠上的网络优先使用。</translation>
+        <translation>请打开设置，选择“添加”来添加此计算机上已保存的网络，或选择“新建”来自行输入网络。列表中最靠上的网络优先使用。</translation>
     </message>
     <message>
         <source>IDS_EMPTY_UNREADABLE</source>
-        <translation>无法读取其中任何内容。请查看上面的消息。</translation>
+        <translation>原因请看上面的消息。</translation>
     </message>
     <message>
         <source>IDS_LOAD_NOT_LOADED</source>
@@ -438,15 +463,15 @@
     </message>
     <message>
         <source>IDS_LOAD_MISSING</source>
-        <translation>找不到插件 %1。请安装该插件，或使用 --library-path 和包含 plugins/ 文件夹的目录启动本程序。</translation>
+        <translation>找不到插件 %1。请安装该插件，或使用 --library-path 和包含 plugins/ 的文件夹启动本程序。</translation>
     </message>
     <message>
         <source>IDS_LOAD_CUT</source>
-        <translation>插件 %1 不完整：其文件提前结束，因此未被使用。请重新安装该插件。</translation>
+        <translation>插件 %1 不完整：文件被截断，因此未被使用。请重新安装该插件。</translation>
     </message>
     <message>
         <source>IDS_LOAD_OTHER_TOOLKIT</source>
-        <translation>插件 %1 是为另一代 Qt 构建的，因此未被使用。
+        <translation>插件 %1 是为 Qt 的另一个主版本构建的，因此未被使用。
 实际：Qt %2
 预期：Qt %3</translation>
     </message>
@@ -466,7 +491,7 @@
     </message>
     <message>
         <source>IDS_LOAD_NO_ENTRY_POINT</source>
-        <translation>库 %1 没有插件入口点，因此未被使用。</translation>
+        <translation>库 %1 不是插件，因此未被使用。</translation>
     </message>
     <message>
         <source>IDS_LOAD_NULL_INSTANCE</source>
@@ -474,11 +499,11 @@
     </message>
     <message>
         <source>IDS_LOAD_NOT_A_PLUGIN</source>
-        <translation>%1 提供的内容不是本程序的插件，因此未被使用。</translation>
+        <translation>%1 不是本程序的插件，因此未被使用。</translation>
     </message>
     <message>
         <source>IDS_LOAD_INIT_FAILED</source>
-        <translation>插件 %1 报告无法工作，因此未被使用。跟踪信息中可能有更多详情。</translation>
+        <translation>插件 %1 无法启动，因此未被使用。详情请查看日志。</translation>
     </message>
     <message>
         <source>IDS_LANGUAGE_UNREADABLE</source>
@@ -499,15 +524,15 @@
     <message>
         <source>IDS_NOTE_NETWORKMANAGER</source>
         <extracomment>At the foot of the main window; two lines of 450 pixels at most</extracomment>
-        <translation>此计算机的网络，来自 NetworkManager，它遵循此列表的顺序。</translation>
+        <translation>这些是此计算机的网络。NetworkManager 按此列表的顺序尝试连接它们。</translation>
     </message>
     <message>
         <source>IDS_NOTE_STORED</source>
-        <translation>本程序自己的网络；计算机的网络保持不变。</translation>
+        <translation>这些是练习用网络。此计算机的网络保持不变。</translation>
     </message>
     <message>
         <source>IDS_NOTE_STORED_STANDS_IN</source>
-        <translation>没有可用的 NetworkManager。这些是本程序自己的网络；计算机的网络保持不变。</translation>
+        <translation>NetworkManager 不可用，因此这些是练习用网络。此计算机的网络保持不变。</translation>
     </message>
     <message>
         <source>IDS_MENU_EDIT</source>
@@ -523,15 +548,15 @@
     </message>
     <message>
         <source>IDS_ACTION_RESTORE</source>
-        <translation>恢复(&amp;S)…</translation>
+        <translation>以前的列表(&amp;L)…</translation>
     </message>
     <message>
         <source>IDS_ACTION_IMPORT</source>
-        <translation>导入顺序(&amp;I)…</translation>
+        <translation>导入列表(&amp;I)…</translation>
     </message>
     <message>
         <source>IDS_ACTION_EXPORT</source>
-        <translation>导出顺序(&amp;E)…</translation>
+        <translation>导出列表(&amp;E)…</translation>
     </message>
     <message>
         <source>IDS_BUTTON_UNDO</source>
@@ -543,7 +568,7 @@
     </message>
     <message>
         <source>IDS_BUTTON_RESTORE</source>
-        <translation>恢复…</translation>
+        <translation>以前的列表…</translation>
     </message>
     <message>
         <source>IDS_UNDO_WHAT</source>
@@ -555,7 +580,7 @@
     </message>
     <message>
         <source>IDS_UNDO_NOTHING</source>
-        <translation>没有可以返回的早期列表。</translation>
+        <translation>没有以前的列表可以返回。</translation>
     </message>
     <message>
         <source>IDS_REDO_NOTHING</source>
@@ -563,7 +588,7 @@
     </message>
     <message>
         <source>IDS_REDO_DAMAGED</source>
-        <translation>保存列表的文件已损坏。“撤销”可恢复最后一个能读取的列表。</translation>
+        <translation>保存列表的文件已损坏。“撤销”可恢复最后一个完整的列表。</translation>
     </message>
     <message>
         <source>IDS_UNDO_NO_PLUGIN</source>
@@ -579,7 +604,7 @@
     </message>
     <message>
         <source>IDS_CHANGE_EMPTIED</source>
-        <translation>已删除所有条目</translation>
+        <translation>移除所有网络</translation>
     </message>
     <message>
         <source>IDS_CHANGE_DAMAGED</source>
@@ -587,55 +612,110 @@
     </message>
     <message>
         <source>IDS_CHANGE_ADDED_ONE</source>
-        <translation>已添加 %1</translation>
+        <translation>添加 %1</translation>
     </message>
     <message>
         <source>IDS_CHANGE_ADDED_MANY</source>
-        <translation>已添加 %1 个条目</translation>
+        <translation>添加 %1 个网络</translation>
     </message>
     <message>
         <source>IDS_CHANGE_DELETED_ONE</source>
-        <translation>已删除 %1</translation>
+        <translation>移除 %1</translation>
     </message>
     <message>
         <source>IDS_CHANGE_DELETED_MANY</source>
-        <translation>已删除 %1 个条目</translation>
+        <translation>移除 %1 个网络</translation>
     </message>
     <message>
         <source>IDS_CHANGE_MOVED_UP</source>
-        <translation>已上移 %1</translation>
+        <translation>上移 %1</translation>
     </message>
     <message>
         <source>IDS_CHANGE_MOVED_DOWN</source>
-        <translation>已下移 %1</translation>
+        <translation>下移 %1</translation>
     </message>
     <message>
         <source>IDS_CHANGE_MOVED_TOP</source>
-        <translation>已将 %1 移到开头</translation>
+        <translation>将 %1 移到顶部</translation>
     </message>
     <message>
         <source>IDS_CHANGE_MOVED_END</source>
-        <translation>已将 %1 移到末尾</translation>
+        <translation>将 %1 移到末尾</translation>
     </message>
     <message>
         <source>IDS_CHANGE_MOVED_MANY</source>
-        <translation>已移动 %1 个条目</translation>
+        <translation>移动 %1 个网络</translation>
     </message>
     <message>
         <source>IDS_CHANGE_WENT_BACK</source>
-        <translation>已恢复到 %1 的列表</translation>
+        <translation>恢复 %1 的列表</translation>
     </message>
     <message>
         <source>IDS_CHANGE_UNNAMED</source>
         <translation>（无名称）</translation>
     </message>
     <message>
+        <source>IDS_PLAN_NONE</source>
+        <extracomment>What will be done, before it is done</extracomment>
+        <translation>您的列表保持不变。</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_EMPTY</source>
+        <extracomment>What will be done, before it is done</extracomment>
+        <translation>将移除所有网络。</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_ADD_ONE</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>将添加 %1。</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_ADD_MANY</source>
+        <extracomment>What will be done, before it is done. %1: a number, two or more</extracomment>
+        <translation>将添加 %1 个网络。</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_REMOVE_ONE</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>将移除 %1。</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_REMOVE_MANY</source>
+        <extracomment>What will be done, before it is done. %1: a number, two or more</extracomment>
+        <translation>将移除 %1 个网络。</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_UP</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>%1 将上移。</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_DOWN</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>%1 将下移。</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_TOP</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>%1 将移到顶部。</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_END</source>
+        <extracomment>What will be done, before it is done. %1: a network</extracomment>
+        <translation>%1 将移到末尾。</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_MOVE_MANY</source>
+        <extracomment>What will be done, before it is done. %1: a number, two or more</extracomment>
+        <translation>将移动 %1 个网络。</translation>
+    </message>
+    <message>
         <source>IDS_RESTORE_TITLE</source>
-        <translation>恢复早期列表</translation>
+        <translation>以前的列表</translation>
     </message>
     <message>
         <source>IDS_RESTORE_HINT</source>
-        <translation>选择要让列表恢复成什么样。当前的列表也会保留在这里。</translation>
+        <translation>请选择要恢复的列表。当前的列表也会保留。</translation>
     </message>
     <message>
         <source>IDS_RESTORE_TIME</source>
@@ -679,7 +759,7 @@
     </message>
     <message>
         <source>IDS_RESTORE_ASIDE</source>
-        <translation>将其移开并重新开始</translation>
+        <translation>保留该文件并新建一个</translation>
     </message>
     <message>
         <source>IDS_RESTORE_GONE</source>
@@ -687,11 +767,11 @@
     </message>
     <message>
         <source>IDS_IMPORT_TITLE</source>
-        <translation>导入顺序</translation>
+        <translation>导入列表</translation>
     </message>
     <message>
         <source>IDS_IMPORT_HINT</source>
-        <translation>从文件读取列表。您会先看到将发生的更改。</translation>
+        <translation>用文件中的列表替换您的列表。您可以先查看更改。</translation>
     </message>
     <message>
         <source>IDS_IMPORT_SUMMARY</source>
@@ -715,31 +795,31 @@
     </message>
     <message>
         <source>IDS_IMPORT_ADDED</source>
-        <translation>添加</translation>
+        <translation>将添加</translation>
     </message>
     <message>
         <source>IDS_IMPORT_MOVED_UP</source>
-        <translation>上移</translation>
+        <translation>将上移</translation>
     </message>
     <message>
         <source>IDS_IMPORT_MOVED_DOWN</source>
-        <translation>下移</translation>
+        <translation>将下移</translation>
     </message>
     <message>
         <source>IDS_IMPORT_MOVED</source>
-        <translation>其他条目在其前后移动</translation>
+        <translation>位置不变，其他网络将移动</translation>
     </message>
     <message>
         <source>IDS_IMPORT_REMOVED</source>
-        <translation>从列表中移除</translation>
+        <translation>将从列表中移除</translation>
     </message>
     <message>
         <source>IDS_IMPORT_EFFECT_UNKNOWN</source>
-        <translation>%1；此处未知</translation>
+        <translation>%1（此计算机上未保存）</translation>
     </message>
     <message>
         <source>IDS_IMPORT_UNKNOWN</source>
-        <translation>此计算机上未知：%1。只有在此处设置该网络后，才会使用这样的条目。</translation>
+        <translation>此计算机上未保存：%1。这些网络在此计算机上设置后才会使用。</translation>
     </message>
     <message>
         <source>IDS_IMPORT_OK</source>
@@ -755,23 +835,23 @@
     </message>
     <message>
         <source>IDS_EXPORT_TITLE</source>
-        <translation>导出顺序</translation>
+        <translation>导出列表</translation>
     </message>
     <message>
         <source>IDS_EXPORT_HINT</source>
-        <translation>将列表的顺序写入文件，不包含任何密钥。</translation>
+        <translation>将您的列表存入文件，不包含任何密钥。</translation>
     </message>
     <message>
         <source>IDS_EXPORT_FILE_NAME</source>
-        <translation>network-order.xml</translation>
+        <translation>network-list.xml</translation>
     </message>
     <message>
         <source>IDS_EXPORT_NOT_WRITTEN</source>
-        <translation>无法写入文件 %1。之前的内容保持不变。</translation>
+        <translation>无法写入文件 %1。未作任何更改。</translation>
     </message>
     <message>
         <source>IDS_ORDER_FILES</source>
-        <translation>网络顺序</translation>
+        <translation>网络列表</translation>
     </message>
     <message>
         <source>IDS_ALL_FILES</source>
@@ -779,23 +859,23 @@
     </message>
     <message>
         <source>IDS_LIST_NOT_WRITTEN</source>
-        <translation>无法将列表写入 %1。请检查磁盘是否已满或文件是否受保护。</translation>
+        <translation>无法将列表写入 %1。请检查磁盘是否已满或文件是否被写保护。</translation>
     </message>
     <message>
         <source>IDS_LIST_NOT_KEPT</source>
-        <translation>损坏的文件 %1 无法复制留存，因此未作改动。请检查磁盘是否已满或文件夹是否受保护。</translation>
+        <translation>损坏的文件 %1 无法备份，因此未作改动。请检查磁盘是否已满或文件夹是否被写保护。</translation>
     </message>
     <message>
         <source>IDS_HISTORY_DAMAGED</source>
-        <translation>早期列表的文件 %1 已损坏，未作改动。%2。在通过“恢复…”将其移开之前，无法撤销任何操作。</translation>
+        <translation>保存以前列表的文件 %1 已损坏，未作改动。%2。要重新使用“撤销”，请选择“以前的列表…”并新建一个文件。损坏的文件会保留。</translation>
     </message>
     <message>
         <source>IDS_HISTORY_NOT_READABLE</source>
-        <translation>早期列表的文件 %1 无法读取，未作改动。在能够读取或通过“恢复…”将其移开之前，无法撤销任何操作。</translation>
+        <translation>无法读取保存以前列表的文件 %1，未作改动。要重新使用“撤销”，请使该文件可读，或选择“以前的列表…”并新建一个文件。旧文件会保留。</translation>
     </message>
     <message>
         <source>IDS_HISTORY_NOT_WRITABLE</source>
-        <translation>无法将早期列表保存在 %1 中。您的更改只能在程序结束前撤销。</translation>
+        <translation>无法将以前的列表保存在 %1 中。只能在退出程序之前撤销更改。</translation>
     </message>
     <message>
         <source>IDS_LIST_BUSY</source>
@@ -803,7 +883,7 @@
     </message>
     <message>
         <source>IDS_HISTORY_NOT_SET_ASIDE</source>
-        <translation>文件 %1 无法重命名，因此未作改动。</translation>
+        <translation>文件 %1 无法重命名，因此没有新建文件。</translation>
     </message>
     <message>
         <source>IDS_FAULT_LINE</source>
@@ -815,15 +895,15 @@
     </message>
     <message>
         <source>IDS_FAULT_DECLARATION</source>
-        <translation>此处不应有文档类型声明</translation>
+        <translation>此处不允许文档类型声明</translation>
     </message>
     <message>
         <source>IDS_FAULT_ELEMENT</source>
-        <translation>此处不应有元素“%1”</translation>
+        <translation>此处不允许元素“%1”</translation>
     </message>
     <message>
         <source>IDS_FAULT_TEXT</source>
-        <translation>此处不应有文本</translation>
+        <translation>此处不允许文本</translation>
     </message>
     <message>
         <source>IDS_FAULT_ATTRIBUTE</source>
@@ -839,7 +919,7 @@
     </message>
     <message>
         <source>IDS_LIST_UNDO_DAMAGE</source>
-        <translation>“撤销”可恢复最后一个能读取的列表。</translation>
+        <translation>“撤销”可恢复最后一个完整的列表。</translation>
     </message>
     <message>
         <source>IDS_HEAD_SKIPPED</source>
@@ -847,43 +927,43 @@
     </message>
     <message>
         <source>IDS_HEAD_CONNECT_HINT</source>
-        <translation>“连接…”可显示信号范围内的网络。</translation>
+        <translation>“连接…”可显示信号范围内的其他网络。</translation>
     </message>
     <message>
         <source>IDS_WHY_OUT_OF_RANGE</source>
-        <translation>不在信号范围内，目前无法使用。</translation>
+        <translation>未使用，因为不在信号范围内。</translation>
     </message>
     <message>
         <source>IDS_WHY_LOWER</source>
-        <translation>可以使用，但 %1 在列表中更靠前。</translation>
+        <translation>未使用，因为 %1 在列表中更靠前。</translation>
     </message>
     <message>
         <source>IDS_WHY_UNDECIDED</source>
-        <translation>可以使用，但不知道列表中更靠前的网络是否在信号范围内。</translation>
+        <translation>未使用，因为不知道列表中更靠前的网络是否在信号范围内。</translation>
     </message>
     <message>
         <source>IDS_ACTION_TRACE_SEARCH</source>
-        <translation>搜索跟踪(&amp;S)…</translation>
+        <translation>搜索日志(&amp;S)…</translation>
     </message>
     <message>
         <source>IDS_TRACE_SEARCH</source>
-        <translation>搜索跟踪</translation>
+        <translation>搜索日志</translation>
     </message>
     <message>
         <source>IDS_TRACE_NEXT</source>
-        <translation>下一处</translation>
+        <translation>下一个匹配项</translation>
     </message>
     <message>
         <source>IDS_TRACE_PREVIOUS</source>
-        <translation>上一处</translation>
+        <translation>上一个匹配项</translation>
     </message>
     <message>
         <source>IDS_TRACE_MATCHES</source>
-        <translation>找到：%1</translation>
+        <translation>匹配项：%1</translation>
     </message>
     <message>
         <source>IDS_TRACE_NO_MATCH</source>
-        <translation>未找到</translation>
+        <translation>没有匹配项</translation>
     </message>
     <message>
         <source>IDS_MENU_APPEARANCE</source>
@@ -910,27 +990,27 @@
     </message>
     <message>
         <source>IDS_WLAN_KEPT_READ_ONLY</source>
-        <translation>“%1”保持原样：已设置了同名网络，并且不允许更改。</translation>
+        <translation>“%1”未更改：已保存了同名网络，并且无法更改它。</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_SEVERAL</source>
-        <translation>未做任何更改：有多个网络以“%1”为名，无法确定指的是哪一个。请选择其他名称。</translation>
+        <translation>未做任何更改：有多个以“%1”为名的网络已保存，不知道指的是哪一个。请选择其他名称。</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_UNDESCRIBED</source>
-        <translation>“%1”保持原样：已设置了同名网络，其中含有此处无法输入的内容，例如帐户。请在设置它的地方更改，或选择其他名称。</translation>
+        <translation>“%1”未更改：已保存了同名网络，其中含有此处无法输入的内容，例如帐户。请在设置它的地方更改，或选择其他名称。</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_STRONGER</source>
-        <translation>“%1”保持原样：已设置了同名网络，而这种安全类型或加密会更弱。请选择至少同等的安全类型和加密，或选择其他名称。</translation>
+        <translation>“%1”未更改：已保存了同名网络，而这种安全类型或加密会更弱。请选择至少同等强度的安全类型和加密，或选择其他名称。</translation>
     </message>
     <message>
         <source>IDS_WLAN_KEPT_KEY</source>
-        <translation>“%1”保持原样：已设置了同名网络，更改它需要完整的密钥。请输入密钥，或选择其他名称。</translation>
+        <translation>“%1”未更改：已保存了同名网络，更改它需要完整的密钥。请输入密钥，或选择其他名称。</translation>
     </message>
     <message>
         <source>IDS_WLAN_BETTER_PROFILE</source>
-        <translation>“%1”未保存：同一网络已设置为“%2”，并且比这样更好。请改为将“%2”添加到列表。</translation>
+        <translation>“%1”未保存：同一网络已保存为“%2”，并且设置更好。请改为将“%2”添加到您的列表。</translation>
     </message>
     <message>
         <source>IDS_WLAN_BAD_NAME</source>
@@ -942,7 +1022,7 @@
     </message>
     <message>
         <source>IDS_WLAN_NO_ACCOUNT</source>
-        <translation>“%1”未保存：这种安全类型需要帐户，而此处无法输入。请在桌面设置中设置该网络，然后将其添加到列表。</translation>
+        <translation>“%1”未保存：这种安全类型需要帐户，而此处无法输入。请在桌面设置中设置该网络，然后将其添加到您的列表。</translation>
     </message>
     <message>
         <source>IDS_WLAN_NOT_RUNNING</source>
@@ -950,11 +1030,11 @@
     </message>
     <message>
         <source>IDS_WLAN_NO_ANSWER</source>
-        <translation>不清楚“%1”是否已保存：NetworkManager 没有响应。</translation>
+        <translation>不知道“%1”是否已保存：NetworkManager 没有响应。</translation>
     </message>
     <message>
         <source>IDS_WLAN_DENIED</source>
-        <translation>“%1”未保存：您在这台计算机上没有权限这样做。</translation>
+        <translation>“%1”未保存：您没有权限在此计算机上保存网络。</translation>
     </message>
     <message>
         <source>IDS_WLAN_REFUSED</source>
@@ -966,15 +1046,15 @@
     </message>
     <message>
         <source>IDS_WLAN_FILE_UNUSABLE</source>
-        <translation>“%1”未保存：无法读取或写入保存网络设置的文件。跟踪中有详细信息。</translation>
+        <translation>“%1”未保存：已保存网络的文件无法读取或写入。详情请查看日志。</translation>
     </message>
     <message>
         <source>IDS_WLAN_FILE_DAMAGED</source>
-        <translation>“%1”未保存：保存网络设置的文件已损坏，文件保持原样。跟踪中指明了所在行。</translation>
+        <translation>“%1”未保存：已保存网络的文件已损坏，未作改动。所在行请查看日志。</translation>
     </message>
     <message>
         <source>IDS_WLAN_BUSY</source>
-        <translation>“%1”未保存：另一个程序正在更改网络。请重试。</translation>
+        <translation>“%1”未保存：另一个程序正在更改网络。请稍后重试。</translation>
     </message>
 </context>
 </TS>
