@@ -1,5 +1,6 @@
 #include "Screens.h"
 
+#include <Appearance.h>
 #include <CommonUtils.h>
 #include <ConnectDialog.h>
 #include <HistoryFile.h>
@@ -63,6 +64,7 @@ const char *const states[] = {"",
                               "",
                               "Company, Home, Office",
                               "Company, Home, Office, Guest house at the upper end of the long road",
+                              "Company, Home, Office",
                               "Company, Home, Office"};
 const int stateInForce = 12;
 /** The state that came about by going back to that one. */
@@ -183,6 +185,13 @@ const Screens::Screen Screens::screens[] = {
     {"restore dialog, history damaged", &Screens::ShowRestoreWithoutHistory, nullptr},
     {"restore dialog, history not set aside", &Screens::ShowHistoryNotSetAside, nullptr},
     {"import dialog", &Screens::ShowImport, imported},
+    {"import dialog, one moves up", &Screens::ShowImport,
+     "Home, Office, Café, Old printer, Library, Workshop, Company"},
+    {"import dialog, one moves down", &Screens::ShowImport,
+     "Café, Office, Home, Old printer, Library, Workshop, Company"},
+    {"import dialog, one moves to the top", &Screens::ShowImport,
+     "Office, Home, Café, Old printer, Library, Workshop, Company"},
+    {"import dialog, many added and removed", &Screens::ShowImport, "Home, Office, Home/2, Office/2"},
     {"import dialog, nothing to import", &Screens::ShowImport, importedOver},
     {"import dialog, list not written", &Screens::ShowImportNotWritten, imported},
     {"notice, import not readable", &Screens::ShowImportNotice, nullptr},
@@ -267,7 +276,7 @@ Screens::Screens() : m_visitor(nullptr), m_visits(0)
     HostControl::SetPluginLibraryPath(QLatin1String(BUILD_DIRECTORY));
     HostControl::SetLanguageDirectory(LanguageDirectory());
     HostControl::OfferPseudoLanguage();
-    HostControl::ApplyLook();
+    Appearance::Apply(Appearance::System);
     m_plugins.reset(new PluginHost(QLatin1String(BUILD_DIRECTORY), PluginHost::KnownPlugins(WlanStored)));
     m_plugins->Load();
     if (m_plugins->Plugins().at(0).state != PluginReady || m_plugins->Plugins().at(1).state != PluginReady) {

@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QStyleOptionButton>
 #include <QStyleOptionComboBox>
+#include <QTableWidget>
 #include <QTextDocument>
 #include <QTextLayout>
 #include <QtTest>
@@ -64,7 +65,9 @@ void CheckLabel(const QLabel *label, QStringList *misfits)
     const QRect place =
         label->contentsRect().adjusted(label->margin(), label->margin(), -label->margin(), -label->margin());
     const QSize size = SizeOfText(label, place.width());
-    CheckWidth(label, text, size.width(), place.width(), misfits);
+    // The blank at which a line is broken may stand in the label's margin.
+    const int width = label->wordWrap() ? label->width() - 2 * label->margin() : place.width();
+    CheckWidth(label, text, size.width(), width, misfits);
     if (size.height() > place.height() + leading) {
         misfits->append(Told(label, text, size.height(), place.height()));
     }
@@ -100,6 +103,20 @@ void CheckHeader(const QHeaderView *header, QStringList *misfits)
     for (int i = 0; i < header->count(); ++i) {
         const QString text = header->model()->headerData(i, header->orientation()).toString();
         CheckWidth(header, text, header->sectionSizeHint(i), header->sectionSize(i), misfits);
+    }
+}
+
+/** The names of networks may be cut off, what is told of them may not. */
+void CheckEffects(const QTableWidget *table, QStringList *misfits)
+{
+    const int column = table->columnCount() - 1;
+    const int margin = 2 * (table->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, table) + 1);
+    for (int row = 0; row < table->rowCount(); ++row) {
+        const QString text = table->item(row, column)->text();
+        const int needed = WidthOf(table, text) + margin;
+        if (needed > table->columnWidth(column)) {
+            misfits->append(Told(table, text, needed, table->columnWidth(column)));
+        }
     }
 }
 
@@ -164,6 +181,8 @@ QStringList Misfits(const QWidget *window)
             CheckBox(box, &misfits);
         } else if (const QHeaderView *header = qobject_cast<const QHeaderView *>(widget)) {
             CheckHeader(header, &misfits);
+        } else if (widget->objectName() == QLatin1String("importList")) {
+            CheckEffects(qobject_cast<const QTableWidget *>(widget), &misfits);
         } else if (widget->objectName() == QLatin1String("pageList")) {
             CheckPageList(qobject_cast<const QListWidget *>(widget), &misfits);
         }
@@ -213,6 +232,8 @@ private slots:
     void fontsHaveTheCharacters();
     void explanationHasThreeLinesAtMost_data() { fontsHaveTheCharacters_data(); }
     void explanationHasThreeLinesAtMost();
+    void noteHasTwoLinesAtMost_data();
+    void noteHasTwoLinesAtMost();
     void menusHaveEachMnemonicOnce_data() { fontsHaveTheCharacters_data(); }
     void menusHaveEachMnemonicOnce();
     void pageHasEachMnemonicOnce_data() { fontsHaveTheCharacters_data(); }
@@ -314,6 +335,32 @@ void TestCaptions::explanationHasThreeLinesAtMost()
     QVERIFY2(lines >= 1 && lines <= 3, QByteArray::number(lines).constData());
 }
 
+void TestCaptions::noteHasTwoLinesAtMost_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("screen");
+    const char *const screens[] = {"list", "list, NetworkManager", "list, stand-in for NetworkManager"};
+    foreach (const QString &language, Screens::Languages()) {
+        for (const char *screen : screens) {
+            QTest::newRow((language.toLatin1() + ", " + screen).constData())
+                << language << QString(QLatin1String(screen));
+        }
+    }
+}
+
+void TestCaptions::noteHasTwoLinesAtMost()
+{
+    QFETCH(QString, language);
+    QFETCH(QString, screen);
+    int lines = 0;
+    m_screens.Show(screen, language, [&lines](const QWidget *window) {
+        const QLabel *label = window->findChild<QLabel *>(QLatin1String("noteLabel"));
+        lines =
+            SizeOfText(label, label->contentsRect().width()).height() / label->fontMetrics().lineSpacing();
+    });
+    QVERIFY2(lines >= 1 && lines <= 2, QByteArray::number(lines).constData());
+}
+
 void TestCaptions::menusHaveEachMnemonicOnce()
 {
     QFETCH(QString, language);
@@ -357,7 +404,7 @@ void TestCaptions::pageHasEachMnemonicOnce()
             }
         }
     });
-    // Up, Down, Add, Delete and New.
+    // Up, Down, Add, Remove and New.
     QCOMPARE(keys.size(), 5);
     QCOMPARE(keys.removeDuplicates(), 0);
 }

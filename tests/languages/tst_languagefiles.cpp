@@ -3,10 +3,12 @@
 #include <Change.h>
 #include <HostControl.h>
 #include <TemporaryDirectory.h>
+#include <TextPattern.h>
 
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
+#include <QLocale>
 #include <QProcess>
 #include <QSet>
 #include <QtTest>
@@ -106,6 +108,21 @@ QString WithoutMnemonic(QString text)
     return letterInBrackets < 0 ? text.remove(QLatin1Char('&')) : text.left(letterInBrackets);
 }
 
+/** What text says in quotation marks, without what is put in later. */
+QStringList Quotations(const QString &text)
+{
+    QStringList quotations;
+    const QChar begin(0x201c);
+    const QChar end(0x201d);
+    for (int at = text.indexOf(begin); at >= 0; at = text.indexOf(begin, at + 1)) {
+        const QString quotation = text.mid(at + 1, text.indexOf(end, at) - at - 1);
+        if (!quotation.startsWith(QLatin1Char('%'))) {
+            quotations.append(quotation);
+        }
+    }
+    return quotations;
+}
+
 bool HasNumber(const QString &text, const QString &number)
 {
     for (int at = text.indexOf(number); at >= 0; at = text.indexOf(number, at + 1)) {
@@ -197,12 +214,16 @@ private slots:
     void signsAreThoseOfPrintNotOfTypewriters();
     void embeddingsAreClosed_data() { AddLanguageRows(); }
     void embeddingsAreClosed();
+    void textsBeginInTheDirectionOfTheLanguage_data();
+    void textsBeginInTheDirectionOfTheLanguage();
+    void digitsAreThoseOfTheLanguage_data() { AddLanguageRows(); }
+    void digitsAreThoseOfTheLanguage();
     void everyTextIsInTheCompiledFile_data() { AddLanguageRows(); }
     void everyTextIsInTheCompiledFile();
     void keyNoticesTellLengthsAndSigns_data();
     void keyNoticesTellLengthsAndSigns();
-    void hintNamesTheButtonsByTheirCaptions_data() { AddLanguageRows(); }
-    void hintNamesTheButtonsByTheirCaptions();
+    void textsNameButtonsByTheirCaptions_data() { AddLanguageRows(); }
+    void textsNameButtonsByTheirCaptions();
     void damagedFileFailsTheBuildWithItsLine_data();
     void damagedFileFailsTheBuildWithItsLine();
     void completingPutsInWhatIsMissing();
@@ -400,6 +421,57 @@ void TestLanguageFiles::embeddingsAreClosed()
     COMPARE_WITH_NONE(problems);
 }
 
+void TestLanguageFiles::textsBeginInTheDirectionOfTheLanguage_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::newRow("ar") << "ar";
+    QTest::newRow("he") << "he";
+}
+
+void TestLanguageFiles::textsBeginInTheDirectionOfTheLanguage()
+{
+    // What a text begins with decides how all of it is laid out, even if that is put in later.
+    QFETCH(QString, language);
+    const LanguageSource source(language);
+    QStringList problems;
+    foreach (const Message &message, source.Messages()) {
+        if (message.key == QLatin1String("Dashboard/IDS_IMPORT_EFFECT_UNKNOWN")) {
+            continue; // begins with another text of the language
+        }
+        QString text = message.texts.value(0);
+        bool hasLetters = false;
+        foreach (const QChar character, text) {
+            hasLetters =
+                hasLetters || character.direction() == QChar::DirR || character.direction() == QChar::DirAL;
+        }
+        text.replace(QLatin1String("%1"), QLatin1String("A"));
+        if (hasLetters && !text.isRightToLeft()) {
+            problems.append(source.Place(message) + QLatin1String(" would be laid out from left to right"));
+        }
+    }
+    COMPARE_WITH_NONE(problems);
+}
+
+void TestLanguageFiles::digitsAreThoseOfTheLanguage()
+{
+    QFETCH(QString, language);
+    const LanguageSource source(language);
+    const ushort zero = QLocale(language).toString(0).at(0).unicode();
+    // Latin texts such as paths have their own, and placeholders are none.
+    const QString others = QString::fromUtf8("\u202a.*?\u202c|%[0-9]");
+    QStringList problems;
+    foreach (const Message &message, source.Messages()) {
+        const QString text = TextPattern::Replaced(message.texts.value(0), others, QString());
+        foreach (const QChar character, text) {
+            if (character.isDigit() && character.unicode() - character.digitValue() != zero) {
+                problems.append(source.Place(message) + QLatin1String(" has other digits: ") + text);
+                break;
+            }
+        }
+    }
+    COMPARE_WITH_NONE(problems);
+}
+
 void TestLanguageFiles::everyTextIsInTheCompiledFile()
 {
     QFETCH(QString, language);
@@ -437,7 +509,7 @@ void TestLanguageFiles::keyNoticesTellLengthsAndSigns()
     const QString text =
         LanguageSource(language).ByKey().value(QLatin1String("PriorityPlugin/") + id).texts.value(0);
     foreach (const QString &length, lengths.split(QLatin1Char(' '))) {
-        QVERIFY2(HasNumber(text, length), qPrintable(length));
+        QVERIFY2(HasNumber(text, QLocale(language).toString(length.toInt())), qPrintable(length));
     }
     QVERIFY(text.contains(QLatin1String("- _ ~ ! @ # $ % ^ & * ( ) + { } [ ] :")));
     QString digits = text;
@@ -447,17 +519,35 @@ void TestLanguageFiles::keyNoticesTellLengthsAndSigns()
     QVERIFY(digits.contains(QString::fromUtf8("A–F")));
 }
 
-void TestLanguageFiles::hintNamesTheButtonsByTheirCaptions()
+void TestLanguageFiles::textsNameButtonsByTheirCaptions()
 {
     QFETCH(QString, language);
-    const QMap<QString, Message> messages = LanguageSource(language).ByKey();
-    const QString hint = messages.value(QLatin1String("Dashboard/IDS_EMPTY_HINT")).texts.value(0);
-    const char *const captions[] = {"IDS_PROFILE_ADD", "IDS_PROFILE_NEW"};
-    for (const char *caption : captions) {
-        const QString text = WithoutMnemonic(
-            messages.value(QLatin1String("PriorityPlugin/") + QLatin1String(caption)).texts.value(0));
-        QVERIFY2(!text.isEmpty() && hint.contains(text), text.toUtf8().constData());
+    const LanguageSource source(language);
+    const QMap<QString, Message> messages = source.ByKey();
+    QStringList problems;
+    int quotations = 0;
+    foreach (const Message &message, LanguageSource(English()).Messages()) {
+        foreach (const QString &quotation, Quotations(message.texts.value(0))) {
+            // What a button or a menu says in English has this in the language.
+            bool isCaption = false;
+            bool isNamed = false;
+            const QString text = messages.value(message.key).texts.value(0);
+            foreach (const Message &other, m_english) {
+                if (WithoutMnemonic(other.texts.value(0)) == quotation) {
+                    isCaption = true;
+                    const QString caption = WithoutMnemonic(messages.value(other.key).texts.value(0));
+                    isNamed = isNamed || (!caption.isEmpty() && text.contains(caption));
+                }
+            }
+            ++quotations;
+            if (!isCaption || !isNamed) {
+                problems.append(source.Place(messages.value(message.key)) +
+                                QString::fromUtf8(" should name what “%1” is called").arg(quotation));
+            }
+        }
     }
+    QVERIFY(quotations > 5);
+    COMPARE_WITH_NONE(problems);
 }
 
 void TestLanguageFiles::damagedFileFailsTheBuildWithItsLine_data()
