@@ -8,7 +8,6 @@
 #include <FunctonTrick.h>
 #include <HostControl.h>
 #include <TemporaryDirectory.h>
-#include <ToolkitCompat.h>
 
 #include <QDialog>
 #include <QDir>
@@ -40,7 +39,7 @@ const char openingDialog[] = "open the add dialog, to painted";
 
 qint64 traceLines = 0;
 
-void CountAndDiscard(QtMsgType, const QString &)
+void CountAndDiscard(QtMsgType, const QMessageLogContext &, const QString &)
 {
     ++traceLines;
 }
@@ -147,7 +146,7 @@ void bench_Priority::initTestCase()
     m_priorityFile = m_directory->FilePath(QLatin1String("priority-dashboard/Priority.xml"));
     m_bareFile = m_directory->FilePath(QLatin1String("priority-dashboard/Bare.xml"));
 
-    ToolkitCompat::InstallTextMessageHandler(CountAndDiscard);
+    qInstallMessageHandler(CountAndDiscard);
     const QString build = QLatin1String(BUILD_DIRECTORY);
     HostControl::SetPluginLibraryPath(build);
     HostControl::SetLanguageDirectory(build + QLatin1String("/share/priority-dashboard/languages"));
@@ -172,7 +171,7 @@ void bench_Priority::cleanupTestCase()
     m_report.Print();
     m_host.reset();
     m_bareWindow.reset();
-    ToolkitCompat::InstallTextMessageHandler(nullptr);
+    qInstallMessageHandler(nullptr);
     m_directory.reset();
 }
 

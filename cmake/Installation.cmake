@@ -45,6 +45,8 @@ install(TARGETS coreui zeltsdk EXPORT PriorityPluginTargets
 # Development
 
 file(GLOB contract_headers CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/include/*.h")
+# Not a contract: how this tree copes with several generations of Qt.
+list(FILTER contract_headers EXCLUDE REGEX "/ToolkitCompat\\.h$")
 install(FILES ${contract_headers}
     "${PROJECT_SOURCE_DIR}/host/coreui/HostControl.h" "${PROJECT_SOURCE_DIR}/host/sdk/ZeltSdkStatus.h"
     DESTINATION "${header_directory}" COMPONENT development)
@@ -81,6 +83,10 @@ install(FILES "${PROJECT_SOURCE_DIR}/docs/integrating.md" "${PROJECT_SOURCE_DIR}
     DESTINATION "${documentation_directory}/docs" COMPONENT development)
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/examples" DESTINATION "${documentation_directory}" COMPONENT development
     PATTERN ".clang-format" EXCLUDE)
+
+if(PRIORITY_QT EQUAL 4)
+    return()
+endif()
 
 # Dashboard
 

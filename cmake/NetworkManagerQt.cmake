@@ -3,7 +3,6 @@
 
 set(PRIORITY_HAS_NETWORKMANAGER OFF)
 if(PRIORITY_QT EQUAL 4)
-    message(STATUS "WLANNetworkManager is left out: there is no NetworkManagerQt for Qt 4")
     return()
 endif()
 

@@ -1,6 +1,6 @@
 # What every target of this tree is built with.
 
-set(CMAKE_CXX_STANDARD ${PRIORITY_CXX_STANDARD})
+set(CMAKE_CXX_STANDARD 17)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
@@ -23,6 +23,11 @@ add_compile_options(-Wall -Wextra -Wpedantic -Wnon-virtual-dtor -Woverloaded-vir
 # For product code: implicit conversions are where the names of networks get damaged.
 macro(priority_strict_text)
     add_compile_definitions(QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING)
+endmacro()
+
+# For what a foreign host loads or links, which may be built with an older compiler and Qt.
+macro(priority_inner_circle)
+    set(CMAKE_CXX_STANDARD ${PRIORITY_INNER_CXX_STANDARD})
 endmacro()
 
 if(PRIORITY_WERROR)

@@ -1,6 +1,6 @@
 # The toolkit behind one set of names, so that no other file names its generation: the targets PriorityQtCore,
 # PriorityQtWidgets and PriorityQtTest, the function priority_compile_languages with its PRIORITY_LANGUAGE_COMPILER, and
-# PRIORITY_CXX_STANDARD.
+# PRIORITY_INNER_CXX_STANDARD.
 
 set(PRIORITY_QT "" CACHE STRING
     "Generation of Qt to build for: 4, 5 or 6; empty: the newest that NetworkManagerQt is here for")

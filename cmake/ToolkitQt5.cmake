@@ -1,13 +1,9 @@
-set(PRIORITY_CXX_STANDARD 11)
+set(PRIORITY_INNER_CXX_STANDARD 11)
 
-find_package(Qt5 5.15 REQUIRED COMPONENTS Core Gui Widgets LinguistTools)
+find_package(Qt5 5.15 REQUIRED COMPONENTS Core Gui Widgets Test LinguistTools)
 target_link_libraries(PriorityQtCore INTERFACE Qt5::Core)
 target_link_libraries(PriorityQtWidgets INTERFACE Qt5::Gui Qt5::Widgets)
-
-if(PRIORITY_TESTS)
-    find_package(Qt5 5.15 REQUIRED COMPONENTS Test)
-    target_link_libraries(PriorityQtTest INTERFACE Qt5::Test)
-endif()
+target_link_libraries(PriorityQtTest INTERFACE Qt5::Test)
 
 set(PRIORITY_LANGUAGE_COMPILER "$<TARGET_FILE:Qt5::lrelease>")
 

@@ -2,7 +2,6 @@
 
 #include <StandInHost.h>
 #include <TemporaryDirectory.h>
-#include <ToolkitCompat.h>
 
 #include <QDir>
 
@@ -12,14 +11,14 @@
 namespace
 {
 
-void Discard(QtMsgType, const QString &) {}
+void Discard(QtMsgType, const QMessageLogContext &, const QString &) {}
 
 class Scene
 {
 public:
     Scene()
     {
-        ToolkitCompat::InstallTextMessageHandler(Discard);
+        qInstallMessageHandler(Discard);
         StandInHost::Reset(m_directory.Path());
         StandInHost::libraryPath = m_directory.Path();
         QDir(m_directory.Path()).mkpath("plugins/PriorityPlugin");

@@ -2,16 +2,13 @@
 #define TOOLKITCOMPAT_H
 
 /*
- * Everything in which the supported generations of the toolkit differ, as named helpers. No other file looks
- * at the toolkit's version. Comparisons use plain hexadecimal numbers because the oldest moc expands no
- * function-like macro.
+ * Everything in which Qt 4.8, 5.15 and 6 differ for the plug-in and the host's two libraries, as named
+ * helpers. None of these looks at Qt's version elsewhere. Comparisons use plain hexadecimal numbers because
+ * the moc of Qt 4.8 expands no function-like macro.
  */
 
 #include <QAbstractItemView>
-#include <QApplication>
 #include <QComboBox>
-#include <QImage>
-#include <QLibraryInfo>
 #include <QMouseEvent>
 #include <QString>
 #include <QWidget>
@@ -23,13 +20,8 @@
 #endif
 #if QT_VERSION < 0x060000
 #include <QRegExpValidator>
-#include <QTextCodec>
 #else
 #include <QRegularExpressionValidator>
-#include <QStringDecoder>
-#endif
-#if QT_VERSION >= 0x050000
-#include <QGuiApplication>
 #endif
 #if QT_VERSION >= 0x050f00
 #include <QWindow>
@@ -38,7 +30,7 @@
 namespace ToolkitCompat
 {
 
-/** printf formatting; a text for %s is read as UTF-8 by every generation. */
+/** printf formatting; a text for %s is read as UTF-8 by each of them. */
 inline QString FormatText(const char *format, va_list arguments)
 {
 #if QT_VERSION >= 0x050500
@@ -56,22 +48,7 @@ inline QString FromUtf16(const unsigned short *units)
     return QString(reinterpret_cast<const QChar *>(units));
 }
 
-/** Whether bytes, from the first to the last, are UTF-8. */
-inline bool IsUtf8(const QByteArray &bytes)
-{
-#if QT_VERSION >= 0x060000
-    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-    const QString text = decoder(bytes);
-    Q_UNUSED(text);
-    return !decoder.hasError();
-#else
-    QTextCodec::ConverterState state;
-    QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
-    return state.invalidChars == 0 && state.remainingChars == 0;
-#endif
-}
-
-/** Lets negative contents margins of widget take effect, as they do without asking in the oldest generation.
+/** Lets negative contents margins of widget take effect, as they do without asking in Qt 4.8.
  */
 inline void AllowNegativeMargins(QWidget *widget)
 {
@@ -92,16 +69,6 @@ inline QString PlainTextAsHtml(const QString &text)
 #endif
 }
 
-/** Where the translations of the toolkit's own texts are installed. */
-inline QString TranslationDirectory()
-{
-#if QT_VERSION >= 0x060000
-    return QLibraryInfo::path(QLibraryInfo::TranslationsPath);
-#else
-    return QLibraryInfo::location(QLibraryInfo::TranslationsPath);
-#endif
-}
-
 /**
  * Lets the window system move a window along with the mouse button that is down, which is the only way under
  * some of them. False: it can't, and whoever asks moves the window itself.
@@ -113,59 +80,6 @@ inline bool LetSystemMove(QWidget *window)
 #else
     Q_UNUSED(window);
     return false;
-#endif
-}
-
-/** Whether there is something to show windows on; the toolkit aborts the program when there is nothing. */
-inline bool HasDisplay()
-{
-#if QT_VERSION >= 0x050000
-    return !qgetenv("QT_QPA_PLATFORM").isEmpty() || !qgetenv("DISPLAY").isEmpty() ||
-           !qgetenv("WAYLAND_DISPLAY").isEmpty();
-#else
-    return !qgetenv("DISPLAY").isEmpty();
-#endif
-}
-
-/**
- * Lets windows follow the scale of their screens, 150 % as well as 200 %. Call it before the QApplication is
- * made. The oldest generation knows no scale.
- */
-inline void FollowScreenScale()
-{
-#if QT_VERSION >= 0x050e00
-    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
-#endif
-#if QT_VERSION >= 0x050600 && QT_VERSION < 0x060000
-    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-#endif
-}
-
-/** An empty image to paint something of that size on, with as many pixels as the widget's screen would have.
- */
-inline QImage ImageFor(const QWidget *widget, const QSize &size)
-{
-#if QT_VERSION >= 0x050600
-    const qreal scale = widget->devicePixelRatioF();
-    QImage image(size * scale, QImage::Format_ARGB32_Premultiplied);
-    image.setDevicePixelRatio(scale);
-#else
-    Q_UNUSED(widget);
-    QImage image(size, QImage::Format_ARGB32_Premultiplied);
-#endif
-    image.fill(0);
-    return image;
-}
-
-/** Gives the keyboard to a window, before this returns where the window system is quick enough. */
-inline void ActivateWindow(QWidget *window)
-{
-#if QT_VERSION >= 0x060500
-    window->activateWindow();
-    QGuiApplication::sync();
-#else
-    QApplication::setActiveWindow(window);
 #endif
 }
 
@@ -238,39 +152,6 @@ inline QValidator *NewPatternValidator(const QString &pattern, QObject *parent)
     return new UnitPatternValidator(QRegularExpression(expression), parent);
 #else
     return new QRegExpValidator(QRegExp(pattern), parent);
-#endif
-}
-
-/** Receives every message of qDebug and its relatives; may be called on any thread. */
-typedef void (*TextMessageHandler)(QtMsgType type, const QString &text);
-
-inline TextMessageHandler &CurrentTextMessageHandler()
-{
-    static TextMessageHandler handler = nullptr;
-    return handler;
-}
-
-#if QT_VERSION >= 0x050000
-inline void ForwardMessage(QtMsgType type, const QMessageLogContext &, const QString &text)
-{
-    CurrentTextMessageHandler()(type, text);
-}
-#else
-inline void ForwardMessage(QtMsgType type, const char *text)
-{
-    CurrentTextMessageHandler()(type, QString::fromLocal8Bit(text));
-}
-#endif
-
-/** Sends all messages to handler instead of the standard error output; null restores the toolkit's own
- * handling. */
-inline void InstallTextMessageHandler(TextMessageHandler handler)
-{
-    CurrentTextMessageHandler() = handler;
-#if QT_VERSION >= 0x050000
-    qInstallMessageHandler(handler ? ForwardMessage : nullptr);
-#else
-    qInstallMsgHandler(handler ? ForwardMessage : nullptr);
 #endif
 }
 

@@ -55,11 +55,6 @@ QList<LanguageProblem> HostControl::LanguageProblems()
     return HostState::Instance().languages.Problems();
 }
 
-void HostControl::OfferPseudoLanguage()
-{
-    HostState::Instance().languages.OfferPseudo();
-}
-
 QString HostControl::TextIn(const QString &language, const QString &id, const QString &context)
 {
     return HostState::Instance().languages.TextIn(language, id, context);

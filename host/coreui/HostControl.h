@@ -50,12 +50,6 @@ public:
     /** The files found there that can't be used, and why. */
     static QList<LanguageProblem> LanguageProblems();
 
-    /**
-     * Adds a language "pseudo" to those found: English with other letters, longer and in brackets. In it,
-     * whatever bypasses the language files and whatever is cut off in its place is seen at a glance.
-     */
-    static void OfferPseudoLanguage();
-
     /** What Change::tr would answer in another language than the one in use; empty when that has no such
      * text. */
     static QString TextIn(const QString &language, const QString &id, const QString &context);

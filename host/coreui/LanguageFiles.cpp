@@ -1,7 +1,6 @@
 #include "LanguageFiles.h"
 
 #include "CompiledLanguage.h"
-#include "PseudoText.h"
 
 #include <QByteArray>
 #include <QDir>
@@ -14,11 +13,6 @@ namespace
 QLatin1String EnglishName()
 {
     return QLatin1String("en");
-}
-
-QLatin1String PseudoName()
-{
-    return QLatin1String("pseudo");
 }
 
 QLatin1String Suffix()
@@ -58,9 +52,7 @@ private:
     bool m_usable;
 };
 
-LanguageFiles::LanguageFiles() : m_nameInUse(EnglishName()), m_isPseudoOffered(false), m_isPseudoInUse(false)
-{
-}
+LanguageFiles::LanguageFiles() : m_nameInUse(EnglishName()) {}
 
 LanguageFiles::~LanguageFiles() = default;
 
@@ -102,11 +94,6 @@ QStringList LanguageFiles::Names() const
             names.append(listed.at(i));
         }
     }
-    if (m_isPseudoOffered) {
-        names.removeAll(PseudoName());
-        names.append(PseudoName());
-        names.sort();
-    }
     return names;
 }
 
@@ -125,18 +112,15 @@ QList<LanguageProblem> LanguageFiles::Problems() const
 
 bool LanguageFiles::Use(const QString &name)
 {
-    const bool isPseudo = m_isPseudoOffered && name == PseudoName();
-    std::unique_ptr<Language> language;
-    if (!isPseudo) {
-        // Only what lies in the directory itself is a language; no name leads out of it.
-        LanguageProblem ignored;
-        if (!Listed().contains(name) || !(language = Load(name, &ignored))) {
-            return false;
-        }
+    // Only what lies in the directory itself is a language; no name leads out of it.
+    LanguageProblem ignored;
+    std::unique_ptr<Language> language =
+        Listed().contains(name) ? Load(name, &ignored) : std::unique_ptr<Language>();
+    if (!language) {
+        return false;
     }
     m_inUse.swap(language);
     m_nameInUse = name;
-    m_isPseudoInUse = isPseudo;
     return true;
 }
 
@@ -148,18 +132,12 @@ QString LanguageFiles::Text(const QString &id, const QString &context) const
     }
     if (text.isEmpty() && m_english) {
         text = m_english->Text(id, context);
-        if (m_isPseudoInUse && !text.isEmpty()) {
-            text = PseudoText(text);
-        }
     }
     return text.isEmpty() ? id : text;
 }
 
 QString LanguageFiles::TextIn(const QString &name, const QString &id, const QString &context) const
 {
-    if (m_isPseudoOffered && name == PseudoName()) {
-        return m_english ? PseudoText(m_english->Text(id, context)) : QString();
-    }
     LanguageProblem ignored;
     const std::unique_ptr<Language> language =
         Listed().contains(name) ? Load(name, &ignored) : std::unique_ptr<Language>();

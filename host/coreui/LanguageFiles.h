@@ -20,9 +20,6 @@ public:
 
     void SetDirectory(const QString &directory);
 
-    /** From now on there is also a language "pseudo", which is made from the English texts. */
-    void OfferPseudo() { m_isPseudoOffered = true; }
-
     /** Only those that can be used. */
     QStringList Names() const;
 
@@ -49,8 +46,6 @@ private:
 
     QString m_directory;
     QString m_nameInUse;
-    bool m_isPseudoOffered;
-    bool m_isPseudoInUse;
     std::unique_ptr<Language> m_inUse;
     std::unique_ptr<Language> m_english;
 };

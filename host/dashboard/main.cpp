@@ -7,16 +7,12 @@
 #include <MainWindow.h>
 #include <PluginHost.h>
 #include <Terminal.h>
-#include <ToolkitCompat.h>
-#include <Tour.h>
 #include <TraceLog.h>
 #include <UserData.h>
 
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QFont>
-#include <QScopedPointer>
 
 #include <clocale>
 #include <cstdio>
@@ -46,6 +42,23 @@ QString LibraryPath(const Arguments &arguments)
     return QDir::cleanPath(QDir().absoluteFilePath(path));
 }
 
+/** Whether there is something to show windows on; Qt aborts the program when there is nothing. */
+bool HasDisplay()
+{
+    return !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") || !qEnvironmentVariableIsEmpty("DISPLAY") ||
+           !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+}
+
+/** Lets windows follow the scale of their screens, 150 % as well as 200 %. */
+void FollowScreenScale()
+{
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+#endif
+}
+
 /** Whether there is a file for the language at all, useful or not. */
 bool IsKnown(const QString &language)
 {
@@ -63,8 +76,8 @@ void StartLanguage(const Arguments &arguments)
     for (int i = 0; i < problems.size(); ++i) {
         TraceLog::Warn(DashboardLanguage::ProblemText(problems.at(i)));
     }
-    // A tour looks the same wherever it is taken, and scripts are told the same everywhere.
-    const bool isTheUsers = arguments.tourDirectory.isNull() && arguments.commands.isEmpty();
+    // Scripts are told the same everywhere.
+    const bool isTheUsers = arguments.commands.isEmpty();
     const QString language = DashboardLanguage::Choose(
         arguments.language, isTheUsers ? DashboardLanguage::Stored() : QString(),
         isTheUsers ? DashboardLanguage::OfSystem() : QStringList(), HostControl::LanguageNames());
@@ -73,15 +86,6 @@ void StartLanguage(const Arguments &arguments)
             QString::fromLatin1("the texts for the language \"%1\" are missing; their names are shown")
                 .arg(language));
     }
-}
-
-/** The size that desktops use; without a desktop the toolkit takes a larger one, and pictures would show
- * that. */
-void UseDesktopFontSize()
-{
-    QFont font = QApplication::font();
-    font.setPointSize(10);
-    QApplication::setFont(font);
 }
 
 /** Sets up where plug-ins and languages are looked for. Null, or what of the command line can't be followed.
@@ -94,9 +98,6 @@ QString PrepareHost(const Arguments &arguments)
     }
     HostControl::SetPluginLibraryPath(libraryPath);
     HostControl::SetLanguageDirectory(Installation::LanguageDirectory(QApplication::applicationDirPath()));
-    if (arguments.language == QLatin1String("pseudo")) {
-        HostControl::OfferPseudoLanguage();
-    }
     if (!arguments.language.isNull() && !IsKnown(arguments.language)) {
         return QString::fromLatin1("there is no language \"%1\"; there are: %2")
             .arg(arguments.language, HostControl::LanguageNames().join(QLatin1String(", ")));
@@ -120,17 +121,13 @@ int RunCommands(const Arguments &arguments)
     return ListCommands(listPath).Run(arguments.commands);
 }
 
-int RunWindow(const Arguments &arguments, const TourDirectory &tourDirectory, TraceLog *log)
+int RunWindow(const Arguments &arguments, TraceLog *log)
 {
-    if (!arguments.tourDirectory.isNull()) {
-        UseDesktopFontSize();
-    }
     if (UserData::Directory().isEmpty()) {
         TraceLog::Warn(QLatin1String("there is no directory for your data and none can be made; "
                                      "what you change will not be kept"));
     }
-    // A tour looks the same wherever it is taken.
-    Appearance::Apply(arguments.tourDirectory.isNull() ? Appearance::Stored() : Appearance::System);
+    Appearance::Apply(Appearance::Stored());
 
     PluginHost plugins(LibraryPath(arguments), PluginHost::KnownPlugins(arguments.ChosenWlan()));
     plugins.Load();
@@ -143,11 +140,6 @@ int RunWindow(const Arguments &arguments, const TourDirectory &tourDirectory, Tr
     DashboardLanguage language(nullptr);
     MainWindow window(&plugins, &language, log);
     window.show();
-    QScopedPointer<Tour> tour;
-    if (!arguments.tourDirectory.isNull()) {
-        tour.reset(new Tour(&window, tourDirectory));
-        tour->Start();
-    }
     return QApplication::exec();
 }
 
@@ -155,7 +147,7 @@ int RunWindow(const Arguments &arguments, const TourDirectory &tourDirectory, Tr
 
 int main(int argc, char **argv)
 {
-    // As the toolkit does when it starts; until then nobody knows in which encoding the arguments are.
+    // As Qt does when it starts; until then nobody knows in which encoding the arguments are.
     std::setlocale(LC_ALL, "");
     const Arguments arguments = Arguments::Read(argc, argv);
     switch (arguments.action) {
@@ -171,32 +163,22 @@ int main(int argc, char **argv)
         break;
     }
 
-    TourDirectory tourDirectory(arguments.tourDirectory);
-    if (!arguments.tourDirectory.isNull()) {
-        const QString problem = tourDirectory.Prepare();
-        if (!problem.isNull()) {
-            return Refuse(problem, exitRefused);
-        }
-        qputenv("XDG_DATA_HOME", QFile::encodeName(tourDirectory.DataPath()));
-    }
     const bool isForScripts = !arguments.commands.isEmpty();
     // Whatever a desktop has set: scripts run where its display is out of reach.
-    if (isForScripts || (!arguments.tourDirectory.isNull() && qgetenv("QT_QPA_PLATFORM").isEmpty())) {
+    if (isForScripts) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
-    if (!ToolkitCompat::HasDisplay()) {
+    if (!HasDisplay()) {
         const QCoreApplication application(argc, argv);
         const QString problem = PrepareHost(arguments);
         return problem.isNull() ? Refuse(QLatin1String("there is no display to open a window on; "
-                                                       "set DISPLAY, or look at a tour with --tour DIR"),
+                                                       "set DISPLAY"),
                                          exitNoDisplay)
                                 : Refuse(problem, exitRefused);
     }
 
-    if (arguments.tourDirectory.isNull()) {
-        ToolkitCompat::FollowScreenScale();
-    }
-    // The log before the toolkit, which has things to say while it starts.
+    FollowScreenScale();
+    // The log before Qt, which has things to say while it starts.
     TraceLog log(UserData::FilePath(QLatin1String("dashboard.log")));
     const QApplication application(argc, argv);
     QApplication::setApplicationName(QLatin1String("priority-dashboard"));
@@ -206,5 +188,5 @@ int main(int argc, char **argv)
         return Refuse(problem, exitRefused);
     }
     StartLanguage(arguments);
-    return isForScripts ? RunCommands(arguments) : RunWindow(arguments, tourDirectory, &log);
+    return isForScripts ? RunCommands(arguments) : RunWindow(arguments, &log);
 }

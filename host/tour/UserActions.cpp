@@ -2,13 +2,11 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
-#include <QMouseEvent>
 #include <QPointer>
 #include <QTableWidget>
-#include <ToolkitCompat.h>
+#include <QtTest>
 
 namespace
 {
@@ -39,40 +37,16 @@ QString Obstacle(const QWidget *widget)
     return QString();
 }
 
-void SendMouse(QEvent::Type type, QWidget *target, const QPoint &position)
-{
-    const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
-    const Qt::MouseButtons held = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
-    QMouseEvent event(type, position, target->mapToGlobal(position), button, held, Qt::NoModifier);
-    QApplication::sendEvent(target, &event);
-}
-
-/** A menu takes a click for its own only when the mouse has come to it from where it was opened. */
-void MoveAlong(QWidget *menu, const QPoint &position)
-{
-    const int steps = 8;
-    for (int i = 0; i < steps; ++i) {
-        SendMouse(QEvent::MouseMove, menu, position - QPoint(0, steps - 1 - i));
-    }
-}
-
 /** What a window manager does: a dialog that closes leaves the keyboard to the window before it. */
 void ActivateWindowOf(QWidget *widget)
 {
     const bool isPopup = (widget->window()->windowFlags() & Qt::WindowType_Mask) == Qt::Popup;
     if (QApplication::activeWindow() != widget->window() && !isPopup) {
-        ToolkitCompat::ActivateWindow(widget->window());
-    }
-}
-
-/** The toolkit moves the focus for the window system's clicks only. */
-void FocusByClick(QWidget *target)
-{
-    for (QWidget *widget = target; widget; widget = widget->isWindow() ? nullptr : widget->parentWidget()) {
-        if (widget->isEnabled() && (widget->focusPolicy() & Qt::ClickFocus) == Qt::ClickFocus) {
-            widget->setFocus(Qt::MouseFocusReason);
-            return;
-        }
+        widget->window()->activateWindow();
+        // A dialog counts as active to Qt's own wait as soon as the window before it is.
+        const bool isActive =
+            QTest::qWaitFor([widget] { return QApplication::activeWindow() == widget->window(); });
+        Q_UNUSED(isActive);
     }
 }
 
@@ -92,32 +66,24 @@ QString ClickAt(QWidget *widget, const QPoint &position)
     }
     const QPoint targetPosition = target->mapFrom(window, widget->mapTo(window, position));
     ActivateWindowOf(widget);
-    FocusByClick(target.data());
-    SendMouse(QEvent::MouseButtonPress, target.data(), targetPosition);
+    QTest::mousePress(target.data(), Qt::LeftButton, Qt::NoModifier, targetPosition);
     if (target) {
-        SendMouse(QEvent::MouseButtonRelease, target.data(), targetPosition);
+        QTest::mouseRelease(target.data(), Qt::LeftButton, Qt::NoModifier, targetPosition);
     }
     return QString();
 }
 
-QString SendKey(int key, Qt::KeyboardModifiers modifiers, const QString &text, QWidget *widget)
+/** Why keys would not go to widget or into it; null, and it has the keyboard. */
+QString FocusObstacle(QWidget *widget)
 {
-    QString obstacle = Obstacle(widget);
+    const QString obstacle = Obstacle(widget);
     if (!obstacle.isNull()) {
         return obstacle;
     }
     ActivateWindowOf(widget);
-    QPointer<QWidget> target = QApplication::focusWidget();
-    if (!IsSameOrInside(target.data(), widget)) {
-        return QString::fromLatin1("%1 doesn't have the keyboard's focus").arg(NameOf(widget));
-    }
-    QKeyEvent press(QEvent::KeyPress, key, modifiers, text);
-    QApplication::sendEvent(target.data(), &press);
-    if (target) {
-        QKeyEvent release(QEvent::KeyRelease, key, modifiers, text);
-        QApplication::sendEvent(target.data(), &release);
-    }
-    return QString();
+    return IsSameOrInside(QApplication::focusWidget(), widget)
+               ? QString()
+               : QString::fromLatin1("%1 doesn't have the keyboard's focus").arg(NameOf(widget));
 }
 
 } // namespace
@@ -148,8 +114,13 @@ QString UserActions::ChooseFromMenu(QMenu *menu, QAction *action)
         problem = QString::fromLatin1("%1 is disabled").arg(action->objectName());
     }
     if (problem.isNull()) {
-        MoveAlong(menu, menu->actionGeometry(action).center());
-        problem = ClickAt(menu, menu->actionGeometry(action).center());
+        // A menu takes a click for its own only when the mouse has come to it from where it was opened.
+        const int steps = 8;
+        const QPoint place = menu->actionGeometry(action).center();
+        for (int i = 1; i <= steps; ++i) {
+            QTest::mouseMove(menu, place - QPoint(0, steps - i));
+        }
+        problem = ClickAt(menu, place);
     }
     if (menu->isVisible()) {
         menu->close();
@@ -159,16 +130,18 @@ QString UserActions::ChooseFromMenu(QMenu *menu, QAction *action)
 
 QString UserActions::PressKey(int key, QWidget *widget, Qt::KeyboardModifiers modifiers)
 {
-    return SendKey(key, modifiers, QString(), widget);
+    const QString obstacle = FocusObstacle(widget);
+    if (obstacle.isNull()) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), modifiers);
+    }
+    return obstacle;
 }
 
 QString UserActions::TypeText(const QString &text, QWidget *widget)
 {
-    for (int i = 0; i < text.size(); ++i) {
-        QString problem = SendKey(0, Qt::NoModifier, text.mid(i, 1), widget);
-        if (!problem.isNull()) {
-            return problem;
-        }
+    const QString obstacle = FocusObstacle(widget);
+    if (obstacle.isNull()) {
+        QTest::keyClicks(QApplication::focusWidget(), text);
     }
-    return QString();
+    return obstacle;
 }

@@ -1,7 +1,7 @@
 #include "DialogScene.h"
 
-#include <ToolkitCompat.h>
 #include <TraceCapture.h>
+#include <WindowActivation.h>
 
 #include <QApplication>
 #include <QBoxLayout>
@@ -392,7 +392,7 @@ void tst_AddDialog::keysReachEveryRow()
     Remember(names);
     m_scene.Open("addButton");
     QWidget *dialog = m_scene.Find<QWidget>("addDialog");
-    ToolkitCompat::ActivateWindow(dialog);
+    ActivateWindow(dialog);
     for (int row = 0; row < 20; ++row) {
         QCOMPARE(dialog->focusWidget(), static_cast<QWidget *>(CheckBox(row)));
         QVERIFY(Table()->viewport()->rect().contains(

@@ -3,7 +3,6 @@
 #include <PriorityXMLParser.h>
 #include <StandInHost.h>
 #include <TemporaryDirectory.h>
-#include <ToolkitCompat.h>
 #include <qprioritywidget.h>
 
 #include <QSet>
@@ -12,7 +11,7 @@
 
 static const int rowCount = 200;
 
-static void Discard(QtMsgType, const QString &) {}
+static void Discard(QtMsgType, const QMessageLogContext &, const QString &) {}
 
 /** Which widgets in a table receive an event. */
 class Receivers : public QObject
@@ -95,7 +94,7 @@ void tst_Rebuild::initTestCase()
     for (int i = 0; i < rowCount; ++i) {
         list << Entry(QString("network %1").arg(i));
     }
-    ToolkitCompat::InstallTextMessageHandler(Discard);
+    qInstallMessageHandler(Discard);
     PriorityXMLParser::GetInstance()->SavePriorityList(list);
     m_page = QPriorityWidget::GetInstance();
     m_table = m_page->findChild<QTableWidget *>("priorityTable");
@@ -116,7 +115,7 @@ void tst_Rebuild::cleanupTestCase()
 {
     m_page->setParent(nullptr);
     QPriorityWidget::Destroy();
-    ToolkitCompat::InstallTextMessageHandler(nullptr);
+    qInstallMessageHandler(nullptr);
 }
 
 void tst_Rebuild::rowsStandInTheirPlacesAtOnce()

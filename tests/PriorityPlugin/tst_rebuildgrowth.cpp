@@ -2,7 +2,6 @@
 #include <PriorityXMLParser.h>
 #include <StandInHost.h>
 #include <TemporaryDirectory.h>
-#include <ToolkitCompat.h>
 #include <qprioritywidget.h>
 
 #include <QtTest>
@@ -10,7 +9,7 @@
 #include <algorithm>
 #include <ctime>
 
-static void Discard(QtMsgType, const QString &) {}
+static void Discard(QtMsgType, const QMessageLogContext &, const QString &) {}
 
 class tst_RebuildGrowth : public QObject
 {
@@ -50,13 +49,13 @@ void tst_RebuildGrowth::rebuildIsLinear()
     window.show();
     QRect rect(0, 0, 420, 374);
     QPriorityWidget *page = QPriorityWidget::GetInstance();
-    ToolkitCompat::InstallTextMessageHandler(Discard);
+    qInstallMessageHandler(Discard);
     page->ShowSettingDialog(&window, rect);
     const std::clock_t small = RebuildTime(page, 250);
     const std::clock_t large = RebuildTime(page, 2000);
     page->setParent(nullptr);
     QPriorityWidget::Destroy();
-    ToolkitCompat::InstallTextMessageHandler(nullptr);
+    qInstallMessageHandler(nullptr);
     const double growth = double(large) / double(small);
     qDebug("eight times the rows take %.1f times the time", growth);
     // Linear is 8, quadratic 64.

@@ -1,5 +1,7 @@
 #include "TabStops.h"
 
+#include <WindowActivation.h>
+
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QApplication>
@@ -8,7 +10,6 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QtTest>
-#include <ToolkitCompat.h>
 
 namespace
 {
@@ -27,7 +28,7 @@ bool IsControl(const QWidget *widget)
 QList<QWidget *> TabStops::Walk(QWidget *window, bool isForward)
 {
     QList<QWidget *> stops;
-    ToolkitCompat::ActivateWindow(window);
+    ActivateWindow(window);
     if (!window->focusWidget()) {
         QTest::keyClick(window, Qt::Key_Tab);
     }

@@ -1,7 +1,7 @@
 #include "TabStops.h"
 
 #include <Screens.h>
-#include <ToolkitCompat.h>
+#include <WindowActivation.h>
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -238,7 +238,7 @@ void CheckReached(QWidget *window, bool isForward, QStringList *problems)
 QStringList Problems(QWidget *window)
 {
     QStringList problems;
-    ToolkitCompat::ActivateWindow(window);
+    ActivateWindow(window);
     CheckBranch(InterfaceOf(window), 0, &problems);
     foreach (QWidget *widget, window->findChildren<QWidget *>()) {
         if (widget->window() != window || !widget->isVisible()) {
@@ -364,7 +364,7 @@ void TestAccessibility::chosenRowIsTold()
     QString focused;
     m_screens.Show(QLatin1String("settings, priority page"), QLatin1String("en"),
                    [&chosen, &focused](QWidget *window) {
-                       ToolkitCompat::ActivateWindow(window);
+                       ActivateWindow(window);
                        QTableWidget *table = window->findChild<QTableWidget *>("priorityTable");
                        table->setFocus();
                        Interface *part = InterfaceOf(table);

@@ -2,7 +2,7 @@
 
 #include <Appearance.h>
 #include <Screens.h>
-#include <ToolkitCompat.h>
+#include <WindowActivation.h>
 
 #include <QApplication>
 #include <QImage>
@@ -148,7 +148,7 @@ void TestFocus::focusIsSeenOnAListWithoutAChoice()
     int around = 0;
     m_screens.Show("settings, priority page", "en", [&differing, &around](QWidget *window) {
         QTableWidget *list = window->findChild<QTableWidget *>("priorityTable");
-        ToolkitCompat::ActivateWindow(window);
+        ActivateWindow(window);
         list->setCurrentCell(-1, 0);
         window->findChild<QWidget *>("pageList")->setFocus();
         const QImage without = PictureOf(list);

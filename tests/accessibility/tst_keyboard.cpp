@@ -1,7 +1,7 @@
 #include "TabStops.h"
 
 #include <Screens.h>
-#include <ToolkitCompat.h>
+#include <WindowActivation.h>
 
 #include <CommonUtils.h>
 #include <IPriorityPlugin.h>
@@ -46,7 +46,7 @@ QTableWidget *ListOf(QWidget *window)
 QTableWidget *EnterList(QWidget *window)
 {
     QTableWidget *list = ListOf(window);
-    ToolkitCompat::ActivateWindow(window);
+    ActivateWindow(window);
     list->setCurrentCell(-1, 0);
     list->setFocus();
     return list;

@@ -3,7 +3,6 @@
 #include "RootTable.h"
 
 #include <TemporaryDirectory.h>
-#include <ToolkitTest.h>
 #include <TraceCapture.h>
 
 #include <QApplication>
@@ -117,7 +116,7 @@ void RootPositionsTest::OperationsHaveTheirNames()
     QFETCH(int, position);
     const QStringList names = m_library.NamesAt(Part(part), position);
     if (!m_library.HasNames()) {
-        SKIP_TEST("the library was stripped: the names of its operations can't be compared");
+        QSKIP("the library was stripped: the names of its operations can't be compared");
     }
     QVERIFY2(names.contains(QString("CPriorityPlugin::") + QTest::currentDataTag()),
              qPrintable(names.join(" ")));

@@ -4,7 +4,6 @@
 #include "ServiceTable.h"
 
 #include <TemporaryDirectory.h>
-#include <ToolkitTest.h>
 
 #include <QDir>
 #include <QFile>
@@ -176,7 +175,7 @@ void ServicePositionsTest::OperationsHaveTheirNames()
     QFETCH(int, position);
     const QStringList names = m_library.NamesAt(isSetting ? Setting() : Priority(), position);
     if (!m_library.HasNames()) {
-        SKIP_TEST("the library was stripped: the names of its operations can't be compared");
+        QSKIP("the library was stripped: the names of its operations can't be compared");
     }
     QVERIFY2(names.contains(QString("CPriorityService::") + QTest::currentDataTag()),
              qPrintable(names.join(" ")));

@@ -4,7 +4,6 @@
 #include "RootTable.h"
 
 #include <TemporaryDirectory.h>
-#include <ToolkitTest.h>
 
 #include <QPointer>
 #include <QScopedPointer>
@@ -97,7 +96,7 @@ void StoredPositionsTest::CompareName(const QString &expected, void *part, int p
 {
     const QStringList names = m_library.NamesAt(part, position);
     if (!m_library.HasNames()) {
-        SKIP_TEST("the library was stripped: the names of its operations can't be compared");
+        QSKIP("the library was stripped: the names of its operations can't be compared");
     }
     QVERIFY2(names.contains(expected), qPrintable(names.join(" ")));
 }

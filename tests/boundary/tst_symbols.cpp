@@ -1,8 +1,6 @@
 #include "HostServices.h"
 #include "LoadedLibrary.h"
 
-#include <ToolkitTest.h>
-
 #include <QDir>
 #include <QProcess>
 #include <QtTest>
@@ -166,7 +164,6 @@ void SymbolsTest::HostLibrariesExportTheirServicesOnly_data()
                                       << "_ZN11HostControl13LanguageNamesEv"
                                       << "_ZN11HostControl16LanguageProblemsEv"
                                       << "_ZN11HostControl18SetPluginContainerEP16IPluginContainer"
-                                      << "_ZN11HostControl19OfferPseudoLanguageEv"
                                       << "_ZN11HostControl20SetLanguageDirectoryERK7QString"
                                       << "_ZN11HostControl20SetPluginLibraryPathERK7QString"
                                       << "_ZN11HostControl6TextInERK7QStringS2_S2_"

@@ -4,7 +4,6 @@
 #include <LoadedPlugin.h>
 #include <StandInHost.h>
 #include <TemporaryDirectory.h>
-#include <ToolkitCompat.h>
 
 #include <QFile>
 #include <QProcess>
@@ -71,7 +70,7 @@ static PriorityList ToProduct(const Model::Entry &entry)
     return Entry(QString(reinterpret_cast<const QChar *>(entry.name.data()), int(entry.name.size())));
 }
 
-static void Discard(QtMsgType, const QString &) {}
+static void Discard(QtMsgType, const QMessageLogContext &, const QString &) {}
 
 static QByteArray Bytes(const Model::Document &document)
 {
@@ -109,7 +108,7 @@ int tst_KilledSave::Kills()
 
 void tst_KilledSave::SaveForever(const std::vector<Model::Entry> &entries, int readyPipe)
 {
-    ToolkitCompat::InstallTextMessageHandler(Discard);
+    qInstallMessageHandler(Discard);
     // The page would take most of the time, and it is the saving that is to be hit.
     m_plugin.Service()->disconnect();
     IPriorityPlugin *priority = m_plugin.Priority();
@@ -225,7 +224,7 @@ void tst_KilledSave::killedAtEveryCallAndByte()
             m_directory->Write("Priority.xml", lists[0]);
             const pid_t child = fork();
             if (child == 0) {
-                ToolkitCompat::InstallTextMessageHandler(Discard);
+                qInstallMessageHandler(Discard);
                 SystemCalls::Watch(m_directory->Path());
                 SystemCalls::MakeDie(number, bytes);
                 m_plugin.Priority()->AddTopPriority(Entry("New"));

@@ -1,5 +1,4 @@
 #include <TemporaryDirectory.h>
-#include <ToolkitTest.h>
 
 #include <QDir>
 #include <QDirIterator>
@@ -90,8 +89,8 @@ private slots:
     void componentsHaveTheirFiles();
     void nothingLeadsBackToTheBuild();
     void resourceFolderIsComplete();
-    void dashboardWorks();
-    void dashboardLeavesTheListOfItsUser();
+    void dashboardFindsItsPlugin();
+    void dashboardFindsItsLanguages();
 
     void packageOffersHeadersAndLibraries();
     void packageRefusesAnotherToolkit();
@@ -212,9 +211,12 @@ void InstalledTest::componentsHaveTheirFiles_data()
                               << "share/doc/priority-plugin-dev/docs/plugin-authors.md"
                               << "share/doc/priority-plugin-dev/examples/minimal-host/main.cpp"
                               << "share/doc/priority-plugin-dev/examples/sibling-plugin/GuestNetwork.cpp";
-    const QStringList headers = QDir(SOURCE_DIRECTORY "/include").entryList(QStringList("*.h"));
+    QStringList headers = QDir(SOURCE_DIRECTORY "/include").entryList(QStringList("*.h"));
+    // How this tree copes with several generations of Qt is no contract.
+    QVERIFY(headers.removeOne("ToolkitCompat.h"));
     for (int i = 0; i < headers.size(); ++i) {
-        development << "include/priority-plugin/" + headers.at(i);
+        const QString &header = headers.at(i);
+        development << "include/priority-plugin/" + header;
     }
     QTest::newRow("development") << "development" << development;
     const bool hasNetworkManager = HAS_NETWORKMANAGER;
@@ -243,6 +245,7 @@ void InstalledTest::componentsHaveTheirFiles()
                                                              << directory << "--component" << component);
     QVERIFY2(outcome.status == 0, qPrintable(outcome.out + outcome.err));
     const QStringList files = Files(directory);
+    QVERIFY(!files.contains("include/priority-plugin/ToolkitCompat.h"));
     for (int i = 0; i < expected.size(); ++i) {
         QVERIFY2(files.contains(expected.at(i)), qPrintable(expected.at(i)));
     }
@@ -293,26 +296,21 @@ void InstalledTest::resourceFolderIsComplete()
     }
 }
 
-void InstalledTest::dashboardWorks()
+void InstalledTest::dashboardFindsItsPlugin()
 {
     const QString home = Home("dashboard-home");
     const Outcome outcome =
-        Run(Path("bin/priority-dashboard"), QStringList() << "--tour" << home + "/tour", home);
-    QVERIFY2(outcome.status == 0, qPrintable(outcome.out + outcome.err));
-    QVERIFY2(outcome.out.trimmed().endsWith(" 0 failed"), qPrintable(outcome.out));
+        Run(Path("bin/priority-dashboard"), QStringList("--add=Office") << "--list", home);
     QCOMPARE(outcome.err, QString());
+    QCOMPARE(outcome.out, QString("1\t1\tOffice\n"));
+    QCOMPARE(outcome.status, 0);
 }
 
-void InstalledTest::dashboardLeavesTheListOfItsUser()
+void InstalledTest::dashboardFindsItsLanguages()
 {
-    const QString home = Home("list-home");
-    QDir().mkpath(home + "/data/priority-dashboard");
-    const QString list("list-home/data/priority-dashboard/Priority.xml");
-    m_directory.Write(list, "the list");
-    const Outcome outcome =
-        Run(Path("bin/priority-dashboard"), QStringList() << "--tour" << home + "/tour", home);
-    QCOMPARE(outcome.status, 0);
-    QCOMPARE(m_directory.Read(list), QByteArray("the list"));
+    const QString home = Home("language-home");
+    const Outcome outcome = Run(Path("bin/priority-dashboard"), QStringList("--language=tlh"), home);
+    QVERIFY2(outcome.err.contains("there are: ar, de, en, "), qPrintable(outcome.err));
 }
 
 void InstalledTest::packageOffersHeadersAndLibraries()

@@ -88,6 +88,11 @@ QString LanguageDirectory()
     return QLatin1String(BUILD_DIRECTORY "/share/priority-dashboard/languages");
 }
 
+QString PseudoLanguageDirectory()
+{
+    return QLatin1String(BUILD_DIRECTORY "/share/pseudo-language");
+}
+
 QList<KnownPlugin> KnownAs(const QString &priorityFolder, const QString &wlanFolder)
 {
     QList<KnownPlugin> known = PluginHost::KnownPlugins(WlanStored);
@@ -275,7 +280,6 @@ Screens::Screens() : m_visitor(nullptr), m_visits(0)
     m_log.reset(new TraceLog(m_directory->FilePath(QLatin1String("dashboard.log"))));
     HostControl::SetPluginLibraryPath(QLatin1String(BUILD_DIRECTORY));
     HostControl::SetLanguageDirectory(LanguageDirectory());
-    HostControl::OfferPseudoLanguage();
     Appearance::Apply(Appearance::System);
     m_plugins.reset(new PluginHost(QLatin1String(BUILD_DIRECTORY), PluginHost::KnownPlugins(WlanStored)));
     m_plugins->Load();
@@ -324,7 +328,8 @@ void Screens::Show(const QString &name, const QString &language, const Visitor &
     m_directory.reset(new TemporaryDirectory);
     qputenv("XDG_DATA_HOME", m_directory->Path().toLocal8Bit());
     HostControl::SetPluginContainer(m_plugins.data());
-    HostControl::SetLanguageDirectory(LanguageDirectory());
+    HostControl::SetLanguageDirectory(language == QLatin1String("pseudo") ? PseudoLanguageDirectory()
+                                                                          : LanguageDirectory());
     if (!DashboardLanguage::Apply(language)) {
         qFatal("a language is missing");
     }
@@ -584,9 +589,11 @@ void Screens::ShowConnectOfDamagedList(const char *)
 void Screens::ShowDamagedLanguage(const char *kind)
 {
     QDir().mkdir(m_directory->FilePath(QLatin1String("languages")));
-    foreach (const QString &language, Languages()) {
-        const QString file = QLatin1Char('/') + language + QLatin1String(".qm");
-        QFile::copy(LanguageDirectory() + file, m_directory->FilePath(QLatin1String("languages")) + file);
+    // The pseudo-language is in a directory with all others.
+    const QDir all(PseudoLanguageDirectory());
+    const QStringList files = all.entryList(QStringList(QLatin1String("*.qm")));
+    for (const QString &file : files) {
+        QFile::copy(all.filePath(file), m_directory->FilePath(QLatin1String("languages/") + file));
     }
     const QString bad = QLatin1String("languages/xx.qm");
     if (QByteArray(kind) == "damaged") {

@@ -1,7 +1,5 @@
 #include "Walk.h"
 
-#include <ToolkitCompat.h>
-
 #include <QApplication>
 
 #include <chrono>
@@ -47,11 +45,11 @@ bool Understand(int argc, char **argv, Options *options)
     return options->steps > 0;
 }
 
-void Discard(QtMsgType, const QString &) {}
+void Discard(QtMsgType, const QMessageLogContext &, const QString &) {}
 
 bool RunWalk(unsigned long long seed, long steps, Counts *counts)
 {
-    ToolkitCompat::InstallTextMessageHandler(Discard);
+    qInstallMessageHandler(Discard);
     int argumentCount = 1;
     char name[] = "tst_model";
     char *arguments[] = {name, nullptr};

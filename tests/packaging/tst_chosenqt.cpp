@@ -1,8 +1,8 @@
 #include <TemporaryDirectory.h>
-#include <ToolkitTest.h>
 
 #include <QDir>
 #include <QProcess>
+#include <QtTest>
 
 /** Which generation of Qt a configuration takes, and what it says about that. */
 class ChosenQtTest : public QObject

@@ -1,9 +1,9 @@
 #include <TemporaryDirectory.h>
-#include <ToolkitTest.h>
 
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QtTest>
 
 namespace
 {

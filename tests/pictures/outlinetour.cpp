@@ -1,13 +1,7 @@
-#include <Appearance.h>
-#include <DashboardLanguage.h>
-#include <HostControl.h>
 #include <MainWindow.h>
 #include <Outline.h>
-#include <PluginHost.h>
 #include <Tour.h>
-#include <TourDirectory.h>
-#include <TraceLog.h>
-#include <UserData.h>
+#include <TourProgram.h>
 
 #include <QApplication>
 #include <QDir>
@@ -56,8 +50,6 @@ bool UseDesktopFont()
 
 class OutlineWriter : public QObject
 {
-    Q_OBJECT
-
 public:
     OutlineWriter(const QWidget *window, const QDir &directory)
         : m_window(window), m_directory(directory), m_areAllWritten(true)
@@ -66,7 +58,6 @@ public:
 
     bool AreAllWritten() const { return m_areAllWritten; }
 
-public slots:
     void Write(const QString &name)
     {
         const QWidget *dialog = QApplication::activeModalWidget();
@@ -91,39 +82,22 @@ int main(int argc, char **argv)
         std::fprintf(stderr, "usage: outlinetour TOUR-DIRECTORY OUTLINE-DIRECTORY LANGUAGE\n");
         return 2;
     }
-    TourDirectory tourDirectory(QFile::decodeName(argv[1]));
+    TourProgram::Options options;
+    options.directory = QFile::decodeName(argv[1]);
+    options.language = QLatin1String(argv[3]);
     const QDir directory(QFile::decodeName(argv[2]));
-    if (!tourDirectory.Prepare().isNull() || !directory.mkpath(QLatin1String("."))) {
-        std::fprintf(stderr, "the directories can't be made\n");
+    if (!directory.mkpath(QLatin1String("."))) {
+        std::fprintf(stderr, "the directory for the outlines can't be made\n");
         return 2;
     }
-    qputenv("XDG_DATA_HOME", QFile::encodeName(tourDirectory.DataPath()));
-    TraceLog log(UserData::FilePath(QLatin1String("dashboard.log")));
-    const QApplication application(argc, argv);
-    QApplication::setApplicationName(QLatin1String("priority-dashboard"));
-    HostControl::SetPluginLibraryPath(QLatin1String(BUILD_DIRECTORY));
-    HostControl::SetLanguageDirectory(QLatin1String(BUILD_DIRECTORY "/share/priority-dashboard/languages"));
-    HostControl::ApplyLook();
-    Appearance::Apply(Appearance::System);
+    TourProgram program(&argc, argv, options);
     if (!UseDesktopFont()) {
         std::fprintf(stderr, "the font DejaVu Sans is missing; install fonts-dejavu-core\n");
         return 2;
     }
-    if (!DashboardLanguage::Apply(QLatin1String(argv[3]))) {
-        std::fprintf(stderr, "there is no language %s\n", argv[3]);
-        return 2;
-    }
-    PluginHost plugins(QLatin1String(BUILD_DIRECTORY), PluginHost::KnownPlugins(WlanStored));
-    plugins.Load();
-    DashboardLanguage language(nullptr);
-    MainWindow window(&plugins, &language, &log);
-    window.show();
-    OutlineWriter writer(&window, directory);
-    Tour tour(&window, tourDirectory);
-    QObject::connect(&tour, SIGNAL(PictureTaken(QString)), &writer, SLOT(Write(QString)));
-    tour.Start();
-    const int status = QApplication::exec();
+    program.Open();
+    OutlineWriter writer(program.Window(), directory);
+    QObject::connect(program.TheTour(), &Tour::PictureTaken, &writer, &OutlineWriter::Write);
+    const int status = program.Run();
     return status == 0 && !writer.AreAllWritten() ? 1 : status;
 }
-
-#include "outlinetour.moc"

@@ -1,6 +1,5 @@
 #include <OutlineComparison.h>
 #include <TemporaryDirectory.h>
-#include <ToolkitTest.h>
 
 #include <QDir>
 #include <QFile>

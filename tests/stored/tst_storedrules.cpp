@@ -1,7 +1,6 @@
 #include "StoredFixture.h"
 
 #include <IWLANUIPlugin.h>
-#include <ToolkitTest.h>
 #include <WLANResult.h>
 
 #include <QtTest>

@@ -3,7 +3,6 @@
 #include <SystemCalls.h>
 
 #include <IWLANUIPlugin.h>
-#include <ToolkitCompat.h>
 #include <WLANResult.h>
 
 #include <QDir>
@@ -67,14 +66,14 @@ bool IsOwnersAlone(const QString &path)
     return lstat(QFile::encodeName(path).constData(), &status) == 0 && (status.st_mode & 07777) == ownerOnly;
 }
 
-void Discard(QtMsgType, const QString &) {}
+void Discard(QtMsgType, const QMessageLogContext &, const QString &) {}
 
 /** Whether a process that stores a profile dies at that call, after writing so many bytes in it. */
 bool DiesWhileStoring(const QString &directory, int call, int bytes)
 {
     const pid_t child = fork();
     if (child == 0) {
-        ToolkitCompat::InstallTextMessageHandler(Discard);
+        qInstallMessageHandler(Discard);
         umask(0);
         SystemCalls::Watch(directory);
         SystemCalls::MakeDie(call, bytes);

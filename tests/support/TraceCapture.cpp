@@ -2,8 +2,6 @@
 
 #include "TextPattern.h"
 
-#include <ToolkitCompat.h>
-
 #include <QMutex>
 #include <QMutexLocker>
 
@@ -13,7 +11,7 @@ namespace
 QMutex linesLock;
 QStringList capturedLines;
 
-void Collect(QtMsgType, const QString &text)
+void Collect(QtMsgType, const QMessageLogContext &, const QString &text)
 {
     QMutexLocker locker(&linesLock);
     capturedLines.append(text);
@@ -24,12 +22,12 @@ void Collect(QtMsgType, const QString &text)
 TraceCapture::TraceCapture()
 {
     Clear();
-    ToolkitCompat::InstallTextMessageHandler(Collect);
+    qInstallMessageHandler(Collect);
 }
 
 TraceCapture::~TraceCapture()
 {
-    ToolkitCompat::InstallTextMessageHandler(nullptr);
+    qInstallMessageHandler(nullptr);
 }
 
 QStringList TraceCapture::Lines() const

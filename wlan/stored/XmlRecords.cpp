@@ -1,7 +1,5 @@
 #include "XmlRecords.h"
 
-#include <ToolkitCompat.h>
-
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
@@ -82,6 +80,14 @@ bool AcceptElement(const QXmlStreamReader &reader, const XmlRecordFormat &format
     return true;
 }
 
+bool IsUtf8(const QByteArray &bytes)
+{
+    // A byte order mark is not among what the decoder gives back.
+    const QByteArray byteOrderMark("\xef\xbb\xbf");
+    const QByteArray text = bytes.mid(bytes.startsWith(byteOrderMark) ? byteOrderMark.size() : 0);
+    return QString::fromUtf8(text).toUtf8() == text;
+}
+
 /** The length of the lines before the first that isn't UTF-8, with the number of that line or 0. */
 int SoundLength(const QByteArray &bytes, qint64 *unsoundLine)
 {
@@ -89,7 +95,7 @@ int SoundLength(const QByteArray &bytes, qint64 *unsoundLine)
     for (int begin = 0; begin < bytes.size(); ++line) {
         const int lineEnd = bytes.indexOf('\n', begin);
         const int end = lineEnd < 0 ? bytes.size() : lineEnd + 1;
-        if (!ToolkitCompat::IsUtf8(QByteArray::fromRawData(bytes.constData() + begin, end - begin))) {
+        if (!IsUtf8(QByteArray::fromRawData(bytes.constData() + begin, end - begin))) {
             *unsoundLine = line;
             return begin;
         }

@@ -5,9 +5,9 @@
 
 #include <Change.h>
 #include <HostControl.h>
-#include <ToolkitCompat.h>
 
 #include <QApplication>
+#include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
 
@@ -39,15 +39,18 @@ QString BestFor(const QString &locale, const QStringList &available)
     return QString();
 }
 
-/** Texts that are the toolkit's own, as in the context menus of text fields, come from its files, where they
- * are installed. */
-void UseToolkitTexts(const QString &language)
+/** Qt's own texts, as in the context menus of text fields, come from its files, where they are installed. */
+void UseTextsOfQt(const QString &language)
 {
-    const QString name = QLatin1String("toolkitTexts");
+    const QString name = QLatin1String("qtTexts");
     delete QCoreApplication::instance()->findChild<QTranslator *>(name);
     QTranslator *texts = new QTranslator(QCoreApplication::instance());
     texts->setObjectName(name);
-    const QString directory = ToolkitCompat::TranslationDirectory();
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    const QString directory = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+#else
+    const QString directory = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+#endif
     if (texts->load(QLatin1String("qtbase_") + language, directory) ||
         texts->load(QLatin1String("qt_") + language, directory)) {
         QCoreApplication::installTranslator(texts);
@@ -124,7 +127,7 @@ bool DashboardLanguage::Apply(const QString &language)
     if (!HostControl::SetLanguage(language)) {
         return false;
     }
-    UseToolkitTexts(language);
+    UseTextsOfQt(language);
     QApplication::setLayoutDirection(HostControl::IsRightToLeft(language) ? Qt::RightToLeft
                                                                           : Qt::LeftToRight);
     return true;

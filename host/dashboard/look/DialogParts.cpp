@@ -4,7 +4,6 @@
 
 #include <CommonUtils.h>
 #include <DashboardText.h>
-#include <ToolkitCompat.h>
 
 #include <QApplication>
 #include <QFontInfo>
@@ -99,7 +98,7 @@ void DialogParts::SetCell(QTableWidget *table, int row, int column, const QStrin
         table->setItem(row, column, item);
     }
     item->setText(text.simplified());
-    item->setToolTip(ToolkitCompat::PlainTextAsHtml(text));
+    item->setToolTip(text.toHtmlEscaped());
 }
 
 QWidget *DialogParts::ButtonBar(const char *name, QPushButton *accept, QPushButton *reject)

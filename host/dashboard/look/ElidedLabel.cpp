@@ -1,7 +1,6 @@
 #include "ElidedLabel.h"
 
 #include <CommonUtils.h>
-#include <ToolkitCompat.h>
 
 ElidedLabel::ElidedLabel(const char *name)
 {
@@ -27,5 +26,5 @@ void ElidedLabel::resizeEvent(QResizeEvent *event)
 void ElidedLabel::Fit()
 {
     CommonUtils::ElidedText(this, m_fullText, Qt::ElideRight);
-    setToolTip(text() == m_fullText ? QString() : ToolkitCompat::PlainTextAsHtml(m_fullText));
+    setToolTip(text() == m_fullText ? QString() : m_fullText.toHtmlEscaped());
 }

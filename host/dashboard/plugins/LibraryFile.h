@@ -1,37 +1,20 @@
 #ifndef LIBRARYFILE_H
 #define LIBRARYFILE_H
 
-#include <QList>
 #include <QString>
 
-/** A version of the toolkit, as far as it is known. */
-struct ToolkitVersion {
-    int generation;
-    /** Negative when only the generation is known. */
-    int release;
+/** What can be told of a library without loading it: a cut one kills the process that loads it. */
+namespace LibraryFile
+{
 
-    /** "5.15", or "4" when only the generation is known. */
-    QString Text() const;
-};
-
-/**
- * A library as its file describes it. Nothing of it is loaded or run for that: a library that is cut short
- * kills the process that loads it, and one of another toolkit brings that toolkit's globals along.
- *
- * A file that is no library for this machine, or that contradicts itself, tells nothing and is not cut: the
- * system's loader knows what to say of it.
+/** Whether the file ends before the last of what the loader would map. Of what is no library it never does.
  */
-struct LibraryFile {
-    /** Whether the file ends before the last of what the loader would map into memory. */
-    bool isCut = false;
+bool IsCut(const QString &path);
 
-    /**
-     * What the library was built for: the versions of the toolkit's libraries that it needs, or, when it
-     * needs none itself, the one in its plug-in metadata. More than one for a library that mixes generations.
-     */
-    QList<ToolkitVersion> toolkits;
+/** The Qt that the library was built for, such as "6" or "6.4", when that is none that this program can use;
+ * null when it is, and when the file doesn't tell. */
+QString OtherQt(const QString &path);
 
-    static LibraryFile Read(const QString &path);
-};
+} // namespace LibraryFile
 
 #endif

@@ -26,25 +26,14 @@ IBasePlugin *BaseOf(QObject *root)
     return qobject_cast<IBasePlugin *>(root);
 }
 
-int GenerationOfThisProgram()
-{
-    return QByteArray(qVersion()).split('.').first().toInt();
-}
-
 /** What keeps the file from being loaded at all; PluginNotLoaded when nothing does. */
 PluginState ObstacleIn(const QString &file, QString *detail)
 {
-    const LibraryFile library = LibraryFile::Read(file);
-    if (library.isCut) {
+    if (LibraryFile::IsCut(file)) {
         return PluginCut;
     }
-    for (int i = 0; i < library.toolkits.size(); ++i) {
-        if (library.toolkits.at(i).generation != GenerationOfThisProgram()) {
-            *detail = library.toolkits.at(i).Text();
-            return PluginOtherToolkit;
-        }
-    }
-    return PluginNotLoaded;
+    *detail = LibraryFile::OtherQt(file);
+    return detail->isNull() ? PluginNotLoaded : PluginOtherToolkit;
 }
 
 /**

@@ -14,7 +14,6 @@ struct ValueOption {
 const ValueOption valueOptions[] = {
     {"--language", &Arguments::language},
     {"--library-path", &Arguments::pluginLibraryPath},
-    {"--tour", &Arguments::tourDirectory},
     {"--wlan", &Arguments::wlan},
 };
 
@@ -211,26 +210,15 @@ Arguments Arguments::Parse(const QStringList &arguments)
         }
         parsed.commands.append(given);
     }
-    if (!parsed.commands.isEmpty() && !parsed.tourDirectory.isNull()) {
-        return Refused(QLatin1String("a tour has a list of its own, and can't be combined with commands for "
-                                     "yours; see --help"));
-    }
     if (!parsed.wlan.isNull() && !FindWlanWord(parsed.wlan)) {
         return Refused(QString::fromLatin1("--wlan is auto, networkmanager or stored, not \"%1\"; see --help")
                            .arg(parsed.wlan));
-    }
-    if (!parsed.tourDirectory.isNull() && parsed.wlan == QLatin1String("networkmanager")) {
-        return Refused(QLatin1String("--tour makes and deletes networks, so it leaves NetworkManager alone: "
-                                     "it can't be had with --wlan networkmanager"));
     }
     return parsed;
 }
 
 WlanChoice Arguments::ChosenWlan() const
 {
-    if (!tourDirectory.isNull()) {
-        return WlanStored;
-    }
     const WlanWord *given = FindWlanWord(wlan);
     return given ? given->choice : WlanAutomatic;
 }
@@ -241,16 +229,13 @@ QString Arguments::HelpText()
         "Usage: priority-dashboard [options]\n"
         "Shows the list of networks that a connection manager tries in order, and its settings.\n"
         "\n"
-        "  --language NAME      start in this language, such as en, ar or pt_BR; in pseudo, what\n"
-        "                       can't be translated and what is cut off can be seen\n"
+        "  --language NAME      start in this language, such as en, ar or pt_BR\n"
         "  --library-path DIR   look for plug-ins in DIR/plugins\n"
-        "  --tour DIR           show the whole program to itself: work with a list of its own,\n"
-        "                       save a picture of each step in DIR, and check each effect\n"
         "  --wlan SOURCE        where the Wi-Fi networks come from:\n"
         "                         networkmanager  this computer's own; the list decides which is joined\n"
         "                         stored          practice networks from a file; nothing real is touched\n"
         "                         auto            the former where NetworkManager runs, else the latter\n"
-        "                       auto is the default; a tour always has stored\n"
+        "                       auto is the default\n"
         "  --version            print the version\n"
         "  -h, --help           print this help\n"
         "\n"
@@ -271,9 +256,8 @@ QString Arguments::HelpText()
         "\n"
         "Exit status:\n"
         "   0  done\n"
-        "   1  a step of the tour failed, or there is no display\n"
+        "   1  there is no display\n"
         "   2  the command line can't be followed\n"
-        "   3  the tour took too long\n"
         "   4  the network to add is listed already\n"
         "   5  the priority plug-in is missing, was refused or is broken\n"
         "   6  the list's file is damaged\n"

@@ -19,10 +19,8 @@ struct Arguments {
     /** Each is null when it wasn't given. */
     QString language;
     QString pluginLibraryPath;
-    QString tourDirectory;
     QString wlan;
 
-    /** A tour makes and changes profiles: it is never taken with those of the computer. */
     WlanChoice ChosenWlan() const;
 
     /** What to do with the list, in this order, instead of opening a window. */

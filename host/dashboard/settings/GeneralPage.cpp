@@ -6,7 +6,6 @@
 #include <DashboardText.h>
 #include <HostControl.h>
 #include <PluginHost.h>
-#include <ToolkitCompat.h>
 #include <UserData.h>
 
 #include <QComboBox>
@@ -53,7 +52,7 @@ const char *StateTextId(PluginState state)
 
 QString Line(const QString &text)
 {
-    return ToolkitCompat::PlainTextAsHtml(text) + QLatin1String("<br>");
+    return text.toHtmlEscaped() + QLatin1String("<br>");
 }
 
 } // namespace

@@ -1,12 +1,10 @@
 #include "TraceLog.h"
 
 #include <DashboardText.h>
-#include <Terminal.h>
-#include <ToolkitCompat.h>
-
 #include <QDateTime>
 #include <QFile>
 #include <QMutexLocker>
+#include <Terminal.h>
 
 #include <cstdio>
 
@@ -53,7 +51,7 @@ TraceLog::TraceLog(const QString &path)
         QMutexLocker locker(CurrentLogLock());
         currentLog = this;
     }
-    ToolkitCompat::InstallTextMessageHandler(Receive);
+    qInstallMessageHandler(Receive);
 }
 
 TraceLog::~TraceLog()
@@ -81,7 +79,7 @@ void TraceLog::Warn(const QString &text)
     }
 }
 
-void TraceLog::Receive(QtMsgType type, const QString &text)
+void TraceLog::Receive(QtMsgType type, const QMessageLogContext &, const QString &text)
 {
     if (type == QtFatalMsg) {
         Terminal::Complain(text);

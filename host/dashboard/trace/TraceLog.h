@@ -45,7 +45,7 @@ private slots:
 private:
     Q_DISABLE_COPY(TraceLog)
 
-    static void Receive(QtMsgType type, const QString &text);
+    static void Receive(QtMsgType type, const QMessageLogContext &context, const QString &text);
     void Add(QtMsgType type, const QString &text);
     void FollowWarnings(QtMsgType type, const QString &text);
     void Keep(const QString &line);

@@ -6,7 +6,6 @@
 #include <ListChangeText.h>
 #include <ListKeeper.h>
 #include <ListKeeperText.h>
-#include <ToolkitCompat.h>
 
 #include <QFileInfo>
 #include <QLabel>
@@ -86,7 +85,7 @@ void DamagedListDialog::Follow()
     m_last->setText(canBringBack ? LastText(m_keeper->History()) : DashboardText("IDS_DAMAGE_NO_LAST"));
     const QString copy = DashboardText("IDS_DAMAGE_COPY");
     m_copy->setText(copy.arg(InOwnDirection(QFileInfo(m_keeper->CopyPath()).fileName())));
-    m_copy->setToolTip(ToolkitCompat::PlainTextAsHtml(copy.arg(InOwnDirection(m_keeper->CopyPath()))));
+    m_copy->setToolTip(copy.arg(InOwnDirection(m_keeper->CopyPath())).toHtmlEscaped());
     m_bringBackButton->setVisible(canBringBack);
     m_bringBackButton->setAccessibleDescription(m_last->text());
     m_goOnButton->setAccessibleDescription(m_damage->text());

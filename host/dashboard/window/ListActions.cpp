@@ -14,7 +14,6 @@
 #include <OrderFile.h>
 #include <OrdinaryFile.h>
 #include <PrivateFile.h>
-#include <ToolkitCompat.h>
 
 #include <QAction>
 #include <QDir>
@@ -95,7 +94,7 @@ void ListActions::Retranslate()
 void ListActions::SetHelp(QAction *action, const QString &help)
 {
     // Both may hold the names of networks, which must not be taken for rich text.
-    action->setToolTip(ToolkitCompat::PlainTextAsHtml(help));
+    action->setToolTip(help.toHtmlEscaped());
     action->setWhatsThis(help);
 }
 

@@ -22,7 +22,6 @@
 #include <PriorityResult.h>
 #include <Settings.h>
 #include <SettingsDialog.h>
-#include <ToolkitCompat.h>
 #include <TracePanel.h>
 #include <UserData.h>
 #include <WrappedLabel.h>
@@ -490,7 +489,7 @@ void MainWindow::ShowList()
         item->setData(OverviewDelegate::IsAvailableRole, entry.range != Overview::OutOfRange);
         item->setData(OverviewDelegate::IsInUseRole, entry.isInUse);
         item->setData(OverviewDelegate::SignalRole, entry.signal);
-        item->setToolTip(ToolkitCompat::PlainTextAsHtml(reason));
+        item->setToolTip(reason.toHtmlEscaped());
         item->setData(Qt::AccessibleDescriptionRole, reason);
         item->setData(Qt::AccessibleTextRole,
                       QString::fromLatin1("%1, %2, %3").arg(entry.entry.name, kind, state));

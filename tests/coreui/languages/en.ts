@@ -12,11 +12,6 @@
         <translation>English only</translation>
     </message>
     <message>
-        <source>IDS_WITH_PLACES</source>
-        <translation>&amp;Move %1 of %2
-to the top</translation>
-    </message>
-    <message>
         <source>IDS_TWO_CONTEXTS</source>
         <translation>of the sample</translation>
     </message>

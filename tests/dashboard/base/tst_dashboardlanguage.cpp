@@ -2,11 +2,10 @@
 #include <DashboardLanguage.h>
 #include <HostControl.h>
 #include <TemporaryDirectory.h>
-#include <ToolkitCompat.h>
-#include <ToolkitTest.h>
 
 #include <QApplication>
 #include <QFile>
+#include <QLibraryInfo>
 #include <QProcess>
 #include <QSignalSpy>
 #include <QtTest>
@@ -255,9 +254,13 @@ void DashboardLanguageTest::LanguagesAreCalledByTheirOwnNames()
 
 void DashboardLanguageTest::ToolkitsOwnTextsFollowTheLanguage()
 {
-    const QString installed = ToolkitCompat::TranslationDirectory() + "/qtbase_de.qm";
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    const QString installed = QLibraryInfo::location(QLibraryInfo::TranslationsPath) + "/qtbase_de.qm";
+#else
+    const QString installed = QLibraryInfo::path(QLibraryInfo::TranslationsPath) + "/qtbase_de.qm";
+#endif
     if (!QFile::exists(installed)) {
-        SKIP_TEST("The toolkit's own translations are not installed (package qttranslations5-l10n).");
+        QSKIP("The toolkit's own translations are not installed (package qttranslations5-l10n).");
     }
     QVERIFY(DashboardLanguage::Apply("de"));
     QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), QString("Abbrechen"));

@@ -1,7 +1,6 @@
 #include "Installation.h"
 
 #include <TemporaryDirectory.h>
-#include <ToolkitTest.h>
 
 #include <QDir>
 #include <QtTest>

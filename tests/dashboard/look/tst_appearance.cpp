@@ -3,7 +3,7 @@
 #include <DashboardLanguage.h>
 #include <HostControl.h>
 #include <TemporaryDirectory.h>
-#include <ToolkitCompat.h>
+#include <WindowActivation.h>
 
 #include <QApplication>
 #include <QPushButton>
@@ -182,7 +182,7 @@ void AppearanceTest::LetterOfAKeyLeavesAWordWhole()
 
     // The key works all the same.
     button.show();
-    ToolkitCompat::ActivateWindow(&button);
+    ActivateWindow(&button);
     const QSignalSpy clicks(&button, SIGNAL(clicked()));
     const QChar letter = caption.at(caption.indexOf('&') + 1);
     QTest::sendKeyEvent(QTest::Click, &button, Qt::Key(letter.toUpper().unicode()), letter, Qt::AltModifier);

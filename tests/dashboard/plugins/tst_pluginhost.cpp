@@ -3,7 +3,6 @@
 #include <Startup.h>
 #include <TemporaryDirectory.h>
 #include <TextPattern.h>
-#include <ToolkitTest.h>
 #include <TraceCapture.h>
 
 #include <QDir>
@@ -154,8 +153,6 @@ void PluginHostTest::LibraryThatIsCutIsNotLoaded_data()
     QTest::addColumn<int>("size");
     QTest::newRow("in the table of segments") << 100;
     QTest::newRow("in the symbols") << 1000;
-    QTest::newRow("before the code") << 4096;
-    QTest::newRow("behind the code") << 8192;
 }
 
 void PluginHostTest::LibraryThatIsCutIsNotLoaded()
@@ -179,25 +176,19 @@ void PluginHostTest::LibraryOfOtherToolkitIsNotLoaded_data()
     QTest::addColumn<QString>("folder");
     QTest::addColumn<QString>("version");
     QTest::newRow("needs a newer one") << "NeedsGeneration7"
-                                       << "7\\.2";
+                                       << "7";
     QTest::newRow("needs a newer one beside ours") << "MixesGenerations"
-                                                   << "7\\.2";
-    QTest::newRow("metadata in a section") << "MetadataInSection"
-                                           << "8\\.1";
-    QTest::newRow("metadata in a note") << "MetadataInNote"
-                                        << "8\\.1";
+                                                   << "7";
+    QTest::newRow("needs 4") << "NeedsGeneration4"
+                             << "4";
     const QString running(qVersion());
-    if (!running.startsWith("4.")) {
-        QTest::newRow("needs 4") << "NeedsGeneration4"
-                                 << "4";
-    }
     if (!running.startsWith("5.")) {
         QTest::newRow("built for 5") << "Installed5"
-                                     << "5\\.[0-9]+";
+                                     << "5(\\.[0-9]+)?";
     }
     if (!running.startsWith("6.")) {
         QTest::newRow("built for 6") << "Installed6"
-                                     << "6\\.[0-9]+";
+                                     << "6(\\.[0-9]+)?";
     }
 }
 
@@ -206,7 +197,7 @@ void PluginHostTest::LibraryOfOtherToolkitIsNotLoaded()
     QFETCH(QString, folder);
     QFETCH(QString, version);
     if (folder.startsWith("Installed") && !QFile::exists(fixtureDirectory + ("/plugins/" + folder))) {
-        SKIP_TEST("The development files of that generation were not there when this was built.");
+        QSKIP("The development files of that generation were not there when this was built.");
     }
     PluginHost host(fixtureDirectory, Known(QStringList(folder)));
     host.Load();

@@ -29,8 +29,7 @@ void ArgumentsTest::NothingGivenRuns()
 {
     const Arguments arguments = Arguments::Parse(QStringList());
     QCOMPARE(arguments.action, Arguments::Run);
-    QVERIFY(arguments.language.isNull() && arguments.pluginLibraryPath.isNull() &&
-            arguments.tourDirectory.isNull());
+    QVERIFY(arguments.language.isNull() && arguments.pluginLibraryPath.isNull());
     QVERIFY(arguments.commands.isEmpty());
 }
 
@@ -39,26 +38,23 @@ void ArgumentsTest::ValuesAreTaken_data()
     QTest::addColumn<QStringList>("given");
     QTest::addColumn<QString>("language");
     QTest::addColumn<QString>("libraryPath");
-    QTest::addColumn<QString>("tour");
     QTest::newRow("apart") << (QStringList() << "--language"
                                              << "ar")
                            << "ar"
-                           << ""
                            << "";
-    QTest::newRow("with equals sign") << (QStringList() << "--tour=/tmp/a b") << ""
-                                      << ""
+    QTest::newRow("with equals sign") << (QStringList() << "--library-path=/tmp/a b") << ""
                                       << "/tmp/a b";
-    QTest::newRow("all") << (QStringList() << "--library-path"
-                                           << "x=y"
-                                           << "--tour"
-                                           << "-d"
-                                           << "--language=he")
-                         << "he"
-                         << "x=y"
-                         << "-d";
+    QTest::newRow("both") << (QStringList() << "--library-path"
+                                            << "x=y"
+                                            << "--language=he")
+                          << "he"
+                          << "x=y";
     QTest::newRow("value with equals sign") << (QStringList() << "--library-path=a=b") << ""
-                                            << "a=b"
-                                            << "";
+                                            << "a=b";
+    QTest::newRow("value with a dash") << (QStringList() << "--library-path"
+                                                         << "-d")
+                                       << ""
+                                       << "-d";
 }
 
 void ArgumentsTest::ValuesAreTaken()
@@ -68,7 +64,6 @@ void ArgumentsTest::ValuesAreTaken()
     QCOMPARE(arguments.action, Arguments::Run);
     QTEST(arguments.language, "language");
     QTEST(arguments.pluginLibraryPath, "libraryPath");
-    QTEST(arguments.tourDirectory, "tour");
 }
 
 void ArgumentsTest::LastValueCounts()
@@ -131,9 +126,9 @@ void ArgumentsTest::RefusalNamesWhatIsWrong_data()
                                                  << "ar")
                                << "--lang";
     QTest::newRow("no value at the end") << (QStringList() << "--language") << "--language";
-    QTest::newRow("option in place of the value") << (QStringList() << "--tour"
+    QTest::newRow("option in place of the value") << (QStringList() << "--wlan"
                                                                     << "--help")
-                                                  << "--tour";
+                                                  << "--wlan";
     QTest::newRow("empty value") << (QStringList() << "--library-path=") << "--library-path";
     QTest::newRow("empty argument as value") << (QStringList() << "--library-path"
                                                                << "")
@@ -162,10 +157,6 @@ void ArgumentsTest::WlanIsChosen_data()
                                               << "stored")
                             << int(WlanStored);
     QTest::newRow("networkmanager") << QStringList("--wlan=networkmanager") << int(WlanNetworkManager);
-    QTest::newRow("tour") << QStringList("--tour=x") << int(WlanStored);
-    QTest::newRow("tour with auto") << (QStringList() << "--tour=x"
-                                                      << "--wlan=auto")
-                                    << int(WlanStored);
 }
 
 void ArgumentsTest::WlanIsChosen()
@@ -185,11 +176,6 @@ void ArgumentsTest::WlanIsRefused_data()
     QTest::newRow("other case")
         << QStringList("--wlan=NetworkManager")
         << "--wlan is auto, networkmanager or stored, not \"NetworkManager\"; see --help";
-    QTest::newRow("tour of what is real")
-        << (QStringList() << "--wlan=networkmanager"
-                          << "--tour=x")
-        << "--tour makes and deletes networks, so it leaves NetworkManager alone: "
-           "it can't be had with --wlan networkmanager";
 }
 
 void ArgumentsTest::WlanIsRefused()
@@ -214,7 +200,6 @@ void ArgumentsTest::HelpNamesEveryOption_data()
     QTest::addColumn<QString>("option");
     QTest::newRow("language") << "--language";
     QTest::newRow("library path") << "--library-path";
-    QTest::newRow("tour") << "--tour";
     QTest::newRow("list") << "--list";
     QTest::newRow("check") << "--check";
     QTest::newRow("add") << "--add";

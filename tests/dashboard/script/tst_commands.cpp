@@ -477,10 +477,6 @@ void CommandsTest::BadArgumentIsToldInOneLine_data()
     QTest::newRow("shortened option") << QStringList("--ad=Home") << "--ad;";
     QTest::newRow("option with a line feed") << QStringList("--a\nb") << "--a\\nb";
     QTest::newRow("lone dashes") << QStringList("--") << "no option --;";
-    QTest::newRow("with a tour") << (QStringList() << "--list"
-                                                   << "--tour"
-                                                   << "tour")
-                                 << "tour";
     QTest::newRow("behind a good command") << (QStringList() << "--add=Home"
                                                              << "--fast")
                                            << "--fast";

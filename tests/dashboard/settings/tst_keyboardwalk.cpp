@@ -5,8 +5,8 @@
 #include <HostControl.h>
 #include <MainWindow.h>
 #include <TextPattern.h>
-#include <ToolkitCompat.h>
 #include <TraceLog.h>
+#include <WindowActivation.h>
 
 #include <Change.h>
 
@@ -63,7 +63,7 @@ bool ActivateFront(QWidget *window)
 {
     QWidget *front = QApplication::activeModalWidget() ? QApplication::activeModalWidget() : window;
     if (QApplication::activeWindow() != front) {
-        ToolkitCompat::ActivateWindow(front);
+        ActivateWindow(front);
     }
     return Eventually(
         [front] { return QApplication::focusWidget() && QApplication::focusWidget()->window() == front; });

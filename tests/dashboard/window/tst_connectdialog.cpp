@@ -5,7 +5,7 @@
 #include <FakeWLAN.h>
 #include <HostControl.h>
 #include <IPluginContainer.h>
-#include <ToolkitCompat.h>
+#include <WindowActivation.h>
 
 #include <QApplication>
 #include <QLabel>
@@ -121,7 +121,7 @@ void ConnectDialogTest::Open()
 {
     m_dialog.reset(new ConnectDialog(nullptr));
     m_dialog->show();
-    ToolkitCompat::ActivateWindow(m_dialog.data());
+    ActivateWindow(m_dialog.data());
 }
 
 QStringList ConnectDialogTest::Column(int column) const

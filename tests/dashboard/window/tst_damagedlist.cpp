@@ -9,8 +9,8 @@
 #include <MainWindow.h>
 #include <OrderFile.h>
 #include <PluginObjects.h>
-#include <ToolkitCompat.h>
 #include <TraceLog.h>
+#include <WindowActivation.h>
 
 #include <QApplication>
 #include <QDialog>
@@ -137,7 +137,7 @@ void DamagedListTest::init()
     m_language.reset(new DashboardLanguage(nullptr));
     m_window.reset(new MainWindow(m_world.Plugins(), m_language.data(), m_log.data()));
     m_window->show();
-    ToolkitCompat::ActivateWindow(m_window.data());
+    ActivateWindow(m_window.data());
 }
 
 void DamagedListTest::cleanup()
@@ -276,7 +276,7 @@ void DamagedListTest::QuestionIsAnsweredByKeys()
     Damage();
     QTest::keyClick(m_window.data(), Qt::Key_Comma, Qt::ControlModifier);
     QVERIFY(Question());
-    ToolkitCompat::ActivateWindow(Question());
+    ActivateWindow(Question());
     for (int i = 0; i < tabs; ++i) {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     }

@@ -5,7 +5,7 @@
 #include <ImportDialog.h>
 #include <ListKeeper.h>
 #include <PluginList.h>
-#include <ToolkitCompat.h>
+#include <WindowActivation.h>
 
 #include <QApplication>
 #include <QLabel>
@@ -79,7 +79,7 @@ void ImportDialogTest::Open(const QString &entries)
 {
     m_dialog.reset(new ImportDialog(m_keeper.data(), Listed(entries), nullptr));
     m_dialog->show();
-    ToolkitCompat::ActivateWindow(m_dialog.data());
+    ActivateWindow(m_dialog.data());
 }
 
 QStringList ImportDialogTest::Rows() const

@@ -10,8 +10,8 @@
 #include <MainWindow.h>
 #include <OrderFile.h>
 #include <PluginObjects.h>
-#include <ToolkitCompat.h>
 #include <TraceLog.h>
+#include <WindowActivation.h>
 
 #include <QAction>
 #include <QApplication>
@@ -132,7 +132,7 @@ void ListActionsTest::init()
     m_language.reset(new DashboardLanguage(nullptr));
     m_window.reset(new MainWindow(m_world.Plugins(), m_language.data(), m_log.data()));
     m_window->show();
-    ToolkitCompat::ActivateWindow(m_window.data());
+    ActivateWindow(m_window.data());
 }
 
 void ListActionsTest::cleanup()
@@ -243,7 +243,7 @@ void ListActionsTest::ChangeOnTheOpenPageIsUndoneThere()
     PluginObjects::Priority()->AddPriorityList(entries);
     Click("settingsButton");
     QDialog *settings = m_window->findChild<QDialog *>("settingsDialog");
-    ToolkitCompat::ActivateWindow(settings);
+    ActivateWindow(settings);
     QTableWidget *table = settings->findChild<QTableWidget *>("priorityTable");
     QTest::mouseClick(table->viewport(), Qt::LeftButton, Qt::NoModifier,
                       table->visualRect(table->model()->index(2, 0)).center());
@@ -491,7 +491,7 @@ void ListActionsTest::OrderIsImportedAndTheImportUndone()
     Click("importOkButton");
     QCOMPARE(PluginWorld::Stored(), QString("Office, Hotel, Home"));
     QCOMPARE(Shown(), QString("Office, Hotel, Home"));
-    ToolkitCompat::ActivateWindow(m_window.data());
+    ActivateWindow(m_window.data());
     QTest::keyClick(m_window.data(), Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(PluginWorld::Stored(), QString("Home"));
 }

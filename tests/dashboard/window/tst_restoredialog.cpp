@@ -5,7 +5,7 @@
 #include <ListKeeper.h>
 #include <PluginList.h>
 #include <RestoreDialog.h>
-#include <ToolkitCompat.h>
+#include <WindowActivation.h>
 
 #include <QApplication>
 #include <QLabel>
@@ -100,7 +100,7 @@ void RestoreDialogTest::Open()
 {
     m_dialog.reset(new RestoreDialog(m_keeper.data(), nullptr));
     m_dialog->show();
-    ToolkitCompat::ActivateWindow(m_dialog.data());
+    ActivateWindow(m_dialog.data());
 }
 
 QStringList RestoreDialogTest::Cells(int column) const
