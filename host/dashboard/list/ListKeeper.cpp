@@ -33,7 +33,8 @@ QDateTime Now()
 class ListKeeper::Session
 {
 public:
-    explicit Session(ListKeeper *keeper)
+    /** @param known  the list as it was just read; null to read it here, where others are kept out. */
+    Session(ListKeeper *keeper, const ListReading *known)
         : m_keeper(keeper), m_isDirectoryThere(keeper->m_file.Prepare()),
           m_lock(new DirectoryLock(keeper->m_file.Directory())),
           m_listLock(new ListLock(QFileInfo(keeper->m_listPath).path(), ListLock::Changing, waitMilliseconds))
@@ -43,7 +44,11 @@ public:
         // program.
         m_keeper->m_isHeldByOther = (m_isDirectoryThere && !m_lock->IsHeld()) || m_listLock->IsRefused();
         m_isUsable = !m_keeper->m_isHeldByOther && m_keeper->m_file.Load(&m_keeper->m_history);
-        m_keeper->ReadList();
+        if (known) {
+            m_keeper->Take(*known);
+        } else {
+            m_keeper->ReadList();
+        }
         m_keeper->KeepIfDamaged();
         if (m_isUsable) {
             m_keeper->FinishInterrupted();
@@ -74,7 +79,7 @@ private:
 
 ListKeeper::ListKeeper(const QString &userData, ListSource *source, QObject *parent)
     : QObject(parent), m_source(source), m_listPath(userData + QLatin1String("Priority.xml")),
-      m_file(userData), m_status(PriorityNoPlugin), m_isBusy(false), m_isHeldByOther(false)
+      m_file(userData), m_isBusy(false), m_isHeldByOther(false)
 {
     Follow();
 }
@@ -85,17 +90,18 @@ void ListKeeper::Follow()
     if (m_isBusy) {
         return;
     }
-    const int before = m_status;
+    const int before = m_reading.status;
     ReadList();
-    if (m_status == PriorityNoPlugin) {
-        if (before != m_status) {
+    if (m_reading.status == PriorityNoPlugin) {
+        if (before != m_reading.status) {
             emit Changed();
         }
         return;
     }
     if (IsListNew() || IsDamaged() || m_isHeldByOther || m_file.HasChanged()) {
-        const Session session(this);
-    } else if (m_status != before) {
+        // A whole list is one that there was. Anything else may be what another program is about to write.
+        const Session session(this, m_reading.status == PriorityRead ? &m_reading : nullptr);
+    } else if (m_reading.status != before) {
         emit Changed();
     }
 }
@@ -114,15 +120,18 @@ void ListKeeper::EndOpening()
 
 void ListKeeper::ReadList()
 {
-    const ListReading reading = m_source->Read();
-    m_status = reading.status == PriorityMissing ? PriorityRead : reading.status;
+    Take(m_source->Read());
+}
+
+void ListKeeper::Take(const ListReading &reading)
+{
+    m_reading = reading;
     m_entries = ListEntries::Storable(reading.entries);
 }
 
 bool ListKeeper::IsListNew() const
 {
-    return m_status == PriorityRead &&
-           (m_history.IsEmpty() || !ListEntries::IsSame(m_entries, m_history.Entries()));
+    return IsWhole() && (m_history.IsEmpty() || !ListEntries::IsSame(m_entries, m_history.Entries()));
 }
 
 void ListKeeper::RecordIfNew()
@@ -147,14 +156,19 @@ QDateTime ListKeeper::TimeOfChange() const
     return WholeSeconds(isLikely ? written : now);
 }
 
+bool ListKeeper::IsWhole() const
+{
+    return m_reading.status == PriorityRead || m_reading.status == PriorityMissing;
+}
+
 bool ListKeeper::IsReadable() const
 {
-    return m_status == PriorityRead || IsDamaged();
+    return IsWhole() || IsDamaged();
 }
 
 ListKeeper::Obstacle ListKeeper::ChangeObstacle() const
 {
-    if (m_status == PriorityNoPlugin) {
+    if (m_reading.status == PriorityNoPlugin) {
         return ListNotOffered;
     }
     if (!IsReadable()) {
@@ -187,7 +201,7 @@ ListKeeper::Obstacle ListKeeper::RedoObstacle() const
 
 ListKeeper::Obstacle ListKeeper::Undo()
 {
-    const Session session(this);
+    const Session session(this, nullptr);
     const Obstacle obstacle = m_isHeldByOther ? ListBusy : UndoObstacle();
     if (obstacle != NoObstacle) {
         return obstacle;
@@ -197,14 +211,14 @@ ListKeeper::Obstacle ListKeeper::Undo()
 
 ListKeeper::Obstacle ListKeeper::Redo()
 {
-    const Session session(this);
+    const Session session(this, nullptr);
     const Obstacle obstacle = m_isHeldByOther ? ListBusy : RedoObstacle();
     return obstacle == NoObstacle ? GoTo(m_history.RedoPlace()) : obstacle;
 }
 
 ListKeeper::Obstacle ListKeeper::Restore(int place, const ListState &state)
 {
-    const Session session(this);
+    const Session session(this, nullptr);
     const Obstacle obstacle = m_isHeldByOther ? ListBusy : ChangeObstacle();
     if (obstacle != NoObstacle) {
         return obstacle;
@@ -219,7 +233,7 @@ ListKeeper::Obstacle ListKeeper::Restore(int place, const ListState &state)
 
 ListKeeper::Obstacle ListKeeper::Replace(const QList<PriorityList> &entries)
 {
-    const Session session(this);
+    const Session session(this, nullptr);
     const Obstacle obstacle = m_isHeldByOther ? ListBusy : ChangeObstacle();
     if (obstacle != NoObstacle) {
         return obstacle;
@@ -273,7 +287,7 @@ ListKeeper::Obstacle ListKeeper::GoTo(int position, ListHistory otherwise, const
 
 void ListKeeper::FinishInterrupted()
 {
-    if (m_history.Target() < 0 || m_status == PriorityNoPlugin) {
+    if (m_history.Target() < 0 || m_reading.status == PriorityNoPlugin) {
         return;
     }
     const QList<PriorityList> entries = m_history.States().at(m_history.Target()).entries;
@@ -281,7 +295,7 @@ void ListKeeper::FinishInterrupted()
     if (isCutShort && Write(entries) != NoObstacle) {
         return;
     }
-    const bool hasArrived = m_status == PriorityRead && ListEntries::IsSame(m_entries, entries);
+    const bool hasArrived = IsWhole() && ListEntries::IsSame(m_entries, entries);
     m_history.GoTo(hasArrived ? m_history.Target() : m_history.Position(), Now());
     m_file.Save(&m_history);
 }
@@ -295,7 +309,7 @@ ListKeeper::Obstacle ListKeeper::Write(const QList<PriorityList> &entries)
         m_source->FileReplaced();
     }
     ReadList();
-    const bool isWritten = m_status == PriorityRead && ListEntries::IsSame(m_entries, entries);
+    const bool isWritten = IsWhole() && ListEntries::IsSame(m_entries, entries);
     return isWritten ? NoObstacle : ListNotWritten;
 }
 
@@ -307,7 +321,7 @@ void ListKeeper::KeepIfDamaged()
 
 ListKeeper::Obstacle ListKeeper::WriteObstacle() const
 {
-    if (m_status != PriorityNoPlugin && !IsReadable()) {
+    if (m_reading.status != PriorityNoPlugin && !IsReadable()) {
         return ListNotOpened;
     }
     if (!IsDamaged() || !m_copyPath.isNull()) {
@@ -323,7 +337,7 @@ bool ListKeeper::CanBringBack() const
 
 ListKeeper::Obstacle ListKeeper::BringBack()
 {
-    const Session session(this);
+    const Session session(this, nullptr);
     if (!IsDamaged()) {
         return WriteObstacle();
     }
@@ -333,7 +347,7 @@ ListKeeper::Obstacle ListKeeper::BringBack()
 
 ListKeeper::Obstacle ListKeeper::GoOnWith(const QList<PriorityList> &entries)
 {
-    const Session session(this);
+    const Session session(this, nullptr);
     if (!IsDamaged()) {
         return WriteObstacle();
     }
@@ -367,7 +381,7 @@ bool ListKeeper::IsHistoryUnusable() const
 ListKeeper::Obstacle ListKeeper::SetHistoryAside()
 {
     {
-        const Session session(this);
+        const Session session(this, nullptr);
         if (!IsHistoryUnusable()) {
             return NoObstacle;
         }

@@ -3,12 +3,10 @@
 
 #include "HistoryFile.h"
 #include "ListHistory.h"
-#include "PriorityResult.h"
+#include "ListSource.h"
 
 #include <QObject>
 #include <QString>
-
-class ListSource;
 
 /**
  * Keeps the history of the priority list and takes the list back to its earlier states.
@@ -19,9 +17,9 @@ class ListSource;
  * as soon as it is seen: whoever changes the list then writes what could be read, and the rest would be lost.
  *
  * The list itself is the priority plug-in's. To change it as a whole, the keeper puts a new file in the place
- * of the earlier one, in one go, and then has the plug-in rewrite it through IPriorityPlugin, which tells
- * everybody who shows the list. What comes back with an earlier state are its entries in their order, in the
- * form in which the plug-in writes them; what somebody else had put around them in the file doesn't.
+ * of the earlier one, in one go and in the form in which the plug-in writes it, and then has everybody told
+ * who shows the list. What comes back with an earlier state are its entries in their order, in the form in
+ * which the plug-in writes them; what somebody else had put around them in the file doesn't.
  *
  * Operations that can fail answer why they did nothing. ListKeeperText has words for that.
  */
@@ -54,8 +52,14 @@ public:
 
     const ListHistory &History() const { return m_history; }
 
-    /** The list as it was last looked at. */
+    /** How the list was last read: that of all who show it. */
+    const ListReading &LastReading() const { return m_reading; }
+
+    /** Its entries, as a file can carry them. */
     QList<PriorityList> Entries() const { return m_entries; }
+
+    /** Whether the keeper is changing the list just now; it tells when it is done. */
+    bool IsBusy() const { return m_isBusy; }
 
     QString ListPath() const { return m_listPath; }
     const HistoryFile &File() const { return m_file; }
@@ -79,7 +83,7 @@ public:
     Obstacle Replace(const QList<PriorityList> &entries);
 
     /** Whether the list can be read up to some place only. */
-    bool IsDamaged() const { return m_status == PriorityDamaged; }
+    bool IsDamaged() const { return m_reading.status == PriorityDamaged; }
 
     /** Where the damaged file was copied to; null when it isn't damaged or could not be copied. */
     QString CopyPath() const { return m_copyPath; }
@@ -124,6 +128,7 @@ private:
     class Session;
 
     void ReadList();
+    void Take(const ListReading &reading);
     void RecordIfNew();
     QDateTime TimeOfChange() const;
     /** Makes entries, which a file can carry, the list; backTo is as ListState's. */
@@ -138,14 +143,15 @@ private:
     /** Copies a list file that can't be read to its end, before anything replaces it. */
     void KeepIfDamaged();
     bool IsListNew() const;
+    /** No file yet is a whole list, too. */
+    bool IsWhole() const;
     bool IsReadable() const;
 
     ListSource *const m_source;
     const QString m_listPath;
     HistoryFile m_file;
     ListHistory m_history;
-    /** A PriorityResult; no file yet is a list that was read. */
-    int m_status;
+    ListReading m_reading;
     QList<PriorityList> m_entries;
     QString m_copyPath;
     /** Since when the page has been open; null when it isn't. */

@@ -22,7 +22,7 @@ public:
 
     virtual ListReading Read() = 0;
 
-    /** The file is another now: has it written as its owner writes it, and everybody told. */
+    /** The file is another now: has everybody told who shows the list. */
     virtual void FileReplaced() = 0;
 };
 

@@ -1,5 +1,8 @@
 #include "ListWatcher.h"
 
+#include "DamagedFile.h"
+#include "OrdinaryFile.h"
+
 #include <QFileInfo>
 
 namespace
@@ -14,7 +17,7 @@ ListWatcher::ListWatcher(const QString &file, QObject *parent) : QObject(parent)
 {
     m_pause.setSingleShot(true);
     m_pause.setInterval(pauseMilliseconds);
-    connect(&m_pause, SIGNAL(timeout()), this, SIGNAL(Changed()));
+    connect(&m_pause, &QTimer::timeout, this, &ListWatcher::Compare);
     if (m_file.isEmpty()) {
         return;
     }
@@ -22,8 +25,30 @@ ListWatcher::ListWatcher(const QString &file, QObject *parent) : QObject(parent)
     if (QFileInfo(m_file).exists()) {
         m_watcher.addPath(m_file);
     }
-    connect(&m_watcher, SIGNAL(fileChanged(QString)), this, SLOT(Follow()));
-    connect(&m_watcher, SIGNAL(directoryChanged(QString)), this, SLOT(Follow()));
+    connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, &ListWatcher::Follow);
+    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, &ListWatcher::Follow);
+    Note();
+}
+
+void ListWatcher::Note()
+{
+    ReadContent();
+}
+
+void ListWatcher::Compare()
+{
+    const bool wasThere = m_isThere;
+    const QByteArray before = m_content;
+    if (!ReadContent() || m_isThere != wasThere || m_content != before) {
+        emit Changed();
+    }
+}
+
+bool ListWatcher::ReadContent()
+{
+    m_content.clear();
+    m_isThere = QFileInfo::exists(m_file);
+    return !m_isThere || OrdinaryFile::Read(m_file, DamagedFile::largestFile, &m_content);
 }
 
 void ListWatcher::Follow()

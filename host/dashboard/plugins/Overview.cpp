@@ -3,7 +3,6 @@
 #include "PluginObjects.h"
 #include "PriorityResult.h"
 
-#include <IPriorityPlugin.h>
 #include <IWLANUIPlugin.h>
 
 namespace
@@ -39,16 +38,11 @@ bool Overview::Entry::IsWifi() const
     return entry.type == QLatin1String("1");
 }
 
-Overview Overview::Read()
+Overview Overview::Of(const ListReading &list)
 {
-    int status = -1;
-    QList<PriorityList> list;
-    if (IPriorityPlugin *priority = PluginObjects::Priority()) {
-        status = priority->GetPriorityList(&list);
-    }
     bool isRangeKnown = false;
     const QList<WlanAvilableNetworkInfo> networks = NetworksInRange(&isRangeKnown);
-    return Make(status, list, isRangeKnown, networks);
+    return Make(list.status, list.entries, isRangeKnown, networks);
 }
 
 Overview Overview::Make(int status, const QList<PriorityList> &list, bool isRangeKnown,

@@ -3,6 +3,8 @@
 
 #include "SignalStrength.h"
 
+#include <ListSource.h>
+
 #include <PriorityList.h>
 #include <WLANRecords.h>
 
@@ -32,10 +34,10 @@ struct Overview {
     QHash<QString, int> signalOf;
     QList<Entry> entries;
 
-    /** Asks the plug-ins behind the host's container. */
-    static Overview Read();
+    /** From the list as it was read, and from the networks in range, for which the Wi-Fi plug-in is asked. */
+    static Overview Of(const ListReading &list);
 
-    /** As Read, from what the plug-ins have answered. networksInRange counts only when isRangeKnown. */
+    /** As Of, from what the plug-ins have answered. networksInRange counts only when isRangeKnown. */
     static Overview Make(int status, const QList<PriorityList> &list, bool isRangeKnown,
                          const QList<WlanAvilableNetworkInfo> &networksInRange);
 

@@ -4,6 +4,8 @@
 
 #include <IPriorityPlugin.h>
 
+#include <QMetaObject>
+
 ListReading PluginList::Read()
 {
     ListReading reading;
@@ -15,9 +17,8 @@ ListReading PluginList::Read()
 
 void PluginList::FileReplaced()
 {
-    // Adding nothing has the plug-in write its file anew, and tell everybody.
-    if (IPriorityPlugin *priority = PluginObjects::Priority()) {
-        QList<PriorityList> nothing;
-        priority->AddPriorityList(nothing);
+    // The plug-in's own signal: its page follows it, and so do other plug-ins.
+    if (QObject *service = PluginObjects::PriorityService()) {
+        QMetaObject::invokeMethod(service, "OnUpdataPriorityView");
     }
 }

@@ -345,8 +345,20 @@ void MainWindow::Retranslate()
 
 void MainWindow::Refresh()
 {
+    // What the keeper itself changes it tells when it is done.
+    if (m_keeper->IsBusy()) {
+        return;
+    }
+    m_watcher.Note();
+    m_isRefreshing = true;
     m_keeper->Follow();
-    m_overview = Overview::Read();
+    m_isRefreshing = false;
+    Show();
+}
+
+void MainWindow::Show()
+{
+    m_overview = Overview::Of(m_keeper->LastReading());
     ShowConnect();
     ShowHead();
     ShowProblems();
@@ -386,7 +398,10 @@ void MainWindow::changeEvent(QEvent *event)
 
 void MainWindow::FollowHistory()
 {
-    ShowProblems();
+    if (!m_isRefreshing) {
+        m_watcher.Note();
+        Show();
+    }
 }
 
 void MainWindow::ShowConnect()

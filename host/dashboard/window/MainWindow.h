@@ -63,6 +63,7 @@ private:
     QWidget *CreateHead();
     QWidget *CreateMessagePage();
     QWidget *CreateFoot();
+    void Show();
     void ShowConnect();
     void ShowHead();
     void ShowProblems();
@@ -79,6 +80,7 @@ private:
     ListActions *m_listActions;
     ListGuard *m_guard;
     QTimer *m_rangeTimer;
+    bool m_isRefreshing = false;
     TracePanel *m_trace;
     Overview m_overview;
     QPointer<SettingsDialog> m_settings;

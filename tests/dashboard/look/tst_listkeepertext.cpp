@@ -2,7 +2,6 @@
 #include <HostControl.h>
 #include <ListKeeper.h>
 #include <ListKeeperText.h>
-#include <ListSource.h>
 
 #include <QtTest>
 

@@ -1,4 +1,5 @@
 #include <Overview.h>
+#include <PluginList.h>
 
 #include <QtTest>
 
@@ -143,7 +144,7 @@ void OverviewTest::SignalIsTold()
 
 void OverviewTest::WithoutPriorityPluginThereIsNoList()
 {
-    const Overview overview = Overview::Read();
+    const Overview overview = Overview::Of(PluginList().Read());
     QCOMPARE(overview.status, -1);
     QVERIFY(overview.entries.isEmpty() && !overview.isRangeKnown);
 }

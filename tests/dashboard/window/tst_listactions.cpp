@@ -10,6 +10,7 @@
 #include <MainWindow.h>
 #include <OrderFile.h>
 #include <PluginObjects.h>
+#include <TraceCapture.h>
 #include <TraceLog.h>
 #include <WindowActivation.h>
 
@@ -52,6 +53,8 @@ private slots:
     void ToolTipsTellWhatWouldBeUndone();
     void LastChangeIsTold();
     void ChangeOfTheFileCanBeUndone();
+    void ChangeIsReadOnce();
+    void UndoWritesOnce();
     void ChangeOnTheOpenPageIsUndoneThere_data();
     void ChangeOnTheOpenPageIsUndoneThere();
     void FiftyNinePressesAreOneChange();
@@ -215,6 +218,47 @@ void ListActionsTest::LastChangeIsTold()
              qPrintable(Label("lastChangeLabel")));
     Click("undoButton");
     QCOMPARE(Label("lastChangeLabel"), QString());
+}
+
+/** How often the plug-in's function was called while capture listened. */
+static int Calls(const TraceCapture &capture, const QString &function)
+{
+    return static_cast<int>(capture.Lines().filter(": " + function + ": Entered").size());
+}
+
+void ListActionsTest::ChangeIsReadOnce()
+{
+    m_world.Write("Priority.xml", OrderFile::Document(Listed("A, B, C")));
+    m_window->Refresh();
+    Click("settingsButton");
+    QTableWidget *table = m_window->findChild<QTableWidget *>("priorityTable");
+    QTest::mouseClick(table->viewport(), Qt::LeftButton, Qt::NoModifier,
+                      table->visualRect(table->model()->index(2, 0)).center());
+    const TraceCapture capture;
+    Click("upButton");
+    const int readsOfThePlugin = Calls(capture, "GetPriorityList");
+    const QListWidget *overview = m_window->findChild<QListWidget *>("overviewList");
+    QTRY_COMPARE(overview->item(1)->text(), QString("C"));
+    // Whoever else looks does so soon.
+    QTest::qWait(500);
+    QCOMPARE(Calls(capture, "GetPriorityList") - readsOfThePlugin, 1);
+    QCOMPARE(Plain(Button("settingsUndoButton")->accessibleDescription()), QString("Undo: Moved C up"));
+}
+
+void ListActionsTest::UndoWritesOnce()
+{
+    m_world.Write("Priority.xml", OrderFile::Document(Listed("A, B, C")));
+    m_window->Refresh();
+    PluginWorld::AddTop("C");
+    m_window->Refresh();
+    const TraceCapture capture;
+    Click("undoButton");
+    QTest::qWait(500);
+    QCOMPARE(m_world.Read("Priority.xml"), OrderFile::Document(Listed("A, B, C")));
+    // The dashboard has put the file there, and the plug-in needn't.
+    QCOMPARE(Calls(capture, "SavePriorityList"), 0);
+    // What is there before it is replaced, and what is there then; the page reads for itself.
+    QCOMPARE(Calls(capture, "GetPriorityList") - Calls(capture, "UpdataPriorityList"), 2);
 }
 
 void ListActionsTest::ChangeOfTheFileCanBeUndone()
