@@ -147,7 +147,7 @@ QStringList NetworksInRange()
     if (IWLANUIPlugin *wlan = PluginObjects::Wlan()) {
         wlan->GetAvailableNetworks(&networks);
     }
-    for (const WlanAvilableNetworkInfo &network : networks) {
+    for (const WlanAvilableNetworkInfo &network : std::as_const(networks)) {
         names.append(network.networkName);
     }
     return names;
@@ -160,7 +160,7 @@ QStringList RememberedNames()
     if (IWLANUIPlugin *wlan = PluginObjects::Wlan()) {
         wlan->GetRememberedList(&remembered);
     }
-    for (const RememberedList &network : remembered) {
+    for (const RememberedList &network : std::as_const(remembered)) {
         names.append(network.name);
     }
     return names;
@@ -175,7 +175,7 @@ QPixmap Composed(QWidget *window)
         layers.prepend(top);
     }
     QSize size = window->size();
-    for (const QWidget *layer : layers) {
+    for (const QWidget *layer : std::as_const(layers)) {
         size = size.expandedTo(layer->size() + QSize(2, 2));
     }
     QPixmap picture(size * window->devicePixelRatioF());
@@ -188,7 +188,7 @@ QPixmap Composed(QWidget *window)
     };
     painter.drawPixmap(middle(window).topLeft(), window->grab());
     int darkness = 60;
-    for (QWidget *layer : layers) {
+    for (QWidget *layer : std::as_const(layers)) {
         painter.fillRect(QRect(QPoint(), size), QColor(0, 0, 0, darkness));
         painter.fillRect(middle(layer).adjusted(-1, -1, 1, 1),
                          QApplication::palette().color(QPalette::Shadow));

@@ -118,7 +118,8 @@ void TourProgram::Open()
     m_plugins.reset(
         new PluginHost(CommonUtils::GetPluginLibraryPath(), PluginHost::KnownPlugins(WlanStored)));
     m_plugins->Load();
-    for (const PluginHost::Plugin &plugin : m_plugins->Plugins()) {
+    const QList<PluginHost::Plugin> plugins = m_plugins->Plugins();
+    for (const PluginHost::Plugin &plugin : plugins) {
         if (m_plugins->IsMissed(plugin)) {
             TraceLog::Warn(PluginHost::ProblemText(plugin));
         }

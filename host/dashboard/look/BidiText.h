@@ -8,7 +8,8 @@
 /** Whether text has a letter or a sign that makes what is beside it read from right to left. */
 inline bool HasRightToLeft(const QString &text)
 {
-    for (const uint character : text.toUcs4()) {
+    const auto characters = text.toUcs4();
+    for (const uint character : characters) {
         switch (QChar::direction(character)) {
         case QChar::DirR:
         case QChar::DirAL:

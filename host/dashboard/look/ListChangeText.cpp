@@ -121,7 +121,8 @@ QString ListChangeText::Name(const PriorityList &entry)
 QString ListChangeText::Names(const QList<PriorityList> &entries)
 {
     QStringList names;
-    for (const PriorityList &entry : entries.mid(0, namesTold)) {
+    const QList<PriorityList> told = entries.mid(0, namesTold);
+    for (const PriorityList &entry : told) {
         names.append(Name(entry));
     }
     if (entries.size() > namesTold) {

@@ -48,7 +48,7 @@ QString LibraryFile::OtherQt(const QString &path)
               : QString();
     const QRegularExpression needed(QLatin1String("libQt[0-9]*(?:Core|Gui|Widgets)\\.so\\.([0-9]+)"));
     for (QRegularExpressionMatchIterator found = needed.globalMatch(content); found.hasNext();) {
-        const QString generation = found.next().captured(1);
+        QString generation = found.next().captured(1);
         if (generation.toInt() != QT_VERSION_MAJOR) {
             return generation;
         }

@@ -51,7 +51,7 @@ bool PluginObjects::RememberedNetworks(QList<PriorityList> *networks)
     }
     QList<RememberedList> remembered;
     wlan->GetRememberedList(&remembered);
-    for (const RememberedList &network : remembered) {
+    for (const RememberedList &network : std::as_const(remembered)) {
         PriorityList entry;
         entry.name = network.name;
         entry.type = network.type;
