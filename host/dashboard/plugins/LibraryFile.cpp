@@ -46,7 +46,7 @@ QString LibraryFile::OtherQt(const QString &path)
     const QString content =
         bytes ? QString::fromLatin1(reinterpret_cast<const char *>(bytes), static_cast<int>(file.size()))
               : QString();
-    const QRegularExpression needed(QLatin1String("libQt[0-9]*(?:Core|Gui|Widgets)\\.so\\.([0-9]+)"));
+    static const QRegularExpression needed(QLatin1String("libQt[0-9]*(?:Core|Gui|Widgets)\\.so\\.([0-9]+)"));
     for (QRegularExpressionMatchIterator found = needed.globalMatch(content); found.hasNext();) {
         QString generation = found.next().captured(1);
         if (generation.toInt() != QT_VERSION_MAJOR) {
