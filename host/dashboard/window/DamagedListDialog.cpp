@@ -20,8 +20,7 @@ const int dialogWidth = 440;
 QString LastText(const ListHistory &history)
 {
     return DashboardText("IDS_DAMAGE_LAST")
-        .arg(ListChangeText::Moment(history.Since()))
-        .arg(DashboardNumber(history.Entries().size()));
+        .arg(ListChangeText::Moment(history.Since()), DashboardNumber(history.Entries().size()));
 }
 
 } // namespace
