@@ -76,7 +76,7 @@ QString ClickAt(QWidget *widget, const QPoint &position)
 /** Why keys would not go to widget or into it; null, and it has the keyboard. */
 QString FocusObstacle(QWidget *widget)
 {
-    const QString obstacle = Obstacle(widget);
+    QString obstacle = Obstacle(widget);
     if (!obstacle.isNull()) {
         return obstacle;
     }
@@ -130,7 +130,7 @@ QString UserActions::ChooseFromMenu(QMenu *menu, QAction *action)
 
 QString UserActions::PressKey(int key, QWidget *widget, Qt::KeyboardModifiers modifiers)
 {
-    const QString obstacle = FocusObstacle(widget);
+    QString obstacle = FocusObstacle(widget);
     if (obstacle.isNull()) {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), modifiers);
     }
@@ -139,7 +139,7 @@ QString UserActions::PressKey(int key, QWidget *widget, Qt::KeyboardModifiers mo
 
 QString UserActions::TypeText(const QString &text, QWidget *widget)
 {
-    const QString obstacle = FocusObstacle(widget);
+    QString obstacle = FocusObstacle(widget);
     if (obstacle.isNull()) {
         QTest::keyClicks(QApplication::focusWidget(), text);
     }
