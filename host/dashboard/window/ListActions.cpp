@@ -26,7 +26,7 @@ ListActions::ListActions(ListKeeper *keeper, QWidget *window)
       m_redo(CreateAction("redoAction", SLOT(Redo()))),
       m_restore(CreateAction("restoreAction", SLOT(OpenRestore()))),
       m_import(CreateAction("importAction", SLOT(OpenImport()))),
-      m_export(CreateAction("exportAction", SLOT(OpenExport()))), m_lastChange(nullptr)
+      m_export(CreateAction("exportAction", SLOT(OpenExport())))
 {
     m_undo->setShortcut(QKeySequence(QLatin1String("Ctrl+Z")));
     m_redo->setShortcut(QKeySequence(QLatin1String("Ctrl+Shift+Z")));

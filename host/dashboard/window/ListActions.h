@@ -61,7 +61,7 @@ private:
     QAction *m_restore;
     QAction *m_import;
     QAction *m_export;
-    ElidedLabel *m_lastChange;
+    QPointer<ElidedLabel> m_lastChange;
     QPointer<RestoreDialog> m_restoreDialog;
     QPointer<ImportDialog> m_importDialog;
 };
