@@ -75,7 +75,7 @@ TourProgram::Options TourProgram::Read(int argc, char **argv)
     Options options;
     options.directory = directories.first();
     options.language = parser.value(language);
-    options.libraryPath = parser.value(libraryPath);
+    options.pluginDirectory = parser.value(libraryPath);
     return options;
 }
 
@@ -95,7 +95,7 @@ TourProgram::TourProgram(int *argc, char **argv, const Options &options)
     QApplication::setApplicationName(QLatin1String("priority-dashboard"));
     const QString program = QApplication::applicationDirPath();
     const QString libraryPath =
-        options.libraryPath.isEmpty() ? Installation::LibraryPath(program) : options.libraryPath;
+        options.pluginDirectory.isEmpty() ? Installation::LibraryPath(program) : options.pluginDirectory;
     if (!QFileInfo(libraryPath).isDir()) {
         Refuse(QString::fromLatin1("there is no directory %1").arg(libraryPath));
     }

@@ -23,7 +23,7 @@ public:
         QString directory;
         QString language;
         /** As the dashboard's option; empty for that of the build tree. */
-        QString libraryPath;
+        QString pluginDirectory;
     };
 
     /** No arguments: there is a directory to be named. What is wrong with them is said, and the program ends.

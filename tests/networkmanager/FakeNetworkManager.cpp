@@ -207,6 +207,12 @@ void FakeNetworkManager::SetSetting(const QString &profile, const QString &secti
     m_settings[profile][section][key] = value;
 }
 
+void FakeNetworkManager::SetChangesByKeyQuestion(qulonglong changes)
+{
+    const QMutexLocker locker(&m_mutex);
+    m_changesByKeyQuestion = changes;
+}
+
 void FakeNetworkManager::SetRight(const QString &right, const QString &value)
 {
     const QMutexLocker locker(&m_mutex);
@@ -368,11 +374,19 @@ QDBusMessage FakeNetworkManager::AnswerOfProfile(const QDBusMessage &call)
     if (m_settings.contains(path) && call.member() == "GetSettings") {
         return call.createReply(QVariant::fromValue(WithoutKeys(m_settings.value(path))));
     }
+    const QVariant version = m_objects.value(path).value(profileInterface).value("VersionId");
     if (m_settings.contains(path) && call.member() == "GetSecrets") {
+        if (version.isValid()) {
+            m_objects[path][profileInterface]["VersionId"] = version.toULongLong() + m_changesByKeyQuestion;
+        }
         return call.createReply(QVariant::fromValue(KeysOf(m_settings.value(path))));
     }
     if (m_settings.contains(path) && call.member() == "Update2") {
         m_conditions = qdbus_cast<QVariantMap>(call.arguments().at(2).value<QDBusArgument>());
+        if (m_conditions.value("version-id", version) != version) {
+            return call.createErrorReply("org.freedesktop.NetworkManager.Settings.VersionIdMismatch",
+                                         "changed");
+        }
         m_settings[path] = SettingsIn(call);
         return call.createReply(QVariantMap());
     }

@@ -48,6 +48,8 @@ public:
                      const QVariant &value);
     void SetSetting(const QString &profile, const QString &section, const QString &key,
                     const QVariant &value);
+    /** How many changes of a profile a question for its keys counts as; one is NetworkManager's own. */
+    void SetChangesByKeyQuestion(qulonglong changes);
     void SetRight(const QString &right, const QString &value);
 
     /** What was stored last, keys included. */
@@ -103,6 +105,7 @@ private:
     QMap<QString, NMVariantMapMap> m_objects;
     QMap<QString, NMVariantMapMap> m_settings;
     QVariantMap m_conditions;
+    qulonglong m_changesByKeyQuestion = 1;
     QMap<QString, QString> m_rights;
     QHash<QString, Misbehaviour> m_misbehaviour;
     QStringList m_calls;

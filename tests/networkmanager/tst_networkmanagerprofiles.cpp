@@ -72,6 +72,8 @@ private slots:
     void ChangeIsBoundToTheVersionThatWasRead_data();
     void ChangeIsBoundToTheVersionThatWasRead();
     void ChangeBySomebodyElseInTheMiddleIsTold();
+    void QuestionForWepKeysIsNoChangeBySomebodyElse_data();
+    void QuestionForWepKeysIsNoChangeBySomebodyElse();
     void WepProfileIsKeptWhenItsOtherKeysCannotBeHad_data();
     void WepProfileIsKeptWhenItsOtherKeysCannotBeHad();
     void ReadOnlyProfileIsNotChanged();
@@ -539,6 +541,31 @@ void tst_networkmanagerprofiles::ChangeBySomebodyElseInTheMiddleIsTold()
     Fake().AnswerWithError("Update2", "org.freedesktop.NetworkManager.Settings.VersionIdMismatch");
     QCOMPARE(LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("A", "open", "none", "")),
              int(NetworkManagerResultChangedMeanwhile));
+}
+
+void tst_networkmanagerprofiles::QuestionForWepKeysIsNoChangeBySomebodyElse_data()
+{
+    QTest::addColumn<qulonglong>("changes");
+    QTest::addColumn<int>("result");
+    QTest::newRow("not counted") << qulonglong(0) << 0;
+    QTest::newRow("counted") << qulonglong(1) << 0;
+    QTest::newRow("somebody else's, too") << qulonglong(2) << int(NetworkManagerResultChangedMeanwhile);
+}
+
+void tst_networkmanagerprofiles::QuestionForWepKeysIsNoChangeBySomebodyElse()
+{
+    QFETCH(qulonglong, changes);
+    QFETCH(int, result);
+    NMVariantMapMap settings = FakeNetworkManager::Settings("A");
+    settings[security]["key-mgmt"] = "none";
+    settings[security]["wep-key1"] = "abcde";
+    const QString path = Fake().AddProfile(settings);
+    Fake().SetProperty(path, profileInterface, "VersionId", qulonglong(7));
+    Fake().SetChangesByKeyQuestion(changes);
+    QCOMPARE(LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("A", "open", "WEP", "12345")),
+             result);
+    QCOMPARE(Fake().SettingsOf(path) == settings, result != 0);
+    QCOMPARE(Fake().SettingsOf(path)[security]["wep-key1"], QVariant("abcde"));
 }
 
 void tst_networkmanagerprofiles::WepProfileIsKeptWhenItsOtherKeysCannotBeHad_data()

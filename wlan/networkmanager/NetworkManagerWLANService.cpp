@@ -284,24 +284,25 @@ NetworkManagerResult CNetworkManagerWLANService::Change(const NetworkProfile &pr
                                                         const WLANProfile &wanted, const CTimeLimit &limit)
 {
     emit AboutToChange();
-    NMVariantMapMap settings = profile.settings;
-    settings[WirelessSection()].insert(QLatin1String("ssid"), SsidText::ToBytes(wanted.ssid));
-    if (NetworkSecurity::HasStaticWep(settings) && wanted.encryption == QLatin1String("WEP")) {
-        const NetworkManagerResult result = ReadWepKeys(profile, limit, &settings);
+    NetworkProfile changed = profile;
+    changed.settings[WirelessSection()].insert(QLatin1String("ssid"), SsidText::ToBytes(wanted.ssid));
+    if (NetworkSecurity::HasStaticWep(changed.settings) && wanted.encryption == QLatin1String("WEP")) {
+        NetworkManagerResult result = ReadWepKeys(&changed, limit);
+        if (result == NetworkManagerResultSuccess && changed.version != 0) {
+            result = ReadVersionAfterKeys(&changed, limit);
+        }
         if (result != NetworkManagerResultSuccess) {
             return result;
         }
     }
-    NetworkSecurity::Apply(wanted, &settings);
-    return ResultOf(Ask(ProfileUpdate::Call(profile, settings), limit), ProfileUpdate::signature);
+    NetworkSecurity::Apply(wanted, &changed.settings);
+    return ResultOf(Ask(ProfileUpdate::Call(changed, changed.settings), limit), ProfileUpdate::signature);
 }
 
-NetworkManagerResult CNetworkManagerWLANService::ReadWepKeys(const NetworkProfile &profile,
-                                                             const CTimeLimit &limit,
-                                                             NMVariantMapMap *settings)
+NetworkManagerResult CNetworkManagerWLANService::ReadWepKeys(NetworkProfile *profile, const CTimeLimit &limit)
 {
     const QString section = QLatin1String("802-11-wireless-security");
-    QDBusMessage call = CNetworkManagerClient::Call(profile.path, CNetworkManagerClient::ProfileInterface(),
+    QDBusMessage call = CNetworkManagerClient::Call(profile->path, CNetworkManagerClient::ProfileInterface(),
                                                     QLatin1String("GetSecrets"));
     call << section;
     const QDBusMessage reply = Ask(call, limit);
@@ -313,10 +314,29 @@ NetworkManagerResult CNetworkManagerWLANService::ReadWepKeys(const NetworkProfil
         const QVariantMap keys =
             qdbus_cast<NMVariantMapMap>(reply.arguments().at(0).value<QDBusArgument>()).value(section);
         for (QVariantMap::const_iterator i = keys.constBegin(); i != keys.constEnd(); ++i) {
-            (*settings)[section].insert(i.key(), i.value());
+            profile->settings[section].insert(i.key(), i.value());
         }
     }
     return result;
+}
+
+NetworkManagerResult CNetworkManagerWLANService::ReadVersionAfterKeys(NetworkProfile *profile,
+                                                                      const CTimeLimit &limit)
+{
+    const QDBusMessage reply = Ask(NetworkManagerState::Call(), limit);
+    const NetworkManagerResult result = ResultOf(reply, NetworkManagerState::Signature());
+    if (result != NetworkManagerResultSuccess) {
+        return result;
+    }
+    // The question for the keys counts as one change itself (seen with 1.52).
+    const QList<ProfilePlace> places = NetworkManagerState::FromReply(reply).profiles;
+    for (const ProfilePlace &place : places) {
+        if (place.path == profile->path && place.version <= profile->version + 1) {
+            profile->version = place.version;
+            return NetworkManagerResultSuccess;
+        }
+    }
+    return NetworkManagerResultChangedMeanwhile;
 }
 
 QDBusMessage CNetworkManagerWLANService::Ask(const QDBusMessage &call, const CTimeLimit &limit)

@@ -82,8 +82,9 @@ private:
     NetworkManagerResult Add(const WLANProfile &wanted, const CallerRights &rights, const CTimeLimit &limit);
     NetworkManagerResult Change(const NetworkProfile &profile, const WLANProfile &wanted,
                                 const CTimeLimit &limit);
-    NetworkManagerResult ReadWepKeys(const NetworkProfile &profile, const CTimeLimit &limit,
-                                     NMVariantMapMap *settings);
+    /** Into the settings, which have none so far. */
+    NetworkManagerResult ReadWepKeys(NetworkProfile *profile, const CTimeLimit &limit);
+    NetworkManagerResult ReadVersionAfterKeys(NetworkProfile *profile, const CTimeLimit &limit);
     QDBusMessage Ask(const QDBusMessage &call, const CTimeLimit &limit);
     void LookForNetworks(const NetworkManagerState &state, const CallerRights &rights);
     NetworkManagerResult Tell(const char *operation, NetworkManagerResult result);

@@ -9,6 +9,14 @@
 
 #include <cstring>
 
+namespace
+{
+
+/** More than any library has before the names of those that it needs. */
+const qint64 mostBytes = 256 << 20;
+
+} // namespace
+
 bool LibraryFile::IsCut(const QString &path)
 {
     QFile file(path);
@@ -42,10 +50,10 @@ QString LibraryFile::OtherQt(const QString &path)
     }
     // Metadata of some other Qt can't be read, and a library may have none: so the libraries that it needs.
     QFile file(path);
-    const uchar *bytes = file.open(QIODevice::ReadOnly) ? file.map(0, file.size()) : nullptr;
+    const qint64 size = file.open(QIODevice::ReadOnly) ? qMin(file.size(), mostBytes) : 0;
+    const uchar *bytes = size > 0 ? file.map(0, size) : nullptr;
     const QString content =
-        bytes ? QString::fromLatin1(reinterpret_cast<const char *>(bytes), static_cast<int>(file.size()))
-              : QString();
+        bytes ? QString::fromLatin1(reinterpret_cast<const char *>(bytes), int(size)) : QString();
     static const QRegularExpression needed(QLatin1String("libQt[0-9]*(?:Core|Gui|Widgets)\\.so\\.([0-9]+)"));
     for (QRegularExpressionMatchIterator found = needed.globalMatch(content); found.hasNext();) {
         QString generation = found.next().captured(1);

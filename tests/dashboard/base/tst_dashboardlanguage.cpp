@@ -260,7 +260,7 @@ void DashboardLanguageTest::ToolkitsOwnTextsFollowTheLanguage()
     const QString installed = QLibraryInfo::path(QLibraryInfo::TranslationsPath) + "/qtbase_de.qm";
 #endif
     if (!QFile::exists(installed)) {
-        QSKIP("The toolkit's own translations are not installed (package qttranslations5-l10n).");
+        QSKIP("Qt's own translations are not installed (package qttranslations5-l10n).");
     }
     QVERIFY(DashboardLanguage::Apply("de"));
     QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), QString("Abbrechen"));
