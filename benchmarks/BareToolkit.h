@@ -12,7 +12,7 @@
 #include <QTableWidget>
 
 /*
- * What the plug-in's work costs at least: the same result got from the toolkit by the shortest road, with no
+ * What the plug-in's work costs at least: the same result got from Qt by the shortest road, with no
  * trace, no checks and no care for what goes wrong. These are what the plug-in is measured against.
  */
 

@@ -3,7 +3,7 @@
 set(PRIORITY_MAINTAINER "PriorityPlugin maintainers <maintainers@priority-plugin.example>" CACHE STRING
     "Name and address of who answers for the packages")
 
-# A build for another generation of the toolkit has the same files, and takes the place of any other. The name tells the
+# A build for another generation of Qt has the same files, and takes the place of any other. The name tells the
 # generation, whichever the release has: what was built against the libraries of one crashes with those of another.
 if(PRIORITY_QT EQUAL 5)
     set(package_suffix "")

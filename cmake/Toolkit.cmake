@@ -1,4 +1,4 @@
-# The toolkit behind one set of names, so that no other file names its generation: the targets PriorityQtCore,
+# Qt behind one set of names, so that no other file names its generation: the targets PriorityQtCore,
 # PriorityQtWidgets and PriorityQtTest, the function priority_compile_languages with its PRIORITY_LANGUAGE_COMPILER, and
 # PRIORITY_INNER_CXX_STANDARD.
 

@@ -2,7 +2,7 @@
 #define TOOLKITPLUGIN_H
 
 /*
- * The entry points of a plug-in's library, in the way of the toolkit that it is built for. A plug-in's root
+ * The entry points of a plug-in's library, in the way of the Qt that it is built for. A plug-in's root
  * class says TOOLKIT_PLUGIN_METADATA behind Q_OBJECT, and one source file says TOOLKIT_EXPORT_PLUGIN:
  *
  *     class CPriorityPlugin : public QObject, public IUIPlugin
@@ -16,7 +16,7 @@
  *
  * This gives the library qt_plugin_instance, which makes the root object when it is first asked for and hands
  * out the same one until it is deleted, and qt_plugin_query_verification_data with the text that hosts
- * compare. From Qt 5 on, the first comes with the toolkit's own metadata, by which QPluginLoader loads the
+ * compare. From Qt 5 on, the first comes with Qt's own metadata, by which QPluginLoader loads the
  * library too.
  */
 

@@ -56,7 +56,7 @@ int TextWidth(const QLabel *label)
 QString Elided(const QString &text, Qt::TextElideMode mode, const QFontMetrics &metrics, int width)
 {
     QString shown = metrics.elidedText(text, mode, width);
-    // Joined letters that are cut apart can come out wider than the toolkit took them to be.
+    // Joined letters that are cut apart can come out wider than Qt took them to be.
     for (int room = width - 1; room > 0 && shown != text && metrics.boundingRect(shown).width() > width;
          --room) {
         shown = metrics.elidedText(text, mode, room);

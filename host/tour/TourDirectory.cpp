@@ -98,7 +98,8 @@ QString TourDirectory::Claim(const QString &name)
         return QString();
     }
     m_claims.append(name);
-    // Written before the file is: after a crash in between, a name too many does no harm.
+    // The name is written down before the file is made. After a crash in between there is a name too many,
+    // which does no harm.
     return WriteClaims() ? path : QString();
 }
 

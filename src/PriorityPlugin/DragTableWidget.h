@@ -16,7 +16,7 @@ public:
  * time. */
 void SetUpListTable(QTableWidget *table);
 
-/** A click beside the rows leaves the highlight as it is. Some generations of the toolkit would take it away.
+/** A click beside the rows leaves the highlight as it is. Some generations of Qt would take it away.
  */
 void IgnoreMouseBesideRows(QTableWidget *table);
 
@@ -24,9 +24,9 @@ void IgnoreMouseBesideRows(QTableWidget *table);
 void SetRowWidget(QTableWidget *table, int row, QWidget *widget);
 
 /**
- * While it lives, what is in a widget is shown without an event for each that asks for its painting. The
- * toolkit compares each widget so asked for with all others in the table, and rows out of sight are
- * thousands. What is in sight is painted with what contains it.
+ * While this object lives, new widgets in a container are shown without a paint event of their own. Qt
+ * compares each widget with such an event to all others in the table, and a long list has thousands. The
+ * widgets in sight are painted together with their container.
  */
 class ShownAsOne
 {

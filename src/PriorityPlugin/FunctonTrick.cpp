@@ -39,7 +39,7 @@ void AppendTwoDigits(QByteArray &time, int number)
     time.append(digits, sizeof digits);
 }
 
-/** What both lines begin with. One text for the whole line: the toolkit converts each that it is given. */
+/** What both lines begin with. One text for the whole line: Qt converts each that it is given. */
 QByteArray LineStart(const QString &sourcePath, const QString &function)
 {
     QByteArray line = TraceLine::CurrentTime();
@@ -77,7 +77,7 @@ namespace TraceLine
 {
 
 /*
- * Asked of the C library, which keeps the time zone in mind: the toolkit looks at the time zone's file each
+ * Asked of the C library, which keeps the time zone in mind: Qt looks at the time zone's file each
  * time it is asked for the time of day.
  */
 QByteArray CurrentTime()

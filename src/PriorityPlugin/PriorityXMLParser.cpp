@@ -18,7 +18,7 @@ namespace
 {
 
 #define SOURCE_PATH "../../src/PriorityPlugin/PriorityXMLParser.cpp"
-// For formats: the toolkit converts each text that is put into one, and not what stands in it already.
+// For formats: Qt converts each text that is put into one, and not what stands in it already.
 #define BUILD_TIME_AND_SOURCE __TIME__ ": " SOURCE_PATH ": "
 
 const char sourcePath[] = SOURCE_PATH;
@@ -292,7 +292,7 @@ int PriorityXMLParser::GetPriorityList(QList<PriorityList> *out)
     CFunctonTrick trick(SourcePath(), QLatin1String("GetPriorityList"), "");
     const QString path = PriorityFilePath();
     const QFileInfo known(path);
-    // What is a file exists. Asked in this order, the toolkit looks at it once and not twice.
+    // What is a file exists. Asked in this order, Qt looks at it once and not twice.
     if (!out || !(known.isFile() || known.exists())) {
         TraceFileMissing(path);
         return FileMissing;

@@ -40,7 +40,7 @@ private:
     QSet<QObject *> m_receivers;
 };
 
-/** Some generations of the toolkit paint when a timer runs out, not with the next events. */
+/** Some generations of Qt paint when a timer runs out, not with the next events. */
 static void WaitForPainting(const Receivers &painted, QWidget *widget)
 {
     for (int i = 0; i < 300 && !painted.Has(widget); ++i) {

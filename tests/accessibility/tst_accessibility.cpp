@@ -88,7 +88,7 @@ void CheckRows(Interface *table, QStringList *problems)
     for (int row = 0; row < widget->rowCount(); ++row) {
         bool isNamed = false;
         for (int column = 0; column < widget->columnCount(); ++column) {
-            // As the toolkit counts: each line begins with a header, and the first line is all headers.
+            // As Qt counts: each line begins with a header, and the first line is all headers.
             Interface *cell = table->child((row + 1) * (widget->columnCount() + 1) + column + 1);
             if (!cell || cell->role() != QAccessible::Cell) {
                 problems->append(
@@ -148,7 +148,7 @@ QAccessible::Role RoleOf(const QWidget *control)
     return qobject_cast<const QTableWidget *>(control) ? QAccessible::Table : QAccessible::PushButton;
 }
 
-/** The toolkit's own interface to lists tells the state of their items only. */
+/** Qt's own interface to lists tells the state of their items only. */
 bool TellsItems(Interface *part)
 {
     return !part->state().focusable &&
@@ -205,7 +205,7 @@ void CheckBuddy(const QLabel *label, QStringList *problems)
     foreach (const auto &relation, InterfaceOf(label->buddy())->relations(QAccessible::Label)) {
         isRelated = isRelated || relation.first->object() == label;
     }
-    // The toolkit's own interface to lists has no labels: there, the label's text has to be the name.
+    // Qt's own interface to lists has no labels: there, the label's text has to be the name.
     isRelated = isRelated || label->text() == label->buddy()->accessibleName();
     if (!isRelated || label->buddy()->isHidden() != label->isHidden()) {
         problems->append(TabStops::Named(label) + QLatin1String(" is no label of its buddy"));

@@ -22,7 +22,7 @@ public:
     /** Forgets calls and answers. */
     void Reset();
 
-    /** Tells the part behind the interface's identifier, as the toolkit's casts ask for it. */
+    /** Tells the part behind the interface's identifier, as Qt's casts ask for it. */
     void *qt_metacast(const char *identifier) override;
 
     /** How often each position was called, as "<position> x <calls>", for those called at all. */

@@ -45,7 +45,7 @@ bool IsOfTheTools(const QString &name)
            name == "_fini";
 }
 
-/** An inline function or a type of the toolkit that the compiler put into the library: which ones these are
+/** An inline function or a type of Qt that the compiler put into the library: which ones these are
  * changes with the optimisation. */
 bool IsOfTheToolkit(const QString &letter, const QString &name)
 {
@@ -135,7 +135,7 @@ void SymbolsTest::PluginsExportTheirEntryPointsOnly()
 {
     QFETCH(QString, file);
     QStringList names = Symbols(file, "--defined-only");
-    // The toolkit's own, which the fourth generation hasn't, and whose name grew in the sixth.
+    // Qt's own, which the fourth generation hasn't, and whose name grew in the sixth.
     const QStringList metadata = names.filter("qt_plugin_query_metadata");
     QVERIFY(metadata.size() <= 1);
     names.removeAll(metadata.value(0));
@@ -178,7 +178,7 @@ void SymbolsTest::HostLibrariesExportTheirServicesOnly()
 }
 
 /**
- * What the plug-in leaves to others, less what the toolkit and the system's libraries give: they stand for
+ * What the plug-in leaves to others, less what Qt and the system's libraries give: they stand for
  * themselves in the tests that link the same ones.
  */
 void SymbolsTest::PluginAsksForTheHostServicesOnly()

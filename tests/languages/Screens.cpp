@@ -46,7 +46,7 @@ const char *const values[] = {longName, "Home", "Office", "Café", "شبكة ا�
                               "WPAPSK", "WPA2(EAP)", "WPA(EAP)", "IEEE 802.1X", "open", "shared", "none",
                               "WEP", "CCMP", "TKIP", "AUTO", "SIM", "AKA", "NetworkManager",
                               "Guest house at the upper end of the long road",
-                              // The month of the states that are kept, in the words of the toolkit.
+                              // The month of the states that are kept, in the words of Qt.
                               "Mar"};
 
 /** The states of the list that are kept, oldest first: every kind of change is among them. */
@@ -101,7 +101,7 @@ QList<KnownPlugin> KnownAs(const QString &priorityFolder, const QString &wlanFol
     return known;
 }
 
-/** The size of desktops, which the toolkit exceeds where there is none; the family is the widest of the usual
+/** The size of desktops, which Qt exceeds where there is none; the family is the widest of the usual
  * ones. */
 void UseDesktopFont()
 {

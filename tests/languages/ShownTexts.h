@@ -13,7 +13,7 @@ struct ShownText {
     QString text;
 };
 
-/** All of them in the visible part of window; without those that the toolkit brings along. */
+/** All of them in the visible part of window; without those that Qt brings along. */
 QList<ShownText> ShownTexts(const QWidget *window);
 
 #endif

@@ -17,7 +17,7 @@ const char *const textsElsewhere[] = {
     "PriorityPlugin/IDS_PLUGIN_NAME", // what the service calls itself
     "Dashboard/IDS_LOG_NOT_WRITABLE", // a line of the trace
     "Dashboard/IDS_LOAD_NOT_LOADED",  // while the program ends
-    // in the file dialog, which is the toolkit's
+    // in the file dialog, which is Qt's
     "Dashboard/IDS_EXPORT_TITLE",
     "Dashboard/IDS_EXPORT_FILE_NAME",
     "Dashboard/IDS_ORDER_FILES",

@@ -6,7 +6,7 @@
 #include <vector>
 
 /**
- * The priority file by the rules of its format, in plain C++: neither the product's code nor the toolkit's
+ * The priority file by the rules of its format, in plain C++: neither the product's code nor Qt's
  * XML classes have a part in it, so that a fault of theirs can't hide itself.
  */
 namespace Model

@@ -51,7 +51,7 @@ QList<int> EachBut(int result, int last)
  * longer to tell. */
 const int patience = 2000;
 const int allowance = 1500;
-// The toolkit's timers may be early by a twentieth.
+// Qt's timers may be early by a twentieth.
 const int earliest = patience - patience / 20;
 
 qint64 TimeOf(const std::function<void()> &operation)

@@ -123,7 +123,7 @@ void tst_networkmanagerlibrary::ExportsItsEntryPointsOnly()
     }
     QVERIFY(symbols.removeAll("qt_plugin_instance"));
     QVERIFY(symbols.removeAll("qt_plugin_query_verification_data"));
-    // The toolkit's own addition, and what linkers define in every library.
+    // Qt's own addition, and what linkers define in every library.
     const QStringList harmless = QStringList() << "qt_plugin_query_metadata"
                                                << "qt_plugin_query_metadata_v2"
                                                << "_init"
@@ -382,7 +382,7 @@ void tst_networkmanagerlibrary::SurvivesBeingUnloaded()
         QLibrary(LoadedWLAN::FileName()).unload();
     }
     QTest::qWait(300);
-    // The toolkit still calls into the library for the types that it was told of.
+    // Qt still calls into the library for the types that it was told of.
     m_networkManager->AddProfile("Another");
     QVERIFY(LoadedWLAN::Root()->Init());
 }

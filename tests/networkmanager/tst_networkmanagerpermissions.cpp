@@ -29,7 +29,7 @@ QString whyNoNamespace;
 bool IsThereForNobody(const QString &path)
 {
     const bool isNobody = seteuid(nobody) == 0;
-    // The toolkit asks for the user that the process was started by.
+    // Qt asks for the user that the process was started by.
     const bool isThere =
         isNobody && faccessat(AT_FDCWD, QFile::encodeName(path).constData(), W_OK, AT_EACCESS) == 0;
     return seteuid(0) == 0 && isThere;

@@ -92,7 +92,7 @@ QString LabelText(const QLabel *label)
 {
     if (label->property("pixmap").value<QPixmap>().isNull()) {
         const bool isCut = label->text().contains(QChar(0x2026)) && !label->toolTip().isEmpty();
-        // The toolkit puts plain text to the side where it begins by itself, whatever the label's direction.
+        // Qt puts plain text to the side where it begins by itself, whatever the label's direction.
         const Qt::LayoutDirection direction =
             label->text().isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight;
         return Quoted(isCut ? PlainText(label->toolTip()) : label->text()) + QLatin1Char(' ') +
@@ -133,7 +133,7 @@ bool AreSideBySide(const QWidget *a, const QWidget *b)
     return 2 * overlap >= qMin(a->height(), b->height());
 }
 
-/** Whether widget is something that the program has put there, not the toolkit for its own use. */
+/** Whether widget is something that the program has put there, not Qt for its own use. */
 bool IsPrograms(const QWidget *widget)
 {
     return !widget->objectName().startsWith(QLatin1String("qt_")) && !widget->inherits("QSizeGrip") &&

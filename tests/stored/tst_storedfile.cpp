@@ -531,7 +531,7 @@ void tst_storedfile::KeysNeverReachTheLog()
     Wlan()->CreateWLANProfile(ProfileNamed("unwritten", key));
     diskFails = false;
 
-    // The toolkit's own messages about XML quote what they stumble over.
+    // Qt's own messages about XML quote what they stumble over.
     const QStringList faults = QStringList() << "'&" + key + ";'"
                                              << "'" + key << "'' " + key + "=''"
                                              << "''></" + key + ">"

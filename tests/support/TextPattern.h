@@ -4,7 +4,7 @@
 #include <QString>
 #include <QStringList>
 
-/** Regular expressions, which no class of the toolkit's offers in all its generations: ECMAScript's, over
+/** Regular expressions, which no class of Qt's offers in all its generations: ECMAScript's, over
  * UTF-8. */
 namespace TextPattern
 {

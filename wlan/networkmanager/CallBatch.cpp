@@ -54,7 +54,7 @@ void CCallBatch::SendMore()
 
 void CCallBatch::TakeReply(QDBusPendingCallWatcher *watcher)
 {
-    // Waiting hands the reply over here and leaves the watcher's own message of it on the way.
+    // A reply that was waited for comes a second time: the watcher's own signal was on its way already.
     if (!m_underWay.contains(watcher)) {
         return;
     }

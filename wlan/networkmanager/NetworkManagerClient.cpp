@@ -121,7 +121,7 @@ NetworkManagerResult CNetworkManagerClient::Probe(int limitMilliseconds)
 
 QDBusPendingCall CNetworkManagerClient::Send(const QDBusMessage &call, int limitMilliseconds)
 {
-    // The toolkit would bring the error of a lost bus only when it is done with greeting the next one.
+    // Qt would bring the error of a lost bus only when it is done with greeting the next one.
     if (!m_bus.Connection().isConnected()) {
         return QDBusPendingCall::fromError(
             QDBusError(QDBusError::Disconnected, QLatin1String("there is no connection to the bus")));

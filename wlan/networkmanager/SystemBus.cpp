@@ -8,8 +8,9 @@ namespace
 const int pauseMilliseconds = 1000;
 
 /**
- * One connection for all, kept for as long as the program runs: the toolkit spoils its memory when a
- * connection is closed while calls on it are unanswered. One that the bus has closed has none.
+ * There is one connection for all. It stays open as long as the program runs: Qt damages its memory when a
+ * connection is closed while a call waits for its answer. When the bus has closed a connection, no call
+ * waits.
  */
 QString ConnectionName()
 {

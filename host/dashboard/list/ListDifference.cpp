@@ -57,7 +57,7 @@ QList<bool> LongestRising(const QList<int> &numbers)
     return rising;
 }
 
-/** For each place below size how many of places, which are all different, stand before it. */
+/** For each place below size: how many of the given places are smaller. These are all different. */
 QList<int> Ranks(const QList<int> &places, int size)
 {
     QList<int> ranks;

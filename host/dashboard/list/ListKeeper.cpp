@@ -40,8 +40,7 @@ public:
           m_listLock(new ListLock(QFileInfo(keeper->m_listPath).path(), ListLock::Changing, waitMilliseconds))
     {
         m_keeper->m_isBusy = true;
-        // Where nothing can be kept there is nobody to share it with: the history lives as long as the
-        // program.
+        // Without a directory nobody shares the history. It then lasts as long as the program.
         m_keeper->m_isHeldByOther = (m_isDirectoryThere && !m_lock->IsHeld()) || m_listLock->IsRefused();
         m_isUsable = !m_keeper->m_isHeldByOther && m_keeper->m_file.Load(&m_keeper->m_history);
         if (known) {
@@ -256,7 +255,7 @@ ListKeeper::Obstacle ListKeeper::Change(const QList<PriorityList> &entries, cons
     if (ListEntries::IsSame(before.Entries(), state.entries)) {
         return GoTo(before.Position(), before);
     }
-    // As a state to go to: then an end on the way is made good like that of an undo.
+    // First the new state is only a target. If the program dies now, its next start finishes the change.
     m_history.Record(state);
     const int position = m_history.Position();
     m_history.GoTo(m_history.UndoPlace(), QDateTime());

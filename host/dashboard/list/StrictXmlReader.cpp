@@ -106,7 +106,7 @@ void StrictXmlReader::RefuseLine(qint64 line, FileFault::Kind kind, const QStrin
 
 qint64 StrictXmlReader::LineNotWellFormed() const
 {
-    // Bytes of another encoding are noticed by the toolkit before it begins to count lines.
+    // Bytes of another encoding are noticed by Qt before it begins to count lines.
     const qint64 line = Line() == 1 ? LineNotUtf8(m_bytes) : 0;
     return line > 0 ? line : Line();
 }

@@ -64,7 +64,7 @@ public:
 };
 
 /**
- * A table of one column whose headers are hidden. The children are counted as the toolkit does, because that
+ * A table of one column whose headers are hidden. The children are counted as Qt does, because that
  * is how it tells which of them has got the focus: the line of the column's header first, and before each
  * cell its row's header.
  */
@@ -158,7 +158,7 @@ bool AccessibleRows::eventFilter(QObject *watched, QEvent *event)
 {
     QTableWidget *table = event->type() == QEvent::Show ? qobject_cast<QTableWidget *>(watched) : nullptr;
     if (table && IsMadeOfWidgets(table) && !table->property(rowsAreWidgets).toBool()) {
-        // Which table is one of these is known only now, and the toolkit may have asked for it long ago.
+        // Which table is one of these is known only now, and Qt may have asked for it long ago.
         QAccessibleInterface *known = QAccessible::queryAccessibleInterface(table);
         QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(known));
         table->setProperty(rowsAreWidgets, true);

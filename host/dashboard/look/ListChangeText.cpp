@@ -41,7 +41,7 @@ const ChangeTexts planned = {"IDS_PLAN_NONE",     "IDS_PLAN_EMPTY",      "IDS_PL
 
 const char *MoveTextId(const ListDifference::Move &move, const ChangeTexts &texts)
 {
-    // The neighbour of an entry that moved by one may be the one that was moved; "up" is true of both.
+    // When two neighbours change places, either may be the one that was moved. One of them went up.
     if (move.distance > 1 && move.isFirst) {
         return texts.movedToTop;
     }

@@ -20,7 +20,7 @@ void WrappedLabel::changeEvent(QEvent *event)
 
 void WrappedLabel::MakeRoom()
 {
-    // The toolkit draws the blank that ends a right-to-left line with a left-to-right name at its right, and
+    // Qt draws the blank that ends a right-to-left line with a left-to-right name at its right, and
     // all before it further left by that much: a full line would lose its end.
     const int blank = fontMetrics().size(Qt::TextSingleLine, QLatin1String(" ")).width() + 1;
     setContentsMargins(isRightToLeft() ? blank : 0, 0, 0, 0);

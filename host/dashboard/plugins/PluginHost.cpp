@@ -38,7 +38,7 @@ PluginState ObstacleIn(const QString &file, QString *detail)
 
 /**
  * Takes library's root object out of it. The library stays in the process from the moment its instance
- * function has run: the toolkit may then hold its meta-objects, registered types and posted events, and would
+ * function has run: Qt may then hold its meta-objects, registered types and posted events, and would
  * call into nothing when it were unloaded. Before that, none of its code is known to anybody, and it is
  * unloaded.
  */

@@ -34,7 +34,7 @@ enum PluginState {
     PluginNotLoaded,
     PluginMissing,        /**< There is no such file. */
     PluginCut,            /**< The file is a library, but only the first part of it. */
-    PluginOtherToolkit,   /**< It was built for another generation of the toolkit. */
+    PluginOtherToolkit,   /**< It was built for another generation of Qt. */
     PluginNotALibrary,    /**< The file can't be loaded as a library. */
     PluginNoVerification, /**< The library doesn't say what it was built for. */
     PluginRefused,        /**< It was built for something else. */
@@ -59,7 +59,7 @@ public:
         KnownPlugin known;
         QString file;
         PluginState state = PluginNotLoaded;
-        /** What the toolkit said of the file, or the toolkit or the verification text that was found. */
+        /** What Qt said of the file, or the version of Qt or the verification text that was found. */
         QString detail;
         QPointer<QObject> root;
         IBasePlugin *base = nullptr;

@@ -158,7 +158,7 @@ void TraceLog::HandOut()
     emit LinesAdded(lines);
 }
 
-// The file is written with system calls only: what the toolkit has to say about a file would come back here
+// The file is written with system calls only: what Qt has to say about a file would come back here
 // as a message.
 bool TraceLog::WriteToFile(const QByteArray &bytes)
 {

@@ -6,7 +6,7 @@
 #include <QStringList>
 
 /**
- * Where the trace lines of the plug-ins, the toolkit and the dashboard go: to a file that only the user can
+ * Where the trace lines of the plug-ins, Qt and the dashboard go: to a file that only the user can
  * read, and to whoever listens to LinesAdded. One at a time; it takes every message of qDebug and its
  * relatives while it lives. Messages may come on any thread.
  */

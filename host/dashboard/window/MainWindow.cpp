@@ -428,7 +428,7 @@ void MainWindow::ShowProblems()
     QStringList problems;
     const QList<PluginHost::Plugin> plugins = m_plugins->Plugins();
     for (int i = 0; i < plugins.size(); ++i) {
-        // Where there is no list, that of its plug-in stands in place of the list.
+        // Without a list, the problem of its plug-in is shown in the list's place.
         const PluginHost::Plugin &plugin = plugins.at(i);
         if (m_plugins->IsMissed(plugin) && !(m_overview.status < 0 && plugin.known.hasSettingsPage)) {
             problems.append(PluginHost::ProblemText(plugin));

@@ -152,7 +152,7 @@ void DashboardLanguageTest::SystemsLanguagesAreThoseOfTheEnvironment_data()
 
 void DashboardLanguageTest::SystemsLanguagesAreThoseOfTheEnvironment()
 {
-    // The toolkit looks at the environment once in a process.
+    // Qt looks at the environment once in a process.
     QFETCH(QStringList, environment);
     QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
     const char *const names[] = {"LC_ALL", "LC_MESSAGES", "LC_NUMERIC", "LANG", "LANGUAGE"};

@@ -82,6 +82,7 @@ private slots:
     void UndoElsewhereIsFollowed();
     void HistoryHeldByAnotherIsNotTouched();
     void ListHeldByACommandIsNotTouched();
+    void ListInTheMiddleOfACommandIsReadAgain();
     void CommandsAreKeptOutDuringAnUndo();
     void InterruptedUndoIsFinished_data();
     void InterruptedUndoIsFinished();
@@ -873,6 +874,32 @@ void ListKeeperTest::ListHeldByACommandIsNotTouched()
     m_keeper->Follow();
     QCOMPARE(History(), QString(" | [A]"));
     QCOMPARE(m_keeper->Undo(), ListKeeper::NoObstacle);
+}
+
+void ListKeeperTest::ListInTheMiddleOfACommandIsReadAgain()
+{
+    WriteList("A");
+    m_keeper->Follow();
+    int ready[2];
+    QCOMPARE(pipe(ready), 0);
+    const pid_t command = fork();
+    if (command == 0) {
+        const ListLock lock(UserData(), ListLock::Changing, 0);
+        QFile::remove(ListPath());
+        const bool isTold = write(ready[1], "", 1) == 1;
+        usleep(200000);
+        WriteList("B, A");
+        _exit(isTold ? 0 : 1);
+    }
+    char begun = 0;
+    QCOMPARE(int(read(ready[0], &begun, 1)), 1);
+    m_keeper->Follow();
+    int status = 0;
+    QCOMPARE(waitpid(command, &status, 0), command);
+    close(ready[0]);
+    close(ready[1]);
+    QCOMPARE(status, 0);
+    QCOMPARE(History(), QString(" | A | [B, A]"));
 }
 
 void ListKeeperTest::CommandsAreKeptOutDuringAnUndo()

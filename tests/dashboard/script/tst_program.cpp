@@ -106,7 +106,7 @@ void ProgramTest::MissingDisplayIsSaidInOneLine()
 void ProgramTest::ToolkitThatCannotStartSaysWhy()
 {
     if (QString(qVersion()).startsWith("4.")) {
-        qWarning("this generation of the toolkit has no platforms to choose from");
+        qWarning("this generation of Qt has no platforms to choose from");
         return;
     }
     const Outcome outcome = RunDashboard(QStringList(), Environment() << "QT_QPA_PLATFORM=nonsense");

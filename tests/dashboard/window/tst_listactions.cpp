@@ -113,7 +113,7 @@ void ListActionsTest::ChooseFile(const char *dialog, const QString &path) const
     QVERIFY(files && files->isVisible());
     QLineEdit *name = files->findChild<QLineEdit *>("fileNameEdit");
     QVERIFY(name);
-    // Typed, the toolkit's completion might come in between.
+    // Typed, Qt's completion might come in between.
     name->setText(path);
     QTest::keyClick(name, Qt::Key_Return);
 }
