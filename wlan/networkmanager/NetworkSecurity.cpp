@@ -62,12 +62,23 @@ const char *CipherOf(const QList<WirelessSecuritySetting::WpaEncryptionCapabilit
     return isOnlyOld ? tkipEncryption : ccmpEncryption;
 }
 
+/** @param index  0 to 3. */
 void SetWepKey(const WLANProfile &profile, int index, WirelessSecuritySetting *security)
 {
-    typedef void (WirelessSecuritySetting::*KeySetter)(const QString);
-    const KeySetter setters[] = {&WirelessSecuritySetting::setWepKey0, &WirelessSecuritySetting::setWepKey1,
-                                 &WirelessSecuritySetting::setWepKey2, &WirelessSecuritySetting::setWepKey3};
-    (security->*setters[index])(profile.keyMaterial);
+    switch (index) {
+    case 0:
+        security->setWepKey0(profile.keyMaterial);
+        break;
+    case 1:
+        security->setWepKey1(profile.keyMaterial);
+        break;
+    case 2:
+        security->setWepKey2(profile.keyMaterial);
+        break;
+    default:
+        security->setWepKey3(profile.keyMaterial);
+        break;
+    }
     security->setWepTxKeyindex(static_cast<quint32>(index));
     security->setWepKeyType(Is(profile.keyType, "passPhrase") ? WirelessSecuritySetting::Passphrase
                                                               : WirelessSecuritySetting::Hex);
