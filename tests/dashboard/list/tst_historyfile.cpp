@@ -453,6 +453,8 @@ void HistoryFileTest::SuddenEndLeavesAReadableHistory()
     int seen = 0;
     int leftBehind = 0;
     for (int round = 0; round < 60; ++round) {
+        int saved[2];
+        QCOMPARE(pipe(saved), 0);
         const pid_t child = fork();
         if (child == 0) {
             HistoryFile writer(UserData());
@@ -463,10 +465,18 @@ void HistoryFileTest::SuddenEndLeavesAReadableHistory()
             for (int i = 0;; ++i) {
                 history.Record(State(i % 60, names));
                 writer.Save(&history);
+                if (write(saved[1], "", 1) != 1) {
+                    _exit(1);
+                }
             }
         }
+        // Every other end comes after something has been saved, however slow the machine is.
+        char sign = 0;
+        QVERIFY(round % 2 == 0 || read(saved[0], &sign, 1) == 1);
         usleep(static_cast<useconds_t>(2000 + 137 * round));
         QCOMPARE(kill(child, SIGKILL), 0);
+        close(saved[0]);
+        close(saved[1]);
         int status = 0;
         QCOMPARE(waitpid(child, &status, 0), child);
         QVERIFY(WIFSIGNALED(status));
