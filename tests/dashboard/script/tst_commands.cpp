@@ -837,8 +837,8 @@ void CommandsTest::OtherOptionsGoOnToWork()
 
 void CommandsTest::CommandsOfManyProcessesAreAllDone()
 {
-    const int processCount = 8;
-    const int entryCount = 12;
+    const int processCount = 4;
+    const int entryCount = 6;
     QList<QProcess *> processes;
     for (int i = 0; i < processCount; ++i) {
         QStringList arguments;
