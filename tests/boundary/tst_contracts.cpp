@@ -25,6 +25,8 @@ private slots:
     void FieldsStandAtTheirOffsets();
     void RecordsHaveTheirSizes_data();
     void RecordsHaveTheirSizes();
+    void WordsHaveTheirNumbers_data();
+    void WordsHaveTheirNumbers();
     void IdentifiersAreTheirTexts_data();
     void IdentifiersAreTheirTexts();
     void FramesAddTheirFieldsOnly_data();
@@ -65,6 +67,7 @@ void Add(Facts *facts, const QString &what, int value)
 
 const int word = static_cast<int>(sizeof(void *));
 const int numberSize = 4;
+const int timeSize = 8;
 
 /**
  * A text is a pointer to shared data in the fourth and fifth generation; in the sixth it is a pointer to the
@@ -120,6 +123,10 @@ Facts Positions()
                         "Reserved9 GetProfileByName GetConfigData Reserved12 Reserved13 Reserved14 "
                         "Reserved15 Reserved16 Reserved17 Reserved18 Reserved19 Reserved20 Reserved21 "
                         "GetAvailableNetworks GetNetworkProfile (end)"));
+    AddOperations(&facts, "IConnectionPlugin", first,
+                  Names("GetConnectionState GetActiveConnections GetProfiles GetVisibleNetworks "
+                        "LookForNetworks ConnectProfile ConnectNetwork Disconnect GetAttempt CancelAttempt "
+                        "(end)"));
     AddOperations(&facts, "IPluginContainer", first, Names("GetPluginObject (end)"));
     return facts;
 }
@@ -129,6 +136,121 @@ void AddFields(Facts *facts, const QString &record, int offset, int size, const 
     for (int i = 0; i < fields.size(); ++i) {
         Add(facts, record + '.' + fields.at(i), offset + i * size);
     }
+}
+
+/** The records of connections: their fields, and for each a letter for its shape. */
+struct Shape {
+    const char *record;
+    const char *fields;
+    const char *shapes;
+};
+
+const Shape shapes[] = {
+    {"ConnectionState", "sourceName source wifi mobile connectivity mayConnect", "Tnnnnb"},
+    {"ActiveConnection", "id profileId name type network device stage signal carriesTraffic isVpn",
+     "TTTTTTnnbb"},
+    {"ConnectionProfile",
+     "id name type network security device use signal failure failedAt lastConnected connectsByItself "
+     "isHidden",
+     "TTTTTTnnnwwbb"},
+    {"VisibleNetwork", "id name security protection signal profileIds isInUse", "TTTnnTb"},
+    {"ConnectAttempt", "name profileId stage failedStage failure", "TTnnn"},
+};
+
+/** Texts and lists (T) and times (w) begin at whole words, numbers (n) at whole numbers, flags (b) anywhere.
+ */
+void AddShapes(Facts *offsets, Facts *sizes)
+{
+    for (const Shape &shape : shapes) {
+        const QStringList fields = Names(shape.fields);
+        int offset = 0;
+        for (int i = 0; i < fields.size(); ++i) {
+            const char letter = shape.shapes[i];
+            const int size = letter == 'T'   ? TextSize()
+                             : letter == 'w' ? timeSize
+                             : letter == 'n' ? numberSize
+                                             : 1;
+            const int step = letter == 'T' ? word : size;
+            offset = (offset + step - 1) / step * step;
+            Add(offsets, QString(shape.record) + '.' + fields.at(i), offset);
+            offset += size;
+        }
+        Add(sizes, QString("size of ") + shape.record, RoundedUpToWords(offset));
+    }
+}
+
+struct Number {
+    const char *name;
+    int value;
+};
+
+const Number numbers[] = {
+    {"StageNotKnown", 0},
+    {"StagePreparing", 1},
+    {"StageAuthenticating", 2},
+    {"StageGettingAddress", 3},
+    {"StageConnected", 4},
+    {"StageDisconnecting", 5},
+    {"StageDisconnected", 6},
+    {"StageFailed", 7},
+    {"StageCancelled", 8},
+    {"FailureNone", 0},
+    {"FailureOther", 1},
+    {"FailureWrongKey", 2},
+    {"FailureKeyMissing", 3},
+    {"FailureNoAnswer", 4},
+    {"FailureNoAddress", 5},
+    {"FailureRefused", 6},
+    {"FailureSim", 7},
+    {"FailureStopped", 8},
+    {"FailureDevice", 9},
+    {"FailureNotAllowed", 10},
+    {"FailureSource", 11},
+    {"FailureNotStored", 12},
+    {"SourceNotKnown", 0},
+    {"SourceGone", 1},
+    {"SourceKnown", 2},
+    {"RadioNotKnown", 0},
+    {"RadioOn", 1},
+    {"RadioOff", 2},
+    {"RadioBlocked", 3},
+    {"RadioMissing", 4},
+    {"ConnectivityNotKnown", 0},
+    {"ConnectivityNone", 1},
+    {"ConnectivityPortal", 2},
+    {"ConnectivityLimited", 3},
+    {"ConnectivityFull", 4},
+    {"UseNotKnown", 0},
+    {"UsePossible", 1},
+    {"UseHiddenIsTried", 2},
+    {"UseOutOfRange", 3},
+    {"UseOtherSecurity", 4},
+    {"UseOtherDevice", 5},
+    {"UseNoDevice", 6},
+    {"UseDeviceOff", 7},
+    {"UseDeviceBlocked", 8},
+    {"UseSimLocked", 9},
+    {"UseOtherUsers", 10},
+    {"UseNoAccount", 11},
+    {"ProtectionNotKnown", 0},
+    {"ProtectionOpen", 1},
+    {"ProtectionKey", 2},
+    {"ProtectionWeakKey", 3},
+    {"ProtectionAccount", 4},
+    {"RefusedUnknown", -1},
+    {"RefusedSource", -2},
+    {"RefusedNotAllowed", -3},
+    {"RefusedKey", -4},
+    {"RefusedAccount", -5},
+};
+
+Facts Numbers()
+{
+    Facts facts;
+    for (const Number &number : numbers) {
+        Add(&facts, QString("number of ") + number.name, number.value);
+    }
+    return facts;
 }
 
 Facts Offsets()
@@ -146,6 +268,8 @@ Facts Offsets()
     AddFields(&facts, "WLANConfigData", 0, word, Names("settings"));
     AddFields(&facts, "WLANConfigData", word, TextSize(),
               Names("authenticationList textList2 textList3 wisprList"));
+    Facts sizes;
+    AddShapes(&facts, &sizes);
     return facts;
 }
 
@@ -158,6 +282,8 @@ Facts Sizes()
     Add(&facts, "size of RememberedList", 2 * TextSize());
     Add(&facts, "size of WisprInfo", 3 * TextSize());
     Add(&facts, "size of WLANConfigData", word + 4 * TextSize());
+    Facts offsets;
+    AddShapes(&offsets, &facts);
     return facts;
 }
 
@@ -169,6 +295,7 @@ Facts Identifiers()
     Add(&facts, "identifier of INotify", "com.torvik.netquillforge.plugin.INotify");
     Add(&facts, "identifier of ISettingUIPlugin", "com.torvik.netquillforge.plugin.ISettingUIPlugin");
     Add(&facts, "identifier of IPriorityPlugin", "com.torvik.netquillforge.plugin.IPriorityPlugin");
+    Add(&facts, "identifier of IConnectionPlugin", "com.torvik.netquillforge.plugin.IConnectionPlugin");
     Add(&facts, "identifier of IWLANUIPlugin", "com.torvik.netquillforge.plugin.IWLANUIPlugin");
     return facts;
 }
@@ -255,6 +382,16 @@ void ContractsTest::RecordsHaveTheirSizes()
     CompareWithRow();
 }
 
+void ContractsTest::WordsHaveTheirNumbers_data()
+{
+    AddRows(Numbers());
+}
+
+void ContractsTest::WordsHaveTheirNumbers()
+{
+    CompareWithRow();
+}
+
 void ContractsTest::IdentifiersAreTheirTexts_data()
 {
     AddRows(Identifiers());
@@ -292,7 +429,7 @@ void ContractsTest::FramesAddNoOperation()
 
 void ContractsTest::NothingElseIsDeclared()
 {
-    const Facts facts = Positions() + Offsets() + Sizes() + Identifiers() + Frames();
+    const Facts facts = Positions() + Offsets() + Sizes() + Identifiers() + Numbers() + Frames();
     QStringList expected = FrameEnds();
     for (int i = 0; i < facts.size(); ++i) {
         expected.append(facts.at(i).what);

@@ -1,5 +1,6 @@
 #include <ExtendDialog.h>
 #include <ExtendLineEdit.h>
+#include <IConnectionPlugin.h>
 #include <INotify.h>
 #include <IPluginContainer.h>
 #include <IPriorityPlugin.h>
@@ -51,6 +52,11 @@ template <typename Pointer> QByteArray PlaceOf(Pointer operation)
         text += " of part " + QByteArray::number(static_cast<int>(adjustment / word + 1));
     }
     return text;
+}
+
+void TellWord(const char *name, int number)
+{
+    Tell("number of " + QByteArray(name), QByteArray::number(number));
 }
 
 template <typename Interface> class Slots
@@ -196,6 +202,25 @@ void TellWlanInterface()
     wlan.AddEnd();
 }
 
+void TellConnectionInterface()
+{
+    const Slots<IConnectionPlugin> connections("IConnectionPlugin");
+    connections.Add<void(ConnectionState *)>("GetConnectionState", &IConnectionPlugin::GetConnectionState);
+    connections.Add<void(QList<ActiveConnection> *)>("GetActiveConnections",
+                                                     &IConnectionPlugin::GetActiveConnections);
+    connections.Add<void(QList<ConnectionProfile> *)>("GetProfiles", &IConnectionPlugin::GetProfiles);
+    connections.Add<void(QList<VisibleNetwork> *)>("GetVisibleNetworks",
+                                                   &IConnectionPlugin::GetVisibleNetworks);
+    connections.Add<void()>("LookForNetworks", &IConnectionPlugin::LookForNetworks);
+    connections.Add<int(const QString &)>("ConnectProfile", &IConnectionPlugin::ConnectProfile);
+    connections.Add<int(const QString &, const QString &)>("ConnectNetwork",
+                                                           &IConnectionPlugin::ConnectNetwork);
+    connections.Add<int(const QString &)>("Disconnect", &IConnectionPlugin::Disconnect);
+    connections.Add<void(int, ConnectAttempt *)>("GetAttempt", &IConnectionPlugin::GetAttempt);
+    connections.Add<void(int)>("CancelAttempt", &IConnectionPlugin::CancelAttempt);
+    connections.AddEnd();
+}
+
 void TellHostClasses()
 {
     const Slots<IPluginContainer> container("IPluginContainer");
@@ -265,6 +290,121 @@ void TellRecords()
     configuration.Add<QList<WisprInfo>>("wisprList", &WLANConfigData::wisprList);
 }
 
+void TellConnectionRecords()
+{
+    const Fields<ConnectionState> state("ConnectionState");
+    state.Add<QString>("sourceName", &ConnectionState::sourceName);
+    state.Add<int>("source", &ConnectionState::source);
+    state.Add<int>("wifi", &ConnectionState::wifi);
+    state.Add<int>("mobile", &ConnectionState::mobile);
+    state.Add<int>("connectivity", &ConnectionState::connectivity);
+    state.Add<bool>("mayConnect", &ConnectionState::mayConnect);
+
+    const Fields<ActiveConnection> active("ActiveConnection");
+    active.Add<QString>("id", &ActiveConnection::id);
+    active.Add<QString>("profileId", &ActiveConnection::profileId);
+    active.Add<QString>("name", &ActiveConnection::name);
+    active.Add<QString>("type", &ActiveConnection::type);
+    active.Add<QString>("network", &ActiveConnection::network);
+    active.Add<QString>("device", &ActiveConnection::device);
+    active.Add<int>("stage", &ActiveConnection::stage);
+    active.Add<int>("signal", &ActiveConnection::signal);
+    active.Add<bool>("carriesTraffic", &ActiveConnection::carriesTraffic);
+    active.Add<bool>("isVpn", &ActiveConnection::isVpn);
+
+    const Fields<ConnectionProfile> profile("ConnectionProfile");
+    profile.Add<QString>("id", &ConnectionProfile::id);
+    profile.Add<QString>("name", &ConnectionProfile::name);
+    profile.Add<QString>("type", &ConnectionProfile::type);
+    profile.Add<QString>("network", &ConnectionProfile::network);
+    profile.Add<QString>("security", &ConnectionProfile::security);
+    profile.Add<QString>("device", &ConnectionProfile::device);
+    profile.Add<int>("use", &ConnectionProfile::use);
+    profile.Add<int>("signal", &ConnectionProfile::signal);
+    profile.Add<int>("failure", &ConnectionProfile::failure);
+    profile.Add<qint64>("failedAt", &ConnectionProfile::failedAt);
+    profile.Add<qint64>("lastConnected", &ConnectionProfile::lastConnected);
+    profile.Add<bool>("connectsByItself", &ConnectionProfile::connectsByItself);
+    profile.Add<bool>("isHidden", &ConnectionProfile::isHidden);
+
+    const Fields<VisibleNetwork> network("VisibleNetwork");
+    network.Add<QString>("id", &VisibleNetwork::id);
+    network.Add<QString>("name", &VisibleNetwork::name);
+    network.Add<QString>("security", &VisibleNetwork::security);
+    network.Add<int>("protection", &VisibleNetwork::protection);
+    network.Add<int>("signal", &VisibleNetwork::signal);
+    network.Add<QStringList>("profileIds", &VisibleNetwork::profileIds);
+    network.Add<bool>("isInUse", &VisibleNetwork::isInUse);
+
+    const Fields<ConnectAttempt> attempt("ConnectAttempt");
+    attempt.Add<QString>("name", &ConnectAttempt::name);
+    attempt.Add<QString>("profileId", &ConnectAttempt::profileId);
+    attempt.Add<int>("stage", &ConnectAttempt::stage);
+    attempt.Add<int>("failedStage", &ConnectAttempt::failedStage);
+    attempt.Add<int>("failure", &ConnectAttempt::failure);
+}
+
+void TellConnectionWords()
+{
+    TellWord("StageNotKnown", StageNotKnown);
+    TellWord("StagePreparing", StagePreparing);
+    TellWord("StageAuthenticating", StageAuthenticating);
+    TellWord("StageGettingAddress", StageGettingAddress);
+    TellWord("StageConnected", StageConnected);
+    TellWord("StageDisconnecting", StageDisconnecting);
+    TellWord("StageDisconnected", StageDisconnected);
+    TellWord("StageFailed", StageFailed);
+    TellWord("StageCancelled", StageCancelled);
+    TellWord("FailureNone", FailureNone);
+    TellWord("FailureOther", FailureOther);
+    TellWord("FailureWrongKey", FailureWrongKey);
+    TellWord("FailureKeyMissing", FailureKeyMissing);
+    TellWord("FailureNoAnswer", FailureNoAnswer);
+    TellWord("FailureNoAddress", FailureNoAddress);
+    TellWord("FailureRefused", FailureRefused);
+    TellWord("FailureSim", FailureSim);
+    TellWord("FailureStopped", FailureStopped);
+    TellWord("FailureDevice", FailureDevice);
+    TellWord("FailureNotAllowed", FailureNotAllowed);
+    TellWord("FailureSource", FailureSource);
+    TellWord("FailureNotStored", FailureNotStored);
+    TellWord("SourceNotKnown", ConnectionState::SourceNotKnown);
+    TellWord("SourceGone", ConnectionState::SourceGone);
+    TellWord("SourceKnown", ConnectionState::SourceKnown);
+    TellWord("RadioNotKnown", ConnectionState::RadioNotKnown);
+    TellWord("RadioOn", ConnectionState::RadioOn);
+    TellWord("RadioOff", ConnectionState::RadioOff);
+    TellWord("RadioBlocked", ConnectionState::RadioBlocked);
+    TellWord("RadioMissing", ConnectionState::RadioMissing);
+    TellWord("ConnectivityNotKnown", ConnectionState::ConnectivityNotKnown);
+    TellWord("ConnectivityNone", ConnectionState::ConnectivityNone);
+    TellWord("ConnectivityPortal", ConnectionState::ConnectivityPortal);
+    TellWord("ConnectivityLimited", ConnectionState::ConnectivityLimited);
+    TellWord("ConnectivityFull", ConnectionState::ConnectivityFull);
+    TellWord("UseNotKnown", ConnectionProfile::UseNotKnown);
+    TellWord("UsePossible", ConnectionProfile::UsePossible);
+    TellWord("UseHiddenIsTried", ConnectionProfile::UseHiddenIsTried);
+    TellWord("UseOutOfRange", ConnectionProfile::UseOutOfRange);
+    TellWord("UseOtherSecurity", ConnectionProfile::UseOtherSecurity);
+    TellWord("UseOtherDevice", ConnectionProfile::UseOtherDevice);
+    TellWord("UseNoDevice", ConnectionProfile::UseNoDevice);
+    TellWord("UseDeviceOff", ConnectionProfile::UseDeviceOff);
+    TellWord("UseDeviceBlocked", ConnectionProfile::UseDeviceBlocked);
+    TellWord("UseSimLocked", ConnectionProfile::UseSimLocked);
+    TellWord("UseOtherUsers", ConnectionProfile::UseOtherUsers);
+    TellWord("UseNoAccount", ConnectionProfile::UseNoAccount);
+    TellWord("ProtectionNotKnown", VisibleNetwork::ProtectionNotKnown);
+    TellWord("ProtectionOpen", VisibleNetwork::ProtectionOpen);
+    TellWord("ProtectionKey", VisibleNetwork::ProtectionKey);
+    TellWord("ProtectionWeakKey", VisibleNetwork::ProtectionWeakKey);
+    TellWord("ProtectionAccount", VisibleNetwork::ProtectionAccount);
+    TellWord("RefusedUnknown", IConnectionPlugin::RefusedUnknown);
+    TellWord("RefusedSource", IConnectionPlugin::RefusedSource);
+    TellWord("RefusedNotAllowed", IConnectionPlugin::RefusedNotAllowed);
+    TellWord("RefusedKey", IConnectionPlugin::RefusedKey);
+    TellWord("RefusedAccount", IConnectionPlugin::RefusedAccount);
+}
+
 void TellIdentifiers()
 {
     Tell("identifier of IBasePlugin", qobject_interface_iid<IBasePlugin *>());
@@ -272,6 +412,7 @@ void TellIdentifiers()
     Tell("identifier of INotify", qobject_interface_iid<INotify *>());
     Tell("identifier of ISettingUIPlugin", qobject_interface_iid<ISettingUIPlugin *>());
     Tell("identifier of IPriorityPlugin", qobject_interface_iid<IPriorityPlugin *>());
+    Tell("identifier of IConnectionPlugin", qobject_interface_iid<IConnectionPlugin *>());
     Tell("identifier of IWLANUIPlugin", qobject_interface_iid<IWLANUIPlugin *>());
 }
 
@@ -283,8 +424,11 @@ extern "C" Q_DECL_EXPORT const char *boundary_contracts()
     TellRootInterfaces();
     TellServiceInterfaces();
     TellWlanInterface();
+    TellConnectionInterface();
     TellHostClasses();
     TellRecords();
+    TellConnectionRecords();
+    TellConnectionWords();
     TellIdentifiers();
     return facts.constData();
 }
