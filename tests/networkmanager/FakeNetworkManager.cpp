@@ -1,9 +1,11 @@
 #include "FakeNetworkManager.h"
 
+#include <QCoreApplication>
 #include <QDBusArgument>
 #include <QDBusMetaType>
 #include <QDBusObjectPath>
 #include <QDBusVariant>
+#include <QEvent>
 #include <QMutexLocker>
 #include <QUuid>
 
@@ -19,6 +21,10 @@ const char settingsInterface[] = "org.freedesktop.NetworkManager.Settings";
 const char profileInterface[] = "org.freedesktop.NetworkManager.Settings.Connection";
 const char wirelessInterface[] = "org.freedesktop.NetworkManager.Device.Wireless";
 const char accessPointInterface[] = "org.freedesktop.NetworkManager.AccessPoint";
+const char managerInterface[] = "org.freedesktop.NetworkManager";
+const char deviceInterface[] = "org.freedesktop.NetworkManager.Device";
+const char modemInterface[] = "org.freedesktop.NetworkManager.Device.Modem";
+const char objectsInterface[] = "org.freedesktop.DBus.ObjectManager";
 const char activeInterface[] = "org.freedesktop.NetworkManager.Connection.Active";
 const char propertiesInterface[] = "org.freedesktop.DBus.Properties";
 const char noSuchObject[] = "org.freedesktop.DBus.Error.UnknownMethod";
@@ -29,6 +35,35 @@ NMVariantMapMap SettingsIn(const QDBusMessage &call)
 }
 
 const char security[] = "802-11-wireless-security";
+const unsigned int disconnected = 30;
+const unsigned int failed = 120;
+const unsigned int activating = 1;
+const unsigned int deactivated = 4;
+const unsigned int volatileFlag = 0x4;
+
+QVariant PathValue(const QString &path)
+{
+    return QVariant::fromValue(QDBusObjectPath(path));
+}
+
+QVariant PathList(const QStringList &paths)
+{
+    QList<QDBusObjectPath> list;
+    for (const QString &path : paths) {
+        list.append(QDBusObjectPath(path));
+    }
+    return QVariant::fromValue(list);
+}
+
+/** Has everything on its way to the connection arrive; a bus that doesn't answer is not waited for. */
+void PingBus(const QDBusConnection &connection)
+{
+    const int patience = 1000;
+    connection.call(QDBusMessage::createMethodCall("org.freedesktop.DBus", "/org/freedesktop/DBus",
+                                                   "org.freedesktop.DBus", "GetId"),
+                    QDBus::Block, patience);
+}
+
 const char *const keys[] = {"psk", "wep-key0", "wep-key1", "wep-key2", "wep-key3"};
 
 /** NetworkManager gives keys to nobody who only asks for the settings. */
@@ -62,6 +97,8 @@ FakeNetworkManager::FakeNetworkManager()
     qDBusRegisterMetaType<NMVariantMapMap>();
     qDBusRegisterMetaType<ManagedObjects>();
     qDBusRegisterMetaType<NMStringMap>();
+    m_objects[root][managerInterface]["PrimaryConnection"] = PathValue("/");
+    m_objects[root][managerInterface]["WirelessEnabled"] = true;
     m_connection.registerVirtualObject("/org/freedesktop", this, QDBusConnection::SubPath);
     moveToThread(&m_thread);
     m_thread.start();
@@ -91,14 +128,76 @@ QString FakeNetworkManager::Add(const QString &kind, const QString &interface, c
     const QMutexLocker locker(&m_mutex);
     const QString path = QString("%1/%2/%3").arg(root, kind).arg(++m_count);
     m_objects[path][interface] = properties;
+    if (kind == "Devices") {
+        QVariantMap &device = m_objects[path][deviceInterface];
+        device["Interface"] = QString("device%1").arg(m_count);
+        device["State"] = disconnected;
+        device["ActiveConnection"] = PathValue("/");
+        m_lastDevice = path;
+    }
+    TellOfObject(path);
     return path;
+}
+
+void FakeNetworkManager::TellOfObject(const QString &path)
+{
+    Signal("/org/freedesktop", objectsInterface, "InterfacesAdded",
+           QList<QVariant>() << PathValue(path) << QVariant::fromValue(m_objects.value(path)));
+}
+
+void FakeNetworkManager::TakeAway(const QString &path)
+{
+    const QStringList interfaces = m_objects.take(path).keys();
+    m_settings.remove(path);
+    Signal("/org/freedesktop", objectsInterface, "InterfacesRemoved",
+           QList<QVariant>() << PathValue(path) << interfaces);
+}
+
+void FakeNetworkManager::Put(const QString &path, const QString &interface, const QString &property,
+                             const QVariant &value)
+{
+    m_objects[path][interface][property] = value;
+    QVariantMap changed;
+    changed[property] = value;
+    Signal(path, propertiesInterface, "PropertiesChanged",
+           QList<QVariant>() << interface << changed << QStringList());
+}
+
+void FakeNetworkManager::Settle()
+{
+    const QDBusConnection plugin("WLANNetworkManager");
+    if (!plugin.isConnected() || QThread::currentThread() == &m_thread) {
+        return;
+    }
+    // A signal has the plug-in ask, and the answer is the end of it.
+    for (int i = 0; i < 3; ++i) {
+        PingBus(plugin);
+        PingBus(m_connection);
+        QMetaObject::invokeMethod(this, "Rest", Qt::BlockingQueuedConnection);
+        PingBus(m_connection);
+        PingBus(plugin);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
+    }
 }
 
 QString FakeNetworkManager::AddDevice(unsigned int capabilities)
 {
     QVariantMap properties;
     properties["WirelessCapabilities"] = capabilities;
-    return Add("Devices", wirelessInterface, properties);
+    properties["AccessPoints"] = PathList(QStringList());
+    properties["ActiveAccessPoint"] = PathValue("/");
+    const QString path = Add("Devices", wirelessInterface, properties);
+    Settle();
+    return path;
+}
+
+QString FakeNetworkManager::AddModem()
+{
+    QVariantMap properties;
+    properties["ModemCapabilities"] = 0xffffU;
+    const QString path = Add("Devices", modemInterface, properties);
+    Settle();
+    return path;
 }
 
 QString FakeNetworkManager::AddAccessPoint(const QByteArray &ssid, int strength, unsigned int flags,
@@ -111,7 +210,17 @@ QString FakeNetworkManager::AddAccessPoint(const QByteArray &ssid, int strength,
     properties["Flags"] = flags;
     properties["WpaFlags"] = wpaFlags;
     properties["RsnFlags"] = rsnFlags;
-    return Add("AccessPoint", accessPointInterface, properties);
+    properties["Mode"] = 2U;
+    const QString path = Add("AccessPoint", accessPointInterface, properties);
+    {
+        const QMutexLocker locker(&m_mutex);
+        if (m_objects.contains(m_lastDevice)) {
+            m_points[m_lastDevice].append(path);
+            Put(m_lastDevice, wirelessInterface, "AccessPoints", PathList(m_points.value(m_lastDevice)));
+        }
+    }
+    Settle();
+    return path;
 }
 
 NMVariantMapMap FakeNetworkManager::Settings(const QString &name, const QString &type)
@@ -139,8 +248,7 @@ QString FakeNetworkManager::AddProfile(const NMVariantMapMap &settings)
         const QMutexLocker locker(&m_mutex);
         path = Store(settings);
     }
-    Signal(settingsPath, settingsInterface, "NewConnection",
-           QList<QVariant>() << QVariant::fromValue(QDBusObjectPath(path)));
+    Settle();
     return path;
 }
 
@@ -153,29 +261,103 @@ QString FakeNetworkManager::Store(const NMVariantMapMap &settings)
     properties["Filename"] = "/etc/NetworkManager/system-connections/a.nmconnection";
     m_objects[path][profileInterface] = properties;
     m_settings[path] = settings;
+    TellOfObject(path);
+    Signal(settingsPath, settingsInterface, "NewConnection", QList<QVariant>() << PathValue(path));
     return path;
 }
 
-QString FakeNetworkManager::Connect(const QString &profile, unsigned int state)
+QString FakeNetworkManager::Connect(const QString &profile, unsigned int state, const QString &device)
 {
+    QString path;
+    {
+        const QMutexLocker locker(&m_mutex);
+        path = MakeConnection(profile, state, device);
+    }
+    Settle();
+    return path;
+}
+
+QString FakeNetworkManager::MakeConnection(const QString &profile, unsigned int state, const QString &device)
+{
+    const QVariantMap connection = m_settings.value(profile).value("connection");
     QVariantMap properties;
-    properties["Connection"] = QVariant::fromValue(QDBusObjectPath(profile));
+    properties["Connection"] = PathValue(profile);
     properties["State"] = state;
-    const QString path = Add("ActiveConnection", activeInterface, properties);
-    QVariantMap changed;
-    changed["ActiveConnections"] = QVariant::fromValue(QList<QDBusObjectPath>() << QDBusObjectPath(path));
-    Signal(root, propertiesInterface, "PropertiesChanged",
-           QList<QVariant>() << QString(service) << changed << QStringList());
+    properties["Id"] = connection.value("id");
+    properties["Type"] = connection.value("type");
+    properties["Devices"] = PathList(device.isEmpty() ? QStringList() : QStringList(device));
+    const QString path = QString("%1/ActiveConnection/%2").arg(root).arg(++m_count);
+    m_objects[path][activeInterface] = properties;
+    TellOfObject(path);
+    if (!device.isEmpty()) {
+        Put(device, deviceInterface, "ActiveConnection", PathValue(path));
+    }
+    Put(root, managerInterface, "ActiveConnections", PathList(QStringList(path)));
     return path;
 }
 
 void FakeNetworkManager::SetConnectionState(const QString &activeConnection, unsigned int state)
 {
-    SetProperty(activeConnection, activeInterface, "State", state);
-    QVariantMap changed;
-    changed["State"] = state;
-    Signal(activeConnection, propertiesInterface, "PropertiesChanged",
-           QList<QVariant>() << QString(activeInterface) << changed << QStringList());
+    {
+        const QMutexLocker locker(&m_mutex);
+        Put(activeConnection, activeInterface, "State", state);
+        if (state == deactivated) {
+            TakeAway(activeConnection);
+        }
+    }
+    Settle();
+}
+
+void FakeNetworkManager::SetDeviceState(const QString &device, unsigned int state, unsigned int reason)
+{
+    {
+        const QMutexLocker locker(&m_mutex);
+        const QVariant before = m_objects[device][deviceInterface]["State"];
+        Signal(device, deviceInterface, "StateChanged",
+               QList<QVariant>() << state << before.toUInt() << reason);
+        Put(device, deviceInterface, "State", state);
+    }
+    Settle();
+}
+
+void FakeNetworkManager::Fail(const QString &activeConnection, unsigned int reason)
+{
+    QString device;
+    QString profile;
+    {
+        const QMutexLocker locker(&m_mutex);
+        const QVariantMap properties = m_objects.value(activeConnection).value(activeInterface);
+        profile = properties.value("Connection").value<QDBusObjectPath>().path();
+        device = properties.value("Devices").value<QList<QDBusObjectPath>>().value(0).path();
+    }
+    SetDeviceState(device, failed, reason);
+    SetConnectionState(activeConnection, deactivated);
+    {
+        const QMutexLocker locker(&m_mutex);
+        Put(device, deviceInterface, "ActiveConnection", PathValue("/"));
+        if (m_objects.value(profile).value(profileInterface).value("Flags").toUInt() == volatileFlag) {
+            TakeAway(profile);
+        }
+    }
+    SetDeviceState(device, disconnected);
+}
+
+QStringList FakeNetworkManager::ConnectionPaths()
+{
+    const QMutexLocker locker(&m_mutex);
+    QStringList paths;
+    for (QMap<QString, NMVariantMapMap>::const_iterator i = m_objects.constBegin(); i != m_objects.constEnd();
+         ++i) {
+        if (i.value().contains(activeInterface)) {
+            paths.append(i.key());
+        }
+    }
+    return paths;
+}
+
+void FakeNetworkManager::SetManagerProperty(const QString &property, const QVariant &value)
+{
+    SetProperty(root, managerInterface, property, value);
 }
 
 void FakeNetworkManager::Signal(const QString &path, const QString &interface, const QString &name,
@@ -188,23 +370,32 @@ void FakeNetworkManager::Signal(const QString &path, const QString &interface, c
 
 void FakeNetworkManager::Remove(const QString &path)
 {
-    const QMutexLocker locker(&m_mutex);
-    m_objects.remove(path);
-    m_settings.remove(path);
+    {
+        const QMutexLocker locker(&m_mutex);
+        TakeAway(path);
+    }
+    Settle();
 }
 
 void FakeNetworkManager::SetProperty(const QString &path, const QString &interface, const QString &property,
                                      const QVariant &value)
 {
-    const QMutexLocker locker(&m_mutex);
-    m_objects[path][interface][property] = value;
+    {
+        const QMutexLocker locker(&m_mutex);
+        Put(path, interface, property, value);
+    }
+    Settle();
 }
 
 void FakeNetworkManager::SetSetting(const QString &profile, const QString &section, const QString &key,
                                     const QVariant &value)
 {
-    const QMutexLocker locker(&m_mutex);
-    m_settings[profile][section][key] = value;
+    {
+        const QMutexLocker locker(&m_mutex);
+        m_settings[profile][section][key] = value;
+        Signal(profile, profileInterface, "Updated", QList<QVariant>());
+    }
+    Settle();
 }
 
 void FakeNetworkManager::SetChangesByKeyQuestion(qulonglong changes)
@@ -215,8 +406,12 @@ void FakeNetworkManager::SetChangesByKeyQuestion(qulonglong changes)
 
 void FakeNetworkManager::SetRight(const QString &right, const QString &value)
 {
-    const QMutexLocker locker(&m_mutex);
-    m_rights[right] = value;
+    {
+        const QMutexLocker locker(&m_mutex);
+        m_rights[right] = value;
+        Signal(root, managerInterface, "CheckPermissions", QList<QVariant>());
+    }
+    Settle();
 }
 
 NMVariantMapMap FakeNetworkManager::SettingsOf(const QString &profile)
@@ -235,6 +430,12 @@ QVariantMap FakeNetworkManager::ConditionsOfTheLastChange()
 {
     const QMutexLocker locker(&m_mutex);
     return m_conditions;
+}
+
+QVariantMap FakeNetworkManager::OptionsOfTheLastNewConnection()
+{
+    const QMutexLocker locker(&m_mutex);
+    return m_options;
 }
 
 int FakeNetworkManager::PriorityOf(const QString &profile)
@@ -307,6 +508,12 @@ int FakeNetworkManager::CallCount(const QString &method)
     return m_calls.count(method);
 }
 
+int FakeNetworkManager::CallCount()
+{
+    const QMutexLocker locker(&m_mutex);
+    return static_cast<int>(m_calls.size());
+}
+
 void FakeNetworkManager::ForgetCalls()
 {
     const QMutexLocker locker(&m_mutex);
@@ -361,15 +568,54 @@ QDBusMessage FakeNetworkManager::Answer(const QDBusMessage &call)
     if (method == "RequestScan" && m_objects.contains(call.path())) {
         return call.createReply();
     }
-    return AnswerOfProfile(call);
+    return call.path() == root ? AnswerOfManager(call) : AnswerOfProfile(call);
+}
+
+QDBusMessage FakeNetworkManager::AnswerOfManager(const QDBusMessage &call)
+{
+    const QString method = call.member();
+    const QList<QVariant> arguments = call.arguments();
+    if (method == "ActivateConnection") {
+        const QString profile = arguments.at(0).value<QDBusObjectPath>().path();
+        if (!m_settings.contains(profile)) {
+            return call.createErrorReply("org.freedesktop.NetworkManager.UnknownConnection", "there is none");
+        }
+        const QString device = arguments.at(1).value<QDBusObjectPath>().path();
+        return call.createReply(
+            PathValue(MakeConnection(profile, activating, device == "/" ? m_lastDevice : device)));
+    }
+    if (method == "AddAndActivateConnection2") {
+        m_options = qdbus_cast<QVariantMap>(arguments.at(3).value<QDBusArgument>());
+        const QString profile = Store(SettingsIn(call));
+        Put(profile, profileInterface, "Flags", m_options.value("persist") == "volatile" ? volatileFlag : 0U);
+        const QString device = arguments.at(1).value<QDBusObjectPath>().path();
+        const QString connection = MakeConnection(profile, activating, device);
+        return call.createReply(QList<QVariant>()
+                                << PathValue(profile) << PathValue(connection) << QVariantMap());
+    }
+    if (method == "DeactivateConnection") {
+        const QString connection = arguments.at(0).value<QDBusObjectPath>().path();
+        if (!m_objects.contains(connection)) {
+            return call.createErrorReply("org.freedesktop.NetworkManager.ConnectionNotActive",
+                                         "there is none");
+        }
+        const QString profile =
+            m_objects[connection][activeInterface]["Connection"].value<QDBusObjectPath>().path();
+        Put(connection, activeInterface, "State", deactivated);
+        TakeAway(connection);
+        if (m_objects.value(profile).value(profileInterface).value("Flags").toUInt() == volatileFlag) {
+            TakeAway(profile);
+        }
+        return call.createReply();
+    }
+    return call.createErrorReply(noSuchObject, "there is no such method");
 }
 
 QDBusMessage FakeNetworkManager::AnswerOfProfile(const QDBusMessage &call)
 {
     const QString path = call.path();
-    if (path == m_leaving) {
-        m_objects.remove(path);
-        m_settings.remove(path);
+    if (path == m_leaving && m_objects.contains(path)) {
+        TakeAway(path);
     }
     if (m_settings.contains(path) && call.member() == "GetSettings") {
         return call.createReply(QVariant::fromValue(WithoutKeys(m_settings.value(path))));
@@ -377,7 +623,7 @@ QDBusMessage FakeNetworkManager::AnswerOfProfile(const QDBusMessage &call)
     const QVariant version = m_objects.value(path).value(profileInterface).value("VersionId");
     if (m_settings.contains(path) && call.member() == "GetSecrets") {
         if (version.isValid()) {
-            m_objects[path][profileInterface]["VersionId"] = version.toULongLong() + m_changesByKeyQuestion;
+            Put(path, profileInterface, "VersionId", version.toULongLong() + m_changesByKeyQuestion);
         }
         return call.createReply(QVariant::fromValue(KeysOf(m_settings.value(path))));
     }
@@ -387,7 +633,14 @@ QDBusMessage FakeNetworkManager::AnswerOfProfile(const QDBusMessage &call)
             return call.createErrorReply("org.freedesktop.NetworkManager.Settings.VersionIdMismatch",
                                          "changed");
         }
-        m_settings[path] = SettingsIn(call);
+        const unsigned int toDisk = 0x1;
+        if (!SettingsIn(call).isEmpty()) {
+            m_settings[path] = SettingsIn(call);
+        }
+        if (call.arguments().at(1).toUInt() == toDisk) {
+            Put(path, profileInterface, "Flags", 0U);
+        }
+        Signal(path, profileInterface, "Updated", QList<QVariant>());
         return call.createReply(QVariantMap());
     }
     return call.createErrorReply(noSuchObject, "there is nothing of that path");

@@ -13,9 +13,9 @@
 #include <QThread>
 
 /**
- * NetworkManager's objects and operations as far as the plug-in uses them, as a plain object on the private
- * bus. It answers in a thread of its own, as the plug-in waits in the test's; each operation here may be
- * called from the test.
+ * NetworkManager's objects, operations and signals as far as the plug-in uses them, as a plain object on the
+ * private bus. It answers in a thread of its own, as the plug-in waits in the test's; each operation here may
+ * be called from the test. When it returns, a plug-in in this process has taken in what it was told.
  */
 class FakeNetworkManager : public QDBusVirtualObject
 {
@@ -32,6 +32,8 @@ public:
 
     /** The new object's path. A device can do everything unless it is told otherwise. */
     QString AddDevice(unsigned int capabilities = 0xffff);
+    QString AddModem();
+    /** Received by the device that was added last. */
     QString AddAccessPoint(const QByteArray &ssid, int strength, unsigned int flags = 0,
                            unsigned int wpaFlags = 0, unsigned int rsnFlags = 0);
     QString AddProfile(const QString &name, const QString &type = QLatin1String("802-11-wireless"));
@@ -40,8 +42,14 @@ public:
                                     const QString &type = QLatin1String("802-11-wireless"));
 
     /** As a device that gets connected by the profile; others are told. */
-    QString Connect(const QString &profile, unsigned int state);
+    QString Connect(const QString &profile, unsigned int state, const QString &device = QString());
     void SetConnectionState(const QString &activeConnection, unsigned int state);
+    void SetDeviceState(const QString &device, unsigned int state, unsigned int reason = 0);
+    /** As a device fails: it, its connection and what was made for it alone go their way. */
+    void Fail(const QString &activeConnection, unsigned int reason);
+    /** The connections that there are, in the order of their paths. */
+    QStringList ConnectionPaths();
+    void SetManagerProperty(const QString &property, const QVariant &value);
 
     void Remove(const QString &path);
     void SetProperty(const QString &path, const QString &interface, const QString &property,
@@ -57,6 +65,8 @@ public:
     QStringList ProfilePaths();
     /** What came with the settings of the last change of a profile. */
     QVariantMap ConditionsOfTheLastChange();
+    /** What came with the last profile that was made and connected in one. */
+    QVariantMap OptionsOfTheLastNewConnection();
     /** The autoconnect-priority of a profile; 0 when none is stored. */
     int PriorityOf(const QString &profile);
 
@@ -76,7 +86,15 @@ public:
     void RemoveWhenAsked(const QString &profile);
 
     int CallCount(const QString &method);
+    /** All of them. */
+    int CallCount();
     void ForgetCalls();
+
+    /** Returns when all that is under way between this and the plug-in has arrived. */
+    void Settle();
+
+    /** Does nothing, in the thread that answers. */
+    Q_INVOKABLE void Rest() {}
 
     bool handleMessage(const QDBusMessage &message, const QDBusConnection &connection) override;
     QString introspect(const QString &) const override { return QString(); }
@@ -96,6 +114,11 @@ private:
     QDBusMessage Answer(const QDBusMessage &call);
     QDBusMessage AnswerOfProfile(const QDBusMessage &call);
     QString Store(const NMVariantMapMap &settings);
+    QString MakeConnection(const QString &profile, unsigned int state, const QString &device);
+    QDBusMessage AnswerOfManager(const QDBusMessage &call);
+    void TellOfObject(const QString &path);
+    void TakeAway(const QString &path);
+    void Put(const QString &path, const QString &interface, const QString &property, const QVariant &value);
     void Signal(const QString &path, const QString &interface, const QString &name,
                 const QList<QVariant> &arguments);
 
@@ -106,6 +129,9 @@ private:
     QMap<QString, NMVariantMapMap> m_settings;
     QVariantMap m_conditions;
     qulonglong m_changesByKeyQuestion = 1;
+    QVariantMap m_options;
+    QString m_lastDevice;
+    QMap<QString, QStringList> m_points;
     QMap<QString, QString> m_rights;
     QHash<QString, Misbehaviour> m_misbehaviour;
     QStringList m_calls;

@@ -34,6 +34,74 @@ IWLANUIPlugin *LoadedWLAN::Wlan()
     return qobject_cast<IWLANUIPlugin *>(Service());
 }
 
+QObject *LoadedWLAN::ConnectionService()
+{
+    QObject *service = nullptr;
+    return Root()->QueryInterface(4104, &service) ? service : nullptr;
+}
+
+IConnectionPlugin *LoadedWLAN::Connections()
+{
+    return qobject_cast<IConnectionPlugin *>(ConnectionService());
+}
+
+ConnectionState LoadedWLAN::State()
+{
+    ConnectionState state;
+    Connections()->GetConnectionState(&state);
+    return state;
+}
+
+QList<ActiveConnection> LoadedWLAN::Active()
+{
+    QList<ActiveConnection> connections;
+    Connections()->GetActiveConnections(&connections);
+    return connections;
+}
+
+QList<ConnectionProfile> LoadedWLAN::Profiles()
+{
+    QList<ConnectionProfile> profiles;
+    Connections()->GetProfiles(&profiles);
+    return profiles;
+}
+
+ConnectionProfile LoadedWLAN::ConnectionProfileNamed(const QString &name)
+{
+    const QList<ConnectionProfile> profiles = Profiles();
+    for (const ConnectionProfile &profile : profiles) {
+        if (profile.name == name) {
+            return profile;
+        }
+    }
+    return ConnectionProfile();
+}
+
+QList<VisibleNetwork> LoadedWLAN::Networks()
+{
+    QList<VisibleNetwork> networks;
+    Connections()->GetVisibleNetworks(&networks);
+    return networks;
+}
+
+VisibleNetwork LoadedWLAN::NetworkNamed(const QString &name)
+{
+    const QList<VisibleNetwork> networks = Networks();
+    for (const VisibleNetwork &network : networks) {
+        if (network.name == name) {
+            return network;
+        }
+    }
+    return VisibleNetwork();
+}
+
+ConnectAttempt LoadedWLAN::Attempt(int number)
+{
+    ConnectAttempt attempt;
+    Connections()->GetAttempt(number, &attempt);
+    return attempt;
+}
+
 QStringList LoadedWLAN::Remembered()
 {
     QList<RememberedList> list;

@@ -1,6 +1,7 @@
 #ifndef LOADEDWLAN_H
 #define LOADEDWLAN_H
 
+#include <IConnectionPlugin.h>
 #include <IUIPlugin.h>
 #include <IWLANUIPlugin.h>
 
@@ -20,6 +21,18 @@ IUIPlugin *Root();
 /** Null where the plug-in hands out no service. */
 QObject *Service();
 IWLANUIPlugin *Wlan();
+
+/** The object with the interface of connections, which has their signal. */
+QObject *ConnectionService();
+IConnectionPlugin *Connections();
+ConnectionState State();
+QList<ActiveConnection> Active();
+QList<ConnectionProfile> Profiles();
+/** Of the first profile of that name; empty fields when there is none. */
+ConnectionProfile ConnectionProfileNamed(const QString &name);
+QList<VisibleNetwork> Networks();
+VisibleNetwork NetworkNamed(const QString &name);
+ConnectAttempt Attempt(int number);
 
 /** "name/type" of every remembered profile. */
 QStringList Remembered();

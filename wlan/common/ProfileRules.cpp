@@ -46,17 +46,6 @@ bool IsHexadecimal(const QString &text)
     return true;
 }
 
-/** As the New dialog has it. */
-bool IsKeyComplete(const WLANProfile &profile)
-{
-    const int length = profile.keyMaterial.size();
-    if (profile.encryption == QLatin1String("WEP")) {
-        return length == 5 || length == 13 ||
-               ((length == 10 || length == 26 || length == 32) && IsHexadecimal(profile.keyMaterial));
-    }
-    return (length >= 8 && length <= 63) || (length == 64 && IsHexadecimal(profile.keyMaterial));
-}
-
 /** Other networks are made by the computers that use them. */
 bool IsOfAStation(const WLANProfile &profile)
 {
@@ -76,7 +65,7 @@ ProfileRules::Verdict Compare(const ProfileRules::RememberedProfile &remembered,
         return ProfileRules::WeakerMethod;
     }
     const bool isWithoutKeys = after && after->encryptionRank == 0 && profile.keyMaterial.isEmpty();
-    if (!isWithoutKeys && (!after || after->encryptionRank == 0 || !IsKeyComplete(wanted))) {
+    if (!isWithoutKeys && (!after || after->encryptionRank == 0 || !ProfileRules::IsKeyComplete(wanted))) {
         return ProfileRules::IncompleteKey;
     }
     return ProfileRules::ChangedProfile;
@@ -92,6 +81,16 @@ ProfileRules::Decision DecideOnChange(const ProfileRules::RememberedProfile &rem
 }
 
 } // namespace
+
+bool ProfileRules::IsKeyComplete(const WLANProfile &profile)
+{
+    const int length = profile.keyMaterial.size();
+    if (profile.encryption == QLatin1String("WEP")) {
+        return length == 5 || length == 13 ||
+               ((length == 10 || length == 26 || length == 32) && IsHexadecimal(profile.keyMaterial));
+    }
+    return (length >= 8 && length <= 63) || (length == 64 && IsHexadecimal(profile.keyMaterial));
+}
 
 ProfileRules::Decision ProfileRules::Decide(const QList<RememberedProfile> &remembered,
                                             const WLANProfile &wanted)

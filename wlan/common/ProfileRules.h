@@ -45,6 +45,10 @@ struct Decision {
     int place;
 };
 
+/** Whether the key is one of the profile's encryption, by the lengths and signs that the New dialog asks for.
+ */
+bool IsKeyComplete(const WLANProfile &profile);
+
 /**
  * A method is the same or stronger when neither its authentication nor its encryption is weaker: WPA with
  * CCMP and WPA2 with TKIP are each weaker than the other.

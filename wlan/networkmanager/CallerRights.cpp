@@ -40,6 +40,7 @@ CallerRights CallerRights::FromReply(const QDBusMessage &reply)
     rights.changeOwn = ReadRight(told, "org.freedesktop.NetworkManager.settings.modify.own");
     rights.changeShared = ReadRight(told, "org.freedesktop.NetworkManager.settings.modify.system");
     rights.scan = ReadRight(told, "org.freedesktop.NetworkManager.wifi.scan");
+    rights.control = ReadRight(told, "org.freedesktop.NetworkManager.network-control");
     return rights;
 }
 

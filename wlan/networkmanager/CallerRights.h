@@ -18,6 +18,8 @@ struct CallerRights {
     Right changeOwn = Allowed;
     Right changeShared = Allowed;
     Right scan = Allowed;
+    /** To connect and to disconnect. */
+    Right control = Allowed;
 
     static QDBusMessage Call();
     static const char *Signature() { return "a{ss}"; }

@@ -15,6 +15,7 @@ namespace
 {
 
 const int signMilliseconds = 20000;
+const int checkMilliseconds = 4000;
 
 QDBusMessage VersionCall()
 {
@@ -34,6 +35,7 @@ CNetworkManagerClient::CNetworkManagerClient(QObject *parent)
 {
     qDBusRegisterMetaType<NMVariantMapMap>();
     connect(&m_bus, SIGNAL(Found()), this, SLOT(TakeBus()));
+    connect(&m_bus, SIGNAL(Lost()), this, SIGNAL(Vanished()));
     if (m_bus.Connection().isConnected()) {
         TakeBus();
     }
@@ -44,6 +46,16 @@ CNetworkManagerClient::~CNetworkManagerClient() = default;
 QString CNetworkManagerClient::ServiceName()
 {
     return QLatin1String(NM_DBUS_SERVICE);
+}
+
+QString CNetworkManagerClient::RootPath()
+{
+    return QLatin1String("/org/freedesktop");
+}
+
+QString CNetworkManagerClient::ObjectsInterface()
+{
+    return QLatin1String("org.freedesktop.DBus.ObjectManager");
 }
 
 QString CNetworkManagerClient::ManagerPath()
@@ -84,6 +96,11 @@ QString CNetworkManagerClient::DeviceInterface()
 QString CNetworkManagerClient::WirelessDeviceInterface()
 {
     return QLatin1String(NM_DBUS_INTERFACE_DEVICE_WIRELESS);
+}
+
+QString CNetworkManagerClient::ModemInterface()
+{
+    return QLatin1String(NM_DBUS_INTERFACE_DEVICE_MODEM);
 }
 
 QString CNetworkManagerClient::AccessPointInterface()
@@ -160,9 +177,10 @@ void CNetworkManagerClient::Subscribe(const Subscription &subscription)
 void CNetworkManagerClient::TakeBus()
 {
     m_isSilent = false;
-    m_owner.reset(new QDBusServiceWatcher(ServiceName(), m_bus.Connection(),
-                                          QDBusServiceWatcher::WatchForRegistration));
-    connect(m_owner.data(), SIGNAL(serviceRegistered(QString)), this, SLOT(TakeOwner()));
+    m_owner.reset(
+        new QDBusServiceWatcher(ServiceName(), m_bus.Connection(), QDBusServiceWatcher::WatchForOwnerChange));
+    connect(m_owner.data(), SIGNAL(serviceOwnerChanged(QString, QString, QString)), this,
+            SLOT(TakeOwner(QString, QString, QString)));
     for (int i = 0; i < m_subscriptions.size(); ++i) {
         Subscribe(m_subscriptions.at(i));
     }
@@ -174,13 +192,31 @@ void CNetworkManagerClient::Note(NetworkManagerResult result)
     if (result == NetworkManagerResultNotAnswering && !m_isSilent) {
         m_isSilent = true;
         AskForSign();
+        emit FellSilent();
     }
+}
+
+void CNetworkManagerClient::Check()
+{
+    if (m_isSilent || m_check) {
+        return;
+    }
+    m_check = new QDBusPendingCallWatcher(Send(VersionCall(), checkMilliseconds), this);
+    connect(m_check, SIGNAL(finished(QDBusPendingCallWatcher *)), this,
+            SLOT(TakeCheck(QDBusPendingCallWatcher *)));
+}
+
+void CNetworkManagerClient::TakeCheck(QDBusPendingCallWatcher *watcher)
+{
+    watcher->deleteLater();
+    m_check = nullptr;
+    Note(ResultOf(watcher->reply(), "v"));
 }
 
 void CNetworkManagerClient::AskForSign()
 {
-    m_sign = new QDBusPendingCallWatcher(Send(VersionCall(), signMilliseconds), this);
-    connect(m_sign, SIGNAL(finished(QDBusPendingCallWatcher *)), this,
+    QDBusPendingCallWatcher *sign = new QDBusPendingCallWatcher(Send(VersionCall(), signMilliseconds), this);
+    connect(sign, SIGNAL(finished(QDBusPendingCallWatcher *)), this,
             SLOT(TakeSign(QDBusPendingCallWatcher *)));
 }
 
@@ -201,8 +237,12 @@ void CNetworkManagerClient::TakeSign(QDBusPendingCallWatcher *watcher)
     }
 }
 
-void CNetworkManagerClient::TakeOwner()
+void CNetworkManagerClient::TakeOwner(const QString &, const QString &, const QString &now)
 {
     m_isSilent = false;
-    emit Appeared();
+    if (now.isEmpty()) {
+        emit Vanished();
+    } else {
+        emit Appeared();
+    }
 }

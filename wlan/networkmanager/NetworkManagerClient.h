@@ -46,6 +46,9 @@ public:
     ~CNetworkManagerClient() override;
 
     static QString ServiceName();
+    /** Of the object that tells of all others. */
+    static QString RootPath();
+    static QString ObjectsInterface();
     static QString ManagerPath();
     static QString ManagerInterface();
     static QString SettingsPath();
@@ -54,6 +57,7 @@ public:
     static QString ActiveConnectionInterface();
     static QString DeviceInterface();
     static QString WirelessDeviceInterface();
+    static QString ModemInterface();
     static QString AccessPointInterface();
     static QString PropertiesInterface();
 
@@ -80,13 +84,24 @@ public:
     /** To be told of every answer that was waited for. */
     void Note(NetworkManagerResult result);
 
+public slots:
+    /** Asks for a sign, so that a NetworkManager that has stopped answering is found out. */
+    void Check();
+
 signals:
+    /** NetworkManager has gone, or the bus has. */
+    void Vanished();
+
+    /** NetworkManager has not answered in time. */
+    void FellSilent();
+
     /** NetworkManager has come, has come back or speaks again, or there is a new bus that it may be on. */
     void Appeared();
 
 private slots:
     void TakeBus();
-    void TakeOwner();
+    void TakeOwner(const QString &name, const QString &before, const QString &now);
+    void TakeCheck(QDBusPendingCallWatcher *watcher);
     void TakeSign(QDBusPendingCallWatcher *watcher);
 
 private:
@@ -108,7 +123,7 @@ private:
     QScopedPointer<QDBusServiceWatcher> m_owner;
     QList<Subscription> m_subscriptions;
     bool m_isSilent;
-    QPointer<QDBusPendingCallWatcher> m_sign;
+    QPointer<QDBusPendingCallWatcher> m_check;
 };
 
 #endif

@@ -77,12 +77,6 @@ bool IsStronger(const AccessPoint &left, const AccessPoint &right)
     return left.strength > right.strength;
 }
 
-/** A name of zeros is how some stations hide theirs. */
-bool IsHidden(const QByteArray &ssid)
-{
-    return ssid.count('\0') == ssid.size();
-}
-
 /** The strongest station of each network that tells its name, the strongest first. */
 QList<AccessPoint> Networks(const NetworkManagerState &state)
 {
@@ -92,7 +86,7 @@ QList<AccessPoint> Networks(const NetworkManagerState &state)
     QSet<QByteArray> listed;
     for (int i = 0; i < points.size(); ++i) {
         const QByteArray &ssid = points.at(i).ssid;
-        if (!IsHidden(ssid) && !listed.contains(ssid)) {
+        if (!points.at(i).IsHidden() && !listed.contains(ssid)) {
             listed.insert(ssid);
             networks.append(points.at(i));
         }
@@ -148,22 +142,6 @@ void Fill(const NetworkProfile &remembered, WLANProfile *profile)
 bool CanBeSent(const QString &text)
 {
     return !text.isEmpty() && !text.contains(QChar(ushort(0))) && QString::fromUtf8(text.toUtf8()) == text;
-}
-
-/** A new profile with nothing but its name; for this user alone or for everybody. */
-NMVariantMapMap NewSettings(const QString &name, bool isForUserAlone)
-{
-    QVariantMap connection;
-    connection.insert(QLatin1String("id"), name);
-    connection.insert(QLatin1String("uuid"), ConnectionSettings::createNewUuid());
-    connection.insert(QLatin1String("type"), ConnectionSettings::typeAsString(ConnectionSettings::Wireless));
-    if (isForUserAlone) {
-        connection.insert(QLatin1String("permissions"),
-                          QStringList(QString::fromLatin1("user:%1:").arg(CallerRights::UserName())));
-    }
-    NMVariantMapMap settings;
-    settings.insert(QLatin1String("connection"), connection);
-    return settings;
 }
 
 /** All Wi-Fi profiles as the rules see them, with their places in profiles. */
@@ -265,9 +243,7 @@ NetworkManagerResult CNetworkManagerWLANService::Store(WLANProfile wanted, QStri
 NetworkManagerResult CNetworkManagerWLANService::Add(const WLANProfile &wanted, const CallerRights &rights,
                                                      const CTimeLimit &limit)
 {
-    const bool isForUserAlone =
-        rights.changeShared != CallerRights::Allowed && rights.changeOwn == CallerRights::Allowed;
-    NMVariantMapMap settings = NewSettings(wanted.profileName, isForUserAlone);
+    NMVariantMapMap settings = NetworkProfile::NewSettings(wanted.profileName, rights);
     QVariantMap &wireless = settings[WirelessSection()];
     wireless.insert(QLatin1String("ssid"), SsidText::ToBytes(wanted.ssid));
     wireless.insert(QLatin1String("mode"),
@@ -323,20 +299,20 @@ NetworkManagerResult CNetworkManagerWLANService::ReadWepKeys(NetworkProfile *pro
 NetworkManagerResult CNetworkManagerWLANService::ReadVersionAfterKeys(NetworkProfile *profile,
                                                                       const CTimeLimit &limit)
 {
-    const QDBusMessage reply = Ask(NetworkManagerState::Call(), limit);
-    const NetworkManagerResult result = ResultOf(reply, NetworkManagerState::Signature());
+    const QDBusMessage reply = Ask(ManagedObjects::Call(), limit);
+    const NetworkManagerResult result = ResultOf(reply, ManagedObjects::signature);
     if (result != NetworkManagerResultSuccess) {
         return result;
     }
-    // The question for the keys counts as one change itself (seen with 1.52).
-    const QList<ProfilePlace> places = NetworkManagerState::FromReply(reply).profiles;
-    for (const ProfilePlace &place : places) {
-        if (place.path == profile->path && place.version <= profile->version + 1) {
-            profile->version = place.version;
-            return NetworkManagerResultSuccess;
-        }
+    const quint64 version =
+        NetworkManagerState::PlaceOf(profile->path, ManagedObjects::FromReply(reply)).version;
+    // The question for the keys counts as one change itself (seen with 1.52). Of a profile that is gone no
+    // version is told.
+    if (version == 0 || version > profile->version + 1) {
+        return NetworkManagerResultChangedMeanwhile;
     }
-    return NetworkManagerResultChangedMeanwhile;
+    profile->version = version;
+    return NetworkManagerResultSuccess;
 }
 
 QDBusMessage CNetworkManagerWLANService::Ask(const QDBusMessage &call, const CTimeLimit &limit)
@@ -391,7 +367,7 @@ int CNetworkManagerWLANService::GetConfigData(WLANConfigData *config)
     CallerRights rights;
     const NetworkManagerResult result = ReadState(&state, &rights);
     if (result == NetworkManagerResultSuccess) {
-        config->authenticationList = NetworkSecurity::Methods(state.devices);
+        config->authenticationList = NetworkSecurity::Methods(state.WifiDevices());
     }
     return Tell("GetConfigData", result);
 }
@@ -401,15 +377,15 @@ NetworkManagerResult CNetworkManagerWLANService::ReadState(NetworkManagerState *
     if (m_client->IsSilent()) {
         return NetworkManagerResultNotAnswering;
     }
-    CCallBatch batch(m_client, QList<QDBusMessage>() << NetworkManagerState::Call() << CallerRights::Call(),
+    CCallBatch batch(m_client, QList<QDBusMessage>() << ManagedObjects::Call() << CallerRights::Call(),
                      Patience(), nullptr);
     batch.Start();
     batch.Wait();
     const QList<QDBusMessage> replies = batch.Replies();
-    const NetworkManagerResult result = ResultOf(replies.at(0), NetworkManagerState::Signature());
+    const NetworkManagerResult result = ResultOf(replies.at(0), ManagedObjects::signature);
     m_client->Note(result);
     if (result == NetworkManagerResultSuccess) {
-        *state = NetworkManagerState::FromReply(replies.at(0));
+        *state = NetworkManagerState::FromObjects(ManagedObjects::FromReply(replies.at(0)));
     }
     if (ResultOf(replies.at(1), CallerRights::Signature()) == NetworkManagerResultSuccess) {
         *rights = CallerRights::FromReply(replies.at(1));
@@ -440,13 +416,14 @@ int CNetworkManagerWLANService::GetAvailableNetworks(QList<WlanAvilableNetworkIn
 void CNetworkManagerWLANService::LookForNetworks(const NetworkManagerState &state, const CallerRights &rights)
 {
     const bool isTooSoon = m_sinceLook.isValid() && !m_sinceLook.hasExpired(pauseBetweenLooks);
-    if (state.devices.isEmpty() || rights.scan != CallerRights::Allowed || isTooSoon) {
+    const QList<NetworkDevice> devices = state.WifiDevices();
+    if (devices.isEmpty() || rights.scan != CallerRights::Allowed || isTooSoon) {
         return;
     }
-    for (int i = 0; i < state.devices.size(); ++i) {
-        QDBusMessage call = CNetworkManagerClient::Call(state.devices.at(i).path,
-                                                        CNetworkManagerClient::WirelessDeviceInterface(),
-                                                        QLatin1String("RequestScan"));
+    for (int i = 0; i < devices.size(); ++i) {
+        QDBusMessage call =
+            CNetworkManagerClient::Call(devices.at(i).path, CNetworkManagerClient::WirelessDeviceInterface(),
+                                        QLatin1String("RequestScan"));
         call << QVariantMap();
         m_client->Tell(call);
     }

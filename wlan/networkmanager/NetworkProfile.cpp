@@ -18,19 +18,6 @@ QString WifiType()
     return QLatin1String("1");
 }
 
-NetworkProfile::Kind KindOf(const QString &connectionType)
-{
-    switch (NetworkManager::ConnectionSettings::typeFromString(connectionType)) {
-    case NetworkManager::ConnectionSettings::Wireless:
-        return NetworkProfile::Wifi;
-    case NetworkManager::ConnectionSettings::Gsm:
-    case NetworkManager::ConnectionSettings::Cdma:
-        return NetworkProfile::MobileBroadband;
-    default:
-        return NetworkProfile::OtherKind;
-    }
-}
-
 /** Files there are part of the system's own set-up, or gone with the next start. */
 bool IsSystemFile(const QString &file)
 {
@@ -68,24 +55,61 @@ NetworkProfile NetworkProfile::Make(const ProfilePlace &place, const NMVariantMa
         NetworkManager::WirelessSetting wireless;
         wireless.fromMap(settings.value(wireless.name()));
         profile.ssid = wireless.ssid();
+        profile.isHidden = wireless.hidden();
         profile.isHotspot = wireless.mode() == NetworkManager::WirelessSetting::Ap;
         profile.lacksAccount = NetworkSecurity::LacksAccount(settings);
     }
 
     const QStringList permissions = connection.value(QLatin1String("permissions")).toStringList();
-    const bool isOthers = !permissions.isEmpty() && !IsAmong(permissions, userName);
+    profile.isOthers = !permissions.isEmpty() && !IsAmong(permissions, userName);
     const CallerRights::Right right = permissions.size() == 1 ? rights.changeOwn : rights.changeShared;
     profile.isPassing = place.isPassing;
-    profile.isReadOnly = place.isPassing || IsSystemFile(place.file) || isOthers ||
+    profile.isReadOnly = place.isPassing || IsSystemFile(place.file) || profile.isOthers ||
                          right == CallerRights::Denied ||
                          connection.value(QLatin1String("read-only")).toBool();
     profile.isFreelyChangeable = !profile.isReadOnly && right == CallerRights::Allowed;
     return profile;
 }
 
-QString NetworkProfile::TypeText() const
+NMVariantMapMap NetworkProfile::NewSettings(const QString &name, const CallerRights &rights)
 {
-    return kind == Wifi ? WifiType() : QLatin1String("2");
+    using NetworkManager::ConnectionSettings;
+    QVariantMap connection;
+    connection.insert(QLatin1String("id"), name);
+    connection.insert(QLatin1String("uuid"), ConnectionSettings::createNewUuid());
+    connection.insert(QLatin1String("type"), ConnectionSettings::typeAsString(ConnectionSettings::Wireless));
+    if (rights.changeShared != CallerRights::Allowed && rights.changeOwn == CallerRights::Allowed) {
+        connection.insert(QLatin1String("permissions"),
+                          QStringList(QString::fromLatin1("user:%1:").arg(CallerRights::UserName())));
+    }
+    NMVariantMapMap settings;
+    settings.insert(QLatin1String("connection"), connection);
+    return settings;
+}
+
+NetworkProfile::Kind NetworkProfile::KindOf(const QString &connectionType)
+{
+    switch (NetworkManager::ConnectionSettings::typeFromString(connectionType)) {
+    case NetworkManager::ConnectionSettings::Wireless:
+        return NetworkProfile::Wifi;
+    case NetworkManager::ConnectionSettings::Gsm:
+    case NetworkManager::ConnectionSettings::Cdma:
+        return NetworkProfile::MobileBroadband;
+    default:
+        return NetworkProfile::OtherKind;
+    }
+}
+
+QString NetworkProfile::TypeTextOf(Kind kind)
+{
+    switch (kind) {
+    case Wifi:
+        return WifiType();
+    case MobileBroadband:
+        return QLatin1String("2");
+    default:
+        return QLatin1String("0");
+    }
 }
 
 QPair<bool, QString> NetworkProfile::ListKey() const

@@ -24,6 +24,8 @@ struct NetworkProfile {
     QByteArray ssid;
     /** A network that this computer makes itself, for others to join. */
     bool isHotspot = false;
+    /** A network that doesn't tell its name. */
+    bool isHidden = false;
     /** It needs an account and has none, so it can't be connected. */
     bool lacksAccount = false;
     /** When it was last connected, in seconds since 1970; 0 for never. */
@@ -31,6 +33,8 @@ struct NetworkProfile {
     int priority = 0;
     /** It is gone sooner or later without anybody deleting it. */
     bool isPassing = false;
+    /** Only others may use it. */
+    bool isOthers = false;
     /** This user can't change it, or nobody should. */
     bool isReadOnly = false;
     /** It can be changed without anybody being asked for a password. */
@@ -45,8 +49,15 @@ struct NetworkProfile {
     static NetworkProfile Make(const ProfilePlace &place, const NMVariantMapMap &settings,
                                const CallerRights &rights, const QString &userName);
 
-    /** The kind as entries of the priority list have it. */
-    QString TypeText() const;
+    /** A Wi-Fi profile with nothing but its name; for everybody where this user may do that. */
+    static NMVariantMapMap NewSettings(const QString &name, const CallerRights &rights);
+
+    /** @param connectionType  NetworkManager's own word. */
+    static Kind KindOf(const QString &connectionType);
+
+    /** The kind as entries of the priority list have it; "0" for those that it has no entries for. */
+    static QString TypeTextOf(Kind kind);
+    QString TypeText() const { return TypeTextOf(kind); }
 
     /** What a profile and the entry of the priority list that means it have in common, and no others do. */
     QPair<bool, QString> ListKey() const;

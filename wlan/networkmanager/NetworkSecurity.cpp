@@ -2,6 +2,8 @@
 
 #include "NetworkManagerState.h"
 
+#include <ConnectionRecords.h>
+#include <ProfileRules.h>
 #include <WLANRecords.h>
 
 #include <NetworkManagerQt/Security8021xSetting>
@@ -135,7 +137,7 @@ bool IsPossible(const QString &method, unsigned int capabilities)
     return Is(method, openSystem) || hasWep;
 }
 
-bool IsPossible(const QString &method, const QList<WirelessDevice> &devices)
+bool IsPossible(const QString &method, const QList<NetworkDevice> &devices)
 {
     for (int i = 0; i < devices.size(); ++i) {
         if (IsPossible(method, devices.at(i).capabilities)) {
@@ -145,7 +147,115 @@ bool IsPossible(const QString &method, const QList<WirelessDevice> &devices)
     return devices.isEmpty();
 }
 
+struct PairwiseCipher {
+    WirelessSecuritySetting::WpaEncryptionCapabilities word;
+    unsigned int flag;
+};
+
+const PairwiseCipher pairwiseCiphers[] = {
+    {WirelessSecuritySetting::Wep40, NM_802_11_AP_SEC_PAIR_WEP40},
+    {WirelessSecuritySetting::Wep104, NM_802_11_AP_SEC_PAIR_WEP104},
+    {WirelessSecuritySetting::Tkip, NM_802_11_AP_SEC_PAIR_TKIP},
+    {WirelessSecuritySetting::Ccmp, NM_802_11_AP_SEC_PAIR_CCMP},
+};
+
+/** Whether the network has a cipher that the profile allows; one that names none allows all. */
+bool SharesCipher(const WirelessSecuritySetting &security, unsigned int flags)
+{
+    unsigned int allowed = 0;
+    unsigned int known = 0;
+    for (const PairwiseCipher &cipher : pairwiseCiphers) {
+        known |= cipher.flag;
+        allowed |= security.pairwise().contains(cipher.word) ? cipher.flag : 0;
+    }
+    return allowed == 0 || (flags & known) == 0 || (flags & allowed) != 0;
+}
+
+/** Whether the network has one of the ways to manage keys, in a version of WPA that both sides can do. */
+bool SharesKeyManagement(const WirelessSecuritySetting &security, const AccessPoint &point,
+                         unsigned int capabilities, unsigned int management)
+{
+    const QList<WirelessSecuritySetting::WpaProtocolVersion> versions = security.proto();
+    const bool isFirstAllowed = versions.isEmpty() || versions.contains(WirelessSecuritySetting::Wpa);
+    const bool isSecondAllowed = versions.isEmpty() || versions.contains(WirelessSecuritySetting::Rsn);
+    const bool hasFirst = capabilities == 0 || (capabilities & NM_WIFI_DEVICE_CAP_WPA) != 0;
+    const bool hasSecond = capabilities == 0 || (capabilities & NM_WIFI_DEVICE_CAP_RSN) != 0;
+    return (isFirstAllowed && hasFirst && (point.wpaFlags & management) != 0 &&
+            SharesCipher(security, point.wpaFlags)) ||
+           (isSecondAllowed && hasSecond && (point.rsnFlags & management) != 0 &&
+            SharesCipher(security, point.rsnFlags));
+}
+
+bool CanDoWep(unsigned int capabilities)
+{
+    return capabilities == 0 ||
+           (capabilities & (NM_WIFI_DEVICE_CAP_CIPHER_WEP40 | NM_WIFI_DEVICE_CAP_CIPHER_WEP104)) != 0;
+}
+
+const unsigned int personalManagement = NM_802_11_AP_SEC_KEY_MGMT_PSK | NM_802_11_AP_SEC_KEY_MGMT_SAE;
+const unsigned int accountManagement =
+    NM_802_11_AP_SEC_KEY_MGMT_802_1X | NM_802_11_AP_SEC_KEY_MGMT_EAP_SUITE_B_192;
+const unsigned int keylessManagement = NM_802_11_AP_SEC_KEY_MGMT_OWE | NM_802_11_AP_SEC_KEY_MGMT_OWE_TM;
+
 } // namespace
+
+bool NetworkSecurity::Fits(const NMVariantMapMap &settings, const AccessPoint &point,
+                           unsigned int capabilities)
+{
+    WirelessSecuritySetting security;
+    security.fromMap(settings.value(security.name()));
+    const QString word = settings.value(security.name()).value(QLatin1String("key-mgmt")).toString();
+    const bool isPrivate = (point.flags & NM_802_11_AP_FLAGS_PRIVACY) != 0;
+    if (word.isEmpty()) {
+        // A network that encrypts without a key may be open as well.
+        const unsigned int others = (point.wpaFlags | point.rsnFlags) & ~NM_802_11_AP_SEC_KEY_MGMT_OWE_TM;
+        return !isPrivate && others == 0;
+    }
+    if (Is(word, "none")) {
+        return IsWep(point) && CanDoWep(capabilities);
+    }
+    if (Is(word, "ieee8021x")) {
+        return isPrivate && CanDoWep(capabilities);
+    }
+    if (Is(word, "owe")) {
+        return (point.rsnFlags & keylessManagement) != 0;
+    }
+    if (Is(word, "wpa-none")) {
+        return point.mode == NM_802_11_MODE_ADHOC;
+    }
+    unsigned int management = 0;
+    if (Is(word, "wpa-psk")) {
+        management = personalManagement;
+    } else if (Is(word, "sae")) {
+        management = NM_802_11_AP_SEC_KEY_MGMT_SAE;
+    } else if (Is(word, "wpa-eap")) {
+        management = NM_802_11_AP_SEC_KEY_MGMT_802_1X;
+    } else if (Is(word, "wpa-eap-suite-b-192")) {
+        management = NM_802_11_AP_SEC_KEY_MGMT_EAP_SUITE_B_192;
+    }
+    return SharesKeyManagement(security, point, capabilities, management);
+}
+
+int NetworkSecurity::ProtectionOf(const AccessPoint &point)
+{
+    const unsigned int flags = point.wpaFlags | point.rsnFlags;
+    if ((flags & personalManagement) != 0) {
+        return VisibleNetwork::ProtectionKey;
+    }
+    if ((flags & accountManagement) != 0) {
+        return VisibleNetwork::ProtectionAccount;
+    }
+    return IsWep(point) ? VisibleNetwork::ProtectionWeakKey : VisibleNetwork::ProtectionOpen;
+}
+
+bool NetworkSecurity::KeepsKey(const NMVariantMapMap &settings)
+{
+    WirelessSecuritySetting security;
+    security.fromMap(settings.value(security.name()));
+    const NetworkManager::Setting::SecretFlags flags =
+        HasStaticWep(settings) ? security.wepKeyFlags() : security.pskFlags();
+    return (flags & (NetworkManager::Setting::AgentOwned | NetworkManager::Setting::NotSaved)) == 0;
+}
 
 bool NetworkSecurity::IsWep(const AccessPoint &point)
 {
@@ -154,16 +264,13 @@ bool NetworkSecurity::IsWep(const AccessPoint &point)
 
 void NetworkSecurity::Describe(const AccessPoint &point, WLANProfile *profile)
 {
-    const unsigned int personal = NM_802_11_AP_SEC_KEY_MGMT_PSK | NM_802_11_AP_SEC_KEY_MGMT_SAE;
-    const unsigned int enterprise =
-        NM_802_11_AP_SEC_KEY_MGMT_802_1X | NM_802_11_AP_SEC_KEY_MGMT_EAP_SUITE_B_192;
-    if ((point.rsnFlags & personal) != 0) {
+    if ((point.rsnFlags & personalManagement) != 0) {
         Tell(wpa2Personal, CipherOf(point.rsnFlags), 0, profile);
-    } else if ((point.wpaFlags & personal) != 0) {
+    } else if ((point.wpaFlags & personalManagement) != 0) {
         Tell(wpaPersonal, CipherOf(point.wpaFlags), 0, profile);
-    } else if ((point.rsnFlags & enterprise) != 0) {
+    } else if ((point.rsnFlags & accountManagement) != 0) {
         Tell(wpa2Enterprise, CipherOf(point.rsnFlags), 0, profile);
-    } else if ((point.wpaFlags & enterprise) != 0) {
+    } else if ((point.wpaFlags & accountManagement) != 0) {
         Tell(wpaEnterprise, CipherOf(point.wpaFlags), 0, profile);
     } else if ((point.rsnFlags & NM_802_11_AP_SEC_KEY_MGMT_OWE) != 0) {
         Tell(noWord, noWord, 0, profile);
@@ -286,7 +393,38 @@ bool NetworkSecurity::Apply(const WLANProfile &profile, NMVariantMapMap *setting
     return true;
 }
 
-QList<QString> NetworkSecurity::Methods(const QList<WirelessDevice> &devices)
+bool NetworkSecurity::ApplyKey(const AccessPoint &point, const QString &key, NMVariantMapMap *settings)
+{
+    const bool hasPassPhrase = (point.wpaFlags & NM_802_11_AP_SEC_KEY_MGMT_PSK) != 0 ||
+                               (point.rsnFlags & NM_802_11_AP_SEC_KEY_MGMT_PSK) != 0;
+    WLANProfile words;
+    Describe(point, &words);
+    words.keyMaterial = key;
+    QVariantMap security;
+    switch (ProtectionOf(point)) {
+    case VisibleNetwork::ProtectionOpen:
+        if ((point.rsnFlags & NM_802_11_AP_SEC_KEY_MGMT_OWE) != 0) {
+            security.insert(QLatin1String("key-mgmt"), QLatin1String("owe"));
+            settings->insert(WirelessSecuritySetting().name(), security);
+        }
+        return true;
+    case VisibleNetwork::ProtectionKey:
+        // A network that has WPA3 alone takes keys of every length.
+        if (hasPassPhrase ? !ProfileRules::IsKeyComplete(words) : key.isEmpty()) {
+            return false;
+        }
+        security.insert(QLatin1String("key-mgmt"), QLatin1String(hasPassPhrase ? "wpa-psk" : "sae"));
+        security.insert(QLatin1String("psk"), key);
+        settings->insert(WirelessSecuritySetting().name(), security);
+        return true;
+    case VisibleNetwork::ProtectionWeakKey:
+        return ProfileRules::IsKeyComplete(words) && Apply(words, settings);
+    default:
+        return false;
+    }
+}
+
+QList<QString> NetworkSecurity::Methods(const QList<NetworkDevice> &devices)
 {
     const char *const withoutAccount[] = {openSystem, sharedKey, wpaPersonal, wpa2Personal};
     QList<QString> methods;

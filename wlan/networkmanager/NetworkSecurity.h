@@ -8,7 +8,7 @@
 
 struct AccessPoint;
 struct WLANProfile;
-struct WirelessDevice;
+struct NetworkDevice;
 
 /** The words of WLANProfile for authentication and encryption, and what NetworkManager has in their place. */
 namespace NetworkSecurity
@@ -20,6 +20,19 @@ namespace NetworkSecurity
  */
 void Describe(const AccessPoint &point, WLANProfile *profile);
 void Describe(const NMVariantMapMap &settings, WLANProfile *profile);
+
+/**
+ * Whether a profile with these settings could join the network by a device that can do this. What the device
+ * can do is not looked at where it is not told.
+ */
+bool Fits(const NMVariantMapMap &settings, const AccessPoint &point, unsigned int capabilities);
+
+/** What protects the network, a VisibleNetwork::Protection. */
+int ProtectionOf(const AccessPoint &point);
+
+/** Whether the key of the profile's method is kept by NetworkManager, so that nobody has to be asked for it.
+ */
+bool KeepsKey(const NMVariantMapMap &settings);
 
 /** Whether the network is of the old kind that tells of itself only that it is encrypted. */
 bool IsWep(const AccessPoint &point);
@@ -53,8 +66,15 @@ bool NeedsAccount(const WLANProfile &profile);
  */
 bool Apply(const WLANProfile &profile, NMVariantMapMap *settings);
 
+/**
+ * Gives the settings of a new profile what the network in range asks for, and the key.
+ *
+ * @return false when that is no key for it, or an account is needed.
+ */
+bool ApplyKey(const AccessPoint &point, const QString &key, NMVariantMapMap *settings);
+
 /** Those without an account that at least one device can do; all of them when there is no device yet. */
-QList<QString> Methods(const QList<WirelessDevice> &devices);
+QList<QString> Methods(const QList<NetworkDevice> &devices);
 
 } // namespace NetworkSecurity
 

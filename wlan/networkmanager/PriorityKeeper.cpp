@@ -171,7 +171,7 @@ bool CPriorityKeeper::ReadList(QList<PriorityList> *list)
 bool CPriorityKeeper::RaiseFirstConnections(const QList<PriorityList> &list)
 {
     const QList<NetworkProfile> found =
-        FirstConnections::Find(m_reader->Profiles(), m_reader->State().connectedProfiles, list, &m_records);
+        FirstConnections::Find(m_reader->Profiles(), m_reader->State().ConnectedProfiles(), list, &m_records);
     for (int i = 0; i < found.size(); ++i) {
         IPriorityPlugin *priority = PriorityPlugin();
         if (!priority) {

@@ -40,13 +40,18 @@ void CProfileReader::Start()
         return;
     }
     QList<QDBusMessage> calls;
-    calls << NetworkManagerState::Call() << CallerRights::Call();
+    calls << ManagedObjects::Call() << CallerRights::Call();
     Ask(calls, SLOT(TakeState()));
 }
 
 void CProfileReader::Read()
 {
     Start();
+    Wait();
+}
+
+void CProfileReader::Wait()
+{
     while (!m_isFinished) {
         m_batch->Wait();
     }
@@ -66,12 +71,13 @@ void CProfileReader::Ask(const QList<QDBusMessage> &calls, const char *slot)
 void CProfileReader::TakeState()
 {
     const QList<QDBusMessage> replies = m_batch->Replies();
-    const NetworkManagerResult result = ResultOf(replies.at(0), NetworkManagerState::Signature());
+    const NetworkManagerResult result = ResultOf(replies.at(0), ManagedObjects::signature);
     if (result != NetworkManagerResultSuccess) {
         Finish(result);
         return;
     }
-    m_state = NetworkManagerState::FromReply(replies.at(0));
+    m_objects = ManagedObjects::FromReply(replies.at(0));
+    m_state = NetworkManagerState::FromObjects(m_objects);
     if (ResultOf(replies.at(1), CallerRights::Signature()) == NetworkManagerResultSuccess) {
         m_rights = CallerRights::FromReply(replies.at(1));
     }

@@ -29,7 +29,11 @@ public:
     /** Begins and holds up the caller until it is done, for no longer than the limit. */
     void Read();
 
+    /** Holds up the caller until what was begun is done. */
+    void Wait();
+
     NetworkManagerResult Result() const { return m_result; }
+    const NetworkManagerObjects &Objects() const { return m_objects; }
     const NetworkManagerState &State() const { return m_state; }
     const CallerRights &Rights() const { return m_rights; }
 
@@ -61,6 +65,7 @@ private:
     CCallBatch *m_batch;
     NetworkManagerResult m_result;
     NetworkManagerResult m_shortfall;
+    NetworkManagerObjects m_objects;
     NetworkManagerState m_state;
     CallerRights m_rights;
     QList<NetworkProfile> m_profiles;

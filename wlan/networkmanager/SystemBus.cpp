@@ -81,6 +81,9 @@ void CSystemBus::WatchForLoss()
     m_connection.connect(QString(), QLatin1String("/org/freedesktop/DBus/Local"),
                          QLatin1String("org.freedesktop.DBus.Local"), QLatin1String("Disconnected"), &m_pause,
                          SLOT(start()));
+    m_connection.connect(QString(), QLatin1String("/org/freedesktop/DBus/Local"),
+                         QLatin1String("org.freedesktop.DBus.Local"), QLatin1String("Disconnected"), this,
+                         SIGNAL(Lost()));
     if (!m_connection.isConnected()) {
         m_pause.start();
     }

@@ -35,6 +35,9 @@ signals:
     /** There is a connection, which is another one than before. */
     void Found();
 
+    /** The connection is of no use any more. */
+    void Lost();
+
 private slots:
     void Seek();
     void TakeConnection();

@@ -1,6 +1,8 @@
 #include "WLANPlugin.h"
 
+#include "LivePicture.h"
 #include "NetworkManagerClient.h"
+#include "NetworkManagerConnections.h"
 #include "NetworkManagerResult.h"
 #include "NetworkManagerWLANService.h"
 #include "PriorityKeeper.h"
@@ -11,14 +13,15 @@ namespace
 {
 
 const int wlanInterfaceNumber = 0x1006;
+const int connectionInterfaceNumber = 0x1008;
 
 } // namespace
 
 TOOLKIT_EXPORT_PLUGIN(CWLANPlugin)
 
 CWLANPlugin::CWLANPlugin()
-    : QObject(nullptr), m_lastError(NetworkManagerResultSuccess), m_client(nullptr), m_service(nullptr),
-      m_keeper(nullptr)
+    : QObject(nullptr), m_lastError(NetworkManagerResultSuccess), m_client(nullptr), m_picture(nullptr),
+      m_service(nullptr), m_connections(nullptr), m_keeper(nullptr)
 {
 }
 
@@ -37,10 +40,14 @@ int CWLANPlugin::GetLastError()
 void CWLANPlugin::OnDestroy()
 {
     delete m_keeper;
+    delete m_connections;
     delete m_service;
+    delete m_picture;
     delete m_client;
     m_keeper = nullptr;
+    m_connections = nullptr;
     m_service = nullptr;
+    m_picture = nullptr;
     m_client = nullptr;
 }
 
@@ -59,7 +66,9 @@ bool CWLANPlugin::Init()
         OnDestroy();
         return false;
     }
+    m_picture = new CLivePicture(m_client, nullptr);
     m_service = new CNetworkManagerWLANService(m_client, nullptr);
+    m_connections = new CNetworkManagerConnections(m_client, m_picture, nullptr);
     m_keeper = new CPriorityKeeper(m_client, UserDataDirectory(), nullptr);
     connect(m_service, SIGNAL(AboutToChange()), m_keeper, SLOT(StartAgain()));
     return true;
@@ -92,10 +101,16 @@ bool CWLANPlugin::IsAllowRelease()
 
 bool CWLANPlugin::QueryInterface(int interfaceNumber, QObject **object)
 {
-    if (interfaceNumber != wlanInterfaceNumber || !object || !m_service) {
+    QObject *service = nullptr;
+    if (interfaceNumber == wlanInterfaceNumber) {
+        service = m_service;
+    } else if (interfaceNumber == connectionInterfaceNumber) {
+        service = m_connections;
+    }
+    if (!service || !object) {
         return false;
     }
-    *object = m_service;
+    *object = service;
     return true;
 }
 

@@ -4,7 +4,9 @@
 #include <IUIPlugin.h>
 #include <ToolkitPlugin.h>
 
+class CLivePicture;
 class CNetworkManagerClient;
+class CNetworkManagerConnections;
 class CNetworkManagerWLANService;
 class CPriorityKeeper;
 
@@ -39,7 +41,7 @@ public:
     QString GetPluginName() override;
     bool IsAllowRelease() override;
 
-    /** There is a service between Init and OnDestroy only. */
+    /** There are services between Init and OnDestroy only. */
     bool QueryInterface(int interfaceNumber, QObject **object) override;
 
     bool ShowWindow(QWidget *parent, QRect &rect) override;
@@ -54,7 +56,9 @@ private:
 
     int m_lastError;
     CNetworkManagerClient *m_client;
+    CLivePicture *m_picture;
     CNetworkManagerWLANService *m_service;
+    CNetworkManagerConnections *m_connections;
     CPriorityKeeper *m_keeper;
 };
 

@@ -1,0 +1,127 @@
+#ifndef LIVEPICTURE_H
+#define LIVEPICTURE_H
+
+#include "ConnectionPicture.h"
+#include "NetworkManagerResult.h"
+#include "TimeLimit.h"
+
+#include <QDBusMessage>
+#include <QElapsedTimer>
+#include <QList>
+#include <QObject>
+#include <QSet>
+#include <QStringList>
+#include <QTimer>
+
+class CCallBatch;
+class CNetworkManagerClient;
+class CProfileReader;
+
+/**
+ * NetworkManager as it is now, kept from its signals: it is asked for everything when it appears, for the
+ * settings of a profile when these change, and for what the user may do when that changes. Nothing is asked
+ * again and again.
+ *
+ * A NetworkManager that goes, restarts or stops answering leaves no old picture behind: until all is known
+ * again, nothing is.
+ */
+class CLivePicture : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** @param client  outlives the picture. */
+    CLivePicture(CNetworkManagerClient *client, QObject *parent);
+
+    /** As far as its signals have come. Valid until the next operation, and until the event loop. */
+    const ConnectionPicture &Now();
+    const ConnectionRecords &Records();
+
+    /**
+     * The same for an operation whose caller knows nothing of signals: the first picture since the start is
+     * waited for, no longer than the user may be kept waiting, and no other.
+     */
+    const ConnectionPicture &First();
+
+    /** Why the last picture was not to be had, or is not there any more. */
+    NetworkManagerResult Result() const { return m_result; }
+    /** Why a profile that this user may see is missing; success when none is. */
+    NetworkManagerResult Shortfall() const { return m_shortfall; }
+
+    /** Takes in a profile that its caller has just changed or made; waits for it as long as the limit. */
+    void Fetch(const QString &profile, const CTimeLimit &limit);
+
+    /** Has the devices look for networks, where the user may order that, but not again and again. */
+    void LookForNetworks();
+
+    /** While somebody watches, a NetworkManager that falls silent is found out within seconds. */
+    void SetWatched(bool isWatched);
+
+    /** The profile of a connection that is there now; empty when it has none. */
+    QString ProfileOf(const QString &connection);
+
+signals:
+    /** Once for changes that come close together. */
+    void Changed();
+
+    /** At once, before Changed, so that no state is missed. */
+    void ConnectionMoved(const QString &connection);
+
+    /**
+     * A connection has failed or was ended. Comes at once, and mostly twice: what the device tells comes
+     * first.
+     *
+     * @param stage    how far it had come; StageNotKnown where that is not told.
+     * @param failure  a ConnectionFailure.
+     */
+    void ConnectionFailed(const QString &connection, int stage, int failure);
+
+private slots:
+    void Read();
+    void TakeReading();
+    void TakeSignal(const QDBusMessage &signal);
+    void TakeDeviceState(const QDBusMessage &signal);
+    void TakeConnectionState(const QDBusMessage &signal);
+    void TakeProfileChange(const QDBusMessage &signal);
+    void TakeProfiles();
+    void AskForRights();
+    void TakeRights();
+    void TakeLoss();
+    void TakeSilence();
+    void Check();
+
+private:
+    Q_DISABLE_COPY(CLivePicture)
+
+    void Drop(int source, NetworkManagerResult result);
+    void Apply(const QDBusMessage &signal);
+    void AskForProfiles();
+    void StoreProfile(const QString &path, const QDBusMessage &reply);
+    void ForgetProfile(const QString &path);
+    void NoteChange();
+    void NoteSuccess(const QString &connection);
+    bool HasKey(const QString &profile) const;
+
+    CNetworkManagerClient *const m_client;
+    NetworkManagerObjects m_objects;
+    ConnectionPicture m_picture;
+    ConnectionRecords m_records;
+    bool m_isStateDue;
+    bool m_areRecordsDue;
+    NetworkManagerResult m_result;
+    NetworkManagerResult m_shortfall;
+    CProfileReader *m_reader;
+    bool m_isFirst;
+    /** What came while everything was being asked for. */
+    QList<QDBusMessage> m_early;
+    CCallBatch *m_batch;
+    QStringList m_asked;
+    QSet<QString> m_due;
+    CCallBatch *m_rightsBatch;
+    QElapsedTimer m_sinceLook;
+    QTimer m_pause;
+    QTimer m_retry;
+    QTimer m_check;
+};
+
+#endif

@@ -1,0 +1,59 @@
+#ifndef NETWORKMANAGERCONNECTIONS_H
+#define NETWORKMANAGERCONNECTIONS_H
+
+#include "ConnectAttempts.h"
+
+#include <IConnectionPlugin.h>
+
+#include <QMetaMethod>
+#include <QObject>
+
+class CLivePicture;
+class CNetworkManagerClient;
+
+/** The connection interface over NetworkManager. Ids are its paths. */
+class CNetworkManagerConnections : public QObject, public IConnectionPlugin
+{
+    Q_OBJECT
+    Q_INTERFACES(IConnectionPlugin)
+
+public:
+    /** @param client  outlives this, as picture does. */
+    CNetworkManagerConnections(CNetworkManagerClient *client, CLivePicture *picture, QObject *parent);
+
+    void GetConnectionState(ConnectionState *state) override;
+    void GetActiveConnections(QList<ActiveConnection> *connections) override;
+    void GetProfiles(QList<ConnectionProfile> *profiles) override;
+    void GetVisibleNetworks(QList<VisibleNetwork> *networks) override;
+    void LookForNetworks() override;
+    int ConnectProfile(const QString &profileId) override;
+    int ConnectNetwork(const QString &networkId, const QString &key) override;
+    int Disconnect(const QString &connectionId) override;
+    void GetAttempt(int attempt, ConnectAttempt *result) override;
+    void CancelAttempt(int attempt) override;
+
+signals:
+    void OnConnectionsChanged();
+
+protected:
+    void connectNotify(const QMetaMethod &signal) override;
+    void disconnectNotify(const QMetaMethod &signal) override;
+
+private slots:
+    void TellSoon();
+
+private:
+    Q_DISABLE_COPY(CNetworkManagerConnections)
+
+    int Refusal();
+    QString DevicePath(const QString &name);
+    QString FreeName(const QString &name);
+
+    CLivePicture *const m_picture;
+    CConnectAttempts m_attempts;
+    bool m_isToTell;
+
+    Q_INVOKABLE void Tell();
+};
+
+#endif
