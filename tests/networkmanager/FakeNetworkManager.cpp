@@ -1,5 +1,7 @@
 #include "FakeNetworkManager.h"
 
+#include "PrivateBus.h"
+
 #include <QCoreApplication>
 #include <QDBusArgument>
 #include <QDBusMetaType>
@@ -55,15 +57,6 @@ QVariant PathList(const QStringList &paths)
     return QVariant::fromValue(list);
 }
 
-/** Has everything on its way to the connection arrive; a bus that doesn't answer is not waited for. */
-void PingBus(const QDBusConnection &connection)
-{
-    const int patience = 1000;
-    connection.call(QDBusMessage::createMethodCall("org.freedesktop.DBus", "/org/freedesktop/DBus",
-                                                   "org.freedesktop.DBus", "GetId"),
-                    QDBus::Block, patience);
-}
-
 const char *const keys[] = {"psk", "wep-key0", "wep-key1", "wep-key2", "wep-key3"};
 
 /** NetworkManager gives keys to nobody who only asks for the settings. */
@@ -115,12 +108,15 @@ FakeNetworkManager::~FakeNetworkManager()
 
 bool FakeNetworkManager::Appear()
 {
-    return m_connection.registerService(service);
+    const bool isThere = m_connection.registerService(service);
+    Settle();
+    return isThere;
 }
 
 void FakeNetworkManager::Vanish()
 {
     m_connection.unregisterService(service);
+    Settle();
 }
 
 QString FakeNetworkManager::Add(const QString &kind, const QString &interface, const QVariantMap &properties)
@@ -165,17 +161,17 @@ void FakeNetworkManager::Put(const QString &path, const QString &interface, cons
 
 void FakeNetworkManager::Settle()
 {
-    const QDBusConnection plugin("WLANNetworkManager");
+    const QDBusConnection plugin = PrivateBus::PluginConnection();
     if (!plugin.isConnected() || QThread::currentThread() == &m_thread) {
         return;
     }
     // A signal has the plug-in ask, and the answer is the end of it.
     for (int i = 0; i < 3; ++i) {
-        PingBus(plugin);
-        PingBus(m_connection);
+        PrivateBus::WaitForArrivals(plugin);
+        PrivateBus::WaitForArrivals(m_connection);
         QMetaObject::invokeMethod(this, "Rest", Qt::BlockingQueuedConnection);
-        PingBus(m_connection);
-        PingBus(plugin);
+        PrivateBus::WaitForArrivals(m_connection);
+        PrivateBus::WaitForArrivals(plugin);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
     }
 }

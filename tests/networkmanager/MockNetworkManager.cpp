@@ -33,6 +33,7 @@ QVariant Ask(const QString &path, const QString &interface, const QString &metho
     if (reply.type() != QDBusMessage::ReplyMessage) {
         qFatal("%s: %s", qPrintable(method), qPrintable(reply.errorMessage()));
     }
+    PrivateBus::WaitForArrivals(PrivateBus::PluginConnection());
     return reply.arguments().value(0);
 }
 

@@ -13,7 +13,8 @@ class PrivateBus;
 
 /**
  * NetworkManager as python3-dbusmock's template has it, a program of its own on the private bus: its objects,
- * answers and signals as others know them. What the template lacks is added to it as it runs.
+ * answers and signals as others know them. What the template lacks is added to it as it runs. What it tells
+ * has arrived at a plug-in in this process when an operation here returns.
  */
 class MockNetworkManager
 {

@@ -75,6 +75,7 @@ QString NetworkManagerDaemon::Nmcli(const QStringList &arguments)
     if (!nmcli.waitForFinished() || nmcli.exitCode() != 0) {
         return "nmcli failed: " + QString::fromUtf8(nmcli.readAllStandardError());
     }
+    PrivateBus::WaitForArrivals(PrivateBus::PluginConnection());
     QString output = QString::fromUtf8(nmcli.readAllStandardOutput());
     output.chop(output.endsWith('\n') ? 1 : 0);
     return output;

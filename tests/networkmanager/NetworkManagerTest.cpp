@@ -20,6 +20,12 @@ void NetworkManagerTest::init()
     QVERIFY(LoadedWLAN::Root()->Init());
 }
 
+void NetworkManagerTest::StartPluginAgain()
+{
+    LoadedWLAN::Root()->OnDestroy();
+    QVERIFY(LoadedWLAN::Root()->Init());
+}
+
 void NetworkManagerTest::StartBusAgain()
 {
     m_networkManager.reset();

@@ -19,6 +19,9 @@ protected:
     FakeNetworkManager &Fake() { return *m_networkManager; }
     const TemporaryDirectory &Directory() const { return *m_directory; }
 
+    /** The plug-in begins anew, with what NetworkManager answers now. */
+    void StartPluginAgain();
+
     /** For a test that has taken the bus away: there is another, and a new fake that has not appeared on it.
      */
     void StartBusAgain();

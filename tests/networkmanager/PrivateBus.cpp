@@ -1,6 +1,7 @@
 #include "PrivateBus.h"
 
 #include <QDBusConnectionInterface>
+#include <QDBusMessage>
 #include <QFile>
 #include <QLocalSocket>
 #include <QtTest>
@@ -76,6 +77,16 @@ bool PrivateBus::Start()
         return false;
     }
     return true;
+}
+
+void PrivateBus::WaitForArrivals(const QDBusConnection &connection)
+{
+    const int patience = 1000;
+    if (connection.isConnected()) {
+        connection.call(QDBusMessage::createMethodCall("org.freedesktop.DBus", "/org/freedesktop/DBus",
+                                                       "org.freedesktop.DBus", "GetId"),
+                        QDBus::Block, patience);
+    }
 }
 
 bool PrivateBus::WaitForService(const QString &name)

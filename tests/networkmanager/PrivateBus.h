@@ -35,6 +35,13 @@ public:
     /** A connection of the test's own. */
     static QDBusConnection Connection() { return QDBusConnection::systemBus(); }
 
+    /** That of a plug-in in this process; not connected when there is none. */
+    static QDBusConnection PluginConnection() { return QDBusConnection(QLatin1String("WLANNetworkManager")); }
+
+    /** Returns when all that the bus has for the connection has arrived there; no bus is waited for for long.
+     */
+    static void WaitForArrivals(const QDBusConnection &connection);
+
     /** Whether somebody has that name on the bus, now or soon. */
     static bool WaitForService(const QString &name);
     static bool WaitForServiceToGo(const QString &name);

@@ -47,6 +47,7 @@ private slots:
     void NothingOldIsKnownAfterARestart();
     void FrozenIsFoundOutWhileSomebodyWatches();
     void NoCallWaits();
+    void DialogsAreAnsweredFromMemory();
     void IdleAsksLittle();
     void DevicesLookForNetworksWhenOrdered();
     void ProfileThatIsChangedWhileItIsReadIsReadAgain();
@@ -246,6 +247,36 @@ void tst_networkmanagerconnections::NoCallWaits()
     Bus().Thaw();
     // An answer that is waited for takes at least two seconds here.
     QVERIFY2(taken < 1000, qPrintable(QString::number(taken)));
+}
+
+void tst_networkmanagerconnections::DialogsAreAnsweredFromMemory()
+{
+    Fake().AddDevice();
+    Fake().AddAccessPoint("net", 40);
+    AddProfile("net", "net");
+    QCOMPARE(LoadedWLAN::Remembered(), QStringList("net/1"));
+    QTest::qWait(500);
+    Bus().Freeze();
+    QElapsedTimer timer;
+    timer.start();
+    const QStringList remembered = LoadedWLAN::Remembered();
+    const QStringList inRange = LoadedWLAN::InRange();
+    const WLANProfile profile = LoadedWLAN::ProfileNamed("net");
+    WLANConfigData config;
+    const int configured = LoadedWLAN::Wlan()->GetConfigData(&config);
+    WlanAvilableNetworkInfo network;
+    network.networkName = "net";
+    WLANProfile preset;
+    const int filled = LoadedWLAN::Wlan()->GetNetworkProfile(network, &preset);
+    const qint64 taken = timer.elapsed();
+    Bus().Thaw();
+    QVERIFY2(taken < 1000, qPrintable(QString::number(taken)));
+    QCOMPARE(remembered, QStringList("net/1"));
+    QCOMPARE(inRange, QStringList("net"));
+    QCOMPARE(profile.ssid, QString("net"));
+    QCOMPARE(configured, 0);
+    QCOMPARE(config.authenticationList.size(), 4);
+    QCOMPARE(filled, 1);
 }
 
 void tst_networkmanagerconnections::IdleAsksLittle()

@@ -93,7 +93,7 @@ private slots:
     void MissingNetworkManagerIsTold();
     void NetworkManagerThatComesBackIsUsedAgain();
     void NoAnswerEndsInTime();
-    void LateProfilesDoNotHideTheOthers();
+    void NothingIsToldUntilAllProfilesAre();
     void SilentNetworkManagerIsNotWaitedForAgain();
     void NetworkManagerThatSpeaksAgainIsUsedAgain();
     void ManyProfilesAndNetworksAreAllTold();
@@ -123,6 +123,7 @@ void tst_networkmanagerfaults::MeaninglessAnswersAreRefused()
     const QString path = Fake().AddProfile("A");
     const NMVariantMapMap before = Fake().SettingsOf(path);
     Fake().AnswerWith("GetManagedObjects", arguments);
+    StartPluginAgain();
     TraceCapture trace;
     bool areOutputsUntouched = false;
     QCOMPARE(AnswersOfAll(&areOutputsUntouched), EachBut(NetworkManagerResultUnusableAnswer, 0));
@@ -156,6 +157,7 @@ void tst_networkmanagerfaults::ErrorsAreTold()
     QFETCH(int, result);
     Fake().AddProfile("A");
     Fake().AnswerWithError("GetManagedObjects", error);
+    StartPluginAgain();
     TraceCapture trace;
     bool areOutputsUntouched = false;
     QCOMPARE(AnswersOfAll(&areOutputsUntouched), EachBut(result, 0));
@@ -166,13 +168,14 @@ void tst_networkmanagerfaults::ErrorsAreTold()
 void tst_networkmanagerfaults::ComplaintIsWrittenOnceUntilItChanges()
 {
     Fake().AnswerWithError("GetManagedObjects", "org.freedesktop.NetworkManager.Failed");
+    StartPluginAgain();
     TraceCapture trace;
     LoadedWLAN::Remembered();
     LoadedWLAN::Remembered();
     QCOMPARE(trace.Lines().size(), 1);
     Fake().Behave();
     LoadedWLAN::Remembered();
-    Fake().AnswerWithError("GetManagedObjects", "org.freedesktop.NetworkManager.Failed");
+    Fake().Vanish();
     LoadedWLAN::Remembered();
     QCOMPARE(trace.Lines().size(), 2);
 }
@@ -231,6 +234,7 @@ void tst_networkmanagerfaults::UnreadablePermissionsCountAsAllowed()
     } else {
         Fake().AnswerWithError("GetPermissions", error);
     }
+    StartPluginAgain();
     QCOMPARE(LoadedWLAN::ProfileNamed("A").readOnly, QString("false"));
     QCOMPARE(LoadedWLAN::Remembered(), QStringList("A/1"));
 }
@@ -260,6 +264,7 @@ void tst_networkmanagerfaults::OneUnreadableProfileIsToldAndTheOthersStay()
     } else {
         Fake().AnswerWithError("GetSettings", error, unreadable);
     }
+    StartPluginAgain();
     TraceCapture trace;
     QList<RememberedList> list;
     QCOMPARE(LoadedWLAN::Wlan()->GetRememberedList(&list), result);
@@ -276,6 +281,7 @@ void tst_networkmanagerfaults::ProfileThatGoesBetweenListingAndAskingIsLeftOut()
 {
     Fake().AddProfile("A");
     Fake().RemoveWhenAsked(Fake().AddProfile("B"));
+    StartPluginAgain();
     TraceCapture trace;
     QList<RememberedList> list;
     QCOMPARE(LoadedWLAN::Wlan()->GetRememberedList(&list), 0);
@@ -297,6 +303,7 @@ void tst_networkmanagerfaults::ProfileThatIsGoneIsLeftOutQuietly()
     QFETCH(QString, error);
     Fake().AddProfile("A");
     Fake().AnswerWithError("GetSettings", error, Fake().AddProfile("B"));
+    StartPluginAgain();
     TraceCapture trace;
     QCOMPARE(LoadedWLAN::Remembered(), QStringList("A/1"));
     QList<RememberedList> list;
@@ -309,6 +316,7 @@ void tst_networkmanagerfaults::ProfileOfSomebodyElseIsLeftOutQuietly()
     Fake().AddProfile("A");
     Fake().AnswerWithError("GetSettings", "org.freedesktop.NetworkManager.Settings.PermissionDenied",
                            Fake().AddProfile("B"));
+    StartPluginAgain();
     TraceCapture trace;
     QList<RememberedList> list;
     QCOMPARE(LoadedWLAN::Wlan()->GetRememberedList(&list), 0);
@@ -404,7 +412,8 @@ void tst_networkmanagerfaults::NetworkManagerThatComesBackIsUsedAgain()
 
 void tst_networkmanagerfaults::NoAnswerEndsInTime()
 {
-    Fake().DoNotAnswerAnything();
+    Fake().DoNotAnswer("GetManagedObjects");
+    StartPluginAgain();
     TraceCapture trace;
     int result = 0;
     const qint64 time = TimeOf([&result] {
@@ -416,21 +425,23 @@ void tst_networkmanagerfaults::NoAnswerEndsInTime()
     QVERIFY(trace.Lines().contains("WLANNetworkManager: GetRememberedList: NetworkManager does not answer"));
 }
 
-void tst_networkmanagerfaults::LateProfilesDoNotHideTheOthers()
+void tst_networkmanagerfaults::NothingIsToldUntilAllProfilesAre()
 {
     Fake().AddProfile("A");
     Fake().DoNotAnswer("GetSettings", Fake().AddProfile("B"));
-    Fake().AddProfile("C");
+    StartPluginAgain();
     QList<RememberedList> list;
     int result = 0;
     const qint64 time = TimeOf([&] { result = LoadedWLAN::Wlan()->GetRememberedList(&list); });
     QCOMPARE(result, int(NetworkManagerResultNotAnswering));
-    QCOMPARE(list.size(), 2);
+    QCOMPARE(list.size(), 0);
     QVERIFY2(time < patience + allowance, qPrintable(QString::number(time)));
 }
 
 void tst_networkmanagerfaults::SilentNetworkManagerIsNotWaitedForAgain()
 {
+    Fake().DoNotAnswer("GetManagedObjects");
+    StartPluginAgain();
     Fake().DoNotAnswerAnything();
     LoadedWLAN::Remembered();
     bool areOutputsUntouched = false;
@@ -445,6 +456,7 @@ void tst_networkmanagerfaults::NetworkManagerThatSpeaksAgainIsUsedAgain()
 {
     Fake().AddProfile("A");
     Fake().DoNotAnswer("GetManagedObjects");
+    StartPluginAgain();
     QCOMPARE(LoadedWLAN::Remembered(), QStringList());
     Fake().Behave();
     // It is asked aside whether it speaks, and the answer needs a turn of the event loop.

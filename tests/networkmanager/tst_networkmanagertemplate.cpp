@@ -383,6 +383,8 @@ void tst_networkmanagertemplate::ProfileThatGoesBetweenListingAndAskingIsLeftOut
     const QString leaving = Mock().AddProfile(FakeNetworkManager::Settings("B"));
     Settle();
     Mock().DeleteAfterListing(leaving);
+    LoadedWLAN::Root()->OnDestroy();
+    QVERIFY(LoadedWLAN::Root()->Init());
     TraceCapture trace;
     QList<RememberedList> list;
     QCOMPARE(LoadedWLAN::Wlan()->GetRememberedList(&list), 0);

@@ -5,6 +5,7 @@
 #include "NetworkManagerClient.h"
 #include "NetworkSecurity.h"
 #include "ProfileReader.h"
+#include "TimeLimit.h"
 
 #include <NetworkManagerQt/Setting>
 
@@ -26,18 +27,12 @@ const int pauseBetweenLooks = 10000;
 // Nobody waits for these.
 const int readMilliseconds = 60000;
 
-QDBusMessage SettingsCall(const QString &profile)
-{
-    return CNetworkManagerClient::Call(profile, CNetworkManagerClient::ProfileInterface(),
-                                       QLatin1String("GetSettings"));
-}
-
 } // namespace
 
 CLivePicture::CLivePicture(CNetworkManagerClient *client, QObject *parent)
     : QObject(parent), m_client(client), m_isStateDue(false), m_areRecordsDue(true),
       m_result(NetworkManagerResultNotAnswering), m_shortfall(NetworkManagerResultSuccess), m_reader(nullptr),
-      m_isFirst(true), m_batch(nullptr), m_rightsBatch(nullptr)
+      m_batch(nullptr), m_rightsBatch(nullptr)
 {
     m_pause.setSingleShot(true);
     m_pause.setInterval(pauseMilliseconds);
@@ -73,6 +68,7 @@ CLivePicture::CLivePicture(CNetworkManagerClient *client, QObject *parent)
 const ConnectionPicture &CLivePicture::Now()
 {
     // What has arrived and not yet been looked at.
+    m_client->TakeArrived();
     QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
     if (m_isStateDue) {
         m_picture.state = NetworkManagerState::FromObjects(m_objects);
@@ -91,19 +87,39 @@ const ConnectionRecords &CLivePicture::Records()
     return m_records;
 }
 
-const ConnectionPicture &CLivePicture::First()
+const ConnectionPicture &CLivePicture::Complete()
 {
-    if (m_isFirst && m_reader) {
-        m_reader->Wait();
+    Now();
+    if (m_picture.source == ConnectionState::SourceNotKnown && !m_client->IsSilent()) {
+        Begin(CNetworkManagerClient::patienceMilliseconds);
+        // It is not there any more when it has failed at once.
+        if (m_reader) {
+            m_reader->Wait();
+        }
+    }
+    if (m_batch || !m_due.isEmpty()) {
+        if (m_batch) {
+            delete m_batch;
+            for (const QString &path : m_asked) {
+                m_due.insert(path);
+            }
+        }
+        m_batch = NewBatch(CNetworkManagerClient::patienceMilliseconds);
+        m_batch->Start();
+        m_batch->Wait();
     }
     return Now();
 }
 
 void CLivePicture::Read()
 {
+    Begin(readMilliseconds);
+}
+
+void CLivePicture::Begin(int limitMilliseconds)
+{
     Drop(ConnectionState::SourceNotKnown, NetworkManagerResultNotAnswering);
-    const int limit = m_isFirst ? CNetworkManagerClient::patienceMilliseconds : readMilliseconds;
-    m_reader = new CProfileReader(m_client, CTimeLimit(limit), this);
+    m_reader = new CProfileReader(m_client, CTimeLimit(limitMilliseconds), this);
     connect(m_reader, SIGNAL(Finished()), this, SLOT(TakeReading()));
     m_reader->Start();
 }
@@ -136,7 +152,6 @@ void CLivePicture::TakeReading()
     CProfileReader *const reader = m_reader;
     m_reader = nullptr;
     reader->deleteLater();
-    m_isFirst = false;
     m_result = reader->Result();
     if (m_result != NetworkManagerResultSuccess) {
         m_early.clear();
@@ -216,18 +231,24 @@ void CLivePicture::TakeProfileChange(const QDBusMessage &signal)
 
 void CLivePicture::AskForProfiles()
 {
-    if (m_reader || m_batch || m_due.isEmpty()) {
-        return;
+    if (!m_reader && !m_batch && !m_due.isEmpty()) {
+        m_batch = NewBatch(readMilliseconds);
+        m_batch->Start();
     }
+}
+
+CCallBatch *CLivePicture::NewBatch(int limitMilliseconds)
+{
     m_asked = m_due.values();
     m_due.clear();
     QList<QDBusMessage> calls;
     for (const QString &path : m_asked) {
-        calls.append(SettingsCall(path));
+        calls.append(CNetworkManagerClient::Call(path, CNetworkManagerClient::ProfileInterface(),
+                                                 QLatin1String("GetSettings")));
     }
-    m_batch = new CCallBatch(m_client, calls, CTimeLimit(readMilliseconds), this);
-    connect(m_batch, SIGNAL(Finished()), this, SLOT(TakeProfiles()));
-    m_batch->Start();
+    CCallBatch *batch = new CCallBatch(m_client, calls, CTimeLimit(limitMilliseconds), this);
+    connect(batch, SIGNAL(Finished()), this, SLOT(TakeProfiles()));
+    return batch;
 }
 
 void CLivePicture::TakeProfiles()
@@ -269,13 +290,11 @@ void CLivePicture::StoreProfile(const QString &path, const QDBusMessage &reply)
     NoteChange();
 }
 
-void CLivePicture::Fetch(const QString &profile, const CTimeLimit &limit)
+void CLivePicture::Expect(const QString &profile)
 {
-    CCallBatch batch(m_client, QList<QDBusMessage>() << SettingsCall(profile), limit, nullptr);
-    batch.Start();
-    batch.Wait();
-    Now();
-    StoreProfile(profile, batch.Replies().at(0));
+    if (m_picture.source == ConnectionState::SourceKnown) {
+        m_due.insert(profile);
+    }
 }
 
 void CLivePicture::AskForRights()
@@ -373,7 +392,8 @@ bool CLivePicture::HasKey(const QString &profile) const
 
 void CLivePicture::TakeLoss()
 {
-    Drop(ConnectionState::SourceGone, NetworkManagerResultNotRunning);
+    Drop(ConnectionState::SourceGone,
+         m_client->HasBus() ? NetworkManagerResultNotRunning : NetworkManagerResultNoBus);
 }
 
 void CLivePicture::TakeSilence()

@@ -3,7 +3,6 @@
 
 #include "ConnectionPicture.h"
 #include "NetworkManagerResult.h"
-#include "TimeLimit.h"
 
 #include <QDBusMessage>
 #include <QElapsedTimer>
@@ -38,18 +37,19 @@ public:
     const ConnectionRecords &Records();
 
     /**
-     * The same for an operation whose caller knows nothing of signals: the first picture since the start is
-     * waited for, no longer than the user may be kept waiting, and no other.
+     * The same for an operation that has to be right when it returns: what is known to be missing is asked
+     * for and waited for, no longer than the user may be kept waiting. A picture that is complete, which it
+     * is but for moments, and a NetworkManager that is silent or gone keep nobody waiting.
      */
-    const ConnectionPicture &First();
+    const ConnectionPicture &Complete();
 
     /** Why the last picture was not to be had, or is not there any more. */
     NetworkManagerResult Result() const { return m_result; }
     /** Why a profile that this user may see is missing; success when none is. */
     NetworkManagerResult Shortfall() const { return m_shortfall; }
 
-    /** Takes in a profile that its caller has just changed or made; waits for it as long as the limit. */
-    void Fetch(const QString &profile, const CTimeLimit &limit);
+    /** Has Complete bring a profile that its caller has just changed or made. */
+    void Expect(const QString &profile);
 
     /** Has the devices look for networks, where the user may order that, but not again and again. */
     void LookForNetworks();
@@ -93,9 +93,11 @@ private slots:
 private:
     Q_DISABLE_COPY(CLivePicture)
 
+    void Begin(int limitMilliseconds);
     void Drop(int source, NetworkManagerResult result);
     void Apply(const QDBusMessage &signal);
     void AskForProfiles();
+    CCallBatch *NewBatch(int limitMilliseconds);
     void StoreProfile(const QString &path, const QDBusMessage &reply);
     void ForgetProfile(const QString &path);
     void NoteChange();
@@ -111,7 +113,6 @@ private:
     NetworkManagerResult m_result;
     NetworkManagerResult m_shortfall;
     CProfileReader *m_reader;
-    bool m_isFirst;
     /** What came while everything was being asked for. */
     QList<QDBusMessage> m_early;
     CCallBatch *m_batch;

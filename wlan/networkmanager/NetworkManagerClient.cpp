@@ -5,10 +5,12 @@
 #include <NetworkManagerQt/GenericTypes>
 #include <NetworkManagerQt/Setting>
 
+#include <QCoreApplication>
 #include <QDBusError>
 #include <QDBusMetaType>
 #include <QDBusPendingCallWatcher>
 #include <QDBusServiceWatcher>
+#include <QEvent>
 #include <QStringList>
 
 namespace
@@ -31,11 +33,11 @@ QDBusMessage VersionCall()
 const int CNetworkManagerClient::patienceMilliseconds;
 
 CNetworkManagerClient::CNetworkManagerClient(QObject *parent)
-    : QObject(parent), m_bus(nullptr), m_isSilent(false)
+    : QObject(parent), m_bus(nullptr), m_isSilent(false), m_isLost(false)
 {
     qDBusRegisterMetaType<NMVariantMapMap>();
     connect(&m_bus, SIGNAL(Found()), this, SLOT(TakeBus()));
-    connect(&m_bus, SIGNAL(Lost()), this, SIGNAL(Vanished()));
+    connect(&m_bus, SIGNAL(Lost()), this, SLOT(TakeArrived()));
     if (m_bus.Connection().isConnected()) {
         TakeBus();
     }
@@ -177,6 +179,7 @@ void CNetworkManagerClient::Subscribe(const Subscription &subscription)
 void CNetworkManagerClient::TakeBus()
 {
     m_isSilent = false;
+    m_isLost = false;
     m_owner.reset(
         new QDBusServiceWatcher(ServiceName(), m_bus.Connection(), QDBusServiceWatcher::WatchForOwnerChange));
     connect(m_owner.data(), SIGNAL(serviceOwnerChanged(QString, QString, QString)), this,
@@ -185,6 +188,17 @@ void CNetworkManagerClient::TakeBus()
         Subscribe(m_subscriptions.at(i));
     }
     emit Appeared();
+}
+
+void CNetworkManagerClient::TakeArrived()
+{
+    if (m_owner) {
+        QCoreApplication::sendPostedEvents(m_owner.data(), QEvent::MetaCall);
+    }
+    if (!HasBus() && !m_isLost) {
+        m_isLost = true;
+        emit Vanished();
+    }
 }
 
 void CNetworkManagerClient::Note(NetworkManagerResult result)

@@ -79,12 +79,16 @@ public:
     void Listen(const QString &path, const QString &interface, const QString &signal,
                 const QString &firstArgument, QObject *receiver, const char *slot);
 
+    bool HasBus() const { return m_bus.Connection().isConnected(); }
     bool IsSilent() const { return m_isSilent; }
 
     /** To be told of every answer that was waited for. */
     void Note(NetworkManagerResult result);
 
 public slots:
+    /** Has the coming and going of NetworkManager told now, as far as it has arrived. */
+    void TakeArrived();
+
     /** Asks for a sign, so that a NetworkManager that has stopped answering is found out. */
     void Check();
 
@@ -123,6 +127,7 @@ private:
     QScopedPointer<QDBusServiceWatcher> m_owner;
     QList<Subscription> m_subscriptions;
     bool m_isSilent;
+    bool m_isLost;
     QPointer<QDBusPendingCallWatcher> m_check;
 };
 

@@ -1,6 +1,7 @@
 #include "NetworkManagerWLANService.h"
 
 #include "CallBatch.h"
+#include "LivePicture.h"
 #include "NetworkManagerClient.h"
 #include "NetworkSecurity.h"
 #include "ProfileReader.h"
@@ -13,6 +14,7 @@
 #include <NetworkManagerQt/Utils>
 
 #include <QDBusArgument>
+#include <QDBusObjectPath>
 #include <QSet>
 
 #include <algorithm>
@@ -23,7 +25,6 @@ namespace
 {
 
 const int longestNetworkName = 32;
-const int pauseBetweenLooks = 10000;
 
 QString WirelessSection()
 {
@@ -64,12 +65,6 @@ const NetworkProfile *FindBySsid(const QList<NetworkProfile> &profiles, const QB
         }
     }
     return found;
-}
-
-/** What reading all profiles comes to: the first thing that went wrong. */
-NetworkManagerResult OutcomeOf(const CProfileReader &reader)
-{
-    return reader.Result() != NetworkManagerResultSuccess ? reader.Result() : reader.Shortfall();
 }
 
 bool IsStronger(const AccessPoint &left, const AccessPoint &right)
@@ -184,8 +179,9 @@ NetworkManagerResult RefusalOf(ProfileRules::Verdict verdict)
 
 } // namespace
 
-CNetworkManagerWLANService::CNetworkManagerWLANService(CNetworkManagerClient *client, QObject *parent)
-    : QObject(parent), m_client(client)
+CNetworkManagerWLANService::CNetworkManagerWLANService(CNetworkManagerClient *client, CLivePicture *picture,
+                                                       QObject *parent)
+    : QObject(parent), m_client(client), m_picture(picture)
 {
 }
 
@@ -253,7 +249,12 @@ NetworkManagerResult CNetworkManagerWLANService::Add(const WLANProfile &wanted, 
                                                     CNetworkManagerClient::SettingsInterface(),
                                                     QLatin1String("AddConnection"));
     call << QVariant::fromValue(settings);
-    return ResultOf(Ask(call, limit), "o");
+    const QDBusMessage reply = Ask(call, limit);
+    const NetworkManagerResult result = ResultOf(reply, "o");
+    if (result == NetworkManagerResultSuccess) {
+        m_picture->Expect(reply.arguments().at(0).value<QDBusObjectPath>().path());
+    }
+    return result;
 }
 
 NetworkManagerResult CNetworkManagerWLANService::Change(const NetworkProfile &profile,
@@ -262,8 +263,9 @@ NetworkManagerResult CNetworkManagerWLANService::Change(const NetworkProfile &pr
     emit AboutToChange();
     NetworkProfile changed = profile;
     changed.settings[WirelessSection()].insert(QLatin1String("ssid"), SsidText::ToBytes(wanted.ssid));
+    NetworkManagerResult result = NetworkManagerResultSuccess;
     if (NetworkSecurity::HasStaticWep(changed.settings) && wanted.encryption == QLatin1String("WEP")) {
-        NetworkManagerResult result = ReadWepKeys(&changed, limit);
+        result = ReadWepKeys(&changed, limit);
         if (result == NetworkManagerResultSuccess && changed.version != 0) {
             result = ReadVersionAfterKeys(&changed, limit);
         }
@@ -272,7 +274,11 @@ NetworkManagerResult CNetworkManagerWLANService::Change(const NetworkProfile &pr
         }
     }
     NetworkSecurity::Apply(wanted, &changed.settings);
-    return ResultOf(Ask(ProfileUpdate::Call(changed, changed.settings), limit), ProfileUpdate::signature);
+    result = ResultOf(Ask(ProfileUpdate::Call(changed, changed.settings), limit), ProfileUpdate::signature);
+    if (result == NetworkManagerResultSuccess) {
+        m_picture->Expect(profile.path);
+    }
+    return result;
 }
 
 NetworkManagerResult CNetworkManagerWLANService::ReadWepKeys(NetworkProfile *profile, const CTimeLimit &limit)
@@ -323,23 +329,26 @@ QDBusMessage CNetworkManagerWLANService::Ask(const QDBusMessage &call, const CTi
     return batch.Replies().at(0);
 }
 
+NetworkManagerResult CNetworkManagerWLANService::Outcome() const
+{
+    return m_picture->Result() != NetworkManagerResultSuccess ? m_picture->Result() : m_picture->Shortfall();
+}
+
 int CNetworkManagerWLANService::GetRememberedList(QList<RememberedList> *list)
 {
     if (!list) {
         return NetworkManagerResultNullPointer;
     }
-    CProfileReader reader(m_client, Patience(), nullptr);
-    reader.Read();
-    const QList<NetworkProfile> &profiles = reader.Profiles();
-    for (int i = 0; i < profiles.size(); ++i) {
-        if (profiles.at(i).kind != NetworkProfile::OtherKind && !profiles.at(i).isHotspot) {
+    const ConnectionPicture &picture = m_picture->Complete();
+    for (const NetworkProfile &profile : picture.profiles) {
+        if (profile.kind != NetworkProfile::OtherKind && !profile.isHotspot) {
             RememberedList remembered;
-            remembered.name = profiles.at(i).name;
-            remembered.type = profiles.at(i).TypeText();
+            remembered.name = profile.name;
+            remembered.type = profile.TypeText();
             list->append(remembered);
         }
     }
-    return Tell("GetRememberedList", OutcomeOf(reader));
+    return Tell("GetRememberedList", Outcome());
 }
 
 int CNetworkManagerWLANService::GetProfileByName(QString name, WLANProfile *profile)
@@ -347,11 +356,9 @@ int CNetworkManagerWLANService::GetProfileByName(QString name, WLANProfile *prof
     if (!profile) {
         return NetworkManagerResultNullPointer;
     }
-    CProfileReader reader(m_client, Patience(), nullptr);
-    reader.Read();
-    const NetworkProfile *known = FindByName(reader.Profiles(), name);
+    const NetworkProfile *known = FindByName(m_picture->Complete().profiles, name);
     if (!known) {
-        const NetworkManagerResult result = Tell("GetProfileByName", OutcomeOf(reader));
+        const NetworkManagerResult result = Tell("GetProfileByName", Outcome());
         return result == NetworkManagerResultSuccess ? NetworkManagerResultUnknownName : result;
     }
     Fill(*known, profile);
@@ -363,34 +370,11 @@ int CNetworkManagerWLANService::GetConfigData(WLANConfigData *config)
     if (!config) {
         return NetworkManagerResultNullPointer;
     }
-    NetworkManagerState state;
-    CallerRights rights;
-    const NetworkManagerResult result = ReadState(&state, &rights);
-    if (result == NetworkManagerResultSuccess) {
-        config->authenticationList = NetworkSecurity::Methods(state.WifiDevices());
+    const ConnectionPicture &picture = m_picture->Complete();
+    if (picture.source == ConnectionState::SourceKnown) {
+        config->authenticationList = NetworkSecurity::Methods(picture.state.WifiDevices());
     }
-    return Tell("GetConfigData", result);
-}
-
-NetworkManagerResult CNetworkManagerWLANService::ReadState(NetworkManagerState *state, CallerRights *rights)
-{
-    if (m_client->IsSilent()) {
-        return NetworkManagerResultNotAnswering;
-    }
-    CCallBatch batch(m_client, QList<QDBusMessage>() << ManagedObjects::Call() << CallerRights::Call(),
-                     Patience(), nullptr);
-    batch.Start();
-    batch.Wait();
-    const QList<QDBusMessage> replies = batch.Replies();
-    const NetworkManagerResult result = ResultOf(replies.at(0), ManagedObjects::signature);
-    m_client->Note(result);
-    if (result == NetworkManagerResultSuccess) {
-        *state = NetworkManagerState::FromObjects(ManagedObjects::FromReply(replies.at(0)));
-    }
-    if (ResultOf(replies.at(1), CallerRights::Signature()) == NetworkManagerResultSuccess) {
-        *rights = CallerRights::FromReply(replies.at(1));
-    }
-    return result;
+    return Tell("GetConfigData", m_picture->Result());
 }
 
 int CNetworkManagerWLANService::GetAvailableNetworks(QList<WlanAvilableNetworkInfo> *list)
@@ -398,36 +382,16 @@ int CNetworkManagerWLANService::GetAvailableNetworks(QList<WlanAvilableNetworkIn
     if (!list) {
         return NetworkManagerResultNullPointer;
     }
-    NetworkManagerState state;
-    CallerRights rights;
-    const NetworkManagerResult result = ReadState(&state, &rights);
-    const QList<AccessPoint> networks = Networks(state);
-    for (int i = 0; i < networks.size(); ++i) {
+    const QList<AccessPoint> networks = Networks(m_picture->Complete().state);
+    for (const AccessPoint &network : networks) {
         WlanAvilableNetworkInfo info;
-        info.networkName = SsidText::FromBytes(networks.at(i).ssid);
-        info.value1 = networks.at(i).strength;
-        info.value2 = NetworkManager::findChannel(networks.at(i).frequency);
+        info.networkName = SsidText::FromBytes(network.ssid);
+        info.value1 = network.strength;
+        info.value2 = NetworkManager::findChannel(network.frequency);
         list->append(info);
     }
-    LookForNetworks(state, rights);
-    return Tell("GetAvailableNetworks", result);
-}
-
-void CNetworkManagerWLANService::LookForNetworks(const NetworkManagerState &state, const CallerRights &rights)
-{
-    const bool isTooSoon = m_sinceLook.isValid() && !m_sinceLook.hasExpired(pauseBetweenLooks);
-    const QList<NetworkDevice> devices = state.WifiDevices();
-    if (devices.isEmpty() || rights.scan != CallerRights::Allowed || isTooSoon) {
-        return;
-    }
-    for (int i = 0; i < devices.size(); ++i) {
-        QDBusMessage call =
-            CNetworkManagerClient::Call(devices.at(i).path, CNetworkManagerClient::WirelessDeviceInterface(),
-                                        QLatin1String("RequestScan"));
-        call << QVariantMap();
-        m_client->Tell(call);
-    }
-    m_sinceLook.start();
+    m_picture->LookForNetworks();
+    return Tell("GetAvailableNetworks", m_picture->Result());
 }
 
 int CNetworkManagerWLANService::GetNetworkProfile(const WlanAvilableNetworkInfo &network,
@@ -437,12 +401,11 @@ int CNetworkManagerWLANService::GetNetworkProfile(const WlanAvilableNetworkInfo 
         return 0;
     }
     const QByteArray ssid = SsidText::ToBytes(network.networkName);
-    CProfileReader reader(m_client, Patience(), nullptr);
-    reader.Read();
-    Tell("GetNetworkProfile", OutcomeOf(reader));
-    const QList<AccessPoint> networks = Networks(reader.State());
+    const ConnectionPicture &picture = m_picture->Complete();
+    Tell("GetNetworkProfile", Outcome());
+    const QList<AccessPoint> networks = Networks(picture.state);
     const AccessPoint *seen = FindNetwork(networks, ssid);
-    const NetworkProfile *known = FindBySsid(reader.Profiles(), ssid);
+    const NetworkProfile *known = FindBySsid(picture.profiles, ssid);
     if (!seen && !known) {
         return 0;
     }

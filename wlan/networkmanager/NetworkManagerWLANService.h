@@ -9,21 +9,19 @@
 
 #include <NetworkManagerQt/GenericTypes>
 
-#include <QElapsedTimer>
-
+class CLivePicture;
 class CNetworkManagerClient;
-class CProfileReader;
 class CTimeLimit;
 class QDBusMessage;
 struct CallerRights;
-struct NetworkManagerState;
 struct NetworkProfile;
 
 /**
  * The WLAN interface over NetworkManager. Results are those of NetworkManagerResult.h, GetNetworkProfile's
- * are 1 and 0. No operation keeps its caller waiting for longer than
- * CNetworkManagerClient::patienceMilliseconds. Keys go to NetworkManager and don't come back, but for the
- * other keys of a WEP profile that gets a new one: NetworkManager would drop them.
+ * are 1 and 0. What is asked for is answered from the live picture: its callers are kept waiting only in the
+ * moments in which something of it is known to be missing, and when something is to be stored, and never for
+ * longer than CNetworkManagerClient::patienceMilliseconds. Keys go to NetworkManager and don't come back, but
+ * for the other keys of a WEP profile that gets a new one: NetworkManager would drop them.
  *
  * Of a network in range, value1 is the signal in percent, value2 the channel or 0 when it is not known, and
  * value3 to value5 are 0.
@@ -34,8 +32,8 @@ class CNetworkManagerWLANService : public QObject, public IWLANUIPlugin
     Q_INTERFACES(IWLANUIPlugin)
 
 public:
-    /** @param client  outlives the service. */
-    CNetworkManagerWLANService(CNetworkManagerClient *client, QObject *parent);
+    /** @param client  outlives the service, as picture does. */
+    CNetworkManagerWLANService(CNetworkManagerClient *client, CLivePicture *picture, QObject *parent);
 
     /**
      * Stores the profile for everybody where this user may do that, and for this user alone otherwise.
@@ -51,7 +49,7 @@ public:
 
     /**
      * In alphabetical order, without hotspots, which are not there to be joined. When NetworkManager gives no
-     * usable answer for all, those for which it did.
+     * usable answer for single ones, those for which it did.
      */
     int GetRememberedList(QList<RememberedList> *list) override;
 
@@ -77,7 +75,7 @@ signals:
 private:
     Q_DISABLE_COPY(CNetworkManagerWLANService)
 
-    NetworkManagerResult ReadState(NetworkManagerState *state, CallerRights *rights);
+    NetworkManagerResult Outcome() const;
     NetworkManagerResult Store(WLANProfile wanted, QString *better);
     NetworkManagerResult Add(const WLANProfile &wanted, const CallerRights &rights, const CTimeLimit &limit);
     NetworkManagerResult Change(const NetworkProfile &profile, const WLANProfile &wanted,
@@ -86,13 +84,12 @@ private:
     NetworkManagerResult ReadWepKeys(NetworkProfile *profile, const CTimeLimit &limit);
     NetworkManagerResult ReadVersionAfterKeys(NetworkProfile *profile, const CTimeLimit &limit);
     QDBusMessage Ask(const QDBusMessage &call, const CTimeLimit &limit);
-    void LookForNetworks(const NetworkManagerState &state, const CallerRights &rights);
     NetworkManagerResult Tell(const char *operation, NetworkManagerResult result);
 
     CNetworkManagerClient *const m_client;
+    CLivePicture *const m_picture;
     CComplaintLog m_complaints{"WLANNetworkManager"};
     CUserNotice m_notice;
-    QElapsedTimer m_sinceLook;
 };
 
 #endif

@@ -67,7 +67,7 @@ bool CWLANPlugin::Init()
         return false;
     }
     m_picture = new CLivePicture(m_client, nullptr);
-    m_service = new CNetworkManagerWLANService(m_client, nullptr);
+    m_service = new CNetworkManagerWLANService(m_client, m_picture, nullptr);
     m_connections = new CNetworkManagerConnections(m_client, m_picture, nullptr);
     m_keeper = new CPriorityKeeper(m_client, UserDataDirectory(), nullptr);
     connect(m_service, SIGNAL(AboutToChange()), m_keeper, SLOT(StartAgain()));
