@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 /* The values that cross the boundary, as somebody who has only their layout writes them down. */
 
@@ -47,6 +48,32 @@ struct Configuration {
     QList<QString> texts2;
     QList<QString> texts3;
     QList<SignOn> signOns;
+};
+
+enum ActiveText { ActiveName = 2, ActiveTextCount = 6 };
+
+struct Active {
+    QString texts[ActiveTextCount];
+    int stage;
+    int signal;
+    bool carriesTraffic;
+    bool isVpn;
+};
+
+struct Visible {
+    QString id;
+    QString name;
+    QString security;
+    int protection;
+    int signal;
+    QStringList profileIds;
+    bool isInUse;
+};
+
+struct Attempt {
+    QString name;
+    QString profileId;
+    int numbers[3];
 };
 
 #endif

@@ -17,10 +17,17 @@ typedef int (*RememberedOperation)(void *, QList<Entry> *);
 typedef int (*ByNameOperation)(void *, QString, Profile *);
 typedef int (*ConfigurationOperation)(void *, Configuration *);
 typedef int (*NetworksOperation)(void *, QList<Network> *);
+typedef void (*ActiveOperation)(void *, QList<Active> *);
+typedef void (*VisibleOperation)(void *, QList<Visible> *);
+typedef int (*ConnectOperation)(void *, const QString &);
+typedef void (*CancelOperation)(void *, int);
+typedef void (*AttemptOperation)(void *, int, Attempt *);
 typedef int (*NetworkProfileOperation)(void *, const Network &, Profile *);
 
 const char *const wlanIdentifier = "com.torvik.netquillforge.plugin.IWLANUIPlugin";
 const int wlanNumber = 4102;
+const char *const connectionsIdentifier = "com.torvik.netquillforge.plugin.IConnectionPlugin";
+const int connectionsNumber = 4104;
 
 const int createPosition = 7;
 const int rememberedPosition = 8;
@@ -61,10 +68,15 @@ private slots:
     void TwentyThirdGivesTheProfileOfANetwork();
     void ReservedPositionsDoNothing();
 
+    void OperationsOfConnectionsHaveTheirNames_data();
+    void OperationsOfConnectionsHaveTheirNames();
+    void ConnectionsGoThroughTheirPositions();
+
 private:
     void *Root() { return m_library.Root()->qt_metacast(rootIdentifier); }
     void *DestroyPart() { return NextPart(Root()); }
     QObject *Service();
+    void *Connections();
     void *Wlan() { return Service()->qt_metacast(wlanIdentifier); }
     void Restart() { At<PlainOperation>(DestroyPart(), DestroyTable::onDestroy)(DestroyPart()); }
     void CompareName(const QString &expected, void *part, int position);
@@ -90,6 +102,13 @@ QObject *StoredPositionsTest::Service()
     QObject *service = nullptr;
     At<QueryOperation>(Root(), RootTable::queryInterface)(Root(), wlanNumber, &service);
     return service;
+}
+
+void *StoredPositionsTest::Connections()
+{
+    QObject *service = nullptr;
+    At<QueryOperation>(Root(), RootTable::queryInterface)(Root(), connectionsNumber, &service);
+    return service ? service->qt_metacast(connectionsIdentifier) : nullptr;
 }
 
 void StoredPositionsTest::CompareName(const QString &expected, void *part, int position)
@@ -329,6 +348,52 @@ void StoredPositionsTest::ReservedPositionsDoNothing()
         At<PlainOperation>(Wlan(), position)(Wlan());
     }
     QCOMPARE(m_directory->Read("WLANProfiles.xml"), before);
+}
+
+void StoredPositionsTest::OperationsOfConnectionsHaveTheirNames_data()
+{
+    QTest::addColumn<int>("position");
+    const char *const names[] = {
+        "GetConnectionState", "GetActiveConnections", "GetProfiles", "GetVisibleNetworks", "LookForNetworks",
+        "ConnectProfile",     "ConnectNetwork",       "Disconnect",  "GetAttempt",         "CancelAttempt"};
+    int position = 3;
+    for (const char *name : names) {
+        QTest::newRow(QByteArray("CStoredConnections::") + name) << position;
+        ++position;
+    }
+}
+
+void StoredPositionsTest::OperationsOfConnectionsHaveTheirNames()
+{
+    QFETCH(int, position);
+    CompareName(QTest::currentDataTag(), Connections(), position);
+}
+
+void StoredPositionsTest::ConnectionsGoThroughTheirPositions()
+{
+    QVERIFY(Connections());
+    QList<Visible> networks;
+    At<VisibleOperation>(Connections(), 6)(Connections(), &networks);
+    QVERIFY(!networks.isEmpty());
+    const Visible home = networks.first();
+    QCOMPARE(home.name, QString("Home"));
+    QCOMPARE(home.signal, 92);
+    QCOMPARE(home.profileIds.size(), 1);
+    const int number = At<ConnectOperation>(Connections(), 8)(Connections(), home.profileIds.first());
+    QVERIFY(number > 0);
+    Attempt attempt = Attempt();
+    At<AttemptOperation>(Connections(), 11)(Connections(), number, &attempt);
+    QCOMPARE(attempt.name, QString("Home"));
+    QCOMPARE(attempt.profileId, home.profileIds.first());
+    QCOMPARE(attempt.numbers[0], 1);
+    QList<Active> active;
+    At<ActiveOperation>(Connections(), 4)(Connections(), &active);
+    QCOMPARE(static_cast<int>(active.size()), 1);
+    QCOMPARE(active.first().texts[ActiveName], QString("Home"));
+    QCOMPARE(active.first().signal, 92);
+    At<CancelOperation>(Connections(), 12)(Connections(), number);
+    At<AttemptOperation>(Connections(), 11)(Connections(), number, &attempt);
+    QCOMPARE(attempt.numbers[0], 8);
 }
 
 QTEST_GUILESS_MAIN(StoredPositionsTest)

@@ -45,8 +45,32 @@ XmlRecordFormat NetworkFormat()
     format.rootElement = QLatin1String("wlannetworks");
     format.recordElement = QLatin1String("network");
     format.attributes << QLatin1String("name") << QLatin1String("signal") << QLatin1String("channel")
-                      << QLatin1String("authentication") << QLatin1String("encryption");
+                      << QLatin1String("authentication") << QLatin1String("encryption")
+                      << QLatin1String("failure");
     return format;
+}
+
+struct FailureWord {
+    const char *word;
+    int failure;
+};
+
+const FailureWord failureWords[] = {
+    {"", FailureNone},           {"key", FailureWrongKey},
+    {"answer", FailureNoAnswer}, {"address", FailureNoAddress},
+    {"refused", FailureRefused},
+};
+
+/** False when there is no such word. */
+bool ReadFailure(const QString &text, int *failure)
+{
+    for (const FailureWord &entry : failureWords) {
+        if (text == QLatin1String(entry.word)) {
+            *failure = entry.failure;
+            return true;
+        }
+    }
+    return false;
 }
 
 /** Appends the network of record, unless its signal can't be used. */
@@ -71,6 +95,9 @@ void AppendNetwork(const XmlRecord &record, const QString &path, QList<NetworkIn
     }
     network.authentication = record.values.value(QLatin1String("authentication"), QLatin1String("open"));
     network.encryption = record.values.value(QLatin1String("encryption"), QLatin1String("none"));
+    if (!ReadFailure(record.values.value(QLatin1String("failure")), &network.failure)) {
+        complaints->append(place + QLatin1String("there is no such failure, it is taken as none"));
+    }
     networks->append(network);
 }
 

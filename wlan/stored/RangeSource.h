@@ -4,6 +4,8 @@
 #include "ComplaintLog.h"
 #include "WLANResult.h"
 
+#include <ConnectionRecords.h>
+
 #include <QList>
 #include <QString>
 
@@ -16,6 +18,8 @@ struct NetworkInRange {
     /** As in WLANProfile. */
     QString authentication;
     QString encryption;
+    /** How connecting to it fails, a ConnectionFailure. */
+    int failure = FailureNone;
 };
 
 /**
@@ -27,8 +31,9 @@ struct NetworkInRange {
  *     </wlannetworks>
  *
  * signal is a whole number from 0 to 100; a network without a usable one is left out. channel may be missing.
- * authentication and encryption are the words of WLANProfile, "open" and "none" when they are missing. Texts
- * are escaped as XmlRecords tells. What is wrong in the file is told in the log, with its line.
+ * authentication and encryption are the words of WLANProfile, "open" and "none" when they are missing.
+ * failure has connecting to the network fail, in one of the words "key", "answer", "address" and "refused".
+ * Texts are escaped as XmlRecords tells. What is wrong in the file is told in the log, with its line.
  */
 class CRangeSource
 {

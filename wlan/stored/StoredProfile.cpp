@@ -8,23 +8,31 @@ StoredProfile WifiProfile(const QString &name, const char *authentication, const
 {
     StoredProfile stored;
     stored.type = QLatin1String("1");
-    WLANProfile &profile = stored.profile;
+    stored.profile =
+        NewWifiProfile(name, QLatin1String(authentication), QLatin1String(encryption), QLatin1String(key));
+    return stored;
+}
+
+} // namespace
+
+WLANProfile NewWifiProfile(const QString &name, const QString &authentication, const QString &encryption,
+                           const QString &key)
+{
+    WLANProfile profile;
     profile.profileName = name;
     profile.ssid = name;
     profile.text4 = QLatin1String("0");
     profile.bssType = QLatin1String("ESS");
     profile.connectionMode = QLatin1String("manual");
-    profile.authentication = QLatin1String(authentication);
-    profile.encryption = QLatin1String(encryption);
+    profile.authentication = authentication;
+    profile.encryption = encryption;
     profile.keyType = profile.encryption == QLatin1String("WEP") ? QLatin1String("networkKey")
                                                                  : QLatin1String("passPhrase");
     profile.keyFlag = QLatin1String("false");
-    profile.keyMaterial = QLatin1String(key);
+    profile.keyMaterial = key;
     profile.keyIndex = QLatin1String("0");
-    return stored;
+    return profile;
 }
-
-} // namespace
 
 QList<StoredProfile> SampleProfiles()
 {

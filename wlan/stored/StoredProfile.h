@@ -14,6 +14,10 @@ struct StoredProfile {
     bool IsWifi() const { return type == QLatin1String("1"); }
 };
 
+/** As the New dialog makes them. */
+WLANProfile NewWifiProfile(const QString &name, const QString &authentication, const QString &encryption,
+                           const QString &key);
+
 /** What a new user finds remembered. */
 QList<StoredProfile> SampleProfiles();
 

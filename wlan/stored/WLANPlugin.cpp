@@ -1,11 +1,13 @@
 #include "WLANPlugin.h"
 
+#include "StoredConnections.h"
 #include "StoredWLANService.h"
 
 namespace
 {
 
 const int wlanInterfaceNumber = 0x1006;
+const int connectionInterfaceNumber = 0x1008;
 
 } // namespace
 
@@ -15,7 +17,7 @@ CWLANPlugin::CWLANPlugin() : QObject(nullptr) {}
 
 CWLANPlugin::~CWLANPlugin()
 {
-    delete m_service;
+    CWLANPlugin::OnDestroy();
 }
 
 void CWLANPlugin::Release() {}
@@ -27,6 +29,7 @@ int CWLANPlugin::GetLastError()
 
 void CWLANPlugin::OnDestroy()
 {
+    delete m_connections;
     delete m_service;
 }
 
@@ -64,14 +67,24 @@ bool CWLANPlugin::IsAllowRelease()
 
 bool CWLANPlugin::QueryInterface(int interfaceNumber, QObject **object)
 {
-    if (interfaceNumber != wlanInterfaceNumber || !object) {
+    if (!object) {
         return false;
     }
-    if (!m_service) {
-        m_service = new CStoredWLANService(nullptr);
+    if (interfaceNumber == wlanInterfaceNumber) {
+        if (!m_service) {
+            m_service = new CStoredWLANService(nullptr);
+        }
+        *object = m_service;
+        return true;
     }
-    *object = m_service;
-    return true;
+    if (interfaceNumber == connectionInterfaceNumber) {
+        if (!m_connections) {
+            m_connections = new CStoredConnections(nullptr);
+        }
+        *object = m_connections;
+        return true;
+    }
+    return false;
 }
 
 bool CWLANPlugin::ShowWindow(QWidget *, QRect &)

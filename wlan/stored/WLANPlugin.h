@@ -6,6 +6,7 @@
 
 #include <QPointer>
 
+class CStoredConnections;
 class CStoredWLANService;
 
 /** Root object of the WLAN plug-in that keeps its profiles in a file. It has no window and no settings page.
@@ -45,6 +46,7 @@ private:
     Q_DISABLE_COPY(CWLANPlugin)
 
     QPointer<CStoredWLANService> m_service;
+    QPointer<CStoredConnections> m_connections;
 };
 
 #endif
