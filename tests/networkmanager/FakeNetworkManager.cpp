@@ -298,10 +298,20 @@ void FakeNetworkManager::SetConnectionState(const QString &activeConnection, uns
         const QMutexLocker locker(&m_mutex);
         Put(activeConnection, activeInterface, "State", state);
         if (state == deactivated) {
-            TakeAway(activeConnection);
+            EndConnection(activeConnection);
         }
     }
     Settle();
+}
+
+void FakeNetworkManager::EndConnection(const QString &activeConnection)
+{
+    const QString profile =
+        m_objects[activeConnection][activeInterface]["Connection"].value<QDBusObjectPath>().path();
+    TakeAway(activeConnection);
+    if (m_objects.value(profile).value(profileInterface).value("Flags").toUInt() == volatileFlag) {
+        TakeAway(profile);
+    }
 }
 
 void FakeNetworkManager::SetDeviceState(const QString &device, unsigned int state, unsigned int reason)
@@ -319,11 +329,9 @@ void FakeNetworkManager::SetDeviceState(const QString &device, unsigned int stat
 void FakeNetworkManager::Fail(const QString &activeConnection, unsigned int reason)
 {
     QString device;
-    QString profile;
     {
         const QMutexLocker locker(&m_mutex);
         const QVariantMap properties = m_objects.value(activeConnection).value(activeInterface);
-        profile = properties.value("Connection").value<QDBusObjectPath>().path();
         device = properties.value("Devices").value<QList<QDBusObjectPath>>().value(0).path();
     }
     SetDeviceState(device, failed, reason);
@@ -331,9 +339,6 @@ void FakeNetworkManager::Fail(const QString &activeConnection, unsigned int reas
     {
         const QMutexLocker locker(&m_mutex);
         Put(device, deviceInterface, "ActiveConnection", PathValue("/"));
-        if (m_objects.value(profile).value(profileInterface).value("Flags").toUInt() == volatileFlag) {
-            TakeAway(profile);
-        }
     }
     SetDeviceState(device, disconnected);
 }
@@ -595,13 +600,8 @@ QDBusMessage FakeNetworkManager::AnswerOfManager(const QDBusMessage &call)
             return call.createErrorReply("org.freedesktop.NetworkManager.ConnectionNotActive",
                                          "there is none");
         }
-        const QString profile =
-            m_objects[connection][activeInterface]["Connection"].value<QDBusObjectPath>().path();
         Put(connection, activeInterface, "State", deactivated);
-        TakeAway(connection);
-        if (m_objects.value(profile).value(profileInterface).value("Flags").toUInt() == volatileFlag) {
-            TakeAway(profile);
-        }
+        EndConnection(connection);
         return call.createReply();
     }
     return call.createErrorReply(noSuchObject, "there is no such method");

@@ -116,6 +116,7 @@ private:
     QString Store(const NMVariantMapMap &settings);
     QString MakeConnection(const QString &profile, unsigned int state, const QString &device);
     QDBusMessage AnswerOfManager(const QDBusMessage &call);
+    void EndConnection(const QString &activeConnection);
     void TellOfObject(const QString &path);
     void TakeAway(const QString &path);
     void Put(const QString &path, const QString &interface, const QString &property, const QVariant &value);

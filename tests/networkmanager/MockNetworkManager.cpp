@@ -13,6 +13,7 @@ namespace
 
 const char service[] = "org.freedesktop.NetworkManager";
 const char managerPath[] = "/org/freedesktop/NetworkManager";
+const char managerInterface[] = "org.freedesktop.NetworkManager";
 const char settingsPath[] = "/org/freedesktop/NetworkManager/Settings";
 const char settingsInterface[] = "org.freedesktop.NetworkManager.Settings";
 const char profileInterface[] = "org.freedesktop.NetworkManager.Settings.Connection";
@@ -134,6 +135,22 @@ QString MockNetworkManager::AddActiveConnection(const QString &device, const QSt
     return Control("AddActiveConnection", QList<QVariant>() << QStringList(device) << profile << "/"
                                                             << QString::number(m_count) << state)
         .toString();
+}
+
+void MockNetworkManager::RemoveActiveConnection(const QString &device, const QString &activeConnection)
+{
+    Control("RemoveActiveConnection", QList<QVariant>() << device << activeConnection);
+}
+
+void MockNetworkManager::AddManagerProperty(const QString &property, const QVariant &value)
+{
+    Control("AddProperty", QList<QVariant>()
+                               << managerInterface << property << QVariant::fromValue(QDBusVariant(value)));
+}
+
+void MockNetworkManager::SetManagerProperty(const QString &property, const QVariant &value)
+{
+    SetProperty(managerPath, managerInterface, property, value);
 }
 
 void MockNetworkManager::RemoveAccessPoint(const QString &device, const QString &accessPoint)

@@ -38,8 +38,13 @@ public:
     QString AddProfile(const NMVariantMapMap &settings);
     QString AddActiveConnection(const QString &device, const QString &profile, unsigned int state);
 
+    void RemoveActiveConnection(const QString &device, const QString &activeConnection);
     void RemoveAccessPoint(const QString &device, const QString &accessPoint);
     void DeleteProfile(const QString &profile);
+
+    /** One that the template lacks, before anybody asks. */
+    void AddManagerProperty(const QString &property, const QVariant &value);
+    void SetManagerProperty(const QString &property, const QVariant &value);
 
     /** Others are told. */
     void SetProperty(const QString &path, const QString &interface, const QString &property,

@@ -41,6 +41,7 @@ protected:
 
 private slots:
     void TellSoon();
+    void Tell();
 
 private:
     Q_DISABLE_COPY(CNetworkManagerConnections)
@@ -52,8 +53,6 @@ private:
     CLivePicture *const m_picture;
     CConnectAttempts m_attempts;
     bool m_isToTell;
-
-    Q_INVOKABLE void Tell();
 };
 
 #endif
