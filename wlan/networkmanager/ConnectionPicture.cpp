@@ -12,6 +12,7 @@
 #include <QPair>
 
 #include <algorithm>
+#include <utility>
 
 namespace
 {
@@ -278,7 +279,7 @@ ConnectionRecords ConnectionRecords::Of(const ConnectionPicture &picture)
     const Places places(picture);
     records.connections = ConnectionsOf(picture, places);
     ConnectionsByProfile inUse;
-    for (const ActiveConnection &connection : records.connections) {
+    for (const ActiveConnection &connection : std::as_const(records.connections)) {
         inUse.insert(connection.profileId, connection);
     }
     const CProfileReach reach(picture.state);

@@ -15,6 +15,7 @@
 #include <QEvent>
 
 #include <algorithm>
+#include <utility>
 
 namespace
 {
@@ -100,7 +101,7 @@ const ConnectionPicture &CLivePicture::Complete()
     if (m_batch || !m_due.isEmpty()) {
         if (m_batch) {
             delete m_batch;
-            for (const QString &path : m_asked) {
+            for (const QString &path : std::as_const(m_asked)) {
                 m_due.insert(path);
             }
         }
@@ -242,7 +243,7 @@ CCallBatch *CLivePicture::NewBatch(int limitMilliseconds)
     m_asked = m_due.values();
     m_due.clear();
     QList<QDBusMessage> calls;
-    for (const QString &path : m_asked) {
+    for (const QString &path : std::as_const(m_asked)) {
         calls.append(CNetworkManagerClient::Call(path, CNetworkManagerClient::ProfileInterface(),
                                                  QLatin1String("GetSettings")));
     }

@@ -6,6 +6,7 @@
 #include <NetworkManagerQt/Utils>
 
 #include <algorithm>
+#include <utility>
 
 namespace
 {
@@ -119,8 +120,7 @@ bool IsStronger(const Sighting &left, const Sighting &right)
 
 CProfileReach::Reach None(int use)
 {
-    const CProfileReach::Reach reach = {use, QList<Sighting>(), nullptr};
-    return reach;
+    return {use, QList<Sighting>(), nullptr};
 }
 
 /** Why there is nothing whatever the profile is; UsePossible when there may be something. */
@@ -181,7 +181,7 @@ QList<Sighting> CProfileReach::Named(const NetworkProfile &profile) const
         places += m_hidden.values(station);
     }
     QList<Sighting> sightings;
-    for (int place : places) {
+    for (int place : std::as_const(places)) {
         if (IsOfMode(profile, *m_sightings.at(place).point)) {
             sightings.append(m_sightings.at(place));
         }
@@ -247,8 +247,7 @@ CProfileReach::Reach CProfileReach::OfMobile(const NetworkProfile &profile) cons
             continue;
         }
         if (device.IsReady() && UseOf(m_state.mobile, true) == ConnectionProfile::UsePossible) {
-            const Reach reach = {ConnectionProfile::UsePossible, QList<Sighting>(), &device};
-            return reach;
+            return {ConnectionProfile::UsePossible, QList<Sighting>(), &device};
         }
         use = IsSimLocked(device) ? ConnectionProfile::UseSimLocked : ConnectionProfile::UseNoDevice;
     }
