@@ -20,7 +20,9 @@
  *
  * The object has the signal OnConnectionsChanged(), without arguments, emitted after every change of anything
  * that is told here, orders included; connect to it by name. Changes that come close together are told once,
- * from the event loop and never from inside an operation. Who reads at a signal misses nothing.
+ * from the event loop and never from inside an operation. Who reads at a signal misses nothing. Be connected
+ * only while somebody looks, not while the window is minimised, and read once when somebody looks again:
+ * while there is a connection, a plug-in may ask its connection manager for a sign now and then.
  *
  * All calls come on the GUI thread. None waits: what is told comes from memory, what is ordered is begun, and
  * the signal tells how it goes on. What is told at one time is of one time. Outputs belong to the caller;

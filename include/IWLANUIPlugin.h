@@ -71,7 +71,11 @@ public:
     virtual void Reserved20() {}
     virtual void Reserved21() {}
 
-    /** 22: appends the networks now in range, best first, to *list. The result is ignored. */
+    /**
+     * 22: appends the networks now in range, best first, to *list. The result is ignored. For a dialog that
+     * lists networks, when it opens: devices may be told to look for networks. Who wants to follow them asks
+     * IConnectionPlugin, which tells of every change and tells devices nothing.
+     */
     virtual int GetAvailableNetworks(QList<WlanAvilableNetworkInfo> *list) = 0;
 
     /**

@@ -23,6 +23,8 @@ const unsigned int ccmp = 0x8;
 const unsigned int psk = 0x100;
 const unsigned int eap = 0x200;
 
+const int longerThanTheFirstSign = 8000;
+
 const char networkControl[] = "org.freedesktop.NetworkManager.network-control";
 const char activeInterface[] = "org.freedesktop.NetworkManager.Connection.Active";
 const char accessPointInterface[] = "org.freedesktop.NetworkManager.AccessPoint";
@@ -49,6 +51,8 @@ private slots:
     void NoCallWaits();
     void DialogsAreAnsweredFromMemory();
     void IdleAsksLittle();
+    void NothingIsAskedWhileNobodyWatches();
+    void WhoSpeaksIsNotAskedForASign();
     void DevicesLookForNetworksWhenOrdered();
     void ProfileThatIsChangedWhileItIsReadIsReadAgain();
     void LargePictureIsRead();
@@ -294,6 +298,34 @@ void tst_networkmanagerconnections::IdleAsksLittle()
     QVERIFY2(Fake().CallCount() <= 5, qPrintable(QString::number(Fake().CallCount())));
     QCOMPARE(Fake().CallCount("RequestScan"), 0);
     QCOMPARE(Fake().CallCount("GetManagedObjects"), 0);
+}
+
+void tst_networkmanagerconnections::NothingIsAskedWhileNobodyWatches()
+{
+    QTRY_COMPARE(LoadedWLAN::State().source, int(ConnectionState::SourceKnown));
+    {
+        QSignalSpy deleted(LoadedWLAN::ConnectionService(), SIGNAL(OnConnectionsChanged()));
+        QTest::qWait(500);
+    }
+    Fake().ForgetCalls();
+    QTest::qWait(longerThanTheFirstSign);
+    QCOMPARE(Fake().CallCount(), 0);
+}
+
+void tst_networkmanagerconnections::WhoSpeaksIsNotAskedForASign()
+{
+    Fake().AddDevice();
+    const QString point = Fake().AddAccessPoint("net", 40);
+    QTRY_COMPARE(LoadedWLAN::Networks().size(), 1);
+    QSignalSpy told(LoadedWLAN::ConnectionService(), SIGNAL(OnConnectionsChanged()));
+    QTest::qWait(500);
+    Fake().ForgetCalls();
+    for (int strength = 0; strength < longerThanTheFirstSign / 1000; ++strength) {
+        Fake().SetProperty(point, accessPointInterface, "Strength",
+                           QVariant::fromValue(static_cast<uchar>(strength)));
+        QTest::qWait(1000);
+    }
+    QCOMPARE(Fake().CallCount(), 0);
 }
 
 void tst_networkmanagerconnections::DevicesLookForNetworksWhenOrdered()

@@ -182,6 +182,10 @@ void CLivePicture::TakeReading()
 
 void CLivePicture::TakeSignal(const QDBusMessage &signal)
 {
+    if (m_check.isActive()) {
+        // Who speaks need not be asked for a sign.
+        m_check.start();
+    }
     if (m_reader) {
         m_early.append(signal);
     } else if (m_picture.source == ConnectionState::SourceKnown) {
@@ -406,7 +410,8 @@ void CLivePicture::TakeSilence()
 
 void CLivePicture::Check()
 {
-    if (m_picture.source == ConnectionState::SourceKnown) {
+    emit AboutToAskForSign();
+    if (m_check.isActive() && m_picture.source == ConnectionState::SourceKnown) {
         m_client->Check();
     }
 }

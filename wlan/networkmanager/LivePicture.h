@@ -54,7 +54,11 @@ public:
     /** Has the devices look for networks, where the user may order that, but not again and again. */
     void LookForNetworks();
 
-    /** While somebody watches, a NetworkManager that falls silent is found out within seconds. */
+    /**
+     * While somebody watches, a NetworkManager that falls silent is found out within seconds: it is asked for
+     * a sign when it has told nothing for a while. There is no other way to tell it from one that has nothing
+     * to tell. While nobody watches, it is not asked.
+     */
     void SetWatched(bool isWatched);
 
     /** The profile of a connection that is there now; empty when it has none. */
@@ -63,6 +67,9 @@ public:
 signals:
     /** Once for changes that come close together. */
     void Changed();
+
+    /** Is the moment to tell that nobody watches any more. */
+    void AboutToAskForSign();
 
     /** At once, before Changed, so that no state is missed. */
     void ConnectionMoved(const QString &connection);

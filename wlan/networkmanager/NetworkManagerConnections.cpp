@@ -49,6 +49,7 @@ CNetworkManagerConnections::CNetworkManagerConnections(CNetworkManagerClient *cl
     : QObject(parent), m_picture(picture), m_attempts(client, picture, nullptr), m_isToTell(false)
 {
     connect(m_picture, SIGNAL(Changed()), this, SIGNAL(OnConnectionsChanged()));
+    connect(m_picture, SIGNAL(AboutToAskForSign()), this, SLOT(LookWhoWatches()));
     connect(&m_attempts, SIGNAL(Changed()), this, SLOT(TellSoon()));
 }
 
@@ -73,8 +74,9 @@ void CNetworkManagerConnections::connectNotify(const QMetaMethod &signal)
     }
 }
 
-void CNetworkManagerConnections::disconnectNotify(const QMetaMethod &)
+void CNetworkManagerConnections::LookWhoWatches()
 {
+    // Nobody is told of a receiver that is deleted.
     m_picture->SetWatched(
         isSignalConnected(QMetaMethod::fromSignal(&CNetworkManagerConnections::OnConnectionsChanged)));
 }

@@ -37,11 +37,11 @@ signals:
 
 protected:
     void connectNotify(const QMetaMethod &signal) override;
-    void disconnectNotify(const QMetaMethod &signal) override;
 
 private slots:
     void TellSoon();
     void Tell();
+    void LookWhoWatches();
 
 private:
     Q_DISABLE_COPY(CNetworkManagerConnections)
