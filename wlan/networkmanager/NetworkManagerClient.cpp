@@ -229,8 +229,8 @@ void CNetworkManagerClient::TakeCheck(QDBusPendingCallWatcher *watcher)
 
 void CNetworkManagerClient::AskForSign()
 {
-    QDBusPendingCallWatcher *sign = new QDBusPendingCallWatcher(Send(VersionCall(), signMilliseconds), this);
-    connect(sign, SIGNAL(finished(QDBusPendingCallWatcher *)), this,
+    m_sign = new QDBusPendingCallWatcher(Send(VersionCall(), signMilliseconds), this);
+    connect(m_sign, SIGNAL(finished(QDBusPendingCallWatcher *)), this,
             SLOT(TakeSign(QDBusPendingCallWatcher *)));
 }
 

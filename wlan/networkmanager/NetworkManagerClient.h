@@ -129,6 +129,7 @@ private:
     bool m_isSilent;
     bool m_isLost;
     QPointer<QDBusPendingCallWatcher> m_check;
+    QPointer<QDBusPendingCallWatcher> m_sign;
 };
 
 #endif

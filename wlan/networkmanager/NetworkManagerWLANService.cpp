@@ -10,7 +10,6 @@
 
 #include <ProfileRules.h>
 
-#include <NetworkManagerQt/ConnectionSettings>
 #include <NetworkManagerQt/Utils>
 
 #include <QDBusArgument>
@@ -18,8 +17,6 @@
 #include <QSet>
 
 #include <algorithm>
-
-using NetworkManager::ConnectionSettings;
 
 namespace
 {
