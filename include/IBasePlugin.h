@@ -45,8 +45,8 @@ public:
     /**
      * Hands out the object that implements an interface.
      *
-     * @param interfaceNumber  the host's number of the interface: 4098 (0x1002) and 4103 (0x1007) are the
-     * settings page and the priority list, 4102 (0x1006) is the WLAN interface.
+     * @param interfaceNumber  the host's number of the interface, one of InterfaceNumber (ContractNumbers.h)
+     * or of numbers that only the host knows.
      * @param object           receives the object, which stays the plug-in's; to be cast with qobject_cast by
      *                         interface identifier. Must not be null. Left untouched when the result is
      * false.

@@ -11,9 +11,9 @@
  * What a WLAN plug-in tells about connections, and does with them. It stands beside IWLANUIPlugin, whose
  * table stays as it is.
  *
- * Obtained from the host's container (Startup::GetPluginContainer) with the WLAN plug-in's class id
- * "7545FB07-0E7A-4F27-A449-872DB09C106D" and the number 4104, then qobject_cast. It may be another object
- * than the one for 4102. Look it up each time it is needed: it is invalid after the host's OnDestroy.
+ * Obtained from the host's container (Startup::GetPluginContainer) with wlanClassId and ConnectionInterface,
+ * then qobject_cast. It may be another object than the one for WLANInterface. Look it up each time it is
+ * needed: it is invalid after the host's OnDestroy.
  *
  * A WLAN plug-in need not have it. Then nothing is known of connections, which is what callers say: they
  * don't guess it from the networks in range.

@@ -16,9 +16,9 @@ public:
     /**
      * Something happened in the host. Sent on the GUI thread, after Init.
      *
-     * Event 320 (0x140) is the language change: the host has switched the language that Change::tr and
-     * Change::GetLangName answer for, before it sends the event. Every other event number, and both further
-     * arguments, have meanings of the host's; a plug-in ignores what it doesn't know.
+     * LanguageChangeEvent (ContractNumbers.h) is the language change: the host has switched the language that
+     * Change::tr and Change::GetLangName answer for, before it sends the event. Every other event number, and
+     * both further arguments, have meanings of the host's; a plug-in ignores what it doesn't know.
      *
      * @return 0.
      */

@@ -1,6 +1,7 @@
 #ifndef IPRIORITYPLUGIN_H
 #define IPRIORITYPLUGIN_H
 
+#include "ContractNumbers.h"
 #include "PriorityList.h"
 
 #include <QList>
@@ -9,9 +10,9 @@
 /**
  * The priority list as other plug-ins reach it.
  *
- * Obtained from the host's container (Startup::GetPluginContainer) with the class id
- * "D78C8E0F-7A3F-4f51-87E3-753F0F7F0E05" and the number 4098 or 4103, then qobject_cast. Look it up each time
- * it is needed: it is invalid after the host's OnDestroy. All calls come on the GUI thread.
+ * Obtained from the host's container (Startup::GetPluginContainer) with priorityClassId and SettingInterface
+ * or PriorityInterface, then qobject_cast. Look it up each time it is needed: it is invalid after the host's
+ * OnDestroy. All calls come on the GUI thread.
  *
  * Every operation works on the file Priority.xml at once, not on what an open settings page shows. An open
  * page follows the change before the operation returns. The same object has the signal
@@ -28,11 +29,7 @@ public:
     /**
      * Appends the stored entries, highest priority first, to *list, which is not cleared.
      *
-     * @return 0    read;
-     *         6    the file is not well-formed: the entries before the error were appended;
-     *         23   there is no file yet, or list is null;
-     *         25   the file is there but could not be opened.
-     *         After OnDestroy: 0, with nothing appended.
+     * @return a PriorityResult. After OnDestroy: PriorityRead, with nothing appended.
      */
     virtual int GetPriorityList(QList<PriorityList> *list) = 0;
 

@@ -9,8 +9,8 @@
 /**
  * A page of the host's settings dialog.
  *
- * Obtained with IBasePlugin::QueryInterface (4098 or 4103) and qobject_cast. Valid until
- * IDestroyEvent::OnDestroy.
+ * Obtained with IBasePlugin::QueryInterface (SettingInterface or PriorityInterface) and qobject_cast. Valid
+ * until IDestroyEvent::OnDestroy.
  *
  * Table: destructor, then the operations below in their order.
  *

@@ -11,9 +11,9 @@
  * What the WLAN plug-in offers the priority plug-in: the remembered profiles, the networks in range, and the
  * storing of new profiles.
  *
- * Obtained from the host's container (Startup::GetPluginContainer) with the class id
- * "7545FB07-0E7A-4F27-A449-872DB09C106D" and the number 4102, then qobject_cast. Callers look it up for every
- * operation, keep nothing, and quietly skip what needed it when any step yields null.
+ * Obtained from the host's container (Startup::GetPluginContainer) with wlanClassId and WLANInterface, then
+ * qobject_cast. Callers look it up for every operation, keep nothing, and quietly skip what needed it when
+ * any step yields null.
  *
  * All calls come on the GUI thread and are synchronous: when an operation returns, its output is filled.
  * Outputs belong to the caller and are never null. Nothing is thrown across this interface.

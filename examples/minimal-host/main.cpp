@@ -65,13 +65,13 @@ int main(int argc, char **argv)
     const bool isPicture = arguments.value(1) == QLatin1String("--picture");
 
     Container container;
-    const QString classId = QLatin1String("D78C8E0F-7A3F-4f51-87E3-753F0F7F0E05");
+    const QString classId = QLatin1String(priorityClassId);
     const QString file = QLatin1String("/plugins/PriorityPlugin/libPriorityPlugin.so");
     container.Load(CommonUtils::GetPluginLibraryPath() + file, classId);
     for (int i = isPicture ? 3 : 1; i < arguments.size(); ++i) {
         container.Load(arguments.at(i), QString());
     }
-    QObject *service = container.GetPluginObject(classId, 4098);
+    QObject *service = container.GetPluginObject(classId, SettingInterface);
     ISettingUIPlugin *page = qobject_cast<ISettingUIPlugin *>(service);
     if (!page) {
         return 1;

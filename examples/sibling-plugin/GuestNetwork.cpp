@@ -26,8 +26,7 @@ namespace
 QObject *PriorityService()
 {
     IPluginContainer *container = Startup::GetPluginContainer();
-    return container ? container->GetPluginObject(QLatin1String("D78C8E0F-7A3F-4f51-87E3-753F0F7F0E05"), 4103)
-                     : nullptr;
+    return container ? container->GetPluginObject(QLatin1String(priorityClassId), PriorityInterface) : nullptr;
 }
 
 PriorityList WifiEntry(const char *name)
@@ -68,8 +67,8 @@ void GuestNetwork::ExtendList()
 
     QList<PriorityList> list;
     const int result = priority->GetPriorityList(&list);
-    if (result != 0 && result != 23) {
-        // Damaged (6) or not readable (25): adding to it now would replace what could not be read.
+    if (result != PriorityRead && result != PriorityMissing) {
+        // Damaged or not readable: adding to it now would replace what could not be read.
         qWarning("GuestNetwork: the list can't be read (%d), so it is left alone", result);
         return;
     }

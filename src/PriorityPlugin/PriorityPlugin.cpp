@@ -3,14 +3,12 @@
 #include "FunctonTrick.h"
 #include "PriorityService.h"
 
+#include <ContractNumbers.h>
+
 namespace
 {
 
 const char sourcePath[] = "../../src/PriorityPlugin/PriorityPlugin.cpp";
-
-const int settingInterfaceNumber = 0x1002;
-const int priorityInterfaceNumber = 0x1007;
-const unsigned int languageChangeEvent = 0x140;
 
 } // namespace
 
@@ -77,7 +75,7 @@ bool CPriorityPlugin::IsAllowRelease()
 bool CPriorityPlugin::QueryInterface(int interfaceNumber, QObject **object)
 {
     TraceLine::Called(sourcePath, "QueryInterface");
-    if (interfaceNumber != settingInterfaceNumber && interfaceNumber != priorityInterfaceNumber) {
+    if (interfaceNumber != SettingInterface && interfaceNumber != PriorityInterface) {
         return false;
     }
     m_service = CPriorityService::instance();
@@ -114,7 +112,7 @@ bool CPriorityPlugin::ChangeLang(const QString &language)
 
 int CPriorityPlugin::Notify(unsigned int event, unsigned int, unsigned int)
 {
-    if (event == languageChangeEvent && m_service) {
+    if (event == LanguageChangeEvent && m_service) {
         m_service->SetLanguage();
     }
     return 0;

@@ -5,6 +5,7 @@
 #include "qprioritywidget.h"
 
 #include <Change.h>
+#include <ContractNumbers.h>
 
 namespace
 {
@@ -153,7 +154,7 @@ QString CPriorityService::GetPluginName()
 
 QString CPriorityService::GetCLSID()
 {
-    return QLatin1String("D78C8E0F-7A3F-4f51-87E3-753F0F7F0E05");
+    return QLatin1String(priorityClassId);
 }
 
 bool CPriorityService::Init()

@@ -1,6 +1,7 @@
 #ifndef PRIORITYXMLPARSER_H
 #define PRIORITYXMLPARSER_H
 
+#include <ContractNumbers.h>
 #include <PriorityList.h>
 
 #include <QList>
@@ -25,12 +26,12 @@ class PriorityXMLParser
 public:
     /** Result codes of the operations on files. */
     enum ResultCode {
-        Success = 0,
-        ReadError = 6,
+        Success = PriorityRead,
+        ReadError = PriorityDamaged,
         /** No such file, or no list to read into. */
-        FileMissing = 23,
+        FileMissing = PriorityMissing,
         /** The file can't be opened, or not all of it could be written. */
-        FileNotOpenable = 25
+        FileNotOpenable = PriorityNotOpened
     };
 
     /** The store, made on first use; null once Destory has destroyed it. */

@@ -3,6 +3,7 @@
 #include <Appearance.h>
 #include <CommonUtils.h>
 #include <ConnectDialog.h>
+#include <DirectoryLock.h>
 #include <HistoryFile.h>
 #include <HostControl.h>
 #include <IPriorityPlugin.h>
@@ -657,7 +658,7 @@ void Screens::ShowUndoOfHeldHistory(const char *)
 {
     KeepHistory(States(), stateInForce);
     OpenWindow(m_plugins.data());
-    const DirectoryLock lock(UserPath(QLatin1String("history")));
+    const DirectoryLock lock(UserPath(QLatin1String("history")), DirectoryLock::Changing);
     ClickAndVisitMessage("undoButton");
 }
 

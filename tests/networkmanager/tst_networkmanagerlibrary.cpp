@@ -81,7 +81,7 @@ void tst_networkmanagerlibrary::LoadsThroughThePluginLoader()
     QPluginLoader loader(LoadedWLAN::FileName());
     QObject *root = loader.instance();
     QVERIFY2(root, qPrintable(loader.errorString()));
-    QCOMPARE(QByteArray(root->metaObject()->className()), QByteArray("CWLANPlugin"));
+    QCOMPARE(QByteArray(root->metaObject()->className()), QByteArray("CNetworkManagerPlugin"));
     QVERIFY(qobject_cast<IUIPlugin *>(root));
 }
 

@@ -48,7 +48,7 @@ void tst_storedlibrary::LoadsThroughThePluginLoader()
     QPluginLoader loader(StoredFixture::LibraryFile());
     QObject *root = loader.instance();
     QVERIFY2(root, qPrintable(loader.errorString()));
-    QCOMPARE(QByteArray(root->metaObject()->className()), QByteArray("CWLANPlugin"));
+    QCOMPARE(QByteArray(root->metaObject()->className()), QByteArray("CStoredPlugin"));
     QVERIFY(qobject_cast<IUIPlugin *>(root));
 }
 

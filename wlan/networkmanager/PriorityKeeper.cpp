@@ -2,23 +2,21 @@
 
 #include "CallBatch.h"
 #include "FirstConnections.h"
-#include "ListFileWatcher.h"
 #include "NetworkManagerClient.h"
 #include "ProfileReader.h"
 #include "ProfileUpdate.h"
 
-#include <IPluginContainer.h>
+#include <FileWatcher.h>
 #include <IPriorityPlugin.h>
-#include <Startup.h>
+#include <OrdinaryFile.h>
+#include <PluginSearch.h>
 
 #include <QStringList>
 
+#include <limits>
+
 namespace
 {
-
-// What GetPriorityList answers.
-const int listRead = 0;
-const int listMissing = 23;
 
 const int pauseMilliseconds = 100;
 const int retryMilliseconds = 10000;
@@ -26,18 +24,16 @@ const int retryMilliseconds = 10000;
 const int readMilliseconds = 10000;
 const int writeMilliseconds = 60000;
 
-IPriorityPlugin *PriorityPlugin()
-{
-    const int priorityInterface = 4103;
-    IPluginContainer *container = Startup::GetPluginContainer();
-    return container ? qobject_cast<IPriorityPlugin *>(container->GetPluginObject(
-                           QLatin1String("D78C8E0F-7A3F-4f51-87E3-753F0F7F0E05"), priorityInterface))
-                     : nullptr;
-}
-
 QString RecordsFile(const QString &userDirectory)
 {
     return userDirectory.isEmpty() ? QString() : userDirectory + QLatin1String("NetworkManager.ini");
+}
+
+/** Whether there is an entry in the file, by its bytes. */
+bool HasEntries(const QString &listPath)
+{
+    QByteArray bytes;
+    return OrdinaryFile::Read(listPath, std::numeric_limits<int>::max(), &bytes) && bytes.contains("<item");
 }
 
 QDBusMessage WriteCall(const PriorityChange &change)
@@ -50,9 +46,9 @@ QDBusMessage WriteCall(const PriorityChange &change)
 } // namespace
 
 CPriorityKeeper::CPriorityKeeper(CNetworkManagerClient *client, const QString &userDirectory, QObject *parent)
-    : QObject(parent), m_client(client),
-      m_file(new CListFileWatcher(userDirectory + QLatin1String("Priority.xml"), this)),
-      m_records(RecordsFile(userDirectory)), m_reader(nullptr), m_batch(nullptr), m_isDueAgain(false)
+    : QObject(parent), m_client(client), m_listPath(userDirectory + QLatin1String("Priority.xml")),
+      m_file(new FileWatcher(m_listPath, this)), m_records(RecordsFile(userDirectory)), m_reader(nullptr),
+      m_batch(nullptr), m_isDueAgain(false)
 {
     m_pause.setSingleShot(true);
     m_pause.setInterval(pauseMilliseconds);
@@ -152,15 +148,16 @@ void CPriorityKeeper::TakeProfiles()
 bool CPriorityKeeper::ReadList(QList<PriorityList> *list)
 {
     m_file->Note();
-    IPriorityPlugin *priority = PriorityPlugin();
+    IPriorityPlugin *priority =
+        qobject_cast<IPriorityPlugin *>(FindPluginObject(priorityClassId, PriorityInterface));
     if (!priority) {
         return false;
     }
     switch (priority->GetPriorityList(list)) {
-    case listRead:
+    case PriorityRead:
         // A priority plug-in that has been taken down answers with a list that is read and empty.
-        return !list->isEmpty() || !m_file->HasEntries();
-    case listMissing:
+        return !list->isEmpty() || !HasEntries(m_listPath);
+    case PriorityMissing:
         return true;
     default:
         // What can be read of a damaged list is not the list.
@@ -173,7 +170,8 @@ bool CPriorityKeeper::RaiseFirstConnections(const QList<PriorityList> &list)
     const QList<NetworkProfile> found =
         FirstConnections::Find(m_reader->Profiles(), m_reader->State().ConnectedProfiles(), list, &m_records);
     for (int i = 0; i < found.size(); ++i) {
-        IPriorityPlugin *priority = PriorityPlugin();
+        IPriorityPlugin *priority =
+            qobject_cast<IPriorityPlugin *>(FindPluginObject(priorityClassId, PriorityInterface));
         if (!priority) {
             break;
         }

@@ -12,7 +12,7 @@
 #include <QTimer>
 
 class CCallBatch;
-class CListFileWatcher;
+class FileWatcher;
 class CNetworkManagerClient;
 class CProfileReader;
 class QDBusMessage;
@@ -62,7 +62,8 @@ private:
     void End();
 
     CNetworkManagerClient *const m_client;
-    CListFileWatcher *m_file;
+    const QString m_listPath;
+    FileWatcher *m_file;
     CPriorityRecords m_records;
     CComplaintLog m_log{"WLANNetworkManager"};
     QStringList m_complaints;

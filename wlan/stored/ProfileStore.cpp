@@ -1,10 +1,11 @@
 #include "ProfileStore.h"
 
 #include "ProfileRules.h"
-#include "UserDataDirectory.h"
 #include "XmlRecords.h"
 
+#include <DirectoryLock.h>
 #include <PrivateFile.h>
+#include <UserData.h>
 
 namespace
 {
@@ -144,7 +145,8 @@ Refusal RefusalOf(ProfileRules::Verdict verdict)
 class ProfileFile
 {
 public:
-    ProfileFile() : m_directory(UserDataDirectory()), m_path(m_directory + QLatin1String("WLANProfiles.xml"))
+    ProfileFile()
+        : m_directory(UserData::Directory()), m_path(m_directory + QLatin1String("WLANProfiles.xml"))
     {
     }
 
@@ -167,8 +169,8 @@ public:
         if (!missing) {
             return result;
         }
-        const DirectoryLock lock(m_directory);
-        return lock.IsHeld() ? ReadOrMakeLocked(profiles) : ComplainOfLock();
+        const DirectoryLock lock(m_directory, DirectoryLock::Changing);
+        return lock.IsRefused() ? ComplainOfLock() : ReadOrMakeLocked(profiles);
     }
 
     WLANResult Store(const WLANProfile &profile, QString *better)
@@ -176,8 +178,8 @@ public:
         if (m_directory.isEmpty()) {
             return ComplainOfDirectory();
         }
-        const DirectoryLock lock(m_directory);
-        if (!lock.IsHeld()) {
+        const DirectoryLock lock(m_directory, DirectoryLock::Changing);
+        if (lock.IsRefused()) {
             return ComplainOfLock();
         }
         QList<StoredProfile> profiles;

@@ -1,7 +1,7 @@
 #include "RangeSource.h"
 
-#include "UserDataDirectory.h"
 #include "XmlRecords.h"
+#include <UserData.h>
 
 #include <QFile>
 #include <QFileInfo>
@@ -103,7 +103,7 @@ void AppendNetwork(const XmlRecord &record, const QString &path, QList<NetworkIn
 
 WLANResult ReadNetworks(QList<NetworkInRange> *networks, QStringList *complaints)
 {
-    const QString directory = UserDataDirectory();
+    const QString directory = UserData::Directory();
     const QString path = directory + QLatin1String("WLANNetworks.xml");
     if (directory.isEmpty() || !QFileInfo(path).exists()) {
         *networks = SampleNetworks();

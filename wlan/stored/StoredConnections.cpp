@@ -1,7 +1,7 @@
 #include "StoredConnections.h"
 
 #include <ProfileRules.h>
-#include <UserDataDirectory.h>
+#include <UserData.h>
 
 #include <QDir>
 #include <QFileInfo>
@@ -112,8 +112,8 @@ CStoredConnections::CStoredConnections(QObject *parent) : QObject(parent)
     connect(&m_pause, SIGNAL(timeout()), this, SIGNAL(OnConnectionsChanged()));
     connect(&m_watcher, SIGNAL(directoryChanged(QString)), this, SLOT(Watch()));
     connect(&m_watcher, SIGNAL(fileChanged(QString)), this, SLOT(Watch()));
-    if (!UserDataDirectory().isEmpty()) {
-        m_watcher.addPath(QDir(UserDataDirectory()).absolutePath());
+    if (!UserData::Directory().isEmpty()) {
+        m_watcher.addPath(QDir(UserData::Directory()).absolutePath());
         Watch();
     }
 }
@@ -123,7 +123,7 @@ void CStoredConnections::Watch()
     // A file that is replaced is another one, which is not watched yet.
     const char *const names[] = {"WLANProfiles.xml", "WLANNetworks.xml"};
     for (const char *name : names) {
-        const QString path = UserDataDirectory() + QLatin1String(name);
+        const QString path = UserData::Directory() + QLatin1String(name);
         if (QFileInfo(path).exists() && !m_watcher.files().contains(path)) {
             m_watcher.addPath(path);
         }

@@ -1,6 +1,6 @@
 #include "Settings.h"
 
-#include "UserData.h"
+#include <UserData.h>
 
 #include <QSettings>
 

@@ -1,6 +1,6 @@
 #include "DamagedFile.h"
 
-#include "OrdinaryFile.h"
+#include <OrdinaryFile.h>
 
 #include <PrivateFile.h>
 

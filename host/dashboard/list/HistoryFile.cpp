@@ -2,7 +2,7 @@
 
 #include "DamagedFile.h"
 #include "ListEntries.h"
-#include "StrictXmlReader.h"
+#include <StrictXmlReader.h>
 
 #include <PrivateFile.h>
 

@@ -1,8 +1,8 @@
 #ifndef HISTORYFILE_H
 #define HISTORYFILE_H
 
-#include "FileFault.h"
 #include "ListHistory.h"
+#include <FileFault.h>
 
 #include <QByteArray>
 #include <QString>

@@ -2,9 +2,9 @@
 
 #include "DamagedFile.h"
 #include "ListEntries.h"
-#include "ListLock.h"
 #include "ListSource.h"
 #include "OrderFile.h"
+#include <DirectoryLock.h>
 
 #include <PrivateFile.h>
 
@@ -36,12 +36,13 @@ public:
     /** @param known  the list as it was just read; null to read it here, where others are kept out. */
     Session(ListKeeper *keeper, const ListReading *known)
         : m_keeper(keeper), m_isDirectoryThere(keeper->m_file.Prepare()),
-          m_lock(new DirectoryLock(keeper->m_file.Directory())),
-          m_listLock(new ListLock(QFileInfo(keeper->m_listPath).path(), ListLock::Changing, waitMilliseconds))
+          m_lock(new DirectoryLock(keeper->m_file.Directory(), DirectoryLock::Changing)),
+          m_listLock(new DirectoryLock(QFileInfo(keeper->m_listPath).path(), DirectoryLock::Changing,
+                                       waitMilliseconds))
     {
         m_keeper->m_isBusy = true;
         // Without a directory nobody shares the history. It then lasts as long as the program.
-        m_keeper->m_isHeldByOther = (m_isDirectoryThere && !m_lock->IsHeld()) || m_listLock->IsRefused();
+        m_keeper->m_isHeldByOther = (m_isDirectoryThere && m_lock->IsRefused()) || m_listLock->IsRefused();
         m_isUsable = !m_keeper->m_isHeldByOther && m_keeper->m_file.Load(&m_keeper->m_history);
         if (known) {
             m_keeper->Take(*known);
@@ -72,7 +73,7 @@ private:
     ListKeeper *const m_keeper;
     const bool m_isDirectoryThere;
     QScopedPointer<DirectoryLock> m_lock;
-    QScopedPointer<ListLock> m_listLock;
+    QScopedPointer<DirectoryLock> m_listLock;
     bool m_isUsable;
 };
 

@@ -1,15 +1,17 @@
 #ifndef LISTSOURCE_H
 #define LISTSOURCE_H
 
-#include "PriorityResult.h"
-
+#include <ContractNumbers.h>
 #include <PriorityList.h>
 
 #include <QList>
 
+/** In place of a PriorityResult where there is nobody to ask. */
+const int PriorityNoPlugin = -1;
+
 /** What whoever keeps the list has answered for it. */
 struct ListReading {
-    /** A PriorityResult. */
+    /** A PriorityResult, or PriorityNoPlugin. */
     int status = PriorityNoPlugin;
     QList<PriorityList> entries;
 };

@@ -1,7 +1,7 @@
 #include "OrderFile.h"
 
 #include "ListEntries.h"
-#include "StrictXmlReader.h"
+#include <StrictXmlReader.h>
 
 #include <QXmlStreamWriter>
 

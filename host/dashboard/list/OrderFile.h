@@ -1,7 +1,7 @@
 #ifndef ORDERFILE_H
 #define ORDERFILE_H
 
-#include "FileFault.h"
+#include <FileFault.h>
 
 #include <PriorityList.h>
 

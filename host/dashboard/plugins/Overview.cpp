@@ -1,7 +1,6 @@
 #include "Overview.h"
 
 #include "PluginObjects.h"
-#include "PriorityResult.h"
 
 #include <IWLANUIPlugin.h>
 

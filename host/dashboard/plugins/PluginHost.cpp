@@ -2,6 +2,7 @@
 
 #include "LibraryFile.h"
 
+#include <ContractNumbers.h>
 #include <DashboardText.h>
 #include <HostControl.h>
 #include <IBasePlugin.h>
@@ -127,7 +128,7 @@ KnownPlugin PluginHost::PriorityPlugin()
 {
     KnownPlugin priority;
     priority.folder = QLatin1String("PriorityPlugin");
-    priority.classId = QLatin1String("D78C8E0F-7A3F-4f51-87E3-753F0F7F0E05");
+    priority.classId = QLatin1String(priorityClassId);
     priority.titleId = QLatin1String("IDS_PLUGIN_PRIORITY");
     priority.hasSettingsPage = true;
     return priority;
@@ -137,7 +138,7 @@ QList<KnownPlugin> PluginHost::KnownPlugins(WlanChoice wlan)
 {
     KnownPlugin networkManager;
     networkManager.folder = QLatin1String("WLANNetworkManager");
-    networkManager.classId = QLatin1String("7545FB07-0E7A-4F27-A449-872DB09C106D");
+    networkManager.classId = QLatin1String(wlanClassId);
     networkManager.titleId = QLatin1String("IDS_PLUGIN_WLAN_NETWORKMANAGER");
     networkManager.noteId = QLatin1String("IDS_NOTE_NETWORKMANAGER");
     networkManager.hintId = QLatin1String("IDS_HINT_NETWORKMANAGER");

@@ -1,28 +1,12 @@
 #include "PluginObjects.h"
 
-#include <IPluginContainer.h>
 #include <IPriorityPlugin.h>
 #include <IWLANUIPlugin.h>
-#include <PriorityResult.h>
-#include <Startup.h>
-
-namespace
-{
-
-const int priorityInterface = 4103;
-const int wlanInterface = 4102;
-
-QObject *Find(const char *classId, int interfaceNumber)
-{
-    IPluginContainer *container = Startup::GetPluginContainer();
-    return container ? container->GetPluginObject(QLatin1String(classId), interfaceNumber) : nullptr;
-}
-
-} // namespace
+#include <PluginSearch.h>
 
 QObject *PluginObjects::PriorityService()
 {
-    return Find("D78C8E0F-7A3F-4f51-87E3-753F0F7F0E05", priorityInterface);
+    return FindPluginObject(priorityClassId, PriorityInterface);
 }
 
 IPriorityPlugin *PluginObjects::Priority()
@@ -40,7 +24,7 @@ bool PluginObjects::IsListWhole()
 
 IWLANUIPlugin *PluginObjects::Wlan()
 {
-    return qobject_cast<IWLANUIPlugin *>(Find("7545FB07-0E7A-4F27-A449-872DB09C106D", wlanInterface));
+    return qobject_cast<IWLANUIPlugin *>(FindPluginObject(wlanClassId, WLANInterface));
 }
 
 bool PluginObjects::RememberedNetworks(QList<PriorityList> *networks)

@@ -1,11 +1,10 @@
 #include "ListCommands.h"
 
+#include <DirectoryLock.h>
 #include <IPriorityPlugin.h>
 #include <ListEntries.h>
-#include <ListLock.h>
 #include <OneLine.h>
 #include <PluginObjects.h>
-#include <PriorityResult.h>
 #include <Terminal.h>
 
 #include <QFile>
@@ -106,13 +105,13 @@ ListCommands::ListCommands(const QString &file) : m_file(file) {}
 
 ListCommands::Status ListCommands::Run(const QList<ListCommand> &commands) const
 {
-    ListLock::Use use = ListLock::Reading;
+    DirectoryLock::Use use = DirectoryLock::Reading;
     for (int i = 0; i < commands.size(); ++i) {
         if (commands.at(i).IsChange()) {
-            use = ListLock::Changing;
+            use = DirectoryLock::Changing;
         }
     }
-    const ListLock lock(QFileInfo(m_file).absolutePath(), use, waitMilliseconds);
+    const DirectoryLock lock(QFileInfo(m_file).absolutePath(), use, waitMilliseconds);
     if (lock.IsRefused()) {
         return Fail(ListInUse, QLatin1String("another command has been busy with the list for too long"));
     }

@@ -1,17 +1,11 @@
 #include "PluginPage.h"
 
+#include <ContractNumbers.h>
 #include <DashboardText.h>
 #include <ISettingUIPlugin.h>
 #include <PluginObjects.h>
 
 #include <QWidget>
-
-namespace
-{
-
-const int settingsInterface = 4098;
-
-} // namespace
 
 PluginPage::PluginPage(const PluginHost::Plugin &plugin, ISettingUIPlugin *page)
     : m_plugin(plugin), m_page(page)
@@ -20,7 +14,7 @@ PluginPage::PluginPage(const PluginHost::Plugin &plugin, ISettingUIPlugin *page)
 
 PluginPage *PluginPage::Make(const PluginHost::Plugin &plugin, PluginHost *host)
 {
-    QObject *object = host->GetPluginObject(plugin.known.classId, settingsInterface);
+    QObject *object = host->GetPluginObject(plugin.known.classId, SettingInterface);
     ISettingUIPlugin *page = qobject_cast<ISettingUIPlugin *>(object);
     const bool isOffered =
         page ? page->IsActiveSetting() : plugin.known.hasSettingsPage || plugin.state != PluginReady;

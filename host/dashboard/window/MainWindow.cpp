@@ -8,6 +8,7 @@
 #include <Appearance.h>
 #include <BidiText.h>
 #include <Change.h>
+#include <ContractNumbers.h>
 #include <DashboardLanguage.h>
 #include <DashboardText.h>
 #include <DialogParts.h>
@@ -19,7 +20,6 @@
 #include <PluginHost.h>
 #include <PluginObjects.h>
 #include <PluginPage.h>
-#include <PriorityResult.h>
 #include <Settings.h>
 #include <SettingsDialog.h>
 #include <TracePanel.h>
@@ -41,8 +41,6 @@
 
 namespace
 {
-
-const unsigned int languageChangeEvent = 320;
 
 // Wi-Fi plug-ins don't tell when the networks in range change.
 const int rangeMilliseconds = 3000;
@@ -296,7 +294,7 @@ QWidget *MainWindow::CreateFoot()
 void MainWindow::FollowLanguage()
 {
     // The plug-ins first: what this window shows has texts of theirs.
-    m_plugins->Notify(languageChangeEvent);
+    m_plugins->Notify(LanguageChangeEvent);
     Retranslate();
 }
 

@@ -1,8 +1,8 @@
 #ifndef MAINWINDOW_H
 #define MAINWINDOW_H
 
+#include <FileWatcher.h>
 #include <HostControl.h>
-#include <ListWatcher.h>
 #include <Overview.h>
 #include <PluginList.h>
 
@@ -74,7 +74,7 @@ private:
     PluginHost *const m_plugins;
     DashboardLanguage *const m_language;
     const QList<LanguageProblem> m_languageProblems;
-    ListWatcher m_watcher;
+    FileWatcher m_watcher;
     PluginList m_source;
     ListKeeper *m_keeper;
     ListActions *m_listActions;

@@ -2,11 +2,11 @@
 #include "PluginWorld.h"
 #include "ShiftedClock.h"
 
+#include <DirectoryLock.h>
 #include <HostControl.h>
 #include <IPriorityPlugin.h>
 #include <ListKeeper.h>
 #include <ListKeeperText.h>
-#include <ListLock.h>
 #include <OrderFile.h>
 #include <PluginList.h>
 #include <PluginObjects.h>
@@ -586,7 +586,7 @@ void ListKeeperTest::NothingWritesADamagedListThatCannotBeCopied()
 void ListKeeperTest::DamageMadeByAnotherInTheMiddleOfItsWorkIsNotCopied()
 {
     {
-        const ListLock command(UserData(), ListLock::Changing, 0);
+        const DirectoryLock command(UserData(), DirectoryLock::Changing, 0);
         WriteDamaged("A, B, C");
         m_keeper->Follow();
         QVERIFY(Copies().isEmpty());
@@ -842,8 +842,8 @@ void ListKeeperTest::HistoryHeldByAnotherIsNotTouched()
     m_keeper->Follow();
     const QByteArray before = m_world.Read("history/states.xml");
     {
-        const DirectoryLock another(UserData() + "history");
-        QVERIFY(another.IsHeld());
+        const DirectoryLock another(UserData() + "history", DirectoryLock::Changing);
+        QVERIFY(!another.IsRefused());
         QCOMPARE(m_keeper->Undo(), ListKeeper::ListBusy);
         QCOMPARE(Stored(), QString("A"));
         AddTop("B");
@@ -861,7 +861,7 @@ void ListKeeperTest::ListHeldByACommandIsNotTouched()
     m_keeper->Follow();
     const QByteArray before = ListBytes();
     {
-        const ListLock command(UserData(), ListLock::Changing, 0);
+        const DirectoryLock command(UserData(), DirectoryLock::Changing, 0);
         QVERIFY(!command.IsRefused());
         QCOMPARE(m_keeper->Undo(), ListKeeper::ListBusy);
         QCOMPARE(ListBytes(), before);
@@ -884,7 +884,7 @@ void ListKeeperTest::ListInTheMiddleOfACommandIsReadAgain()
     QCOMPARE(pipe(ready), 0);
     const pid_t command = fork();
     if (command == 0) {
-        const ListLock lock(UserData(), ListLock::Changing, 0);
+        const DirectoryLock lock(UserData(), DirectoryLock::Changing, 0);
         QFile::remove(ListPath());
         const bool isTold = write(ready[1], "", 1) == 1;
         usleep(200000);
@@ -917,7 +917,7 @@ void ListKeeperTest::CommandsAreKeptOutDuringAnUndo()
 
 void ListKeeperTest::TryTheList()
 {
-    m_isListFree.append(!ListLock(UserData(), ListLock::Reading, 0).IsRefused());
+    m_isListFree.append(!DirectoryLock(UserData(), DirectoryLock::Reading, 0).IsRefused());
 }
 
 void ListKeeperTest::InterruptedUndoIsFinished_data()

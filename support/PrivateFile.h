@@ -28,22 +28,4 @@ void Wipe(QByteArray *bytes);
 
 } // namespace PrivateFile
 
-/** Keeps other processes from changing the files of a directory, for its own lifetime. Waits a second at
- * most. */
-class DirectoryLock
-{
-public:
-    explicit DirectoryLock(const QString &directory);
-    ~DirectoryLock();
-
-    /** False when another process held on to the lock. */
-    bool IsHeld() const { return m_held; }
-
-private:
-    Q_DISABLE_COPY(DirectoryLock)
-
-    int m_descriptor;
-    bool m_held;
-};
-
 #endif

@@ -8,13 +8,13 @@
 #include <QTimer>
 
 /** Tells when the content of a file changes, when it appears or disappears, whoever did it. */
-class ListWatcher : public QObject
+class FileWatcher : public QObject
 {
     Q_OBJECT
 
 public:
     /** @param file  absolute path; its directory exists. Empty: nothing is watched. */
-    ListWatcher(const QString &file, QObject *parent);
+    FileWatcher(const QString &file, QObject *parent);
 
     /** The file is about to be read: it is told of again when it is another than now. */
     void Note();

@@ -1,12 +1,12 @@
-#include <ListLock.h>
+#include <DirectoryLock.h>
 #include <TemporaryDirectory.h>
 
 #include <QDir>
 #include <QScopedPointer>
 #include <QtTest>
 
-/** Who keeps whom from the list. Locks of one process count against each other as those of two. */
-class ListLockTest : public QObject
+/** Who keeps whom from a directory. Locks of one process count against each other as those of two. */
+class DirectoryLockTest : public QObject
 {
     Q_OBJECT
 
@@ -20,7 +20,7 @@ private slots:
     void NothingIsLeftBehind();
 };
 
-void ListLockTest::OthersAreKeptOut_data()
+void DirectoryLockTest::OthersAreKeptOut_data()
 {
     QTest::addColumn<bool>("firstChanges");
     QTest::addColumn<bool>("secondChanges");
@@ -31,36 +31,38 @@ void ListLockTest::OthersAreKeptOut_data()
     QTest::newRow("two that read") << false << false << false;
 }
 
-void ListLockTest::OthersAreKeptOut()
+void DirectoryLockTest::OthersAreKeptOut()
 {
     QFETCH(bool, firstChanges);
     QFETCH(bool, secondChanges);
     const TemporaryDirectory directory;
-    const ListLock first(directory.Path(), firstChanges ? ListLock::Changing : ListLock::Reading, 0);
+    const DirectoryLock first(directory.Path(),
+                              firstChanges ? DirectoryLock::Changing : DirectoryLock::Reading, 0);
     QVERIFY(!first.IsRefused());
-    const ListLock second(directory.Path(), secondChanges ? ListLock::Changing : ListLock::Reading, 0);
+    const DirectoryLock second(directory.Path(),
+                               secondChanges ? DirectoryLock::Changing : DirectoryLock::Reading, 0);
     QTEST(second.IsRefused(), "isRefused");
 }
 
-void ListLockTest::EndOfTheLockLetsOthersIn()
+void DirectoryLockTest::EndOfTheLockLetsOthersIn()
 {
     const TemporaryDirectory directory;
     {
-        const ListLock first(directory.Path(), ListLock::Changing, 0);
+        const DirectoryLock first(directory.Path(), DirectoryLock::Changing, 0);
         QVERIFY(!first.IsRefused());
     }
-    QVERIFY(!ListLock(directory.Path(), ListLock::Changing, 0).IsRefused());
+    QVERIFY(!DirectoryLock(directory.Path(), DirectoryLock::Changing, 0).IsRefused());
 }
 
-void ListLockTest::OtherDirectoriesAreFree()
+void DirectoryLockTest::OtherDirectoriesAreFree()
 {
     const TemporaryDirectory one;
     const TemporaryDirectory other;
-    const ListLock first(one.Path(), ListLock::Changing, 0);
-    QVERIFY(!ListLock(other.Path(), ListLock::Changing, 0).IsRefused());
+    const DirectoryLock first(one.Path(), DirectoryLock::Changing, 0);
+    QVERIFY(!DirectoryLock(other.Path(), DirectoryLock::Changing, 0).IsRefused());
 }
 
-void ListLockTest::DirectoryThatCannotBeLockedIsFree_data()
+void DirectoryLockTest::DirectoryThatCannotBeLockedIsFree_data()
 {
     QTest::addColumn<QString>("path");
     QTest::newRow("missing") << "/absent/of course";
@@ -68,22 +70,22 @@ void ListLockTest::DirectoryThatCannotBeLockedIsFree_data()
     QTest::newRow("empty") << "";
 }
 
-void ListLockTest::DirectoryThatCannotBeLockedIsFree()
+void DirectoryLockTest::DirectoryThatCannotBeLockedIsFree()
 {
     QFETCH(QString, path);
-    QVERIFY(!ListLock(path, ListLock::Changing, 0).IsRefused());
+    QVERIFY(!DirectoryLock(path, DirectoryLock::Changing, 0).IsRefused());
 }
 
-void ListLockTest::NothingIsLeftBehind()
+void DirectoryLockTest::NothingIsLeftBehind()
 {
     const TemporaryDirectory directory;
     {
-        const ListLock lock(directory.Path(), ListLock::Changing, 0);
+        const DirectoryLock lock(directory.Path(), DirectoryLock::Changing, 0);
         QVERIFY(!lock.IsRefused());
     }
     QVERIFY(
         QDir(directory.Path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot).isEmpty());
 }
 
-QTEST_GUILESS_MAIN(ListLockTest)
-#include "tst_listlock.moc"
+QTEST_GUILESS_MAIN(DirectoryLockTest)
+#include "tst_directorylock.moc"

@@ -1,4 +1,4 @@
-#include "ListLock.h"
+#include "DirectoryLock.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -25,7 +25,7 @@ bool IsHeldByOthers(int directory, int operation)
 
 } // namespace
 
-ListLock::ListLock(const QString &directory, Use use, int waitMilliseconds)
+DirectoryLock::DirectoryLock(const QString &directory, Use use, int waitMilliseconds)
     : m_directory(open(QFile::encodeName(directory).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)),
       m_isRefused(false)
 {
@@ -44,7 +44,7 @@ ListLock::ListLock(const QString &directory, Use use, int waitMilliseconds)
     }
 }
 
-ListLock::~ListLock()
+DirectoryLock::~DirectoryLock()
 {
     if (m_directory >= 0) {
         close(m_directory);

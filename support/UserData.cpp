@@ -1,13 +1,13 @@
 #include "UserData.h"
 
-#include <ToolkitCompat.h>
 #include <ZeltSdk.h>
 
 QString UserData::Directory()
 {
     unsigned short *path = nullptr;
     const long status = ZELT_GetUserDataDirectory(&path);
-    QString directory = status == 0 && path ? ToolkitCompat::FromUtf16(path) : QString();
+    QString directory =
+        status == 0 && path ? QString::fromUtf16(reinterpret_cast<const char16_t *>(path)) : QString();
     delete[] path;
     return directory;
 }

@@ -6,7 +6,6 @@
 #include <cstdio>
 
 #include <fcntl.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -194,27 +193,4 @@ void PrivateFile::Wipe(QByteArray *bytes)
         memory[i] = 0;
     }
     bytes->clear();
-}
-
-DirectoryLock::DirectoryLock(const QString &directory)
-    : m_descriptor(open(QFile::encodeName(directory).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)),
-      m_held(m_descriptor >= 0)
-{
-    const int attempts = 100;
-    const useconds_t pause = 10000;
-    for (int i = 0; i < attempts && m_descriptor >= 0; ++i) {
-        // File systems without locks have nothing to wait for.
-        m_held = flock(m_descriptor, LOCK_EX | LOCK_NB) == 0 || (errno != EWOULDBLOCK && errno != EINTR);
-        if (m_held) {
-            return;
-        }
-        usleep(pause);
-    }
-}
-
-DirectoryLock::~DirectoryLock()
-{
-    if (m_descriptor >= 0) {
-        close(m_descriptor);
-    }
 }

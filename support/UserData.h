@@ -3,7 +3,7 @@
 
 #include <QString>
 
-/** Where the dashboard keeps what belongs to its user. */
+/** Where the host and its plug-ins keep what belongs to the user. */
 class UserData
 {
 public:

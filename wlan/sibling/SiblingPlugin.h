@@ -1,37 +1,30 @@
-#ifndef WLANPLUGIN_H
-#define WLANPLUGIN_H
+#ifndef SIBLINGPLUGIN_H
+#define SIBLINGPLUGIN_H
 
 #include <IUIPlugin.h>
-#include <ToolkitPlugin.h>
 
-#include <QPointer>
-
-class CStoredConnections;
-class CStoredWLANService;
-
-/** Root object of the WLAN plug-in that keeps its profiles in a file. It has no window and no settings page.
+/**
+ * Root object of a WLAN plug-in, but for what its services are. It has no window and no settings page.
+ *
+ * OnDestroy ends the services. A derived class calls its own in its destructor.
  */
-class CWLANPlugin : public QObject, public IUIPlugin
+class CSiblingPlugin : public QObject, public IUIPlugin
 {
     Q_OBJECT
     Q_INTERFACES(IBasePlugin IUIPlugin)
-    TOOLKIT_PLUGIN_METADATA("com.torvik.netquillforge.plugin.IUIPlugin")
 
 public:
-    CWLANPlugin();
-    ~CWLANPlugin() override;
+    CSiblingPlugin();
 
     void Release() override;
     int GetLastError() override;
 
-    void OnDestroy() override;
     void UnSDKRegisterEvent() override;
 
     bool Init() override;
     int GetPluginType() override;
     QString GetCLSID() override;
     int GetVersion() override;
-    QString GetPluginName() override;
     bool IsAllowRelease() override;
     bool QueryInterface(int interfaceNumber, QObject **object) override;
 
@@ -43,10 +36,11 @@ public:
     bool ChangeLang(const QString &language) override;
 
 private:
-    Q_DISABLE_COPY(CWLANPlugin)
+    Q_DISABLE_COPY(CSiblingPlugin)
 
-    QPointer<CStoredWLANService> m_service;
-    QPointer<CStoredConnections> m_connections;
+    /** The object for an InterfaceNumber, which stays the plug-in's; null for any other number, and while
+     * there is none. */
+    virtual QObject *Service(int interfaceNumber) = 0;
 };
 
 #endif

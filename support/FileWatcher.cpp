@@ -1,6 +1,5 @@
-#include "ListWatcher.h"
+#include "FileWatcher.h"
 
-#include "DamagedFile.h"
 #include "OrdinaryFile.h"
 
 #include <QFileInfo>
@@ -11,13 +10,16 @@ namespace
 // A file that is deleted and written anew changes several times in a few milliseconds.
 const int pauseMilliseconds = 100;
 
+// No list comes near this. A larger file is told of at each change, and not kept in memory.
+const int largestFile = 256 * 1024 * 1024;
+
 } // namespace
 
-ListWatcher::ListWatcher(const QString &file, QObject *parent) : QObject(parent), m_file(file)
+FileWatcher::FileWatcher(const QString &file, QObject *parent) : QObject(parent), m_file(file)
 {
     m_pause.setSingleShot(true);
     m_pause.setInterval(pauseMilliseconds);
-    connect(&m_pause, &QTimer::timeout, this, &ListWatcher::Compare);
+    connect(&m_pause, &QTimer::timeout, this, &FileWatcher::Compare);
     if (m_file.isEmpty()) {
         return;
     }
@@ -25,17 +27,17 @@ ListWatcher::ListWatcher(const QString &file, QObject *parent) : QObject(parent)
     if (QFileInfo(m_file).exists()) {
         m_watcher.addPath(m_file);
     }
-    connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, &ListWatcher::Follow);
-    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, &ListWatcher::Follow);
+    connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, &FileWatcher::Follow);
+    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, &FileWatcher::Follow);
     Note();
 }
 
-void ListWatcher::Note()
+void FileWatcher::Note()
 {
     ReadContent();
 }
 
-void ListWatcher::Compare()
+void FileWatcher::Compare()
 {
     const bool wasThere = m_isThere;
     const QByteArray before = m_content;
@@ -44,14 +46,14 @@ void ListWatcher::Compare()
     }
 }
 
-bool ListWatcher::ReadContent()
+bool FileWatcher::ReadContent()
 {
     m_content.clear();
     m_isThere = QFileInfo::exists(m_file);
-    return !m_isThere || OrdinaryFile::Read(m_file, DamagedFile::largestFile, &m_content);
+    return !m_isThere || OrdinaryFile::Read(m_file, largestFile, &m_content);
 }
 
-void ListWatcher::Follow()
+void FileWatcher::Follow()
 {
     // A file that was removed is not watched any more, and one of the same name that comes later is another
     // file.

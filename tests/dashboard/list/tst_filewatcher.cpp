@@ -1,13 +1,13 @@
 #include "Eventually.h"
 
-#include <ListWatcher.h>
+#include <FileWatcher.h>
 #include <TemporaryDirectory.h>
 
 #include <QFile>
 #include <QSignalSpy>
 #include <QtTest>
 
-class ListWatcherTest : public QObject
+class FileWatcherTest : public QObject
 {
     Q_OBJECT
 
@@ -29,40 +29,40 @@ bool Tells(const QSignalSpy &spy, int times)
 
 } // namespace
 
-void ListWatcherTest::FileThatAppearsIsTold()
+void FileWatcherTest::FileThatAppearsIsTold()
 {
     const TemporaryDirectory directory;
-    ListWatcher watcher(directory.FilePath("list"), nullptr);
+    FileWatcher watcher(directory.FilePath("list"), nullptr);
     QSignalSpy spy(&watcher, SIGNAL(Changed()));
     directory.Write("list", "one");
     QVERIFY(Tells(spy, 1));
 }
 
-void ListWatcherTest::ChangeIsTold()
+void FileWatcherTest::ChangeIsTold()
 {
     const TemporaryDirectory directory;
     directory.Write("list", "one");
-    ListWatcher watcher(directory.FilePath("list"), nullptr);
+    FileWatcher watcher(directory.FilePath("list"), nullptr);
     QSignalSpy spy(&watcher, SIGNAL(Changed()));
     directory.Write("list", "two");
     QVERIFY(Tells(spy, 1));
 }
 
-void ListWatcherTest::RemovalIsTold()
+void FileWatcherTest::RemovalIsTold()
 {
     const TemporaryDirectory directory;
     directory.Write("list", "one");
-    ListWatcher watcher(directory.FilePath("list"), nullptr);
+    FileWatcher watcher(directory.FilePath("list"), nullptr);
     QSignalSpy spy(&watcher, SIGNAL(Changed()));
     QVERIFY(QFile::remove(directory.FilePath("list")));
     QVERIFY(Tells(spy, 1));
 }
 
-void ListWatcherTest::FileWrittenAnewIsFollowed()
+void FileWatcherTest::FileWrittenAnewIsFollowed()
 {
     const TemporaryDirectory directory;
     directory.Write("list", "one");
-    ListWatcher watcher(directory.FilePath("list"), nullptr);
+    FileWatcher watcher(directory.FilePath("list"), nullptr);
     QSignalSpy spy(&watcher, SIGNAL(Changed()));
     for (int i = 1; i <= 3; ++i) {
         QVERIFY(QFile::remove(directory.FilePath("list")));
@@ -78,11 +78,11 @@ void ListWatcherTest::FileWrittenAnewIsFollowed()
     }
 }
 
-void ListWatcherTest::ChangesCloseTogetherAreToldOnce()
+void FileWatcherTest::ChangesCloseTogetherAreToldOnce()
 {
     const TemporaryDirectory directory;
     directory.Write("list", "one");
-    ListWatcher watcher(directory.FilePath("list"), nullptr);
+    FileWatcher watcher(directory.FilePath("list"), nullptr);
     QSignalSpy spy(&watcher, SIGNAL(Changed()));
     for (int i = 0; i < 20; ++i) {
         directory.Write("list", "changed");
@@ -91,5 +91,5 @@ void ListWatcherTest::ChangesCloseTogetherAreToldOnce()
     QCOMPARE(spy.count(), 1);
 }
 
-QTEST_MAIN(ListWatcherTest)
-#include "tst_listwatcher.moc"
+QTEST_MAIN(FileWatcherTest)
+#include "tst_filewatcher.moc"

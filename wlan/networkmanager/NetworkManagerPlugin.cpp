@@ -1,0 +1,74 @@
+#include "NetworkManagerPlugin.h"
+
+#include "LivePicture.h"
+#include "NetworkManagerClient.h"
+#include "NetworkManagerConnections.h"
+#include "NetworkManagerWLANService.h"
+#include "PriorityKeeper.h"
+
+#include <ContractNumbers.h>
+#include <UserData.h>
+
+TOOLKIT_EXPORT_PLUGIN(CNetworkManagerPlugin)
+
+CNetworkManagerPlugin::~CNetworkManagerPlugin()
+{
+    CNetworkManagerPlugin::OnDestroy();
+}
+
+int CNetworkManagerPlugin::GetLastError()
+{
+    return m_lastError;
+}
+
+void CNetworkManagerPlugin::OnDestroy()
+{
+    delete m_keeper;
+    delete m_connections;
+    delete m_service;
+    delete m_picture;
+    delete m_client;
+    m_keeper = nullptr;
+    m_connections = nullptr;
+    m_service = nullptr;
+    m_picture = nullptr;
+    m_client = nullptr;
+}
+
+bool CNetworkManagerPlugin::Init()
+{
+    if (m_client) {
+        return true;
+    }
+    m_client = new CNetworkManagerClient(nullptr);
+    const NetworkManagerResult result = m_client->Probe(CNetworkManagerClient::patienceMilliseconds);
+    m_lastError = result;
+    if (result != NetworkManagerResultSuccess) {
+        qWarning("WLANNetworkManager: %s", DescriptionOf(result).toLocal8Bit().constData());
+        OnDestroy();
+        return false;
+    }
+    m_picture = new CLivePicture(m_client, nullptr);
+    m_service = new CNetworkManagerWLANService(m_client, m_picture, nullptr);
+    m_connections = new CNetworkManagerConnections(m_client, m_picture, nullptr);
+    m_keeper = new CPriorityKeeper(m_client, UserData::Directory(), nullptr);
+    connect(m_service, SIGNAL(AboutToChange()), m_keeper, SLOT(StartAgain()));
+    return true;
+}
+
+QString CNetworkManagerPlugin::GetPluginName()
+{
+    return QLatin1String("WLANNetworkManager");
+}
+
+QObject *CNetworkManagerPlugin::Service(int interfaceNumber)
+{
+    switch (interfaceNumber) {
+    case WLANInterface:
+        return m_service;
+    case ConnectionInterface:
+        return m_connections;
+    default:
+        return nullptr;
+    }
+}
