@@ -352,14 +352,6 @@
         <translation>قيد الاستخدام الآن: %1</translation>
     </message>
     <message>
-        <source>IDS_HEAD_IN_USE_WIFI</source>
-        <translation>هي أول شبكة ضمن النطاق في قائمتك.</translation>
-    </message>
-    <message>
-        <source>IDS_HEAD_IN_USE_MOBILE</source>
-        <translation>لا توجد ضمن النطاق شبكة واي فاي أعلى منها في قائمتك.</translation>
-    </message>
-    <message>
         <source>IDS_HEAD_NONE</source>
         <translation>لا توجد شبكة قيد الاستخدام</translation>
     </message>
@@ -378,16 +370,267 @@
         <translation>تتعذّر قراءة قائمتك كاملة، لذلك لا يُعرف أي شبكة هي الأولى.</translation>
     </message>
     <message>
-        <source>IDS_HEAD_NOTHING_IN_RANGE</source>
-        <translation>لا توجد ضمن النطاق أي شبكة من قائمتك.</translation>
-    </message>
-    <message>
         <source>IDS_HEAD_RANGE_UNKNOWN</source>
         <translation>ملحقة الواي فاي غير متوفرة، لذلك لا يُعرف أي الشبكات ضمن النطاق.</translation>
     </message>
     <message>
         <source>IDS_HEAD_NO_PRIORITY_PLUGIN</source>
         <translation>الملحقة التي تدير القائمة غير متوفرة.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_CONNECTING</source>
+        <extracomment>In place of the network in use while one is being connected. %1: a network</extracomment>
+        <translation>جارٍ الاتصال: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NO_TRAFFIC</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>الشبكة %1 متصلة، لكن حركة البيانات لا تمر عبرها.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_GONE</source>
+        <extracomment>In place of the network in use</extracomment>
+        <translation>لا يعمل &#x202a;NetworkManager&#x202c;</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_GONE_WHY</source>
+        <extracomment>Follows: NetworkManager is not running</extracomment>
+        <translation>لا يُعرف أي شبكة هي قيد الاستخدام. يمكن تغيير قائمتك، وستسري حين يعمل &#x202a;NetworkManager&#x202c;.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_ASKING</source>
+        <translation>لم يُجب &#x202a;NetworkManager&#x202c; بعد، لذلك لا يُعرف أي شبكة هي قيد الاستخدام.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NOT_TOLD</source>
+        <translation>لا تُبلغ ملحقة الواي فاي عن الشبكة قيد الاستخدام.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_PRACTICE</source>
+        <extracomment>The headline while the networks are made up. %1: the headline, such as: In use now: Home</extracomment>
+        <translation>&#x200f;%1 (للتجربة)</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_FIRST</source>
+        <extracomment>Why a network is in use</extracomment>
+        <translation>هي أول شبكة في قائمتك يُعرف أنه يمكن استخدامها.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_OTHER_KIND</source>
+        <extracomment>What is in use is a cable, for example</extracomment>
+        <translation>القائمة مخصصة للواي فاي ولشبكة هاتف محمول، وهذا الاتصال من نوع آخر.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NOT_LISTED</source>
+        <extracomment>Of the network in use</extracomment>
+        <translation>ليست في قائمتك.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_VPN</source>
+        <extracomment>%1: what the user calls the VPN</extracomment>
+        <translation>اتصال VPN قائم: %1.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_CHOICE</source>
+        <extracomment>%1: a network. A reason may follow</extracomment>
+        <translation>كانت قائمتك ستختار %1.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_WITHOUT_IT</source>
+        <extracomment>What is in use is a cable, for example. %1: a network</extracomment>
+        <translation>من دونه كانت قائمتك ستختار %1.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NOT_CERTAIN</source>
+        <extracomment>%1: names of networks</extracomment>
+        <translation>غير معروف إن كانت ضمن النطاق: %1.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NOTHING_USABLE</source>
+        <translation>لا تُعرف في قائمتك أي شبكة يمكن استخدامها.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_SKIPPED</source>
+        <extracomment>%1: names of networks</extracomment>
+        <translation>أعلى منها في القائمة لكن لا يمكن استخدامها الآن: %1.</translation>
+    </message>
+    <message>
+        <source>IDS_STAGE_PREPARING</source>
+        <extracomment>How far a network is that is being connected</extracomment>
+        <translation>يجري تحضير الاتصال.</translation>
+    </message>
+    <message>
+        <source>IDS_STAGE_AUTHENTICATING</source>
+        <extracomment>How far a network is that is being connected</extracomment>
+        <translation>يجري التحقق من المفتاح.</translation>
+    </message>
+    <message>
+        <source>IDS_STAGE_ADDRESS</source>
+        <extracomment>How far a network is that is being connected</extracomment>
+        <translation>يُطلب من الشبكة عنوان.</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_CONNECTED</source>
+        <extracomment>Of a network that is not in use, at the end of its row</extracomment>
+        <translation>متصلة</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_CONNECTING</source>
+        <extracomment>At the end of a row</extracomment>
+        <translation>جارٍ الاتصال</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_DISCONNECTING</source>
+        <extracomment>At the end of a row</extracomment>
+        <translation>يجري قطع الاتصال</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_HIDDEN</source>
+        <extracomment>At the end of a row: the network does not tell its name</extracomment>
+        <translation>مخفية: تُجرَّب</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_NOT_SAVED</source>
+        <extracomment>At the end of a row</extracomment>
+        <translation>غير محفوظة هنا</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_CANNOT</source>
+        <extracomment>At the end of a row</extracomment>
+        <translation>لا يمكن استخدامها</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_NO_ADAPTER</source>
+        <extracomment>At the end of a row</extracomment>
+        <translation>لا يوجد محوّل</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_NO_MODEM</source>
+        <extracomment>At the end of a row</extracomment>
+        <translation>لا يوجد مودم</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_OFF</source>
+        <extracomment>At the end of a row: the adapter or modem is off</extracomment>
+        <translation>مطفأة</translation>
+    </message>
+    <message>
+        <source>IDS_USE_LOWER</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>الشبكة %1 أعلى منها في القائمة.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_HIDDEN</source>
+        <translation>تُخفي الشبكة اسمها، لذلك لا يُعرف إن كانت ضمن النطاق. تُجرَّب.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_OTHER_SECURITY</source>
+        <translation>توجد ضمن النطاق شبكة بهذا الاسم، لكن نوع الأمن فيها مختلف.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_OTHER_DEVICE</source>
+        <extracomment>station: an access point</extracomment>
+        <translation>هي محفوظة لمحوّل أو نطاق ترددي أو محطة غير ما يوجد هنا.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_NO_DEVICE</source>
+        <translation>لا يوجد لها محوّل أو مودم يعمل.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_OFF</source>
+        <translation>المحوّل أو المودم الخاص بها مطفأ.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_BLOCKED</source>
+        <extracomment>By a hardware button or in flight mode</extracomment>
+        <translation>زر في هذا الحاسوب يُبقي المحوّل أو المودم الخاص بها مطفأ.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_SIM</source>
+        <translation>تطلب بطاقة SIM رمز PIN.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_OTHER_USERS</source>
+        <translation>هي لمستخدمين آخرين لهذا الحاسوب.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_NO_ACCOUNT</source>
+        <translation>تحتاج إلى حساب، ولا يوجد حساب محفوظ.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_NOT_SAVED</source>
+        <translation>لا توجد في هذا الحاسوب شبكة محفوظة بهذا الاسم.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_NOT_KNOWN</source>
+        <translation>لا يُعرف هل يمكن استخدامها.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_TWICE</source>
+        <translation>هي أعلى في القائمة أصلًا، فلا أثر لهذا الموضع.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_BY_HAND</source>
+        <translation>لا يبدأ الاتصال بها تلقائيًا.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_KEPT</source>
+        <translation>يُبقي &#x202a;NetworkManager&#x202c; على الاتصال الذي يعمل إلى أن تطلب التبديل.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_OTHER</source>
+        <translation>في آخر محاولة تعذّر الاتصال.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_KEY</source>
+        <translation>في آخر محاولة رُفض المفتاح.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_NO_KEY</source>
+        <translation>في آخر محاولة كان المفتاح ناقصًا.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_NO_ANSWER</source>
+        <translation>في آخر محاولة لم تُجب.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_NO_ADDRESS</source>
+        <translation>في آخر محاولة لم تُعطِ عنوانًا.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_REFUSED</source>
+        <translation>في آخر محاولة لم تسمح لهذا الحاسوب بالدخول.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_SIM</source>
+        <translation>في آخر محاولة لم تعمل بطاقة SIM.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_STOPPED</source>
+        <translation>في آخر مرة أُنهيت يدويًا.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_DEVICE</source>
+        <translation>في آخر محاولة لم يكن المحوّل أو المودم متوفرًا.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_NOT_ALLOWED</source>
+        <translation>لا يُسمح لك بذلك.</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_SWITCH</source>
+        <extracomment>Puts the network that the list would choose in the place of the one in use; 120 pixels</extracomment>
+        <translation>تبديل</translation>
+    </message>
+    <message>
+        <source>IDS_SWITCH_TO</source>
+        <extracomment>Tool tip of that button. %1: a network</extracomment>
+        <translation>التبديل إلى %1</translation>
+    </message>
+    <message>
+        <source>IDS_SWITCH_FAILED</source>
+        <extracomment>%1: a network. A reason may follow</extracomment>
+        <translation>تعذّر الاتصال بالشبكة %1.</translation>
     </message>
     <message>
         <source>IDS_LIST_DAMAGED</source>
@@ -921,24 +1164,12 @@
         <translation>يتيح «تراجع» استعادة آخر قائمة كاملة.</translation>
     </message>
     <message>
-        <source>IDS_HEAD_SKIPPED</source>
-        <translation>أعلى منها في القائمة لكن خارج النطاق: %1.</translation>
-    </message>
-    <message>
         <source>IDS_HEAD_CONNECT_HINT</source>
         <translation>يعرض «اتصال…» الشبكات الأخرى ضمن النطاق.</translation>
     </message>
     <message>
         <source>IDS_WHY_OUT_OF_RANGE</source>
         <translation>غير مستخدمة لأنها خارج النطاق.</translation>
-    </message>
-    <message>
-        <source>IDS_WHY_LOWER</source>
-        <translation>غير مستخدمة لأن %1 أعلى منها في القائمة.</translation>
-    </message>
-    <message>
-        <source>IDS_WHY_UNDECIDED</source>
-        <translation>غير مستخدمة لأنه لا يُعرف هل توجد ضمن النطاق شبكة أعلى منها في القائمة.</translation>
     </message>
     <message>
         <source>IDS_ACTION_TRACE_SEARCH</source>

@@ -352,14 +352,6 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
         <translation>Wird verwendet: %1</translation>
     </message>
     <message>
-        <source>IDS_HEAD_IN_USE_WIFI</source>
-        <translation>Es ist das erste Netzwerk in Ihrer Liste, das in Reichweite ist.</translation>
-    </message>
-    <message>
-        <source>IDS_HEAD_IN_USE_MOBILE</source>
-        <translation>Kein WLAN-Netzwerk, das in Ihrer Liste weiter oben steht, ist in Reichweite.</translation>
-    </message>
-    <message>
         <source>IDS_HEAD_NONE</source>
         <translation>Kein Netzwerk wird verwendet</translation>
     </message>
@@ -378,16 +370,267 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
         <translation>Ihre Liste lässt sich nicht vollständig lesen, daher ist nicht bekannt, welches Netzwerk an erster Stelle steht.</translation>
     </message>
     <message>
-        <source>IDS_HEAD_NOTHING_IN_RANGE</source>
-        <translation>Keines der Netzwerke in Ihrer Liste ist in Reichweite.</translation>
-    </message>
-    <message>
         <source>IDS_HEAD_RANGE_UNKNOWN</source>
         <translation>Das WLAN-Plugin ist nicht verfügbar, daher ist nicht bekannt, welche Netzwerke in Reichweite sind.</translation>
     </message>
     <message>
         <source>IDS_HEAD_NO_PRIORITY_PLUGIN</source>
         <translation>Das Plugin, das die Liste verwaltet, ist nicht verfügbar.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_CONNECTING</source>
+        <extracomment>In place of the network in use while one is being connected. %1: a network</extracomment>
+        <translation>Verbindung wird hergestellt: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NO_TRAFFIC</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>%1 ist verbunden, aber der Datenverkehr läuft nicht darüber.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_GONE</source>
+        <extracomment>In place of the network in use</extracomment>
+        <translation>NetworkManager läuft nicht</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_GONE_WHY</source>
+        <extracomment>Follows: NetworkManager is not running</extracomment>
+        <translation>Welches Netzwerk verwendet wird, ist nicht bekannt. Ihre Liste lässt sich ändern; sie gilt, sobald NetworkManager läuft.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_ASKING</source>
+        <translation>NetworkManager hat noch nicht geantwortet, daher ist nicht bekannt, welches Netzwerk verwendet wird.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NOT_TOLD</source>
+        <translation>Das WLAN-Plugin teilt nicht mit, welches Netzwerk verwendet wird.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_PRACTICE</source>
+        <extracomment>The headline while the networks are made up. %1: the headline, such as: In use now: Home</extracomment>
+        <translation>%1 (Übung)</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_FIRST</source>
+        <extracomment>Why a network is in use</extracomment>
+        <translation>Es ist das erste Netzwerk in Ihrer Liste, von dem bekannt ist, dass es funktionieren kann.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_OTHER_KIND</source>
+        <extracomment>What is in use is a cable, for example</extracomment>
+        <translation>Die Liste ist für WLAN und Mobiles Breitband; diese Verbindung ist von anderer Art.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NOT_LISTED</source>
+        <extracomment>Of the network in use</extracomment>
+        <translation>Es steht nicht in Ihrer Liste.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_VPN</source>
+        <extracomment>%1: what the user calls the VPN</extracomment>
+        <translation>Das VPN %1 ist verbunden.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_CHOICE</source>
+        <extracomment>%1: a network. A reason may follow</extracomment>
+        <translation>Ihre Liste würde %1 wählen.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_WITHOUT_IT</source>
+        <extracomment>What is in use is a cable, for example. %1: a network</extracomment>
+        <translation>Ohne sie würde Ihre Liste %1 wählen.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NOT_CERTAIN</source>
+        <extracomment>%1: names of networks</extracomment>
+        <translation>Unbekannt, ob in Reichweite: %1.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NOTHING_USABLE</source>
+        <translation>Von keinem der Netzwerke in Ihrer Liste ist bekannt, dass es funktionieren kann.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_SKIPPED</source>
+        <extracomment>%1: names of networks</extracomment>
+        <translation>Weiter oben in der Liste, aber jetzt nicht möglich: %1.</translation>
+    </message>
+    <message>
+        <source>IDS_STAGE_PREPARING</source>
+        <extracomment>How far a network is that is being connected</extracomment>
+        <translation>Die Verbindung wird vorbereitet.</translation>
+    </message>
+    <message>
+        <source>IDS_STAGE_AUTHENTICATING</source>
+        <extracomment>How far a network is that is being connected</extracomment>
+        <translation>Der Schlüssel wird geprüft.</translation>
+    </message>
+    <message>
+        <source>IDS_STAGE_ADDRESS</source>
+        <extracomment>How far a network is that is being connected</extracomment>
+        <translation>Das Netzwerk wird um eine Adresse gebeten.</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_CONNECTED</source>
+        <extracomment>Of a network that is not in use, at the end of its row</extracomment>
+        <translation>Verbunden</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_CONNECTING</source>
+        <extracomment>At the end of a row</extracomment>
+        <translation>Wird verbunden</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_DISCONNECTING</source>
+        <extracomment>At the end of a row</extracomment>
+        <translation>Wird getrennt</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_HIDDEN</source>
+        <extracomment>At the end of a row: the network does not tell its name</extracomment>
+        <translation>Verborgen: wird versucht</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_NOT_SAVED</source>
+        <extracomment>At the end of a row</extracomment>
+        <translation>Hier nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_CANNOT</source>
+        <extracomment>At the end of a row</extracomment>
+        <translation>Nicht möglich</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_NO_ADAPTER</source>
+        <extracomment>At the end of a row</extracomment>
+        <translation>Kein Adapter</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_NO_MODEM</source>
+        <extracomment>At the end of a row</extracomment>
+        <translation>Kein Modem</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_OFF</source>
+        <extracomment>At the end of a row: the adapter or modem is off</extracomment>
+        <translation>Ausgeschaltet</translation>
+    </message>
+    <message>
+        <source>IDS_USE_LOWER</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>%1 steht in der Liste weiter oben.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_HIDDEN</source>
+        <translation>Das Netzwerk verbirgt seinen Namen, daher ist nicht bekannt, ob es in Reichweite ist. Es wird versucht.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_OTHER_SECURITY</source>
+        <translation>Ein Netzwerk dieses Namens ist in Reichweite, hat aber eine andere Sicherheit.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_OTHER_DEVICE</source>
+        <extracomment>station: an access point</extracomment>
+        <translation>Es ist für einen anderen Adapter, ein anderes Band oder eine andere Station gespeichert als hier vorhanden.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_NO_DEVICE</source>
+        <translation>Es gibt keinen Adapter und kein Modem dafür, die funktionieren.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_OFF</source>
+        <translation>Der Adapter oder das Modem dafür ist ausgeschaltet.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_BLOCKED</source>
+        <extracomment>By a hardware button or in flight mode</extracomment>
+        <translation>Eine Taste dieses Computers hält den Adapter oder das Modem dafür ausgeschaltet.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_SIM</source>
+        <translation>Die SIM-Karte verlangt ihre PIN.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_OTHER_USERS</source>
+        <translation>Es gehört anderen Benutzern dieses Computers.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_NO_ACCOUNT</source>
+        <translation>Es braucht ein Konto, und keines ist gespeichert.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_NOT_SAVED</source>
+        <translation>Auf diesem Computer ist kein Netzwerk dieses Namens gespeichert.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_NOT_KNOWN</source>
+        <translation>Es ist nicht bekannt, ob es möglich ist.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_TWICE</source>
+        <translation>Es steht schon weiter oben in der Liste, daher wirkt dieser Platz nicht.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_BY_HAND</source>
+        <translation>Es verbindet sich nicht von selbst.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_KEPT</source>
+        <translation>NetworkManager behält eine Verbindung, die funktioniert, bis Sie wechseln.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_OTHER</source>
+        <translation>Beim letzten Versuch kam keine Verbindung zustande.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_KEY</source>
+        <translation>Beim letzten Versuch wurde der Schlüssel abgelehnt.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_NO_KEY</source>
+        <translation>Beim letzten Versuch fehlte ein Schlüssel.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_NO_ANSWER</source>
+        <translation>Beim letzten Versuch hat es nicht geantwortet.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_NO_ADDRESS</source>
+        <translation>Beim letzten Versuch gab es keine Adresse.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_REFUSED</source>
+        <translation>Beim letzten Versuch hat es diesen Computer nicht zugelassen.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_SIM</source>
+        <translation>Beim letzten Versuch funktionierte die SIM-Karte nicht.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_STOPPED</source>
+        <translation>Beim letzten Mal wurde es von Hand beendet.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_DEVICE</source>
+        <translation>Beim letzten Versuch war der Adapter oder das Modem nicht verfügbar.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_NOT_ALLOWED</source>
+        <translation>Sie dürfen das nicht.</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_SWITCH</source>
+        <extracomment>Puts the network that the list would choose in the place of the one in use; 120 pixels</extracomment>
+        <translation>Wechseln</translation>
+    </message>
+    <message>
+        <source>IDS_SWITCH_TO</source>
+        <extracomment>Tool tip of that button. %1: a network</extracomment>
+        <translation>Zu %1 wechseln</translation>
+    </message>
+    <message>
+        <source>IDS_SWITCH_FAILED</source>
+        <extracomment>%1: a network. A reason may follow</extracomment>
+        <translation>%1 wurde nicht verbunden.</translation>
     </message>
     <message>
         <source>IDS_LIST_DAMAGED</source>
@@ -922,24 +1165,12 @@ Erwartet: %3</translation>
         <translation>Mit „Rückgängig“ lässt sich die letzte vollständige Liste wiederherstellen.</translation>
     </message>
     <message>
-        <source>IDS_HEAD_SKIPPED</source>
-        <translation>Weiter oben in der Liste, aber außer Reichweite: %1.</translation>
-    </message>
-    <message>
         <source>IDS_HEAD_CONNECT_HINT</source>
         <translation>„Verbinden&#xa0;…“ zeigt die anderen Netzwerke in Reichweite.</translation>
     </message>
     <message>
         <source>IDS_WHY_OUT_OF_RANGE</source>
         <translation>Wird nicht verwendet, weil es außer Reichweite ist.</translation>
-    </message>
-    <message>
-        <source>IDS_WHY_LOWER</source>
-        <translation>Wird nicht verwendet, weil %1 in der Liste weiter oben steht.</translation>
-    </message>
-    <message>
-        <source>IDS_WHY_UNDECIDED</source>
-        <translation>Wird nicht verwendet, weil nicht bekannt ist, ob ein Netzwerk weiter oben in der Liste in Reichweite ist.</translation>
     </message>
     <message>
         <source>IDS_ACTION_TRACE_SEARCH</source>

@@ -379,14 +379,6 @@ You can use letters, digits and these symbols:
         <translation>In use now: %1</translation>
     </message>
     <message>
-        <source>IDS_HEAD_IN_USE_WIFI</source>
-        <translation>It is the first network in your list that is in range.</translation>
-    </message>
-    <message>
-        <source>IDS_HEAD_IN_USE_MOBILE</source>
-        <translation>No Wi-Fi network above it in your list is in range.</translation>
-    </message>
-    <message>
         <source>IDS_HEAD_NONE</source>
         <translation>No network in use</translation>
     </message>
@@ -405,16 +397,267 @@ You can use letters, digits and these symbols:
         <translation>Your list cannot be read in full, so it is not known which network comes first.</translation>
     </message>
     <message>
-        <source>IDS_HEAD_NOTHING_IN_RANGE</source>
-        <translation>None of the networks in your list is in range.</translation>
-    </message>
-    <message>
         <source>IDS_HEAD_RANGE_UNKNOWN</source>
         <translation>The Wi-Fi plug-in is not available, so it is not known which networks are in range.</translation>
     </message>
     <message>
         <source>IDS_HEAD_NO_PRIORITY_PLUGIN</source>
         <translation>The plug-in that keeps the list is not available.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_CONNECTING</source>
+        <extracomment>In place of the network in use while one is being connected. %1: a network</extracomment>
+        <translation>Connecting: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NO_TRAFFIC</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>%1 is connected, but the traffic does not go through it.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_GONE</source>
+        <extracomment>In place of the network in use</extracomment>
+        <translation>NetworkManager is not running</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_GONE_WHY</source>
+        <extracomment>Follows: NetworkManager is not running</extracomment>
+        <translation>It is not known which network is in use. Your list can be changed; it takes effect once NetworkManager runs.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_ASKING</source>
+        <translation>NetworkManager has not answered yet, so it is not known which network is in use.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NOT_TOLD</source>
+        <translation>The Wi-Fi plug-in does not tell which network is in use.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_PRACTICE</source>
+        <extracomment>The headline while the networks are made up. %1: the headline, such as: In use now: Home</extracomment>
+        <translation>%1 (practice)</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_FIRST</source>
+        <extracomment>Why a network is in use</extracomment>
+        <translation>It is the first network in your list that is known to be usable.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_OTHER_KIND</source>
+        <extracomment>What is in use is a cable, for example</extracomment>
+        <translation>The list is for Wi-Fi and mobile broadband; this connection is of another kind.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NOT_LISTED</source>
+        <extracomment>Of the network in use</extracomment>
+        <translation>It is not in your list.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_VPN</source>
+        <extracomment>%1: what the user calls the VPN</extracomment>
+        <translation>The VPN %1 is connected.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_CHOICE</source>
+        <extracomment>%1: a network. A reason may follow</extracomment>
+        <translation>Your list would choose %1.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_WITHOUT_IT</source>
+        <extracomment>What is in use is a cable, for example. %1: a network</extracomment>
+        <translation>Without it, your list would choose %1.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NOT_CERTAIN</source>
+        <extracomment>%1: names of networks</extracomment>
+        <translation>Not known if in range: %1.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NOTHING_USABLE</source>
+        <translation>None of the networks in your list is known to be usable.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_SKIPPED</source>
+        <extracomment>%1: names of networks</extracomment>
+        <translation>Higher in the list, but cannot be used now: %1.</translation>
+    </message>
+    <message>
+        <source>IDS_STAGE_PREPARING</source>
+        <extracomment>How far a network is that is being connected</extracomment>
+        <translation>The connection is being prepared.</translation>
+    </message>
+    <message>
+        <source>IDS_STAGE_AUTHENTICATING</source>
+        <extracomment>How far a network is that is being connected</extracomment>
+        <translation>The key is being checked.</translation>
+    </message>
+    <message>
+        <source>IDS_STAGE_ADDRESS</source>
+        <extracomment>How far a network is that is being connected</extracomment>
+        <translation>The network is being asked for an address.</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_CONNECTED</source>
+        <extracomment>Of a network that is not in use, at the end of its row</extracomment>
+        <translation>Connected</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_CONNECTING</source>
+        <extracomment>At the end of a row</extracomment>
+        <translation>Connecting</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_DISCONNECTING</source>
+        <extracomment>At the end of a row</extracomment>
+        <translation>Disconnecting</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_HIDDEN</source>
+        <extracomment>At the end of a row: the network does not tell its name</extracomment>
+        <translation>Hidden: is tried</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_NOT_SAVED</source>
+        <extracomment>At the end of a row</extracomment>
+        <translation>Not saved here</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_CANNOT</source>
+        <extracomment>At the end of a row</extracomment>
+        <translation>Cannot be used</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_NO_ADAPTER</source>
+        <extracomment>At the end of a row</extracomment>
+        <translation>No adapter</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_NO_MODEM</source>
+        <extracomment>At the end of a row</extracomment>
+        <translation>No modem</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_OFF</source>
+        <extracomment>At the end of a row: the adapter or modem is off</extracomment>
+        <translation>Turned off</translation>
+    </message>
+    <message>
+        <source>IDS_USE_LOWER</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>%1 is higher in the list.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_HIDDEN</source>
+        <translation>The network hides its name, so it is not known if it is in range. It is tried.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_OTHER_SECURITY</source>
+        <translation>A network of that name is in range, but has another security.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_OTHER_DEVICE</source>
+        <extracomment>station: an access point</extracomment>
+        <translation>It is saved for another adapter, band or station than what is here.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_NO_DEVICE</source>
+        <translation>There is no adapter or modem for it that works.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_OFF</source>
+        <translation>Its adapter or modem is turned off.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_BLOCKED</source>
+        <extracomment>By a hardware button or in flight mode</extracomment>
+        <translation>Its adapter or modem is held off by a button of this computer.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_SIM</source>
+        <translation>The SIM card wants its PIN.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_OTHER_USERS</source>
+        <translation>It belongs to other users of this computer.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_NO_ACCOUNT</source>
+        <translation>It needs an account, and none is saved.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_NOT_SAVED</source>
+        <translation>This computer has no saved network of that name.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_NOT_KNOWN</source>
+        <translation>It is not known if it can be used.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_TWICE</source>
+        <translation>It stands higher in the list already, so this place has no effect.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_BY_HAND</source>
+        <translation>It does not connect by itself.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_KEPT</source>
+        <translation>NetworkManager keeps a connection that works until you switch.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_OTHER</source>
+        <translation>When last tried, it could not be connected.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_KEY</source>
+        <translation>When last tried, the key was refused.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_NO_KEY</source>
+        <translation>When last tried, a key was missing.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_NO_ANSWER</source>
+        <translation>When last tried, it did not answer.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_NO_ADDRESS</source>
+        <translation>When last tried, it gave no address.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_REFUSED</source>
+        <translation>When last tried, it did not let this computer in.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_SIM</source>
+        <translation>When last tried, the SIM card did not work.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_STOPPED</source>
+        <translation>When last tried, it was ended by hand.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_DEVICE</source>
+        <translation>When last tried, the adapter or modem was not available.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_NOT_ALLOWED</source>
+        <translation>You are not allowed to do that.</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_SWITCH</source>
+        <extracomment>Puts the network that the list would choose in the place of the one in use; 120 pixels</extracomment>
+        <translation>Switch</translation>
+    </message>
+    <message>
+        <source>IDS_SWITCH_TO</source>
+        <extracomment>Tool tip of that button. %1: a network</extracomment>
+        <translation>Switch to %1</translation>
+    </message>
+    <message>
+        <source>IDS_SWITCH_FAILED</source>
+        <extracomment>%1: a network. A reason may follow</extracomment>
+        <translation>%1 was not connected.</translation>
     </message>
     <message>
         <source>IDS_LIST_DAMAGED</source>
@@ -1008,11 +1251,6 @@ Expected: %3</translation>
         <translation>“Undo” restores the last complete list.</translation>
     </message>
     <message>
-        <source>IDS_HEAD_SKIPPED</source>
-        <extracomment>Follows the reason why a network is in use. %1: names of networks</extracomment>
-        <translation>Higher in the list, but out of range: %1.</translation>
-    </message>
-    <message>
         <source>IDS_HEAD_CONNECT_HINT</source>
         <extracomment>Follows: None of the networks in your list is in range</extracomment>
         <translation>“Connect…” shows the other networks in range.</translation>
@@ -1021,16 +1259,6 @@ Expected: %3</translation>
         <source>IDS_WHY_OUT_OF_RANGE</source>
         <extracomment>Tool tip of an entry</extracomment>
         <translation>Not in use, because it is out of range.</translation>
-    </message>
-    <message>
-        <source>IDS_WHY_LOWER</source>
-        <extracomment>Tool tip of an entry. %1: a network</extracomment>
-        <translation>Not in use, because %1 is higher in the list.</translation>
-    </message>
-    <message>
-        <source>IDS_WHY_UNDECIDED</source>
-        <extracomment>Tool tip of an entry</extracomment>
-        <translation>Not in use, because it is not known whether a network higher in the list is in range.</translation>
     </message>
     <message>
         <source>IDS_ACTION_TRACE_SEARCH</source>

@@ -352,14 +352,6 @@ Puede usar letras, números y estos símbolos:
         <translation>En uso ahora: %1</translation>
     </message>
     <message>
-        <source>IDS_HEAD_IN_USE_WIFI</source>
-        <translation>Es la primera red de su lista que está al alcance.</translation>
-    </message>
-    <message>
-        <source>IDS_HEAD_IN_USE_MOBILE</source>
-        <translation>Ninguna red Wi-Fi situada más arriba en su lista está al alcance.</translation>
-    </message>
-    <message>
         <source>IDS_HEAD_NONE</source>
         <translation>Ninguna red en uso</translation>
     </message>
@@ -378,16 +370,267 @@ Puede usar letras, números y estos símbolos:
         <translation>Su lista no se puede leer entera, así que no se sabe qué red va primero.</translation>
     </message>
     <message>
-        <source>IDS_HEAD_NOTHING_IN_RANGE</source>
-        <translation>Ninguna de las redes de su lista está al alcance.</translation>
-    </message>
-    <message>
         <source>IDS_HEAD_RANGE_UNKNOWN</source>
         <translation>El complemento de Wi-Fi no está disponible, así que no se sabe qué redes están al alcance.</translation>
     </message>
     <message>
         <source>IDS_HEAD_NO_PRIORITY_PLUGIN</source>
         <translation>El complemento que gestiona la lista no está disponible.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_CONNECTING</source>
+        <extracomment>In place of the network in use while one is being connected. %1: a network</extracomment>
+        <translation>Conectando: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NO_TRAFFIC</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>%1 está conectada, pero el tráfico no pasa por ella.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_GONE</source>
+        <extracomment>In place of the network in use</extracomment>
+        <translation>NetworkManager no se está ejecutando</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_GONE_WHY</source>
+        <extracomment>Follows: NetworkManager is not running</extracomment>
+        <translation>No se sabe qué red está en uso. Puede cambiar su lista; tendrá efecto cuando NetworkManager se ejecute.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_ASKING</source>
+        <translation>NetworkManager aún no ha respondido, así que no se sabe qué red está en uso.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NOT_TOLD</source>
+        <translation>El complemento de Wi-Fi no indica qué red está en uso.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_PRACTICE</source>
+        <extracomment>The headline while the networks are made up. %1: the headline, such as: In use now: Home</extracomment>
+        <translation>%1 (prueba)</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_FIRST</source>
+        <extracomment>Why a network is in use</extracomment>
+        <translation>Es la primera red de su lista que se sabe que puede usarse.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_OTHER_KIND</source>
+        <extracomment>What is in use is a cable, for example</extracomment>
+        <translation>La lista es para Wi-Fi y banda ancha móvil; esta conexión es de otro tipo.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NOT_LISTED</source>
+        <extracomment>Of the network in use</extracomment>
+        <translation>No está en su lista.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_VPN</source>
+        <extracomment>%1: what the user calls the VPN</extracomment>
+        <translation>La VPN %1 está conectada.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_CHOICE</source>
+        <extracomment>%1: a network. A reason may follow</extracomment>
+        <translation>Su lista elegiría %1.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_WITHOUT_IT</source>
+        <extracomment>What is in use is a cable, for example. %1: a network</extracomment>
+        <translation>Sin ella, su lista elegiría %1.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NOT_CERTAIN</source>
+        <extracomment>%1: names of networks</extracomment>
+        <translation>No se sabe si están al alcance: %1.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NOTHING_USABLE</source>
+        <translation>No se sabe de ninguna red de su lista que pueda usarse.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_SKIPPED</source>
+        <extracomment>%1: names of networks</extracomment>
+        <translation>Más arriba en la lista, pero no se pueden usar ahora: %1.</translation>
+    </message>
+    <message>
+        <source>IDS_STAGE_PREPARING</source>
+        <extracomment>How far a network is that is being connected</extracomment>
+        <translation>Se está preparando la conexión.</translation>
+    </message>
+    <message>
+        <source>IDS_STAGE_AUTHENTICATING</source>
+        <extracomment>How far a network is that is being connected</extracomment>
+        <translation>Se está comprobando la clave.</translation>
+    </message>
+    <message>
+        <source>IDS_STAGE_ADDRESS</source>
+        <extracomment>How far a network is that is being connected</extracomment>
+        <translation>Se está pidiendo una dirección a la red.</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_CONNECTED</source>
+        <extracomment>Of a network that is not in use, at the end of its row</extracomment>
+        <translation>Conectada</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_CONNECTING</source>
+        <extracomment>At the end of a row</extracomment>
+        <translation>Conectando</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_DISCONNECTING</source>
+        <extracomment>At the end of a row</extracomment>
+        <translation>Desconectando</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_HIDDEN</source>
+        <extracomment>At the end of a row: the network does not tell its name</extracomment>
+        <translation>Oculta: se intenta</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_NOT_SAVED</source>
+        <extracomment>At the end of a row</extracomment>
+        <translation>No guardada aquí</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_CANNOT</source>
+        <extracomment>At the end of a row</extracomment>
+        <translation>No se puede usar</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_NO_ADAPTER</source>
+        <extracomment>At the end of a row</extracomment>
+        <translation>Sin adaptador</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_NO_MODEM</source>
+        <extracomment>At the end of a row</extracomment>
+        <translation>Sin módem</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_OFF</source>
+        <extracomment>At the end of a row: the adapter or modem is off</extracomment>
+        <translation>Apagada</translation>
+    </message>
+    <message>
+        <source>IDS_USE_LOWER</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>%1 está más arriba en la lista.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_HIDDEN</source>
+        <translation>La red oculta su nombre, así que no se sabe si está al alcance. Se intenta.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_OTHER_SECURITY</source>
+        <translation>Una red de ese nombre está al alcance, pero con otra seguridad.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_OTHER_DEVICE</source>
+        <extracomment>station: an access point</extracomment>
+        <translation>Está guardada para un adaptador, una banda o una estación que no están aquí.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_NO_DEVICE</source>
+        <translation>No hay ningún adaptador ni módem que funcione para ella.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_OFF</source>
+        <translation>Su adaptador o módem está apagado.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_BLOCKED</source>
+        <extracomment>By a hardware button or in flight mode</extracomment>
+        <translation>Un botón de este equipo mantiene apagado su adaptador o módem.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_SIM</source>
+        <translation>La tarjeta SIM pide su PIN.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_OTHER_USERS</source>
+        <translation>Es de otros usuarios de este equipo.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_NO_ACCOUNT</source>
+        <translation>Necesita una cuenta y no hay ninguna guardada.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_NOT_SAVED</source>
+        <translation>En este equipo no hay ninguna red guardada con ese nombre.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_NOT_KNOWN</source>
+        <translation>No se sabe si se puede usar.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_TWICE</source>
+        <translation>Ya está más arriba en la lista, así que este puesto no tiene efecto.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_BY_HAND</source>
+        <translation>No se conecta por sí sola.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_KEPT</source>
+        <translation>NetworkManager mantiene una conexión que funciona hasta que decida cambiar.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_OTHER</source>
+        <translation>En el último intento no se pudo conectar.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_KEY</source>
+        <translation>En el último intento se rechazó la clave.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_NO_KEY</source>
+        <translation>En el último intento faltaba una clave.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_NO_ANSWER</source>
+        <translation>En el último intento no respondió.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_NO_ADDRESS</source>
+        <translation>En el último intento no dio ninguna dirección.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_REFUSED</source>
+        <translation>En el último intento no dejó entrar a este equipo.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_SIM</source>
+        <translation>En el último intento no funcionó la tarjeta SIM.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_STOPPED</source>
+        <translation>La última vez se terminó a mano.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_DEVICE</source>
+        <translation>En el último intento el adaptador o el módem no estaba disponible.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_NOT_ALLOWED</source>
+        <translation>Usted no tiene permiso para ello.</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_SWITCH</source>
+        <extracomment>Puts the network that the list would choose in the place of the one in use; 120 pixels</extracomment>
+        <translation>Cambiar</translation>
+    </message>
+    <message>
+        <source>IDS_SWITCH_TO</source>
+        <extracomment>Tool tip of that button. %1: a network</extracomment>
+        <translation>Cambiar a %1</translation>
+    </message>
+    <message>
+        <source>IDS_SWITCH_FAILED</source>
+        <extracomment>%1: a network. A reason may follow</extracomment>
+        <translation>%1 no se ha conectado.</translation>
     </message>
     <message>
         <source>IDS_LIST_DAMAGED</source>
@@ -922,24 +1165,12 @@ Esperado: %3</translation>
         <translation>«Deshacer» restaura la última lista completa.</translation>
     </message>
     <message>
-        <source>IDS_HEAD_SKIPPED</source>
-        <translation>Más arriba en la lista, pero fuera de alcance: %1.</translation>
-    </message>
-    <message>
         <source>IDS_HEAD_CONNECT_HINT</source>
         <translation>«Conectar…» muestra las otras redes al alcance.</translation>
     </message>
     <message>
         <source>IDS_WHY_OUT_OF_RANGE</source>
         <translation>No está en uso porque está fuera de alcance.</translation>
-    </message>
-    <message>
-        <source>IDS_WHY_LOWER</source>
-        <translation>No está en uso porque %1 está más arriba en la lista.</translation>
-    </message>
-    <message>
-        <source>IDS_WHY_UNDECIDED</source>
-        <translation>No está en uso porque no se sabe si hay al alcance una red más arriba en la lista.</translation>
     </message>
     <message>
         <source>IDS_ACTION_TRACE_SEARCH</source>

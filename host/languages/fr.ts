@@ -352,14 +352,6 @@ Vous pouvez utiliser des lettres, des chiffres et les symboles suivants&#xa0;:
         <translation>Utilisé actuellement&#xa0;: %1</translation>
     </message>
     <message>
-        <source>IDS_HEAD_IN_USE_WIFI</source>
-        <translation>C’est le premier réseau de votre liste qui soit à portée.</translation>
-    </message>
-    <message>
-        <source>IDS_HEAD_IN_USE_MOBILE</source>
-        <translation>Aucun réseau Wi-Fi placé plus haut dans votre liste n’est à portée.</translation>
-    </message>
-    <message>
         <source>IDS_HEAD_NONE</source>
         <translation>Aucun réseau utilisé</translation>
     </message>
@@ -378,16 +370,267 @@ Vous pouvez utiliser des lettres, des chiffres et les symboles suivants&#xa0;:
         <translation>Votre liste ne peut pas être lue en entier&#x202f;; on ne sait donc pas quel réseau vient en premier.</translation>
     </message>
     <message>
-        <source>IDS_HEAD_NOTHING_IN_RANGE</source>
-        <translation>Aucun des réseaux de votre liste n’est à portée.</translation>
-    </message>
-    <message>
         <source>IDS_HEAD_RANGE_UNKNOWN</source>
         <translation>Le module Wi-Fi n’est pas disponible&#x202f;; on ne sait donc pas quels réseaux sont à portée.</translation>
     </message>
     <message>
         <source>IDS_HEAD_NO_PRIORITY_PLUGIN</source>
         <translation>Le module qui gère la liste n’est pas disponible.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_CONNECTING</source>
+        <extracomment>In place of the network in use while one is being connected. %1: a network</extracomment>
+        <translation>Connexion en cours&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NO_TRAFFIC</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>%1 est connecté, mais le trafic n’y passe pas.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_GONE</source>
+        <extracomment>In place of the network in use</extracomment>
+        <translation>NetworkManager n’est pas en cours d’exécution</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_GONE_WHY</source>
+        <extracomment>Follows: NetworkManager is not running</extracomment>
+        <translation>On ne sait pas quel réseau est utilisé. Votre liste peut être modifiée&#x202f;; elle prendra effet dès que NetworkManager fonctionnera.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_ASKING</source>
+        <translation>NetworkManager n’a pas encore répondu&#x202f;; on ne sait donc pas quel réseau est utilisé.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NOT_TOLD</source>
+        <translation>Le module Wi-Fi n’indique pas quel réseau est utilisé.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_PRACTICE</source>
+        <extracomment>The headline while the networks are made up. %1: the headline, such as: In use now: Home</extracomment>
+        <translation>%1 (essai)</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_FIRST</source>
+        <extracomment>Why a network is in use</extracomment>
+        <translation>C’est le premier réseau de votre liste dont on sait qu’il peut servir.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_OTHER_KIND</source>
+        <extracomment>What is in use is a cable, for example</extracomment>
+        <translation>La liste est faite pour le Wi-Fi et le haut débit mobile&#x202f;; cette connexion est d’un autre type.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NOT_LISTED</source>
+        <extracomment>Of the network in use</extracomment>
+        <translation>Il n’est pas dans votre liste.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_VPN</source>
+        <extracomment>%1: what the user calls the VPN</extracomment>
+        <translation>Le VPN %1 est connecté.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_CHOICE</source>
+        <extracomment>%1: a network. A reason may follow</extracomment>
+        <translation>Votre liste choisirait %1.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_WITHOUT_IT</source>
+        <extracomment>What is in use is a cable, for example. %1: a network</extracomment>
+        <translation>Sans elle, votre liste choisirait %1.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NOT_CERTAIN</source>
+        <extracomment>%1: names of networks</extracomment>
+        <translation>On ignore s’ils sont à portée&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NOTHING_USABLE</source>
+        <translation>On ne sait d’aucun des réseaux de votre liste qu’il peut servir.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_SKIPPED</source>
+        <extracomment>%1: names of networks</extracomment>
+        <translation>Plus haut dans la liste, mais sans possibilité de servir maintenant&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>IDS_STAGE_PREPARING</source>
+        <extracomment>How far a network is that is being connected</extracomment>
+        <translation>La connexion est en préparation.</translation>
+    </message>
+    <message>
+        <source>IDS_STAGE_AUTHENTICATING</source>
+        <extracomment>How far a network is that is being connected</extracomment>
+        <translation>La clé est en cours de vérification.</translation>
+    </message>
+    <message>
+        <source>IDS_STAGE_ADDRESS</source>
+        <extracomment>How far a network is that is being connected</extracomment>
+        <translation>Une adresse est demandée au réseau.</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_CONNECTED</source>
+        <extracomment>Of a network that is not in use, at the end of its row</extracomment>
+        <translation>Connecté</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_CONNECTING</source>
+        <extracomment>At the end of a row</extracomment>
+        <translation>Connexion en cours</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_DISCONNECTING</source>
+        <extracomment>At the end of a row</extracomment>
+        <translation>Déconnexion en cours</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_HIDDEN</source>
+        <extracomment>At the end of a row: the network does not tell its name</extracomment>
+        <translation>Masqué&#xa0;: est essayé</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_NOT_SAVED</source>
+        <extracomment>At the end of a row</extracomment>
+        <translation>Non enregistré ici</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_CANNOT</source>
+        <extracomment>At the end of a row</extracomment>
+        <translation>Ne peut pas servir</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_NO_ADAPTER</source>
+        <extracomment>At the end of a row</extracomment>
+        <translation>Pas d’adaptateur</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_NO_MODEM</source>
+        <extracomment>At the end of a row</extracomment>
+        <translation>Pas de modem</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_OFF</source>
+        <extracomment>At the end of a row: the adapter or modem is off</extracomment>
+        <translation>Éteint</translation>
+    </message>
+    <message>
+        <source>IDS_USE_LOWER</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>%1 est plus haut dans la liste.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_HIDDEN</source>
+        <translation>Le réseau masque son nom&#x202f;; on ne sait donc pas s’il est à portée. Il est essayé.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_OTHER_SECURITY</source>
+        <translation>Un réseau de ce nom est à portée, mais sa sécurité est autre.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_OTHER_DEVICE</source>
+        <extracomment>station: an access point</extracomment>
+        <translation>Il est enregistré pour un autre adaptateur, une autre bande ou une autre station que ceux d’ici.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_NO_DEVICE</source>
+        <translation>Aucun adaptateur ou modem ne fonctionne pour lui.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_OFF</source>
+        <translation>Son adaptateur ou modem est éteint.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_BLOCKED</source>
+        <extracomment>By a hardware button or in flight mode</extracomment>
+        <translation>Un bouton de cet ordinateur maintient éteint son adaptateur ou modem.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_SIM</source>
+        <translation>La carte SIM demande son code PIN.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_OTHER_USERS</source>
+        <translation>Il appartient à d’autres utilisateurs de cet ordinateur.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_NO_ACCOUNT</source>
+        <translation>Il lui faut un compte, et aucun n’est enregistré.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_NOT_SAVED</source>
+        <translation>Cet ordinateur n’a aucun réseau enregistré de ce nom.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_NOT_KNOWN</source>
+        <translation>On ne sait pas s’il peut servir.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_TWICE</source>
+        <translation>Il est déjà plus haut dans la liste&#x202f;; ce rang est donc sans effet.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_BY_HAND</source>
+        <translation>Il ne se connecte pas de lui-même.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_KEPT</source>
+        <translation>NetworkManager garde une connexion qui fonctionne jusqu’à ce que vous décidiez de passer à une autre.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_OTHER</source>
+        <translation>Au dernier essai, la connexion a échoué.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_KEY</source>
+        <translation>Au dernier essai, la clé a été refusée.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_NO_KEY</source>
+        <translation>Au dernier essai, il manquait une clé.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_NO_ANSWER</source>
+        <translation>Au dernier essai, il n’a pas répondu.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_NO_ADDRESS</source>
+        <translation>Au dernier essai, il n’a pas donné d’adresse.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_REFUSED</source>
+        <translation>Au dernier essai, il n’a pas laissé entrer cet ordinateur.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_SIM</source>
+        <translation>Au dernier essai, la carte SIM n’a pas fonctionné.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_STOPPED</source>
+        <translation>La dernière fois, il a été arrêté à la main.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_DEVICE</source>
+        <translation>Au dernier essai, l’adaptateur ou le modem n’était pas disponible.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_NOT_ALLOWED</source>
+        <translation>Vous n’en avez pas le droit.</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_SWITCH</source>
+        <extracomment>Puts the network that the list would choose in the place of the one in use; 120 pixels</extracomment>
+        <translation>Passer</translation>
+    </message>
+    <message>
+        <source>IDS_SWITCH_TO</source>
+        <extracomment>Tool tip of that button. %1: a network</extracomment>
+        <translation>Passer à %1</translation>
+    </message>
+    <message>
+        <source>IDS_SWITCH_FAILED</source>
+        <extracomment>%1: a network. A reason may follow</extracomment>
+        <translation>%1 n’a pas été connecté.</translation>
     </message>
     <message>
         <source>IDS_LIST_DAMAGED</source>
@@ -922,24 +1165,12 @@ Attendu&#xa0;: %3</translation>
         <translation>«&#xa0;Annuler l’action&#xa0;» permet de restaurer la dernière liste complète.</translation>
     </message>
     <message>
-        <source>IDS_HEAD_SKIPPED</source>
-        <translation>Plus haut dans la liste, mais hors de portée : %1.</translation>
-    </message>
-    <message>
         <source>IDS_HEAD_CONNECT_HINT</source>
         <translation>«&#xa0;Se connecter…&#xa0;» montre les autres réseaux à portée.</translation>
     </message>
     <message>
         <source>IDS_WHY_OUT_OF_RANGE</source>
         <translation>Non utilisé, car il est hors de portée.</translation>
-    </message>
-    <message>
-        <source>IDS_WHY_LOWER</source>
-        <translation>Non utilisé, car %1 est plus haut dans la liste.</translation>
-    </message>
-    <message>
-        <source>IDS_WHY_UNDECIDED</source>
-        <translation>Non utilisé, car on ignore si un réseau plus haut dans la liste est à portée.</translation>
     </message>
     <message>
         <source>IDS_ACTION_TRACE_SEARCH</source>

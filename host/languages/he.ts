@@ -352,14 +352,6 @@
         <translation>בשימוש כעת: %1</translation>
     </message>
     <message>
-        <source>IDS_HEAD_IN_USE_WIFI</source>
-        <translation>זו הרשת הראשונה ברשימה שלך הנמצאת בטווח.</translation>
-    </message>
-    <message>
-        <source>IDS_HEAD_IN_USE_MOBILE</source>
-        <translation>אין בטווח רשת Wi-Fi גבוהה ממנה ברשימה שלך.</translation>
-    </message>
-    <message>
         <source>IDS_HEAD_NONE</source>
         <translation>אין רשת בשימוש</translation>
     </message>
@@ -378,16 +370,267 @@
         <translation>לא ניתן לקרוא את הרשימה שלך במלואה, ולכן לא ידוע איזו רשת ראשונה.</translation>
     </message>
     <message>
-        <source>IDS_HEAD_NOTHING_IN_RANGE</source>
-        <translation>אף רשת מהרשימה שלך אינה בטווח.</translation>
-    </message>
-    <message>
         <source>IDS_HEAD_RANGE_UNKNOWN</source>
         <translation>תוסף ה־Wi-Fi אינו זמין, ולכן לא ידוע אילו רשתות בטווח.</translation>
     </message>
     <message>
         <source>IDS_HEAD_NO_PRIORITY_PLUGIN</source>
         <translation>התוסף שמנהל את הרשימה אינו זמין.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_CONNECTING</source>
+        <extracomment>In place of the network in use while one is being connected. %1: a network</extracomment>
+        <translation>מתבצעת התחברות: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NO_TRAFFIC</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>הרשת %1 מחוברת, אך התעבורה אינה עוברת דרכה.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_GONE</source>
+        <extracomment>In place of the network in use</extracomment>
+        <translation>התוכנה &#x202a;NetworkManager&#x202c; אינה פועלת</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_GONE_WHY</source>
+        <extracomment>Follows: NetworkManager is not running</extracomment>
+        <translation>לא ידוע איזו רשת בשימוש. אפשר לשנות את הרשימה שלך; היא תיכנס לתוקף כשהתוכנה &#x202a;NetworkManager&#x202c; תפעל.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_ASKING</source>
+        <translation>התוכנה &#x202a;NetworkManager&#x202c; עדיין לא השיבה, ולכן לא ידוע איזו רשת בשימוש.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NOT_TOLD</source>
+        <translation>תוסף ה־Wi-Fi אינו מדווח איזו רשת בשימוש.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_PRACTICE</source>
+        <extracomment>The headline while the networks are made up. %1: the headline, such as: In use now: Home</extracomment>
+        <translation>&#x200f;%1 (תרגול)</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_FIRST</source>
+        <extracomment>Why a network is in use</extracomment>
+        <translation>זו הרשת הראשונה ברשימה שלך שידוע שאפשר להשתמש בה.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_OTHER_KIND</source>
+        <extracomment>What is in use is a cable, for example</extracomment>
+        <translation>הרשימה מיועדת ל־Wi-Fi ולפס רחב נייד; החיבור הזה הוא מסוג אחר.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NOT_LISTED</source>
+        <extracomment>Of the network in use</extracomment>
+        <translation>היא אינה ברשימה שלך.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_VPN</source>
+        <extracomment>%1: what the user calls the VPN</extracomment>
+        <translation>רשת ה־VPN %1 מחוברת.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_CHOICE</source>
+        <extracomment>%1: a network. A reason may follow</extracomment>
+        <translation>לפי הרשימה שלך הייתה נבחרת %1.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_WITHOUT_IT</source>
+        <extracomment>What is in use is a cable, for example. %1: a network</extracomment>
+        <translation>בלעדיו הייתה נבחרת לפי הרשימה שלך %1.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NOT_CERTAIN</source>
+        <extracomment>%1: names of networks</extracomment>
+        <translation>לא ידוע אם בטווח: %1.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NOTHING_USABLE</source>
+        <translation>לא ידוע על אף רשת ברשימה שלך שאפשר להשתמש בה.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_SKIPPED</source>
+        <extracomment>%1: names of networks</extracomment>
+        <translation>רשתות גבוהות יותר ברשימה שאי אפשר להשתמש בהן כעת: %1.</translation>
+    </message>
+    <message>
+        <source>IDS_STAGE_PREPARING</source>
+        <extracomment>How far a network is that is being connected</extracomment>
+        <translation>החיבור בהכנה.</translation>
+    </message>
+    <message>
+        <source>IDS_STAGE_AUTHENTICATING</source>
+        <extracomment>How far a network is that is being connected</extracomment>
+        <translation>המפתח בבדיקה.</translation>
+    </message>
+    <message>
+        <source>IDS_STAGE_ADDRESS</source>
+        <extracomment>How far a network is that is being connected</extracomment>
+        <translation>הרשת מתבקשת לתת כתובת.</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_CONNECTED</source>
+        <extracomment>Of a network that is not in use, at the end of its row</extracomment>
+        <translation>מחוברת</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_CONNECTING</source>
+        <extracomment>At the end of a row</extracomment>
+        <translation>בהתחברות</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_DISCONNECTING</source>
+        <extracomment>At the end of a row</extracomment>
+        <translation>בהתנתקות</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_HIDDEN</source>
+        <extracomment>At the end of a row: the network does not tell its name</extracomment>
+        <translation>מוסתרת: נעשה ניסיון</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_NOT_SAVED</source>
+        <extracomment>At the end of a row</extracomment>
+        <translation>לא שמורה כאן</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_CANNOT</source>
+        <extracomment>At the end of a row</extracomment>
+        <translation>אי אפשר להשתמש</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_NO_ADAPTER</source>
+        <extracomment>At the end of a row</extracomment>
+        <translation>אין מתאם</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_NO_MODEM</source>
+        <extracomment>At the end of a row</extracomment>
+        <translation>אין מודם</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_OFF</source>
+        <extracomment>At the end of a row: the adapter or modem is off</extracomment>
+        <translation>כבויה</translation>
+    </message>
+    <message>
+        <source>IDS_USE_LOWER</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>הרשת %1 גבוהה ממנה ברשימה.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_HIDDEN</source>
+        <translation>הרשת מסתירה את שמה, ולכן לא ידוע אם היא בטווח. נעשה ניסיון.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_OTHER_SECURITY</source>
+        <translation>רשת בשם הזה נמצאת בטווח, אך האבטחה שלה אחרת.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_OTHER_DEVICE</source>
+        <extracomment>station: an access point</extracomment>
+        <translation>היא שמורה למתאם, לתחום תדרים או לתחנה אחרים מאלה שכאן.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_NO_DEVICE</source>
+        <translation>אין עבורה מתאם או מודם שעובד.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_OFF</source>
+        <translation>המתאם או המודם שלה כבוי.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_BLOCKED</source>
+        <extracomment>By a hardware button or in flight mode</extracomment>
+        <translation>לחצן במחשב הזה מכבה את המתאם או המודם שלה.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_SIM</source>
+        <translation>כרטיס ה־SIM מבקש קוד PIN.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_OTHER_USERS</source>
+        <translation>היא שייכת למשתמשים אחרים של המחשב הזה.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_NO_ACCOUNT</source>
+        <translation>היא דורשת חשבון, ואין חשבון שמור.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_NOT_SAVED</source>
+        <translation>במחשב הזה אין רשת שמורה בשם הזה.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_NOT_KNOWN</source>
+        <translation>לא ידוע אם אפשר להשתמש בה.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_TWICE</source>
+        <translation>היא כבר נמצאת גבוה יותר ברשימה, ולכן למקום הזה אין השפעה.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_BY_HAND</source>
+        <translation>אין אליה התחברות אוטומטית.</translation>
+    </message>
+    <message>
+        <source>IDS_USE_KEPT</source>
+        <translation>התוכנה &#x202a;NetworkManager&#x202c; שומרת על חיבור פועל עד שמתבצע מעבר.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_OTHER</source>
+        <translation>בניסיון האחרון ההתחברות נכשלה.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_KEY</source>
+        <translation>בניסיון האחרון המפתח נדחה.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_NO_KEY</source>
+        <translation>בניסיון האחרון היה חסר מפתח.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_NO_ANSWER</source>
+        <translation>בניסיון האחרון לא התקבלה תשובה.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_NO_ADDRESS</source>
+        <translation>בניסיון האחרון לא התקבלה כתובת.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_REFUSED</source>
+        <translation>בניסיון האחרון המחשב הזה לא הורשה להיכנס.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_SIM</source>
+        <translation>בניסיון האחרון כרטיס ה־SIM לא פעל.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_STOPPED</source>
+        <translation>בפעם האחרונה היא הופסקה ידנית.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_DEVICE</source>
+        <translation>בניסיון האחרון המתאם או המודם לא היה זמין.</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_NOT_ALLOWED</source>
+        <translation>אין לך הרשאה לכך.</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_SWITCH</source>
+        <extracomment>Puts the network that the list would choose in the place of the one in use; 120 pixels</extracomment>
+        <translation>מעבר</translation>
+    </message>
+    <message>
+        <source>IDS_SWITCH_TO</source>
+        <extracomment>Tool tip of that button. %1: a network</extracomment>
+        <translation>מעבר אל %1</translation>
+    </message>
+    <message>
+        <source>IDS_SWITCH_FAILED</source>
+        <extracomment>%1: a network. A reason may follow</extracomment>
+        <translation>החיבור אל %1 לא הצליח.</translation>
     </message>
     <message>
         <source>IDS_LIST_DAMAGED</source>
@@ -921,24 +1164,12 @@
         <translation>„ביטול פעולה” מאפשר שחזור של הרשימה השלמה האחרונה.</translation>
     </message>
     <message>
-        <source>IDS_HEAD_SKIPPED</source>
-        <translation>רשתות גבוהות יותר ברשימה שמחוץ לטווח: %1.</translation>
-    </message>
-    <message>
         <source>IDS_HEAD_CONNECT_HINT</source>
         <translation>„התחברות…” מציג את שאר הרשתות שבטווח.</translation>
     </message>
     <message>
         <source>IDS_WHY_OUT_OF_RANGE</source>
         <translation>לא בשימוש, כי היא מחוץ לטווח.</translation>
-    </message>
-    <message>
-        <source>IDS_WHY_LOWER</source>
-        <translation>לא בשימוש, כי %1 גבוהה ממנה ברשימה.</translation>
-    </message>
-    <message>
-        <source>IDS_WHY_UNDECIDED</source>
-        <translation>לא בשימוש, כי לא ידוע אם רשת גבוהה ממנה ברשימה נמצאת בטווח.</translation>
     </message>
     <message>
         <source>IDS_ACTION_TRACE_SEARCH</source>

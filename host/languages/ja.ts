@@ -352,14 +352,6 @@
         <translation>現在使用中: %1</translation>
     </message>
     <message>
-        <source>IDS_HEAD_IN_USE_WIFI</source>
-        <translation>リストの中で、圏内にある最初のネットワークです。</translation>
-    </message>
-    <message>
-        <source>IDS_HEAD_IN_USE_MOBILE</source>
-        <translation>リストでこれより上にある Wi-Fi ネットワークは、どれも圏内にありません。</translation>
-    </message>
-    <message>
         <source>IDS_HEAD_NONE</source>
         <translation>使用中のネットワークはありません</translation>
     </message>
@@ -378,16 +370,267 @@
         <translation>リスト全体を読み取れないため、どのネットワークが最初か不明です。</translation>
     </message>
     <message>
-        <source>IDS_HEAD_NOTHING_IN_RANGE</source>
-        <translation>リストのネットワークは、どれも圏内にありません。</translation>
-    </message>
-    <message>
         <source>IDS_HEAD_RANGE_UNKNOWN</source>
         <translation>Wi-Fi プラグインを利用できないため、どのネットワークが圏内にあるか不明です。</translation>
     </message>
     <message>
         <source>IDS_HEAD_NO_PRIORITY_PLUGIN</source>
         <translation>リストを管理するプラグインを利用できません。</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_CONNECTING</source>
+        <extracomment>In place of the network in use while one is being connected. %1: a network</extracomment>
+        <translation>接続中: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NO_TRAFFIC</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>%1 に接続していますが、通信はそこを通っていません。</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_GONE</source>
+        <extracomment>In place of the network in use</extracomment>
+        <translation>NetworkManager が動作していません</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_GONE_WHY</source>
+        <extracomment>Follows: NetworkManager is not running</extracomment>
+        <translation>どのネットワークが使用中か不明です。リストは変更でき、NetworkManager が動作すると有効になります。</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_ASKING</source>
+        <translation>NetworkManager からまだ応答がないため、どのネットワークが使用中か不明です。</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NOT_TOLD</source>
+        <translation>Wi-Fi プラグインは、どのネットワークが使用中かを知らせていません。</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_PRACTICE</source>
+        <extracomment>The headline while the networks are made up. %1: the headline, such as: In use now: Home</extracomment>
+        <translation>%1（練習）</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_FIRST</source>
+        <extracomment>Why a network is in use</extracomment>
+        <translation>リストの中で、使えることがわかっている最初のネットワークです。</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_OTHER_KIND</source>
+        <extracomment>What is in use is a cable, for example</extracomment>
+        <translation>リストは Wi-Fi とモバイルブロードバンド用です。この接続は別の種類です。</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NOT_LISTED</source>
+        <extracomment>Of the network in use</extracomment>
+        <translation>これはリストにありません。</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_VPN</source>
+        <extracomment>%1: what the user calls the VPN</extracomment>
+        <translation>VPN %1 に接続しています。</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_CHOICE</source>
+        <extracomment>%1: a network. A reason may follow</extracomment>
+        <translation>リストに従うと %1 が選ばれます。</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_WITHOUT_IT</source>
+        <extracomment>What is in use is a cable, for example. %1: a network</extracomment>
+        <translation>これがなければ、リストに従って %1 が選ばれます。</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NOT_CERTAIN</source>
+        <extracomment>%1: names of networks</extracomment>
+        <translation>圏内かどうか不明: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_NOTHING_USABLE</source>
+        <translation>リストには、使えることがわかっているネットワークがありません。</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_SKIPPED</source>
+        <extracomment>%1: names of networks</extracomment>
+        <translation>リストの上位にある次のネットワークは今は使えません: %1</translation>
+    </message>
+    <message>
+        <source>IDS_STAGE_PREPARING</source>
+        <extracomment>How far a network is that is being connected</extracomment>
+        <translation>接続を準備しています。</translation>
+    </message>
+    <message>
+        <source>IDS_STAGE_AUTHENTICATING</source>
+        <extracomment>How far a network is that is being connected</extracomment>
+        <translation>キーを確認しています。</translation>
+    </message>
+    <message>
+        <source>IDS_STAGE_ADDRESS</source>
+        <extracomment>How far a network is that is being connected</extracomment>
+        <translation>ネットワークにアドレスを要求しています。</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_CONNECTED</source>
+        <extracomment>Of a network that is not in use, at the end of its row</extracomment>
+        <translation>接続済み</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_CONNECTING</source>
+        <extracomment>At the end of a row</extracomment>
+        <translation>接続中</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_DISCONNECTING</source>
+        <extracomment>At the end of a row</extracomment>
+        <translation>切断中</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_HIDDEN</source>
+        <extracomment>At the end of a row: the network does not tell its name</extracomment>
+        <translation>非公開: 試します</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_NOT_SAVED</source>
+        <extracomment>At the end of a row</extracomment>
+        <translation>ここでは未登録</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_CANNOT</source>
+        <extracomment>At the end of a row</extracomment>
+        <translation>使えません</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_NO_ADAPTER</source>
+        <extracomment>At the end of a row</extracomment>
+        <translation>アダプターなし</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_NO_MODEM</source>
+        <extracomment>At the end of a row</extracomment>
+        <translation>モデムなし</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_OFF</source>
+        <extracomment>At the end of a row: the adapter or modem is off</extracomment>
+        <translation>オフ</translation>
+    </message>
+    <message>
+        <source>IDS_USE_LOWER</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>%1 がリストの上位にあります。</translation>
+    </message>
+    <message>
+        <source>IDS_USE_HIDDEN</source>
+        <translation>ネットワークが名前を公開していないため、圏内かどうか不明です。接続は試します。</translation>
+    </message>
+    <message>
+        <source>IDS_USE_OTHER_SECURITY</source>
+        <translation>この名前のネットワークは圏内にありますが、セキュリティが異なります。</translation>
+    </message>
+    <message>
+        <source>IDS_USE_OTHER_DEVICE</source>
+        <extracomment>station: an access point</extracomment>
+        <translation>ここにはない別のアダプター、帯域、または基地局用に登録されています。</translation>
+    </message>
+    <message>
+        <source>IDS_USE_NO_DEVICE</source>
+        <translation>動作するアダプターまたはモデムがありません。</translation>
+    </message>
+    <message>
+        <source>IDS_USE_OFF</source>
+        <translation>アダプターまたはモデムがオフになっています。</translation>
+    </message>
+    <message>
+        <source>IDS_USE_BLOCKED</source>
+        <extracomment>By a hardware button or in flight mode</extracomment>
+        <translation>このコンピューターのボタンによって、アダプターまたはモデムがオフになっています。</translation>
+    </message>
+    <message>
+        <source>IDS_USE_SIM</source>
+        <translation>SIM カードが PIN を求めています。</translation>
+    </message>
+    <message>
+        <source>IDS_USE_OTHER_USERS</source>
+        <translation>このコンピューターのほかのユーザーのものです。</translation>
+    </message>
+    <message>
+        <source>IDS_USE_NO_ACCOUNT</source>
+        <translation>アカウントが必要ですが、登録されていません。</translation>
+    </message>
+    <message>
+        <source>IDS_USE_NOT_SAVED</source>
+        <translation>このコンピューターには、この名前のネットワークは登録されていません。</translation>
+    </message>
+    <message>
+        <source>IDS_USE_NOT_KNOWN</source>
+        <translation>使えるかどうか不明です。</translation>
+    </message>
+    <message>
+        <source>IDS_USE_TWICE</source>
+        <translation>すでにリストの上位にあるため、この順位は効果がありません。</translation>
+    </message>
+    <message>
+        <source>IDS_USE_BY_HAND</source>
+        <translation>自動では接続しません。</translation>
+    </message>
+    <message>
+        <source>IDS_USE_KEPT</source>
+        <translation>NetworkManager は、切り替えるまで、動作している接続を保ちます。</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_OTHER</source>
+        <translation>前回は接続できませんでした。</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_KEY</source>
+        <translation>前回はキーが拒否されました。</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_NO_KEY</source>
+        <translation>前回はキーがありませんでした。</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_NO_ANSWER</source>
+        <translation>前回は応答がありませんでした。</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_NO_ADDRESS</source>
+        <translation>前回はアドレスを取得できませんでした。</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_REFUSED</source>
+        <translation>前回はこのコンピューターの参加が拒否されました。</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_SIM</source>
+        <translation>前回は SIM カードが動作しませんでした。</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_STOPPED</source>
+        <translation>前回は手動で終了されました。</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_DEVICE</source>
+        <translation>前回はアダプターまたはモデムを利用できませんでした。</translation>
+    </message>
+    <message>
+        <source>IDS_FAILED_NOT_ALLOWED</source>
+        <translation>その操作は許可されていません。</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_SWITCH</source>
+        <extracomment>Puts the network that the list would choose in the place of the one in use; 120 pixels</extracomment>
+        <translation>切り替え</translation>
+    </message>
+    <message>
+        <source>IDS_SWITCH_TO</source>
+        <extracomment>Tool tip of that button. %1: a network</extracomment>
+        <translation>%1 に切り替え</translation>
+    </message>
+    <message>
+        <source>IDS_SWITCH_FAILED</source>
+        <extracomment>%1: a network. A reason may follow</extracomment>
+        <translation>%1 に接続できませんでした。</translation>
     </message>
     <message>
         <source>IDS_LIST_DAMAGED</source>
@@ -922,24 +1165,12 @@
         <translation>「元に戻す」で、最後の完全なリストを復元できます。</translation>
     </message>
     <message>
-        <source>IDS_HEAD_SKIPPED</source>
-        <translation>リストの上位にある次のネットワークは圏外です: %1</translation>
-    </message>
-    <message>
         <source>IDS_HEAD_CONNECT_HINT</source>
         <translation>「接続…」で圏内のほかのネットワークを表示します。</translation>
     </message>
     <message>
         <source>IDS_WHY_OUT_OF_RANGE</source>
         <translation>圏外のため、使用していません。</translation>
-    </message>
-    <message>
-        <source>IDS_WHY_LOWER</source>
-        <translation>%1 がリストの上位にあるため、使用していません。</translation>
-    </message>
-    <message>
-        <source>IDS_WHY_UNDECIDED</source>
-        <translation>リストの上位のネットワークが圏内かどうか不明なため、使用していません。</translation>
     </message>
     <message>
         <source>IDS_ACTION_TRACE_SEARCH</source>

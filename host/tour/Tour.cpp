@@ -9,6 +9,7 @@
 #include <IWLANUIPlugin.h>
 #include <ListEntries.h>
 #include <OrderFile.h>
+#include <OverviewText.h>
 #include <PluginObjects.h>
 #include <UserData.h>
 
@@ -295,8 +296,12 @@ void Tour::Begin()
             Expect(PluginObjects::Priority() != nullptr, "the plug-in with the priority list is there");
             Expect(PluginObjects::Wlan() != nullptr, "the Wi-Fi plug-in is there");
         });
-    Step("filled", "another plug-in adds networks that are saved; the first in range is in use",
+    Step("filled", "another plug-in adds networks that are saved; the list would choose the first in range",
          [this] { Seed(); });
+    Step("switch", "Switch connects the one that the list would choose", [this] {
+        m_inUse = m_expected.value(0).name;
+        Click("switchButton");
+    });
 }
 
 void Tour::Seed()
@@ -997,16 +1002,23 @@ void Tour::ExpectListEverywhere()
 void Tour::ExpectHeadline()
 {
     const QStringList inRange = NetworksInRange();
-    QString inUse = DashboardText("IDS_HEAD_NONE");
+    const QStringList saved = RememberedNames();
+    QString choice;
     for (const PriorityList &entry : std::as_const(m_expected)) {
-        if (!ListEntries::IsWifi(entry) || inRange.contains(entry.name)) {
-            inUse = entry.name;
+        if (saved.contains(entry.name) && (!ListEntries::IsWifi(entry) || inRange.contains(entry.name))) {
+            choice = entry.name;
             break;
         }
     }
     const QLabel *headline = m_window->findChild<QLabel *>(QLatin1String("headlineLabel"));
-    if (!headline || !headline->text().contains(inUse)) {
-        Fail(QString::fromLatin1("the main window should tell: %1").arg(inUse));
+    const QString inUse = m_inUse.isEmpty()
+                              ? DashboardText("IDS_HEAD_NONE")
+                              : DashboardText("IDS_HEAD_IN_USE").arg(OverviewText::Name(m_inUse));
+    Expect(headline && headline->text().contains(inUse), "the main window tells what is in use");
+    const QLabel *explanation = m_window->findChild<QLabel *>(QLatin1String("explanationLabel"));
+    const QString told = !choice.isEmpty() && choice == m_inUse ? DashboardText("IDS_HEAD_FIRST") : choice;
+    if (!explanation || !explanation->text().contains(told)) {
+        Fail(QString::fromLatin1("the main window should tell that the list would choose %1").arg(choice));
     }
 }
 

@@ -112,6 +112,8 @@ private:
     QList<PriorityList> m_listBefore;
     QList<PriorityList> m_notListed;
     PriorityList m_new;
+    /** What was switched to; empty until something was. */
+    QString m_inUse;
     PriorityList m_selected;
     QString m_languageBefore;
     int m_answerTriesLeft = 0;

@@ -4,6 +4,7 @@
 #include <CommonUtils.h>
 #include <ConnectDialog.h>
 #include <DirectoryLock.h>
+#include <FakeConnections.h>
 #include <HistoryFile.h>
 #include <HostControl.h>
 #include <IPriorityPlugin.h>
@@ -130,6 +131,32 @@ QByteArray StartOfALibrary()
     return whole.read(4096);
 }
 
+/** A list that has met all that can be met, the one in use nearly at its end. */
+void FillWithEveryReason(QList<PriorityList> *list, Connections *told)
+{
+    const char *const names[] = {"Home",    "Office", "Café",     "Company",   "Old printer",
+                                 "Library", "Campus", "Workshop", "Neighbour", "Mobile broadband"};
+    const int nameCount = 10;
+    const int inUse = 12;
+    const int uses[] = {2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 0, 6, 3, 1, -1, 3, 3, 3, 3, 3};
+    const int stages[] = {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 4, 0, 0, 1, 2, 3, 4, 5};
+    const int count = sizeof uses / sizeof uses[0];
+    for (int i = 0; i < count; ++i) {
+        PriorityList entry;
+        entry.name = QString::fromUtf8(names[i % nameCount]);
+        entry.type = QLatin1String(i < nameCount ? "1" : "2");
+        list->append(entry);
+        if (uses[i] >= 0) {
+            told->profiles.append(SavedProfile(entry.name, uses[i], entry.type));
+            told->profiles.last().failure = uses[i];
+        }
+        if (stages[i] != StageNotKnown) {
+            told->active.append(ConnectionOf(entry.name, stages[i], i == inUse, entry.type));
+        }
+    }
+    list->append(list->first());
+}
+
 /** Hands out everything but the Wi-Fi plug-in. */
 class WithoutWlan : public IPluginContainer
 {
@@ -139,8 +166,9 @@ public:
     QObject *GetPluginObject(const QString &classId, int interfaceNumber) override
     {
         const int wlanInterface = 4102;
-        return interfaceNumber == wlanInterface ? nullptr
-                                                : m_container->GetPluginObject(classId, interfaceNumber);
+        const int connectionInterface = 4104;
+        const bool isWlan = interfaceNumber == wlanInterface || interfaceNumber == connectionInterface;
+        return isWlan ? nullptr : m_container->GetPluginObject(classId, interfaceNumber);
     }
 
 private:
@@ -163,6 +191,17 @@ const Screens::Screen Screens::screens[] = {
     {"list, first out of range", &Screens::ShowListFile,
      "<z><item name='Office' type='1'/><item name='Home' type='1'/></z>"},
     {"list, others in range", &Screens::ShowListFile, "<z><item name='Office' type='1'/></z>"},
+    {"list, every reason", &Screens::ShowConnections, "every reason"},
+    {"list, another one in use", &Screens::ShowConnections, "another one"},
+    {"list, first one by hand", &Screens::ShowConnections, "by hand"},
+    {"list, cable and VPN in use", &Screens::ShowConnections, "cable"},
+    {"list, connected without the traffic", &Screens::ShowConnections, "no traffic"},
+    {"list, connecting", &Screens::ShowConnections, "connecting"},
+    {"list, NetworkManager gone", &Screens::ShowConnections, "gone"},
+    {"list, NetworkManager being asked", &Screens::ShowConnections, "asked"},
+    {"list, connections not told", &Screens::ShowConnections, "not told"},
+    {"list, switch refused", &Screens::ShowConnections, "refused"},
+    {"list, plug-in missing while connected", &Screens::ShowConnections, "no list"},
     {"list, not handed out", &Screens::ShowListNotHandedOut, "QueryNull"},
     {"list, damaged", &Screens::ShowListFile, damagedList},
     {"list, damaged from the start", &Screens::ShowListFile, "no list"},
@@ -390,6 +429,48 @@ void Screens::ShowRangeUnknown(const char *listFile)
     WithoutWlan container(m_plugins.data());
     HostControl::SetPluginContainer(&container);
     OpenWindow(m_plugins.data());
+    Visit();
+    m_window.reset();
+    HostControl::SetPluginContainer(m_plugins.data());
+}
+
+void Screens::ShowConnections(const char *what)
+{
+    const QByteArray shown(what);
+    FakeConnections connections;
+    Connections &told = connections.told;
+    QList<PriorityList> list = Listed(QString::fromUtf8("Home, Café"));
+    if (shown == "every reason") {
+        list.clear();
+        FillWithEveryReason(&list, &told);
+    } else {
+        told.profiles << SavedProfile(QLatin1String("Home")) << SavedProfile(QString::fromUtf8("Café"));
+    }
+    if (shown == "another one" || shown == "by hand" || shown == "refused") {
+        told.active << ConnectionOf(QLatin1String("Library"), StageConnected, true);
+        told.profiles[0].connectsByItself = shown != "by hand";
+    } else if (shown == "cable") {
+        told.active << ConnectionOf(QLatin1String("Workshop"), StageConnected, true, QLatin1String("0"))
+                    << ConnectionOf(QLatin1String("Company"), StageConnected, false, QLatin1String("0"));
+        told.active[1].isVpn = true;
+    } else if (shown == "no traffic") {
+        told.active << ConnectionOf(QLatin1String("Home"), StageConnected, false);
+    } else if (shown == "connecting") {
+        told.active << ConnectionOf(QLatin1String("Home"), StageAuthenticating, false);
+    } else if (shown == "gone") {
+        told.state.source = ConnectionState::SourceGone;
+    } else if (shown == "asked") {
+        told.state.source = ConnectionState::SourceNotKnown;
+    }
+    connections.answer = IConnectionPlugin::RefusedNotAllowed;
+    WriteUserFile(QLatin1String("Priority.xml"), OrderFile::Document(list));
+    WithConnections container(shown == "no list" ? nullptr : m_plugins.data(),
+                              shown == "not told" ? nullptr : &connections);
+    HostControl::SetPluginContainer(&container);
+    OpenWindow(m_plugins.data());
+    if (shown == "refused") {
+        Click("switchButton");
+    }
     Visit();
     m_window.reset();
     HostControl::SetPluginContainer(m_plugins.data());

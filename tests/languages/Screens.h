@@ -57,6 +57,7 @@ private:
     void ShowListFile(const char *content);
     void ShowUnopenedList(const char *);
     void ShowRangeUnknown(const char *listFile);
+    void ShowConnections(const char *what);
     void ShowListNotHandedOut(const char *folder);
     void ShowTrace(const char *);
     void ShowTraceSearch(const char *text);

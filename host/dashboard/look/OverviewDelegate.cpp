@@ -19,10 +19,10 @@ QColor Blend(const QColor &over, const QColor &under, qreal share)
                             over.blueF() * share + under.blueF() * (1 - share));
 }
 
-/** How many of the three arcs a signal fills. */
+/** How many of the three arcs a signal fills: none when nobody has measured it. */
 int ArcsOf(int signal)
 {
-    return signal == SignalStrength::unknown ? 3 : 1 + qMin(2, signal / 34);
+    return signal == SignalStrength::unknown ? 0 : 1 + qMin(2, signal / 34);
 }
 
 /** Three arcs above a dot, those that the signal doesn't reach in a colour of their own. */

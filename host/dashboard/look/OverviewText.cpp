@@ -8,41 +8,181 @@
 namespace
 {
 
-const char *ReasonInUseId(const Overview::Entry &entry)
+struct Word {
+    int value;
+    const char *id;
+};
+
+template <std::size_t count> QString TextOf(const Word (&words)[count], int value)
 {
-    return entry.IsWifi() ? "IDS_HEAD_IN_USE_WIFI" : "IDS_HEAD_IN_USE_MOBILE";
+    for (const Word &word : words) {
+        if (word.value == value) {
+            return DashboardText(word.id);
+        }
+    }
+    return QString();
 }
 
-/** What would be used if it were in range; empty when nothing would. */
-QString SkippedText(const Overview &overview)
+const Word stages[] = {
+    {StagePreparing, "IDS_STAGE_PREPARING"},
+    {StageAuthenticating, "IDS_STAGE_AUTHENTICATING"},
+    {StageGettingAddress, "IDS_STAGE_ADDRESS"},
+};
+
+const Word obstacles[] = {
+    {ConnectionProfile::UseHiddenIsTried, "IDS_USE_HIDDEN"},
+    {ConnectionProfile::UseOutOfRange, "IDS_WHY_OUT_OF_RANGE"},
+    {ConnectionProfile::UseOtherSecurity, "IDS_USE_OTHER_SECURITY"},
+    {ConnectionProfile::UseOtherDevice, "IDS_USE_OTHER_DEVICE"},
+    {ConnectionProfile::UseNoDevice, "IDS_USE_NO_DEVICE"},
+    {ConnectionProfile::UseDeviceOff, "IDS_USE_OFF"},
+    {ConnectionProfile::UseDeviceBlocked, "IDS_USE_BLOCKED"},
+    {ConnectionProfile::UseSimLocked, "IDS_USE_SIM"},
+    {ConnectionProfile::UseOtherUsers, "IDS_USE_OTHER_USERS"},
+    {ConnectionProfile::UseNoAccount, "IDS_USE_NO_ACCOUNT"},
+};
+
+const Word failures[] = {
+    {FailureOther, "IDS_FAILED_OTHER"},
+    {FailureWrongKey, "IDS_FAILED_KEY"},
+    {FailureKeyMissing, "IDS_FAILED_NO_KEY"},
+    {FailureNoAnswer, "IDS_FAILED_NO_ANSWER"},
+    {FailureNoAddress, "IDS_FAILED_NO_ADDRESS"},
+    {FailureRefused, "IDS_FAILED_REFUSED"},
+    {FailureSim, "IDS_FAILED_SIM"},
+    {FailureStopped, "IDS_FAILED_STOPPED"},
+    {FailureDevice, "IDS_FAILED_DEVICE"},
+    {FailureNotAllowed, "IDS_FAILED_NOT_ALLOWED"},
+    {FailureSource, "IDS_FAILED_OTHER"},
+};
+
+QString Sentences(const QStringList &sentences)
 {
-    QList<PriorityList> skipped;
-    for (int i = 0; i < overview.entries.size() && !overview.entries.at(i).isInUse; ++i) {
-        skipped.append(overview.entries.at(i).entry);
-    }
-    return skipped.isEmpty() ? QString()
-                             : DashboardText("IDS_HEAD_SKIPPED").arg(ListChangeText::Names(skipped));
+    return DashboardJoined("IDS_SENTENCES", sentences);
 }
 
-QString NothingInUseText(const Overview &overview)
+bool IsNetworkManager(const Overview &overview)
 {
-    if (overview.status < 0) {
-        return DashboardText("IDS_HEAD_NO_PRIORITY_PLUGIN");
-    }
-    if (!overview.IsListWhole()) {
-        return DashboardText("IDS_HEAD_UNREADABLE");
-    }
-    if (overview.entries.isEmpty()) {
-        return DashboardText("IDS_HEAD_EMPTY");
-    }
-    if (!overview.isRangeKnown) {
+    return overview.connections.state.sourceName == QLatin1String("networkmanager");
+}
+
+bool IsGone(const Overview &overview)
+{
+    return overview.connections.teller == Connections::Plugin && IsNetworkManager(overview) &&
+           overview.connections.state.source == ConnectionState::SourceGone;
+}
+
+bool IsNotCertain(const Overview::Entry &entry)
+{
+    return !entry.profile.id.isEmpty() && (entry.profile.use == ConnectionProfile::UseHiddenIsTried ||
+                                           TextOf(obstacles, entry.profile.use).isEmpty());
+}
+
+/** Why nothing is known of connections. */
+QString NotKnownText(const Overview &overview)
+{
+    if (overview.connections.teller == Connections::NoPlugin) {
         return DashboardText("IDS_HEAD_RANGE_UNKNOWN");
     }
-    QStringList sentences(DashboardText("IDS_HEAD_NOTHING_IN_RANGE"));
-    if (!overview.signalOf.isEmpty()) {
-        sentences.append(DashboardText("IDS_HEAD_CONNECT_HINT"));
+    if (overview.connections.teller == Connections::NoAnswers || !IsNetworkManager(overview)) {
+        return DashboardText("IDS_HEAD_NOT_TOLD");
     }
-    return DashboardJoined("IDS_SENTENCES", sentences);
+    return DashboardText(IsGone(overview) ? "IDS_HEAD_GONE_WHY" : "IDS_HEAD_ASKING");
+}
+
+/** Why the list's choice is not in use. */
+QString ChoiceReason(const Overview &overview)
+{
+    const Overview::Entry &choice = *overview.Choice();
+    if (choice.stage == StageConnected) {
+        return DashboardText("IDS_HEAD_NO_TRAFFIC").arg(ListChangeText::Name(choice.entry));
+    }
+    if (Connections::IsComingUp(choice.stage)) {
+        return TextOf(stages, choice.stage);
+    }
+    if (choice.profile.failure != FailureNone) {
+        return OverviewText::Failure(choice.profile.failure);
+    }
+    if (!choice.profile.connectsByItself) {
+        return DashboardText("IDS_USE_BY_HAND");
+    }
+    return overview.connections.InUse() && IsNetworkManager(overview) ? DashboardText("IDS_USE_KEPT")
+                                                                      : QString();
+}
+
+QStringList ChoiceText(const Overview &overview)
+{
+    const Overview::Entry *choice = overview.Choice();
+    const ActiveConnection *inUse = overview.connections.InUse();
+    if (!choice || choice->isInUse) {
+        return QStringList();
+    }
+    const QString name = ListChangeText::Name(choice->entry);
+    if (inUse && inUse->type == QLatin1String("0")) {
+        return QStringList(DashboardText("IDS_HEAD_WITHOUT_IT").arg(name));
+    }
+    return QStringList() << DashboardText("IDS_HEAD_CHOICE").arg(name) << ChoiceReason(overview);
+}
+
+/** What stands above the list's choice, or in a list without one. */
+QStringList PassedOverText(const Overview &overview)
+{
+    QList<PriorityList> skipped;
+    QList<PriorityList> notCertain;
+    const Overview::Entry *choice = overview.Choice();
+    for (const Overview::Entry &entry : overview.entries) {
+        if (&entry == choice) {
+            break;
+        }
+        if (!entry.isRepeated) {
+            (IsNotCertain(entry) ? notCertain : skipped).append(entry.entry);
+        }
+    }
+    QStringList sentences;
+    if (choice && !skipped.isEmpty()) {
+        sentences.append(DashboardText("IDS_HEAD_SKIPPED").arg(ListChangeText::Names(skipped)));
+    }
+    if (!notCertain.isEmpty()) {
+        sentences.append(DashboardText("IDS_HEAD_NOT_CERTAIN").arg(ListChangeText::Names(notCertain)));
+    }
+    return sentences;
+}
+
+/** How what is in use stands to the list. */
+QString InUseText(const Overview &overview, const ActiveConnection &inUse)
+{
+    const Overview::Entry *listed = overview.InUse();
+    if (listed && listed == overview.Choice()) {
+        return DashboardText("IDS_HEAD_FIRST");
+    }
+    if (inUse.type == QLatin1String("0")) {
+        return DashboardText("IDS_HEAD_OTHER_KIND");
+    }
+    return listed || !overview.IsListWhole() ? QString() : DashboardText("IDS_HEAD_NOT_LISTED");
+}
+
+QStringList VpnTexts(const QList<ActiveConnection> &active)
+{
+    QStringList sentences;
+    for (const ActiveConnection &connection : active) {
+        if (connection.isVpn && connection.stage == StageConnected && !connection.carriesTraffic) {
+            sentences.append(DashboardText("IDS_HEAD_VPN").arg(OverviewText::Name(connection.name)));
+        }
+    }
+    return sentences;
+}
+
+/** Why nothing is in use, as far as the list can tell. */
+QStringList NothingInUseTexts(const Overview &overview)
+{
+    QStringList sentences = ChoiceText(overview) + PassedOverText(overview);
+    if (!overview.Choice()) {
+        sentences.prepend(DashboardText("IDS_HEAD_NOTHING_USABLE"));
+        if (!overview.connections.networks.isEmpty()) {
+            sentences.append(DashboardText("IDS_HEAD_CONNECT_HINT"));
+        }
+    }
+    return sentences;
 }
 
 } // namespace
@@ -54,21 +194,53 @@ QString OverviewText::Signal(int percent)
                : DashboardText("IDS_CONNECT_PERCENT").arg(DashboardNumber(percent));
 }
 
+QString OverviewText::Name(const QString &name)
+{
+    PriorityList entry;
+    entry.name = name;
+    return ListChangeText::Name(entry);
+}
+
 QString OverviewText::Headline(const Overview &overview)
 {
-    if (const Overview::Entry *inUse = overview.InUse()) {
-        return DashboardText("IDS_HEAD_IN_USE").arg(ListChangeText::Name(inUse->entry));
+    if (!overview.connections.AreKnown()) {
+        return DashboardText(IsGone(overview) ? "IDS_HEAD_GONE" : "IDS_HEAD_UNKNOWN");
     }
-    const bool isNone = overview.IsListWhole() && (overview.entries.isEmpty() || overview.isRangeKnown);
-    return DashboardText(isNone ? "IDS_HEAD_NONE" : "IDS_HEAD_UNKNOWN");
+    QString headline = DashboardText("IDS_HEAD_NONE");
+    if (const ActiveConnection *inUse = overview.connections.InUse()) {
+        headline = DashboardText("IDS_HEAD_IN_USE").arg(OverviewText::Name(inUse->name));
+    } else if (const ActiveConnection *comingUp = overview.ComingUp()) {
+        headline = DashboardText("IDS_HEAD_CONNECTING").arg(OverviewText::Name(comingUp->name));
+    }
+    const bool isReal = overview.connections.state.sourceName != QLatin1String("stored");
+    return isReal ? headline : DashboardText("IDS_HEAD_PRACTICE").arg(headline);
 }
 
 QString OverviewText::Explanation(const Overview &overview)
 {
-    const Overview::Entry *inUse = overview.InUse();
-    return inUse ? DashboardJoined("IDS_SENTENCES", QStringList() << DashboardText(ReasonInUseId(*inUse))
-                                                                  << SkippedText(overview))
-                 : NothingInUseText(overview);
+    if (!overview.connections.AreKnown()) {
+        return NotKnownText(overview);
+    }
+    QStringList sentences;
+    const ActiveConnection *inUse = overview.connections.InUse();
+    const ActiveConnection *comingUp = overview.ComingUp();
+    if (inUse) {
+        sentences << InUseText(overview, *inUse) << VpnTexts(overview.connections.active);
+    } else if (comingUp) {
+        sentences << TextOf(stages, comingUp->stage);
+    }
+    if (overview.status < 0) {
+        sentences << DashboardText("IDS_HEAD_NO_PRIORITY_PLUGIN");
+    } else if (!overview.IsListWhole()) {
+        sentences << DashboardText("IDS_HEAD_UNREADABLE");
+    } else if (overview.entries.isEmpty()) {
+        sentences << DashboardText("IDS_HEAD_EMPTY");
+    } else if (inUse) {
+        sentences << ChoiceText(overview) << PassedOverText(overview);
+    } else if (!comingUp) {
+        sentences << NothingInUseTexts(overview);
+    }
+    return Sentences(sentences);
 }
 
 QString OverviewText::Kind(const Overview::Entry &entry)
@@ -76,35 +248,77 @@ QString OverviewText::Kind(const Overview::Entry &entry)
     return DashboardText(entry.IsWifi() ? "IDS_KIND_WIFI" : "IDS_KIND_MOBILE");
 }
 
-QString OverviewText::State(const Overview::Entry &entry)
+QString OverviewText::State(const Overview &overview, int place)
 {
-    if (entry.range == Overview::RangeUnknown) {
-        return DashboardText("IDS_STATE_UNKNOWN");
+    const Overview::Entry &entry = overview.entries.at(place);
+    const char *id = "IDS_STATE_CANNOT";
+    if (entry.isInUse) {
+        id = "IDS_STATE_IN_USE";
+    } else if (entry.stage == StageConnected) {
+        id = "IDS_STATE_CONNECTED";
+    } else if (Connections::IsComingUp(entry.stage)) {
+        id = "IDS_STATE_CONNECTING";
+    } else if (entry.stage == StageDisconnecting) {
+        id = "IDS_STATE_DISCONNECTING";
+    } else if (!overview.connections.AreKnown()) {
+        id = "IDS_STATE_UNKNOWN";
+    } else if (entry.profile.id.isEmpty()) {
+        id = "IDS_STATE_NOT_SAVED";
+    } else if (entry.profile.use == ConnectionProfile::UsePossible) {
+        id = entry.IsWifi() ? "IDS_STATE_IN_RANGE" : "IDS_STATE_FALLBACK";
+    } else if (entry.profile.use == ConnectionProfile::UseHiddenIsTried) {
+        id = "IDS_STATE_HIDDEN";
+    } else if (entry.profile.use == ConnectionProfile::UseOutOfRange) {
+        id = "IDS_STATE_OUT_OF_RANGE";
+    } else if (entry.profile.use == ConnectionProfile::UseNoDevice) {
+        id = entry.IsWifi() ? "IDS_STATE_NO_ADAPTER" : "IDS_STATE_NO_MODEM";
+    } else if (entry.profile.use == ConnectionProfile::UseDeviceOff ||
+               entry.profile.use == ConnectionProfile::UseDeviceBlocked) {
+        id = "IDS_STATE_OFF";
+    } else if (IsNotCertain(entry)) {
+        id = "IDS_STATE_UNKNOWN";
     }
-    if (entry.range == Overview::OutOfRange) {
-        return DashboardText("IDS_STATE_OUT_OF_RANGE");
-    }
-    if (!entry.IsWifi() && !entry.isInUse) {
-        return DashboardText("IDS_STATE_FALLBACK");
-    }
-    const QString state = DashboardText(entry.isInUse ? "IDS_STATE_IN_USE" : "IDS_STATE_IN_RANGE");
-    const QString signal = Signal(entry.signal);
+    const QString state = DashboardText(id);
+    const QString signal =
+        entry.CanBeUsed() || entry.stage != StageNotKnown ? Signal(entry.signal) : QString();
     return signal.isEmpty() ? state : state + QString::fromUtf8(" · ") + signal;
 }
 
 QString OverviewText::Reason(const Overview &overview, int place)
 {
     const Overview::Entry &entry = overview.entries.at(place);
-    if (entry.isInUse) {
-        return DashboardText(ReasonInUseId(entry));
+    const Overview::Entry *choice = overview.Choice();
+    if (!overview.connections.AreKnown()) {
+        return NotKnownText(overview);
     }
-    if (entry.range == Overview::RangeUnknown) {
-        return DashboardText("IDS_HEAD_RANGE_UNKNOWN");
+    if (entry.isRepeated) {
+        return DashboardText("IDS_USE_TWICE");
     }
-    if (entry.range == Overview::OutOfRange) {
-        return DashboardText("IDS_WHY_OUT_OF_RANGE");
+    if (entry.isInUse && &entry == choice) {
+        return DashboardText("IDS_HEAD_FIRST");
     }
-    const Overview::Entry *inUse = overview.InUse();
-    return inUse ? DashboardText("IDS_WHY_LOWER").arg(ListChangeText::Name(inUse->entry))
-                 : DashboardText("IDS_WHY_UNDECIDED");
+    if (&entry == choice) {
+        return Sentences(ChoiceText(overview));
+    }
+    if (Connections::IsComingUp(entry.stage)) {
+        return TextOf(stages, entry.stage);
+    }
+    if (entry.profile.id.isEmpty() && entry.stage == StageNotKnown) {
+        return DashboardText("IDS_USE_NOT_SAVED");
+    }
+    QStringList sentences;
+    if (entry.CanBeUsed()) {
+        sentences.append(DashboardText("IDS_USE_LOWER").arg(ListChangeText::Name(choice->entry)));
+    } else {
+        sentences.append(IsNotCertain(entry) && entry.profile.use != ConnectionProfile::UseHiddenIsTried
+                             ? DashboardText("IDS_USE_NOT_KNOWN")
+                             : TextOf(obstacles, entry.profile.use));
+    }
+    sentences.append(entry.isInUse ? QString() : Failure(entry.profile.failure));
+    return Sentences(sentences);
+}
+
+QString OverviewText::Failure(int failure)
+{
+    return TextOf(failures, failure);
 }

@@ -12,14 +12,20 @@ namespace OverviewText
 /** Such as "64%"; empty when it is unknown. */
 QString Signal(int percent);
 
-/** Which network is in use, and why that one or why none. */
+/** The name of a network or connection, as it stands in sentences. */
+QString Name(const QString &name);
+
+/** Which network is in use, and how that stands to the list. */
 QString Headline(const Overview &overview);
 QString Explanation(const Overview &overview);
 
 // Of one entry: what it is, how it stands with it, and why it is used now or not.
 QString Kind(const Overview::Entry &entry);
-QString State(const Overview::Entry &entry);
+QString State(const Overview &overview, int place);
 QString Reason(const Overview &overview, int place);
+
+/** Why a network could not be connected, a ConnectionFailure; empty when nothing has failed. */
+QString Failure(int failure);
 
 } // namespace OverviewText
 

@@ -2,32 +2,55 @@
 
 #include "PluginObjects.h"
 
-#include <IWLANUIPlugin.h>
+#include <QPair>
+#include <QSet>
 
 namespace
 {
 
-QList<WlanAvilableNetworkInfo> NetworksInRange(bool *isKnown)
+/** Of a connection or profile. An entry of another type is not known to the connection manager. */
+template <class Record> bool IsOf(const PriorityList &entry, const Record &record)
 {
-    QList<WlanAvilableNetworkInfo> networks;
-    IWLANUIPlugin *wlan = PluginObjects::Wlan();
-    *isKnown = wlan != nullptr;
-    if (wlan) {
-        wlan->GetAvailableNetworks(&networks);
-    }
-    return networks;
+    const bool isListed = entry.type == QLatin1String("1") || entry.type == QLatin1String("2");
+    return isListed && record.type == entry.type && record.name == entry.name;
 }
 
-QHash<QString, int> SignalsOf(const QList<WlanAvilableNetworkInfo> &networks)
+const ActiveConnection *ConnectionOf(const PriorityList &entry, const QList<ActiveConnection> &active)
 {
-    QHash<QString, int> signalOf;
-    for (int i = 0; i < networks.size(); ++i) {
-        // Of several stations of one network the first is the best.
-        if (!signalOf.contains(networks.at(i).networkName)) {
-            signalOf.insert(networks.at(i).networkName, SignalStrength::Percent(networks.at(i).value1));
+    const ActiveConnection *found = nullptr;
+    for (const ActiveConnection &connection : active) {
+        if (IsOf(entry, connection) && (!found || (connection.carriesTraffic && !found->carriesTraffic))) {
+            found = &connection;
         }
     }
-    return signalOf;
+    return found;
+}
+
+int RankOf(const ConnectionProfile &profile, const QString &activeId)
+{
+    if (!activeId.isEmpty() && profile.id == activeId) {
+        return 0;
+    }
+    switch (profile.use) {
+    case ConnectionProfile::UsePossible:
+        return profile.failure == FailureNone ? 1 : 2;
+    case ConnectionProfile::UseHiddenIsTried:
+        return 3;
+    default:
+        return 4;
+    }
+}
+
+ConnectionProfile ProfileOf(const PriorityList &entry, const QString &activeId,
+                            const QList<ConnectionProfile> &profiles)
+{
+    const ConnectionProfile *best = nullptr;
+    for (const ConnectionProfile &profile : profiles) {
+        if (IsOf(entry, profile) && (!best || RankOf(profile, activeId) < RankOf(*best, activeId))) {
+            best = &profile;
+        }
+    }
+    return best ? *best : ConnectionProfile();
 }
 
 } // namespace
@@ -37,33 +60,43 @@ bool Overview::Entry::IsWifi() const
     return entry.type == QLatin1String("1");
 }
 
-Overview Overview::Of(const ListReading &list)
+bool Overview::Entry::CanBeUsed() const
 {
-    bool isRangeKnown = false;
-    const QList<WlanAvilableNetworkInfo> networks = NetworksInRange(&isRangeKnown);
-    return Make(list.status, list.entries, isRangeKnown, networks);
+    return isInUse || stage == StageConnected ||
+           (!profile.id.isEmpty() && profile.use == ConnectionProfile::UsePossible);
 }
 
-Overview Overview::Make(int status, const QList<PriorityList> &list, bool isRangeKnown,
-                        const QList<WlanAvilableNetworkInfo> &networksInRange)
+Overview Overview::Of(const ListReading &list)
+{
+    return Make(list.status, list.entries, Connections::Read());
+}
+
+Overview Overview::Make(int status, const QList<PriorityList> &list, const Connections &connections)
 {
     Overview overview;
     overview.status = status;
-    overview.isRangeKnown = isRangeKnown;
-    overview.signalOf = SignalsOf(networksInRange);
-    bool isDecided = false;
-    for (int i = 0; i < list.size(); ++i) {
+    overview.connections = connections;
+    if (!connections.AreKnown()) {
+        overview.connections.active.clear();
+        overview.connections.profiles.clear();
+        overview.connections.networks.clear();
+    }
+    QSet<QPair<QString, QString>> seen;
+    for (const PriorityList &listed : list) {
         Entry entry;
-        entry.entry = list.at(i);
-        if (!entry.IsWifi()) {
-            // Mobile broadband is what remains where no Wi-Fi above it is to be had.
-            entry.range = InRange;
-        } else if (isRangeKnown) {
-            entry.range = overview.signalOf.contains(entry.entry.name) ? InRange : OutOfRange;
-            entry.signal = overview.signalOf.value(entry.entry.name, SignalStrength::unknown);
+        entry.entry = listed;
+        const QPair<QString, QString> key(listed.name, listed.type);
+        entry.isRepeated = seen.contains(key);
+        seen.insert(key);
+        const ActiveConnection *connection = ConnectionOf(listed, overview.connections.active);
+        entry.profile =
+            ProfileOf(listed, connection ? connection->profileId : QString(), overview.connections.profiles);
+        entry.signal = entry.profile.signal;
+        if (connection && !entry.isRepeated) {
+            entry.stage = connection->stage;
+            entry.isInUse = connection->carriesTraffic;
+            entry.signal = connection->signal;
         }
-        entry.isInUse = !isDecided && entry.range == InRange;
-        isDecided = isDecided || entry.range != OutOfRange;
         overview.entries.append(entry);
     }
     return overview;
@@ -74,19 +107,43 @@ bool Overview::IsListWhole() const
     return status == PriorityRead || status == PriorityMissing;
 }
 
-bool Overview::HasRangeChanged() const
-{
-    bool isKnown = false;
-    const QHash<QString, int> signalsNow = SignalsOf(NetworksInRange(&isKnown));
-    return isKnown != isRangeKnown || signalsNow != signalOf;
-}
-
 const Overview::Entry *Overview::InUse() const
 {
-    for (int i = 0; i < entries.size(); ++i) {
-        if (entries.at(i).isInUse) {
-            return &entries.at(i);
+    for (const Entry &entry : entries) {
+        if (entry.isInUse) {
+            return &entry;
         }
     }
     return nullptr;
+}
+
+const Overview::Entry *Overview::Choice() const
+{
+    for (const Entry &entry : entries) {
+        if (entry.CanBeUsed()) {
+            return &entry;
+        }
+    }
+    return nullptr;
+}
+
+const ActiveConnection *Overview::ComingUp() const
+{
+    for (const ActiveConnection &connection : connections.active) {
+        if (!connections.InUse() && !connection.isVpn && Connections::IsComingUp(connection.stage)) {
+            return &connection;
+        }
+    }
+    return nullptr;
+}
+
+bool Overview::CanSwitch() const
+{
+    const Entry *choice = Choice();
+    const ActiveConnection *inUse = connections.InUse();
+    // What goes before the list, such as a cable, keeps the traffic whatever else is connected.
+    const bool isBeforeTheList =
+        inUse && inUse->type != QLatin1String("1") && inUse->type != QLatin1String("2");
+    return IsListWhole() && connections.state.mayConnect && !isBeforeTheList && choice && !choice->isInUse &&
+           (choice->stage == StageNotKnown || choice->stage == StageDisconnecting);
 }

@@ -1,5 +1,6 @@
 #include "PluginObjects.h"
 
+#include <IConnectionPlugin.h>
 #include <IPriorityPlugin.h>
 #include <IWLANUIPlugin.h>
 #include <PluginSearch.h>
@@ -25,6 +26,16 @@ bool PluginObjects::IsListWhole()
 IWLANUIPlugin *PluginObjects::Wlan()
 {
     return qobject_cast<IWLANUIPlugin *>(FindPluginObject(wlanClassId, WLANInterface));
+}
+
+QObject *PluginObjects::ConnectionService()
+{
+    return FindPluginObject(wlanClassId, ConnectionInterface);
+}
+
+IConnectionPlugin *PluginObjects::Connecting()
+{
+    return qobject_cast<IConnectionPlugin *>(ConnectionService());
 }
 
 bool PluginObjects::RememberedNetworks(QList<PriorityList> *networks)

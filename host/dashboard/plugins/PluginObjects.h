@@ -5,6 +5,7 @@
 
 #include <QList>
 
+class IConnectionPlugin;
 class IPriorityPlugin;
 class IWLANUIPlugin;
 class QObject;
@@ -15,6 +16,7 @@ class PluginObjects
 public:
     static IPriorityPlugin *Priority();
     static IWLANUIPlugin *Wlan();
+    static IConnectionPlugin *Connecting();
 
     /** The networks that the Wi-Fi plug-in remembers, as entries of the list; false when there is none to
      * ask.
@@ -26,6 +28,9 @@ public:
 
     /** The object behind Priority(), which has the signal OnUpdataPriorityView(). */
     static QObject *PriorityService();
+
+    /** The object behind Connecting(), which has the signal OnConnectionsChanged(). */
+    static QObject *ConnectionService();
 };
 
 #endif

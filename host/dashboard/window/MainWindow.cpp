@@ -13,6 +13,8 @@
 #include <DashboardText.h>
 #include <DialogParts.h>
 #include <GeneralPage.h>
+#include <IConnectionPlugin.h>
+#include <ListChangeText.h>
 #include <ListKeeper.h>
 #include <ListKeeperText.h>
 #include <OverviewDelegate.h>
@@ -41,9 +43,6 @@
 
 namespace
 {
-
-// Wi-Fi plug-ins don't tell when the networks in range change.
-const int rangeMilliseconds = 3000;
 
 QString GeometryKey()
 {
@@ -81,7 +80,7 @@ MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLo
       m_watcher(UserData::FilePath(QLatin1String("Priority.xml")), nullptr),
       m_keeper(new ListKeeper(UserData::Directory(), &m_source, this)),
       m_listActions(new ListActions(m_keeper, this)), m_guard(new ListGuard(m_keeper, this)),
-      m_rangeTimer(new QTimer(this))
+      m_refreshTimer(new QTimer(this)), m_switchOrder(0)
 {
     setObjectName(QLatin1String("mainWindow"));
     new AccessibleRows(this);
@@ -128,10 +127,9 @@ MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLo
         connect(service, SIGNAL(OnUpdataPriorityView()), this, SLOT(Refresh()));
     }
     connect(&m_watcher, SIGNAL(Changed()), this, SLOT(Refresh()));
-    m_rangeTimer->setObjectName(QLatin1String("rangeTimer"));
-    m_rangeTimer->setInterval(rangeMilliseconds);
-    connect(m_rangeTimer, SIGNAL(timeout()), this, SLOT(FollowRange()));
-    m_rangeTimer->start();
+    // Several changes that come close together are read once.
+    m_refreshTimer->setSingleShot(true);
+    connect(m_refreshTimer, SIGNAL(timeout()), this, SLOT(Show()));
     connect(m_keeper, SIGNAL(Changed()), this, SLOT(FollowHistory()));
     connect(m_language, SIGNAL(Switched()), this, SLOT(FollowLanguage()));
 
@@ -163,7 +161,7 @@ void MainWindow::CreateMenus()
     m_connectAction->setShortcut(QKeySequence(QLatin1String("Ctrl+K")));
     m_settingsAction = m_fileMenu->addAction(QString(), this, SLOT(OpenSettings()));
     m_settingsAction->setShortcut(QKeySequence(QLatin1String("Ctrl+,")));
-    m_refreshAction = m_fileMenu->addAction(QString(), this, SLOT(Refresh()));
+    m_refreshAction = m_fileMenu->addAction(QString(), this, SLOT(LookAgain()));
     m_refreshAction->setShortcut(QKeySequence(QLatin1String("F5")));
     m_fileMenu->addSeparator();
     m_quitAction = m_fileMenu->addAction(QString(), this, SLOT(close()));
@@ -219,6 +217,9 @@ QWidget *MainWindow::CreateHead()
 {
     m_headline = MakeLabel("headlineLabel", 1.5, true);
     m_explanation = MakeLabel("explanationLabel", 1, false);
+    m_switchButton = MakeButton("switchButton");
+    m_switchButton->setMinimumSize(120, 38);
+    connect(m_switchButton, SIGNAL(clicked()), this, SLOT(Switch()));
     m_connectButton = MakeButton("connectButton");
     m_connectButton->setMinimumSize(120, 38);
     connect(m_connectButton, SIGNAL(clicked()), this, SLOT(OpenConnect()));
@@ -238,6 +239,7 @@ QWidget *MainWindow::CreateHead()
     layout->addLayout(texts, 1);
     QHBoxLayout *buttons = new QHBoxLayout;
     buttons->setSpacing(8);
+    buttons->addWidget(m_switchButton, 0, Qt::AlignTop);
     buttons->addWidget(m_connectButton, 0, Qt::AlignTop);
     buttons->addWidget(m_settingsButton, 0, Qt::AlignTop);
     layout->addLayout(buttons);
@@ -267,7 +269,7 @@ QWidget *MainWindow::CreateMessagePage()
 QWidget *MainWindow::CreateFoot()
 {
     m_refreshButton = MakeButton("refreshButton");
-    connect(m_refreshButton, SIGNAL(clicked()), this, SLOT(Refresh()));
+    connect(m_refreshButton, SIGNAL(clicked()), this, SLOT(LookAgain()));
     m_languageButton = MakeButton("languageButton");
     m_languageButton->setMenu(m_languageMenu);
     m_traceButton = MakeButton("traceButton");
@@ -309,6 +311,7 @@ void MainWindow::Retranslate()
     m_settingsAction->setText(DashboardText("IDS_ACTION_SETTINGS"));
     m_refreshAction->setText(DashboardText("IDS_ACTION_REFRESH"));
     m_quitAction->setText(DashboardText("IDS_ACTION_QUIT"));
+    m_switchButton->setText(DashboardText("IDS_BUTTON_SWITCH"));
     m_connectButton->setText(DashboardText("IDS_BUTTON_CONNECT"));
     m_settingsButton->setText(DashboardText("IDS_BUTTON_SETTINGS"));
     m_list->setAccessibleName(DashboardText("IDS_PLUGIN_PRIORITY"));
@@ -377,11 +380,29 @@ void MainWindow::ShowNote()
     m_note->setText(DashboardJoined("IDS_SENTENCES", notes));
 }
 
-void MainWindow::FollowRange()
+void MainWindow::LookAgain()
 {
-    // Nobody looks at a window that is hidden or minimised.
-    if (isVisible() && !isMinimized() && m_overview.HasRangeChanged()) {
-        Refresh();
+    if (IConnectionPlugin *connections = PluginObjects::Connecting()) {
+        connections->LookForNetworks();
+    }
+    Refresh();
+}
+
+/** Nobody looks at a window that is hidden or minimised: it is told nothing, and reads once when it is seen
+ * again. */
+void MainWindow::Watch()
+{
+    const bool isWatched = isVisible() && !isMinimized();
+    QObject *connections = PluginObjects::ConnectionService();
+    if (isWatched == m_isWatching || !connections) {
+        return;
+    }
+    m_isWatching = isWatched;
+    if (isWatched) {
+        connect(connections, SIGNAL(OnConnectionsChanged()), m_refreshTimer, SLOT(start()));
+        m_refreshTimer->start();
+    } else {
+        disconnect(connections, SIGNAL(OnConnectionsChanged()), m_refreshTimer, SLOT(start()));
     }
 }
 
@@ -389,8 +410,30 @@ void MainWindow::changeEvent(QEvent *event)
 {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::WindowStateChange) {
-        // It may have been minimised for long.
-        FollowRange();
+        Watch();
+    }
+}
+
+void MainWindow::showEvent(QShowEvent *event)
+{
+    QMainWindow::showEvent(event);
+    Watch();
+}
+
+void MainWindow::hideEvent(QHideEvent *event)
+{
+    QMainWindow::hideEvent(event);
+    Watch();
+}
+
+void MainWindow::Switch()
+{
+    const Overview::Entry *choice = m_overview.Choice();
+    IConnectionPlugin *connections = PluginObjects::Connecting();
+    if (choice && connections) {
+        m_switchTo = choice->profile;
+        m_switchOrder = connections->ConnectProfile(choice->profile.id);
+        Refresh();
     }
 }
 
@@ -405,7 +448,7 @@ void MainWindow::FollowHistory()
 void MainWindow::ShowConnect()
 {
     const char *obstacle = nullptr;
-    if (!m_overview.isRangeKnown) {
+    if (!PluginObjects::Wlan()) {
         obstacle = "IDS_CONNECT_NO_WLAN";
     } else if (m_overview.status < 0) {
         obstacle = "IDS_CONNECT_NO_PRIORITY";
@@ -419,11 +462,59 @@ void MainWindow::ShowHead()
 {
     m_headline->setText(OverviewText::Headline(m_overview));
     m_explanation->setText(OverviewText::Explanation(m_overview));
+    m_switchButton->setVisible(m_overview.CanSwitch());
+    if (m_overview.CanSwitch()) {
+        const QString what =
+            DashboardText("IDS_SWITCH_TO").arg(ListChangeText::Name(m_overview.Choice()->entry));
+        m_switchButton->setAccessibleName(what);
+        m_switchButton->setToolTip(what.toHtmlEscaped());
+        m_switchButton->setEnabled(!Connections::IsComingUp(SwitchAttempt().stage));
+    }
+}
+
+ConnectAttempt MainWindow::SwitchAttempt() const
+{
+    ConnectAttempt attempt;
+    IConnectionPlugin *connections = m_switchOrder > 0 ? PluginObjects::Connecting() : nullptr;
+    if (connections) {
+        connections->GetAttempt(m_switchOrder, &attempt);
+    }
+    return attempt;
+}
+
+/** Why what the user ordered has not come about; empty when it has, in whatever way, or is under way. */
+QString MainWindow::SwitchProblem() const
+{
+    for (const ActiveConnection &connection : m_overview.connections.active) {
+        if (connection.profileId == m_switchTo.id && connection.stage != StageDisconnecting) {
+            return QString();
+        }
+    }
+    int failure = FailureOther;
+    if (m_switchOrder == IConnectionPlugin::RefusedNotAllowed) {
+        failure = FailureNotAllowed;
+    } else if (m_switchOrder == IConnectionPlugin::RefusedKey) {
+        failure = FailureKeyMissing;
+    } else if (m_switchOrder >= 0) {
+        const ConnectAttempt attempt = SwitchAttempt();
+        if (attempt.stage != StageFailed) {
+            return QString();
+        }
+        failure = attempt.failure;
+    }
+    return DashboardJoined("IDS_SENTENCES",
+                           QStringList()
+                               << DashboardText("IDS_SWITCH_FAILED").arg(OverviewText::Name(m_switchTo.name))
+                               << OverviewText::Failure(failure));
 }
 
 void MainWindow::ShowProblems()
 {
     QStringList problems;
+    const QString switchProblem = SwitchProblem();
+    if (!switchProblem.isEmpty()) {
+        problems.append(switchProblem);
+    }
     const QList<PluginHost::Plugin> plugins = m_plugins->Plugins();
     for (int i = 0; i < plugins.size(); ++i) {
         // Without a list, the problem of its plug-in is shown in the list's place.
@@ -494,14 +585,14 @@ void MainWindow::ShowList()
         const Overview::Entry &entry = m_overview.entries.at(i);
         QListWidgetItem *item = new QListWidgetItem(entry.entry.name, m_list);
         const QString kind = OverviewText::Kind(entry);
-        const QString state = OverviewText::State(entry);
+        const QString state = OverviewText::State(m_overview, i);
         const QString reason = OverviewText::Reason(m_overview, i);
         item->setData(OverviewDelegate::KindTextRole, kind);
         item->setData(OverviewDelegate::StateTextRole, state);
         item->setData(OverviewDelegate::IsWifiRole, entry.IsWifi());
-        item->setData(OverviewDelegate::IsAvailableRole, entry.range != Overview::OutOfRange);
+        item->setData(OverviewDelegate::IsAvailableRole, entry.CanBeUsed());
         item->setData(OverviewDelegate::IsInUseRole, entry.isInUse);
-        item->setData(OverviewDelegate::SignalRole, entry.signal);
+        item->setData(OverviewDelegate::SignalRole, entry.CanBeUsed() ? entry.signal : -1);
         item->setToolTip(reason.toHtmlEscaped());
         item->setData(Qt::AccessibleDescriptionRole, reason);
         item->setData(Qt::AccessibleTextRole,

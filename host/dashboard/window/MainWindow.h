@@ -27,7 +27,7 @@ class SettingsDialog;
 class TraceLog;
 class TracePanel;
 
-/** Shows the priority list and what the connection manager would make of it now. */
+/** Shows what is in use, the list, and what the connection manager tells of its networks. */
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -38,18 +38,23 @@ public:
 
 public slots:
     void Refresh();
+    /** Has the Wi-Fi plug-in look for networks, too. */
+    void LookAgain();
     void OpenSettings();
     void OpenConnect();
 
 protected:
     void closeEvent(QCloseEvent *event) override;
     void changeEvent(QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
 
 private slots:
     void FollowLanguage();
     void Retranslate();
     void FollowHistory();
-    void FollowRange();
+    void Show();
+    void Switch();
     void OpenLanguageMenu();
     void ChooseLanguage(QAction *action);
     void ChooseAppearance(QAction *action);
@@ -60,12 +65,14 @@ private:
     void CreateMenus();
     void CreateAppearanceActions();
     void CreateLanguageActions();
+    void Watch();
     QWidget *CreateHead();
     QWidget *CreateMessagePage();
     QWidget *CreateFoot();
-    void Show();
     void ShowConnect();
     void ShowHead();
+    ConnectAttempt SwitchAttempt() const;
+    QString SwitchProblem() const;
     void ShowProblems();
     QString DamageText() const;
     void ShowList();
@@ -79,10 +86,14 @@ private:
     ListKeeper *m_keeper;
     ListActions *m_listActions;
     ListGuard *m_guard;
-    QTimer *m_rangeTimer;
+    QTimer *m_refreshTimer;
     bool m_isRefreshing = false;
+    bool m_isWatching = false;
     TracePanel *m_trace;
     Overview m_overview;
+    /** The last order to switch, as IConnectionPlugin answers it, and what was ordered; 0: none was given. */
+    int m_switchOrder;
+    ConnectionProfile m_switchTo;
     QPointer<SettingsDialog> m_settings;
     QPointer<ConnectDialog> m_connect;
 
@@ -108,6 +119,7 @@ private:
     QWidget *m_messagePage;
     QLabel *m_messageTitle;
     QLabel *m_messageText;
+    QPushButton *m_switchButton;
     QPushButton *m_connectButton;
     QPushButton *m_settingsButton;
     QPushButton *m_refreshButton;

@@ -131,7 +131,7 @@ void BidiTextTest::WhatFollowsANameStandsBehindIt()
         DashboardText("IDS_IMPORT_SUMMARY").arg(ListChangeText::Announce(one, Listed("1, 2, 3"))),
         DashboardText("IDS_IMPORT_UNKNOWN").arg(ListChangeText::Names(two)),
         DashboardText("IDS_HEAD_SKIPPED").arg(ListChangeText::Names(two)),
-        DashboardText("IDS_WHY_LOWER").arg(ListChangeText::Name(one.first()))};
+        DashboardText("IDS_USE_LOWER").arg(ListChangeText::Name(one.first()))};
     for (const QString &text : texts) {
         QVERIFY2(IsInItsPlace(name, text), qPrintable(text));
     }

@@ -1,3 +1,10 @@
+#include "FakeConnections.h"
+#include "Lists.h"
+
+#include "FakeConnections.h"
+#include "Lists.h"
+#include <Overview.h>
+
 #include <Overview.h>
 #include <PluginList.h>
 
@@ -6,30 +13,34 @@
 namespace
 {
 
-/** "Home" is a Wi-Fi entry, "Home/2" one of that kind. */
-QList<PriorityList> ListOf(const QStringList &texts)
+/** Records as tests write them down: "Home 1" is a profile with the use of that number. */
+QList<ConnectionProfile> ProfilesOf(const QString &text)
 {
-    QList<PriorityList> list;
-    for (int i = 0; i < texts.size(); ++i) {
-        PriorityList entry;
-        entry.name = texts.at(i).section('/', 0, 0);
-        entry.type = texts.at(i).contains('/') ? texts.at(i).section('/', 1) : QString("1");
-        list.append(entry);
+    QList<ConnectionProfile> profiles;
+    for (const PriorityList &written : Listed(text)) {
+        const QString name = written.name.section(' ', 0, 0);
+        profiles.append(SavedProfile(name, written.name.section(' ', 1).toInt(), written.type));
+        // Of one name there may be several.
+        profiles.last().id = QString::number(profiles.size());
     }
-    return list;
+    return profiles;
 }
 
-/** "Home" is a network in range, "Home/64" one that is received with 64 percent. */
-QList<WlanAvilableNetworkInfo> NetworksOf(const QStringList &texts)
+/** "Home 4" is a connection at the stage of that number, "Home 4 *" carries the traffic. */
+QList<ActiveConnection> ActiveOf(const QString &text)
 {
-    QList<WlanAvilableNetworkInfo> networks;
-    for (int i = 0; i < texts.size(); ++i) {
-        WlanAvilableNetworkInfo network;
-        network.networkName = texts.at(i).section('/', 0, 0);
-        network.value1 = texts.at(i).section('/', 1).toInt();
-        networks.append(network);
+    QList<ActiveConnection> active;
+    for (const PriorityList &written : Listed(text)) {
+        active.append(ConnectionOf(written.name.section(' ', 0, 0), written.name.section(' ', 1, 1).toInt(),
+                                   written.name.endsWith('*'), written.type));
+        active.last().profileId = QLatin1String("not told");
     }
-    return networks;
+    return active;
+}
+
+QString NameOf(const Overview::Entry *entry)
+{
+    return entry ? entry->entry.name : QString("");
 }
 
 } // namespace
@@ -39,114 +50,195 @@ class OverviewTest : public QObject
     Q_OBJECT
 
 private slots:
-    void FirstEntryInRangeIsInUse_data();
-    void FirstEntryInRangeIsInUse();
-    void RangeIsTold();
-    void SignalIsTold_data();
-    void SignalIsTold();
-    void WithoutPriorityPluginThereIsNoList();
+    void RecordsDecide_data();
+    void RecordsDecide();
+    void NothingIsTakenFromASourceThatIsNotKnown_data();
+    void NothingIsTakenFromASourceThatIsNotKnown();
+    void OfSeveralProfilesTheBestIsTold_data();
+    void OfSeveralProfilesTheBestIsTold();
+    void UserWhoMayNotConnectIsOfferedNoSwitch();
+    void ListThatIsNotWholeOffersNoSwitch();
+    void VpnIsNoConnectionThatComesUp();
+    void WithoutPlugInsNothingIsKnown();
 };
 
-void OverviewTest::FirstEntryInRangeIsInUse_data()
+void OverviewTest::RecordsDecide_data()
 {
-    QTest::addColumn<QStringList>("list");
-    QTest::addColumn<bool>("isRangeKnown");
-    QTest::addColumn<QStringList>("inRange");
+    QTest::addColumn<QString>("list");
+    QTest::addColumn<QString>("active");
+    QTest::addColumn<QString>("profiles");
     QTest::addColumn<QString>("inUse");
-    QTest::newRow("the first") << (QStringList() << "A"
-                                                 << "B")
-                               << true
-                               << (QStringList() << "B"
-                                                 << "A")
-                               << "A";
-    QTest::newRow("the first is away") << (QStringList() << "A"
-                                                         << "B")
-                                       << true << QStringList("B") << "B";
-    QTest::newRow("none") << (QStringList() << "A"
-                                            << "B")
-                          << true << QStringList("C") << "";
-    QTest::newRow("empty list") << QStringList() << true << QStringList("A") << "";
-    QTest::newRow("case counts") << QStringList("home") << true << QStringList("Home") << "";
-    QTest::newRow("mobile as fallback") << (QStringList() << "A"
-                                                          << "M/2"
-                                                          << "B")
-                                        << true << QStringList("B") << "M";
-    QTest::newRow("Wi-Fi before mobile") << (QStringList() << "A"
-                                                           << "M/2")
-                                         << true << QStringList("A") << "A";
-    QTest::newRow("any other kind is mobile") << QStringList("M/") << true << QStringList() << "M";
-    QTest::newRow("range not known") << (QStringList() << "A"
-                                                       << "M/2")
-                                     << false << QStringList() << "";
-    QTest::newRow("mobile first, range not known") << (QStringList() << "M/2"
-                                                                     << "A")
-                                                   << false << QStringList() << "M";
-    QTest::newRow("twice in the list") << (QStringList() << "A"
-                                                         << "B"
-                                                         << "A")
-                                       << true << QStringList("A") << "A";
-}
-
-void OverviewTest::FirstEntryInRangeIsInUse()
-{
-    QFETCH(QStringList, list);
-    QFETCH(bool, isRangeKnown);
-    QFETCH(QStringList, inRange);
-    const Overview overview = Overview::Make(0, ListOf(list), isRangeKnown, NetworksOf(inRange));
-    QCOMPARE(overview.entries.size(), list.size());
-    const Overview::Entry *inUse = overview.InUse();
-    QTEST(inUse ? inUse->entry.name : QString(""), "inUse");
-    int entriesInUse = 0;
-    for (int i = 0; i < overview.entries.size(); ++i) {
-        entriesInUse += overview.entries.at(i).isInUse ? 1 : 0;
+    QTest::addColumn<QString>("choice");
+    QTest::addColumn<QString>("comingUp");
+    QTest::addColumn<bool>("canSwitch");
+    const struct {
+        const char *name;
+        const char *list;
+        const char *active;
+        const char *profiles;
+        const char *inUse;
+        const char *choice;
+        const char *comingUp;
+        bool canSwitch;
+    } rows[] = {
+        {"first of two", "A, B", "A 4 *", "A 1, B 1", "A", "A", "", false},
+        {"lower than the list wants", "A, B", "B 4 *", "A 1, B 1", "B", "A", "", true},
+        {"nothing connected", "A, B", "", "A 1, B 1", "", "A", "", true},
+        {"first is out of range", "A, B", "", "A 3, B 1", "", "B", "", true},
+        {"in range is not in use", "A", "", "A 1", "", "A", "", true},
+        {"nothing to be had", "A, B", "", "A 3, B 4", "", "", "", false},
+        {"mobile broadband without a modem", "M/2", "", "M 6/2", "", "", "", false},
+        {"no profile", "A", "", "", "", "", "", false},
+        {"profile of another type", "A", "", "A 1/2", "", "", "", false},
+        {"connection of another type", "A", "A 4 */2", "A 1", "", "A", "", true},
+        {"case counts", "home", "Home 4 *", "Home 1", "", "", "", false},
+        {"cable", "A", "Cable 4 */0", "A 1", "", "A", "", false},
+        {"cable called like an entry", "A/0", "A 4 */0", "", "", "", "", false},
+        {"not in the list", "A", "B 4 *", "A 1, B 1", "", "A", "", true},
+        {"connected without the traffic", "A, B", "B 4 *, A 4", "A 1, B 1", "B", "A", "", false},
+        {"coming up", "A, B", "A 2", "A 1, B 1", "", "A", "A", false},
+        {"coming up beside another", "A, B", "B 4 *, A 1", "A 1, B 1", "B", "A", "", false},
+        {"another comes up", "A, B", "B 3", "A 1, B 1", "", "A", "B", true},
+        {"going down", "A, B", "A 5", "A 1, B 1", "", "A", "", true},
+        {"stage that is not known", "A", "A 99", "A 3", "", "", "", false},
+        {"use that is not known", "A, B", "", "A 99, B 1", "", "B", "", true},
+        {"hidden", "A, B", "", "A 2, B 1", "", "B", "", true},
+        {"hidden and in use", "A, B", "A 4 *", "A 2, B 1", "A", "A", "", false},
+        {"in use whatever its profile tells", "A, B", "A 4 *", "A 3, B 1", "A", "A", "", false},
+        {"in use and listed twice", "A, B, A", "A 4 *", "A 1, B 1", "A", "A", "", false},
+    };
+    for (const auto &row : rows) {
+        QTest::newRow(row.name) << row.list << row.active << row.profiles << row.inUse << row.choice
+                                << row.comingUp << row.canSwitch;
     }
-    QCOMPARE(entriesInUse, inUse ? 1 : 0);
 }
 
-void OverviewTest::RangeIsTold()
+void OverviewTest::RecordsDecide()
 {
-    const QList<PriorityList> list = ListOf(QStringList() << "A"
-                                                          << "B"
-                                                          << "M/2");
-    const Overview known = Overview::Make(0, list, true, NetworksOf(QStringList("B")));
-    QCOMPARE(known.entries.at(0).range, Overview::OutOfRange);
-    QCOMPARE(known.entries.at(1).range, Overview::InRange);
-    QCOMPARE(known.entries.at(2).range, Overview::InRange);
-    const Overview unknown = Overview::Make(0, list, false, NetworksOf(QStringList()));
-    QCOMPARE(unknown.entries.at(0).range, Overview::RangeUnknown);
-    QCOMPARE(unknown.entries.at(2).range, Overview::InRange);
+    QFETCH(QString, list);
+    QFETCH(QString, active);
+    QFETCH(QString, profiles);
+    Connections told = KnownConnections();
+    told.active = ActiveOf(active);
+    told.profiles = ProfilesOf(profiles);
+    const Overview overview = Overview::Make(0, Listed(list), told);
+    QCOMPARE(overview.entries.size(), Listed(list).size());
+    QTEST(NameOf(overview.InUse()), "inUse");
+    QTEST(NameOf(overview.Choice()), "choice");
+    QTEST(overview.ComingUp() ? overview.ComingUp()->name : QString(""), "comingUp");
+    QTEST(overview.CanSwitch(), "canSwitch");
+    int entriesInUse = 0;
+    for (const Overview::Entry &entry : overview.entries) {
+        entriesInUse += entry.isInUse ? 1 : 0;
+    }
+    QCOMPARE(entriesInUse, overview.InUse() ? 1 : 0);
 }
 
-void OverviewTest::SignalIsTold_data()
+void OverviewTest::NothingIsTakenFromASourceThatIsNotKnown_data()
 {
-    QTest::addColumn<QStringList>("inRange");
-    QTest::addColumn<int>("signal");
-    QTest::newRow("percentage") << QStringList("A/64") << 64;
-    QTest::newRow("none at all") << QStringList("A/0") << 0;
-    QTest::newRow("full") << QStringList("A/100") << 100;
-    QTest::newRow("no percentage") << QStringList("A/101") << int(SignalStrength::unknown);
-    QTest::newRow("decibels") << QStringList("A/-70") << int(SignalStrength::unknown);
-    QTest::newRow("out of range") << QStringList("B/64") << int(SignalStrength::unknown);
-    QTest::newRow("several stations") << (QStringList() << "A/80"
-                                                        << "A/20")
-                                      << 80;
+    QTest::addColumn<int>("teller");
+    QTest::addColumn<int>("source");
+    QTest::newRow("asked") << int(Connections::Plugin) << int(ConnectionState::SourceNotKnown);
+    QTest::newRow("gone") << int(Connections::Plugin) << int(ConnectionState::SourceGone);
+    QTest::newRow("number that is not known") << int(Connections::Plugin) << 99;
+    QTest::newRow("no answers") << int(Connections::NoAnswers) << int(ConnectionState::SourceKnown);
+    QTest::newRow("no plug-in") << int(Connections::NoPlugin) << int(ConnectionState::SourceKnown);
 }
 
-void OverviewTest::SignalIsTold()
+void OverviewTest::NothingIsTakenFromASourceThatIsNotKnown()
 {
-    QFETCH(QStringList, inRange);
-    const QList<PriorityList> list = ListOf(QStringList("A"));
-    const Overview overview = Overview::Make(0, list, true, NetworksOf(inRange));
-    QTEST(overview.entries.at(0).signal, "signal");
-    const Overview blind = Overview::Make(0, list, false, NetworksOf(inRange));
-    QCOMPARE(blind.entries.at(0).signal, int(SignalStrength::unknown));
+    QFETCH(int, teller);
+    QFETCH(int, source);
+    Connections told = KnownConnections();
+    told.teller = static_cast<Connections::Teller>(teller);
+    told.state.source = source;
+    told.active = ActiveOf("A 4 *, B 2");
+    told.profiles = ProfilesOf("A 1");
+    const Overview overview = Overview::Make(0, Listed("A"), told);
+    QVERIFY(!overview.InUse() && !overview.Choice() && !overview.ComingUp() && !overview.CanSwitch());
+    QVERIFY(!overview.connections.InUse());
+    QCOMPARE(overview.entries.at(0).stage, int(StageNotKnown));
+    QVERIFY(overview.entries.at(0).profile.id.isEmpty());
 }
 
-void OverviewTest::WithoutPriorityPluginThereIsNoList()
+void OverviewTest::OfSeveralProfilesTheBestIsTold_data()
+{
+    QTest::addColumn<QString>("profiles");
+    QTest::addColumn<QString>("failing");
+    QTest::addColumn<QString>("connected");
+    QTest::addColumn<QString>("best");
+    QTest::newRow("possible") << "A 3, A 1"
+                              << ""
+                              << ""
+                              << "2";
+    QTest::newRow("possible before hidden") << "A 2, A 1"
+                                            << ""
+                                            << ""
+                                            << "2";
+    QTest::newRow("hidden before out of range") << "A 3, A 2"
+                                                << ""
+                                                << ""
+                                                << "2";
+    QTest::newRow("equal ones") << "A 1, A 1"
+                                << ""
+                                << ""
+                                << "1";
+    QTest::newRow("one that has not failed") << "A 1, A 1"
+                                             << "1"
+                                             << ""
+                                             << "2";
+    QTest::newRow("the connected one") << "A 1, A 3"
+                                       << ""
+                                       << "2"
+                                       << "2";
+}
+
+void OverviewTest::OfSeveralProfilesTheBestIsTold()
+{
+    QFETCH(QString, profiles);
+    QFETCH(QString, failing);
+    QFETCH(QString, connected);
+    Connections told = KnownConnections();
+    told.profiles = ProfilesOf(profiles);
+    for (ConnectionProfile &profile : told.profiles) {
+        profile.failure = profile.id == failing ? FailureWrongKey : FailureNone;
+    }
+    if (!connected.isEmpty()) {
+        told.active = ActiveOf("A 4 *");
+        told.active[0].profileId = connected;
+    }
+    QTEST(Overview::Make(0, Listed("A"), told).entries.at(0).profile.id, "best");
+}
+
+void OverviewTest::UserWhoMayNotConnectIsOfferedNoSwitch()
+{
+    Connections told = KnownConnections();
+    told.profiles = ProfilesOf("A 1");
+    told.state.mayConnect = false;
+    QVERIFY(!Overview::Make(0, Listed("A"), told).CanSwitch());
+}
+
+void OverviewTest::ListThatIsNotWholeOffersNoSwitch()
+{
+    Connections told = KnownConnections();
+    told.profiles = ProfilesOf("A 1");
+    QVERIFY(!Overview::Make(PriorityDamaged, Listed("A"), told).CanSwitch());
+}
+
+void OverviewTest::VpnIsNoConnectionThatComesUp()
+{
+    Connections told = KnownConnections();
+    told.active = ActiveOf("V 1/0");
+    told.active[0].isVpn = true;
+    QVERIFY(!Overview::Make(0, Listed("A"), told).ComingUp());
+}
+
+void OverviewTest::WithoutPlugInsNothingIsKnown()
 {
     const Overview overview = Overview::Of(PluginList().Read());
     QCOMPARE(overview.status, -1);
-    QVERIFY(overview.entries.isEmpty() && !overview.isRangeKnown);
+    QVERIFY(overview.entries.isEmpty());
+    QCOMPARE(int(overview.connections.teller), int(Connections::NoPlugin));
 }
 
 QTEST_APPLESS_MAIN(OverviewTest)

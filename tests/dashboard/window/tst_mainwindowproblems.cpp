@@ -38,7 +38,7 @@ public:
 
     QObject *GetPluginObject(const QString &, int interfaceNumber) override
     {
-        return interfaceNumber == 4102 ? m_wlan : m_priority;
+        return interfaceNumber == 4102 ? m_wlan : interfaceNumber == 4103 ? m_priority : nullptr;
     }
 
 private:

@@ -1,0 +1,41 @@
+#include "Connections.h"
+
+#include "PluginObjects.h"
+
+#include <IConnectionPlugin.h>
+
+Connections Connections::Read()
+{
+    Connections read;
+    IConnectionPlugin *plugin = PluginObjects::Connecting();
+    if (!plugin) {
+        read.teller = PluginObjects::Wlan() ? NoAnswers : NoPlugin;
+        return read;
+    }
+    read.teller = Plugin;
+    plugin->GetConnectionState(&read.state);
+    plugin->GetActiveConnections(&read.active);
+    plugin->GetProfiles(&read.profiles);
+    plugin->GetVisibleNetworks(&read.networks);
+    return read;
+}
+
+bool Connections::AreKnown() const
+{
+    return teller == Plugin && state.source == ConnectionState::SourceKnown;
+}
+
+const ActiveConnection *Connections::InUse() const
+{
+    for (const ActiveConnection &connection : active) {
+        if (AreKnown() && connection.carriesTraffic) {
+            return &connection;
+        }
+    }
+    return nullptr;
+}
+
+bool Connections::IsComingUp(int stage)
+{
+    return stage == StagePreparing || stage == StageAuthenticating || stage == StageGettingAddress;
+}

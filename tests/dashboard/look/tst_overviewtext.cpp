@@ -1,0 +1,330 @@
+#include "FakeConnections.h"
+#include "Lists.h"
+
+#include <DashboardLanguage.h>
+#include <HostControl.h>
+#include <OverviewText.h>
+
+#include <QtTest>
+
+/** What is told of connections, in words. */
+class OverviewTextTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+
+    void HeadTellsWhatIsInUse_data();
+    void HeadTellsWhatIsInUse();
+    void HeadTellsWhyNothingIsKnown_data();
+    void HeadTellsWhyNothingIsKnown();
+    void PracticeNetworksAreCalledSo();
+    void StateAndReasonFollowTheProfile_data();
+    void StateAndReasonFollowTheProfile();
+    void StateFollowsTheConnection_data();
+    void StateFollowsTheConnection();
+    void FailureIsTold_data();
+    void FailureIsTold();
+    void ProfileThatDoesNotConnectByItselfIsToldSo();
+    void VpnIsTold();
+    void EntryThatIsListedTwiceIsToldSo();
+    void LowerEntryNamesTheHigherOne();
+};
+
+void OverviewTextTest::init()
+{
+    HostControl::SetLanguageDirectory(QLatin1String(BUILD_DIRECTORY "/share/priority-dashboard/languages"));
+    QVERIFY(DashboardLanguage::Apply("en"));
+}
+
+void OverviewTextTest::HeadTellsWhatIsInUse_data()
+{
+    QTest::addColumn<QString>("list");
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("stage");
+    QTest::addColumn<bool>("carriesTraffic");
+    QTest::addColumn<QString>("headline");
+    QTest::addColumn<QString>("explanation");
+    QTest::newRow("what the list would choose")
+        << "Home, Café"
+        << "1"
+        << "Home" << int(StageConnected) << true << "In use now: Home"
+        << "It is the first network in your list that is known to be usable.";
+    QTest::newRow("lower")
+        << "Home, Café"
+        << "1"
+        << "Café" << int(StageConnected) << true << "In use now: Café"
+        << "Your list would choose Home. NetworkManager keeps a connection that works until "
+           "you switch.";
+    QTest::newRow("above it out of range")
+        << "Office, Café, Home"
+        << "1"
+        << "Home" << int(StageConnected) << true << "In use now: Home"
+        << "Your list would choose Café. NetworkManager keeps a connection that works until you switch. "
+           "Higher in the list, but cannot be used now: Office.";
+    QTest::newRow("above it hidden") << "Attic, Home"
+                                     << "1"
+                                     << "Home" << int(StageConnected) << true << "In use now: Home"
+                                     << "It is the first network in your list that is known to be usable. "
+                                        "Not known if in range: Attic.";
+    QTest::newRow("not in the list") << "Home"
+                                     << "1"
+                                     << "Library" << int(StageConnected) << true << "In use now: Library"
+                                     << "It is not in your list. Your list would choose Home. NetworkManager "
+                                        "keeps a connection that works until you switch.";
+    QTest::newRow("cable")
+        << "Home"
+        << "0"
+        << "Wired connection 1" << int(StageConnected) << true << "In use now: Wired connection 1"
+        << "The list is for Wi-Fi and mobile broadband; this connection is of another kind. "
+           "Without it, your list would choose Home.";
+    QTest::newRow("coming up") << "Home"
+                               << "1"
+                               << "Home" << int(StageAuthenticating) << false << "Connecting: Home"
+                               << "The key is being checked.";
+    QTest::newRow("without the traffic") << "Home"
+                                         << "1"
+                                         << "Home" << int(StageConnected) << false << "No network in use"
+                                         << "Your list would choose Home. Home is connected, but the traffic "
+                                            "does not go through it.";
+    QTest::newRow("nothing") << "Home"
+                             << ""
+                             << "" << int(StageNotKnown) << false << "No network in use"
+                             << "Your list would choose Home.";
+    QTest::newRow("nothing to be had") << "Office"
+                                       << ""
+                                       << "" << int(StageNotKnown) << false << "No network in use"
+                                       << "None of the networks in your list is known to be usable.";
+    QTest::newRow("empty list")
+        << ""
+        << "1"
+        << "Home" << int(StageConnected) << true << "In use now: Home"
+        << "It is not in your list. Your list is empty, so there is nothing to choose "
+           "from.";
+}
+
+void OverviewTextTest::HeadTellsWhatIsInUse()
+{
+    QFETCH(QString, list);
+    QFETCH(QString, type);
+    QFETCH(QString, name);
+    QFETCH(int, stage);
+    QFETCH(bool, carriesTraffic);
+    Connections told = KnownConnections();
+    told.profiles << SavedProfile("Home") << SavedProfile(QString::fromUtf8("Café"))
+                  << SavedProfile("Office", ConnectionProfile::UseOutOfRange)
+                  << SavedProfile("Attic", ConnectionProfile::UseHiddenIsTried);
+    if (!name.isEmpty()) {
+        told.active << ConnectionOf(name, stage, carriesTraffic, type);
+    }
+    const Overview overview = Overview::Make(0, Listed(list), told);
+    QTEST(OverviewText::Headline(overview), "headline");
+    QTEST(OverviewText::Explanation(overview), "explanation");
+}
+
+void OverviewTextTest::HeadTellsWhyNothingIsKnown_data()
+{
+    QTest::addColumn<int>("teller");
+    QTest::addColumn<QString>("sourceName");
+    QTest::addColumn<int>("source");
+    QTest::addColumn<QString>("headline");
+    QTest::addColumn<QString>("explanation");
+    QTest::newRow("no plug-in")
+        << int(Connections::NoPlugin) << "" << 0 << "Connection not known"
+        << "The Wi-Fi plug-in is not available, so it is not known which networks are "
+           "in range.";
+    QTest::newRow("plug-in without answers")
+        << int(Connections::NoAnswers) << "" << 0 << "Connection not known"
+        << "The Wi-Fi plug-in does not tell which network is in use.";
+    QTest::newRow("asked") << int(Connections::Plugin) << "networkmanager"
+                           << int(ConnectionState::SourceNotKnown) << "Connection not known"
+                           << "NetworkManager has not answered yet, so it is not known which network is in "
+                              "use.";
+    QTest::newRow("gone") << int(Connections::Plugin) << "networkmanager" << int(ConnectionState::SourceGone)
+                          << "NetworkManager is not running"
+                          << "It is not known which network is in use. Your list can be changed; it takes "
+                             "effect once NetworkManager runs.";
+    QTest::newRow("another one gone")
+        << int(Connections::Plugin) << "stored" << int(ConnectionState::SourceGone) << "Connection not known"
+        << "The Wi-Fi plug-in does not tell which network is in use.";
+}
+
+void OverviewTextTest::HeadTellsWhyNothingIsKnown()
+{
+    QFETCH(int, teller);
+    QFETCH(QString, sourceName);
+    QFETCH(int, source);
+    QFETCH(QString, explanation);
+    Connections told;
+    told.teller = static_cast<Connections::Teller>(teller);
+    told.state.sourceName = sourceName;
+    told.state.source = source;
+    const Overview overview = Overview::Make(0, Listed("Home"), told);
+    QTEST(OverviewText::Headline(overview), "headline");
+    QCOMPARE(OverviewText::Explanation(overview), explanation);
+    QCOMPARE(OverviewText::State(overview, 0), QString("Not known if in range"));
+    QCOMPARE(OverviewText::Reason(overview, 0), explanation);
+}
+
+void OverviewTextTest::PracticeNetworksAreCalledSo()
+{
+    Connections told = KnownConnections();
+    told.state.sourceName = "stored";
+    QCOMPARE(OverviewText::Headline(Overview::Make(0, Listed("Home"), told)),
+             QString("No network in use (practice)"));
+    told.active << ConnectionOf("Home", StageConnected, true);
+    QCOMPARE(OverviewText::Headline(Overview::Make(0, Listed("Home"), told)),
+             QString("In use now: Home (practice)"));
+}
+
+void OverviewTextTest::StateAndReasonFollowTheProfile_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<int>("use");
+    QTest::addColumn<QString>("state");
+    QTest::addColumn<QString>("reason");
+    const QString wifi = "1";
+    const QString mobile = "2";
+    QTest::newRow("hidden")
+        << wifi << int(ConnectionProfile::UseHiddenIsTried) << "Hidden: is tried"
+        << "The network hides its name, so it is not known if it is in range. It is tried.";
+    QTest::newRow("out of range") << wifi << int(ConnectionProfile::UseOutOfRange) << "Out of range"
+                                  << "Not in use, because it is out of range.";
+    QTest::newRow("other security") << wifi << int(ConnectionProfile::UseOtherSecurity) << "Cannot be used"
+                                    << "A network of that name is in range, but has another security.";
+    QTest::newRow("other device") << wifi << int(ConnectionProfile::UseOtherDevice) << "Cannot be used"
+                                  << "It is saved for another adapter, band or station than what is here.";
+    QTest::newRow("no adapter") << wifi << int(ConnectionProfile::UseNoDevice) << "No adapter"
+                                << "There is no adapter or modem for it that works.";
+    QTest::newRow("no modem") << mobile << int(ConnectionProfile::UseNoDevice) << "No modem"
+                              << "There is no adapter or modem for it that works.";
+    QTest::newRow("off") << wifi << int(ConnectionProfile::UseDeviceOff) << "Turned off"
+                         << "Its adapter or modem is turned off.";
+    QTest::newRow("blocked") << wifi << int(ConnectionProfile::UseDeviceBlocked) << "Turned off"
+                             << "Its adapter or modem is held off by a button of this computer.";
+    QTest::newRow("SIM") << mobile << int(ConnectionProfile::UseSimLocked) << "Cannot be used"
+                         << "The SIM card wants its PIN.";
+    QTest::newRow("other users") << wifi << int(ConnectionProfile::UseOtherUsers) << "Cannot be used"
+                                 << "It belongs to other users of this computer.";
+    QTest::newRow("no account") << wifi << int(ConnectionProfile::UseNoAccount) << "Cannot be used"
+                                << "It needs an account, and none is saved.";
+    QTest::newRow("not known") << wifi << int(ConnectionProfile::UseNotKnown) << "Not known if in range"
+                               << "It is not known if it can be used.";
+    QTest::newRow("number of a later version") << wifi << 99 << "Not known if in range"
+                                               << "It is not known if it can be used.";
+    QTest::newRow("in range") << wifi << int(ConnectionProfile::UsePossible) << "In range"
+                              << "Your list would choose X.";
+    QTest::newRow("modem ready") << mobile << int(ConnectionProfile::UsePossible) << "Ready"
+                                 << "Your list would choose X.";
+    QTest::newRow("no profile") << wifi << -1 << "Not saved here"
+                                << "This computer has no saved network of that name.";
+}
+
+void OverviewTextTest::StateAndReasonFollowTheProfile()
+{
+    QFETCH(QString, type);
+    QFETCH(int, use);
+    Connections told = KnownConnections();
+    if (use >= 0) {
+        told.profiles << SavedProfile("X", use, type);
+    }
+    const Overview overview = Overview::Make(0, Listed("X/" + type), told);
+    QTEST(OverviewText::State(overview, 0), "state");
+    QTEST(OverviewText::Reason(overview, 0), "reason");
+}
+
+void OverviewTextTest::StateFollowsTheConnection_data()
+{
+    QTest::addColumn<int>("stage");
+    QTest::addColumn<bool>("carriesTraffic");
+    QTest::addColumn<QString>("state");
+    QTest::newRow("in use") << int(StageConnected) << true << "In use now · 64%";
+    QTest::newRow("connected") << int(StageConnected) << false << "Connected · 64%";
+    QTest::newRow("preparing") << int(StagePreparing) << false << "Connecting · 64%";
+    QTest::newRow("authenticating") << int(StageAuthenticating) << false << "Connecting · 64%";
+    QTest::newRow("address") << int(StageGettingAddress) << false << "Connecting · 64%";
+    QTest::newRow("going down") << int(StageDisconnecting) << false << "Disconnecting · 64%";
+}
+
+void OverviewTextTest::StateFollowsTheConnection()
+{
+    QFETCH(int, stage);
+    QFETCH(bool, carriesTraffic);
+    Connections told = KnownConnections();
+    told.profiles << SavedProfile("X");
+    told.active << ConnectionOf("X", stage, carriesTraffic);
+    told.active[0].signal = 64;
+    QTEST(OverviewText::State(Overview::Make(0, Listed("X"), told), 0), "state");
+}
+
+void OverviewTextTest::FailureIsTold_data()
+{
+    QTest::addColumn<int>("failure");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("other") << int(FailureOther) << "When last tried, it could not be connected.";
+    QTest::newRow("wrong key") << int(FailureWrongKey) << "When last tried, the key was refused.";
+    QTest::newRow("key missing") << int(FailureKeyMissing) << "When last tried, a key was missing.";
+    QTest::newRow("no answer") << int(FailureNoAnswer) << "When last tried, it did not answer.";
+    QTest::newRow("no address") << int(FailureNoAddress) << "When last tried, it gave no address.";
+    QTest::newRow("refused") << int(FailureRefused) << "When last tried, it did not let this computer in.";
+    QTest::newRow("SIM") << int(FailureSim) << "When last tried, the SIM card did not work.";
+    QTest::newRow("stopped") << int(FailureStopped) << "When last tried, it was ended by hand.";
+    QTest::newRow("device") << int(FailureDevice)
+                            << "When last tried, the adapter or modem was not available.";
+    QTest::newRow("not allowed") << int(FailureNotAllowed) << "You are not allowed to do that.";
+    QTest::newRow("source") << int(FailureSource) << "When last tried, it could not be connected.";
+}
+
+void OverviewTextTest::FailureIsTold()
+{
+    QFETCH(int, failure);
+    QFETCH(QString, text);
+    Connections told = KnownConnections();
+    told.profiles << SavedProfile("X") << SavedProfile("Far", ConnectionProfile::UseOutOfRange);
+    told.profiles[0].failure = failure;
+    told.profiles[1].failure = failure;
+    const Overview overview = Overview::Make(0, Listed("X, Far"), told);
+    QCOMPARE(OverviewText::Reason(overview, 0), "Your list would choose X. " + text);
+    QCOMPARE(OverviewText::Reason(overview, 1), "Not in use, because it is out of range. " + text);
+}
+
+void OverviewTextTest::ProfileThatDoesNotConnectByItselfIsToldSo()
+{
+    Connections told = KnownConnections();
+    told.profiles << SavedProfile("X");
+    told.profiles[0].connectsByItself = false;
+    QCOMPARE(OverviewText::Reason(Overview::Make(0, Listed("X"), told), 0),
+             QString("Your list would choose X. It does not connect by itself."));
+}
+
+void OverviewTextTest::VpnIsTold()
+{
+    Connections told = KnownConnections();
+    told.active << ConnectionOf("Home", StageConnected, true)
+                << ConnectionOf("Work", StageConnected, false, "0");
+    told.active[1].isVpn = true;
+    const Overview overview = Overview::Make(0, Listed("Home"), told);
+    QCOMPARE(OverviewText::Headline(overview), QString("In use now: Home"));
+    QVERIFY(OverviewText::Explanation(overview).contains("The VPN Work is connected."));
+}
+
+void OverviewTextTest::EntryThatIsListedTwiceIsToldSo()
+{
+    Connections told = KnownConnections();
+    told.profiles << SavedProfile("X");
+    QCOMPARE(OverviewText::Reason(Overview::Make(0, Listed("X, X"), told), 1),
+             QString("It stands higher in the list already, so this place has no effect."));
+}
+
+void OverviewTextTest::LowerEntryNamesTheHigherOne()
+{
+    Connections told = KnownConnections();
+    told.profiles << SavedProfile("A") << SavedProfile("B");
+    QCOMPARE(OverviewText::Reason(Overview::Make(0, Listed("A, B"), told), 1),
+             QString("A is higher in the list."));
+}
+
+QTEST_MAIN(OverviewTextTest)
+#include "tst_overviewtext.moc"

@@ -1,0 +1,212 @@
+#include "ConnectedWindow.h"
+#include "Lists.h"
+
+#include <OverviewDelegate.h>
+
+#include <QAction>
+#include <QPushButton>
+#include <QTimer>
+#include <QtTest>
+
+/** What the window makes of what is told of connections, and of orders. */
+class ConnectionsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup() { m_world.reset(); }
+
+    void ChangeIsShown();
+    void ChangesThatComeTogetherAreReadOnce();
+    void NothingIsAskedWhileNothingChanges();
+    void WindowThatNobodySeesIsToldNothing_data();
+    void WindowThatNobodySeesIsToldNothing();
+    void SourceThatGoesIsToldAtTheTop();
+    void RowTellsAssistiveTechnologyItsReason();
+    void SwitchOrdersTheChoice();
+    void SwitchIsThereOnlyForUse_data();
+    void SwitchIsThereOnlyForUse();
+    void SwitchWaitsWhileItIsUnderWay();
+    void RefusedSwitchIsTold_data();
+    void RefusedSwitchIsTold();
+    void FailedSwitchIsToldUntilItIsConnected();
+    void RefreshLooksForNetworks();
+
+private:
+    QPushButton *Switch() const { return m_world->window->findChild<QPushButton *>("switchButton"); }
+    QString Problems() const
+    {
+        const QLabel *label = m_world->window->findChild<QLabel *>("problemsLabel");
+        return label->isVisible() ? label->text() : QString();
+    }
+
+    QScopedPointer<ConnectedWindow> m_world;
+};
+
+/** The list has Home before Café, and Café is in use. */
+void ConnectionsTest::init()
+{
+    m_world.reset(new ConnectedWindow);
+    m_world->priority->list = Listed(QString::fromUtf8("Home, Café"));
+    m_world->connections->told.profiles << SavedProfile("Home") << SavedProfile(QString::fromUtf8("Café"));
+    m_world->connections->told.active << ConnectionOf(QString::fromUtf8("Café"), StageConnected, true);
+    m_world->Open();
+}
+
+void ConnectionsTest::ChangeIsShown()
+{
+    QCOMPARE(m_world->Text("headlineLabel"), QString::fromUtf8("In use now: Café"));
+    QCOMPARE(m_world->State(1), QString("In use now"));
+    m_world->connections->told.active = {ConnectionOf("Home", StageConnected, true)};
+    m_world->Follow();
+    QCOMPARE(m_world->Text("headlineLabel"), QString("In use now: Home"));
+    QCOMPARE(m_world->State(0), QString("In use now"));
+    QCOMPARE(m_world->State(1), QString("In range"));
+}
+
+void ConnectionsTest::ChangesThatComeTogetherAreReadOnce()
+{
+    const int reads = m_world->connections->reads;
+    for (int i = 0; i < 5; ++i) {
+        m_world->connections->Tell();
+    }
+    m_world->Follow();
+    QTest::qWait(50);
+    QCOMPARE(m_world->connections->reads, reads + 1);
+}
+
+void ConnectionsTest::NothingIsAskedWhileNothingChanges()
+{
+    for (const QTimer *timer : m_world->window->findChildren<QTimer *>()) {
+        QVERIFY2(!timer->isActive(), qPrintable(timer->objectName()));
+    }
+}
+
+void ConnectionsTest::WindowThatNobodySeesIsToldNothing_data()
+{
+    QTest::addColumn<bool>("isHidden");
+    QTest::newRow("minimised") << false;
+    QTest::newRow("hidden") << true;
+}
+
+void ConnectionsTest::WindowThatNobodySeesIsToldNothing()
+{
+    QFETCH(bool, isHidden);
+    QVERIFY(m_world->connections->IsWatched());
+    if (isHidden) {
+        m_world->window->hide();
+    } else {
+        m_world->window->showMinimized();
+    }
+    QTRY_VERIFY(!m_world->connections->IsWatched());
+    m_world->connections->told.active = {ConnectionOf("Home", StageConnected, true)};
+    m_world->AwaitReading([this] { m_world->window->showNormal(); });
+    QVERIFY(m_world->connections->IsWatched());
+    QCOMPARE(m_world->Text("headlineLabel"), QString("In use now: Home"));
+}
+
+void ConnectionsTest::SourceThatGoesIsToldAtTheTop()
+{
+    m_world->connections->told.state.source = ConnectionState::SourceGone;
+    m_world->Follow();
+    QCOMPARE(m_world->Text("headlineLabel"), QString("NetworkManager is not running"));
+    QCOMPARE(m_world->State(1), QString("Not known if in range"));
+    QVERIFY(!Switch()->isVisible());
+}
+
+void ConnectionsTest::RowTellsAssistiveTechnologyItsReason()
+{
+    const QListWidgetItem *item = m_world->List()->item(0);
+    QCOMPARE(item->data(Qt::AccessibleTextRole).toString(), QString("Home, Wi-Fi, In range"));
+    QCOMPARE(item->data(Qt::AccessibleDescriptionRole).toString(),
+             QString("Your list would choose Home. NetworkManager keeps a connection that works until you "
+                     "switch."));
+    QCOMPARE(item->toolTip(), item->data(Qt::AccessibleDescriptionRole).toString());
+}
+
+void ConnectionsTest::SwitchOrdersTheChoice()
+{
+    QVERIFY(Switch()->isVisible() && Switch()->isEnabled());
+    QCOMPARE(Switch()->accessibleName(), QString("Switch to Home"));
+    QTest::mouseClick(Switch(), Qt::LeftButton);
+    QCOMPARE(m_world->connections->ordered, QStringList("1Home"));
+}
+
+void ConnectionsTest::SwitchIsThereOnlyForUse_data()
+{
+    QTest::addColumn<QString>("inUse");
+    QTest::addColumn<bool>("mayConnect");
+    QTest::addColumn<bool>("isThere");
+    QTest::newRow("another is in use") << QString::fromUtf8("Café") << true << true;
+    QTest::newRow("nothing is in use") << "" << true << true;
+    QTest::newRow("the choice is in use") << "Home" << true << false;
+    QTest::newRow("the user may not connect") << QString::fromUtf8("Café") << false << false;
+}
+
+void ConnectionsTest::SwitchIsThereOnlyForUse()
+{
+    QFETCH(QString, inUse);
+    QFETCH(bool, mayConnect);
+    m_world->connections->told.state.mayConnect = mayConnect;
+    m_world->connections->told.active.clear();
+    if (!inUse.isEmpty()) {
+        m_world->connections->told.active << ConnectionOf(inUse, StageConnected, true);
+    }
+    m_world->Follow();
+    QTEST(Switch()->isVisible(), "isThere");
+}
+
+void ConnectionsTest::SwitchWaitsWhileItIsUnderWay()
+{
+    m_world->connections->attempt.stage = StagePreparing;
+    QTest::mouseClick(Switch(), Qt::LeftButton);
+    QVERIFY(Switch()->isVisible() && !Switch()->isEnabled());
+    m_world->connections->attempt.stage = StageCancelled;
+    m_world->Follow();
+    QVERIFY(Switch()->isEnabled());
+    QVERIFY(Problems().isEmpty());
+}
+
+void ConnectionsTest::RefusedSwitchIsTold_data()
+{
+    QTest::addColumn<int>("answer");
+    QTest::addColumn<QString>("told");
+    QTest::newRow("not allowed") << int(IConnectionPlugin::RefusedNotAllowed)
+                                 << "Home was not connected. You are not allowed to do that.";
+    QTest::newRow("key") << int(IConnectionPlugin::RefusedKey)
+                         << "Home was not connected. When last tried, a key was missing.";
+    QTest::newRow("gone") << int(IConnectionPlugin::RefusedUnknown)
+                          << "Home was not connected. When last tried, it could not be connected.";
+}
+
+void ConnectionsTest::RefusedSwitchIsTold()
+{
+    QFETCH(int, answer);
+    m_world->connections->answer = answer;
+    QTest::mouseClick(Switch(), Qt::LeftButton);
+    QTEST(Problems(), "told");
+}
+
+void ConnectionsTest::FailedSwitchIsToldUntilItIsConnected()
+{
+    QTest::mouseClick(Switch(), Qt::LeftButton);
+    QVERIFY(Problems().isEmpty());
+    m_world->connections->attempt.stage = StageFailed;
+    m_world->connections->attempt.failure = FailureWrongKey;
+    m_world->Follow();
+    QCOMPARE(Problems(), QString("Home was not connected. When last tried, the key was refused."));
+    m_world->connections->told.active << ConnectionOf("Home", StageConnected, false);
+    m_world->Follow();
+    QVERIFY(Problems().isEmpty());
+}
+
+void ConnectionsTest::RefreshLooksForNetworks()
+{
+    QCOMPARE(m_world->connections->looks, 0);
+    QTest::mouseClick(m_world->window->findChild<QPushButton *>("refreshButton"), Qt::LeftButton);
+    QCOMPARE(m_world->connections->looks, 1);
+}
+
+QTEST_MAIN(ConnectionsTest)
+#include "tst_connections.moc"
