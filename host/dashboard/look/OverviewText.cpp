@@ -251,7 +251,7 @@ QString OverviewText::Kind(const Overview::Entry &entry)
 QString OverviewText::State(const Overview &overview, int place)
 {
     const Overview::Entry &entry = overview.entries.at(place);
-    const char *id = "IDS_STATE_CANNOT";
+    const char *id = IsNotCertain(entry) ? "IDS_STATE_UNKNOWN" : "IDS_STATE_CANNOT";
     if (entry.isInUse) {
         id = "IDS_STATE_IN_USE";
     } else if (entry.stage == StageConnected) {
@@ -275,8 +275,6 @@ QString OverviewText::State(const Overview &overview, int place)
     } else if (entry.profile.use == ConnectionProfile::UseDeviceOff ||
                entry.profile.use == ConnectionProfile::UseDeviceBlocked) {
         id = "IDS_STATE_OFF";
-    } else if (IsNotCertain(entry)) {
-        id = "IDS_STATE_UNKNOWN";
     }
     const QString state = DashboardText(id);
     const QString signal =
