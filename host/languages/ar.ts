@@ -353,7 +353,7 @@
     </message>
     <message>
         <source>IDS_HEAD_NONE</source>
-        <translation>لا توجد شبكة قيد الاستخدام</translation>
+        <translation>لا شبكة قيد الاستخدام</translation>
     </message>
     <message>
         <source>IDS_HEAD_UNKNOWN</source>
