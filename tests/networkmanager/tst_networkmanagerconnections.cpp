@@ -55,6 +55,7 @@ private slots:
     void WhoSpeaksIsNotAskedForASign();
     void DevicesLookForNetworksWhenOrdered();
     void ProfileThatIsChangedWhileItIsReadIsReadAgain();
+    void ProfileThatIsRemovedWhileItIsReadStaysAway();
     void LargePictureIsRead();
 
     void ProfileIsConnected();
@@ -350,6 +351,23 @@ void tst_networkmanagerconnections::ProfileThatIsChangedWhileItIsReadIsReadAgain
     Fake().Hold(QString());
     Fake().Release();
     QTRY_COMPARE(LoadedWLAN::Profiles().value(0).name, QString("third"));
+}
+
+void tst_networkmanagerconnections::ProfileThatIsRemovedWhileItIsReadStaysAway()
+{
+    const QString profile = AddProfile("Office", "net");
+    const QString other = AddProfile("Café", "net");
+    QTRY_COMPARE(LoadedWLAN::Profiles().size(), 2);
+    Fake().Hold("GetSettings");
+    Fake().SetSetting(profile, "connection", "id", "second");
+    Fake().Settle();
+    Fake().Remove(profile);
+    Fake().Settle();
+    Fake().Hold(QString());
+    Fake().Release();
+    Fake().SetSetting(other, "connection", "id", "Harbour");
+    QTRY_COMPARE(LoadedWLAN::Profiles().value(0).name, QString("Harbour"));
+    QCOMPARE(LoadedWLAN::Profiles().size(), 1);
 }
 
 void tst_networkmanagerconnections::LargePictureIsRead()

@@ -102,7 +102,9 @@ const ConnectionPicture &CLivePicture::Complete()
         if (m_batch) {
             delete m_batch;
             for (const QString &path : std::as_const(m_asked)) {
-                m_due.insert(path);
+                if (!path.isEmpty()) {
+                    m_due.insert(path);
+                }
             }
         }
         m_batch = NewBatch(CNetworkManagerClient::patienceMilliseconds);
@@ -207,6 +209,11 @@ void CLivePicture::Apply(const QDBusMessage &signal)
         m_due.insert(path);
     } else {
         ForgetProfile(path);
+        // Its settings may have been asked for, and told, before it went.
+        const int place = m_asked.indexOf(path);
+        if (place != -1) {
+            m_asked[place].clear();
+        }
     }
     if (path.contains(QLatin1String("/ActiveConnection/"))) {
         NoteSuccess(path);
@@ -262,7 +269,9 @@ void CLivePicture::TakeProfiles()
     m_batch->deleteLater();
     m_batch = nullptr;
     for (int i = 0; i < replies.size(); ++i) {
-        StoreProfile(m_asked.at(i), replies.at(i));
+        if (!m_asked.at(i).isEmpty()) {
+            StoreProfile(m_asked.at(i), replies.at(i));
+        }
     }
     AskForProfiles();
 }

@@ -123,6 +123,7 @@ private:
     /** What came while everything was being asked for. */
     QList<QDBusMessage> m_early;
     CCallBatch *m_batch;
+    /** By the places of the batch's calls; empty for what has gone meanwhile. */
     QStringList m_asked;
     QSet<QString> m_due;
     CCallBatch *m_rightsBatch;
