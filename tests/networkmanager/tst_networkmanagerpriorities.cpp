@@ -99,7 +99,12 @@ void tst_networkmanagerpriorities::Begin(const QString &entries)
     Fake().ForgetCalls();
     QVERIFY(LoadedWLAN::Root()->Init());
     QTRY_VERIFY(Fake().CallCount("GetManagedObjects") > 0);
-    Settle();
+    // It is over when nothing more is asked or written.
+    int calls = 0;
+    do {
+        calls = Fake().CallCount();
+        Settle();
+    } while (Fake().CallCount() != calls);
 }
 
 QStringList tst_networkmanagerpriorities::Listed()
