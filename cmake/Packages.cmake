@@ -82,6 +82,7 @@ file(WRITE "${control_directory}/triggers" "activate-noawait ldconfig\n")
 set(runtime_package "${CPACK_DEBIAN_RUNTIME_PACKAGE_NAME} (>= ${PROJECT_VERSION})")
 file(WRITE "${control_directory}/shlibs"
     "libcoreui ${PRIORITY_HOST_ABI} ${runtime_package}\nlibzeltsdk ${PRIORITY_HOST_ABI} ${runtime_package}\n")
+set(CPACK_PRIORITY_OWN_LIBRARIES "libcoreui ${PRIORITY_HOST_ABI}\nlibzeltsdk ${PRIORITY_HOST_ABI}\n")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA "${control_directory}/triggers" "${control_directory}/shlibs")
 if(PRIORITY_CONFIGURATION_DIRECTORY)
     file(WRITE "${control_directory}/conffiles" "${PRIORITY_CONFIGURATION_DIRECTORY}/config.xml\n")

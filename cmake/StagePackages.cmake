@@ -18,6 +18,11 @@ foreach(component ${CPACK_COMPONENTS_ALL})
     string(TOUPPER ${component} component_in_names)
     set(documents "${stage}/usr/share/doc/${CPACK_DEBIAN_${component_in_names}_PACKAGE_NAME}")
     file(MAKE_DIRECTORY "${documents}")
+    # These packages name each other. Those for another Qt, when they are installed here, have the same libraries, and
+    # are not meant. CPack takes the directory away again where it has looked for libraries.
+    if(NOT component STREQUAL "development")
+        file(WRITE "${stage}/debian/shlibs.local" "${CPACK_PRIORITY_OWN_LIBRARIES}")
+    endif()
     configure_file("${CPACK_PRIORITY_SOURCE_DIRECTORY}/CHANGELOG.md" "${documents}/changelog" COPYONLY)
     file(WRITE "${documents}/changelog.Debian" "${entry}")
     configure_file("${CPACK_PRIORITY_SOURCE_DIRECTORY}/packaging/copyright" "${documents}/copyright" COPYONLY)
