@@ -1,9 +1,9 @@
 #include <Appearance.h>
 #include <Arguments.h>
+#include <Commands.h>
 #include <DashboardLanguage.h>
 #include <HostControl.h>
 #include <Installation.h>
-#include <ListCommands.h>
 #include <MainWindow.h>
 #include <PluginHost.h>
 #include <Terminal.h>
@@ -105,22 +105,6 @@ QString PrepareHost(const Arguments &arguments)
     return QString();
 }
 
-int RunCommands(const Arguments &arguments)
-{
-    const QString listPath = UserData::FilePath(QLatin1String("Priority.xml"));
-    if (listPath.isEmpty()) {
-        return Refuse(QLatin1String("there is no directory for your data and none can be made"),
-                      ListCommands::FileNotOpened);
-    }
-    PluginHost plugins(LibraryPath(arguments), QList<KnownPlugin>() << PluginHost::PriorityPlugin());
-    plugins.Load();
-    const PluginHost::Plugin priority = plugins.Plugins().at(0);
-    if (priority.state != PluginReady) {
-        return Refuse(PluginHost::ProblemText(priority), ListCommands::NoPlugin);
-    }
-    return ListCommands(listPath).Run(arguments.commands);
-}
-
 int RunWindow(const Arguments &arguments, TraceLog *log)
 {
     if (UserData::Directory().isEmpty()) {
@@ -188,5 +172,5 @@ int main(int argc, char **argv)
         return Refuse(problem, exitRefused);
     }
     StartLanguage(arguments);
-    return isForScripts ? RunCommands(arguments) : RunWindow(arguments, &log);
+    return isForScripts ? Commands::Run(arguments, LibraryPath(arguments)) : RunWindow(arguments, &log);
 }

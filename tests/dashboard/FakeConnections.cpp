@@ -34,14 +34,16 @@ int FakeConnections::ConnectProfile(const QString &profileId)
     return answer;
 }
 
-int FakeConnections::ConnectNetwork(const QString &, const QString &)
+int FakeConnections::ConnectNetwork(const QString &networkId, const QString &key)
 {
-    return RefusedUnknown;
+    joined.append(networkId + '/' + key);
+    return answer;
 }
 
-int FakeConnections::Disconnect(const QString &)
+int FakeConnections::Disconnect(const QString &connectionId)
 {
-    return RefusedUnknown;
+    ended.append(connectionId);
+    return answer;
 }
 
 void FakeConnections::GetAttempt(int, ConnectAttempt *result)

@@ -38,6 +38,10 @@ public:
     int answer = 1;
     /** Ids that were ordered to be connected. */
     QStringList ordered;
+    /** The networks that were ordered to be connected, "id/key" each. */
+    QStringList joined;
+    /** The connections that were ordered to be ended. */
+    QStringList ended;
     int reads = 0;
     int looks = 0;
 

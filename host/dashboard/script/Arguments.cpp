@@ -3,6 +3,8 @@
 #include <QByteArray>
 #include <QLatin1String>
 
+#include <utility>
+
 namespace
 {
 
@@ -14,6 +16,7 @@ struct ValueOption {
 const ValueOption valueOptions[] = {
     {"--language", &Arguments::language},
     {"--library-path", &Arguments::pluginLibraryPath},
+    {"--wait", &Arguments::wait},
     {"--wlan", &Arguments::wlan},
 };
 
@@ -40,14 +43,17 @@ const WlanWord *FindWlanWord(const QString &word)
 
 struct CommandOption {
     const char *name;
-    ListCommand::Kind kind;
+    Command::Kind kind;
 };
 
 const CommandOption commandOptions[] = {
-    {"--list", ListCommand::List},
-    {"--check", ListCommand::Check},
-    {"--add", ListCommand::Add},
-    {"--add-top", ListCommand::AddTop},
+    {"--list", Command::List},
+    {"--check", Command::Check},
+    {"--add", Command::Add},
+    {"--add-top", Command::AddTop},
+    {"--status", Command::Status},
+    {"--connect", Command::Connect},
+    {"--disconnect", Command::Disconnect},
 };
 
 /** Words for the types of entries. */
@@ -71,16 +77,11 @@ const CommandOption *FindCommandOption(const QString &name)
     return nullptr;
 }
 
-ListCommand CommandOf(const CommandOption &option)
+Command CommandOf(const CommandOption &option)
 {
-    ListCommand command;
+    Command command;
     command.kind = option.kind;
     return command;
-}
-
-bool TakesEntry(const CommandOption &option)
-{
-    return CommandOf(option).IsChange();
 }
 
 /** The type that text stands for; null when it stands for none. */
@@ -173,17 +174,21 @@ Arguments Arguments::Parse(const QStringList &arguments)
         const QString name = argument.left(equals);
         const ValueOption *option = FindValueOption(name);
         const CommandOption *command = FindCommandOption(name);
-        if (!option && !command) {
+        const bool isJson = name == QLatin1String("--json");
+        if (!option && !command && !isJson) {
             const bool isOption = argument.startsWith(QLatin1Char('-'));
             return Refused(
                 isOption ? QString::fromLatin1("there is no option %1; see --help").arg(name)
                          : QString::fromLatin1("can't do anything with \"%1\"; see --help").arg(argument));
         }
-        if (command && !TakesEntry(*command)) {
+        if (isJson || (command && !CommandOf(*command).TakesEntry())) {
             if (equals >= 0) {
                 return Refused(QString::fromLatin1("%1 takes no value; see --help").arg(name));
             }
-            parsed.commands.append(CommandOf(*command));
+            parsed.isJson = parsed.isJson || isJson;
+            if (command) {
+                parsed.commands.append(CommandOf(*command));
+            }
             continue;
         }
         QString value;
@@ -199,12 +204,12 @@ Arguments Arguments::Parse(const QStringList &arguments)
             parsed.*(option->value) = value;
             continue;
         }
-        ListCommand given = CommandOf(*command);
+        Command given = CommandOf(*command);
         given.entry = EntryOf(value);
         if (given.entry.name.isEmpty()) {
             return Refused(QString::fromLatin1("%1 needs a name before the type; see --help").arg(name));
         }
-        if (!CanBeStored(given.entry.name)) {
+        if (given.IsChange() && !CanBeStored(given.entry.name)) {
             return Refused(QString::fromLatin1("the list can't hold all characters of the name \"%1\"")
                                .arg(given.entry.name));
         }
@@ -214,7 +219,34 @@ Arguments Arguments::Parse(const QStringList &arguments)
         return Refused(QString::fromLatin1("--wlan is auto, networkmanager or stored, not \"%1\"; see --help")
                            .arg(parsed.wlan));
     }
+    if (parsed.WaitSeconds() == 0) {
+        return Refused(
+            QString::fromLatin1("--wait is a number of seconds from 1 to 86400, not \"%1\"; see --help")
+                .arg(parsed.wait));
+    }
+    bool canWait = parsed.wait.isNull();
+    bool canAnswer = !parsed.isJson;
+    for (const Command &command : std::as_const(parsed.commands)) {
+        canWait = canWait || command.Waits();
+        canAnswer = canAnswer || command.CanAnswerInJson();
+    }
+    if (!canWait || !canAnswer) {
+        return Refused(QLatin1String(canWait ? "--json goes with --list, --check or --status; see --help"
+                                             : "--wait goes with --connect or --disconnect; see --help"));
+    }
     return parsed;
+}
+
+int Arguments::WaitSeconds() const
+{
+    const int byDefault = 60;
+    const int most = 86400;
+    if (wait.isNull()) {
+        return byDefault;
+    }
+    bool isNumber = false;
+    const int seconds = wait.toInt(&isNumber);
+    return isNumber && seconds > 0 && seconds <= most ? seconds : 0;
 }
 
 WlanChoice Arguments::ChosenWlan() const
@@ -249,6 +281,15 @@ QString Arguments::HelpText()
         "  --add NAME[:TYPE]    make this the last network\n"
         "  --add-top NAME[:TYPE]\n"
         "                       make this the first network, whether it is listed already or not\n"
+        "  --status             print which connections are up or coming up, which of them carries\n"
+        "                       the traffic, and which network of the list could be used now first\n"
+        "  --connect NAME[:TYPE]\n"
+        "                       connect this network and wait until it is up; an open one in range\n"
+        "                       need not be saved\n"
+        "  --disconnect         end the connection that carries the traffic, unless it is of\n"
+        "                       another kind than Wi-Fi and mobile broadband\n"
+        "  --wait SECONDS       let --connect and --disconnect take so long; 60 is the default\n"
+        "  --json               let --list, --check and --status answer in JSON\n"
         "\n"
         "TYPE is wifi (or 1), which is also the type of a network that is given without one,\n"
         "mobile (or 2), or another digit. NAME may have colons in it: the last one counts when\n"
@@ -264,7 +305,10 @@ QString Arguments::HelpText()
         "   7  the list's file can't be opened, or there is no directory for it\n"
         "   8  the list's file, or the output, can't be written\n"
         "   9  --check found networks that are listed more than once\n"
-        "  10  another command was busy with the list for too long\n");
+        "  10  another command was busy with the list for too long\n"
+        "  11  the connection manager can't be reached\n"
+        "  12  there is no such network, it needs a key first, or nothing is connected\n"
+        "  13  it was not connected, or not disconnected, or not in time\n");
 }
 
 QString Arguments::VersionText()

@@ -1,7 +1,7 @@
 #ifndef ARGUMENTS_H
 #define ARGUMENTS_H
 
-#include "ListCommands.h"
+#include "Command.h"
 
 #include <WlanChoice.h>
 
@@ -23,8 +23,15 @@ struct Arguments {
 
     WlanChoice ChosenWlan() const;
 
-    /** What to do with the list, in this order, instead of opening a window. */
-    QList<ListCommand> commands;
+    /** What to do, in this order, instead of opening a window. */
+    QList<Command> commands;
+
+    /** Whether commands answer in JSON. */
+    bool isJson = false;
+
+    /** How long a command waits for a connection: what was given, which is null when it wasn't. */
+    QString wait;
+    int WaitSeconds() const;
 
     /** What main was given. Arguments are UTF-8, or text in the locale's encoding when they aren't. */
     static Arguments Read(int count, const char *const *arguments);

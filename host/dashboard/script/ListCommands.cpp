@@ -5,21 +5,20 @@
 #include <ListEntries.h>
 #include <OneLine.h>
 #include <PluginObjects.h>
-#include <Terminal.h>
 
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
+#include <QJsonArray>
+#include <QJsonObject>
 #include <QPair>
 #include <QStringList>
 #include <QXmlStreamReader>
 
-#include <cstdio>
+#include <utility>
 
 namespace
 {
-
-const QChar column = QLatin1Char('\t');
 
 const int waitMilliseconds = 5000;
 
@@ -34,39 +33,32 @@ int PositionOf(const PriorityList &entry, const QList<PriorityList> &list)
     return 0;
 }
 
-QString Line(const QString &first, const QString &second)
-{
-    return first + column + second + QLatin1Char('\n');
-}
+/** An entry that is listed more than once, and where, counted from 1. */
+struct Repeat {
+    PriorityList entry;
+    QStringList positions;
+};
 
-/** The columns of an entry. */
-QString Columns(const PriorityList &entry)
-{
-    return OneLine::Escaped(entry.type) + column + OneLine::Escaped(entry.name);
-}
-
-/** The lines about entries that are listed more than once. */
-QStringList Repeats(const QList<PriorityList> &list)
+QList<Repeat> Repeats(const QList<PriorityList> &list)
 {
     typedef QPair<QString, QString> Key;
-    QHash<Key, QStringList> positions;
-    QList<PriorityList> firsts;
+    QHash<Key, int> placeOf;
+    QList<Repeat> all;
     for (int i = 0; i < list.size(); ++i) {
-        QStringList &ofEntry = positions[Key(list.at(i).name, list.at(i).type)];
-        if (ofEntry.isEmpty()) {
-            firsts.append(list.at(i));
+        const Key key(list.at(i).name, list.at(i).type);
+        if (!placeOf.contains(key)) {
+            placeOf.insert(key, static_cast<int>(all.size()));
+            all.append({list.at(i), QStringList()});
         }
-        ofEntry.append(QString::number(i + 1));
+        all[placeOf.value(key)].positions.append(QString::number(i + 1));
     }
-    QStringList lines;
-    for (int i = 0; i < firsts.size(); ++i) {
-        const QStringList ofEntry = positions.value(Key(firsts.at(i).name, firsts.at(i).type));
-        if (ofEntry.size() > 1) {
-            lines.append(Line(QLatin1String("duplicate"),
-                              ofEntry.join(QLatin1String(",")) + column + Columns(firsts.at(i))));
+    QList<Repeat> repeats;
+    for (const Repeat &repeat : std::as_const(all)) {
+        if (repeat.positions.size() > 1) {
+            repeats.append(repeat);
         }
     }
-    return lines;
+    return repeats;
 }
 
 /** Line and reason of what is wrong with a file that is not well-formed. */
@@ -83,27 +75,11 @@ QString DamageOf(const QString &path)
                : QString::fromLatin1(" it could not be read to its end");
 }
 
-ListCommands::Status Fail(ListCommands::Status status, const QString &problem)
-{
-    Terminal::Complain(problem);
-    return status;
-}
-
-ListCommands::Status Print(const QString &text)
-{
-    const QByteArray bytes = text.toUtf8();
-    const std::size_t size = static_cast<std::size_t>(bytes.size());
-    if (std::fwrite(bytes.constData(), 1, size, stdout) != size || std::fflush(stdout) != 0) {
-        return Fail(ListCommands::NotWritten, QLatin1String("the standard output can't be written"));
-    }
-    return ListCommands::Done;
-}
-
 } // namespace
 
-ListCommands::ListCommands(const QString &file) : m_file(file) {}
+ListCommands::ListCommands(const QString &file, bool isJson) : m_file(file), m_isJson(isJson) {}
 
-ListCommands::Status ListCommands::Run(const QList<ListCommand> &commands) const
+CommandStatus ListCommands::Run(const QList<Command> &commands) const
 {
     DirectoryLock::Use use = DirectoryLock::Reading;
     for (int i = 0; i < commands.size(); ++i) {
@@ -113,79 +89,101 @@ ListCommands::Status ListCommands::Run(const QList<ListCommand> &commands) const
     }
     const DirectoryLock lock(QFileInfo(m_file).absolutePath(), use, waitMilliseconds);
     if (lock.IsRefused()) {
-        return Fail(ListInUse, QLatin1String("another command has been busy with the list for too long"));
+        return CommandAnswer::Fail(CommandListInUse,
+                                   QLatin1String("another command has been busy with the list for too long"));
     }
-    Status status = Done;
-    for (int i = 0; i < commands.size() && status == Done; ++i) {
+    CommandStatus status = CommandDone;
+    for (int i = 0; i < commands.size() && status == CommandDone; ++i) {
         status = RunOne(commands.at(i));
     }
     return status;
 }
 
-ListCommands::Status ListCommands::RunOne(const ListCommand &command) const
+CommandStatus ListCommands::RunOne(const Command &command) const
 {
     if (!PluginObjects::Priority()) {
-        return Fail(NoPlugin, QLatin1String("the priority plug-in offers no list"));
+        return CommandAnswer::Fail(CommandNoPlugin, QLatin1String("the priority plug-in offers no list"));
     }
     switch (command.kind) {
-    case ListCommand::List:
+    case Command::List:
         return List();
-    case ListCommand::Check:
+    case Command::Check:
         return Check();
-    case ListCommand::Add:
+    case Command::Add:
         return Add(command.entry);
-    case ListCommand::AddTop:
+    case Command::AddTop:
         return AddTop(command.entry);
+    default:
+        return CommandDone;
     }
-    return Done;
 }
 
-ListCommands::Status ListCommands::List() const
+CommandStatus ListCommands::List() const
 {
     QList<PriorityList> list;
     const int result = PluginObjects::Priority()->GetPriorityList(&list);
     QString lines;
+    QJsonArray entries;
     for (int i = 0; i < list.size(); ++i) {
-        lines += Line(QString::number(i + 1), Columns(list.at(i)));
+        lines += CommandAnswer::Line(QString::number(i + 1), CommandAnswer::Fields(list.at(i)));
+        QJsonObject entry = CommandAnswer::Json(list.at(i));
+        entry.insert(QLatin1String("position"), i + 1);
+        entries.append(entry);
     }
-    const Status printed = Print(lines);
-    return printed == Done ? FailToRead(result) : printed;
+    const CommandStatus printed = m_isJson
+                                      ? CommandAnswer::Print(QJsonObject{{QLatin1String("entries"), entries}})
+                                      : CommandAnswer::Print(lines);
+    return printed == CommandDone ? FailToRead(result) : printed;
 }
 
-ListCommands::Status ListCommands::Check() const
+CommandStatus ListCommands::Check() const
 {
     QList<PriorityList> list;
     const int result = PluginObjects::Priority()->GetPriorityList(&list);
-    const char *const state = result == PriorityRead      ? "readable"
+    const QLatin1String state(result == PriorityRead      ? "readable"
                               : result == PriorityMissing ? "does not exist yet"
                               : result == PriorityDamaged ? "damaged"
-                                                          : "can't be opened";
-    const QStringList repeats = Repeats(list);
-    const Status printed =
-        Print(Line(QLatin1String("file"), OneLine::Escaped(m_file)) +
-              Line(QLatin1String("state"), QLatin1String(state)) +
-              Line(QLatin1String("entries"), QString::number(list.size())) + repeats.join(QString()));
-    if (printed != Done) {
+                                                          : "can't be opened");
+    const QList<Repeat> repeats = Repeats(list);
+    QString lines = CommandAnswer::Line(QLatin1String("file"), OneLine::Escaped(m_file)) +
+                    CommandAnswer::Line(QLatin1String("state"), state) +
+                    CommandAnswer::Line(QLatin1String("entries"), QString::number(list.size()));
+    QJsonArray repeated;
+    for (const Repeat &repeat : repeats) {
+        lines += CommandAnswer::Line(QLatin1String("duplicate"), repeat.positions.join(QLatin1Char(',')) +
+                                                                     QLatin1Char('\t') +
+                                                                     CommandAnswer::Fields(repeat.entry));
+        repeated.append(CommandAnswer::Json(repeat.entry));
+    }
+    const CommandStatus printed =
+        m_isJson ? CommandAnswer::Print(QJsonObject{{QLatin1String("file"), m_file},
+                                                    {QLatin1String("state"), state},
+                                                    {QLatin1String("entries"), static_cast<int>(list.size())},
+                                                    {QLatin1String("repeated"), repeated}})
+                 : CommandAnswer::Print(lines);
+    if (printed != CommandDone) {
         return printed;
     }
-    const Status read = FailToRead(result);
-    if (read == Done && !repeats.isEmpty()) {
-        return Fail(EntriesRepeated, QString::fromLatin1("%1: entries listed more than once: %2")
-                                         .arg(m_file, QString::number(repeats.size())));
+    const CommandStatus read = FailToRead(result);
+    if (read == CommandDone && !repeats.isEmpty()) {
+        return CommandAnswer::Fail(CommandEntriesRepeated,
+                                   QString::fromLatin1("%1: entries listed more than once: %2")
+                                       .arg(m_file, QString::number(repeats.size())));
     }
     return read;
 }
 
-ListCommands::Status ListCommands::Add(const PriorityList &entry) const
+CommandStatus ListCommands::Add(const PriorityList &entry) const
 {
     QList<PriorityList> before;
-    const Status read = Read(&before);
-    if (read != Done) {
+    const CommandStatus read = Read(&before);
+    if (read != CommandDone) {
         return read;
     }
     const int position = PositionOf(entry, before);
     if (position > 0) {
-        return Fail(AlreadyListed, QString::fromLatin1("\"%1\" of type %2 is listed already, at position %3")
+        return CommandAnswer::Fail(CommandAlreadyListed,
+                                   QString::fromLatin1("\"%1\" of type %2 is listed already, at position %3")
                                        .arg(entry.name, entry.type, QString::number(position)));
     }
     QList<PriorityList> entries;
@@ -193,47 +191,48 @@ ListCommands::Status ListCommands::Add(const PriorityList &entry) const
     PluginObjects::Priority()->AddPriorityList(entries);
     QList<PriorityList> after;
     PluginObjects::Priority()->GetPriorityList(&after);
-    return PositionOf(entry, after) > 0 ? Done : FailToWrite(before, after);
+    return PositionOf(entry, after) > 0 ? CommandDone : FailToWrite(before, after);
 }
 
-ListCommands::Status ListCommands::AddTop(const PriorityList &entry) const
+CommandStatus ListCommands::AddTop(const PriorityList &entry) const
 {
     QList<PriorityList> before;
-    const Status read = Read(&before);
-    if (read != Done) {
+    const CommandStatus read = Read(&before);
+    if (read != CommandDone) {
         return read;
     }
     PluginObjects::Priority()->AddTopPriority(entry);
     QList<PriorityList> after;
     PluginObjects::Priority()->GetPriorityList(&after);
-    return PositionOf(entry, after) == 1 ? Done : FailToWrite(before, after);
+    return PositionOf(entry, after) == 1 ? CommandDone : FailToWrite(before, after);
 }
 
 /** The list before a change. What can't be read in full is not changed: the plug-in would write back the part
  * that could be read. */
-ListCommands::Status ListCommands::Read(QList<PriorityList> *list) const
+CommandStatus ListCommands::Read(QList<PriorityList> *list) const
 {
     return FailToRead(PluginObjects::Priority()->GetPriorityList(list));
 }
 
-ListCommands::Status ListCommands::FailToRead(int result) const
+CommandStatus ListCommands::FailToRead(int result) const
 {
     switch (result) {
     case PriorityRead:
     case PriorityMissing:
-        return Done;
+        return CommandDone;
     case PriorityDamaged:
-        return Fail(FileDamaged, m_file + QLatin1Char(':') + DamageOf(m_file));
+        return CommandAnswer::Fail(CommandFileDamaged, m_file + QLatin1Char(':') + DamageOf(m_file));
     default:
-        return Fail(FileNotOpened, QString::fromLatin1("%1 can't be opened").arg(m_file));
+        return CommandAnswer::Fail(CommandFileNotOpened,
+                                   QString::fromLatin1("%1 can't be opened").arg(m_file));
     }
 }
 
-ListCommands::Status ListCommands::FailToWrite(const QList<PriorityList> &before,
-                                               const QList<PriorityList> &after) const
+CommandStatus ListCommands::FailToWrite(const QList<PriorityList> &before,
+                                        const QList<PriorityList> &after) const
 {
     const char *const problem = ListEntries::IsSame(before, after)
                                     ? "%1 can't be written; the list is as it was"
                                     : "%1 can't be written";
-    return Fail(NotWritten, QString::fromLatin1(problem).arg(m_file));
+    return CommandAnswer::Fail(CommandNotWritten, QString::fromLatin1(problem).arg(m_file));
 }

@@ -84,14 +84,14 @@ void ArgumentsTest::CommandsAreTakenInOrder()
     QCOMPARE(arguments.action, Arguments::Run);
     QCOMPARE(arguments.pluginLibraryPath, QString("x"));
     QCOMPARE(static_cast<int>(arguments.commands.size()), 4);
-    QCOMPARE(arguments.commands.at(0).kind, ListCommand::List);
-    QCOMPARE(arguments.commands.at(1).kind, ListCommand::Add);
+    QCOMPARE(arguments.commands.at(0).kind, Command::List);
+    QCOMPARE(arguments.commands.at(1).kind, Command::Add);
     QCOMPARE(arguments.commands.at(1).entry.name, QString("Home"));
     QCOMPARE(arguments.commands.at(1).entry.type, QString("1"));
-    QCOMPARE(arguments.commands.at(2).kind, ListCommand::AddTop);
+    QCOMPARE(arguments.commands.at(2).kind, Command::AddTop);
     QCOMPARE(arguments.commands.at(2).entry.name, QString("Phone"));
     QCOMPARE(arguments.commands.at(2).entry.type, QString("2"));
-    QCOMPARE(arguments.commands.at(3).kind, ListCommand::Check);
+    QCOMPARE(arguments.commands.at(3).kind, Command::Check);
 }
 
 void ArgumentsTest::NothingIsDoneWhenSomethingIsRefused()

@@ -1,0 +1,83 @@
+#include "Commands.h"
+
+#include "ConnectionCommands.h"
+#include "ListCommands.h"
+
+#include <HostControl.h>
+#include <PluginHost.h>
+#include <PluginList.h>
+#include <UserData.h>
+
+namespace
+{
+
+/** The plug-ins but for the one that keeps the list. */
+QList<KnownPlugin> WithoutTheList(const QList<KnownPlugin> &known)
+{
+    QList<KnownPlugin> others;
+    for (const KnownPlugin &plugin : known) {
+        if (!plugin.hasSettingsPage) {
+            others.append(plugin);
+        }
+    }
+    return others;
+}
+
+/** Why no Wi-Fi plug-in can be asked; null when one can. */
+QString ProblemOf(const PluginHost &plugins)
+{
+    for (const PluginHost::Plugin &plugin : plugins.Plugins()) {
+        if (plugins.IsMissed(plugin)) {
+            return PluginHost::ProblemText(plugin);
+        }
+    }
+    return QString();
+}
+
+} // namespace
+
+CommandStatus Commands::Run(const Arguments &arguments, const QString &libraryPath)
+{
+    const QString listPath = UserData::FilePath(QLatin1String("Priority.xml"));
+    if (listPath.isEmpty()) {
+        return CommandAnswer::Fail(CommandFileNotOpened,
+                                   QLatin1String("there is no directory for your data and none can be made"));
+    }
+    PluginHost priority(libraryPath, QList<KnownPlugin>() << PluginHost::PriorityPlugin());
+    priority.Load();
+    if (priority.Plugins().at(0).state != PluginReady) {
+        return CommandAnswer::Fail(CommandNoPlugin, PluginHost::ProblemText(priority.Plugins().at(0)));
+    }
+    // Each in a container of its own: a Wi-Fi plug-in that can reach the list rules by it, and these commands
+    // do what they are told and no more.
+    PluginHost networks(libraryPath, WithoutTheList(PluginHost::KnownPlugins(arguments.ChosenWlan())));
+    QString problem;
+    const ListCommands lists(listPath, arguments.isJson);
+    const QList<Command> &commands = arguments.commands;
+    CommandStatus status = CommandDone;
+    for (int i = 0; i < commands.size() && status == CommandDone;) {
+        HostControl::SetPluginContainer(&priority);
+        QList<Command> ofList;
+        while (i < commands.size() && !commands.at(i).IsOfConnections()) {
+            ofList.append(commands.at(i));
+            ++i;
+        }
+        if (!ofList.isEmpty()) {
+            status = lists.Run(ofList);
+            continue;
+        }
+        const ListReading list = PluginList().Read();
+        if (networks.Plugins().constFirst().state == PluginNotLoaded) {
+            networks.Load();
+            problem = ProblemOf(networks);
+        }
+        HostControl::SetPluginContainer(&networks);
+        const Command command = commands.at(i);
+        ++i;
+        status = ConnectionCommands(arguments.isJson, arguments.WaitSeconds(), problem).Run(command, list);
+        if (status == CommandDone && command.kind == Command::Status) {
+            status = lists.FailToRead(list.status);
+        }
+    }
+    return status;
+}

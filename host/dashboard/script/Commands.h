@@ -1,0 +1,19 @@
+#ifndef COMMANDS_H
+#define COMMANDS_H
+
+#include "Arguments.h"
+#include "CommandAnswer.h"
+
+/** Does what the command line asks for in the place of a window. */
+namespace Commands
+{
+
+/**
+ * One command after the other; the first that fails is the last. No command of another process comes between
+ * those that follow each other and are about the list.
+ */
+CommandStatus Run(const Arguments &arguments, const QString &libraryPath);
+
+} // namespace Commands
+
+#endif

@@ -1,0 +1,289 @@
+#include "ConnectionCommands.h"
+
+#include <IConnectionPlugin.h>
+#include <OneLine.h>
+#include <Overview.h>
+#include <PluginObjects.h>
+
+#include <QEventLoop>
+#include <QJsonArray>
+#include <QTimer>
+
+#include <functional>
+
+namespace
+{
+
+// A connection manager that is busy may take its time to tell how things stand.
+const int answerMilliseconds = 10000;
+
+struct Word {
+    int value;
+    const char *word;
+};
+
+const Word failures[] = {
+    {FailureWrongKey, "the key was refused"},
+    {FailureKeyMissing, "a key is missing"},
+    {FailureNoAnswer, "it did not answer"},
+    {FailureNoAddress, "it gave no address"},
+    {FailureRefused, "it did not let this computer in"},
+    {FailureSim, "the SIM card does not work"},
+    {FailureStopped, "it was ended by hand or for another one"},
+    {FailureDevice, "its adapter or modem is not available"},
+    {FailureNotAllowed, "you may not do that, or only with a password"},
+    {FailureSource, "the connection manager does not answer any more"},
+};
+
+QString FailureText(int failure)
+{
+    for (const Word &known : failures) {
+        if (known.value == failure) {
+            return QLatin1String(known.word);
+        }
+    }
+    return QLatin1String("the connection manager gives no reason");
+}
+
+/** What scripts are told of a stage; null for one that is not known. */
+const char *StageWord(int stage)
+{
+    return Connections::IsComingUp(stage) ? "activating"
+           : stage == StageConnected      ? "activated"
+           : stage == StageDisconnecting  ? "deactivating"
+                                          : nullptr;
+}
+
+/** Waits until it is so, which changes can only make so that the plug-in tells; false when the time runs out.
+ */
+bool Await(const std::function<bool()> &isSo, const QDeadlineTimer &deadline)
+{
+    bool isItSo = isSo();
+    while (!isItSo && !deadline.hasExpired() && PluginObjects::ConnectionService()) {
+        QEventLoop loop;
+        QObject::connect(PluginObjects::ConnectionService(), SIGNAL(OnConnectionsChanged()), &loop,
+                         SLOT(quit()));
+        QTimer::singleShot(static_cast<int>(deadline.remainingTime()), &loop, SLOT(quit()));
+        loop.exec();
+        isItSo = isSo();
+    }
+    return isItSo;
+}
+
+ConnectionState StateNow()
+{
+    ConnectionState state;
+    if (IConnectionPlugin *plugin = PluginObjects::Connecting()) {
+        plugin->GetConnectionState(&state);
+    }
+    return state;
+}
+
+PriorityList EntryOf(const ActiveConnection &connection)
+{
+    PriorityList entry;
+    entry.name = connection.name;
+    entry.type = connection.type;
+    return entry;
+}
+
+QString Quoted(const QString &name)
+{
+    return QLatin1Char('"') + name + QLatin1Char('"');
+}
+
+CommandStatus FailRefused(int refusal, const QString &name)
+{
+    switch (refusal) {
+    case IConnectionPlugin::RefusedUnknown:
+        return CommandAnswer::Fail(
+            CommandNothingThere,
+            QString::fromLatin1("nothing called %1 is saved or in range").arg(Quoted(name)));
+    case IConnectionPlugin::RefusedKey:
+        return CommandAnswer::Fail(CommandNothingThere,
+                                   QString::fromLatin1("%1 needs a key; set it up first").arg(Quoted(name)));
+    case IConnectionPlugin::RefusedAccount:
+        return CommandAnswer::Fail(
+            CommandNothingThere,
+            QString::fromLatin1("%1 needs an account; set it up first").arg(Quoted(name)));
+    case IConnectionPlugin::RefusedSource:
+        return CommandAnswer::Fail(CommandNoSource, FailureText(FailureSource));
+    case IConnectionPlugin::RefusedNotAllowed:
+        return CommandAnswer::Fail(CommandNotConnected, FailureText(FailureNotAllowed));
+    default:
+        return CommandAnswer::Fail(CommandNotConnected, FailureText(FailureOther));
+    }
+}
+
+/** Waits until the order has come to its end. */
+CommandStatus Follow(int order, const QString &name, int goal, const QDeadlineTimer &deadline)
+{
+    if (order <= 0) {
+        return FailRefused(order, name);
+    }
+    ConnectAttempt attempt;
+    const bool isOver = Await(
+        [order, &attempt] {
+            if (IConnectionPlugin *plugin = PluginObjects::Connecting()) {
+                plugin->GetAttempt(order, &attempt);
+            }
+            return !Connections::IsComingUp(attempt.stage) && attempt.stage != StageDisconnecting;
+        },
+        deadline);
+    const char *const what = goal == StageConnected ? "%1 was not connected: %2" : "%1 was not ended: %2";
+    const QString problem = QLatin1String(what);
+    if (!isOver) {
+        return CommandAnswer::Fail(
+            CommandNotConnected,
+            problem.arg(Quoted(name), QLatin1String("it takes longer than --wait allows, and goes on")));
+    }
+    if (attempt.stage != goal) {
+        return CommandAnswer::Fail(CommandNotConnected,
+                                   problem.arg(Quoted(name), FailureText(attempt.failure)));
+    }
+    if (attempt.failure == FailureNotStored) {
+        CommandAnswer::Fail(CommandDone,
+                            QString::fromLatin1("%1 is connected, but could not be saved").arg(Quoted(name)));
+    }
+    return CommandDone;
+}
+
+/** The network in range of that name; null when there is none. */
+const VisibleNetwork *InRange(const PriorityList &entry, const QList<VisibleNetwork> &networks)
+{
+    const VisibleNetwork *found = nullptr;
+    for (const VisibleNetwork &network : networks) {
+        if (entry.type != QLatin1String("1") || network.name != entry.name) {
+            continue;
+        }
+        // An open network may be a stranger's that bears the name of one with a key.
+        const bool isSafer =
+            found && found->profileIds.isEmpty() &&
+            (!network.profileIds.isEmpty() || network.protection != VisibleNetwork::ProtectionOpen);
+        if (!found || isSafer) {
+            found = &network;
+        }
+    }
+    return found;
+}
+
+QJsonValue JsonOrNull(const PriorityList *entry)
+{
+    return entry ? QJsonValue(CommandAnswer::Json(*entry)) : QJsonValue();
+}
+
+QString FieldsOrDash(const PriorityList *entry)
+{
+    return entry ? CommandAnswer::Fields(*entry) : QString(QLatin1Char('-'));
+}
+
+} // namespace
+
+ConnectionCommands::ConnectionCommands(bool isJson, int waitSeconds, const QString &problem)
+    : m_isJson(isJson), m_waitSeconds(waitSeconds), m_problem(problem)
+{
+}
+
+/** Why nothing is known of connections; null when it is. */
+QString ConnectionCommands::SourceProblem() const
+{
+    if (!PluginObjects::Connecting()) {
+        return m_problem.isNull() ? QLatin1String("the Wi-Fi plug-in tells nothing of connections")
+                                  : m_problem;
+    }
+    Await([] { return StateNow().source != ConnectionState::SourceNotKnown; },
+          QDeadlineTimer(answerMilliseconds));
+    switch (StateNow().source) {
+    case ConnectionState::SourceKnown:
+        return QString();
+    case ConnectionState::SourceGone:
+        return QLatin1String("the connection manager is not running");
+    default:
+        return QLatin1String("the connection manager does not answer");
+    }
+}
+
+CommandStatus ConnectionCommands::Run(const Command &command, const ListReading &list) const
+{
+    const QDeadlineTimer deadline(static_cast<qint64>(m_waitSeconds) * 1000);
+    const QString problem = SourceProblem();
+    if (!problem.isNull()) {
+        const QLatin1String none("none");
+        const CommandStatus printed =
+            command.kind != Command::Status ? CommandDone
+            : m_isJson ? CommandAnswer::Print(QJsonObject{{QLatin1String("source"), none}})
+                       : CommandAnswer::Print(CommandAnswer::Line(QLatin1String("source"), none));
+        return printed == CommandDone ? CommandAnswer::Fail(CommandNoSource, problem) : printed;
+    }
+    switch (command.kind) {
+    case Command::Connect:
+        return Connect(command.entry, deadline);
+    case Command::Disconnect:
+        return Disconnect(deadline);
+    default:
+        return Tell(list);
+    }
+}
+
+CommandStatus ConnectionCommands::Tell(const ListReading &list) const
+{
+    const Overview overview = Overview::Of(list);
+    const Connections &told = overview.connections;
+    const PriorityList inUse = told.InUse() ? EntryOf(*told.InUse()) : PriorityList();
+    const PriorityList *const traffic = told.InUse() ? &inUse : nullptr;
+    const PriorityList *const choice = overview.Choice() ? &overview.Choice()->entry : nullptr;
+    QString lines = CommandAnswer::Line(QLatin1String("source"), OneLine::Escaped(told.state.sourceName));
+    QJsonArray active;
+    for (const ActiveConnection &connection : told.active) {
+        const char *const stage = StageWord(connection.stage);
+        if (!stage) {
+            continue;
+        }
+        const PriorityList entry = EntryOf(connection);
+        QJsonObject object = CommandAnswer::Json(entry);
+        object.insert(QLatin1String("state"), QLatin1String(stage));
+        active.append(object);
+        lines += CommandAnswer::Line(QLatin1String("active"),
+                                     CommandAnswer::Fields(entry) + QLatin1Char('\t') + QLatin1String(stage));
+    }
+    lines += CommandAnswer::Line(QLatin1String("traffic"), FieldsOrDash(traffic)) +
+             CommandAnswer::Line(QLatin1String("choice"), FieldsOrDash(choice));
+    return m_isJson ? CommandAnswer::Print(QJsonObject{{QLatin1String("source"), told.state.sourceName},
+                                                       {QLatin1String("active"), active},
+                                                       {QLatin1String("traffic"), JsonOrNull(traffic)},
+                                                       {QLatin1String("choice"), JsonOrNull(choice)}})
+                    : CommandAnswer::Print(lines);
+}
+
+CommandStatus ConnectionCommands::Connect(const PriorityList &entry, const QDeadlineTimer &deadline) const
+{
+    ListReading asked;
+    asked.entries.append(entry);
+    const Overview overview = Overview::Of(asked);
+    const Overview::Entry &known = overview.entries.first();
+    if (known.stage == StageConnected) {
+        return CommandDone;
+    }
+    IConnectionPlugin *plugin = PluginObjects::Connecting();
+    const VisibleNetwork *network = InRange(entry, overview.connections.networks);
+    const int order = !known.profile.id.isEmpty() ? plugin->ConnectProfile(known.profile.id)
+                      : network                   ? plugin->ConnectNetwork(network->id, QString())
+                                                  : int(IConnectionPlugin::RefusedUnknown);
+    return Follow(order, entry.name, StageConnected, deadline);
+}
+
+CommandStatus ConnectionCommands::Disconnect(const QDeadlineTimer &deadline) const
+{
+    const Connections told = Connections::Read();
+    const ActiveConnection *const inUse = told.InUse();
+    if (!inUse) {
+        return CommandAnswer::Fail(CommandNothingThere, QLatin1String("nothing is connected"));
+    }
+    if (inUse->type != QLatin1String("1") && inUse->type != QLatin1String("2")) {
+        return CommandAnswer::Fail(
+            CommandNothingThere,
+            QString::fromLatin1("%1 is neither Wi-Fi nor mobile broadband").arg(Quoted(inUse->name)));
+    }
+    return Follow(PluginObjects::Connecting()->Disconnect(inUse->id), inUse->name, StageDisconnected,
+                  deadline);
+}

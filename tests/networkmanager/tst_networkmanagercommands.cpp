@@ -1,0 +1,126 @@
+#include "FakeNetworkManager.h"
+#include "PrivateBus.h"
+
+#include <DashboardProcess.h>
+#include <TemporaryDirectory.h>
+
+#include <QDir>
+#include <QtTest>
+
+namespace
+{
+
+// As NetworkManager's interface has them.
+const unsigned int activated = 2;
+
+} // namespace
+
+/** The program's commands over a fake NetworkManager. */
+class tst_networkmanagercommands : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+
+    void StatusTellsWhatNetworkManagerTells();
+    void ConnectWaitsUntilItIsUp();
+    void CommandsDoNotRuleByTheList();
+    void NetworkManagerThatIsNotThereIsTold();
+
+private:
+    QStringList Environment() const { return QStringList("XDG_DATA_HOME=" + m_directory->Path()); }
+    QString AddProfile(const QString &name, const QByteArray &ssid);
+
+    PrivateBus m_bus;
+    QScopedPointer<TemporaryDirectory> m_directory;
+    QScopedPointer<FakeNetworkManager> m_fake;
+};
+
+void tst_networkmanagercommands::initTestCase()
+{
+    QVERIFY2(m_bus.Start(), qPrintable(m_bus.WhyNot()));
+}
+
+void tst_networkmanagercommands::init()
+{
+    m_directory.reset(new TemporaryDirectory);
+    QVERIFY(QDir().mkpath(m_directory->FilePath("priority-dashboard")));
+    m_directory->Write("priority-dashboard/Priority.xml",
+                       "<zeltdoc><profile><item name=\"Office\" type=\"1\"/><item name=\"Home\" type=\"1\"/>"
+                       "<item name=\"Coffee\" type=\"1\"/></profile></zeltdoc>");
+    m_fake.reset();
+    m_fake.reset(new FakeNetworkManager);
+}
+
+QString tst_networkmanagercommands::AddProfile(const QString &name, const QByteArray &ssid)
+{
+    NMVariantMapMap settings = FakeNetworkManager::Settings(name);
+    settings["802-11-wireless"]["ssid"] = ssid;
+    return m_fake->AddProfile(settings);
+}
+
+void tst_networkmanagercommands::StatusTellsWhatNetworkManagerTells()
+{
+    const QString device = m_fake->AddDevice();
+    m_fake->AddAccessPoint("HomeNet", 90);
+    m_fake->AddAccessPoint("CoffeeNet", 40);
+    AddProfile("Home", "HomeNet");
+    const QString coffee = AddProfile("Coffee", "CoffeeNet");
+    AddProfile("Office", "OfficeNet");
+    QVERIFY(m_fake->Appear());
+    const QString connection = m_fake->Connect(coffee, activated, device);
+    m_fake->SetManagerProperty("PrimaryConnection", QVariant::fromValue(QDBusObjectPath(connection)));
+    const Outcome outcome = RunDashboard(QStringList("--status"), Environment());
+    QCOMPARE(outcome.err, QString());
+    QCOMPARE(outcome.out, QString("source\tnetworkmanager\nactive\t1\tCoffee\tactivated\n"
+                                  "traffic\t1\tCoffee\nchoice\t1\tHome\n"));
+    QCOMPARE(outcome.status, 0);
+}
+
+void tst_networkmanagercommands::ConnectWaitsUntilItIsUp()
+{
+    m_fake->AddDevice();
+    m_fake->AddAccessPoint("HomeNet", 90);
+    AddProfile("Home", "HomeNet");
+    QVERIFY(m_fake->Appear());
+    QProcess process;
+    ChangeEnvironment(&process, Environment());
+    process.start(BUILD_DIRECTORY "/bin/priority-dashboard", {"--connect", "Home"});
+    QTRY_COMPARE_WITH_TIMEOUT(m_fake->ConnectionPaths().size(), 1, 30000);
+    QVERIFY(!process.waitForFinished(500));
+    m_fake->SetConnectionState(m_fake->ConnectionPaths().constFirst(), activated);
+    const Outcome outcome = OutcomeOf(&process);
+    QCOMPARE(outcome.err, QString());
+    QCOMPARE(outcome.status, 0);
+}
+
+/** While the plug-in is loaded it could bring the order of the list to NetworkManager; nobody has asked it
+ * to. */
+void tst_networkmanagercommands::CommandsDoNotRuleByTheList()
+{
+    m_fake->AddDevice();
+    m_fake->AddAccessPoint("HomeNet", 90);
+    const QString home = AddProfile("Home", "HomeNet");
+    const QString coffee = AddProfile("Coffee", "CoffeeNet");
+    m_fake->DoNotAnswer("ActivateConnection");
+    QVERIFY(m_fake->Appear());
+    const Outcome outcome = RunDashboard({"--wait=2", "--status", "--connect=Home"}, Environment());
+    QCOMPARE(outcome.status, 13);
+    QVERIFY2(outcome.err.contains("\"Home\" was not connected"), qPrintable(outcome.err));
+    QCOMPARE(m_fake->PriorityOf(home), 0);
+    QCOMPARE(m_fake->PriorityOf(coffee), 0);
+    QVERIFY(!QFile::exists(m_directory->FilePath("priority-dashboard/NetworkManager.ini")));
+}
+
+void tst_networkmanagercommands::NetworkManagerThatIsNotThereIsTold()
+{
+    const Outcome outcome = RunDashboard({"--wlan=networkmanager", "--status"}, Environment());
+    QCOMPARE(outcome.out, QString("source\tnone\n"));
+    QCOMPARE(outcome.status, 11);
+    QVERIFY2(outcome.err.count('\n') == 1, qPrintable(outcome.err));
+}
+
+QTEST_GUILESS_MAIN(tst_networkmanagercommands)
+#include "tst_networkmanagercommands.moc"
