@@ -12,7 +12,9 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
+#include <QStandardPaths>
 
 #include <clocale>
 #include <cstdio>
@@ -57,6 +59,13 @@ void FollowScreenScale()
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
 #endif
+}
+
+/** Nothing of the user's is touched while somebody tries the program. */
+void UseDemoDirectory()
+{
+    const QString dataHome = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    qputenv("XDG_DATA_HOME", QFile::encodeName(dataHome + QLatin1String("/priority-dashboard-demo")));
 }
 
 /** Whether there is a file for the language at all, useful or not. */
@@ -117,7 +126,7 @@ int RunWindow(const Arguments &arguments, TraceLog *log)
     plugins.Load();
     const QList<PluginHost::Plugin> loaded = plugins.Plugins();
     for (int i = 0; i < loaded.size(); ++i) {
-        if (plugins.IsMissed(loaded.at(i))) {
+        if (loaded.at(i).state != PluginReady) {
             TraceLog::Warn(PluginHost::ProblemText(loaded.at(i)));
         }
     }
@@ -147,6 +156,9 @@ int main(int argc, char **argv)
         break;
     }
 
+    if (arguments.isDemo) {
+        UseDemoDirectory();
+    }
     const bool isForScripts = !arguments.commands.isEmpty();
     // Whatever a desktop has set: scripts run where its display is out of reach.
     if (isForScripts) {

@@ -296,10 +296,6 @@
         <translation>غير متوفرة</translation>
     </message>
     <message>
-        <source>IDS_GENERAL_PLUGIN_NOT_NEEDED</source>
-        <translation>غير لازمة</translation>
-    </message>
-    <message>
         <source>IDS_GENERAL_PLACES</source>
         <translation>حول هذا البرنامج</translation>
     </message>
@@ -761,20 +757,12 @@
         <translation>لا يحوي ملف اللغة &#x202a;%1&#x202c; نصوصًا صالحة، لذلك لا يُستخدم.</translation>
     </message>
     <message>
-        <source>IDS_HINT_NETWORKMANAGER</source>
-        <translation>هل يعمل &#x202a;NetworkManager&#x202c;؟</translation>
-    </message>
-    <message>
         <source>IDS_NOTE_NETWORKMANAGER</source>
         <translation>هذه شبكات هذا الحاسوب. يجرّبها &#x202a;NetworkManager&#x202c; بترتيب هذه القائمة.</translation>
     </message>
     <message>
         <source>IDS_NOTE_STORED</source>
         <translation>هذه شبكات للتجربة. لا تتغيّر شبكات هذا الحاسوب.</translation>
-    </message>
-    <message>
-        <source>IDS_NOTE_STORED_STANDS_IN</source>
-        <translation>لا يتوفر &#x202a;NetworkManager&#x202c;، لذلك هذه شبكات للتجربة. لا تتغيّر شبكات هذا الحاسوب.</translation>
     </message>
     <message>
         <source>IDS_MENU_EDIT</source>

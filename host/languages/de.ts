@@ -296,10 +296,6 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
         <translation>nicht verfügbar</translation>
     </message>
     <message>
-        <source>IDS_GENERAL_PLUGIN_NOT_NEEDED</source>
-        <translation>nicht benötigt</translation>
-    </message>
-    <message>
         <source>IDS_GENERAL_PLACES</source>
         <translation>Über dieses Programm</translation>
     </message>
@@ -761,10 +757,6 @@ Erwartet: %3</translation>
         <translation>Die Sprachdatei %1 enthält keine brauchbaren Texte und wird daher nicht verwendet.</translation>
     </message>
     <message>
-        <source>IDS_HINT_NETWORKMANAGER</source>
-        <translation>Läuft NetworkManager?</translation>
-    </message>
-    <message>
         <source>IDS_NOTE_NETWORKMANAGER</source>
         <extracomment>At the foot of the main window; two lines of 450 pixels at most</extracomment>
         <translation>Das sind die Netzwerke dieses Computers. NetworkManager probiert sie in der Reihenfolge dieser Liste.</translation>
@@ -772,10 +764,6 @@ Erwartet: %3</translation>
     <message>
         <source>IDS_NOTE_STORED</source>
         <translation>Das sind Übungsnetzwerke. Die Netzwerke dieses Computers werden nicht verändert.</translation>
-    </message>
-    <message>
-        <source>IDS_NOTE_STORED_STANDS_IN</source>
-        <translation>NetworkManager ist nicht verfügbar, daher sind das Übungsnetzwerke. Die dieses Computers werden nicht verändert.</translation>
     </message>
     <message>
         <source>IDS_MENU_EDIT</source>

@@ -322,10 +322,6 @@ You can use letters, digits and these symbols:
         <translation>not available</translation>
     </message>
     <message>
-        <source>IDS_GENERAL_PLUGIN_NOT_NEEDED</source>
-        <translation>not needed</translation>
-    </message>
-    <message>
         <source>IDS_GENERAL_PLACES</source>
         <translation>About this program</translation>
     </message>
@@ -799,10 +795,6 @@ Expected: %3</translation>
         <translation>The language file %1 has no texts that can be used, so it is not used.</translation>
     </message>
     <message>
-        <source>IDS_HINT_NETWORKMANAGER</source>
-        <translation>Is NetworkManager running?</translation>
-    </message>
-    <message>
         <source>IDS_NOTE_NETWORKMANAGER</source>
         <extracomment>At the foot of the main window; two lines of 450 pixels at most</extracomment>
         <translation>These are this computer’s networks. NetworkManager tries them in the order of this list.</translation>
@@ -810,10 +802,6 @@ Expected: %3</translation>
     <message>
         <source>IDS_NOTE_STORED</source>
         <translation>These are practice networks. This computer’s networks are not changed.</translation>
-    </message>
-    <message>
-        <source>IDS_NOTE_STORED_STANDS_IN</source>
-        <translation>NetworkManager is not available, so these are practice networks. This computer’s networks are not changed.</translation>
     </message>
     <message>
         <source>IDS_MENU_EDIT</source>

@@ -296,10 +296,6 @@ Puede usar letras, números y estos símbolos:
         <translation>no disponible</translation>
     </message>
     <message>
-        <source>IDS_GENERAL_PLUGIN_NOT_NEEDED</source>
-        <translation>no necesario</translation>
-    </message>
-    <message>
         <source>IDS_GENERAL_PLACES</source>
         <translation>Acerca de este programa</translation>
     </message>
@@ -761,10 +757,6 @@ Esperado: %3</translation>
         <translation>El archivo de idioma %1 no contiene textos utilizables, así que no se usa.</translation>
     </message>
     <message>
-        <source>IDS_HINT_NETWORKMANAGER</source>
-        <translation>¿Se está ejecutando NetworkManager?</translation>
-    </message>
-    <message>
         <source>IDS_NOTE_NETWORKMANAGER</source>
         <extracomment>At the foot of the main window; two lines of 450 pixels at most</extracomment>
         <translation>Estas son las redes de este equipo. NetworkManager las prueba en el orden de esta lista.</translation>
@@ -772,10 +764,6 @@ Esperado: %3</translation>
     <message>
         <source>IDS_NOTE_STORED</source>
         <translation>Estas son redes de prueba. Las redes de este equipo no se modifican.</translation>
-    </message>
-    <message>
-        <source>IDS_NOTE_STORED_STANDS_IN</source>
-        <translation>NetworkManager no está disponible, así que estas son redes de prueba. Las redes de este equipo no se modifican.</translation>
     </message>
     <message>
         <source>IDS_MENU_EDIT</source>

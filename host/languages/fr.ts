@@ -296,10 +296,6 @@ Vous pouvez utiliser des lettres, des chiffres et les symboles suivants&#xa0;:
         <translation>non disponible</translation>
     </message>
     <message>
-        <source>IDS_GENERAL_PLUGIN_NOT_NEEDED</source>
-        <translation>non nécessaire</translation>
-    </message>
-    <message>
         <source>IDS_GENERAL_PLACES</source>
         <translation>À propos de ce programme</translation>
     </message>
@@ -761,10 +757,6 @@ Attendu&#xa0;: %3</translation>
         <translation>Le fichier de langue %1 ne contient aucun texte utilisable&#x202f;; il n’est donc pas utilisé.</translation>
     </message>
     <message>
-        <source>IDS_HINT_NETWORKMANAGER</source>
-        <translation>NetworkManager est-il en cours d’exécution&#x202f;?</translation>
-    </message>
-    <message>
         <source>IDS_NOTE_NETWORKMANAGER</source>
         <extracomment>At the foot of the main window; two lines of 450 pixels at most</extracomment>
         <translation>Ce sont les réseaux de cet ordinateur. NetworkManager les essaie dans l’ordre de cette liste.</translation>
@@ -772,10 +764,6 @@ Attendu&#xa0;: %3</translation>
     <message>
         <source>IDS_NOTE_STORED</source>
         <translation>Ce sont des réseaux d’essai. Les réseaux de cet ordinateur ne sont pas modifiés.</translation>
-    </message>
-    <message>
-        <source>IDS_NOTE_STORED_STANDS_IN</source>
-        <translation>NetworkManager n’est pas disponible&#x202f;; ce sont donc des réseaux d’essai. Les réseaux de cet ordinateur ne sont pas modifiés.</translation>
     </message>
     <message>
         <source>IDS_MENU_EDIT</source>

@@ -296,10 +296,6 @@
         <translation>לא זמין</translation>
     </message>
     <message>
-        <source>IDS_GENERAL_PLUGIN_NOT_NEEDED</source>
-        <translation>לא נדרש</translation>
-    </message>
-    <message>
         <source>IDS_GENERAL_PLACES</source>
         <translation>אודות התוכנה</translation>
     </message>
@@ -761,20 +757,12 @@
         <translation>קובץ השפה &#x202a;%1&#x202c; אינו מכיל טקסטים שמישים, ולכן אינו בשימוש.</translation>
     </message>
     <message>
-        <source>IDS_HINT_NETWORKMANAGER</source>
-        <translation>האם &#x202a;NetworkManager&#x202c; פועל?</translation>
-    </message>
-    <message>
         <source>IDS_NOTE_NETWORKMANAGER</source>
         <translation>אלה הרשתות של המחשב הזה. &#x202a;NetworkManager&#x202c; מנסה אותן לפי הסדר ברשימה הזו.</translation>
     </message>
     <message>
         <source>IDS_NOTE_STORED</source>
         <translation>אלה רשתות לתרגול. הרשתות של המחשב הזה אינן משתנות.</translation>
-    </message>
-    <message>
-        <source>IDS_NOTE_STORED_STANDS_IN</source>
-        <translation>התוכנה &#x202a;NetworkManager&#x202c; אינה זמינה, ולכן אלה רשתות לתרגול. הרשתות של המחשב הזה אינן משתנות.</translation>
     </message>
     <message>
         <source>IDS_MENU_EDIT</source>

@@ -296,10 +296,6 @@
         <translation>利用不可</translation>
     </message>
     <message>
-        <source>IDS_GENERAL_PLUGIN_NOT_NEEDED</source>
-        <translation>不要</translation>
-    </message>
-    <message>
         <source>IDS_GENERAL_PLACES</source>
         <translation>このプログラムについて</translation>
     </message>
@@ -761,10 +757,6 @@
         <translation>言語ファイル %1 には使用できるテキストがないため、使用されません。</translation>
     </message>
     <message>
-        <source>IDS_HINT_NETWORKMANAGER</source>
-        <translation>NetworkManager は動作していますか？</translation>
-    </message>
-    <message>
         <source>IDS_NOTE_NETWORKMANAGER</source>
         <extracomment>At the foot of the main window; two lines of 450 pixels at most</extracomment>
         <translation>このコンピューターのネットワークです。NetworkManager がこのリストの順に接続を試みます。</translation>
@@ -772,10 +764,6 @@
     <message>
         <source>IDS_NOTE_STORED</source>
         <translation>これは練習用ネットワークです。このコンピューターのネットワークは変更されません。</translation>
-    </message>
-    <message>
-        <source>IDS_NOTE_STORED_STANDS_IN</source>
-        <translation>NetworkManager を利用できないため、これは練習用ネットワークです。このコンピューターのネットワークは変更されません。</translation>
     </message>
     <message>
         <source>IDS_MENU_EDIT</source>

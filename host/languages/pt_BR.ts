@@ -296,10 +296,6 @@ Você pode usar letras, números e estes símbolos:
         <translation>não disponível</translation>
     </message>
     <message>
-        <source>IDS_GENERAL_PLUGIN_NOT_NEEDED</source>
-        <translation>não necessário</translation>
-    </message>
-    <message>
         <source>IDS_GENERAL_PLACES</source>
         <translation>Sobre este programa</translation>
     </message>
@@ -761,10 +757,6 @@ Esperado: %3</translation>
         <translation>O arquivo de idioma %1 não contém textos utilizáveis, portanto não é usado.</translation>
     </message>
     <message>
-        <source>IDS_HINT_NETWORKMANAGER</source>
-        <translation>O NetworkManager está em execução?</translation>
-    </message>
-    <message>
         <source>IDS_NOTE_NETWORKMANAGER</source>
         <extracomment>At the foot of the main window; two lines of 450 pixels at most</extracomment>
         <translation>Estas são as redes deste computador. O NetworkManager as experimenta na ordem desta lista.</translation>
@@ -772,10 +764,6 @@ Esperado: %3</translation>
     <message>
         <source>IDS_NOTE_STORED</source>
         <translation>Estas são redes de teste. As redes deste computador não são alteradas.</translation>
-    </message>
-    <message>
-        <source>IDS_NOTE_STORED_STANDS_IN</source>
-        <translation>O NetworkManager não está disponível, portanto estas são redes de teste. As redes deste computador não são alteradas.</translation>
     </message>
     <message>
         <source>IDS_MENU_EDIT</source>

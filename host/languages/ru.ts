@@ -296,10 +296,6 @@
         <translation>недоступен</translation>
     </message>
     <message>
-        <source>IDS_GENERAL_PLUGIN_NOT_NEEDED</source>
-        <translation>не нужен</translation>
-    </message>
-    <message>
         <source>IDS_GENERAL_PLACES</source>
         <translation>О программе</translation>
     </message>
@@ -761,10 +757,6 @@
         <translation>В языковом файле %1 нет пригодных текстов, поэтому он не используется.</translation>
     </message>
     <message>
-        <source>IDS_HINT_NETWORKMANAGER</source>
-        <translation>Запущен ли NetworkManager?</translation>
-    </message>
-    <message>
         <source>IDS_NOTE_NETWORKMANAGER</source>
         <extracomment>At the foot of the main window; two lines of 450 pixels at most</extracomment>
         <translation>Это сети этого компьютера. NetworkManager пробует их в порядке этого списка.</translation>
@@ -772,10 +764,6 @@
     <message>
         <source>IDS_NOTE_STORED</source>
         <translation>Это учебные сети. Сети этого компьютера не изменяются.</translation>
-    </message>
-    <message>
-        <source>IDS_NOTE_STORED_STANDS_IN</source>
-        <translation>NetworkManager недоступен, поэтому это учебные сети. Сети этого компьютера не изменяются.</translation>
     </message>
     <message>
         <source>IDS_MENU_EDIT</source>

@@ -296,10 +296,6 @@
         <translation>不可用</translation>
     </message>
     <message>
-        <source>IDS_GENERAL_PLUGIN_NOT_NEEDED</source>
-        <translation>不需要</translation>
-    </message>
-    <message>
         <source>IDS_GENERAL_PLACES</source>
         <translation>关于本程序</translation>
     </message>
@@ -761,10 +757,6 @@
         <translation>语言文件 %1 中没有可用的文本，因此未被使用。</translation>
     </message>
     <message>
-        <source>IDS_HINT_NETWORKMANAGER</source>
-        <translation>NetworkManager 是否正在运行？</translation>
-    </message>
-    <message>
         <source>IDS_NOTE_NETWORKMANAGER</source>
         <extracomment>At the foot of the main window; two lines of 450 pixels at most</extracomment>
         <translation>这些是此计算机的网络。NetworkManager 按此列表的顺序尝试连接它们。</translation>
@@ -772,10 +764,6 @@
     <message>
         <source>IDS_NOTE_STORED</source>
         <translation>这些是练习用网络。此计算机的网络保持不变。</translation>
-    </message>
-    <message>
-        <source>IDS_NOTE_STORED_STANDS_IN</source>
-        <translation>NetworkManager 不可用，因此这些是练习用网络。此计算机的网络保持不变。</translation>
     </message>
     <message>
         <source>IDS_MENU_EDIT</source>

@@ -120,7 +120,7 @@ void TourProgram::Open()
     m_plugins->Load();
     const QList<PluginHost::Plugin> plugins = m_plugins->Plugins();
     for (const PluginHost::Plugin &plugin : plugins) {
-        if (m_plugins->IsMissed(plugin)) {
+        if (plugin.state != PluginReady) {
             TraceLog::Warn(PluginHost::ProblemText(plugin));
         }
     }

@@ -112,13 +112,11 @@ void UseDesktopFont()
     QApplication::setFont(font);
 }
 
-/** @param folders  of the plug-in over NetworkManager and of its stand-in */
-QList<KnownPlugin> KnownAutomatic(const char *folders)
+/** @param folder  of the plug-in over NetworkManager */
+QList<KnownPlugin> KnownNetworkManager(const char *folder)
 {
-    const QStringList names = QString::fromLatin1(folders).split(QLatin1Char(' '));
-    QList<KnownPlugin> known = PluginHost::KnownPlugins(WlanAutomatic);
-    known[1].folder = names.at(0);
-    known[2].folder = names.at(1);
+    QList<KnownPlugin> known = PluginHost::KnownPlugins(WlanNetworkManager);
+    known[1].folder = QLatin1String(folder);
     return known;
 }
 
@@ -265,10 +263,9 @@ const Screens::Screen Screens::screens[] = {
     {"settings, page not handed out", &Screens::ShowBrokenSettings, "QueryNull"},
     {"settings, general page of missing plug-ins", &Screens::ShowBrokenGeneralPage, "Absent"},
     {"settings, general page", &Screens::ShowGeneralPage, nullptr},
-    {"list, NetworkManager", &Screens::ShowAutomaticWlan, "Working Absent"},
-    {"list, stand-in for NetworkManager", &Screens::ShowAutomaticWlan, "InitFails Working"},
-    {"list, NetworkManager not running", &Screens::ShowAutomaticWlan, "InitFails Absent"},
-    {"settings, general page with NetworkManager", &Screens::ShowAutomaticWlanSettings, "Working Absent"},
+    {"list, NetworkManager", &Screens::ShowNetworkManager, "Working"},
+    {"list, plug-in over NetworkManager broken", &Screens::ShowNetworkManager, "InitFails"},
+    {"settings, general page with NetworkManager", &Screens::ShowNetworkManagerSettings, "Working"},
     {"settings, priority page", &Screens::ShowPriorityPage, nullptr},
     {"add dialog", &Screens::ShowAddDialog, nullptr},
     {"new dialog, open", &Screens::ShowNewDialog, "open"},
@@ -548,18 +545,18 @@ void Screens::ShowBrokenGeneralPage(const char *folder)
     m_window.reset();
 }
 
-void Screens::ShowAutomaticWlan(const char *folders)
+void Screens::ShowNetworkManager(const char *folder)
 {
-    PluginHost plugins(QLatin1String(BUILD_DIRECTORY "/tests/fixtures"), KnownAutomatic(folders));
+    PluginHost plugins(QLatin1String(BUILD_DIRECTORY "/tests/fixtures"), KnownNetworkManager(folder));
     plugins.Load();
     OpenWindow(&plugins);
     Visit();
     m_window.reset();
 }
 
-void Screens::ShowAutomaticWlanSettings(const char *folders)
+void Screens::ShowNetworkManagerSettings(const char *folder)
 {
-    PluginHost plugins(QLatin1String(BUILD_DIRECTORY "/tests/fixtures"), KnownAutomatic(folders));
+    PluginHost plugins(QLatin1String(BUILD_DIRECTORY "/tests/fixtures"), KnownNetworkManager(folder));
     plugins.Load();
     OpenWindow(&plugins);
     Click("settingsButton");

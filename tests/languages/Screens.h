@@ -65,8 +65,8 @@ private:
     void ShowBroken(const char *folder);
     void ShowBrokenSettings(const char *folder);
     void ShowBrokenGeneralPage(const char *folder);
-    void ShowAutomaticWlan(const char *folders);
-    void ShowAutomaticWlanSettings(const char *folders);
+    void ShowNetworkManager(const char *folder);
+    void ShowNetworkManagerSettings(const char *folder);
     void ShowGeneralPage(const char *);
     void ShowPriorityPage(const char *);
     void ShowAddDialog(const char *);

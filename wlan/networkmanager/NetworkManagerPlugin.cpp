@@ -44,9 +44,8 @@ bool CNetworkManagerPlugin::Init()
     const NetworkManagerResult result = m_client->Probe(CNetworkManagerClient::patienceMilliseconds);
     m_lastError = result;
     if (result != NetworkManagerResultSuccess) {
+        // It may come later.
         qWarning("WLANNetworkManager: %s", DescriptionOf(result).toLocal8Bit().constData());
-        OnDestroy();
-        return false;
     }
     m_picture = new CLivePicture(m_client, nullptr);
     m_service = new CNetworkManagerWLANService(m_client, m_picture, nullptr);

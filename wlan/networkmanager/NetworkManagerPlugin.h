@@ -15,9 +15,8 @@ class CPriorityKeeper;
 /**
  * Root object of the WLAN plug-in over NetworkManager.
  *
- * Init fails where NetworkManager does not answer on the system bus. From Init to OnDestroy the priority list
- * takes effect on NetworkManager's profiles, whether anybody asks for the service or not. There are services
- * between the two only.
+ * From Init to OnDestroy the priority list takes effect on NetworkManager's profiles, whether anybody asks for
+ * the service or not. There are services between the two only.
  */
 class CNetworkManagerPlugin : public CSiblingPlugin
 {
@@ -27,9 +26,10 @@ class CNetworkManagerPlugin : public CSiblingPlugin
 public:
     ~CNetworkManagerPlugin() override;
 
-    /** A NetworkManagerResult: why Init failed. */
+    /** A NetworkManagerResult: why NetworkManager was not to be had when Init was called. */
     int GetLastError() override;
 
+    /** True without a NetworkManager, too: it may come at any time, and its absence is told until then. */
     bool Init() override;
     void OnDestroy() override;
     QString GetPluginName() override;

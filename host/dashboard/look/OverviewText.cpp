@@ -212,8 +212,13 @@ QString OverviewText::Headline(const Overview &overview)
     } else if (const ActiveConnection *comingUp = overview.ComingUp()) {
         headline = DashboardText("IDS_HEAD_CONNECTING").arg(OverviewText::Name(comingUp->name));
     }
+    return Marked(overview, headline);
+}
+
+QString OverviewText::Marked(const Overview &overview, const QString &text)
+{
     const bool isReal = overview.connections.state.sourceName != QLatin1String("stored");
-    return isReal ? headline : DashboardText("IDS_HEAD_PRACTICE").arg(headline);
+    return isReal ? text : DashboardText("IDS_HEAD_PRACTICE").arg(text);
 }
 
 QString OverviewText::Explanation(const Overview &overview)

@@ -15,6 +15,9 @@ QString Signal(int percent);
 /** The name of a network or connection, as it stands in sentences. */
 QString Name(const QString &name);
 
+/** text, marked where all that is told of networks is made up. */
+QString Marked(const Overview &overview, const QString &text);
+
 /** Which network is in use, and how that stands to the list. */
 QString Headline(const Overview &overview);
 QString Explanation(const Overview &overview);

@@ -141,7 +141,6 @@ QList<KnownPlugin> PluginHost::KnownPlugins(WlanChoice wlan)
     networkManager.classId = QLatin1String(wlanClassId);
     networkManager.titleId = QLatin1String("IDS_PLUGIN_WLAN_NETWORKMANAGER");
     networkManager.noteId = QLatin1String("IDS_NOTE_NETWORKMANAGER");
-    networkManager.hintId = QLatin1String("IDS_HINT_NETWORKMANAGER");
 
     KnownPlugin stored;
     stored.folder = QLatin1String("WLANStored");
@@ -151,19 +150,7 @@ QList<KnownPlugin> PluginHost::KnownPlugins(WlanChoice wlan)
 
     QList<KnownPlugin> known;
     known << PriorityPlugin();
-    switch (wlan) {
-    case WlanAutomatic:
-        stored.isStandIn = true;
-        stored.noteId = QLatin1String("IDS_NOTE_STORED_STANDS_IN");
-        known << networkManager << stored;
-        break;
-    case WlanNetworkManager:
-        known << networkManager;
-        break;
-    case WlanStored:
-        known << stored;
-        break;
-    }
+    known << (wlan == WlanStored ? stored : networkManager);
     return known;
 }
 
@@ -179,12 +166,7 @@ void PluginHost::Load()
 {
     HostControl::SetPluginContainer(this);
     for (int i = 0; i < m_plugins.size(); ++i) {
-        Plugin &plugin = m_plugins[i];
-        if (plugin.known.isStandIn && FindReady(plugin.known.classId)) {
-            plugin.state = PluginNotNeeded;
-        } else {
-            LoadPlugin(&plugin);
-        }
+        LoadPlugin(&m_plugins[i]);
     }
 }
 
@@ -219,11 +201,6 @@ const PluginHost::Plugin *PluginHost::FindReady(const QString &classId) const
     return nullptr;
 }
 
-bool PluginHost::IsMissed(const Plugin &plugin) const
-{
-    return plugin.state != PluginReady && plugin.state != PluginNotNeeded && !FindReady(plugin.known.classId);
-}
-
 QString PluginHost::ProblemText(const Plugin &plugin)
 {
     switch (plugin.state) {
@@ -251,12 +228,8 @@ QString PluginHost::ProblemText(const Plugin &plugin)
     case PluginNotAPlugin:
         return DashboardText("IDS_LOAD_NOT_A_PLUGIN").arg(plugin.file);
     case PluginInitFailed:
-        return DashboardText("IDS_LOAD_INIT_FAILED").arg(plugin.file) +
-               (plugin.known.hintId.isEmpty()
-                    ? QString()
-                    : QLatin1Char(' ') + DashboardText(plugin.known.hintId.toLatin1().constData()));
+        return DashboardText("IDS_LOAD_INIT_FAILED").arg(plugin.file);
     case PluginReady:
-    case PluginNotNeeded:
         break;
     }
     return QString();

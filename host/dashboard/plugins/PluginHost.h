@@ -21,12 +21,8 @@ struct KnownPlugin {
     QString titleId;
     /** Whether it has a page in the settings dialog; that is the list's. */
     bool hasSettingsPage = false;
-    /** Whether it is loaded only where no plug-in before it with the same class id is ready. */
-    bool isStandIn = false;
     /** Resource id of what the main window says while it is ready; empty for nothing. */
     QString noteId;
-    /** Resource id of what may be the matter when it can't work; empty for nothing. */
-    QString hintId;
 };
 
 /** How far the loading of a plug-in came. */
@@ -43,8 +39,7 @@ enum PluginState {
     PluginNotAPlugin,     /**< The root object is not an IBasePlugin. */
     PluginInitFailed,     /**< The plug-in says that it can't work. */
     PluginReady,
-    PluginNotNeeded, /**< It is a stand-in for one that is ready. */
-    PluginClosed     /**< It was ready and was taken down at shutdown. */
+    PluginClosed /**< It was ready and was taken down at shutdown. */
 };
 
 /**
@@ -86,9 +81,6 @@ public:
     void Shutdown();
 
     QList<Plugin> Plugins() const { return m_plugins; }
-
-    /** Whether a plug-in should be ready and is not, and no stand-in is there in its place. */
-    bool IsMissed(const Plugin &plugin) const;
 
     /** Why a plug-in is not ready, in plain words of the current language; empty for one that is ready. */
     static QString ProblemText(const Plugin &plugin);

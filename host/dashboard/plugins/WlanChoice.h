@@ -3,8 +3,7 @@
 
 /** Which plug-in does the Wi-Fi. */
 enum WlanChoice {
-    WlanAutomatic,      /**< NetworkManager where it answers, the profiles in a file elsewhere. */
-    WlanNetworkManager, /**< NetworkManager or nothing. */
+    WlanNetworkManager, /**< NetworkManager, whether it runs or not. */
     WlanStored          /**< The profiles in a file; the computer's own networks are left alone. */
 };
 

@@ -26,7 +26,7 @@ struct WlanWord {
 };
 
 const WlanWord wlanWords[] = {
-    {"auto", WlanAutomatic},
+    {"auto", WlanNetworkManager},
     {"networkmanager", WlanNetworkManager},
     {"stored", WlanStored},
 };
@@ -175,17 +175,19 @@ Arguments Arguments::Parse(const QStringList &arguments)
         const ValueOption *option = FindValueOption(name);
         const CommandOption *command = FindCommandOption(name);
         const bool isJson = name == QLatin1String("--json");
-        if (!option && !command && !isJson) {
+        const bool isDemo = name == QLatin1String("--demo");
+        if (!option && !command && !isJson && !isDemo) {
             const bool isOption = argument.startsWith(QLatin1Char('-'));
             return Refused(
                 isOption ? QString::fromLatin1("there is no option %1; see --help").arg(name)
                          : QString::fromLatin1("can't do anything with \"%1\"; see --help").arg(argument));
         }
-        if (isJson || (command && !CommandOf(*command).TakesEntry())) {
+        if (isJson || isDemo || (command && !CommandOf(*command).TakesEntry())) {
             if (equals >= 0) {
                 return Refused(QString::fromLatin1("%1 takes no value; see --help").arg(name));
             }
             parsed.isJson = parsed.isJson || isJson;
+            parsed.isDemo = parsed.isDemo || isDemo;
             if (command) {
                 parsed.commands.append(CommandOf(*command));
             }
@@ -216,8 +218,11 @@ Arguments Arguments::Parse(const QStringList &arguments)
         parsed.commands.append(given);
     }
     if (!parsed.wlan.isNull() && !FindWlanWord(parsed.wlan)) {
-        return Refused(QString::fromLatin1("--wlan is auto, networkmanager or stored, not \"%1\"; see --help")
+        return Refused(QString::fromLatin1("--wlan is networkmanager or stored, not \"%1\"; see --help")
                            .arg(parsed.wlan));
+    }
+    if (parsed.isDemo && !parsed.wlan.isNull()) {
+        return Refused(QLatin1String("--demo has networks of its own: leave --wlan out; see --help"));
     }
     if (parsed.WaitSeconds() == 0) {
         return Refused(
@@ -252,7 +257,7 @@ int Arguments::WaitSeconds() const
 WlanChoice Arguments::ChosenWlan() const
 {
     const WlanWord *given = FindWlanWord(wlan);
-    return given ? given->choice : WlanAutomatic;
+    return isDemo ? WlanStored : given ? given->choice : WlanNetworkManager;
 }
 
 QString Arguments::HelpText()
@@ -266,8 +271,9 @@ QString Arguments::HelpText()
         "  --wlan SOURCE        where the Wi-Fi networks come from:\n"
         "                         networkmanager  this computer's own; the list decides which is joined\n"
         "                         stored          practice networks from a file; nothing real is touched\n"
-        "                         auto            the former where NetworkManager runs, else the latter\n"
-        "                       auto is the default\n"
+        "                       networkmanager is the default\n"
+        "  --demo               try the program: practice networks, and a list and settings of their\n"
+        "                       own; nothing of yours is touched\n"
         "  --version            print the version\n"
         "  -h, --help           print this help\n"
         "\n"

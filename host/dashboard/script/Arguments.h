@@ -21,6 +21,9 @@ struct Arguments {
     QString pluginLibraryPath;
     QString wlan;
 
+    /** Practice networks, in a directory of their own. */
+    bool isDemo = false;
+
     WlanChoice ChosenWlan() const;
 
     /** What to do, in this order, instead of opening a window. */

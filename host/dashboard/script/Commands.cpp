@@ -27,7 +27,7 @@ QList<KnownPlugin> WithoutTheList(const QList<KnownPlugin> &known)
 QString ProblemOf(const PluginHost &plugins)
 {
     for (const PluginHost::Plugin &plugin : plugins.Plugins()) {
-        if (plugins.IsMissed(plugin)) {
+        if (plugin.state != PluginReady) {
             return PluginHost::ProblemText(plugin);
         }
     }

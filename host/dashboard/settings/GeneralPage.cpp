@@ -40,14 +40,7 @@ QLabel *AddText(const char *name, QVBoxLayout *layout)
 
 const char *StateTextId(PluginState state)
 {
-    switch (state) {
-    case PluginReady:
-        return "IDS_GENERAL_PLUGIN_WORKS";
-    case PluginNotNeeded:
-        return "IDS_GENERAL_PLUGIN_NOT_NEEDED";
-    default:
-        return "IDS_GENERAL_PLUGIN_MISSING";
-    }
+    return state == PluginReady ? "IDS_GENERAL_PLUGIN_WORKS" : "IDS_GENERAL_PLUGIN_MISSING";
 }
 
 QString Line(const QString &text)

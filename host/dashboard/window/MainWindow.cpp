@@ -302,7 +302,6 @@ void MainWindow::FollowLanguage()
 
 void MainWindow::Retranslate()
 {
-    setWindowTitle(DashboardText("IDS_WINDOW_TITLE"));
     m_fileMenu->setTitle(DashboardText("IDS_MENU_FILE"));
     m_editMenu->setTitle(DashboardText("IDS_MENU_EDIT"));
     m_viewMenu->setTitle(DashboardText("IDS_MENU_VIEW"));
@@ -373,7 +372,10 @@ void MainWindow::ShowNote()
     const QList<PluginHost::Plugin> plugins = m_plugins->Plugins();
     for (int i = 0; i < plugins.size(); ++i) {
         const PluginHost::Plugin &plugin = plugins.at(i);
-        if (plugin.state == PluginReady && !plugin.known.noteId.isEmpty()) {
+        // What a source that has gone would do nobody knows.
+        const bool isToldOf =
+            m_overview.connections.teller != Connections::Plugin || m_overview.connections.AreKnown();
+        if (plugin.state == PluginReady && !plugin.known.noteId.isEmpty() && isToldOf) {
             notes.append(DashboardText(plugin.known.noteId.toLatin1().constData()));
         }
     }
@@ -460,6 +462,7 @@ void MainWindow::ShowConnect()
 
 void MainWindow::ShowHead()
 {
+    setWindowTitle(OverviewText::Marked(m_overview, DashboardText("IDS_WINDOW_TITLE")));
     m_headline->setText(OverviewText::Headline(m_overview));
     m_explanation->setText(OverviewText::Explanation(m_overview));
     m_switchButton->setVisible(m_overview.CanSwitch());
@@ -519,7 +522,7 @@ void MainWindow::ShowProblems()
     for (int i = 0; i < plugins.size(); ++i) {
         // Without a list, the problem of its plug-in is shown in the list's place.
         const PluginHost::Plugin &plugin = plugins.at(i);
-        if (m_plugins->IsMissed(plugin) && !(m_overview.status < 0 && plugin.known.hasSettingsPage)) {
+        if (plugin.state != PluginReady && !(m_overview.status < 0 && plugin.known.hasSettingsPage)) {
             problems.append(PluginHost::ProblemText(plugin));
         }
     }

@@ -77,9 +77,6 @@ private slots:
     void ShutdownHappensOnce();
     void NothingIsHandedOutAfterShutdown();
 
-    void StandInIsLoadedWhereItIsNeeded_data();
-    void StandInIsLoadedWhereItIsNeeded();
-    void HintStandsBehindTheProblem();
     void KnownPluginsHaveTheirFixedIds();
     void WlanPluginsFollowTheChoice_data();
     void WlanPluginsFollowTheChoice();
@@ -413,60 +410,10 @@ void PluginHostTest::KnownPluginsHaveTheirFixedIds()
     QCOMPARE(known.at(1).classId, QString("7545FB07-0E7A-4F27-A449-872DB09C106D"));
 }
 
-void PluginHostTest::StandInIsLoadedWhereItIsNeeded_data()
-{
-    QTest::addColumn<QString>("first");
-    QTest::addColumn<QString>("standIn");
-    QTest::addColumn<int>("standInState");
-    QTest::addColumn<bool>("isFirstMissed");
-    QTest::addColumn<bool>("isStandInMissed");
-    QTest::newRow("first works") << "Working"
-                                 << "Idle" << int(PluginNotNeeded) << false << false;
-    QTest::newRow("first can't work") << "InitFails"
-                                      << "Working" << int(PluginReady) << false << false;
-    QTest::newRow("first is not there") << "Absent"
-                                        << "Working" << int(PluginReady) << false << false;
-    QTest::newRow("neither works") << "Absent"
-                                   << "InitFails" << int(PluginInitFailed) << true << true;
-}
-
-void PluginHostTest::StandInIsLoadedWhereItIsNeeded()
-{
-    QFETCH(QString, first);
-    QFETCH(QString, standIn);
-    QFETCH(bool, isFirstMissed);
-    QFETCH(bool, isStandInMissed);
-    QList<KnownPlugin> known = Known(QStringList() << first << standIn);
-    known[0].classId = "ID";
-    known[1].classId = "id";
-    known[1].isStandIn = true;
-    PluginHost host(fixtureDirectory, known);
-    host.Load();
-    QTEST(int(host.Plugins().at(1).state), "standInState");
-    QCOMPARE(host.IsMissed(host.Plugins().at(0)), isFirstMissed);
-    QCOMPARE(host.IsMissed(host.Plugins().at(1)), isStandInMissed);
-    QCOMPARE(host.GetPluginObject("ID", 4102) != nullptr, !isFirstMissed);
-    if (host.Plugins().at(1).state == PluginNotNeeded) {
-        QCOMPARE(PluginHost::ProblemText(host.Plugins().at(1)), QString());
-    }
-}
-
-void PluginHostTest::HintStandsBehindTheProblem()
-{
-    QList<KnownPlugin> known = Known(QStringList("InitFails"));
-    known[0].hintId = "IDS_HINT_NETWORKMANAGER";
-    PluginHost host(fixtureDirectory, known);
-    host.Load();
-    const QString text = PluginHost::ProblemText(host.Plugins().at(0));
-    QVERIFY2(text.contains("libInitFails.so") && text.endsWith("Is NetworkManager running?"),
-             qPrintable(text));
-}
-
 void PluginHostTest::WlanPluginsFollowTheChoice_data()
 {
     QTest::addColumn<int>("choice");
     QTest::addColumn<QString>("folders");
-    QTest::newRow("auto") << int(WlanAutomatic) << "WLANNetworkManager, WLANStored in its place";
     QTest::newRow("networkmanager") << int(WlanNetworkManager) << "WLANNetworkManager";
     QTest::newRow("stored") << int(WlanStored) << "WLANStored";
 }
@@ -479,7 +426,7 @@ void PluginHostTest::WlanPluginsFollowTheChoice()
     QStringList folders;
     for (int i = 1; i < known.size(); ++i) {
         QCOMPARE(known.at(i).classId, QString("7545FB07-0E7A-4F27-A449-872DB09C106D"));
-        folders.append(known.at(i).folder + (known.at(i).isStandIn ? " in its place" : ""));
+        folders.append(known.at(i).folder);
     }
     QTEST(folders.join(", "), "folders");
 }

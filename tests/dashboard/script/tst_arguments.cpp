@@ -151,12 +151,13 @@ void ArgumentsTest::WlanIsChosen_data()
 {
     QTest::addColumn<QStringList>("given");
     QTest::addColumn<int>("choice");
-    QTest::newRow("nothing") << QStringList() << int(WlanAutomatic);
-    QTest::newRow("auto") << QStringList("--wlan=auto") << int(WlanAutomatic);
+    QTest::newRow("nothing") << QStringList() << int(WlanNetworkManager);
+    QTest::newRow("auto") << QStringList("--wlan=auto") << int(WlanNetworkManager);
     QTest::newRow("stored") << (QStringList() << "--wlan"
                                               << "stored")
                             << int(WlanStored);
     QTest::newRow("networkmanager") << QStringList("--wlan=networkmanager") << int(WlanNetworkManager);
+    QTest::newRow("demo") << QStringList("--demo") << int(WlanStored);
 }
 
 void ArgumentsTest::WlanIsChosen()
@@ -172,10 +173,12 @@ void ArgumentsTest::WlanIsRefused_data()
     QTest::addColumn<QStringList>("given");
     QTest::addColumn<QString>("told");
     QTest::newRow("unknown word") << QStringList("--wlan=wicd")
-                                  << "--wlan is auto, networkmanager or stored, not \"wicd\"; see --help";
-    QTest::newRow("other case")
-        << QStringList("--wlan=NetworkManager")
-        << "--wlan is auto, networkmanager or stored, not \"NetworkManager\"; see --help";
+                                  << "--wlan is networkmanager or stored, not \"wicd\"; see --help";
+    QTest::newRow("other case") << QStringList("--wlan=NetworkManager")
+                                << "--wlan is networkmanager or stored, not \"NetworkManager\"; see --help";
+    QTest::newRow("with the demo") << (QStringList() << "--demo"
+                                                     << "--wlan=networkmanager")
+                                   << "--demo has networks of its own: leave --wlan out; see --help";
 }
 
 void ArgumentsTest::WlanIsRefused()

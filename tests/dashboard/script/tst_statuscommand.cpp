@@ -24,6 +24,7 @@ private slots:
     void StatusOfADamagedListTellsWhatIsKnown();
     void AnswersAreJsonWhenAskedFor_data();
     void AnswersAreJsonWhenAskedFor();
+    void DemoTouchesNothingOfTheUsers();
     void OptionThatHasNothingToDoIsRefused_data();
     void OptionThatHasNothingToDoIsRefused();
 
@@ -188,6 +189,17 @@ void StatusCommandTest::AnswersAreJsonWhenAskedFor()
     QVERIFY(outcome.out.endsWith('\n') && outcome.out.count('\n') == 1);
     QCOMPARE(QJsonDocument::fromJson(outcome.out.toUtf8()), QJsonDocument::fromJson(json.toUtf8()));
     QVERIFY(!QJsonDocument::fromJson(json.toUtf8()).isNull());
+}
+
+void StatusCommandTest::DemoTouchesNothingOfTheUsers()
+{
+    const QByteArray before = m_directory->Read("priority-dashboard/Priority.xml");
+    const Outcome outcome = RunDashboard({"--demo", "--add=Park", "--list", "--status"},
+                                         QStringList("XDG_DATA_HOME=" + m_directory->Path()));
+    QCOMPARE(outcome.out, QString("1\t1\tPark\nsource\tstored\ntraffic\t-\nchoice\t-\n"));
+    QCOMPARE(m_directory->Read("priority-dashboard/Priority.xml"), before);
+    QVERIFY(!QFile::exists(m_directory->FilePath("priority-dashboard/WLANProfiles.xml")));
+    QVERIFY(!QFile::exists(m_directory->FilePath("priority-dashboard/dashboard.log")));
 }
 
 void StatusCommandTest::OptionThatHasNothingToDoIsRefused_data()

@@ -23,6 +23,7 @@ private slots:
     void WindowThatNobodySeesIsToldNothing_data();
     void WindowThatNobodySeesIsToldNothing();
     void SourceThatGoesIsToldAtTheTop();
+    void WindowOfPracticeNetworksIsMarked();
     void RowTellsAssistiveTechnologyItsReason();
     void SwitchOrdersTheChoice();
     void SwitchIsThereOnlyForUse_data();
@@ -113,6 +114,14 @@ void ConnectionsTest::SourceThatGoesIsToldAtTheTop()
     QCOMPARE(m_world->Text("headlineLabel"), QString("NetworkManager is not running"));
     QCOMPARE(m_world->State(1), QString("Not known if in range"));
     QVERIFY(!Switch()->isVisible());
+}
+
+void ConnectionsTest::WindowOfPracticeNetworksIsMarked()
+{
+    QCOMPARE(m_world->window->windowTitle(), QString("Network dashboard"));
+    m_world->connections->told.state.sourceName = "stored";
+    m_world->Follow();
+    QCOMPARE(m_world->window->windowTitle(), QString("Network dashboard (practice)"));
 }
 
 void ConnectionsTest::RowTellsAssistiveTechnologyItsReason()

@@ -1,3 +1,4 @@
+#include "FakeConnections.h"
 #include "FakePriority.h"
 
 #include <DashboardLanguage.h>
@@ -62,7 +63,7 @@ private slots:
     void LanguageSwitchIsToldToThePlugins();
     void SourceOfTheNetworksIsTold_data();
     void SourceOfTheNetworksIsTold();
-    void MissingSourceIsToldAboveTheList();
+    void SourceThatIsGoneIsNotSaidToDoAnything();
     void DamagedLanguageFileIsNamedAndTheOthersWork();
     void ConnectTellsWhyItCannotBeUsed_data();
     void ConnectTellsWhyItCannotBeUsed();
@@ -164,14 +165,6 @@ void MainWindowProblemsTest::SourceOfTheNetworksIsTold_data()
     QTest::newRow("networkmanager") << int(WlanNetworkManager) << QStringList("Working")
                                     << QString::fromUtf8(
                                            "These are this computer’s networks. NetworkManager");
-    QTest::newRow("auto") << int(WlanAutomatic)
-                          << (QStringList() << "Working"
-                                            << "Absent")
-                          << QString::fromUtf8("These are this computer’s networks. NetworkManager");
-    QTest::newRow("auto without it") << int(WlanAutomatic)
-                                     << (QStringList() << "InitFails"
-                                                       << "Working")
-                                     << "NetworkManager is not available";
     QTest::newRow("stored") << int(WlanStored) << QStringList("Working") << "These are practice networks.";
     QTest::newRow("none") << int(WlanStored) << QStringList("Absent") << "";
 }
@@ -197,20 +190,27 @@ void MainWindowProblemsTest::SourceOfTheNetworksIsTold()
              qPrintable(note->text()));
 }
 
-void MainWindowProblemsTest::MissingSourceIsToldAboveTheList()
+void MainWindowProblemsTest::SourceThatIsGoneIsNotSaidToDoAnything()
 {
     QList<KnownPlugin> known = PluginHost::KnownPlugins(WlanNetworkManager);
     known[0].folder = "Absent";
-    known[1].folder = "InitFails";
+    known[1].folder = "Working";
     TraceLog log(m_directory.FilePath("dashboard.log"));
     PluginHost plugins(BUILD_DIRECTORY "/tests/fixtures", known);
     plugins.Load();
+    FakeConnections connections;
+    connections.told.state.source = ConnectionState::SourceGone;
+    WithConnections container(&plugins, &connections);
+    HostControl::SetPluginContainer(&container);
     DashboardLanguage language(nullptr);
     MainWindow window(&plugins, &language, &log);
     window.show();
-    const QLabel *problems = window.findChild<QLabel *>("problemsLabel");
-    QVERIFY(problems->isVisible());
-    QVERIFY2(problems->text().contains("Is NetworkManager running?"), qPrintable(problems->text()));
+    const QLabel *note = window.findChild<QLabel *>("noteLabel");
+    QCOMPARE(note->text(), QString());
+    connections.told.state.source = ConnectionState::SourceKnown;
+    window.Refresh();
+    QVERIFY(!note->text().isEmpty());
+    HostControl::SetPluginContainer(nullptr);
 }
 
 void MainWindowProblemsTest::DamagedLanguageFileIsNamedAndTheOthersWork()
