@@ -217,7 +217,7 @@
     </message>
     <message>
         <source>IDS_CONNECT_HINT</source>
-        <translation>تُنقل الشبكة التي تتصل بها إلى أول قائمتك.</translation>
+        <translation>تُضاف الشبكة التي ليست في قائمتك إلى آخر القائمة.</translation>
     </message>
     <message>
         <source>IDS_CONNECT_NETWORK</source>
@@ -237,19 +237,64 @@
     </message>
     <message>
         <source>IDS_CONNECT_NONE</source>
-        <translation>لا توجد شبكة ضمن النطاق. افتح هذه النافذة مجددًا عند توفّر شبكة.</translation>
+        <translation>لا توجد شبكة ضمن النطاق. عندما توجد واحدة ستظهر هنا.</translation>
     </message>
     <message>
-        <source>IDS_CONNECT_NO_WLAN</source>
-        <translation>ملحقة الواي فاي غير متوفرة، لذلك لا توجد شبكة للاتصال بها.</translation>
+        <source>IDS_CONNECT_SECURITY</source>
+        <extracomment>Heads a column of what networks in range ask for</extracomment>
+        <translation>الأمن</translation>
     </message>
     <message>
-        <source>IDS_CONNECT_NO_PRIORITY</source>
-        <translation>الملحقة التي تدير القائمة غير متوفرة، لذلك لا يمكن نقل شبكة إلى أول قائمتك.</translation>
+        <source>IDS_PROTECTION_OPEN</source>
+        <extracomment>What a network in range asks for</extracomment>
+        <translation>بلا مفتاح</translation>
     </message>
     <message>
-        <source>IDS_CONNECT_DAMAGED</source>
-        <translation>تتعذّر قراءة قائمتك كاملة، لذلك لا يمكن نقل شبكة إلى أول القائمة.</translation>
+        <source>IDS_PROTECTION_KEY</source>
+        <translation>مفتاح</translation>
+    </message>
+    <message>
+        <source>IDS_PROTECTION_WEAK</source>
+        <extracomment>What a network in range asks for; 200 pixels</extracomment>
+        <translation>مفتاح ضعيف (WEP)</translation>
+    </message>
+    <message>
+        <source>IDS_PROTECTION_ACCOUNT</source>
+        <translation>حساب</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_SAVED</source>
+        <extracomment>Behind what a network in range asks for</extracomment>
+        <translation>محفوظة</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_KEY</source>
+        <extracomment>Label of a field. %1: a network</extracomment>
+        <translation>مفتاح %1</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_SHOW_KEY</source>
+        <translation>إظهار المفتاح</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_ACCOUNT</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>&#x200f;%1 تحتاج إلى حساب. يمكن إعداد الحساب في إعدادات الشبكة، فافتح الإعدادات في سطح المكتب.</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_AWAY</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>&#x200f;%1 لم تعد ضمن النطاق.</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_STOP</source>
+        <extracomment>Button, in the place of Cancel while a network is being connected</extracomment>
+        <translation>إيقاف</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NOT_SAVED</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>&#x200f;الاتصال بالشبكة %1 قائم، لكنها غير محفوظة: تعذّر الحفظ.</translation>
     </message>
     <message>
         <source>IDS_CLOSE</source>

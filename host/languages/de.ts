@@ -217,7 +217,7 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
     </message>
     <message>
         <source>IDS_CONNECT_HINT</source>
-        <translation>Das Netzwerk, mit dem Sie sich verbinden, rückt an den Anfang Ihrer Liste.</translation>
+        <translation>Ein Netzwerk, das nicht in Ihrer Liste steht, kommt an ihr Ende.</translation>
     </message>
     <message>
         <source>IDS_CONNECT_NETWORK</source>
@@ -237,19 +237,64 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
     </message>
     <message>
         <source>IDS_CONNECT_NONE</source>
-        <translation>Kein Netzwerk ist in Reichweite. Öffnen Sie dieses Fenster erneut, sobald eines da ist.</translation>
+        <translation>Kein Netzwerk ist in Reichweite. Sobald eines da ist, erscheint es hier.</translation>
     </message>
     <message>
-        <source>IDS_CONNECT_NO_WLAN</source>
-        <translation>Das WLAN-Plugin ist nicht verfügbar, daher gibt es kein Netzwerk zum Verbinden.</translation>
+        <source>IDS_CONNECT_SECURITY</source>
+        <extracomment>Heads a column of what networks in range ask for</extracomment>
+        <translation>Sicherheit</translation>
     </message>
     <message>
-        <source>IDS_CONNECT_NO_PRIORITY</source>
-        <translation>Das Plugin, das die Liste verwaltet, ist nicht verfügbar, daher kann kein Netzwerk an den Anfang Ihrer Liste rücken.</translation>
+        <source>IDS_PROTECTION_OPEN</source>
+        <extracomment>What a network in range asks for</extracomment>
+        <translation>Ohne Schlüssel</translation>
     </message>
     <message>
-        <source>IDS_CONNECT_DAMAGED</source>
-        <translation>Ihre Liste lässt sich nicht vollständig lesen, daher kann kein Netzwerk an den Anfang rücken.</translation>
+        <source>IDS_PROTECTION_KEY</source>
+        <translation>Schlüssel</translation>
+    </message>
+    <message>
+        <source>IDS_PROTECTION_WEAK</source>
+        <extracomment>What a network in range asks for; 200 pixels</extracomment>
+        <translation>Schwacher Schlüssel (WEP)</translation>
+    </message>
+    <message>
+        <source>IDS_PROTECTION_ACCOUNT</source>
+        <translation>Konto</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_SAVED</source>
+        <extracomment>Behind what a network in range asks for</extracomment>
+        <translation>Gespeichert</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_KEY</source>
+        <extracomment>Label of a field. %1: a network</extracomment>
+        <translation>Schlüssel von %1</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_SHOW_KEY</source>
+        <translation>Schlüssel anzeigen</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_ACCOUNT</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>%1 braucht ein Konto. Es lässt sich in den Einstellungen Ihres Desktops für Netzwerke einrichten.</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_AWAY</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>%1 ist nicht mehr in Reichweite.</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_STOP</source>
+        <extracomment>Button, in the place of Cancel while a network is being connected</extracomment>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NOT_SAVED</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>%1 ist verbunden, konnte aber nicht gespeichert werden.</translation>
     </message>
     <message>
         <source>IDS_CLOSE</source>

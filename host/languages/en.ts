@@ -240,7 +240,7 @@ You can use letters, digits and these symbols:
     </message>
     <message>
         <source>IDS_CONNECT_HINT</source>
-        <translation>The network that you connect to goes to the top of your list.</translation>
+        <translation>A network that is not in your list goes to its end.</translation>
     </message>
     <message>
         <source>IDS_CONNECT_NETWORK</source>
@@ -261,19 +261,64 @@ You can use letters, digits and these symbols:
     </message>
     <message>
         <source>IDS_CONNECT_NONE</source>
-        <translation>No network is in range. Open this window again when there is one.</translation>
+        <translation>No network is in range. When there is one, it appears here.</translation>
     </message>
     <message>
-        <source>IDS_CONNECT_NO_WLAN</source>
-        <translation>The Wi-Fi plug-in is not available, so there is no network to connect to.</translation>
+        <source>IDS_CONNECT_SECURITY</source>
+        <extracomment>Heads a column of what networks in range ask for</extracomment>
+        <translation>Security</translation>
     </message>
     <message>
-        <source>IDS_CONNECT_NO_PRIORITY</source>
-        <translation>The plug-in that keeps the list is not available, so no network can be put at the top of your list.</translation>
+        <source>IDS_PROTECTION_OPEN</source>
+        <extracomment>What a network in range asks for</extracomment>
+        <translation>No key</translation>
     </message>
     <message>
-        <source>IDS_CONNECT_DAMAGED</source>
-        <translation>Your list cannot be read in full, so no network can be put at the top of it.</translation>
+        <source>IDS_PROTECTION_KEY</source>
+        <translation>Key</translation>
+    </message>
+    <message>
+        <source>IDS_PROTECTION_WEAK</source>
+        <extracomment>What a network in range asks for; 200 pixels</extracomment>
+        <translation>Weak key (WEP)</translation>
+    </message>
+    <message>
+        <source>IDS_PROTECTION_ACCOUNT</source>
+        <translation>Account</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_SAVED</source>
+        <extracomment>Behind what a network in range asks for</extracomment>
+        <translation>Saved</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_KEY</source>
+        <extracomment>Label of a field. %1: a network</extracomment>
+        <translation>Key of %1</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_SHOW_KEY</source>
+        <translation>Show key</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_ACCOUNT</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>%1 needs an account. Set it up in the network settings of your desktop.</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_AWAY</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>%1 is no longer in range.</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_STOP</source>
+        <extracomment>Button, in the place of Cancel while a network is being connected</extracomment>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NOT_SAVED</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>%1 is connected, but could not be saved.</translation>
     </message>
     <message>
         <source>IDS_CLOSE</source>

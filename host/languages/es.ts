@@ -217,7 +217,7 @@ Puede usar letras, números y estos símbolos:
     </message>
     <message>
         <source>IDS_CONNECT_HINT</source>
-        <translation>La red a la que se conecte pasará al principio de su lista.</translation>
+        <translation>Una red que no está en su lista pasa al final de ella.</translation>
     </message>
     <message>
         <source>IDS_CONNECT_NETWORK</source>
@@ -237,19 +237,64 @@ Puede usar letras, números y estos símbolos:
     </message>
     <message>
         <source>IDS_CONNECT_NONE</source>
-        <translation>No hay ninguna red al alcance. Cuando haya alguna, vuelva a abrir esta ventana.</translation>
+        <translation>No hay ninguna red al alcance. Cuando haya una, aparecerá aquí.</translation>
     </message>
     <message>
-        <source>IDS_CONNECT_NO_WLAN</source>
-        <translation>El complemento de Wi-Fi no está disponible, así que no hay ninguna red a la que conectarse.</translation>
+        <source>IDS_CONNECT_SECURITY</source>
+        <extracomment>Heads a column of what networks in range ask for</extracomment>
+        <translation>Seguridad</translation>
     </message>
     <message>
-        <source>IDS_CONNECT_NO_PRIORITY</source>
-        <translation>El complemento que gestiona la lista no está disponible, así que no se puede poner ninguna red al principio de su lista.</translation>
+        <source>IDS_PROTECTION_OPEN</source>
+        <extracomment>What a network in range asks for</extracomment>
+        <translation>Sin clave</translation>
     </message>
     <message>
-        <source>IDS_CONNECT_DAMAGED</source>
-        <translation>Su lista no se puede leer entera, así que no se puede poner ninguna red al principio.</translation>
+        <source>IDS_PROTECTION_KEY</source>
+        <translation>Clave</translation>
+    </message>
+    <message>
+        <source>IDS_PROTECTION_WEAK</source>
+        <extracomment>What a network in range asks for; 200 pixels</extracomment>
+        <translation>Clave débil (WEP)</translation>
+    </message>
+    <message>
+        <source>IDS_PROTECTION_ACCOUNT</source>
+        <translation>Cuenta</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_SAVED</source>
+        <extracomment>Behind what a network in range asks for</extracomment>
+        <translation>Guardada</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_KEY</source>
+        <extracomment>Label of a field. %1: a network</extracomment>
+        <translation>Clave de %1</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_SHOW_KEY</source>
+        <translation>Mostrar la clave</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_ACCOUNT</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>%1 necesita una cuenta. Configúrela en la configuración de red de su escritorio.</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_AWAY</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>%1 ya no está al alcance.</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_STOP</source>
+        <extracomment>Button, in the place of Cancel while a network is being connected</extracomment>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NOT_SAVED</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>Hay conexión con %1, pero no se pudo guardar: la red no está guardada.</translation>
     </message>
     <message>
         <source>IDS_CLOSE</source>

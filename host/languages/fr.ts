@@ -217,7 +217,7 @@ Vous pouvez utiliser des lettres, des chiffres et les symboles suivants&#xa0;:
     </message>
     <message>
         <source>IDS_CONNECT_HINT</source>
-        <translation>Le réseau auquel vous vous connectez passe en tête de votre liste.</translation>
+        <translation>Un réseau qui n’est pas dans votre liste est mis à la fin.</translation>
     </message>
     <message>
         <source>IDS_CONNECT_NETWORK</source>
@@ -237,19 +237,64 @@ Vous pouvez utiliser des lettres, des chiffres et les symboles suivants&#xa0;:
     </message>
     <message>
         <source>IDS_CONNECT_NONE</source>
-        <translation>Aucun réseau n’est à portée. Rouvrez cette fenêtre lorsqu’il y en aura un.</translation>
+        <translation>Aucun réseau n’est à portée. Dès qu’il y en aura un, il apparaîtra ici.</translation>
     </message>
     <message>
-        <source>IDS_CONNECT_NO_WLAN</source>
-        <translation>Le module Wi-Fi n’est pas disponible&#x202f;; il n’y a donc aucun réseau auquel se connecter.</translation>
+        <source>IDS_CONNECT_SECURITY</source>
+        <extracomment>Heads a column of what networks in range ask for</extracomment>
+        <translation>Sécurité</translation>
     </message>
     <message>
-        <source>IDS_CONNECT_NO_PRIORITY</source>
-        <translation>Le module qui gère la liste n’est pas disponible&#x202f;; aucun réseau ne peut donc être placé en tête de votre liste.</translation>
+        <source>IDS_PROTECTION_OPEN</source>
+        <extracomment>What a network in range asks for</extracomment>
+        <translation>Sans clé</translation>
     </message>
     <message>
-        <source>IDS_CONNECT_DAMAGED</source>
-        <translation>Votre liste ne peut pas être lue en entier&#x202f;; aucun réseau ne peut donc y être placé en tête.</translation>
+        <source>IDS_PROTECTION_KEY</source>
+        <translation>Clé</translation>
+    </message>
+    <message>
+        <source>IDS_PROTECTION_WEAK</source>
+        <extracomment>What a network in range asks for; 200 pixels</extracomment>
+        <translation>Clé faible (WEP)</translation>
+    </message>
+    <message>
+        <source>IDS_PROTECTION_ACCOUNT</source>
+        <translation>Compte</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_SAVED</source>
+        <extracomment>Behind what a network in range asks for</extracomment>
+        <translation>Enregistré</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_KEY</source>
+        <extracomment>Label of a field. %1: a network</extracomment>
+        <translation>Clé de %1</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_SHOW_KEY</source>
+        <translation>Afficher la clé</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_ACCOUNT</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>%1 demande un compte. Vous pouvez le configurer dans les paramètres réseau de votre bureau.</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_AWAY</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>%1 n’est plus à portée.</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_STOP</source>
+        <extracomment>Button, in the place of Cancel while a network is being connected</extracomment>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NOT_SAVED</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>%1 est connecté, mais n’a pas pu être enregistré.</translation>
     </message>
     <message>
         <source>IDS_CLOSE</source>

@@ -217,7 +217,7 @@
     </message>
     <message>
         <source>IDS_CONNECT_HINT</source>
-        <translation>הרשת שמתחברים אליה עוברת לראש הרשימה שלך.</translation>
+        <translation>רשת שאינה ברשימה שלך מתווספת לסוף הרשימה.</translation>
     </message>
     <message>
         <source>IDS_CONNECT_NETWORK</source>
@@ -237,19 +237,64 @@
     </message>
     <message>
         <source>IDS_CONNECT_NONE</source>
-        <translation>אין רשת בטווח. יש לפתוח חלון זה שוב כשתהיה רשת זמינה.</translation>
+        <translation>אין רשת בטווח. כשתהיה אחת, היא תופיע כאן.</translation>
     </message>
     <message>
-        <source>IDS_CONNECT_NO_WLAN</source>
-        <translation>תוסף ה־Wi-Fi אינו זמין, ולכן אין רשת להתחבר אליה.</translation>
+        <source>IDS_CONNECT_SECURITY</source>
+        <extracomment>Heads a column of what networks in range ask for</extracomment>
+        <translation>אבטחה</translation>
     </message>
     <message>
-        <source>IDS_CONNECT_NO_PRIORITY</source>
-        <translation>התוסף שמנהל את הרשימה אינו זמין, ולכן לא ניתן להעביר רשת לראש הרשימה שלך.</translation>
+        <source>IDS_PROTECTION_OPEN</source>
+        <extracomment>What a network in range asks for</extracomment>
+        <translation>ללא מפתח</translation>
     </message>
     <message>
-        <source>IDS_CONNECT_DAMAGED</source>
-        <translation>לא ניתן לקרוא את הרשימה שלך במלואה, ולכן לא ניתן להעביר רשת לראש הרשימה.</translation>
+        <source>IDS_PROTECTION_KEY</source>
+        <translation>מפתח</translation>
+    </message>
+    <message>
+        <source>IDS_PROTECTION_WEAK</source>
+        <extracomment>What a network in range asks for; 200 pixels</extracomment>
+        <translation>מפתח חלש (WEP)</translation>
+    </message>
+    <message>
+        <source>IDS_PROTECTION_ACCOUNT</source>
+        <translation>חשבון</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_SAVED</source>
+        <extracomment>Behind what a network in range asks for</extracomment>
+        <translation>שמורה</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_KEY</source>
+        <extracomment>Label of a field. %1: a network</extracomment>
+        <translation>המפתח של %1</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_SHOW_KEY</source>
+        <translation>הצגת המפתח</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_ACCOUNT</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>&#x200f;%1 צריכה חשבון. ההגדרה היא בהגדרות הרשת של שולחן העבודה.</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_AWAY</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>&#x200f;%1 כבר אינה בטווח.</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_STOP</source>
+        <extracomment>Button, in the place of Cancel while a network is being connected</extracomment>
+        <translation>עצירה</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NOT_SAVED</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>החיבור אל %1 פעיל, אבל הרשת אינה שמורה: לא ניתן היה לשמור אותה.</translation>
     </message>
     <message>
         <source>IDS_CLOSE</source>

@@ -217,7 +217,7 @@
     </message>
     <message>
         <source>IDS_CONNECT_HINT</source>
-        <translation>接続したネットワークは、リストの先頭に移動します。</translation>
+        <translation>リストにないネットワークは、リストの最後に入ります。</translation>
     </message>
     <message>
         <source>IDS_CONNECT_NETWORK</source>
@@ -237,19 +237,64 @@
     </message>
     <message>
         <source>IDS_CONNECT_NONE</source>
-        <translation>圏内にネットワークがありません。利用できるようになったら、このウィンドウをもう一度開いてください。</translation>
+        <translation>圏内にネットワークがありません。見つかると、ここに表示されます。</translation>
     </message>
     <message>
-        <source>IDS_CONNECT_NO_WLAN</source>
-        <translation>Wi-Fi プラグインを利用できないため、接続できるネットワークがありません。</translation>
+        <source>IDS_CONNECT_SECURITY</source>
+        <extracomment>Heads a column of what networks in range ask for</extracomment>
+        <translation>セキュリティ</translation>
     </message>
     <message>
-        <source>IDS_CONNECT_NO_PRIORITY</source>
-        <translation>リストを管理するプラグインを利用できないため、ネットワークをリストの先頭に移動できません。</translation>
+        <source>IDS_PROTECTION_OPEN</source>
+        <extracomment>What a network in range asks for</extracomment>
+        <translation>キーなし</translation>
     </message>
     <message>
-        <source>IDS_CONNECT_DAMAGED</source>
-        <translation>リスト全体を読み取れないため、ネットワークをリストの先頭に移動できません。</translation>
+        <source>IDS_PROTECTION_KEY</source>
+        <translation>キー</translation>
+    </message>
+    <message>
+        <source>IDS_PROTECTION_WEAK</source>
+        <extracomment>What a network in range asks for; 200 pixels</extracomment>
+        <translation>弱いキー (WEP)</translation>
+    </message>
+    <message>
+        <source>IDS_PROTECTION_ACCOUNT</source>
+        <translation>アカウント</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_SAVED</source>
+        <extracomment>Behind what a network in range asks for</extracomment>
+        <translation>登録済み</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_KEY</source>
+        <extracomment>Label of a field. %1: a network</extracomment>
+        <translation>%1 のキー</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_SHOW_KEY</source>
+        <translation>キーを表示</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_ACCOUNT</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>%1 にはアカウントが必要です。デスクトップのネットワーク設定で設定してください。</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_AWAY</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>%1 は圏内になくなりました。</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_STOP</source>
+        <extracomment>Button, in the place of Cancel while a network is being connected</extracomment>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NOT_SAVED</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>%1 に接続しましたが、登録できませんでした。</translation>
     </message>
     <message>
         <source>IDS_CLOSE</source>

@@ -217,7 +217,7 @@ Você pode usar letras, números e estes símbolos:
     </message>
     <message>
         <source>IDS_CONNECT_HINT</source>
-        <translation>A rede à qual você se conectar vai para o topo da sua lista.</translation>
+        <translation>Uma rede que não está na sua lista vai para o fim dela.</translation>
     </message>
     <message>
         <source>IDS_CONNECT_NETWORK</source>
@@ -237,19 +237,64 @@ Você pode usar letras, números e estes símbolos:
     </message>
     <message>
         <source>IDS_CONNECT_NONE</source>
-        <translation>Nenhuma rede está ao alcance. Abra esta janela novamente quando houver uma.</translation>
+        <translation>Nenhuma rede está ao alcance. Quando houver uma, ela aparecerá aqui.</translation>
     </message>
     <message>
-        <source>IDS_CONNECT_NO_WLAN</source>
-        <translation>O plug-in de Wi-Fi não está disponível, portanto não há rede à qual se conectar.</translation>
+        <source>IDS_CONNECT_SECURITY</source>
+        <extracomment>Heads a column of what networks in range ask for</extracomment>
+        <translation>Segurança</translation>
     </message>
     <message>
-        <source>IDS_CONNECT_NO_PRIORITY</source>
-        <translation>O plug-in que gerencia a lista não está disponível, portanto nenhuma rede pode ser colocada no topo da sua lista.</translation>
+        <source>IDS_PROTECTION_OPEN</source>
+        <extracomment>What a network in range asks for</extracomment>
+        <translation>Sem chave</translation>
     </message>
     <message>
-        <source>IDS_CONNECT_DAMAGED</source>
-        <translation>Sua lista não pode ser lida por inteiro, portanto nenhuma rede pode ser colocada no topo dela.</translation>
+        <source>IDS_PROTECTION_KEY</source>
+        <translation>Chave</translation>
+    </message>
+    <message>
+        <source>IDS_PROTECTION_WEAK</source>
+        <extracomment>What a network in range asks for; 200 pixels</extracomment>
+        <translation>Chave fraca (WEP)</translation>
+    </message>
+    <message>
+        <source>IDS_PROTECTION_ACCOUNT</source>
+        <translation>Conta</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_SAVED</source>
+        <extracomment>Behind what a network in range asks for</extracomment>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_KEY</source>
+        <extracomment>Label of a field. %1: a network</extracomment>
+        <translation>Chave de %1</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_SHOW_KEY</source>
+        <translation>Mostrar a chave</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_ACCOUNT</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>%1 precisa de uma conta. É possível configurar a conta nas configurações de rede da sua área de trabalho.</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_AWAY</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>%1 não está mais ao alcance.</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_STOP</source>
+        <extracomment>Button, in the place of Cancel while a network is being connected</extracomment>
+        <translation>Parar</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NOT_SAVED</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>%1 está com a conexão ativa, mas não pôde ser salva.</translation>
     </message>
     <message>
         <source>IDS_CLOSE</source>

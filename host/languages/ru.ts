@@ -217,7 +217,7 @@
     </message>
     <message>
         <source>IDS_CONNECT_HINT</source>
-        <translation>Сеть, к которой вы подключаетесь, перемещается в начало вашего списка.</translation>
+        <translation>Сеть, которой нет в вашем списке, попадёт в его конец.</translation>
     </message>
     <message>
         <source>IDS_CONNECT_NETWORK</source>
@@ -237,19 +237,64 @@
     </message>
     <message>
         <source>IDS_CONNECT_NONE</source>
-        <translation>В зоне действия нет ни одной сети. Когда сеть появится, откройте это окно снова.</translation>
+        <translation>Нет сетей в зоне действия. Как только такая сеть появится, она будет показана здесь.</translation>
     </message>
     <message>
-        <source>IDS_CONNECT_NO_WLAN</source>
-        <translation>Модуль Wi-Fi недоступен, поэтому нет сети, к которой можно подключиться.</translation>
+        <source>IDS_CONNECT_SECURITY</source>
+        <extracomment>Heads a column of what networks in range ask for</extracomment>
+        <translation>Защита</translation>
     </message>
     <message>
-        <source>IDS_CONNECT_NO_PRIORITY</source>
-        <translation>Модуль, который ведёт список, недоступен, поэтому поместить сеть в начало вашего списка нельзя.</translation>
+        <source>IDS_PROTECTION_OPEN</source>
+        <extracomment>What a network in range asks for</extracomment>
+        <translation>Без ключа</translation>
     </message>
     <message>
-        <source>IDS_CONNECT_DAMAGED</source>
-        <translation>Ваш список не удаётся прочитать полностью, поэтому поместить сеть в его начало нельзя.</translation>
+        <source>IDS_PROTECTION_KEY</source>
+        <translation>Ключ</translation>
+    </message>
+    <message>
+        <source>IDS_PROTECTION_WEAK</source>
+        <extracomment>What a network in range asks for; 200 pixels</extracomment>
+        <translation>Слабый ключ (WEP)</translation>
+    </message>
+    <message>
+        <source>IDS_PROTECTION_ACCOUNT</source>
+        <translation>Учётная запись</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_SAVED</source>
+        <extracomment>Behind what a network in range asks for</extracomment>
+        <translation>Сохранена</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_KEY</source>
+        <extracomment>Label of a field. %1: a network</extracomment>
+        <translation>Ключ сети %1</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_SHOW_KEY</source>
+        <translation>Показать ключ</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_ACCOUNT</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>Сети %1 нужна учётная запись. Её можно настроить в настройках сети рабочего стола.</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_AWAY</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>%1 больше не в зоне действия.</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_STOP</source>
+        <extracomment>Button, in the place of Cancel while a network is being connected</extracomment>
+        <translation>Остановить</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NOT_SAVED</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>Сеть %1 подключена, но не сохранена: сохранить её не удалось.</translation>
     </message>
     <message>
         <source>IDS_CLOSE</source>

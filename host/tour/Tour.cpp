@@ -597,22 +597,27 @@ void Tour::Connect()
                 ExpectNames("the dialog", NamesOf(table), NetworksInRange());
             }
         });
+    m_selected = Entry(QLatin1String("Neighbour"), QLatin1String("1"));
     Step(
-        "connect-ok", "one is chosen; to be connected puts it at the top of the list",
+        "connect-key", "one is chosen that asks for a key, and gets it",
         [this] {
-            QTableWidget *table = FindOf<QTableWidget>("connectList");
-            if (!table) {
-                return;
+            if (QTableWidget *table = FindOf<QTableWidget>("connectList")) {
+                FailIf(UserActions::ClickRow(table,
+                                             static_cast<int>(NetworksInRange().indexOf(m_selected.name))));
             }
-            const int row = table->rowCount() - 1;
-            m_selected = Entry(NetworksInRange().value(row), QLatin1String("1"));
-            FailIf(UserActions::ClickRow(table, row));
+            QTest::qWait(layoutMilliseconds);
+            Fill("connectKeyEdit", QLatin1String("sea-and-sand"));
+        },
+        [this] {
+            const QWidget *ok = Find("connectOkButton");
+            Expect(ok && ok->isEnabled(), "it can be connected");
+        });
+    Step(
+        "connect-ok", "once it is connected the dialog closes, and it stands at the end of the list",
+        [this] {
             m_listBefore = m_expected;
-            const int place = PlaceOf(m_selected);
-            if (place >= 0) {
-                m_expected.removeAt(place);
-            }
-            m_expected.prepend(m_selected);
+            m_expected.append(m_selected);
+            m_inUse = m_selected.name;
             Click("connectOkButton");
         },
         [this] { ExpectOpen("connectDialog", false); });
@@ -624,7 +629,7 @@ void Tour::Connect()
         },
         [this] { ExpectUndoAndRedo(true, true); });
     Step(
-        "redo", "the Redo button puts it at the top again",
+        "redo", "the Redo button puts it there again",
         [this] {
             SwapWithListBefore();
             Click("redoButton");

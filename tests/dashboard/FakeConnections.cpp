@@ -51,7 +51,10 @@ void FakeConnections::GetAttempt(int, ConnectAttempt *result)
     *result = attempt;
 }
 
-void FakeConnections::CancelAttempt(int) {}
+void FakeConnections::CancelAttempt(int number)
+{
+    cancelled.append(number);
+}
 
 void FakeConnections::Tell()
 {

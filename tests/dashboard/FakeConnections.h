@@ -40,6 +40,7 @@ public:
     QStringList ordered;
     /** The networks that were ordered to be connected, "id/key" each. */
     QStringList joined;
+    QList<int> cancelled;
     /** The connections that were ordered to be ended. */
     QStringList ended;
     int reads = 0;

@@ -3,7 +3,7 @@
 int FakePriority::GetPriorityList(QList<PriorityList> *out)
 {
     *out += list;
-    return 0;
+    return status;
 }
 
 void FakePriority::AddPriorityList(QList<PriorityList> &entries)

@@ -19,6 +19,8 @@ public:
     /** What was put on top, "name/type" each, in the order of the calls. */
     QStringList toppedEntries;
     QList<PriorityList> list;
+    /** What is answered with it. */
+    int status = 0;
 
 signals:
     void OnUpdataPriorityView();

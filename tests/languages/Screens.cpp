@@ -301,9 +301,15 @@ const Screens::Screen Screens::screens[] = {
     {"notice, not stored, changed by another", &Screens::ShowStoringNotice, "IDS_WLAN_BUSY"},
     {"connect dialog", &Screens::ShowConnect, nullptr},
     {"connect dialog, nothing in range", &Screens::ShowConnect, noNetworks},
-    {"connect dialog, Wi-Fi plug-in missing", &Screens::ShowConnectWithout, "WLAN"},
-    {"connect dialog, priority plug-in missing", &Screens::ShowConnectWithout, "priority"},
-    {"connect dialog, list damaged", &Screens::ShowConnectOfDamagedList, nullptr},
+    {"connect dialog, key asked for", &Screens::ShowConnecting, "key"},
+    {"connect dialog, no key of WPA", &Screens::ShowConnecting, "no key"},
+    {"connect dialog, no key of WEP", &Screens::ShowConnecting, "no WEP key"},
+    {"connect dialog, account needed", &Screens::ShowConnecting, "account"},
+    {"connect dialog, connecting", &Screens::ShowConnecting, "connecting"},
+    {"connect dialog, key refused", &Screens::ShowConnecting, "refused"},
+    {"connect dialog, not saved", &Screens::ShowConnecting, "not saved"},
+    {"connect dialog, network gone", &Screens::ShowConnecting, "away"},
+    {"connect dialog, NetworkManager gone", &Screens::ShowConnecting, "gone"},
     {"language file damaged", &Screens::ShowDamagedLanguage, "damaged"},
     {"language file without texts", &Screens::ShowDamagedLanguage, "empty"},
     {"language file not readable", &Screens::ShowDamagedLanguage, "unreadable"},
@@ -639,30 +645,57 @@ void Screens::ShowConnect(const char *networksInRange)
     Visit();
 }
 
-void Screens::ShowConnectWithout(const char *plugin)
+void Screens::ShowConnecting(const char *what)
 {
-    OpenWindow(m_plugins.data());
-    if (QByteArray(plugin) == "WLAN") {
-        HostControl::SetPluginContainer(nullptr);
-        m_window->Refresh();
-        m_window->OpenConnect();
-    } else {
-        Click("connectButton");
-        HostControl::SetPluginContainer(nullptr);
-        m_window->Refresh();
-        Click("connectOkButton");
+    const QByteArray shown(what);
+    FakeConnections connections;
+    const int protections[] = {VisibleNetwork::ProtectionKey, VisibleNetwork::ProtectionWeakKey,
+                               VisibleNetwork::ProtectionAccount, VisibleNetwork::ProtectionOpen,
+                               VisibleNetwork::ProtectionKey};
+    const char *const names[] = {"Neighbour", "Workshop", "Campus", "Library", "Home"};
+    int signal = 90;
+    for (int protection : protections) {
+        VisibleNetwork network;
+        network.name = QLatin1String(names[connections.told.networks.size()]);
+        network.id = network.name;
+        network.protection = protection;
+        network.signal = signal;
+        signal -= 9;
+        connections.told.networks.append(network);
     }
-    Visit();
-}
-
-void Screens::ShowConnectOfDamagedList(const char *)
-{
-    Fill();
+    connections.told.networks[3].isInUse = true;
+    connections.told.networks[4].profileIds << QLatin1String("Home");
+    if (shown == "no key" || shown == "no WEP key") {
+        connections.answer = IConnectionPlugin::RefusedKey;
+    }
+    connections.attempt.stage = shown == "connecting" ? StageAuthenticating
+                                : shown == "refused"  ? StageFailed
+                                                      : StageConnected;
+    connections.attempt.failure = shown == "refused" ? FailureWrongKey : FailureNotStored;
+    WithConnections container(m_plugins.data(), &connections);
+    HostControl::SetPluginContainer(&container);
     OpenWindow(m_plugins.data());
     Click("connectButton");
-    WriteUserFile(QLatin1String("Priority.xml"), damagedList);
-    Click("connectOkButton");
+    Child<QTableWidget>("connectList")
+        ->setCurrentCell(shown == "account"      ? 2
+                         : shown == "no WEP key" ? 1
+                                                 : 0,
+                         0);
+    Child<QLineEdit>("connectKeyEdit")->setText(QLatin1String("sea-and-sand"));
+    if (shown != "key" && shown != "account" && shown != "away") {
+        Click("connectOkButton");
+    }
+    if (shown == "away") {
+        connections.told.networks.removeFirst();
+        connections.Tell();
+    } else if (shown == "gone") {
+        connections.told.state.source = ConnectionState::SourceGone;
+        connections.told.networks.clear();
+        connections.Tell();
+    }
     Visit();
+    m_window.reset();
+    HostControl::SetPluginContainer(m_plugins.data());
 }
 
 void Screens::ShowDamagedLanguage(const char *kind)

@@ -76,8 +76,7 @@ private:
     void ShowNameNotice(const char *name);
     void ShowStoringNotice(const char *id);
     void ShowConnect(const char *networksInRange);
-    void ShowConnectWithout(const char *plugin);
-    void ShowConnectOfDamagedList(const char *);
+    void ShowConnecting(const char *what);
     void ShowDamagedLanguage(const char *kind);
     void ShowHistory(const char *listFile);
     void ShowHistoryFile(const char *content);

@@ -35,7 +35,7 @@ const Family families[] = {
     {"CHANGE_(EMPTIED|.*_MANY)|PLAN_(EMPTY|.*_MANY)", "network"},
     {"_STORED", "practice network"},
     {"IMPORT_(EFFECT_)?UNKNOWN|EMPTY_HINT", "saved"},
-    {"(CHANGE|PLAN)_.*_TOP|IDS_CONNECT_HINT|CONNECT_NO_PRIORITY", "top"},
+    {"(CHANGE|PLAN)_.*_TOP", "top"},
     {"IDS_AUTHENTICATION|WRONG_AUTHENTICATION", "security"},
     {"_NOT_KEPT|(LIST|HISTORY|CHANGE|REDO|LANGUAGE)_DAMAGED", "damaged"},
     {"IDS_LOAD_|GENERAL_PLUGINS|PLUGIN_LIBRARY|NO_PLUGIN|NO_WLAN|NOT_OFFERED", "plug-in"},

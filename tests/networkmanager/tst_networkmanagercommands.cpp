@@ -88,7 +88,7 @@ void tst_networkmanagercommands::ConnectWaitsUntilItIsUp()
     QProcess process;
     ChangeEnvironment(&process, Environment());
     process.start(BUILD_DIRECTORY "/bin/priority-dashboard", {"--connect", "Home"});
-    QTRY_COMPARE_WITH_TIMEOUT(m_fake->ConnectionPaths().size(), 1, 30000);
+    QTRY_VERIFY_WITH_TIMEOUT(m_fake->ConnectionPaths().size() == 1, 30000);
     QVERIFY(!process.waitForFinished(500));
     m_fake->SetConnectionState(m_fake->ConnectionPaths().constFirst(), activated);
     const Outcome outcome = OutcomeOf(&process);

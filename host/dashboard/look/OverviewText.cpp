@@ -321,6 +321,11 @@ QString OverviewText::Reason(const Overview &overview, int place)
     return Sentences(sentences);
 }
 
+QString OverviewText::Stage(int stage)
+{
+    return TextOf(stages, stage);
+}
+
 QString OverviewText::Failure(int failure)
 {
     return TextOf(failures, failure);

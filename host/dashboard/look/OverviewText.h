@@ -27,6 +27,9 @@ QString Kind(const Overview::Entry &entry);
 QString State(const Overview &overview, int place);
 QString Reason(const Overview &overview, int place);
 
+/** How far a network is that is coming up, a ConnectionStage; empty when it is not. */
+QString Stage(int stage);
+
 /** Why a network could not be connected, a ConnectionFailure; empty when nothing has failed. */
 QString Failure(int failure);
 

@@ -449,15 +449,10 @@ void MainWindow::FollowHistory()
 
 void MainWindow::ShowConnect()
 {
-    const char *obstacle = nullptr;
-    if (!PluginObjects::Wlan()) {
-        obstacle = "IDS_CONNECT_NO_WLAN";
-    } else if (m_overview.status < 0) {
-        obstacle = "IDS_CONNECT_NO_PRIORITY";
-    }
-    m_connectAction->setEnabled(!obstacle);
-    m_connectButton->setEnabled(!obstacle);
-    m_connectButton->setToolTip(obstacle ? DashboardText(obstacle) : QString());
+    const bool areKnown = m_overview.connections.AreKnown();
+    m_connectAction->setEnabled(areKnown);
+    m_connectButton->setEnabled(areKnown);
+    m_connectButton->setToolTip(areKnown ? QString() : OverviewText::Explanation(m_overview).toHtmlEscaped());
 }
 
 void MainWindow::ShowHead()

@@ -1,16 +1,18 @@
+#include "FakeConnections.h"
 #include "FakePriority.h"
+#include "Lists.h"
 
 #include <ConnectDialog.h>
+#include <ContractNumbers.h>
 #include <DashboardLanguage.h>
-#include <FakeWLAN.h>
 #include <HostControl.h>
-#include <IPluginContainer.h>
 #include <WindowActivation.h>
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
-#include <QSignalSpy>
 #include <QTableWidget>
 #include <QtTest>
 
@@ -18,38 +20,25 @@ namespace
 {
 
 const int nameColumn = 0;
-const int signalColumn = 1;
+const int detailsColumn = 1;
+const int signalColumn = 2;
 
-WlanAvilableNetworkInfo Network(const QString &name, int signal)
-{
-    WlanAvilableNetworkInfo network;
-    network.networkName = name;
-    network.value1 = signal;
-    return network;
-}
-
-/** Plug-ins that come and go. */
-class Container : public IPluginContainer
+/** Hands out the list. */
+class ListContainer : public IPluginContainer
 {
 public:
-    QObject *GetPluginObject(const QString &classId, int interfaceNumber) override
+    QObject *GetPluginObject(const QString &, int interfaceNumber) override
     {
-        if (classId == "7545FB07-0E7A-4F27-A449-872DB09C106D" && interfaceNumber == 4102) {
-            return wlan;
-        }
-        if (classId == "D78C8E0F-7A3F-4f51-87E3-753F0F7F0E05" && interfaceNumber == 4103) {
-            return priority;
-        }
-        return nullptr;
+        const int priorityInterface = 4103;
+        return interfaceNumber == priorityInterface ? priority : nullptr;
     }
 
-    QObject *wlan = nullptr;
     QObject *priority = nullptr;
 };
 
 } // namespace
 
-/** The dialog over plug-ins that are plain objects. */
+/** The dialog over connections and a list that are plain objects. */
 class ConnectDialogTest : public QObject
 {
     Q_OBJECT
@@ -58,40 +47,50 @@ private slots:
     void init();
     void cleanup();
 
-    void NetworksAreListedInOrderWithTheirSignal();
-    void SignalThatIsNoPercentageIsNotShown_data();
-    void SignalThatIsNoPercentageIsNotShown();
-    void NetworkOfSeveralStationsIsListedOnce();
-    void HiddenNetworkIsNotListed();
+    void NetworksAreListedAsTheyAreTold();
     void NamesAreShownAsPlainText();
-    void NameWithLineBreaksHasOneLineAndStaysItself();
-    void BestNetworkIsChosenAndTheListHasTheFocus();
-    void ChosenNetworkGoesOnTop();
-    void KeysChooseAndConnect();
-    void DoubleClickConnects();
-    void OtherWaysOutChangeNothing_data();
-    void OtherWaysOutChangeNothing();
-    void NothingChosenCannotBeConnectedTo();
-    void NoNetworkInRangeIsTold();
-    void MissingWLANPluginIsTold();
-    void NetworkThatVanishedStillGoesOnTop();
-    void PriorityPluginIsLookedUpWhenItIsNeeded();
-    void MissingPriorityPluginIsToldAndTheChoiceKept();
+    void NetworksComeAndGo();
+    void DevicesLookForNetworksWhenItOpens();
+    void BestNetworkThatIsNotInUseIsChosen();
+    void ChosenNetworkStaysChosen();
+    void NetworkThatHasGoneIsToldAndNoOtherIsChosen();
+    void KeyIsAskedForWhereItIsNeeded_data();
+    void KeyIsAskedForWhereItIsNeeded();
+    void NetworkIsConnected_data();
+    void NetworkIsConnected();
+    void KeyOfOneNetworkIsNotGivenToAnother();
+    void KeyCanBeShown();
+    void ProgressIsToldAndTheDialogClosesWhenItIsConnected();
+    void FailureIsToldAndTheKeyCanBeTypedAgain();
+    void WhatIsUnderWayCanBeStopped_data();
+    void WhatIsUnderWayCanBeStopped();
+    void RefusalIsTold_data();
+    void RefusalIsTold();
+    void ConnectedNetworkIsPutAtTheEndOfTheList_data();
+    void ConnectedNetworkIsPutAtTheEndOfTheList();
+    void NetworkThatCouldNotBeSavedIsToldAndNotListed();
+    void OtherWaysOutOrderNothing_data();
+    void OtherWaysOutOrderNothing();
+    void NothingInRangeIsTold();
+    void SourceThatGoesIsTold();
     void TextsAndSidesFollowTheLanguage_data();
     void TextsAndSidesFollowTheLanguage();
 
 private:
     void Open();
+    void Choose(const QString &name) const;
+    void ConnectTo(const QString &name);
     QTableWidget *List() const { return m_dialog->findChild<QTableWidget *>("connectList"); }
     QPushButton *Button(const char *name) const { return m_dialog->findChild<QPushButton *>(name); }
-    QLabel *Label(const char *name) const { return m_dialog->findChild<QLabel *>(name); }
+    QLineEdit *Key() const { return m_dialog->findChild<QLineEdit *>("connectKeyEdit"); }
+    QString Outcome() const;
+    QString Chosen() const;
     QStringList Column(int column) const;
-    void ClickRow(int row) const;
 
-    FakeWLAN *m_wlan;
-    FakePriority *m_priority;
-    QScopedPointer<QObject> m_plugins;
-    Container m_container;
+    QScopedPointer<FakeConnections> m_fake;
+    QScopedPointer<FakePriority> m_priority;
+    ListContainer m_list;
+    QScopedPointer<WithConnections> m_container;
     QScopedPointer<ConnectDialog> m_dialog;
 };
 
@@ -99,22 +98,36 @@ void ConnectDialogTest::init()
 {
     HostControl::SetLanguageDirectory(QLatin1String(BUILD_DIRECTORY "/share/priority-dashboard/languages"));
     QVERIFY(DashboardLanguage::Apply("en"));
-    m_plugins.reset(new QObject);
-    m_wlan = new FakeWLAN;
-    m_wlan->setParent(m_plugins.data());
-    m_wlan->networks << Network("Home", 92) << Network("Library", 38) << Network("Campus", 19);
-    m_priority = new FakePriority;
-    m_priority->setParent(m_plugins.data());
-    m_container.wlan = m_wlan;
-    m_container.priority = m_priority;
-    HostControl::SetPluginContainer(&m_container);
+    m_fake.reset(new FakeConnections);
+    const struct {
+        const char *name;
+        int protection;
+        int signal;
+    } networks[] = {{"Home", VisibleNetwork::ProtectionKey, 92},
+                    {"Neighbour", VisibleNetwork::ProtectionKey, 71},
+                    {"Park", VisibleNetwork::ProtectionOpen, 64},
+                    {"Workshop", VisibleNetwork::ProtectionWeakKey, 27},
+                    {"Campus", VisibleNetwork::ProtectionAccount, -1}};
+    for (const auto &shown : networks) {
+        VisibleNetwork network;
+        network.id = QLatin1String("id of ") + shown.name;
+        network.name = shown.name;
+        network.protection = shown.protection;
+        network.signal = shown.signal;
+        m_fake->told.networks.append(network);
+    }
+    m_fake->told.networks[0].profileIds << "1Home";
+    m_fake->attempt.stage = StagePreparing;
+    m_priority.reset(new FakePriority);
+    m_list.priority = m_priority.data();
+    m_container.reset(new WithConnections(&m_list, m_fake.data()));
+    HostControl::SetPluginContainer(m_container.data());
 }
 
 void ConnectDialogTest::cleanup()
 {
     m_dialog.reset();
     HostControl::SetPluginContainer(nullptr);
-    m_plugins.reset();
 }
 
 void ConnectDialogTest::Open()
@@ -122,6 +135,35 @@ void ConnectDialogTest::Open()
     m_dialog.reset(new ConnectDialog(nullptr));
     m_dialog->show();
     ActivateWindow(m_dialog.data());
+}
+
+void ConnectDialogTest::Choose(const QString &name) const
+{
+    const QModelIndex index =
+        List()->model()->index(static_cast<int>(Column(nameColumn).indexOf(name)), nameColumn);
+    QTest::mouseClick(List()->viewport(), Qt::LeftButton, Qt::NoModifier, List()->visualRect(index).center());
+}
+
+void ConnectDialogTest::ConnectTo(const QString &name)
+{
+    Open();
+    Choose(name);
+    if (Key()->isVisible()) {
+        QTest::keyClicks(Key(), "sea-and-sand");
+    }
+    QTest::mouseClick(Button("connectOkButton"), Qt::LeftButton);
+}
+
+QString ConnectDialogTest::Outcome() const
+{
+    const QLabel *label = m_dialog->findChild<QLabel *>("connectOutcomeLabel");
+    return label->isVisible() ? Plain(label->text()) : QString();
+}
+
+QString ConnectDialogTest::Chosen() const
+{
+    const QModelIndexList rows = List()->selectionModel()->selectedRows();
+    return rows.isEmpty() ? QString() : rows.first().data().toString();
 }
 
 QStringList ConnectDialogTest::Column(int column) const
@@ -133,119 +175,266 @@ QStringList ConnectDialogTest::Column(int column) const
     return texts;
 }
 
-void ConnectDialogTest::ClickRow(int row) const
+void ConnectDialogTest::NetworksAreListedAsTheyAreTold()
 {
-    const QModelIndex index = List()->model()->index(row, nameColumn);
-    QTest::mouseClick(List()->viewport(), Qt::LeftButton, Qt::NoModifier, List()->visualRect(index).center());
-}
-
-void ConnectDialogTest::NetworksAreListedInOrderWithTheirSignal()
-{
+    m_fake->told.networks[2].isInUse = true;
     Open();
-    QVERIFY(List()->isVisible());
-    QCOMPARE(Column(nameColumn), QStringList() << "Home"
-                                               << "Library"
-                                               << "Campus");
-    QCOMPARE(Column(signalColumn), QStringList() << "92%"
-                                                 << "38%"
-                                                 << "19%");
-}
-
-void ConnectDialogTest::SignalThatIsNoPercentageIsNotShown_data()
-{
-    QTest::addColumn<int>("value");
-    QTest::addColumn<QString>("shown");
-    QTest::newRow("least") << 0 << "0%";
-    QTest::newRow("most") << 100 << "100%";
-    QTest::newRow("above") << 101 << "";
-    QTest::newRow("decibels") << -67 << "";
-}
-
-void ConnectDialogTest::SignalThatIsNoPercentageIsNotShown()
-{
-    QFETCH(int, value);
-    m_wlan->networks.first().value1 = value;
-    Open();
-    QTEST(Column(signalColumn).first(), "shown");
-}
-
-void ConnectDialogTest::NetworkOfSeveralStationsIsListedOnce()
-{
-    m_wlan->networks << Network("Home", 12) << Network("home", 11);
-    Open();
-    QCOMPARE(Column(nameColumn), QStringList() << "Home"
-                                               << "Library"
-                                               << "Campus"
-                                               << "home");
-    QCOMPARE(Column(signalColumn).first(), QString("92%"));
-}
-
-void ConnectDialogTest::HiddenNetworkIsNotListed()
-{
-    m_wlan->networks.prepend(Network("", 99));
-    Open();
-    QCOMPARE(Column(nameColumn).first(), QString("Home"));
-    QCOMPARE(List()->rowCount(), 3);
+    QCOMPARE(Column(nameColumn).join(','), QString("Home,Neighbour,Park,Workshop,Campus"));
+    QCOMPARE(Column(detailsColumn).join(','),
+             QString::fromUtf8("Key · Saved,Key,Connected,Weak key (WEP),Account"));
+    QCOMPARE(Column(signalColumn).join(','), QString("92%,71%,64%,27%,"));
 }
 
 void ConnectDialogTest::NamesAreShownAsPlainText()
 {
-    m_wlan->networks.prepend(Network("<b>A</b> & B", 99));
+    m_fake->told.networks[0].name = "<b>A</b> & B";
+    m_fake->told.networks[1].name = " two\nlines";
     Open();
-    const QTableWidgetItem *item = List()->item(0, nameColumn);
-    QCOMPARE(item->text(), QString("<b>A</b> & B"));
-    QCOMPARE(item->toolTip(), QString("&lt;b&gt;A&lt;/b&gt; &amp; B"));
+    QCOMPARE(List()->item(0, nameColumn)->text(), QString("<b>A</b> & B"));
+    QCOMPARE(List()->item(0, nameColumn)->toolTip(), QString("&lt;b&gt;A&lt;/b&gt; &amp; B"));
+    QCOMPARE(List()->item(1, nameColumn)->text(), QString("two lines"));
 }
 
-void ConnectDialogTest::NameWithLineBreaksHasOneLineAndStaysItself()
+void ConnectDialogTest::NetworksComeAndGo()
 {
-    m_wlan->networks.prepend(Network(" two\nlines", 99));
     Open();
-    QCOMPARE(Column(nameColumn).first(), QString("two lines"));
-    QTest::mouseClick(Button("connectOkButton"), Qt::LeftButton);
-    QCOMPARE(m_priority->toppedEntries, QStringList(" two\nlines/1"));
+    m_fake->told.networks.removeFirst();
+    m_fake->told.networks[0].signal = 5;
+    m_fake->Tell();
+    QCOMPARE(Column(nameColumn).join(','), QString("Neighbour,Park,Workshop,Campus"));
+    QCOMPARE(Column(signalColumn).first(), QString("5%"));
 }
 
-void ConnectDialogTest::BestNetworkIsChosenAndTheListHasTheFocus()
+void ConnectDialogTest::DevicesLookForNetworksWhenItOpens()
 {
     Open();
-    QCOMPARE(List()->currentRow(), 0);
+    m_fake->Tell();
+    QCOMPARE(m_fake->looks, 1);
+}
+
+void ConnectDialogTest::BestNetworkThatIsNotInUseIsChosen()
+{
+    m_fake->told.networks[0].isInUse = true;
+    Open();
+    QCOMPARE(Chosen(), QString("Neighbour"));
     QVERIFY(List()->hasFocus());
-    QVERIFY(Button("connectOkButton")->isEnabled());
 }
 
-void ConnectDialogTest::ChosenNetworkGoesOnTop()
+void ConnectDialogTest::ChosenNetworkStaysChosen()
 {
     Open();
-    ClickRow(1);
+    Choose("Park");
+    m_fake->told.networks.move(2, 0);
+    m_fake->Tell();
+    QCOMPARE(Chosen(), QString("Park"));
+}
+
+void ConnectDialogTest::NetworkThatHasGoneIsToldAndNoOtherIsChosen()
+{
+    Open();
+    Choose("Park");
+    m_fake->told.networks.removeAt(2);
+    m_fake->Tell();
+    QCOMPARE(Chosen(), QString());
+    QCOMPARE(Outcome(), QString("Park is no longer in range."));
+    QVERIFY(!Button("connectOkButton")->isEnabled());
+    m_dialog->accept();
+    QVERIFY(m_fake->joined.isEmpty());
+}
+
+void ConnectDialogTest::KeyIsAskedForWhereItIsNeeded_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("isAskedFor");
+    QTest::addColumn<bool>("canConnect");
+    QTest::newRow("saved") << "Home" << false << true;
+    QTest::newRow("not saved") << "Neighbour" << true << false;
+    QTest::newRow("open") << "Park" << false << true;
+    QTest::newRow("WEP") << "Workshop" << true << false;
+    QTest::newRow("account") << "Campus" << false << false;
+}
+
+void ConnectDialogTest::KeyIsAskedForWhereItIsNeeded()
+{
+    QFETCH(QString, name);
+    QFETCH(bool, isAskedFor);
+    Open();
+    Choose(name);
+    QCOMPARE(Key()->isVisible(), isAskedFor);
+    QTEST(Button("connectOkButton")->isEnabled(), "canConnect");
+    if (isAskedFor) {
+        QCOMPARE(Plain(Key()->accessibleName()), "Key of " + name);
+        QTest::keyClicks(Key(), "x");
+        QVERIFY(Button("connectOkButton")->isEnabled());
+    }
+}
+
+void ConnectDialogTest::NetworkIsConnected_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("ordered");
+    QTest::newRow("saved") << "Home"
+                           << "id of Home/";
+    QTest::newRow("open") << "Park"
+                          << "id of Park/";
+    QTest::newRow("with a key") << "Neighbour"
+                                << "id of Neighbour/sea-and-sand";
+}
+
+void ConnectDialogTest::NetworkIsConnected()
+{
+    QFETCH(QString, name);
+    ConnectTo(name);
+    QTEST(m_fake->joined.join(','), "ordered");
+    QVERIFY(m_dialog->isVisible());
+}
+
+void ConnectDialogTest::KeyOfOneNetworkIsNotGivenToAnother()
+{
+    Open();
+    Choose("Neighbour");
+    QTest::keyClicks(Key(), "sea-and-sand");
+    Choose("Workshop");
+    QCOMPARE(Key()->text(), QString());
+    Choose("Neighbour");
+    QTest::keyClicks(Key(), "sea-and-sand");
+    // Somebody has saved it meanwhile, with a key of its own.
+    m_fake->told.networks[1].profileIds << "saved";
+    m_fake->Tell();
     QTest::mouseClick(Button("connectOkButton"), Qt::LeftButton);
-    QCOMPARE(m_priority->toppedEntries, QStringList("Library/1"));
+    QCOMPARE(m_fake->joined, QStringList("id of Neighbour/"));
+}
+
+void ConnectDialogTest::KeyCanBeShown()
+{
+    Open();
+    Choose("Neighbour");
+    QCOMPARE(Key()->echoMode(), QLineEdit::Password);
+    QTest::mouseClick(m_dialog->findChild<QCheckBox *>("connectShowKeyBox"), Qt::LeftButton, Qt::NoModifier,
+                      QPoint(5, 5));
+    QCOMPARE(Key()->echoMode(), QLineEdit::Normal);
+}
+
+void ConnectDialogTest::ProgressIsToldAndTheDialogClosesWhenItIsConnected()
+{
+    ConnectTo("Park");
+    QCOMPARE(Outcome(), QString("The connection is being prepared."));
+    QVERIFY(!List()->isEnabled() && !Button("connectOkButton")->isEnabled());
+    m_fake->attempt.stage = StageAuthenticating;
+    m_fake->Tell();
+    QCOMPARE(Outcome(), QString("The key is being checked."));
+    m_fake->attempt.stage = StageGettingAddress;
+    m_fake->Tell();
+    QCOMPARE(Outcome(), QString("The network is being asked for an address."));
+    m_fake->attempt.stage = StageConnected;
+    m_fake->Tell();
     QVERIFY(!m_dialog->isVisible());
     QCOMPARE(m_dialog->result(), static_cast<int>(QDialog::Accepted));
 }
 
-void ConnectDialogTest::KeysChooseAndConnect()
+void ConnectDialogTest::FailureIsToldAndTheKeyCanBeTypedAgain()
 {
-    Open();
-    QTest::keyClick(List(), Qt::Key_Down);
-    QTest::keyClick(List(), Qt::Key_Down);
-    QTest::keyClick(List(), Qt::Key_Return);
-    QCOMPARE(m_priority->toppedEntries, QStringList("Campus/1"));
+    ConnectTo("Neighbour");
+    m_fake->attempt.stage = StageFailed;
+    m_fake->attempt.failure = FailureWrongKey;
+    m_fake->Tell();
+    QCOMPARE(Outcome(), QString("Neighbour was not connected. When last tried, the key was refused."));
+    QCOMPARE(Key()->selectedText(), QString("sea-and-sand"));
+    QVERIFY(Key()->hasFocus() && Button("connectOkButton")->isEnabled());
+}
+
+void ConnectDialogTest::WhatIsUnderWayCanBeStopped_data()
+{
+    QTest::addColumn<bool>("byKey");
+    QTest::newRow("button") << false;
+    QTest::newRow("Escape") << true;
+}
+
+void ConnectDialogTest::WhatIsUnderWayCanBeStopped()
+{
+    QFETCH(bool, byKey);
+    ConnectTo("Park");
+    QCOMPARE(Button("connectCancelButton")->text(), QString("Stop"));
+    if (byKey) {
+        QTest::keyClick(m_dialog.data(), Qt::Key_Escape);
+    } else {
+        QTest::mouseClick(Button("connectCancelButton"), Qt::LeftButton);
+    }
+    QCOMPARE(m_fake->cancelled, QList<int>{1});
+    QVERIFY(m_dialog->isVisible());
+    m_fake->attempt.stage = StageCancelled;
+    m_fake->Tell();
+    QCOMPARE(Outcome(), QString("Park was not connected."));
+    QTest::keyClick(m_dialog.data(), Qt::Key_Escape);
     QVERIFY(!m_dialog->isVisible());
 }
 
-void ConnectDialogTest::DoubleClickConnects()
+void ConnectDialogTest::RefusalIsTold_data()
 {
-    Open();
-    const QModelIndex index = List()->model()->index(1, signalColumn);
-    const QPoint place = List()->visualRect(index).center();
-    QTest::mouseClick(List()->viewport(), Qt::LeftButton, Qt::NoModifier, place);
-    QTest::mouseDClick(List()->viewport(), Qt::LeftButton, Qt::NoModifier, place);
-    QCOMPARE(m_priority->toppedEntries, QStringList("Library/1"));
-    QVERIFY(!m_dialog->isVisible());
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("refusal");
+    QTest::addColumn<QString>("told");
+    QTest::newRow("key") << "Neighbour" << int(IConnectionPlugin::RefusedKey)
+                         << "This is not a valid WPA key. A WPA key has 8 to 63 characters, or 64 ";
+    QTest::newRow("WEP key") << "Workshop" << int(IConnectionPlugin::RefusedKey)
+                             << "This is not a valid WEP key. ";
+    QTest::newRow("not allowed") << "Park" << int(IConnectionPlugin::RefusedNotAllowed)
+                                 << "You are not allowed to do that.";
+    QTest::newRow("unknown") << "Park" << int(IConnectionPlugin::RefusedUnknown)
+                             << "Park was not connected. When last tried, it could not be connected.";
 }
 
-void ConnectDialogTest::OtherWaysOutChangeNothing_data()
+void ConnectDialogTest::RefusalIsTold()
+{
+    QFETCH(QString, name);
+    QFETCH(int, refusal);
+    QFETCH(QString, told);
+    m_fake->answer = refusal;
+    ConnectTo(name);
+    QVERIFY2(Outcome().startsWith(told) && !Outcome().contains('\n'), qPrintable(Outcome()));
+    QVERIFY(Button("connectOkButton")->isEnabled());
+}
+
+void ConnectDialogTest::ConnectedNetworkIsPutAtTheEndOfTheList_data()
+{
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QString>("after");
+    QTest::newRow("not listed") << "Office" << int(PriorityRead) << "Office, Park";
+    QTest::newRow("listed") << "Park, Office" << int(PriorityRead) << "Park, Office";
+    QTest::newRow("no list yet") << "" << int(PriorityMissing) << "Park";
+    QTest::newRow("of another type") << "Park/2" << int(PriorityRead) << "Park/2, Park";
+    QTest::newRow("damaged list") << "Office" << int(PriorityDamaged) << "Office";
+}
+
+void ConnectDialogTest::ConnectedNetworkIsPutAtTheEndOfTheList()
+{
+    QFETCH(QString, before);
+    QFETCH(int, status);
+    m_priority->list = Listed(before);
+    m_priority->status = status;
+    m_fake->attempt.name = "Park";
+    ConnectTo("Park");
+    QCOMPARE(AsText(m_priority->list), before);
+    m_fake->attempt.stage = StageConnected;
+    m_fake->Tell();
+    QTEST(AsText(m_priority->list), "after");
+    QVERIFY(m_priority->toppedEntries.isEmpty());
+}
+
+void ConnectDialogTest::NetworkThatCouldNotBeSavedIsToldAndNotListed()
+{
+    m_fake->attempt.name = "Park";
+    ConnectTo("Park");
+    m_fake->attempt.stage = StageConnected;
+    m_fake->attempt.failure = FailureNotStored;
+    m_fake->Tell();
+    QVERIFY(m_dialog->isVisible());
+    QCOMPARE(Outcome(), QString("Park is connected, but could not be saved."));
+    QVERIFY(m_priority->list.isEmpty());
+}
+
+void ConnectDialogTest::OtherWaysOutOrderNothing_data()
 {
     QTest::addColumn<QString>("way");
     QTest::newRow("Cancel") << "connectCancelButton";
@@ -253,90 +442,39 @@ void ConnectDialogTest::OtherWaysOutChangeNothing_data()
     QTest::newRow("close button") << "dialogClose";
 }
 
-void ConnectDialogTest::OtherWaysOutChangeNothing()
+void ConnectDialogTest::OtherWaysOutOrderNothing()
 {
     QFETCH(QString, way);
     Open();
-    QSignalSpy spy(m_dialog.data(), SIGNAL(finished(int)));
-    ClickRow(1);
+    Choose("Park");
     if (way.isEmpty()) {
         QTest::keyClick(List(), Qt::Key_Escape);
     } else {
         QTest::mouseClick(m_dialog->findChild<QWidget *>(way), Qt::LeftButton);
     }
     QVERIFY(!m_dialog->isVisible());
-    QCOMPARE(spy.count(), 1);
     QCOMPARE(m_dialog->result(), static_cast<int>(QDialog::Rejected));
-    QVERIFY(m_priority->toppedEntries.isEmpty());
+    QVERIFY(m_fake->joined.isEmpty() && m_priority->list.isEmpty());
 }
 
-void ConnectDialogTest::NothingChosenCannotBeConnectedTo()
+void ConnectDialogTest::NothingInRangeIsTold()
 {
+    m_fake->told.networks.clear();
     Open();
-    List()->clearSelection();
-    QVERIFY(!Button("connectOkButton")->isEnabled());
-    QTest::keyClick(List(), Qt::Key_Return);
-    QVERIFY(m_dialog->isVisible());
-    ClickRow(0);
-    QVERIFY(Button("connectOkButton")->isEnabled());
-}
-
-void ConnectDialogTest::NoNetworkInRangeIsTold()
-{
-    m_wlan->networks.clear();
-    Open();
-    QVERIFY(!List()->isVisible());
-    QVERIFY(Label("connectEmptyLabel")->isVisible());
-    QVERIFY(Label("connectEmptyLabel")->text().startsWith("No network is in range."));
-    QVERIFY(!Button("connectOkButton")->isEnabled());
-    m_dialog->accept();
-    QVERIFY(m_dialog->isVisible());
-    QVERIFY(m_priority->toppedEntries.isEmpty());
-}
-
-void ConnectDialogTest::MissingWLANPluginIsTold()
-{
-    m_container.wlan = nullptr;
-    Open();
-    QVERIFY(Label("connectEmptyLabel")->isVisible());
-    QVERIFY(Label("connectEmptyLabel")->text().contains("plug-in is not available"));
+    const QLabel *label = m_dialog->findChild<QLabel *>("connectEmptyLabel");
+    QVERIFY(label->isVisible() && label->text().startsWith("No network is in range."));
     QVERIFY(!Button("connectOkButton")->isEnabled());
 }
 
-void ConnectDialogTest::NetworkThatVanishedStillGoesOnTop()
+void ConnectDialogTest::SourceThatGoesIsTold()
 {
     Open();
-    ClickRow(1);
-    m_wlan->networks.clear();
-    m_container.wlan = nullptr;
-    QTest::mouseClick(Button("connectOkButton"), Qt::LeftButton);
-    QCOMPARE(m_priority->toppedEntries, QStringList("Library/1"));
-}
-
-void ConnectDialogTest::PriorityPluginIsLookedUpWhenItIsNeeded()
-{
-    Open();
-    FakePriority later;
-    m_container.priority = &later;
-    QTest::mouseClick(Button("connectOkButton"), Qt::LeftButton);
-    QVERIFY(m_priority->toppedEntries.isEmpty());
-    QCOMPARE(later.toppedEntries, QStringList("Home/1"));
-}
-
-void ConnectDialogTest::MissingPriorityPluginIsToldAndTheChoiceKept()
-{
-    Open();
-    ClickRow(1);
-    QVERIFY(!Label("connectProblemLabel")->isVisible());
-    m_container.priority = nullptr;
-    QTest::mouseClick(Button("connectOkButton"), Qt::LeftButton);
-    QVERIFY(m_dialog->isVisible());
-    QVERIFY(Label("connectProblemLabel")->isVisible());
-    QVERIFY(Label("connectProblemLabel")->text().contains("not available"));
-    m_container.priority = m_priority;
-    QTest::mouseClick(Button("connectOkButton"), Qt::LeftButton);
-    QCOMPARE(m_priority->toppedEntries, QStringList("Library/1"));
-    QVERIFY(!m_dialog->isVisible());
+    m_fake->told.state.source = ConnectionState::SourceGone;
+    m_fake->told.networks.clear();
+    m_fake->Tell();
+    const QLabel *label = m_dialog->findChild<QLabel *>("connectEmptyLabel");
+    QVERIFY2(label->isVisible() && label->text().contains("once NetworkManager runs"),
+             qPrintable(label->text()));
 }
 
 void ConnectDialogTest::TextsAndSidesFollowTheLanguage_data()

@@ -1,7 +1,6 @@
 #include "Eventually.h"
 #include "Lists.h"
 
-#include <ConnectDialog.h>
 #include <DashboardLanguage.h>
 #include <HostControl.h>
 #include <MainWindow.h>
@@ -12,6 +11,7 @@
 #include <TraceLog.h>
 
 #include <CommonUtils.h>
+#include <IConnectionPlugin.h>
 #include <IPriorityPlugin.h>
 
 #include <QAction>
@@ -74,9 +74,9 @@ private slots:
     void SettingsOpenOnce();
     void WindowIsRefreshedWhenSettingsClose();
     void WindowClosedWithOpenSettingsSparesThePage();
-    void ConnectPutsTheNetworkOnTop_data();
-    void ConnectPutsTheNetworkOnTop();
-    void ConnectMovesAListedNetworkToTheTop();
+    void ConnectPutsANewNetworkAtTheEnd_data();
+    void ConnectPutsANewNetworkAtTheEnd();
+    void ConnectLeavesAListedNetworkInItsPlace();
     void ConnectOpensOnceAndAgain();
     void OpenPageFollowsAConnection();
     void OpenConnectFollowsTheLanguage();
@@ -163,6 +163,11 @@ void MainWindowTest::init()
 void MainWindowTest::cleanup()
 {
     m_window.reset();
+    QList<ActiveConnection> connections;
+    PluginObjects::Connecting()->GetActiveConnections(&connections);
+    for (const ActiveConnection &connection : std::as_const(connections)) {
+        PluginObjects::Connecting()->Disconnect(connection.id);
+    }
 }
 
 void MainWindowTest::NoListIsToldWithAHint()
@@ -321,17 +326,17 @@ void MainWindowTest::WindowClosedWithOpenSettingsSparesThePage()
     QVERIFY(page && page->isVisible());
 }
 
-void MainWindowTest::ConnectPutsTheNetworkOnTop_data()
+void MainWindowTest::ConnectPutsANewNetworkAtTheEnd_data()
 {
     QTest::addColumn<bool>("byMenu");
     QTest::newRow("button") << false;
     QTest::newRow("File menu") << true;
 }
 
-void MainWindowTest::ConnectPutsTheNetworkOnTop()
+void MainWindowTest::ConnectPutsANewNetworkAtTheEnd()
 {
     QFETCH(bool, byMenu);
-    m_window->Refresh();
+    PluginObjects::Priority()->AddTopPriority(Entry("Office"));
     if (byMenu) {
         QAction *action = m_window->findChild<QAction *>("connectAction");
         QVERIFY(m_window->findChild<QMenu *>("fileMenu")->actions().contains(action));
@@ -344,20 +349,22 @@ void MainWindowTest::ConnectPutsTheNetworkOnTop()
     QCOMPARE(list->rowCount(), 2);
     QTest::keyClick(list, Qt::Key_Down);
     QTest::mouseClick(m_window->findChild<QPushButton *>("connectOkButton"), Qt::LeftButton);
-    QCOMPARE(Names(), QStringList("Library"));
-    QVERIFY(m_directory->Read("priority-dashboard/Priority.xml").contains("name=\"Library\" type=\"1\""));
+    QTRY_COMPARE(Names(), QStringList() << "Office"
+                                        << "Library");
+    QTRY_COMPARE(Text("headlineLabel"), QString("In use now: Library (practice)"));
 }
 
-void MainWindowTest::ConnectMovesAListedNetworkToTheTop()
+void MainWindowTest::ConnectLeavesAListedNetworkInItsPlace()
 {
     QList<PriorityList> entries;
     entries << Entry("Office") << Entry("Mobile", "2") << Entry("Home");
     PluginObjects::Priority()->AddPriorityList(entries);
     m_window->OpenConnect();
     QTest::keyClick(m_window->findChild<QTableWidget *>("connectList"), Qt::Key_Return);
-    QCOMPARE(Names(), QStringList() << "Home"
-                                    << "Office"
-                                    << "Mobile");
+    QTRY_COMPARE(Text("headlineLabel"), QString("In use now: Home (practice)"));
+    QCOMPARE(Names(), QStringList() << "Office"
+                                    << "Mobile"
+                                    << "Home");
 }
 
 void MainWindowTest::ConnectOpensOnceAndAgain()
@@ -378,20 +385,15 @@ void MainWindowTest::OpenPageFollowsAConnection()
     m_window->OpenSettings();
     const QTableWidget *table = m_window->findChild<QTableWidget *>("priorityTable");
     QCOMPARE(table->rowCount(), 1);
-    QCOMPARE(int(ConnectDialog::Connect("Home")), int(ConnectDialog::Done));
-    QCOMPARE(table->rowCount(), 2);
-    QCOMPARE(table->cellWidget(0, 0)->accessibleName(), QString("Home"));
-
     m_window->OpenConnect();
     QTableWidget *networks = m_window->findChild<QTableWidget *>("connectList");
     QTest::keyClick(networks, Qt::Key_Down);
     QTest::mouseClick(m_window->findChild<QPushButton *>("connectOkButton"), Qt::LeftButton);
-    QCOMPARE(table->rowCount(), 3);
-    QCOMPARE(table->cellWidget(0, 0)->accessibleName(), QString("Library"));
+    QTRY_COMPARE(table->rowCount(), 2);
+    QCOMPARE(table->cellWidget(1, 0)->accessibleName(), QString("Library"));
     QVERIFY(table->isVisible());
-    QCOMPARE(Names(), QStringList() << "Library"
-                                    << "Home"
-                                    << "Office");
+    QCOMPARE(Names(), QStringList() << "Office"
+                                    << "Library");
 }
 
 void MainWindowTest::OpenConnectFollowsTheLanguage()

@@ -250,25 +250,29 @@ void MainWindowProblemsTest::DamagedLanguageFileIsNamedAndTheOthersWork()
 void MainWindowProblemsTest::ConnectTellsWhyItCannotBeUsed_data()
 {
     QTest::addColumn<bool>("hasWlan");
-    QTest::addColumn<bool>("hasPriority");
+    QTest::addColumn<int>("source");
     QTest::addColumn<QString>("told");
-    QTest::newRow("Wi-Fi plug-in missing") << false << true << "The Wi-Fi plug-in is not available";
-    QTest::newRow("priority plug-in missing") << true << false << "The plug-in that keeps the list";
-    QTest::newRow("both missing") << false << false << "The Wi-Fi plug-in is not available";
-    QTest::newRow("both there") << true << true << "";
+    const int none = -1;
+    QTest::newRow("Wi-Fi plug-in missing") << false << none << "The Wi-Fi plug-in is not available";
+    QTest::newRow("Wi-Fi plug-in tells nothing") << true << none << "The Wi-Fi plug-in does not tell";
+    QTest::newRow("NetworkManager gone")
+        << true << int(ConnectionState::SourceGone) << "It is not known which network is in use";
+    QTest::newRow("NetworkManager there") << true << int(ConnectionState::SourceKnown) << "";
 }
 
 void MainWindowProblemsTest::ConnectTellsWhyItCannotBeUsed()
 {
     QFETCH(bool, hasWlan);
-    QFETCH(bool, hasPriority);
+    QFETCH(int, source);
     QFETCH(QString, told);
     TraceLog log(m_directory.FilePath("dashboard.log"));
     PluginHost plugins(BUILD_DIRECTORY "/tests/fixtures", QList<KnownPlugin>());
     FakeWLAN wlan;
-    FakePriority priority;
-    FixedContainer container(hasWlan ? &wlan : nullptr, hasPriority ? &priority : nullptr);
-    HostControl::SetPluginContainer(&container);
+    FakeConnections connections;
+    connections.told.state.source = source;
+    FixedContainer container(hasWlan ? &wlan : nullptr, nullptr);
+    WithConnections withConnections(&container, source < 0 ? nullptr : &connections);
+    HostControl::SetPluginContainer(&withConnections);
     DashboardLanguage language(nullptr);
     MainWindow window(&plugins, &language, &log);
     window.show();
