@@ -164,6 +164,10 @@
         <translation>ات&amp;صال…</translation>
     </message>
     <message>
+        <source>IDS_ACTION_DISCONNECT</source>
+        <translation>&amp;قطع الاتصال</translation>
+    </message>
+    <message>
         <source>IDS_ACTION_SETTINGS</source>
         <translation>الإ&amp;عدادات…</translation>
     </message>
@@ -672,6 +676,11 @@
         <source>IDS_SWITCH_FAILED</source>
         <extracomment>%1: a network. A reason may follow</extracomment>
         <translation>تعذّر الاتصال بالشبكة %1.</translation>
+    </message>
+    <message>
+        <source>IDS_DISCONNECT_FAILED</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>تعذّر قطع الاتصال بالشبكة %1.</translation>
     </message>
     <message>
         <source>IDS_LIST_DAMAGED</source>

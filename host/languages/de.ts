@@ -164,6 +164,10 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
         <translation>&amp;Verbinden&#xa0;…</translation>
     </message>
     <message>
+        <source>IDS_ACTION_DISCONNECT</source>
+        <translation>&amp;Trennen</translation>
+    </message>
+    <message>
         <source>IDS_ACTION_SETTINGS</source>
         <translation>&amp;Einstellungen&#xa0;…</translation>
     </message>
@@ -672,6 +676,11 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
         <source>IDS_SWITCH_FAILED</source>
         <extracomment>%1: a network. A reason may follow</extracomment>
         <translation>%1 wurde nicht verbunden.</translation>
+    </message>
+    <message>
+        <source>IDS_DISCONNECT_FAILED</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>%1 wurde nicht getrennt.</translation>
     </message>
     <message>
         <source>IDS_LIST_DAMAGED</source>

@@ -187,6 +187,10 @@ You can use letters, digits and these symbols:
         <translation>&amp;Connect…</translation>
     </message>
     <message>
+        <source>IDS_ACTION_DISCONNECT</source>
+        <translation>&amp;Disconnect</translation>
+    </message>
+    <message>
         <source>IDS_ACTION_SETTINGS</source>
         <translation>&amp;Settings…</translation>
     </message>
@@ -699,6 +703,11 @@ You can use letters, digits and these symbols:
         <source>IDS_SWITCH_FAILED</source>
         <extracomment>%1: a network. A reason may follow</extracomment>
         <translation>%1 was not connected.</translation>
+    </message>
+    <message>
+        <source>IDS_DISCONNECT_FAILED</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>%1 was not disconnected.</translation>
     </message>
     <message>
         <source>IDS_LIST_DAMAGED</source>

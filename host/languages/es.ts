@@ -164,6 +164,10 @@ Puede usar letras, números y estos símbolos:
         <translation>Co&amp;nectar…</translation>
     </message>
     <message>
+        <source>IDS_ACTION_DISCONNECT</source>
+        <translation>&amp;Desconectar</translation>
+    </message>
+    <message>
         <source>IDS_ACTION_SETTINGS</source>
         <translation>&amp;Configuración…</translation>
     </message>
@@ -672,6 +676,11 @@ Puede usar letras, números y estos símbolos:
         <source>IDS_SWITCH_FAILED</source>
         <extracomment>%1: a network. A reason may follow</extracomment>
         <translation>%1 no se ha conectado.</translation>
+    </message>
+    <message>
+        <source>IDS_DISCONNECT_FAILED</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>%1 no se ha desconectado.</translation>
     </message>
     <message>
         <source>IDS_LIST_DAMAGED</source>

@@ -164,6 +164,10 @@ Vous pouvez utiliser des lettres, des chiffres et les symboles suivants&#xa0;:
         <translation>Se &amp;connecter…</translation>
     </message>
     <message>
+        <source>IDS_ACTION_DISCONNECT</source>
+        <translation>&amp;Déconnecter</translation>
+    </message>
+    <message>
         <source>IDS_ACTION_SETTINGS</source>
         <translation>&amp;Paramètres…</translation>
     </message>
@@ -672,6 +676,11 @@ Vous pouvez utiliser des lettres, des chiffres et les symboles suivants&#xa0;:
         <source>IDS_SWITCH_FAILED</source>
         <extracomment>%1: a network. A reason may follow</extracomment>
         <translation>%1 n’a pas été connecté.</translation>
+    </message>
+    <message>
+        <source>IDS_DISCONNECT_FAILED</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>%1 n’a pas été déconnecté.</translation>
     </message>
     <message>
         <source>IDS_LIST_DAMAGED</source>

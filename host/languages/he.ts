@@ -164,6 +164,10 @@
         <translation>הת&amp;חברות…</translation>
     </message>
     <message>
+        <source>IDS_ACTION_DISCONNECT</source>
+        <translation>&amp;ניתוק</translation>
+    </message>
+    <message>
         <source>IDS_ACTION_SETTINGS</source>
         <translation>ה&amp;גדרות…</translation>
     </message>
@@ -672,6 +676,11 @@
         <source>IDS_SWITCH_FAILED</source>
         <extracomment>%1: a network. A reason may follow</extracomment>
         <translation>החיבור אל %1 לא הצליח.</translation>
+    </message>
+    <message>
+        <source>IDS_DISCONNECT_FAILED</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>הניתוק מ־%1 לא הצליח.</translation>
     </message>
     <message>
         <source>IDS_LIST_DAMAGED</source>

@@ -164,6 +164,10 @@
         <translation>接続(&amp;C)…</translation>
     </message>
     <message>
+        <source>IDS_ACTION_DISCONNECT</source>
+        <translation>切断(&amp;D)</translation>
+    </message>
+    <message>
         <source>IDS_ACTION_SETTINGS</source>
         <translation>設定(&amp;S)…</translation>
     </message>
@@ -672,6 +676,11 @@
         <source>IDS_SWITCH_FAILED</source>
         <extracomment>%1: a network. A reason may follow</extracomment>
         <translation>%1 に接続できませんでした。</translation>
+    </message>
+    <message>
+        <source>IDS_DISCONNECT_FAILED</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>%1 を切断できませんでした。</translation>
     </message>
     <message>
         <source>IDS_LIST_DAMAGED</source>

@@ -164,6 +164,10 @@ Você pode usar letras, números e estes símbolos:
         <translation>&amp;Conectar…</translation>
     </message>
     <message>
+        <source>IDS_ACTION_DISCONNECT</source>
+        <translation>&amp;Desconectar</translation>
+    </message>
+    <message>
         <source>IDS_ACTION_SETTINGS</source>
         <translation>Con&amp;figurações…</translation>
     </message>
@@ -672,6 +676,11 @@ Você pode usar letras, números e estes símbolos:
         <source>IDS_SWITCH_FAILED</source>
         <extracomment>%1: a network. A reason may follow</extracomment>
         <translation>%1 não foi conectada.</translation>
+    </message>
+    <message>
+        <source>IDS_DISCONNECT_FAILED</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>%1 não foi desconectada.</translation>
     </message>
     <message>
         <source>IDS_LIST_DAMAGED</source>

@@ -164,6 +164,10 @@
         <translation>&amp;Подключиться…</translation>
     </message>
     <message>
+        <source>IDS_ACTION_DISCONNECT</source>
+        <translation>От&amp;ключиться</translation>
+    </message>
+    <message>
         <source>IDS_ACTION_SETTINGS</source>
         <translation>&amp;Настройки…</translation>
     </message>
@@ -672,6 +676,11 @@
         <source>IDS_SWITCH_FAILED</source>
         <extracomment>%1: a network. A reason may follow</extracomment>
         <translation>Сеть %1 не подключена.</translation>
+    </message>
+    <message>
+        <source>IDS_DISCONNECT_FAILED</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>Сеть %1 не отключена.</translation>
     </message>
     <message>
         <source>IDS_LIST_DAMAGED</source>

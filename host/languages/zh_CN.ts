@@ -164,6 +164,10 @@
         <translation>连接(&amp;C)…</translation>
     </message>
     <message>
+        <source>IDS_ACTION_DISCONNECT</source>
+        <translation>断开(&amp;D)</translation>
+    </message>
+    <message>
         <source>IDS_ACTION_SETTINGS</source>
         <translation>设置(&amp;S)…</translation>
     </message>
@@ -672,6 +676,11 @@
         <source>IDS_SWITCH_FAILED</source>
         <extracomment>%1: a network. A reason may follow</extracomment>
         <translation>%1 未连接。</translation>
+    </message>
+    <message>
+        <source>IDS_DISCONNECT_FAILED</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>%1 未断开。</translation>
     </message>
     <message>
         <source>IDS_LIST_DAMAGED</source>

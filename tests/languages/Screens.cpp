@@ -199,6 +199,7 @@ const Screens::Screen Screens::screens[] = {
     {"list, NetworkManager being asked", &Screens::ShowConnections, "asked"},
     {"list, connections not told", &Screens::ShowConnections, "not told"},
     {"list, switch refused", &Screens::ShowConnections, "refused"},
+    {"list, disconnect refused", &Screens::ShowConnections, "disconnect refused"},
     {"list, plug-in missing while connected", &Screens::ShowConnections, "no list"},
     {"list, not handed out", &Screens::ShowListNotHandedOut, "QueryNull"},
     {"list, damaged", &Screens::ShowListFile, damagedList},
@@ -456,6 +457,8 @@ void Screens::ShowConnections(const char *what)
         told.active << ConnectionOf(QLatin1String("Workshop"), StageConnected, true, QLatin1String("0"))
                     << ConnectionOf(QLatin1String("Company"), StageConnected, false, QLatin1String("0"));
         told.active[1].isVpn = true;
+    } else if (shown == "disconnect refused") {
+        told.active << ConnectionOf(QLatin1String("Home"), StageConnected, true);
     } else if (shown == "no traffic") {
         told.active << ConnectionOf(QLatin1String("Home"), StageConnected, false);
     } else if (shown == "connecting") {
@@ -473,6 +476,8 @@ void Screens::ShowConnections(const char *what)
     OpenWindow(m_plugins.data());
     if (shown == "refused") {
         Click("switchButton");
+    } else if (shown == "disconnect refused") {
+        m_window->findChild<QAction *>(QLatin1String("disconnectAction"))->trigger();
     }
     Visit();
     m_window.reset();

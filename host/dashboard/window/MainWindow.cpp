@@ -37,6 +37,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QStackedWidget>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -80,7 +81,7 @@ MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLo
       m_watcher(UserData::FilePath(QLatin1String("Priority.xml")), nullptr),
       m_keeper(new ListKeeper(UserData::Directory(), &m_source, this)),
       m_listActions(new ListActions(m_keeper, this)), m_guard(new ListGuard(m_keeper, this)),
-      m_refreshTimer(new QTimer(this)), m_switchOrder(0)
+      m_refreshTimer(new QTimer(this))
 {
     setObjectName(QLatin1String("mainWindow"));
     new AccessibleRows(this);
@@ -114,6 +115,13 @@ MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLo
     m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_list->setUniformItemSizes(true);
+    // Not at a single click, which is what some desktops take for opening.
+    connect(m_list, &QListWidget::itemDoubleClicked, this, &MainWindow::ConnectEntry);
+    for (const int key : {Qt::Key_Return, Qt::Key_Enter}) {
+        QShortcut *shortcut = new QShortcut(QKeySequence(key), m_list);
+        shortcut->setContext(Qt::WidgetShortcut);
+        connect(shortcut, &QShortcut::activated, this, &MainWindow::ConnectEntry);
+    }
     m_body = new QStackedWidget;
     m_body->setObjectName(QLatin1String("body"));
     m_body->addWidget(m_list);
@@ -159,6 +167,8 @@ void MainWindow::CreateMenus()
     m_connectAction = m_fileMenu->addAction(QString(), this, SLOT(OpenConnect()));
     m_connectAction->setObjectName(QLatin1String("connectAction"));
     m_connectAction->setShortcut(QKeySequence(QLatin1String("Ctrl+K")));
+    m_disconnectAction = m_fileMenu->addAction(QString(), this, SLOT(Disconnect()));
+    m_disconnectAction->setObjectName(QLatin1String("disconnectAction"));
     m_settingsAction = m_fileMenu->addAction(QString(), this, SLOT(OpenSettings()));
     m_settingsAction->setShortcut(QKeySequence(QLatin1String("Ctrl+,")));
     m_refreshAction = m_fileMenu->addAction(QString(), this, SLOT(LookAgain()));
@@ -307,6 +317,7 @@ void MainWindow::Retranslate()
     m_viewMenu->setTitle(DashboardText("IDS_MENU_VIEW"));
     m_languageMenu->setTitle(DashboardText("IDS_MENU_LANGUAGE"));
     m_connectAction->setText(DashboardText("IDS_ACTION_CONNECT"));
+    m_disconnectAction->setText(DashboardText("IDS_ACTION_DISCONNECT"));
     m_settingsAction->setText(DashboardText("IDS_ACTION_SETTINGS"));
     m_refreshAction->setText(DashboardText("IDS_ACTION_REFRESH"));
     m_quitAction->setText(DashboardText("IDS_ACTION_QUIT"));
@@ -430,11 +441,39 @@ void MainWindow::hideEvent(QHideEvent *event)
 
 void MainWindow::Switch()
 {
-    const Overview::Entry *choice = m_overview.Choice();
-    IConnectionPlugin *connections = PluginObjects::Connecting();
-    if (choice && connections) {
-        m_switchTo = choice->profile;
-        m_switchOrder = connections->ConnectProfile(choice->profile.id);
+    if (const Overview::Entry *choice = m_overview.Choice()) {
+        m_order.Connect(choice->entry.name, choice->profile.id);
+        Refresh();
+    }
+}
+
+void MainWindow::ConnectEntry()
+{
+    const int place = m_list->currentRow();
+    if (place < 0 || place >= m_overview.entries.size() || !m_overview.connections.AreKnown()) {
+        return;
+    }
+    const Overview::Entry &entry = m_overview.entries.at(place);
+    if (!entry.isRepeated && (entry.stage == StageNotKnown || entry.stage == StageDisconnecting)) {
+        m_order.Connect(entry.entry.name, entry.profile.id);
+        Refresh();
+    }
+}
+
+/** What is in use, or coming up to be: Wi-Fi or mobile broadband; else null. */
+const ActiveConnection *MainWindow::Disconnectable() const
+{
+    const ActiveConnection *inUse = m_overview.connections.InUse();
+    const ActiveConnection *connection = inUse ? inUse : m_overview.ComingUp();
+    const bool isOther =
+        connection && connection->type != QLatin1String("1") && connection->type != QLatin1String("2");
+    return isOther || !m_overview.connections.state.mayConnect ? nullptr : connection;
+}
+
+void MainWindow::Disconnect()
+{
+    if (const ActiveConnection *connection = Disconnectable()) {
+        m_order.Disconnect(*connection);
         Refresh();
     }
 }
@@ -453,6 +492,7 @@ void MainWindow::ShowConnect()
     m_connectAction->setEnabled(areKnown);
     m_connectButton->setEnabled(areKnown);
     m_connectButton->setToolTip(areKnown ? QString() : OverviewText::Explanation(m_overview).toHtmlEscaped());
+    m_disconnectAction->setEnabled(Disconnectable() != nullptr);
 }
 
 void MainWindow::ShowHead()
@@ -466,52 +506,16 @@ void MainWindow::ShowHead()
             DashboardText("IDS_SWITCH_TO").arg(ListChangeText::Name(m_overview.Choice()->entry));
         m_switchButton->setAccessibleName(what);
         m_switchButton->setToolTip(what.toHtmlEscaped());
-        m_switchButton->setEnabled(!Connections::IsComingUp(SwitchAttempt().stage));
+        m_switchButton->setEnabled(!m_order.IsUnderWay());
     }
-}
-
-ConnectAttempt MainWindow::SwitchAttempt() const
-{
-    ConnectAttempt attempt;
-    IConnectionPlugin *connections = m_switchOrder > 0 ? PluginObjects::Connecting() : nullptr;
-    if (connections) {
-        connections->GetAttempt(m_switchOrder, &attempt);
-    }
-    return attempt;
-}
-
-/** Why what the user ordered has not come about; empty when it has, in whatever way, or is under way. */
-QString MainWindow::SwitchProblem() const
-{
-    for (const ActiveConnection &connection : m_overview.connections.active) {
-        if (connection.profileId == m_switchTo.id && connection.stage != StageDisconnecting) {
-            return QString();
-        }
-    }
-    int failure = FailureOther;
-    if (m_switchOrder == IConnectionPlugin::RefusedNotAllowed) {
-        failure = FailureNotAllowed;
-    } else if (m_switchOrder == IConnectionPlugin::RefusedKey) {
-        failure = FailureKeyMissing;
-    } else if (m_switchOrder >= 0) {
-        const ConnectAttempt attempt = SwitchAttempt();
-        if (attempt.stage != StageFailed) {
-            return QString();
-        }
-        failure = attempt.failure;
-    }
-    return DashboardJoined("IDS_SENTENCES",
-                           QStringList()
-                               << DashboardText("IDS_SWITCH_FAILED").arg(OverviewText::Name(m_switchTo.name))
-                               << OverviewText::Failure(failure));
 }
 
 void MainWindow::ShowProblems()
 {
     QStringList problems;
-    const QString switchProblem = SwitchProblem();
-    if (!switchProblem.isEmpty()) {
-        problems.append(switchProblem);
+    const QString orderProblem = m_order.Problem(m_overview.connections.active);
+    if (!orderProblem.isEmpty()) {
+        problems.append(orderProblem);
     }
     const QList<PluginHost::Plugin> plugins = m_plugins->Plugins();
     for (int i = 0; i < plugins.size(); ++i) {

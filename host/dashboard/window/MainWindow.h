@@ -1,6 +1,8 @@
 #ifndef MAINWINDOW_H
 #define MAINWINDOW_H
 
+#include "ConnectionOrder.h"
+
 #include <FileWatcher.h>
 #include <HostControl.h>
 #include <Overview.h>
@@ -55,6 +57,8 @@ private slots:
     void FollowHistory();
     void Show();
     void Switch();
+    void ConnectEntry();
+    void Disconnect();
     void OpenLanguageMenu();
     void ChooseLanguage(QAction *action);
     void ChooseAppearance(QAction *action);
@@ -69,10 +73,9 @@ private:
     QWidget *CreateHead();
     QWidget *CreateMessagePage();
     QWidget *CreateFoot();
+    const ActiveConnection *Disconnectable() const;
     void ShowConnect();
     void ShowHead();
-    ConnectAttempt SwitchAttempt() const;
-    QString SwitchProblem() const;
     void ShowProblems();
     QString DamageText() const;
     void ShowList();
@@ -91,9 +94,7 @@ private:
     bool m_isWatching = false;
     TracePanel *m_trace;
     Overview m_overview;
-    /** The last order to switch, as IConnectionPlugin answers it, and what was ordered; 0: none was given. */
-    int m_switchOrder;
-    ConnectionProfile m_switchTo;
+    ConnectionOrder m_order;
     QPointer<SettingsDialog> m_settings;
     QPointer<ConnectDialog> m_connect;
 
@@ -102,6 +103,7 @@ private:
     QMenu *m_viewMenu;
     QMenu *m_languageMenu;
     QAction *m_connectAction;
+    QAction *m_disconnectAction;
     QAction *m_settingsAction;
     QAction *m_refreshAction;
     QAction *m_quitAction;

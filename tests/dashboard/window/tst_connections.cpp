@@ -32,9 +32,20 @@ private slots:
     void RefusedSwitchIsTold_data();
     void RefusedSwitchIsTold();
     void FailedSwitchIsToldUntilItIsConnected();
+    void EntryIsConnected_data();
+    void EntryIsConnected();
+    void SingleClickOrdersNothing();
+    void EntryThatIsConnectedIsNotOrdered();
+    void EntryWithoutProfileTellsWhy();
+    void DisconnectEndsWhatIsInUse();
+    void DisconnectIsThereOnlyForUse_data();
+    void DisconnectIsThereOnlyForUse();
+    void RefusedDisconnectIsToldUntilItIsGone();
     void RefreshLooksForNetworks();
 
 private:
+    QAction *Disconnect() const { return m_world->window->findChild<QAction *>("disconnectAction"); }
+    void DoubleClickRow(int row);
     QPushButton *Switch() const { return m_world->window->findChild<QPushButton *>("switchButton"); }
     QString Problems() const
     {
@@ -206,6 +217,102 @@ void ConnectionsTest::FailedSwitchIsToldUntilItIsConnected()
     m_world->Follow();
     QCOMPARE(Problems(), QString("Home was not connected. When last tried, the key was refused."));
     m_world->connections->told.active << ConnectionOf("Home", StageConnected, false);
+    m_world->Follow();
+    QVERIFY(Problems().isEmpty());
+}
+
+void ConnectionsTest::DoubleClickRow(int row)
+{
+    QListWidget *list = m_world->List();
+    const QPoint place = list->visualItemRect(list->item(row)).center();
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+    QTest::mouseDClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+}
+
+void ConnectionsTest::EntryIsConnected_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::newRow("Return") << int(Qt::Key_Return);
+    QTest::newRow("Enter") << int(Qt::Key_Enter);
+    QTest::newRow("double click") << 0;
+}
+
+void ConnectionsTest::EntryIsConnected()
+{
+    QFETCH(int, key);
+    if (key == 0) {
+        DoubleClickRow(0);
+    } else {
+        m_world->List()->setCurrentRow(0);
+        m_world->List()->setFocus();
+        QTest::keyClick(m_world->List(), Qt::Key(key));
+    }
+    QCOMPARE(m_world->connections->ordered, QStringList("1Home"));
+}
+
+void ConnectionsTest::SingleClickOrdersNothing()
+{
+    QListWidget *list = m_world->List();
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
+                      list->visualItemRect(list->item(0)).center());
+    QCOMPARE(list->currentRow(), 0);
+    QCOMPARE(m_world->connections->ordered, QStringList());
+}
+
+void ConnectionsTest::EntryThatIsConnectedIsNotOrdered()
+{
+    DoubleClickRow(1);
+    QCOMPARE(m_world->connections->ordered, QStringList());
+}
+
+void ConnectionsTest::EntryWithoutProfileTellsWhy()
+{
+    m_world->connections->told.profiles.removeFirst();
+    m_world->connections->answer = IConnectionPlugin::RefusedUnknown;
+    m_world->Follow();
+    DoubleClickRow(0);
+    QCOMPARE(Problems(), QString("Home was not connected. This computer has no saved network of that name."));
+}
+
+void ConnectionsTest::DisconnectEndsWhatIsInUse()
+{
+    QVERIFY(Disconnect()->isEnabled());
+    Disconnect()->trigger();
+    QCOMPARE(m_world->connections->ended, QStringList(m_world->connections->told.active.at(0).id));
+    QVERIFY(Problems().isEmpty());
+}
+
+void ConnectionsTest::DisconnectIsThereOnlyForUse_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<int>("stage");
+    QTest::addColumn<bool>("mayConnect");
+    QTest::addColumn<bool>("isThere");
+    QTest::newRow("Wi-Fi") << "1" << int(StageConnected) << true << true;
+    QTest::newRow("mobile broadband") << "2" << int(StageConnected) << true << true;
+    QTest::newRow("coming up") << "1" << int(StageAuthenticating) << true << true;
+    QTest::newRow("going down") << "1" << int(StageDisconnecting) << true << false;
+    QTest::newRow("cable") << "0" << int(StageConnected) << true << false;
+    QTest::newRow("the user may not") << "1" << int(StageConnected) << false << false;
+}
+
+void ConnectionsTest::DisconnectIsThereOnlyForUse()
+{
+    QFETCH(QString, type);
+    QFETCH(int, stage);
+    QFETCH(bool, mayConnect);
+    m_world->connections->told.state.mayConnect = mayConnect;
+    m_world->connections->told.active = {ConnectionOf("Office", stage, stage == StageConnected, type)};
+    m_world->Follow();
+    QTEST(Disconnect()->isEnabled(), "isThere");
+}
+
+void ConnectionsTest::RefusedDisconnectIsToldUntilItIsGone()
+{
+    m_world->connections->answer = IConnectionPlugin::RefusedNotAllowed;
+    Disconnect()->trigger();
+    QCOMPARE(Problems(), QString::fromUtf8("Café was not disconnected. You are not allowed to do that."));
+    m_world->connections->told.active.clear();
     m_world->Follow();
     QVERIFY(Problems().isEmpty());
 }

@@ -1,0 +1,87 @@
+#include "ConnectionOrder.h"
+
+#include <Connections.h>
+#include <DashboardText.h>
+#include <IConnectionPlugin.h>
+#include <OverviewText.h>
+#include <PluginObjects.h>
+
+void ConnectionOrder::Connect(const QString &name, const QString &profileId)
+{
+    IConnectionPlugin *plugin = PluginObjects::Connecting();
+    m_isToConnect = true;
+    m_name = name;
+    m_id = profileId;
+    m_number = plugin ? plugin->ConnectProfile(profileId) : int(IConnectionPlugin::RefusedSource);
+}
+
+void ConnectionOrder::Disconnect(const ActiveConnection &connection)
+{
+    IConnectionPlugin *plugin = PluginObjects::Connecting();
+    m_isToConnect = false;
+    m_name = connection.name;
+    m_id = connection.id;
+    m_number = plugin ? plugin->Disconnect(connection.id) : int(IConnectionPlugin::RefusedSource);
+}
+
+ConnectAttempt ConnectionOrder::Attempt() const
+{
+    ConnectAttempt attempt;
+    IConnectionPlugin *plugin = m_number > 0 ? PluginObjects::Connecting() : nullptr;
+    if (plugin) {
+        plugin->GetAttempt(m_number, &attempt);
+    }
+    return attempt;
+}
+
+bool ConnectionOrder::IsUnderWay() const
+{
+    const int stage = Attempt().stage;
+    return Connections::IsComingUp(stage) || stage == StageDisconnecting;
+}
+
+bool ConnectionOrder::HasComeAbout(const QList<ActiveConnection> &active) const
+{
+    for (const ActiveConnection &connection : active) {
+        if (!m_isToConnect && connection.id == m_id) {
+            return false;
+        }
+        if (m_isToConnect && connection.profileId == m_id && connection.stage != StageDisconnecting) {
+            return true;
+        }
+    }
+    return !m_isToConnect;
+}
+
+/** Empty while nothing is wrong. */
+QString ConnectionOrder::Reason() const
+{
+    switch (m_number) {
+    case 0:
+        return QString();
+    case IConnectionPlugin::RefusedNotAllowed:
+        return OverviewText::Failure(FailureNotAllowed);
+    case IConnectionPlugin::RefusedKey:
+        return OverviewText::Failure(FailureKeyMissing);
+    case IConnectionPlugin::RefusedAccount:
+        return DashboardText("IDS_USE_NO_ACCOUNT");
+    default:
+        break;
+    }
+    if (m_number < 0) {
+        return m_id.isEmpty() ? DashboardText("IDS_USE_NOT_SAVED") : OverviewText::Failure(FailureOther);
+    }
+    const ConnectAttempt attempt = Attempt();
+    return attempt.stage == StageFailed ? OverviewText::Failure(attempt.failure) : QString();
+}
+
+QString ConnectionOrder::Problem(const QList<ActiveConnection> &active) const
+{
+    const QString reason = HasComeAbout(active) ? QString() : Reason();
+    if (reason.isEmpty()) {
+        return QString();
+    }
+    const char *const what = m_isToConnect ? "IDS_SWITCH_FAILED" : "IDS_DISCONNECT_FAILED";
+    return DashboardJoined("IDS_SENTENCES",
+                           QStringList() << DashboardText(what).arg(OverviewText::Name(m_name)) << reason);
+}

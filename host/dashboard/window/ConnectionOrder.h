@@ -1,0 +1,35 @@
+#ifndef CONNECTIONORDER_H
+#define CONNECTIONORDER_H
+
+#include <ConnectionRecords.h>
+
+#include <QList>
+#include <QString>
+
+/** The user's last order to connect or to disconnect, and what has become of it. */
+class ConnectionOrder
+{
+public:
+    /** Each takes the place of the order before it. */
+    void Connect(const QString &name, const QString &profileId);
+    void Disconnect(const ActiveConnection &connection);
+
+    bool IsUnderWay() const;
+
+    /** Why it has not come about; empty when it has, in whatever way, or is under way, or none was given. */
+    QString Problem(const QList<ActiveConnection> &active) const;
+
+private:
+    ConnectAttempt Attempt() const;
+    bool HasComeAbout(const QList<ActiveConnection> &active) const;
+    QString Reason() const;
+
+    bool m_isToConnect = true;
+    QString m_name;
+    /** Of the profile to connect, or of the connection to end. */
+    QString m_id;
+    /** As IConnectionPlugin answers it; 0: none was given. */
+    int m_number = 0;
+};
+
+#endif
