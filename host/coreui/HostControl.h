@@ -14,17 +14,15 @@ struct LanguageProblem {
     enum Kind {
         /** reason has what the system says. */
         Unreadable,
-        /** From damagedByte on, counted from 1. */
-        Damaged,
+        /** It is no compiled language file, or has no text in it. */
         NoTexts
     };
 
-    LanguageProblem() : kind(NoTexts), damagedByte(0) {}
+    LanguageProblem() : kind(NoTexts) {}
 
     QString path;
     Kind kind;
     QString reason;
-    int damagedByte;
 };
 
 /**

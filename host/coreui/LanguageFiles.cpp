@@ -1,7 +1,5 @@
 #include "LanguageFiles.h"
 
-#include "CompiledLanguage.h"
-
 #include <QByteArray>
 #include <QDir>
 #include <QFile>
@@ -155,11 +153,6 @@ std::unique_ptr<Language> LanguageFiles::Load(const QString &name, LanguageProbl
     if (file.error() != QFile::NoError) {
         problem->kind = LanguageProblem::Unreadable;
         problem->reason = file.errorString();
-        return std::unique_ptr<Language>();
-    }
-    problem->damagedByte = DamagedByte(bytes);
-    if (problem->damagedByte > 0) {
-        problem->kind = LanguageProblem::Damaged;
         return std::unique_ptr<Language>();
     }
     std::unique_ptr<Language> language(new Language(bytes));

@@ -803,10 +803,6 @@
         <translation>تتعذّر قراءة ملف اللغة &#x202a;%1&#x202c;: &#x202a;%2&#x202c;</translation>
     </message>
     <message>
-        <source>IDS_LANGUAGE_DAMAGED</source>
-        <translation>ملف اللغة &#x202a;%1&#x202c; تالف بدءًا من البايت %2، لذلك لا يُستخدم.</translation>
-    </message>
-    <message>
         <source>IDS_LANGUAGE_NO_TEXTS</source>
         <translation>لا يحوي ملف اللغة &#x202a;%1&#x202c; نصوصًا صالحة، لذلك لا يُستخدم.</translation>
     </message>

@@ -803,10 +803,6 @@ Erwartet: %3</translation>
         <translation>Die Sprachdatei %1 kann nicht gelesen werden: %2</translation>
     </message>
     <message>
-        <source>IDS_LANGUAGE_DAMAGED</source>
-        <translation>Die Sprachdatei %1 ist ab Byte %2 beschädigt und wird daher nicht verwendet.</translation>
-    </message>
-    <message>
         <source>IDS_LANGUAGE_NO_TEXTS</source>
         <translation>Die Sprachdatei %1 enthält keine brauchbaren Texte und wird daher nicht verwendet.</translation>
     </message>

@@ -840,11 +840,6 @@ Expected: %3</translation>
         <translation>The language file %1 cannot be read: %2</translation>
     </message>
     <message>
-        <source>IDS_LANGUAGE_DAMAGED</source>
-        <extracomment>%1 is a path, %2 a number</extracomment>
-        <translation>The language file %1 is damaged from byte %2 on, so it is not used.</translation>
-    </message>
-    <message>
         <source>IDS_LANGUAGE_NO_TEXTS</source>
         <translation>The language file %1 has no texts that can be used, so it is not used.</translation>
     </message>

@@ -803,10 +803,6 @@ Esperado: %3</translation>
         <translation>No se puede leer el archivo de idioma %1: %2</translation>
     </message>
     <message>
-        <source>IDS_LANGUAGE_DAMAGED</source>
-        <translation>El archivo de idioma %1 está dañado a partir del byte %2, así que no se usa.</translation>
-    </message>
-    <message>
         <source>IDS_LANGUAGE_NO_TEXTS</source>
         <translation>El archivo de idioma %1 no contiene textos utilizables, así que no se usa.</translation>
     </message>

@@ -803,10 +803,6 @@ Attendu&#xa0;: %3</translation>
         <translation>Le fichier de langue %1 ne peut pas être lu&#xa0;: %2</translation>
     </message>
     <message>
-        <source>IDS_LANGUAGE_DAMAGED</source>
-        <translation>Le fichier de langue %1 est endommagé à partir de l’octet %2&#x202f;; il n’est donc pas utilisé.</translation>
-    </message>
-    <message>
         <source>IDS_LANGUAGE_NO_TEXTS</source>
         <translation>Le fichier de langue %1 ne contient aucun texte utilisable&#x202f;; il n’est donc pas utilisé.</translation>
     </message>

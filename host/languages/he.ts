@@ -803,10 +803,6 @@
         <translation>לא ניתן לקרוא את קובץ השפה &#x202a;%1&#x202c;: &#x202a;%2&#x202c;</translation>
     </message>
     <message>
-        <source>IDS_LANGUAGE_DAMAGED</source>
-        <translation>קובץ השפה &#x202a;%1&#x202c; פגום החל מבייט %2, ולכן אינו בשימוש.</translation>
-    </message>
-    <message>
         <source>IDS_LANGUAGE_NO_TEXTS</source>
         <translation>קובץ השפה &#x202a;%1&#x202c; אינו מכיל טקסטים שמישים, ולכן אינו בשימוש.</translation>
     </message>

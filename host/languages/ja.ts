@@ -803,10 +803,6 @@
         <translation>言語ファイル %1 を読み取れません: %2</translation>
     </message>
     <message>
-        <source>IDS_LANGUAGE_DAMAGED</source>
-        <translation>言語ファイル %1 は %2 バイト目以降が破損しているため、使用されません。</translation>
-    </message>
-    <message>
         <source>IDS_LANGUAGE_NO_TEXTS</source>
         <translation>言語ファイル %1 には使用できるテキストがないため、使用されません。</translation>
     </message>

@@ -803,10 +803,6 @@ Esperado: %3</translation>
         <translation>O arquivo de idioma %1 não pode ser lido: %2</translation>
     </message>
     <message>
-        <source>IDS_LANGUAGE_DAMAGED</source>
-        <translation>O arquivo de idioma %1 está danificado a partir do byte %2, portanto não é usado.</translation>
-    </message>
-    <message>
         <source>IDS_LANGUAGE_NO_TEXTS</source>
         <translation>O arquivo de idioma %1 não contém textos utilizáveis, portanto não é usado.</translation>
     </message>

@@ -803,10 +803,6 @@
         <translation>Не удаётся прочитать языковой файл %1: %2</translation>
     </message>
     <message>
-        <source>IDS_LANGUAGE_DAMAGED</source>
-        <translation>Языковой файл %1 повреждён начиная с байта %2, поэтому он не используется.</translation>
-    </message>
-    <message>
         <source>IDS_LANGUAGE_NO_TEXTS</source>
         <translation>В языковом файле %1 нет пригодных текстов, поэтому он не используется.</translation>
     </message>

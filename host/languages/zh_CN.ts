@@ -803,10 +803,6 @@
         <translation>无法读取语言文件 %1：%2</translation>
     </message>
     <message>
-        <source>IDS_LANGUAGE_DAMAGED</source>
-        <translation>语言文件 %1 从第 %2 字节起已损坏，因此未被使用。</translation>
-    </message>
-    <message>
         <source>IDS_LANGUAGE_NO_TEXTS</source>
         <translation>语言文件 %1 中没有可用的文本，因此未被使用。</translation>
     </message>

@@ -311,7 +311,6 @@ const Screens::Screen Screens::screens[] = {
     {"connect dialog, not saved", &Screens::ShowConnecting, "not saved"},
     {"connect dialog, network gone", &Screens::ShowConnecting, "away"},
     {"connect dialog, NetworkManager gone", &Screens::ShowConnecting, "gone"},
-    {"language file damaged", &Screens::ShowDamagedLanguage, "damaged"},
     {"language file without texts", &Screens::ShowDamagedLanguage, "empty"},
     {"language file not readable", &Screens::ShowDamagedLanguage, "unreadable"},
 };
@@ -713,9 +712,7 @@ void Screens::ShowDamagedLanguage(const char *kind)
         QFile::copy(all.filePath(file), m_directory->FilePath(QLatin1String("languages/") + file));
     }
     const QString bad = QLatin1String("languages/xx.qm");
-    if (QByteArray(kind) == "damaged") {
-        m_directory->Write(bad, "no language");
-    } else if (QByteArray(kind) == "empty") {
+    if (QByteArray(kind) == "empty") {
         m_directory->Write(bad, m_directory->Read(QLatin1String("languages/en.qm")).left(16));
     } else {
         QFile::link(QLatin1String("/proc/self/mem"), m_directory->FilePath(bad));

@@ -111,15 +111,9 @@ QString DashboardLanguage::NativeName(const QString &language)
 
 QString DashboardLanguage::ProblemText(const LanguageProblem &problem)
 {
-    switch (problem.kind) {
-    case LanguageProblem::Unreadable:
-        return DashboardText("IDS_LANGUAGE_UNREADABLE").arg(problem.path, problem.reason);
-    case LanguageProblem::Damaged:
-        return DashboardText("IDS_LANGUAGE_DAMAGED").arg(problem.path, DashboardNumber(problem.damagedByte));
-    case LanguageProblem::NoTexts:
-        break;
-    }
-    return DashboardText("IDS_LANGUAGE_NO_TEXTS").arg(problem.path);
+    return problem.kind == LanguageProblem::Unreadable
+               ? DashboardText("IDS_LANGUAGE_UNREADABLE").arg(problem.path, problem.reason)
+               : DashboardText("IDS_LANGUAGE_NO_TEXTS").arg(problem.path);
 }
 
 bool DashboardLanguage::Apply(const QString &language)

@@ -30,8 +30,8 @@ private slots:
     void LanguagesAreCalledByTheirOwnNames_data();
     void LanguagesAreCalledByTheirOwnNames();
     void ToolkitsOwnTextsFollowTheLanguage();
-    void ProblemNamesTheFileAndThePlace_data();
-    void ProblemNamesTheFileAndThePlace();
+    void ProblemNamesTheFile_data();
+    void ProblemNamesTheFile();
 
 private:
     QScopedPointer<TemporaryDirectory> m_directory;
@@ -270,27 +270,24 @@ void DashboardLanguageTest::ToolkitsOwnTextsFollowTheLanguage()
     QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), QString("Cancel"));
 }
 
-void DashboardLanguageTest::ProblemNamesTheFileAndThePlace_data()
+void DashboardLanguageTest::ProblemNamesTheFile_data()
 {
     QTest::addColumn<int>("kind");
     QTest::addColumn<QString>("text");
     QTest::newRow("not readable") << static_cast<int>(LanguageProblem::Unreadable)
                                   << "The language file /l/de.qm cannot be read: no %2 memory";
-    QTest::newRow("damaged") << static_cast<int>(LanguageProblem::Damaged)
-                             << "The language file /l/de.qm is damaged from byte 17 on, so it is not used.";
     QTest::newRow("no texts")
         << static_cast<int>(LanguageProblem::NoTexts)
         << "The language file /l/de.qm has no texts that can be used, so it is not used.";
 }
 
-void DashboardLanguageTest::ProblemNamesTheFileAndThePlace()
+void DashboardLanguageTest::ProblemNamesTheFile()
 {
     QFETCH(int, kind);
     LanguageProblem problem;
     problem.path = "/l/de.qm";
     problem.kind = static_cast<LanguageProblem::Kind>(kind);
     problem.reason = "no %2 memory";
-    problem.damagedByte = 17;
     QTEST(DashboardLanguage::ProblemText(problem), "text");
 }
 
