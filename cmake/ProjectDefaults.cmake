@@ -37,10 +37,6 @@ endif()
 if(PRIORITY_SANITIZE)
     add_compile_options(-fsanitize=${PRIORITY_SANITIZE} -fno-omit-frame-pointer
         -fno-sanitize-recover=all)
-    # g++ warns wrongly of it in sanitized code; the builds without sanitizers warn of what is real.
-    if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-        add_compile_options(-Wno-maybe-uninitialized)
-    endif()
     add_link_options(-fsanitize=${PRIORITY_SANITIZE})
 else()
     add_link_options(-Wl,--no-undefined)

@@ -526,8 +526,8 @@ bool FakeNetworkManager::handleMessage(const QDBusMessage &message, const QDBusC
     const QMutexLocker locker(&m_mutex);
     const QString method = message.member();
     m_calls.append(method);
-    const QString keys[] = {QString(), method, method + message.path()};
-    for (const QString &key : keys) {
+    const QString names[] = {QString(), method, method + message.path()};
+    for (const QString &key : names) {
         if (m_misbehaviour.contains(key)) {
             const Misbehaviour &misbehaviour = m_misbehaviour[key];
             if (misbehaviour.isSilent) {

@@ -26,9 +26,7 @@ const unsigned int eap = 0x200;
 const int longerThanTheFirstSign = 8000;
 
 const char networkControl[] = "org.freedesktop.NetworkManager.network-control";
-const char activeInterface[] = "org.freedesktop.NetworkManager.Connection.Active";
 const char accessPointInterface[] = "org.freedesktop.NetworkManager.AccessPoint";
-const char deviceInterface[] = "org.freedesktop.NetworkManager.Device";
 const char security[] = "802-11-wireless-security";
 
 } // namespace

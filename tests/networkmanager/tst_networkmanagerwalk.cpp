@@ -18,7 +18,6 @@ const char activeInterface[] = "org.freedesktop.NetworkManager.Connection.Active
 
 const unsigned int psk = 0x100;
 const unsigned int ccmp = 0x8;
-const unsigned int activated = 2;
 
 const char *const networks[] = {"a", "b", "c"};
 // No name is the name of its network, and one is there twice.
