@@ -12,15 +12,16 @@
 namespace
 {
 
-const int steps = 3000;
-
 const char *const names[] = {"Home", "Office", "Café", "Attic", "Cable", "Work", "Phone"};
 const char *const types[] = {"1", "1", "1", "2", "0"};
 const char *const inUseWords = "In use now";
 
 } // namespace
 
-/** A random walk over what connections can be told: the window never calls in use what is not. */
+/**
+ * A random walk over what connections can be told: the window never calls in use what is not. As long as
+ * PRIORITY_STATES says.
+ */
 class ConnectionWalkTest : public QObject
 {
     Q_OBJECT
@@ -140,9 +141,11 @@ QString ConnectionWalkTest::Wrong(const ConnectedWindow &world)
 
 void ConnectionWalkTest::WindowNamesInUseWhatCarriesTheTraffic()
 {
+    const int asked = qgetenv("PRIORITY_STATES").toInt();
+    const int steps = asked > 0 ? asked : 2000;
     const QByteArray given = qgetenv("PRIORITY_WALK_SEED");
     const unsigned int seed = given.isEmpty() ? std::random_device()() : given.toUInt();
-    std::printf("PRIORITY_WALK_SEED=%u\n", seed);
+    std::printf("PRIORITY_WALK_SEED=%u, %d states\n", seed, steps);
     m_random.seed(seed);
     ConnectedWindow world;
     world.Open();
