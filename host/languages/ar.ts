@@ -659,6 +659,38 @@
         <translation>في آخر محاولة لم يكن المحوّل أو المودم متوفرًا.</translation>
     </message>
     <message>
+        <source>IDS_TRIED_KEY</source>
+        <translation>رُفض المفتاح. الأحرف الكبيرة والصغيرة تختلف.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_NO_KEY</source>
+        <translation>يلزم مفتاح، ولا يوجد مفتاح محفوظ.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_NO_ANSWER</source>
+        <translation>لم تُجب؛ ربما تكون بعيدة جدًا.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_NO_ADDRESS</source>
+        <translation>سمحت لهذا الحاسوب بالدخول، لكنها لم تُعطه عنوانًا.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_REFUSED</source>
+        <translation>لم تسمح لهذا الحاسوب بالدخول.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_SIM</source>
+        <translation>لم تعمل بطاقة SIM.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_STOPPED</source>
+        <translation>أُوقفت المحاولة.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_DEVICE</source>
+        <translation>لم يكن المحوّل أو المودم متوفرًا.</translation>
+    </message>
+    <message>
         <source>IDS_FAILED_NOT_ALLOWED</source>
         <translation>لا يُسمح لك بذلك.</translation>
     </message>

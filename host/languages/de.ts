@@ -659,6 +659,38 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
         <translation>Beim letzten Versuch war der Adapter oder das Modem nicht verfügbar.</translation>
     </message>
     <message>
+        <source>IDS_TRIED_KEY</source>
+        <translation>Der Schlüssel wurde abgelehnt. Groß- und Kleinschreibung zählt.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_NO_KEY</source>
+        <translation>Ein Schlüssel wird gebraucht, und keiner ist gespeichert.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_NO_ANSWER</source>
+        <translation>Es hat nicht geantwortet; vielleicht ist es zu weit entfernt.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_NO_ADDRESS</source>
+        <translation>Es hat diesen Computer zugelassen, ihm aber keine Adresse gegeben.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_REFUSED</source>
+        <translation>Es hat diesen Computer nicht zugelassen.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_SIM</source>
+        <translation>Die SIM-Karte hat nicht funktioniert.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_STOPPED</source>
+        <translation>Der Versuch wurde beendet.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_DEVICE</source>
+        <translation>Der Adapter oder das Modem war nicht verfügbar.</translation>
+    </message>
+    <message>
         <source>IDS_FAILED_NOT_ALLOWED</source>
         <translation>Sie dürfen das nicht.</translation>
     </message>

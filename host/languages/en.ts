@@ -686,6 +686,39 @@ You can use letters, digits and these symbols:
         <translation>When last tried, the adapter or modem was not available.</translation>
     </message>
     <message>
+        <source>IDS_TRIED_KEY</source>
+        <extracomment>These follow "was not connected", right after the attempt</extracomment>
+        <translation>The key was refused. Upper and lower case count.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_NO_KEY</source>
+        <translation>A key is needed, and none is saved.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_NO_ANSWER</source>
+        <translation>It did not answer; it may be too far away.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_NO_ADDRESS</source>
+        <translation>It let this computer in, but gave it no address.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_REFUSED</source>
+        <translation>It did not let this computer in.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_SIM</source>
+        <translation>The SIM card did not work.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_STOPPED</source>
+        <translation>It was stopped.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_DEVICE</source>
+        <translation>The adapter or modem was not available.</translation>
+    </message>
+    <message>
         <source>IDS_FAILED_NOT_ALLOWED</source>
         <translation>You are not allowed to do that.</translation>
     </message>

@@ -659,6 +659,38 @@ Puede usar letras, números y estos símbolos:
         <translation>En el último intento el adaptador o el módem no estaba disponible.</translation>
     </message>
     <message>
+        <source>IDS_TRIED_KEY</source>
+        <translation>Se rechazó la clave. Las mayúsculas y minúsculas cuentan.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_NO_KEY</source>
+        <translation>Hace falta una clave y no hay ninguna guardada.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_NO_ANSWER</source>
+        <translation>No respondió; quizá esté demasiado lejos.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_NO_ADDRESS</source>
+        <translation>Dejó entrar a este equipo, pero no le dio ninguna dirección.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_REFUSED</source>
+        <translation>No dejó entrar a este equipo.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_SIM</source>
+        <translation>La tarjeta SIM no funcionó.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_STOPPED</source>
+        <translation>Se detuvo el intento.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_DEVICE</source>
+        <translation>El adaptador o el módem no estaba disponible.</translation>
+    </message>
+    <message>
         <source>IDS_FAILED_NOT_ALLOWED</source>
         <translation>Usted no tiene permiso para ello.</translation>
     </message>

@@ -659,6 +659,38 @@ Vous pouvez utiliser des lettres, des chiffres et les symboles suivants&#xa0;:
         <translation>Au dernier essai, l’adaptateur ou le modem n’était pas disponible.</translation>
     </message>
     <message>
+        <source>IDS_TRIED_KEY</source>
+        <translation>La clé a été refusée. Les majuscules et les minuscules comptent.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_NO_KEY</source>
+        <translation>Il faut une clé, et aucune n’est enregistrée.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_NO_ANSWER</source>
+        <translation>Il n’a pas répondu ; il est peut-être trop loin.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_NO_ADDRESS</source>
+        <translation>Il a laissé entrer cet ordinateur, mais ne lui a pas donné d’adresse.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_REFUSED</source>
+        <translation>Il n’a pas laissé entrer cet ordinateur.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_SIM</source>
+        <translation>La carte SIM n’a pas fonctionné.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_STOPPED</source>
+        <translation>L’essai a été arrêté.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_DEVICE</source>
+        <translation>L’adaptateur ou le modem n’était pas disponible.</translation>
+    </message>
+    <message>
         <source>IDS_FAILED_NOT_ALLOWED</source>
         <translation>Vous n’en avez pas le droit.</translation>
     </message>

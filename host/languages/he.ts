@@ -659,6 +659,38 @@
         <translation>בניסיון האחרון המתאם או המודם לא היה זמין.</translation>
     </message>
     <message>
+        <source>IDS_TRIED_KEY</source>
+        <translation>המפתח נדחה. יש הבדל בין אותיות גדולות לקטנות.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_NO_KEY</source>
+        <translation>נדרש מפתח, ואין מפתח שמור.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_NO_ANSWER</source>
+        <translation>לא התקבלה תשובה; אולי הרשת רחוקה מדי.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_NO_ADDRESS</source>
+        <translation>המחשב הזה הורשה להיכנס, אבל לא קיבל כתובת.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_REFUSED</source>
+        <translation>המחשב הזה לא הורשה להיכנס.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_SIM</source>
+        <translation>כרטיס ה־SIM לא פעל.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_STOPPED</source>
+        <translation>הניסיון הופסק.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_DEVICE</source>
+        <translation>המתאם או המודם לא היה זמין.</translation>
+    </message>
+    <message>
         <source>IDS_FAILED_NOT_ALLOWED</source>
         <translation>אין לך הרשאה לכך.</translation>
     </message>

@@ -659,6 +659,38 @@
         <translation>前回はアダプターまたはモデムを利用できませんでした。</translation>
     </message>
     <message>
+        <source>IDS_TRIED_KEY</source>
+        <translation>キーが拒否されました。大文字と小文字は区別されます。</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_NO_KEY</source>
+        <translation>キーが必要ですが、登録されていません。</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_NO_ANSWER</source>
+        <translation>応答がありませんでした。遠すぎるのかもしれません。</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_NO_ADDRESS</source>
+        <translation>このコンピューターは参加できましたが、アドレスを取得できませんでした。</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_REFUSED</source>
+        <translation>このコンピューターの参加が拒否されました。</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_SIM</source>
+        <translation>SIM カードが動作しませんでした。</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_STOPPED</source>
+        <translation>中止されました。</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_DEVICE</source>
+        <translation>アダプターまたはモデムを利用できませんでした。</translation>
+    </message>
+    <message>
         <source>IDS_FAILED_NOT_ALLOWED</source>
         <translation>その操作は許可されていません。</translation>
     </message>

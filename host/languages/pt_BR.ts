@@ -659,6 +659,38 @@ Você pode usar letras, números e estes símbolos:
         <translation>Na última tentativa, o adaptador ou o modem não estava disponível.</translation>
     </message>
     <message>
+        <source>IDS_TRIED_KEY</source>
+        <translation>A chave foi recusada. Maiúsculas e minúsculas contam.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_NO_KEY</source>
+        <translation>É preciso uma chave, e nenhuma está salva.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_NO_ANSWER</source>
+        <translation>Ela não respondeu; talvez esteja longe demais.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_NO_ADDRESS</source>
+        <translation>Ela deixou este computador entrar, mas não lhe deu um endereço.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_REFUSED</source>
+        <translation>Ela não deixou este computador entrar.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_SIM</source>
+        <translation>O cartão SIM não funcionou.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_STOPPED</source>
+        <translation>A tentativa foi encerrada.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_DEVICE</source>
+        <translation>O adaptador ou o modem não estava disponível.</translation>
+    </message>
+    <message>
         <source>IDS_FAILED_NOT_ALLOWED</source>
         <translation>Você não tem permissão para isso.</translation>
     </message>

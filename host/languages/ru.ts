@@ -659,6 +659,38 @@
         <translation>При последней попытке адаптер или модем был недоступен.</translation>
     </message>
     <message>
+        <source>IDS_TRIED_KEY</source>
+        <translation>Ключ не был принят. Прописные и строчные буквы различаются.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_NO_KEY</source>
+        <translation>Нужен ключ, а он не сохранён.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_NO_ANSWER</source>
+        <translation>Она не ответила; возможно, она слишком далеко.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_NO_ADDRESS</source>
+        <translation>Она впустила этот компьютер, но не дала ему адреса.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_REFUSED</source>
+        <translation>Она не впустила этот компьютер.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_SIM</source>
+        <translation>SIM-карта не работала.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_STOPPED</source>
+        <translation>Попытка остановлена.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_DEVICE</source>
+        <translation>Адаптер или модем был недоступен.</translation>
+    </message>
+    <message>
         <source>IDS_FAILED_NOT_ALLOWED</source>
         <translation>Вам это не разрешено.</translation>
     </message>

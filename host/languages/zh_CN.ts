@@ -659,6 +659,38 @@
         <translation>上次尝试时适配器或调制解调器不可用。</translation>
     </message>
     <message>
+        <source>IDS_TRIED_KEY</source>
+        <translation>密钥被拒绝。请注意区分大小写。</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_NO_KEY</source>
+        <translation>需要密钥，但没有保存密钥。</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_NO_ANSWER</source>
+        <translation>没有应答；可能距离太远。</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_NO_ADDRESS</source>
+        <translation>它允许此计算机加入，但没有给出地址。</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_REFUSED</source>
+        <translation>它不允许此计算机加入。</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_SIM</source>
+        <translation>SIM 卡不起作用。</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_STOPPED</source>
+        <translation>尝试已停止。</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_DEVICE</source>
+        <translation>适配器或调制解调器不可用。</translation>
+    </message>
+    <message>
         <source>IDS_FAILED_NOT_ALLOWED</source>
         <translation>您无权这样做。</translation>
     </message>

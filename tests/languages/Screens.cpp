@@ -307,7 +307,14 @@ const Screens::Screen Screens::screens[] = {
     {"connect dialog, no key of WEP", &Screens::ShowConnecting, "no WEP key"},
     {"connect dialog, account needed", &Screens::ShowConnecting, "account"},
     {"connect dialog, connecting", &Screens::ShowConnecting, "connecting"},
-    {"connect dialog, key refused", &Screens::ShowConnecting, "refused"},
+    {"connect dialog, key refused", &Screens::ShowConnecting, "2"},
+    {"connect dialog, no key saved", &Screens::ShowConnecting, "3"},
+    {"connect dialog, no answer", &Screens::ShowConnecting, "4"},
+    {"connect dialog, no address", &Screens::ShowConnecting, "5"},
+    {"connect dialog, not let in", &Screens::ShowConnecting, "6"},
+    {"connect dialog, SIM card", &Screens::ShowConnecting, "7"},
+    {"connect dialog, stopped", &Screens::ShowConnecting, "8"},
+    {"connect dialog, no adapter", &Screens::ShowConnecting, "9"},
     {"connect dialog, not saved", &Screens::ShowConnecting, "not saved"},
     {"connect dialog, network gone", &Screens::ShowConnecting, "away"},
     {"connect dialog, NetworkManager gone", &Screens::ShowConnecting, "gone"},
@@ -672,10 +679,11 @@ void Screens::ShowConnecting(const char *what)
     if (shown == "no key" || shown == "no WEP key") {
         connections.answer = IConnectionPlugin::RefusedKey;
     }
+    const int failure = shown.toInt();
     connections.attempt.stage = shown == "connecting" ? StageAuthenticating
-                                : shown == "refused"  ? StageFailed
+                                : failure > 0         ? StageFailed
                                                       : StageConnected;
-    connections.attempt.failure = shown == "refused" ? FailureWrongKey : FailureNotStored;
+    connections.attempt.failure = failure > 0 ? failure : int(FailureNotStored);
     WithConnections container(m_plugins.data(), &connections);
     HostControl::SetPluginContainer(&container);
     OpenWindow(m_plugins.data());

@@ -226,7 +226,8 @@ bool Walk::Step()
     }
     {
         const FileSizeLimit limit(m_model.disk.room == noLimit ? RLIM_INFINITY : rlim_t(m_model.disk.room));
-        // Taken out of the table first: checked for its bounds and called at once, g++ 12 reads it from nowhere.
+        // Taken out of the table first: checked for its bounds and called at once, g++ 12 reads it from
+        // nowhere.
         const Action action = kinds[m_kind].action;
         (this->*action)();
     }

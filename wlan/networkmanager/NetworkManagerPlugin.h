@@ -15,8 +15,8 @@ class CPriorityKeeper;
 /**
  * Root object of the WLAN plug-in over NetworkManager.
  *
- * From Init to OnDestroy the priority list takes effect on NetworkManager's profiles, whether anybody asks for
- * the service or not. There are services between the two only.
+ * From Init to OnDestroy the priority list takes effect on NetworkManager's profiles, whether anybody asks
+ * for the service or not. There are services between the two only.
  */
 class CNetworkManagerPlugin : public CSiblingPlugin
 {

@@ -56,6 +56,18 @@ const Word failures[] = {
     {FailureSource, "IDS_FAILED_OTHER"},
 };
 
+const Word outcomes[] = {
+    {FailureWrongKey, "IDS_TRIED_KEY"},
+    {FailureKeyMissing, "IDS_TRIED_NO_KEY"},
+    {FailureNoAnswer, "IDS_TRIED_NO_ANSWER"},
+    {FailureNoAddress, "IDS_TRIED_NO_ADDRESS"},
+    {FailureRefused, "IDS_TRIED_REFUSED"},
+    {FailureSim, "IDS_TRIED_SIM"},
+    {FailureStopped, "IDS_TRIED_STOPPED"},
+    {FailureDevice, "IDS_TRIED_DEVICE"},
+    {FailureNotAllowed, "IDS_FAILED_NOT_ALLOWED"},
+};
+
 QString Sentences(const QStringList &sentences)
 {
     return DashboardJoined("IDS_SENTENCES", sentences);
@@ -329,4 +341,15 @@ QString OverviewText::Stage(int stage)
 QString OverviewText::Failure(int failure)
 {
     return TextOf(failures, failure);
+}
+
+QString OverviewText::Outcome(int failure)
+{
+    return TextOf(outcomes, failure);
+}
+
+QString OverviewText::NotDone(const char *what, const QString &name, const QString &reason)
+{
+    const QString sentence = DashboardText(what).arg(Name(name));
+    return reason.isEmpty() ? sentence : Sentences(QStringList() << sentence << reason);
 }

@@ -30,8 +30,16 @@ QString Reason(const Overview &overview, int place);
 /** How far a network is that is coming up, a ConnectionStage; empty when it is not. */
 QString Stage(int stage);
 
-/** Why a network could not be connected, a ConnectionFailure; empty when nothing has failed. */
+/** Why a network could not be connected when last tried, a ConnectionFailure; empty when nothing has failed.
+ */
 QString Failure(int failure);
+
+/** Why what was just tried failed, a ConnectionFailure, and what can be done; empty when that is not known.
+ */
+QString Outcome(int failure);
+
+/** What was not done with a network, the id of a text, and why; reason may be empty. */
+QString NotDone(const char *what, const QString &name, const QString &reason);
 
 } // namespace OverviewText
 

@@ -267,7 +267,7 @@ QString ConnectDialog::Outcome() const
     const VisibleNetwork *chosen = Chosen();
     switch (m_order) {
     case IConnectionPlugin::RefusedNotAllowed:
-        return OverviewText::Failure(FailureNotAllowed);
+        return OverviewText::Outcome(FailureNotAllowed);
     case IConnectionPlugin::RefusedKey:
         return KeyRule(chosen && chosen->protection == VisibleNetwork::ProtectionWeakKey);
     default:
@@ -287,8 +287,7 @@ QString ConnectDialog::Outcome() const
     }
     if (m_order != 0) {
         const int failure = m_order > 0 ? m_attempt.failure : int(FailureOther);
-        return DashboardJoined("IDS_SENTENCES", QStringList() << DashboardText("IDS_SWITCH_FAILED").arg(name)
-                                                              << OverviewText::Failure(failure));
+        return OverviewText::NotDone("IDS_SWITCH_FAILED", m_chosenName, OverviewText::Outcome(failure));
     }
     const bool isForAccounts =
         chosen && chosen->profileIds.isEmpty() && chosen->protection == VisibleNetwork::ProtectionAccount;

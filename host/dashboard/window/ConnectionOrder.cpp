@@ -53,35 +53,39 @@ bool ConnectionOrder::HasComeAbout(const QList<ActiveConnection> &active) const
     return !m_isToConnect;
 }
 
-/** Empty while nothing is wrong. */
-QString ConnectionOrder::Reason() const
+int ConnectionOrder::Failure() const
 {
     switch (m_number) {
     case 0:
-        return QString();
+        return FailureNone;
     case IConnectionPlugin::RefusedNotAllowed:
-        return OverviewText::Failure(FailureNotAllowed);
+        return FailureNotAllowed;
     case IConnectionPlugin::RefusedKey:
-        return OverviewText::Failure(FailureKeyMissing);
-    case IConnectionPlugin::RefusedAccount:
-        return DashboardText("IDS_USE_NO_ACCOUNT");
+        return FailureKeyMissing;
     default:
         break;
     }
     if (m_number < 0) {
-        return m_id.isEmpty() ? DashboardText("IDS_USE_NOT_SAVED") : OverviewText::Failure(FailureOther);
+        return FailureOther;
     }
     const ConnectAttempt attempt = Attempt();
-    return attempt.stage == StageFailed ? OverviewText::Failure(attempt.failure) : QString();
+    return attempt.stage == StageFailed ? attempt.failure : int(FailureNone);
+}
+
+QString ConnectionOrder::Reason() const
+{
+    if (m_isToConnect && m_id.isEmpty()) {
+        return DashboardText("IDS_USE_NOT_SAVED");
+    }
+    return m_number == IConnectionPlugin::RefusedAccount ? DashboardText("IDS_USE_NO_ACCOUNT")
+                                                         : OverviewText::Outcome(Failure());
 }
 
 QString ConnectionOrder::Problem(const QList<ActiveConnection> &active) const
 {
-    const QString reason = HasComeAbout(active) ? QString() : Reason();
-    if (reason.isEmpty()) {
+    if (Failure() == FailureNone || HasComeAbout(active)) {
         return QString();
     }
-    const char *const what = m_isToConnect ? "IDS_SWITCH_FAILED" : "IDS_DISCONNECT_FAILED";
-    return DashboardJoined("IDS_SENTENCES",
-                           QStringList() << DashboardText(what).arg(OverviewText::Name(m_name)) << reason);
+    return OverviewText::NotDone(m_isToConnect ? "IDS_SWITCH_FAILED" : "IDS_DISCONNECT_FAILED", m_name,
+                                 Reason());
 }

@@ -22,6 +22,8 @@ public:
 private:
     ConnectAttempt Attempt() const;
     bool HasComeAbout(const QList<ActiveConnection> &active) const;
+    /** A ConnectionFailure; FailureNone while nothing is wrong. */
+    int Failure() const;
     QString Reason() const;
 
     bool m_isToConnect = true;

@@ -26,6 +26,8 @@ private slots:
     void StateFollowsTheConnection();
     void FailureIsTold_data();
     void FailureIsTold();
+    void OutcomeOfAnAttemptIsTold_data();
+    void OutcomeOfAnAttemptIsTold();
     void ProfileThatDoesNotConnectByItselfIsToldSo();
     void VpnIsTold();
     void EntryThatIsListedTwiceIsToldSo();
@@ -288,6 +290,37 @@ void OverviewTextTest::FailureIsTold()
     const Overview overview = Overview::Make(0, Listed("X, Far"), told);
     QCOMPARE(OverviewText::Reason(overview, 0), "Your list would choose X. " + text);
     QCOMPARE(OverviewText::Reason(overview, 1), "Not in use, because it is out of range. " + text);
+}
+
+void OverviewTextTest::OutcomeOfAnAttemptIsTold_data()
+{
+    QTest::addColumn<int>("failure");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("other") << int(FailureOther) << "X was not connected.";
+    QTest::newRow("wrong key") << int(FailureWrongKey)
+                               << "X was not connected. The key was refused. Upper and lower case count.";
+    QTest::newRow("key missing") << int(FailureKeyMissing)
+                                 << "X was not connected. A key is needed, and none is saved.";
+    QTest::newRow("no answer") << int(FailureNoAnswer)
+                               << "X was not connected. It did not answer; it may be too far away.";
+    QTest::newRow("no address") << int(FailureNoAddress)
+                                << "X was not connected. It let this computer in, but gave it no address.";
+    QTest::newRow("refused") << int(FailureRefused)
+                             << "X was not connected. It did not let this computer in.";
+    QTest::newRow("SIM") << int(FailureSim) << "X was not connected. The SIM card did not work.";
+    QTest::newRow("stopped") << int(FailureStopped) << "X was not connected. It was stopped.";
+    QTest::newRow("device") << int(FailureDevice)
+                            << "X was not connected. The adapter or modem was not available.";
+    QTest::newRow("not allowed") << int(FailureNotAllowed)
+                                 << "X was not connected. You are not allowed to do that.";
+}
+
+void OverviewTextTest::OutcomeOfAnAttemptIsTold()
+{
+    QFETCH(int, failure);
+    const QString told =
+        OverviewText::NotDone("IDS_SWITCH_FAILED", QLatin1String("X"), OverviewText::Outcome(failure));
+    QTEST(Plain(told), "text");
 }
 
 void OverviewTextTest::ProfileThatDoesNotConnectByItselfIsToldSo()

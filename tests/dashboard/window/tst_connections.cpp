@@ -195,9 +195,8 @@ void ConnectionsTest::RefusedSwitchIsTold_data()
     QTest::newRow("not allowed") << int(IConnectionPlugin::RefusedNotAllowed)
                                  << "Home was not connected. You are not allowed to do that.";
     QTest::newRow("key") << int(IConnectionPlugin::RefusedKey)
-                         << "Home was not connected. When last tried, a key was missing.";
-    QTest::newRow("gone") << int(IConnectionPlugin::RefusedUnknown)
-                          << "Home was not connected. When last tried, it could not be connected.";
+                         << "Home was not connected. A key is needed, and none is saved.";
+    QTest::newRow("gone") << int(IConnectionPlugin::RefusedUnknown) << "Home was not connected.";
 }
 
 void ConnectionsTest::RefusedSwitchIsTold()
@@ -215,7 +214,7 @@ void ConnectionsTest::FailedSwitchIsToldUntilItIsConnected()
     m_world->connections->attempt.stage = StageFailed;
     m_world->connections->attempt.failure = FailureWrongKey;
     m_world->Follow();
-    QCOMPARE(Problems(), QString("Home was not connected. When last tried, the key was refused."));
+    QCOMPARE(Problems(), QString("Home was not connected. The key was refused. Upper and lower case count."));
     m_world->connections->told.active << ConnectionOf("Home", StageConnected, false);
     m_world->Follow();
     QVERIFY(Problems().isEmpty());
