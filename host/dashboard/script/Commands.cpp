@@ -26,7 +26,8 @@ QList<KnownPlugin> WithoutTheList(const QList<KnownPlugin> &known)
 /** Why no Wi-Fi plug-in can be asked; null when one can. */
 QString ProblemOf(const PluginHost &plugins)
 {
-    for (const PluginHost::Plugin &plugin : plugins.Plugins()) {
+    const QList<PluginHost::Plugin> all = plugins.Plugins();
+    for (const PluginHost::Plugin &plugin : all) {
         if (plugin.state != PluginReady) {
             return PluginHost::ProblemText(plugin);
         }
