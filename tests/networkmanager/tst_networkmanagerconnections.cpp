@@ -54,6 +54,7 @@ private slots:
     void DevicesLookForNetworksWhenOrdered();
     void ProfileThatIsChangedWhileItIsReadIsReadAgain();
     void ProfileThatIsRemovedWhileItIsReadStaysAway();
+    void ProfileThatIsRemovedWhileItIsReadIsNotWaitedFor();
     void LargePictureIsRead();
 
     void ProfileIsConnected();
@@ -366,6 +367,22 @@ void tst_networkmanagerconnections::ProfileThatIsRemovedWhileItIsReadStaysAway()
     Fake().SetSetting(other, "connection", "id", "Harbour");
     QTRY_COMPARE(LoadedWLAN::Profiles().value(0).name, QString("Harbour"));
     QCOMPARE(LoadedWLAN::Profiles().size(), 1);
+}
+
+void tst_networkmanagerconnections::ProfileThatIsRemovedWhileItIsReadIsNotWaitedFor()
+{
+    const QString profile = AddProfile("Office", "net");
+    AddProfile("Café", "net");
+    QTRY_COMPARE(LoadedWLAN::Profiles().size(), 2);
+    Fake().Hold("GetSettings");
+    Fake().SetSetting(profile, "connection", "id", "second");
+    Fake().Settle();
+    Fake().Remove(profile);
+    Fake().Settle();
+    const QStringList remembered = LoadedWLAN::Remembered();
+    Fake().Hold(QString());
+    Fake().Release();
+    QCOMPARE(remembered, QStringList(QString::fromUtf8("Café/1")));
 }
 
 void tst_networkmanagerconnections::LargePictureIsRead()

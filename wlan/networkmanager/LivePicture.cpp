@@ -98,18 +98,21 @@ const ConnectionPicture &CLivePicture::Complete()
             m_reader->Wait();
         }
     }
-    if (m_batch || !m_due.isEmpty()) {
-        if (m_batch) {
-            delete m_batch;
-            for (const QString &path : std::as_const(m_asked)) {
-                if (!path.isEmpty()) {
-                    m_due.insert(path);
-                }
+    if (m_batch) {
+        delete m_batch;
+        m_batch = nullptr;
+        for (const QString &path : std::as_const(m_asked)) {
+            if (!path.isEmpty()) {
+                m_due.insert(path);
             }
         }
-        m_batch = NewBatch(CNetworkManagerClient::patienceMilliseconds);
-        m_batch->Start();
-        m_batch->Wait();
+    }
+    if (!m_due.isEmpty()) {
+        BeginBatch(CNetworkManagerClient::patienceMilliseconds);
+        // It is not there any more when nothing could be sent.
+        if (m_batch) {
+            m_batch->Wait();
+        }
     }
     return Now();
 }
@@ -244,12 +247,11 @@ void CLivePicture::TakeProfileChange(const QDBusMessage &signal)
 void CLivePicture::AskForProfiles()
 {
     if (!m_reader && !m_batch && !m_due.isEmpty()) {
-        m_batch = NewBatch(readMilliseconds);
-        m_batch->Start();
+        BeginBatch(readMilliseconds);
     }
 }
 
-CCallBatch *CLivePicture::NewBatch(int limitMilliseconds)
+void CLivePicture::BeginBatch(int limitMilliseconds)
 {
     m_asked = m_due.values();
     m_due.clear();
@@ -258,9 +260,9 @@ CCallBatch *CLivePicture::NewBatch(int limitMilliseconds)
         calls.append(CNetworkManagerClient::Call(path, CNetworkManagerClient::ProfileInterface(),
                                                  QLatin1String("GetSettings")));
     }
-    CCallBatch *batch = new CCallBatch(m_client, calls, CTimeLimit(limitMilliseconds), this);
-    connect(batch, SIGNAL(Finished()), this, SLOT(TakeProfiles()));
-    return batch;
+    m_batch = new CCallBatch(m_client, calls, CTimeLimit(limitMilliseconds), this);
+    connect(m_batch, SIGNAL(Finished()), this, SLOT(TakeProfiles()));
+    m_batch->Start();
 }
 
 void CLivePicture::TakeProfiles()

@@ -104,7 +104,7 @@ private:
     void Drop(int source, NetworkManagerResult result);
     void Apply(const QDBusMessage &signal);
     void AskForProfiles();
-    CCallBatch *NewBatch(int limitMilliseconds);
+    void BeginBatch(int limitMilliseconds);
     void StoreProfile(const QString &path, const QDBusMessage &reply);
     void ForgetProfile(const QString &path);
     void NoteChange();
