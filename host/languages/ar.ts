@@ -148,8 +148,13 @@
         <translation>لوحة الشبكات</translation>
     </message>
     <message>
-        <source>IDS_MENU_FILE</source>
-        <translation>&amp;ملف</translation>
+        <source>IDS_LIST_TITLE</source>
+        <extracomment>Above the list</extracomment>
+        <translation>قائمتك</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_NETWORK</source>
+        <translation>ال&amp;شبكة</translation>
     </message>
     <message>
         <source>IDS_MENU_VIEW</source>
@@ -169,7 +174,7 @@
     </message>
     <message>
         <source>IDS_ACTION_SETTINGS</source>
-        <translation>الإ&amp;عدادات…</translation>
+        <translation>الإعدا&amp;دات…</translation>
     </message>
     <message>
         <source>IDS_ACTION_REFRESH</source>
@@ -190,14 +195,6 @@
     <message>
         <source>IDS_BUTTON_SETTINGS</source>
         <translation>الإعدادات…</translation>
-    </message>
-    <message>
-        <source>IDS_BUTTON_REFRESH</source>
-        <translation>تحديث</translation>
-    </message>
-    <message>
-        <source>IDS_BUTTON_TRACE</source>
-        <translation>إظهار السجل</translation>
     </message>
     <message>
         <source>IDS_TRACE_TITLE</source>
@@ -486,18 +483,8 @@
         <translation>من دونه كانت قائمتك ستختار %1.</translation>
     </message>
     <message>
-        <source>IDS_HEAD_NOT_CERTAIN</source>
-        <extracomment>%1: names of networks</extracomment>
-        <translation>غير معروف إن كانت ضمن النطاق: %1.</translation>
-    </message>
-    <message>
         <source>IDS_HEAD_NOTHING_USABLE</source>
         <translation>لا تُعرف في قائمتك أي شبكة يمكن استخدامها.</translation>
-    </message>
-    <message>
-        <source>IDS_HEAD_SKIPPED</source>
-        <extracomment>%1: names of networks</extracomment>
-        <translation>أعلى منها في القائمة لكن لا يمكن استخدامها الآن: %1.</translation>
     </message>
     <message>
         <source>IDS_STAGE_PREPARING</source>
@@ -543,6 +530,31 @@
         <source>IDS_STATE_CANNOT</source>
         <extracomment>At the end of a row</extracomment>
         <translation>لا يمكن استخدامها</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_KEY_REFUSED</source>
+        <extracomment>At the end of a row: when last tried</extracomment>
+        <translation>رُفض المفتاح</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_FAILED</source>
+        <extracomment>At the end of a row: it could not be connected when last tried</extracomment>
+        <translation>فشلت آخر محاولة</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_BY_HAND</source>
+        <extracomment>At the end of a row: it does not connect by itself</extracomment>
+        <translation>يدويًا فقط</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_TWICE</source>
+        <extracomment>At the end of a row: the network is in the list at a higher place too</extracomment>
+        <translation>مكررة في القائمة</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_SIM</source>
+        <extracomment>At the end of a row: the SIM card wants its PIN</extracomment>
+        <translation>بطاقة SIM مقفلة</translation>
     </message>
     <message>
         <source>IDS_STATE_NO_ADAPTER</source>
@@ -693,11 +705,6 @@
     <message>
         <source>IDS_FAILED_NOT_ALLOWED</source>
         <translation>لا يُسمح لك بذلك.</translation>
-    </message>
-    <message>
-        <source>IDS_BUTTON_SWITCH</source>
-        <extracomment>Puts the network that the list would choose in the place of the one in use; 120 pixels</extracomment>
-        <translation>تبديل</translation>
     </message>
     <message>
         <source>IDS_SWITCH_TO</source>
@@ -877,10 +884,6 @@
     <message>
         <source>IDS_BUTTON_REDO</source>
         <translation>إعادة</translation>
-    </message>
-    <message>
-        <source>IDS_BUTTON_RESTORE</source>
-        <translation>القوائم السابقة…</translation>
     </message>
     <message>
         <source>IDS_UNDO_WHAT</source>
@@ -1232,6 +1235,36 @@
     <message>
         <source>IDS_LIST_UNDO_DAMAGE</source>
         <translation>يتيح «تراجع» استعادة آخر قائمة كاملة.</translation>
+    </message>
+    <message>
+        <source>IDS_BANNER_LIST_DAMAGED</source>
+        <extracomment>Title of a message above the list</extracomment>
+        <translation>قائمتك تالفة</translation>
+    </message>
+    <message>
+        <source>IDS_BANNER_HISTORY</source>
+        <extracomment>Title of a message above the list</extracomment>
+        <translation>لا يمكن استخدام القوائم السابقة</translation>
+    </message>
+    <message>
+        <source>IDS_BANNER_PLUGIN</source>
+        <extracomment>Title of a message above the list</extracomment>
+        <translation>لا يمكن استخدام إحدى الملحقات</translation>
+    </message>
+    <message>
+        <source>IDS_BANNER_LANGUAGE</source>
+        <extracomment>Title of a message above the list</extracomment>
+        <translation>لا يمكن استخدام إحدى اللغات</translation>
+    </message>
+    <message>
+        <source>IDS_BANNER_COUNT</source>
+        <extracomment>Button of a message: %1 is its number, %2 how many there are</extracomment>
+        <translation>%1 من %2</translation>
+    </message>
+    <message>
+        <source>IDS_BANNER_NEXT</source>
+        <extracomment>Tool tip of that button</extracomment>
+        <translation>إظهار الرسالة التالية</translation>
     </message>
     <message>
         <source>IDS_HEAD_CONNECT_HINT</source>

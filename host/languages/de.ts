@@ -148,8 +148,13 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
         <translation>Netzwerkübersicht</translation>
     </message>
     <message>
-        <source>IDS_MENU_FILE</source>
-        <translation>&amp;Datei</translation>
+        <source>IDS_LIST_TITLE</source>
+        <extracomment>Above the list</extracomment>
+        <translation>Ihre Liste</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_NETWORK</source>
+        <translation>&amp;Netzwerk</translation>
     </message>
     <message>
         <source>IDS_MENU_VIEW</source>
@@ -169,7 +174,7 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
     </message>
     <message>
         <source>IDS_ACTION_SETTINGS</source>
-        <translation>&amp;Einstellungen&#xa0;…</translation>
+        <translation>Einste&amp;llungen …</translation>
     </message>
     <message>
         <source>IDS_ACTION_REFRESH</source>
@@ -190,14 +195,6 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
     <message>
         <source>IDS_BUTTON_SETTINGS</source>
         <translation>Einstellungen&#xa0;…</translation>
-    </message>
-    <message>
-        <source>IDS_BUTTON_REFRESH</source>
-        <translation>Aktualisieren</translation>
-    </message>
-    <message>
-        <source>IDS_BUTTON_TRACE</source>
-        <translation>Ablaufprotokoll</translation>
     </message>
     <message>
         <source>IDS_TRACE_TITLE</source>
@@ -486,18 +483,8 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
         <translation>Ohne sie würde Ihre Liste %1 wählen.</translation>
     </message>
     <message>
-        <source>IDS_HEAD_NOT_CERTAIN</source>
-        <extracomment>%1: names of networks</extracomment>
-        <translation>Unbekannt, ob in Reichweite: %1.</translation>
-    </message>
-    <message>
         <source>IDS_HEAD_NOTHING_USABLE</source>
         <translation>Von keinem der Netzwerke in Ihrer Liste ist bekannt, dass es funktionieren kann.</translation>
-    </message>
-    <message>
-        <source>IDS_HEAD_SKIPPED</source>
-        <extracomment>%1: names of networks</extracomment>
-        <translation>Weiter oben in der Liste, aber jetzt nicht möglich: %1.</translation>
     </message>
     <message>
         <source>IDS_STAGE_PREPARING</source>
@@ -543,6 +530,31 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
         <source>IDS_STATE_CANNOT</source>
         <extracomment>At the end of a row</extracomment>
         <translation>Nicht möglich</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_KEY_REFUSED</source>
+        <extracomment>At the end of a row: when last tried</extracomment>
+        <translation>Schlüssel abgelehnt</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_FAILED</source>
+        <extracomment>At the end of a row: it could not be connected when last tried</extracomment>
+        <translation>Zuletzt fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_BY_HAND</source>
+        <extracomment>At the end of a row: it does not connect by itself</extracomment>
+        <translation>Nur von Hand</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_TWICE</source>
+        <extracomment>At the end of a row: the network is in the list at a higher place too</extracomment>
+        <translation>Doppelt in der Liste</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_SIM</source>
+        <extracomment>At the end of a row: the SIM card wants its PIN</extracomment>
+        <translation>SIM gesperrt</translation>
     </message>
     <message>
         <source>IDS_STATE_NO_ADAPTER</source>
@@ -693,11 +705,6 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
     <message>
         <source>IDS_FAILED_NOT_ALLOWED</source>
         <translation>Sie dürfen das nicht.</translation>
-    </message>
-    <message>
-        <source>IDS_BUTTON_SWITCH</source>
-        <extracomment>Puts the network that the list would choose in the place of the one in use; 120 pixels</extracomment>
-        <translation>Wechseln</translation>
     </message>
     <message>
         <source>IDS_SWITCH_TO</source>
@@ -878,10 +885,6 @@ Erwartet: %3</translation>
     <message>
         <source>IDS_BUTTON_REDO</source>
         <translation>Wiederholen</translation>
-    </message>
-    <message>
-        <source>IDS_BUTTON_RESTORE</source>
-        <translation>Frühere Listen&#xa0;…</translation>
     </message>
     <message>
         <source>IDS_UNDO_WHAT</source>
@@ -1233,6 +1236,36 @@ Erwartet: %3</translation>
     <message>
         <source>IDS_LIST_UNDO_DAMAGE</source>
         <translation>Mit „Rückgängig“ lässt sich die letzte vollständige Liste wiederherstellen.</translation>
+    </message>
+    <message>
+        <source>IDS_BANNER_LIST_DAMAGED</source>
+        <extracomment>Title of a message above the list</extracomment>
+        <translation>Ihre Liste ist beschädigt</translation>
+    </message>
+    <message>
+        <source>IDS_BANNER_HISTORY</source>
+        <extracomment>Title of a message above the list</extracomment>
+        <translation>Frühere Listen lassen sich nicht verwenden</translation>
+    </message>
+    <message>
+        <source>IDS_BANNER_PLUGIN</source>
+        <extracomment>Title of a message above the list</extracomment>
+        <translation>Ein Plugin lässt sich nicht verwenden</translation>
+    </message>
+    <message>
+        <source>IDS_BANNER_LANGUAGE</source>
+        <extracomment>Title of a message above the list</extracomment>
+        <translation>Eine Sprache lässt sich nicht verwenden</translation>
+    </message>
+    <message>
+        <source>IDS_BANNER_COUNT</source>
+        <extracomment>Button of a message: %1 is its number, %2 how many there are</extracomment>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>IDS_BANNER_NEXT</source>
+        <extracomment>Tool tip of that button</extracomment>
+        <translation>Die nächste Meldung zeigen</translation>
     </message>
     <message>
         <source>IDS_HEAD_CONNECT_HINT</source>

@@ -171,8 +171,13 @@ You can use letters, digits and these symbols:
         <translation>Network dashboard</translation>
     </message>
     <message>
-        <source>IDS_MENU_FILE</source>
-        <translation>&amp;File</translation>
+        <source>IDS_LIST_TITLE</source>
+        <extracomment>Above the list</extracomment>
+        <translation>Your list</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_NETWORK</source>
+        <translation>&amp;Network</translation>
     </message>
     <message>
         <source>IDS_MENU_VIEW</source>
@@ -213,14 +218,6 @@ You can use letters, digits and these symbols:
     <message>
         <source>IDS_BUTTON_SETTINGS</source>
         <translation>Settings…</translation>
-    </message>
-    <message>
-        <source>IDS_BUTTON_REFRESH</source>
-        <translation>Refresh</translation>
-    </message>
-    <message>
-        <source>IDS_BUTTON_TRACE</source>
-        <translation>Show log</translation>
     </message>
     <message>
         <source>IDS_TRACE_TITLE</source>
@@ -513,18 +510,8 @@ You can use letters, digits and these symbols:
         <translation>Without it, your list would choose %1.</translation>
     </message>
     <message>
-        <source>IDS_HEAD_NOT_CERTAIN</source>
-        <extracomment>%1: names of networks</extracomment>
-        <translation>Not known if in range: %1.</translation>
-    </message>
-    <message>
         <source>IDS_HEAD_NOTHING_USABLE</source>
         <translation>None of the networks in your list is known to be usable.</translation>
-    </message>
-    <message>
-        <source>IDS_HEAD_SKIPPED</source>
-        <extracomment>%1: names of networks</extracomment>
-        <translation>Higher in the list, but cannot be used now: %1.</translation>
     </message>
     <message>
         <source>IDS_STAGE_PREPARING</source>
@@ -570,6 +557,31 @@ You can use letters, digits and these symbols:
         <source>IDS_STATE_CANNOT</source>
         <extracomment>At the end of a row</extracomment>
         <translation>Cannot be used</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_KEY_REFUSED</source>
+        <extracomment>At the end of a row: when last tried</extracomment>
+        <translation>Key refused</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_FAILED</source>
+        <extracomment>At the end of a row: it could not be connected when last tried</extracomment>
+        <translation>Last try failed</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_BY_HAND</source>
+        <extracomment>At the end of a row: it does not connect by itself</extracomment>
+        <translation>By hand only</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_TWICE</source>
+        <extracomment>At the end of a row: the network is in the list at a higher place too</extracomment>
+        <translation>Listed twice</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_SIM</source>
+        <extracomment>At the end of a row: the SIM card wants its PIN</extracomment>
+        <translation>SIM locked</translation>
     </message>
     <message>
         <source>IDS_STATE_NO_ADAPTER</source>
@@ -721,11 +733,6 @@ You can use letters, digits and these symbols:
     <message>
         <source>IDS_FAILED_NOT_ALLOWED</source>
         <translation>You are not allowed to do that.</translation>
-    </message>
-    <message>
-        <source>IDS_BUTTON_SWITCH</source>
-        <extracomment>Puts the network that the list would choose in the place of the one in use; 120 pixels</extracomment>
-        <translation>Switch</translation>
     </message>
     <message>
         <source>IDS_SWITCH_TO</source>
@@ -916,10 +923,6 @@ Expected: %3</translation>
     <message>
         <source>IDS_BUTTON_REDO</source>
         <translation>Redo</translation>
-    </message>
-    <message>
-        <source>IDS_BUTTON_RESTORE</source>
-        <translation>Earlier lists…</translation>
     </message>
     <message>
         <source>IDS_UNDO_WHAT</source>
@@ -1319,6 +1322,36 @@ Expected: %3</translation>
         <source>IDS_LIST_UNDO_DAMAGE</source>
         <extracomment>Follows the message that the file with the list is damaged</extracomment>
         <translation>“Undo” restores the last complete list.</translation>
+    </message>
+    <message>
+        <source>IDS_BANNER_LIST_DAMAGED</source>
+        <extracomment>Title of a message above the list</extracomment>
+        <translation>Your list is damaged</translation>
+    </message>
+    <message>
+        <source>IDS_BANNER_HISTORY</source>
+        <extracomment>Title of a message above the list</extracomment>
+        <translation>Earlier lists cannot be used</translation>
+    </message>
+    <message>
+        <source>IDS_BANNER_PLUGIN</source>
+        <extracomment>Title of a message above the list</extracomment>
+        <translation>A plug-in cannot be used</translation>
+    </message>
+    <message>
+        <source>IDS_BANNER_LANGUAGE</source>
+        <extracomment>Title of a message above the list</extracomment>
+        <translation>A language cannot be used</translation>
+    </message>
+    <message>
+        <source>IDS_BANNER_COUNT</source>
+        <extracomment>Button of a message: %1 is its number, %2 how many there are</extracomment>
+        <translation>%1 of %2</translation>
+    </message>
+    <message>
+        <source>IDS_BANNER_NEXT</source>
+        <extracomment>Tool tip of that button</extracomment>
+        <translation>Show the next message</translation>
     </message>
     <message>
         <source>IDS_HEAD_CONNECT_HINT</source>

@@ -148,8 +148,13 @@ Puede usar letras, números y estos símbolos:
         <translation>Panel de redes</translation>
     </message>
     <message>
-        <source>IDS_MENU_FILE</source>
-        <translation>&amp;Archivo</translation>
+        <source>IDS_LIST_TITLE</source>
+        <extracomment>Above the list</extracomment>
+        <translation>Su lista</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_NETWORK</source>
+        <translation>&amp;Red</translation>
     </message>
     <message>
         <source>IDS_MENU_VIEW</source>
@@ -173,7 +178,7 @@ Puede usar letras, números y estos símbolos:
     </message>
     <message>
         <source>IDS_ACTION_REFRESH</source>
-        <translation>&amp;Actualizar</translation>
+        <translation>Ac&amp;tualizar</translation>
     </message>
     <message>
         <source>IDS_ACTION_QUIT</source>
@@ -190,14 +195,6 @@ Puede usar letras, números y estos símbolos:
     <message>
         <source>IDS_BUTTON_SETTINGS</source>
         <translation>Configuración…</translation>
-    </message>
-    <message>
-        <source>IDS_BUTTON_REFRESH</source>
-        <translation>Actualizar</translation>
-    </message>
-    <message>
-        <source>IDS_BUTTON_TRACE</source>
-        <translation>Mostrar registro</translation>
     </message>
     <message>
         <source>IDS_TRACE_TITLE</source>
@@ -486,18 +483,8 @@ Puede usar letras, números y estos símbolos:
         <translation>Sin ella, su lista elegiría %1.</translation>
     </message>
     <message>
-        <source>IDS_HEAD_NOT_CERTAIN</source>
-        <extracomment>%1: names of networks</extracomment>
-        <translation>No se sabe si están al alcance: %1.</translation>
-    </message>
-    <message>
         <source>IDS_HEAD_NOTHING_USABLE</source>
         <translation>No se sabe de ninguna red de su lista que pueda usarse.</translation>
-    </message>
-    <message>
-        <source>IDS_HEAD_SKIPPED</source>
-        <extracomment>%1: names of networks</extracomment>
-        <translation>Más arriba en la lista, pero no se pueden usar ahora: %1.</translation>
     </message>
     <message>
         <source>IDS_STAGE_PREPARING</source>
@@ -543,6 +530,31 @@ Puede usar letras, números y estos símbolos:
         <source>IDS_STATE_CANNOT</source>
         <extracomment>At the end of a row</extracomment>
         <translation>No se puede usar</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_KEY_REFUSED</source>
+        <extracomment>At the end of a row: when last tried</extracomment>
+        <translation>Clave rechazada</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_FAILED</source>
+        <extracomment>At the end of a row: it could not be connected when last tried</extracomment>
+        <translation>Último intento fallido</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_BY_HAND</source>
+        <extracomment>At the end of a row: it does not connect by itself</extracomment>
+        <translation>Solo a mano</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_TWICE</source>
+        <extracomment>At the end of a row: the network is in the list at a higher place too</extracomment>
+        <translation>Repetida en la lista</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_SIM</source>
+        <extracomment>At the end of a row: the SIM card wants its PIN</extracomment>
+        <translation>SIM bloqueada</translation>
     </message>
     <message>
         <source>IDS_STATE_NO_ADAPTER</source>
@@ -693,11 +705,6 @@ Puede usar letras, números y estos símbolos:
     <message>
         <source>IDS_FAILED_NOT_ALLOWED</source>
         <translation>Usted no tiene permiso para ello.</translation>
-    </message>
-    <message>
-        <source>IDS_BUTTON_SWITCH</source>
-        <extracomment>Puts the network that the list would choose in the place of the one in use; 120 pixels</extracomment>
-        <translation>Cambiar</translation>
     </message>
     <message>
         <source>IDS_SWITCH_TO</source>
@@ -878,10 +885,6 @@ Esperado: %3</translation>
     <message>
         <source>IDS_BUTTON_REDO</source>
         <translation>Rehacer</translation>
-    </message>
-    <message>
-        <source>IDS_BUTTON_RESTORE</source>
-        <translation>Listas anteriores…</translation>
     </message>
     <message>
         <source>IDS_UNDO_WHAT</source>
@@ -1233,6 +1236,36 @@ Esperado: %3</translation>
     <message>
         <source>IDS_LIST_UNDO_DAMAGE</source>
         <translation>«Deshacer» restaura la última lista completa.</translation>
+    </message>
+    <message>
+        <source>IDS_BANNER_LIST_DAMAGED</source>
+        <extracomment>Title of a message above the list</extracomment>
+        <translation>Su lista está dañada</translation>
+    </message>
+    <message>
+        <source>IDS_BANNER_HISTORY</source>
+        <extracomment>Title of a message above the list</extracomment>
+        <translation>No se pueden usar las listas anteriores</translation>
+    </message>
+    <message>
+        <source>IDS_BANNER_PLUGIN</source>
+        <extracomment>Title of a message above the list</extracomment>
+        <translation>No se puede usar un complemento</translation>
+    </message>
+    <message>
+        <source>IDS_BANNER_LANGUAGE</source>
+        <extracomment>Title of a message above the list</extracomment>
+        <translation>No se puede usar un idioma</translation>
+    </message>
+    <message>
+        <source>IDS_BANNER_COUNT</source>
+        <extracomment>Button of a message: %1 is its number, %2 how many there are</extracomment>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>IDS_BANNER_NEXT</source>
+        <extracomment>Tool tip of that button</extracomment>
+        <translation>Mostrar el mensaje siguiente</translation>
     </message>
     <message>
         <source>IDS_HEAD_CONNECT_HINT</source>

@@ -148,8 +148,13 @@ Vous pouvez utiliser des lettres, des chiffres et les symboles suivants&#xa0;:
         <translation>Tableau de bord réseau</translation>
     </message>
     <message>
-        <source>IDS_MENU_FILE</source>
-        <translation>&amp;Fichier</translation>
+        <source>IDS_LIST_TITLE</source>
+        <extracomment>Above the list</extracomment>
+        <translation>Votre liste</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_NETWORK</source>
+        <translation>&amp;Réseau</translation>
     </message>
     <message>
         <source>IDS_MENU_VIEW</source>
@@ -173,7 +178,7 @@ Vous pouvez utiliser des lettres, des chiffres et les symboles suivants&#xa0;:
     </message>
     <message>
         <source>IDS_ACTION_REFRESH</source>
-        <translation>&amp;Actualiser</translation>
+        <translation>Ac&amp;tualiser</translation>
     </message>
     <message>
         <source>IDS_ACTION_QUIT</source>
@@ -190,14 +195,6 @@ Vous pouvez utiliser des lettres, des chiffres et les symboles suivants&#xa0;:
     <message>
         <source>IDS_BUTTON_SETTINGS</source>
         <translation>Paramètres…</translation>
-    </message>
-    <message>
-        <source>IDS_BUTTON_REFRESH</source>
-        <translation>Actualiser</translation>
-    </message>
-    <message>
-        <source>IDS_BUTTON_TRACE</source>
-        <translation>Afficher le journal</translation>
     </message>
     <message>
         <source>IDS_TRACE_TITLE</source>
@@ -486,18 +483,8 @@ Vous pouvez utiliser des lettres, des chiffres et les symboles suivants&#xa0;:
         <translation>Sans elle, votre liste choisirait %1.</translation>
     </message>
     <message>
-        <source>IDS_HEAD_NOT_CERTAIN</source>
-        <extracomment>%1: names of networks</extracomment>
-        <translation>On ignore s’ils sont à portée&#xa0;: %1.</translation>
-    </message>
-    <message>
         <source>IDS_HEAD_NOTHING_USABLE</source>
         <translation>On ne sait d’aucun des réseaux de votre liste qu’il peut servir.</translation>
-    </message>
-    <message>
-        <source>IDS_HEAD_SKIPPED</source>
-        <extracomment>%1: names of networks</extracomment>
-        <translation>Plus haut dans la liste, mais sans possibilité de servir maintenant&#xa0;: %1.</translation>
     </message>
     <message>
         <source>IDS_STAGE_PREPARING</source>
@@ -543,6 +530,31 @@ Vous pouvez utiliser des lettres, des chiffres et les symboles suivants&#xa0;:
         <source>IDS_STATE_CANNOT</source>
         <extracomment>At the end of a row</extracomment>
         <translation>Ne peut pas servir</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_KEY_REFUSED</source>
+        <extracomment>At the end of a row: when last tried</extracomment>
+        <translation>Clé refusée</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_FAILED</source>
+        <extracomment>At the end of a row: it could not be connected when last tried</extracomment>
+        <translation>Dernier essai échoué</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_BY_HAND</source>
+        <extracomment>At the end of a row: it does not connect by itself</extracomment>
+        <translation>À la main seulement</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_TWICE</source>
+        <extracomment>At the end of a row: the network is in the list at a higher place too</extracomment>
+        <translation>En double dans la liste</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_SIM</source>
+        <extracomment>At the end of a row: the SIM card wants its PIN</extracomment>
+        <translation>SIM verrouillée</translation>
     </message>
     <message>
         <source>IDS_STATE_NO_ADAPTER</source>
@@ -693,11 +705,6 @@ Vous pouvez utiliser des lettres, des chiffres et les symboles suivants&#xa0;:
     <message>
         <source>IDS_FAILED_NOT_ALLOWED</source>
         <translation>Vous n’en avez pas le droit.</translation>
-    </message>
-    <message>
-        <source>IDS_BUTTON_SWITCH</source>
-        <extracomment>Puts the network that the list would choose in the place of the one in use; 120 pixels</extracomment>
-        <translation>Passer</translation>
     </message>
     <message>
         <source>IDS_SWITCH_TO</source>
@@ -878,10 +885,6 @@ Attendu&#xa0;: %3</translation>
     <message>
         <source>IDS_BUTTON_REDO</source>
         <translation>Rétablir</translation>
-    </message>
-    <message>
-        <source>IDS_BUTTON_RESTORE</source>
-        <translation>Listes précédentes…</translation>
     </message>
     <message>
         <source>IDS_UNDO_WHAT</source>
@@ -1233,6 +1236,36 @@ Attendu&#xa0;: %3</translation>
     <message>
         <source>IDS_LIST_UNDO_DAMAGE</source>
         <translation>«&#xa0;Annuler l’action&#xa0;» permet de restaurer la dernière liste complète.</translation>
+    </message>
+    <message>
+        <source>IDS_BANNER_LIST_DAMAGED</source>
+        <extracomment>Title of a message above the list</extracomment>
+        <translation>Votre liste est endommagée</translation>
+    </message>
+    <message>
+        <source>IDS_BANNER_HISTORY</source>
+        <extracomment>Title of a message above the list</extracomment>
+        <translation>Les listes précédentes ne peuvent pas être utilisées</translation>
+    </message>
+    <message>
+        <source>IDS_BANNER_PLUGIN</source>
+        <extracomment>Title of a message above the list</extracomment>
+        <translation>Un module ne peut pas être utilisé</translation>
+    </message>
+    <message>
+        <source>IDS_BANNER_LANGUAGE</source>
+        <extracomment>Title of a message above the list</extracomment>
+        <translation>Une langue ne peut pas être utilisée</translation>
+    </message>
+    <message>
+        <source>IDS_BANNER_COUNT</source>
+        <extracomment>Button of a message: %1 is its number, %2 how many there are</extracomment>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>IDS_BANNER_NEXT</source>
+        <extracomment>Tool tip of that button</extracomment>
+        <translation>Afficher le message suivant</translation>
     </message>
     <message>
         <source>IDS_HEAD_CONNECT_HINT</source>

@@ -148,8 +148,13 @@
         <translation>לוח הרשתות</translation>
     </message>
     <message>
-        <source>IDS_MENU_FILE</source>
-        <translation>&amp;קובץ</translation>
+        <source>IDS_LIST_TITLE</source>
+        <extracomment>Above the list</extracomment>
+        <translation>הרשימה שלך</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_NETWORK</source>
+        <translation>&amp;רשת</translation>
     </message>
     <message>
         <source>IDS_MENU_VIEW</source>
@@ -173,7 +178,7 @@
     </message>
     <message>
         <source>IDS_ACTION_REFRESH</source>
-        <translation>&amp;רענון</translation>
+        <translation>ר&amp;ענון</translation>
     </message>
     <message>
         <source>IDS_ACTION_QUIT</source>
@@ -190,14 +195,6 @@
     <message>
         <source>IDS_BUTTON_SETTINGS</source>
         <translation>הגדרות…</translation>
-    </message>
-    <message>
-        <source>IDS_BUTTON_REFRESH</source>
-        <translation>רענון</translation>
-    </message>
-    <message>
-        <source>IDS_BUTTON_TRACE</source>
-        <translation>הצגת היומן</translation>
     </message>
     <message>
         <source>IDS_TRACE_TITLE</source>
@@ -486,18 +483,8 @@
         <translation>בלעדיו הייתה נבחרת לפי הרשימה שלך %1.</translation>
     </message>
     <message>
-        <source>IDS_HEAD_NOT_CERTAIN</source>
-        <extracomment>%1: names of networks</extracomment>
-        <translation>לא ידוע אם בטווח: %1.</translation>
-    </message>
-    <message>
         <source>IDS_HEAD_NOTHING_USABLE</source>
         <translation>לא ידוע על אף רשת ברשימה שלך שאפשר להשתמש בה.</translation>
-    </message>
-    <message>
-        <source>IDS_HEAD_SKIPPED</source>
-        <extracomment>%1: names of networks</extracomment>
-        <translation>רשתות גבוהות יותר ברשימה שאי אפשר להשתמש בהן כעת: %1.</translation>
     </message>
     <message>
         <source>IDS_STAGE_PREPARING</source>
@@ -543,6 +530,31 @@
         <source>IDS_STATE_CANNOT</source>
         <extracomment>At the end of a row</extracomment>
         <translation>אי אפשר להשתמש</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_KEY_REFUSED</source>
+        <extracomment>At the end of a row: when last tried</extracomment>
+        <translation>המפתח נדחה</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_FAILED</source>
+        <extracomment>At the end of a row: it could not be connected when last tried</extracomment>
+        <translation>הניסיון האחרון נכשל</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_BY_HAND</source>
+        <extracomment>At the end of a row: it does not connect by itself</extracomment>
+        <translation>ידנית בלבד</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_TWICE</source>
+        <extracomment>At the end of a row: the network is in the list at a higher place too</extracomment>
+        <translation>כפולה ברשימה</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_SIM</source>
+        <extracomment>At the end of a row: the SIM card wants its PIN</extracomment>
+        <translation>כרטיס SIM נעול</translation>
     </message>
     <message>
         <source>IDS_STATE_NO_ADAPTER</source>
@@ -693,11 +705,6 @@
     <message>
         <source>IDS_FAILED_NOT_ALLOWED</source>
         <translation>אין לך הרשאה לכך.</translation>
-    </message>
-    <message>
-        <source>IDS_BUTTON_SWITCH</source>
-        <extracomment>Puts the network that the list would choose in the place of the one in use; 120 pixels</extracomment>
-        <translation>מעבר</translation>
     </message>
     <message>
         <source>IDS_SWITCH_TO</source>
@@ -877,10 +884,6 @@
     <message>
         <source>IDS_BUTTON_REDO</source>
         <translation>ביצוע חוזר</translation>
-    </message>
-    <message>
-        <source>IDS_BUTTON_RESTORE</source>
-        <translation>רשימות קודמות…</translation>
     </message>
     <message>
         <source>IDS_UNDO_WHAT</source>
@@ -1232,6 +1235,36 @@
     <message>
         <source>IDS_LIST_UNDO_DAMAGE</source>
         <translation>„ביטול פעולה” מאפשר שחזור של הרשימה השלמה האחרונה.</translation>
+    </message>
+    <message>
+        <source>IDS_BANNER_LIST_DAMAGED</source>
+        <extracomment>Title of a message above the list</extracomment>
+        <translation>הרשימה שלך פגומה</translation>
+    </message>
+    <message>
+        <source>IDS_BANNER_HISTORY</source>
+        <extracomment>Title of a message above the list</extracomment>
+        <translation>אי אפשר להשתמש ברשימות קודמות</translation>
+    </message>
+    <message>
+        <source>IDS_BANNER_PLUGIN</source>
+        <extracomment>Title of a message above the list</extracomment>
+        <translation>אי אפשר להשתמש באחד התוספים</translation>
+    </message>
+    <message>
+        <source>IDS_BANNER_LANGUAGE</source>
+        <extracomment>Title of a message above the list</extracomment>
+        <translation>אי אפשר להשתמש באחת השפות</translation>
+    </message>
+    <message>
+        <source>IDS_BANNER_COUNT</source>
+        <extracomment>Button of a message: %1 is its number, %2 how many there are</extracomment>
+        <translation>%1 מתוך %2</translation>
+    </message>
+    <message>
+        <source>IDS_BANNER_NEXT</source>
+        <extracomment>Tool tip of that button</extracomment>
+        <translation>הצגת ההודעה הבאה</translation>
     </message>
     <message>
         <source>IDS_HEAD_CONNECT_HINT</source>

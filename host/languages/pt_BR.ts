@@ -148,8 +148,13 @@ Você pode usar letras, números e estes símbolos:
         <translation>Painel de redes</translation>
     </message>
     <message>
-        <source>IDS_MENU_FILE</source>
-        <translation>&amp;Arquivo</translation>
+        <source>IDS_LIST_TITLE</source>
+        <extracomment>Above the list</extracomment>
+        <translation>Sua lista</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_NETWORK</source>
+        <translation>&amp;Rede</translation>
     </message>
     <message>
         <source>IDS_MENU_VIEW</source>
@@ -173,7 +178,7 @@ Você pode usar letras, números e estes símbolos:
     </message>
     <message>
         <source>IDS_ACTION_REFRESH</source>
-        <translation>&amp;Atualizar</translation>
+        <translation>A&amp;tualizar</translation>
     </message>
     <message>
         <source>IDS_ACTION_QUIT</source>
@@ -190,14 +195,6 @@ Você pode usar letras, números e estes símbolos:
     <message>
         <source>IDS_BUTTON_SETTINGS</source>
         <translation>Configurações…</translation>
-    </message>
-    <message>
-        <source>IDS_BUTTON_REFRESH</source>
-        <translation>Atualizar</translation>
-    </message>
-    <message>
-        <source>IDS_BUTTON_TRACE</source>
-        <translation>Mostrar registro</translation>
     </message>
     <message>
         <source>IDS_TRACE_TITLE</source>
@@ -486,18 +483,8 @@ Você pode usar letras, números e estes símbolos:
         <translation>Sem ela, sua lista escolheria %1.</translation>
     </message>
     <message>
-        <source>IDS_HEAD_NOT_CERTAIN</source>
-        <extracomment>%1: names of networks</extracomment>
-        <translation>Não se sabe se estão ao alcance: %1.</translation>
-    </message>
-    <message>
         <source>IDS_HEAD_NOTHING_USABLE</source>
         <translation>Não se sabe de nenhuma rede da sua lista que possa ser usada.</translation>
-    </message>
-    <message>
-        <source>IDS_HEAD_SKIPPED</source>
-        <extracomment>%1: names of networks</extracomment>
-        <translation>Mais acima na lista, mas não podem ser usadas agora: %1.</translation>
     </message>
     <message>
         <source>IDS_STAGE_PREPARING</source>
@@ -543,6 +530,31 @@ Você pode usar letras, números e estes símbolos:
         <source>IDS_STATE_CANNOT</source>
         <extracomment>At the end of a row</extracomment>
         <translation>Não pode ser usada</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_KEY_REFUSED</source>
+        <extracomment>At the end of a row: when last tried</extracomment>
+        <translation>Chave recusada</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_FAILED</source>
+        <extracomment>At the end of a row: it could not be connected when last tried</extracomment>
+        <translation>Última tentativa falhou</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_BY_HAND</source>
+        <extracomment>At the end of a row: it does not connect by itself</extracomment>
+        <translation>Só manualmente</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_TWICE</source>
+        <extracomment>At the end of a row: the network is in the list at a higher place too</extracomment>
+        <translation>Repetida na lista</translation>
+    </message>
+    <message>
+        <source>IDS_STATE_SIM</source>
+        <extracomment>At the end of a row: the SIM card wants its PIN</extracomment>
+        <translation>SIM bloqueado</translation>
     </message>
     <message>
         <source>IDS_STATE_NO_ADAPTER</source>
@@ -693,11 +705,6 @@ Você pode usar letras, números e estes símbolos:
     <message>
         <source>IDS_FAILED_NOT_ALLOWED</source>
         <translation>Você não tem permissão para isso.</translation>
-    </message>
-    <message>
-        <source>IDS_BUTTON_SWITCH</source>
-        <extracomment>Puts the network that the list would choose in the place of the one in use; 120 pixels</extracomment>
-        <translation>Mudar</translation>
     </message>
     <message>
         <source>IDS_SWITCH_TO</source>
@@ -878,10 +885,6 @@ Esperado: %3</translation>
     <message>
         <source>IDS_BUTTON_REDO</source>
         <translation>Refazer</translation>
-    </message>
-    <message>
-        <source>IDS_BUTTON_RESTORE</source>
-        <translation>Listas anteriores…</translation>
     </message>
     <message>
         <source>IDS_UNDO_WHAT</source>
@@ -1233,6 +1236,36 @@ Esperado: %3</translation>
     <message>
         <source>IDS_LIST_UNDO_DAMAGE</source>
         <translation>“Desfazer” permite restaurar a última lista completa.</translation>
+    </message>
+    <message>
+        <source>IDS_BANNER_LIST_DAMAGED</source>
+        <extracomment>Title of a message above the list</extracomment>
+        <translation>Sua lista está danificada</translation>
+    </message>
+    <message>
+        <source>IDS_BANNER_HISTORY</source>
+        <extracomment>Title of a message above the list</extracomment>
+        <translation>As listas anteriores não podem ser usadas</translation>
+    </message>
+    <message>
+        <source>IDS_BANNER_PLUGIN</source>
+        <extracomment>Title of a message above the list</extracomment>
+        <translation>Um plug-in não pode ser usado</translation>
+    </message>
+    <message>
+        <source>IDS_BANNER_LANGUAGE</source>
+        <extracomment>Title of a message above the list</extracomment>
+        <translation>Um idioma não pode ser usado</translation>
+    </message>
+    <message>
+        <source>IDS_BANNER_COUNT</source>
+        <extracomment>Button of a message: %1 is its number, %2 how many there are</extracomment>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>IDS_BANNER_NEXT</source>
+        <extracomment>Tool tip of that button</extracomment>
+        <translation>Mostrar a próxima mensagem</translation>
     </message>
     <message>
         <source>IDS_HEAD_CONNECT_HINT</source>

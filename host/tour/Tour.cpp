@@ -629,10 +629,10 @@ void Tour::Connect()
         },
         [this] { ExpectUndoAndRedo(true, true); });
     Step(
-        "redo", "the Redo button puts it there again",
+        "redo", "Redo, in the Edit menu, puts it there again",
         [this] {
             SwapWithListBefore();
-            Click("redoButton");
+            Choose("editMenu", "redoAction");
         },
         [this] { ExpectUndoAndRedo(true, false); });
 }
@@ -644,8 +644,8 @@ void Tour::Restore()
         return preview && NamesOf(preview) == NamesOf(m_expected);
     };
     Step(
-        "restore-dialog", "the button Earlier lists shows them, with what changed and when",
-        [this] { Click("restoreButton"); },
+        "restore-dialog", "Earlier lists, in the Edit menu, shows them, with what changed and when",
+        [this] { Choose("editMenu", "restoreAction"); },
         [this, isPreviewed] {
             ExpectOpen("restoreList", true);
             if (const QTableWidget *table = FindOf<QTableWidget>("restoreList")) {
@@ -960,10 +960,10 @@ void Tour::ExpectSelected(int row)
 void Tour::ExpectUndoAndRedo(bool undo, bool redo)
 {
     const QWidget *undoButton = Find("undoButton");
-    const QWidget *redoButton = Find("redoButton");
-    if (undoButton && redoButton) {
+    const QAction *redoAction = m_window->findChild<QAction *>(QLatin1String("redoAction"));
+    if (undoButton && redoAction) {
         Expect(undoButton->isEnabled() == undo, "the Undo button is enabled when there is something to undo");
-        Expect(redoButton->isEnabled() == redo, "the Redo button is enabled when something was undone");
+        Expect(redoAction->isEnabled() == redo, "Redo can be chosen when something was undone");
     }
 }
 

@@ -22,6 +22,7 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QDir>
+#include <QDockWidget>
 #include <QFile>
 #include <QFont>
 #include <QLineEdit>
@@ -244,7 +245,7 @@ const Screens::Screen Screens::screens[] = {
     {"trace", &Screens::ShowTrace, nullptr},
     {"trace, something found", &Screens::ShowTraceSearch, "e"},
     {"trace, nothing found", &Screens::ShowTraceSearch, "no line has this"},
-    {"File menu", &Screens::ShowMenu, "fileMenu"},
+    {"Network menu", &Screens::ShowMenu, "networkMenu"},
     {"Edit menu", &Screens::ShowMenu, "editMenu"},
     {"View menu", &Screens::ShowMenu, "viewMenu"},
     {"Appearance menu", &Screens::ShowMenu, "appearanceMenu"},
@@ -483,7 +484,7 @@ void Screens::ShowConnections(const char *what)
     if (shown == "refused") {
         Click("switchButton");
     } else if (shown == "disconnect refused") {
-        m_window->findChild<QAction *>(QLatin1String("disconnectAction"))->trigger();
+        Trigger("disconnectAction");
     }
     Visit();
     m_window.reset();
@@ -504,7 +505,7 @@ void Screens::ShowTrace(const char *)
 {
     Fill();
     OpenWindow(m_plugins.data());
-    Click("traceButton");
+    Child<QDockWidget>("tracePanel")->toggleViewAction()->trigger();
     Visit();
 }
 
@@ -512,7 +513,7 @@ void Screens::ShowTraceSearch(const char *text)
 {
     Fill();
     OpenWindow(m_plugins.data());
-    Click("traceButton");
+    Child<QDockWidget>("tracePanel")->toggleViewAction()->trigger();
     Child<QLineEdit>("traceSearch")->setText(QLatin1String(text));
     Visit();
 }
@@ -804,7 +805,7 @@ void Screens::OpenDamageQuestion(const char *history)
     }
     WriteUserFile(QLatin1String("Priority.xml"), damagedList);
     OpenWindow(m_plugins.data());
-    Click("repairButton");
+    Click("bannerRemedyButton");
 }
 
 void Screens::ShowDamageQuestion(const char *history)
@@ -847,7 +848,7 @@ void Screens::ShowRestoreWithoutHistory(const char *)
 {
     WriteUserFile(QLatin1String("history/states.xml"), "no history");
     OpenWindow(m_plugins.data());
-    Click("restoreButton");
+    Trigger("restoreAction");
     Visit();
 }
 
@@ -855,7 +856,7 @@ void Screens::ShowHistoryNotSetAside(const char *)
 {
     WriteUserFile(QLatin1String("history/states.xml"), "no history");
     OpenWindow(m_plugins.data());
-    Click("restoreButton");
+    Trigger("restoreAction");
     TakeNames("history/states-damaged-%1.xml");
     Click("restoreAsideButton");
     Visit();
@@ -918,7 +919,7 @@ void Screens::OpenRestore(int place)
 {
     KeepHistory(States(), stateInForce);
     OpenWindow(m_plugins.data());
-    Click("restoreButton");
+    Trigger("restoreAction");
     QTableWidget *list = Child<QTableWidget>("restoreList");
     list->setCurrentCell(list->rowCount() - 1 - place, 0);
 }
@@ -1043,6 +1044,11 @@ template <class Widget> Widget *Screens::Child(const char *name) const
         qFatal("there is no %s", name);
     }
     return child;
+}
+
+void Screens::Trigger(const char *action)
+{
+    m_window->findChild<QAction *>(QLatin1String(action))->trigger();
 }
 
 void Screens::Click(const char *button)

@@ -114,6 +114,7 @@ private:
     void Visit();
     void ClickAndVisitMessage(const char *button);
     template <class Widget> Widget *Child(const char *name) const;
+    void Trigger(const char *action);
     void Click(const char *button);
 
     QScopedPointer<TemporaryDirectory> m_directory;

@@ -211,7 +211,8 @@ void CStoredConnections::GetProfiles(QList<ConnectionProfile> *profiles)
         profile.name = stored.profile.profileName;
         profile.type = stored.IsWifi() ? WifiType() : MobileType();
         profile.failure = m_failures.value(profile.id);
-        profile.connectsByItself = stored.profile.connectionMode == QLatin1String("auto");
+        // Whatever its connectionMode is: it is the list that decides when.
+        profile.connectsByItself = true;
         profile.use = ConnectionProfile::UsePossible;
         profile.device = DeviceOf(profile.type);
         if (stored.IsWifi()) {

@@ -1,165 +1,186 @@
 #include "OverviewDelegate.h"
 
-#include <DashboardText.h>
-#include <SignalStrength.h>
+#include "Glyphs.h"
 
-#include <QApplication>
+#include <DashboardText.h>
+
 #include <QPainter>
 
 namespace
 {
 
-const int margin = 10;
-const int glyphSize = 24;
+const int margin = 8;
+const int glyphSize = 26;
+const int markSize = 12;
+const int smallestRow = 52;
 
-QColor Blend(const QColor &over, const QColor &under, qreal share)
+QFont Sized(const QFont &font, qreal factor)
 {
-    return QColor::fromRgbF(over.redF() * share + under.redF() * (1 - share),
-                            over.greenF() * share + under.greenF() * (1 - share),
-                            over.blueF() * share + under.blueF() * (1 - share));
-}
-
-/** How many of the three arcs a signal fills: none when nobody has measured it. */
-int ArcsOf(int signal)
-{
-    return signal == SignalStrength::unknown ? 0 : 1 + qMin(2, signal / 34);
-}
-
-/** Three arcs above a dot, those that the signal doesn't reach in a colour of their own. */
-void DrawWifi(QPainter *painter, const QRectF &square, int arcs, const QColor &unreached)
-{
-    const QPointF foot(square.center().x(), square.bottom() - square.height() * 0.2);
-    const qreal unit = square.height() * 0.24;
-    painter->drawPoint(foot);
-    for (int i = 1; i <= 3; ++i) {
-        if (i == arcs + 1) {
-            QPen pen = painter->pen();
-            pen.setColor(unreached);
-            painter->setPen(pen);
-        }
-        const qreal radius = unit * i;
-        painter->drawArc(QRectF(foot.x() - radius, foot.y() - radius, 2 * radius, 2 * radius), 45 * 16,
-                         90 * 16);
+    QFont sized = font;
+    if (sized.pointSizeF() > 0) {
+        sized.setPointSizeF(sized.pointSizeF() * factor);
     }
+    return sized;
 }
 
-/** Four bars of growing height. */
-void DrawMobile(QPainter *painter, const QRectF &square)
+QFont NameFont(const QFont &font, bool isInUse)
 {
-    const qreal step = square.width() / 5;
-    for (int i = 1; i <= 4; ++i) {
-        const qreal x = square.left() + step * i;
-        painter->drawLine(QPointF(x, square.bottom() - 3), QPointF(x, square.bottom() - 3 - step * i * 0.85));
-    }
+    QFont name = Sized(font, 1.08);
+    name.setBold(isInUse);
+    return name;
 }
 
 QFont SmallFont(const QFont &font)
 {
-    QFont small = font;
-    if (small.pointSizeF() > 0) {
-        small.setPointSizeF(small.pointSizeF() * 0.88);
+    return Sized(font, 0.92);
+}
+
+Glyphs::Mark MarkOf(const QModelIndex &index)
+{
+    return static_cast<Glyphs::Mark>(index.data(OverviewDelegate::MarkRole).toInt());
+}
+
+/** The ground, the text and the mark of a state that stands out. */
+Tones::Trouble ChipOf(Glyphs::Mark mark, const Tones &tones)
+{
+    if (mark == Glyphs::MarkInUse) {
+        Tones::Trouble chip;
+        chip.ground = tones.filled;
+        chip.text = tones.onFilled;
+        chip.mark = tones.onFilled;
+        return chip;
     }
-    return small;
+    return mark == Glyphs::MarkError ? tones.error : tones.warning;
+}
+
+/** Where the place and the glyph of a row are; the texts begin behind it. */
+QRect GlyphArea(const QStyleOptionViewItem &option)
+{
+    const int places = QFontMetrics(SmallFont(option.font)).horizontalAdvance(QLatin1String("0000"));
+    return QRect(option.rect.left() + margin + places + margin,
+                 option.rect.top() + (option.rect.height() - glyphSize) / 2, glyphSize, glyphSize);
 }
 
 } // namespace
 
 OverviewDelegate::OverviewDelegate(QObject *parent) : QStyledItemDelegate(parent) {}
 
-void OverviewDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
-                             const QModelIndex &index) const
+void OverviewDelegate::PaintGround(QPainter *painter, const QStyleOptionViewItem &option, bool isInUse,
+                                   const Tones &tones)
 {
-    const bool isInUse = index.data(IsInUseRole).toBool();
-    const bool isAvailable = index.data(IsAvailableRole).toBool();
-    const QColor base = option.palette.color(QPalette::Base);
-    // The application's highlight: that of lists may be a soft one, made for reading on it.
-    const QPalette application = QApplication::palette();
-    const QColor &accent = application.color(QPalette::Highlight);
-    const QColor strong = option.palette.color(QPalette::Text);
-    const QColor text = isAvailable ? strong : Blend(strong, base, 0.65);
-    const QColor faint = Blend(strong, base, isAvailable ? 0.7 : 0.62);
-    const Qt::LayoutDirection direction = option.direction;
-    const Qt::Alignment leading =
-        QStyle::visualAlignment(direction, Qt::AlignLeft | Qt::AlignVCenter) | Qt::AlignAbsolute;
-
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    const QRect row = option.rect;
+    const QRect &row = option.rect;
     if (isInUse) {
-        painter->fillRect(row, Blend(accent, base, 0.14));
-        painter->fillRect(QStyle::visualRect(direction, row, QRect(row.left(), row.top(), 4, row.height())),
-                          accent);
+        painter->fillRect(row, tones.inUse);
+        painter->fillRect(
+            QStyle::visualRect(option.direction, row, QRect(row.left(), row.top(), 4, row.height())),
+            tones.accent);
+    } else if (option.state & QStyle::State_Selected) {
+        painter->fillRect(row, tones.selected);
     }
-    painter->setPen(Blend(strong, base, 0.12));
+    painter->setPen(tones.separator);
     painter->drawLine(row.bottomLeft(), row.bottomRight());
+    if (option.state & QStyle::State_HasFocus) {
+        painter->setPen(QPen(tones.accent, 2));
+        painter->setBrush(Qt::NoBrush);
+        painter->drawRoundedRect(row.adjusted(2, 2, -2, -2), 4, 4);
+    }
+}
 
-    QFont nameFont = option.font;
-    nameFont.setBold(isInUse);
+QRect OverviewDelegate::PaintState(QPainter *painter, const QStyleOptionViewItem &option,
+                                   const QModelIndex &index, const Tones &tones)
+{
+    const QRect &row = option.rect;
+    const Glyphs::Mark mark = MarkOf(index);
+    QFont font = SmallFont(option.font);
+    font.setBold(mark == Glyphs::MarkInUse);
+    const QFontMetrics metrics(font);
+    const int markRoom = mark == Glyphs::NoMark ? 0 : markSize + 5;
+    const int most = row.width() / 2 - 2 * margin - markRoom;
+    const QString state = metrics.elidedText(index.data(StateTextRole).toString(), Qt::ElideRight, most);
+    const int width = metrics.horizontalAdvance(state) + markRoom + 2 * margin + 2;
+    const int height = qMax(metrics.height(), markSize) + 6;
+    const QRect chip(row.right() - margin - width, row.top() + (row.height() - height) / 2, width, height);
+    QColor text = tones.faint;
+    if (mark != Glyphs::NoMark) {
+        const Tones::Trouble colours = ChipOf(mark, tones);
+        text = colours.text;
+        painter->setPen(mark == Glyphs::MarkInUse ? QPen(Qt::NoPen) : QPen(colours.mark, 1));
+        painter->setBrush(colours.ground);
+        painter->drawRoundedRect(QRectF(QStyle::visualRect(option.direction, row, chip)), height / 2.0,
+                                 height / 2.0);
+        const QRect square(chip.left() + margin, chip.top() + (height - markSize) / 2, markSize, markSize);
+        Glyphs::Draw(painter, QRectF(QStyle::visualRect(option.direction, row, square)), mark, colours.mark,
+                     colours.ground);
+    }
+    painter->setPen(text);
+    painter->setFont(font);
+    painter->drawText(
+        QStyle::visualRect(option.direction, row, chip.adjusted(margin + markRoom, 0, -margin, 0)),
+        Qt::AlignCenter, state);
+    return chip;
+}
+
+void OverviewDelegate::PaintTexts(QPainter *painter, const QStyleOptionViewItem &option,
+                                  const QModelIndex &index, const QRect &area, const Tones &tones)
+{
+    const QFont nameFont = NameFont(option.font, MarkOf(index) == Glyphs::MarkInUse);
     const QFont smallFont = SmallFont(option.font);
     const QFontMetrics nameMetrics(nameFont);
     const QFontMetrics smallMetrics(smallFont);
-
-    // Everything is placed as for reading from left to right and then mirrored.
-    const QRect place(row.left() + margin, row.top(), 28, row.height());
-    painter->setFont(smallFont);
-    painter->setPen(faint);
-    painter->drawText(QStyle::visualRect(direction, row, place), Qt::AlignCenter,
-                      DashboardNumber(index.row() + 1));
-
-    const QRect glyph(place.right() + margin, row.top() + (row.height() - glyphSize) / 2, glyphSize,
-                      glyphSize);
-    painter->setPen(QPen(isInUse ? accent : text, 2.4, Qt::SolidLine, Qt::RoundCap));
-    const QRectF glyphSquare(QStyle::visualRect(direction, row, glyph));
-    if (index.data(IsWifiRole).toBool()) {
-        DrawWifi(painter, glyphSquare, ArcsOf(index.data(SignalRole).toInt()), Blend(text, base, 0.25));
-    } else {
-        DrawMobile(painter, glyphSquare);
-    }
-
-    const QString state = index.data(StateTextRole).toString();
-    const int stateWidth = smallMetrics.boundingRect(state).width() + 2 * margin;
-    const int stateHeight = smallMetrics.height() + 6;
-    const QRect chip(row.right() - margin - stateWidth, row.top() + (row.height() - stateHeight) / 2,
-                     stateWidth, stateHeight);
-    const QRect visualChip = QStyle::visualRect(direction, row, chip);
-    if (isInUse) {
-        painter->setPen(Qt::NoPen);
-        painter->setBrush(accent);
-        painter->drawRoundedRect(visualChip, stateHeight / 2.0, stateHeight / 2.0);
-    }
-    painter->setPen(isInUse ? application.color(QPalette::HighlightedText) : faint);
-    painter->setFont(smallFont);
-    painter->drawText(visualChip, Qt::AlignCenter, state);
-
-    const int nameLeft = glyph.right() + margin + 4;
-    const QRect nameArea(nameLeft, row.top(), chip.left() - margin - nameLeft, row.height());
-    const int textHeight = nameMetrics.height() + smallMetrics.height() + 2;
-    const int textTop = row.top() + (row.height() - textHeight) / 2;
-    const QRect nameLine(nameArea.left(), textTop, nameArea.width(), nameMetrics.height());
-    const QRect kindLine(nameArea.left(), nameLine.bottom() + 3, nameArea.width(), smallMetrics.height());
-    painter->setFont(nameFont);
-    painter->setPen(text);
+    const Qt::Alignment leading =
+        QStyle::visualAlignment(option.direction, Qt::AlignLeft | Qt::AlignVCenter) | Qt::AlignAbsolute;
+    const int height = nameMetrics.height() + smallMetrics.height() + 2;
+    const QRect nameLine(area.left(), area.top() + (area.height() - height) / 2, area.width(),
+                         nameMetrics.height());
+    const QRect detailLine(area.left(), nameLine.bottom() + 3, area.width(), smallMetrics.height());
     // A name may hold line breaks; it has one line here.
     const QString name = index.data(Qt::DisplayRole).toString().simplified();
+    painter->setFont(nameFont);
+    painter->setPen(tones.text);
     // The row is mirrored with the language, the name reads in its own direction.
     painter->setLayoutDirection(name.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
-    painter->drawText(QStyle::visualRect(direction, row, nameLine), static_cast<int>(leading),
+    painter->drawText(QStyle::visualRect(option.direction, option.rect, nameLine), static_cast<int>(leading),
                       nameMetrics.elidedText(name, Qt::ElideRight, nameLine.width()));
-    painter->setLayoutDirection(direction);
+    painter->setLayoutDirection(option.direction);
     painter->setFont(smallFont);
-    painter->setPen(faint);
-    painter->drawText(QStyle::visualRect(direction, row, kindLine), static_cast<int>(leading),
-                      index.data(KindTextRole).toString());
-    if (option.state & QStyle::State_HasFocus) {
-        painter->setPen(QPen(accent, 1, Qt::DotLine));
-        painter->setBrush(Qt::NoBrush);
-        painter->drawRect(row.adjusted(1, 1, -2, -2));
-    }
+    painter->setPen(tones.faint);
+    painter->drawText(
+        QStyle::visualRect(option.direction, option.rect, detailLine), static_cast<int>(leading),
+        smallMetrics.elidedText(index.data(DetailTextRole).toString(), Qt::ElideRight, detailLine.width()));
+}
+
+void OverviewDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
+                             const QModelIndex &index) const
+{
+    const Tones tones = Tones::OfApplication();
+    const QRect &row = option.rect;
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    PaintGround(painter, option, MarkOf(index) == Glyphs::MarkInUse, tones);
+
+    const QRect glyph = GlyphArea(option);
+    const QRect place(row.left() + margin, row.top(), glyph.left() - row.left() - 2 * margin, row.height());
+    painter->setFont(SmallFont(option.font));
+    painter->setPen(tones.faint);
+    painter->drawText(QStyle::visualRect(option.direction, row, place), Qt::AlignCenter,
+                      DashboardNumber(index.row() + 1));
+    Glyphs::Signal signal;
+    signal.kind = static_cast<Glyphs::Kind>(index.data(KindRole).toInt());
+    signal.reach = static_cast<Glyphs::Reach>(index.data(ReachRole).toInt());
+    signal.percent = index.data(SignalRole).toInt();
+    signal.isInUse = MarkOf(index) == Glyphs::MarkInUse;
+    Glyphs::Draw(painter, QRectF(QStyle::visualRect(option.direction, row, glyph)), signal, tones);
+
+    const QRect chip = PaintState(painter, option, index, tones);
+    const int left = glyph.right() + margin + 4;
+    PaintTexts(painter, option, index, QRect(left, row.top(), chip.left() - margin - left, row.height()),
+               tones);
     painter->restore();
 }
 
 QSize OverviewDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &) const
 {
-    const int text = QFontMetrics(option.font).height() + QFontMetrics(SmallFont(option.font)).height();
-    return QSize(260, qMax(text, glyphSize) + 22);
+    const int texts =
+        QFontMetrics(NameFont(option.font, true)).height() + QFontMetrics(SmallFont(option.font)).height();
+    return QSize(260, qMax(smallestRow, texts + 16));
 }

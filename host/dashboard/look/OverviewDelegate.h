@@ -3,8 +3,10 @@
 
 #include <QStyledItemDelegate>
 
-/** Draws one entry of the list: its place, its kind, its name, and what the connection manager makes of it.
- */
+struct Tones;
+
+/** Draws one entry of the list: its place, its name with its kind and what is to be said of it, and its
+ * state. */
 class OverviewDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -12,12 +14,12 @@ class OverviewDelegate : public QStyledItemDelegate
 public:
     /** What an item holds besides its text, which is the entry's name. */
     enum Role {
-        KindTextRole = Qt::UserRole, /**< QString, shown below the name. */
-        StateTextRole,               /**< QString, shown at the end of the row. */
-        IsWifiRole,                  /**< bool */
-        IsAvailableRole,             /**< bool; false is drawn fainter. */
-        IsInUseRole,                 /**< bool */
-        SignalRole                   /**< int, as Overview::Entry::signal. */
+        DetailTextRole = Qt::UserRole, /**< QString, shown below the name. */
+        StateTextRole,                 /**< QString, shown at the end of the row. */
+        MarkRole,                      /**< int, a Glyphs::Mark: what kind of state that is. */
+        KindRole,                      /**< int, a Glyphs::Kind */
+        ReachRole,                     /**< int, a Glyphs::Reach */
+        SignalRole                     /**< int, as Overview::Entry::signal. */
     };
 
     explicit OverviewDelegate(QObject *parent);
@@ -25,6 +27,15 @@ public:
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
+
+private:
+    // What is laid out from left to right is mirrored in row for the other direction.
+    static void PaintGround(QPainter *painter, const QStyleOptionViewItem &option, bool isInUse,
+                            const Tones &tones);
+    static QRect PaintState(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index,
+                            const Tones &tones);
+    static void PaintTexts(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index,
+                           const QRect &area, const Tones &tones);
 };
 
 #endif

@@ -90,6 +90,78 @@ bool IsNotCertain(const Overview::Entry &entry)
                                            TextOf(obstacles, entry.profile.use).isEmpty());
 }
 
+/** The id of a text, and how the state is drawn. */
+struct EntryState {
+    const char *id;
+    Glyphs::Mark mark;
+};
+
+EntryState StateOfConnection(const Overview::Entry &entry)
+{
+    if (entry.isInUse) {
+        return {"IDS_STATE_IN_USE", Glyphs::MarkInUse};
+    }
+    if (entry.stage == StageConnected) {
+        return {"IDS_STATE_CONNECTED", Glyphs::NoMark};
+    }
+    return {entry.stage == StageDisconnecting ? "IDS_STATE_DISCONNECTING" : "IDS_STATE_CONNECTING",
+            Glyphs::NoMark};
+}
+
+/** Of an entry that can be used now. */
+EntryState StateOfUsable(const Overview::Entry &entry)
+{
+    switch (entry.profile.failure) {
+    case FailureNone:
+    case FailureStopped:
+        break;
+    case FailureWrongKey:
+        return {"IDS_STATE_KEY_REFUSED", Glyphs::MarkError};
+    default:
+        return {"IDS_STATE_FAILED", Glyphs::MarkError};
+    }
+    if (!entry.profile.connectsByItself) {
+        return {"IDS_STATE_BY_HAND", Glyphs::NoMark};
+    }
+    return {entry.IsWifi() ? "IDS_STATE_IN_RANGE" : "IDS_STATE_FALLBACK", Glyphs::NoMark};
+}
+
+EntryState StateOf(const Overview &overview, const Overview::Entry &entry)
+{
+    if (entry.isRepeated) {
+        return {"IDS_STATE_TWICE", Glyphs::MarkWarning};
+    }
+    if (entry.isInUse || entry.stage == StageConnected || entry.stage == StageDisconnecting ||
+        Connections::IsComingUp(entry.stage)) {
+        return StateOfConnection(entry);
+    }
+    if (!overview.connections.AreKnown()) {
+        return {"IDS_STATE_UNKNOWN", Glyphs::NoMark};
+    }
+    if (entry.profile.id.isEmpty()) {
+        return {"IDS_STATE_NOT_SAVED", Glyphs::MarkWarning};
+    }
+    switch (entry.profile.use) {
+    case ConnectionProfile::UsePossible:
+        return StateOfUsable(entry);
+    case ConnectionProfile::UseHiddenIsTried:
+        return {"IDS_STATE_HIDDEN", Glyphs::NoMark};
+    case ConnectionProfile::UseOutOfRange:
+        return {"IDS_STATE_OUT_OF_RANGE", Glyphs::NoMark};
+    case ConnectionProfile::UseNoDevice:
+        return {entry.IsWifi() ? "IDS_STATE_NO_ADAPTER" : "IDS_STATE_NO_MODEM", Glyphs::NoMark};
+    case ConnectionProfile::UseDeviceOff:
+    case ConnectionProfile::UseDeviceBlocked:
+        return {"IDS_STATE_OFF", Glyphs::NoMark};
+    case ConnectionProfile::UseSimLocked:
+        return {"IDS_STATE_SIM", Glyphs::MarkWarning};
+    default:
+        break;
+    }
+    return IsNotCertain(entry) ? EntryState{"IDS_STATE_UNKNOWN", Glyphs::NoMark}
+                               : EntryState{"IDS_STATE_CANNOT", Glyphs::MarkWarning};
+}
+
 /** Why nothing is known of connections. */
 QString NotKnownText(const Overview &overview)
 {
@@ -136,30 +208,6 @@ QStringList ChoiceText(const Overview &overview)
     return QStringList() << DashboardText("IDS_HEAD_CHOICE").arg(name) << ChoiceReason(overview);
 }
 
-/** What stands above the list's choice, or in a list without one. */
-QStringList PassedOverText(const Overview &overview)
-{
-    QList<PriorityList> skipped;
-    QList<PriorityList> notCertain;
-    const Overview::Entry *choice = overview.Choice();
-    for (const Overview::Entry &entry : overview.entries) {
-        if (&entry == choice) {
-            break;
-        }
-        if (!entry.isRepeated) {
-            (IsNotCertain(entry) ? notCertain : skipped).append(entry.entry);
-        }
-    }
-    QStringList sentences;
-    if (choice && !skipped.isEmpty()) {
-        sentences.append(DashboardText("IDS_HEAD_SKIPPED").arg(ListChangeText::Names(skipped)));
-    }
-    if (!notCertain.isEmpty()) {
-        sentences.append(DashboardText("IDS_HEAD_NOT_CERTAIN").arg(ListChangeText::Names(notCertain)));
-    }
-    return sentences;
-}
-
 /** How what is in use stands to the list. */
 QString InUseText(const Overview &overview, const ActiveConnection &inUse)
 {
@@ -187,7 +235,7 @@ QStringList VpnTexts(const QList<ActiveConnection> &active)
 /** Why nothing is in use, as far as the list can tell. */
 QStringList NothingInUseTexts(const Overview &overview)
 {
-    QStringList sentences = ChoiceText(overview) + PassedOverText(overview);
+    QStringList sentences = ChoiceText(overview);
     if (!overview.Choice()) {
         sentences.prepend(DashboardText("IDS_HEAD_NOTHING_USABLE"));
         if (!overview.connections.networks.isEmpty()) {
@@ -253,7 +301,7 @@ QString OverviewText::Explanation(const Overview &overview)
     } else if (overview.entries.isEmpty()) {
         sentences << DashboardText("IDS_HEAD_EMPTY");
     } else if (inUse) {
-        sentences << ChoiceText(overview) << PassedOverText(overview);
+        sentences << ChoiceText(overview);
     } else if (!comingUp) {
         sentences << NothingInUseTexts(overview);
     }
@@ -268,46 +316,52 @@ QString OverviewText::Kind(const Overview::Entry &entry)
 QString OverviewText::State(const Overview &overview, int place)
 {
     const Overview::Entry &entry = overview.entries.at(place);
-    const char *id = IsNotCertain(entry) ? "IDS_STATE_UNKNOWN" : "IDS_STATE_CANNOT";
-    if (entry.isInUse) {
-        id = "IDS_STATE_IN_USE";
-    } else if (entry.stage == StageConnected) {
-        id = "IDS_STATE_CONNECTED";
-    } else if (Connections::IsComingUp(entry.stage)) {
-        id = "IDS_STATE_CONNECTING";
-    } else if (entry.stage == StageDisconnecting) {
-        id = "IDS_STATE_DISCONNECTING";
-    } else if (!overview.connections.AreKnown()) {
-        id = "IDS_STATE_UNKNOWN";
-    } else if (entry.profile.id.isEmpty()) {
-        id = "IDS_STATE_NOT_SAVED";
-    } else if (entry.profile.use == ConnectionProfile::UsePossible) {
-        id = entry.IsWifi() ? "IDS_STATE_IN_RANGE" : "IDS_STATE_FALLBACK";
-    } else if (entry.profile.use == ConnectionProfile::UseHiddenIsTried) {
-        id = "IDS_STATE_HIDDEN";
-    } else if (entry.profile.use == ConnectionProfile::UseOutOfRange) {
-        id = "IDS_STATE_OUT_OF_RANGE";
-    } else if (entry.profile.use == ConnectionProfile::UseNoDevice) {
-        id = entry.IsWifi() ? "IDS_STATE_NO_ADAPTER" : "IDS_STATE_NO_MODEM";
-    } else if (entry.profile.use == ConnectionProfile::UseDeviceOff ||
-               entry.profile.use == ConnectionProfile::UseDeviceBlocked) {
-        id = "IDS_STATE_OFF";
-    }
-    const QString state = DashboardText(id);
+    const QString state = DashboardText(StateOf(overview, entry).id);
     const QString signal =
         entry.CanBeUsed() || entry.stage != StageNotKnown ? Signal(entry.signal) : QString();
     return signal.isEmpty() ? state : state + QString::fromUtf8(" · ") + signal;
+}
+
+Glyphs::Mark OverviewText::Mark(const Overview &overview, int place)
+{
+    return StateOf(overview, overview.entries.at(place)).mark;
+}
+
+Glyphs::Reach OverviewText::Reach(const Overview &overview, int place)
+{
+    const Overview::Entry &entry = overview.entries.at(place);
+    if (entry.CanBeUsed() || entry.stage != StageNotKnown) {
+        return Glyphs::InReach;
+    }
+    return !overview.connections.AreKnown() || IsNotCertain(entry) ? Glyphs::ReachNotKnown
+                                                                   : Glyphs::OutOfReach;
+}
+
+QString OverviewText::Detail(const Overview &overview, int place)
+{
+    const Overview::Entry &entry = overview.entries.at(place);
+    const bool isOutOfRange =
+        entry.profile.use == ConnectionProfile::UseOutOfRange && entry.profile.failure == FailureNone;
+    QString reason;
+    if (entry.isRepeated) {
+        reason = Reason(overview, place);
+    } else if (!overview.connections.AreKnown() || entry.isInUse || (isOutOfRange && !entry.CanBeUsed())) {
+        reason = QString();
+    } else {
+        reason = &entry == overview.Choice() ? ChoiceReason(overview) : Reason(overview, place);
+    }
+    return reason.isEmpty() ? Kind(entry) : Kind(entry) + QString::fromUtf8(" · ") + reason;
 }
 
 QString OverviewText::Reason(const Overview &overview, int place)
 {
     const Overview::Entry &entry = overview.entries.at(place);
     const Overview::Entry *choice = overview.Choice();
-    if (!overview.connections.AreKnown()) {
-        return NotKnownText(overview);
-    }
     if (entry.isRepeated) {
         return DashboardText("IDS_USE_TWICE");
+    }
+    if (!overview.connections.AreKnown()) {
+        return NotKnownText(overview);
     }
     if (entry.isInUse && &entry == choice) {
         return DashboardText("IDS_HEAD_FIRST");

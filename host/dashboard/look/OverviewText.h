@@ -1,6 +1,8 @@
 #ifndef OVERVIEWTEXT_H
 #define OVERVIEWTEXT_H
 
+#include "Glyphs.h"
+
 #include <Overview.h>
 
 #include <QString>
@@ -26,6 +28,13 @@ QString Explanation(const Overview &overview);
 QString Kind(const Overview::Entry &entry);
 QString State(const Overview &overview, int place);
 QString Reason(const Overview &overview, int place);
+
+/** What stands below an entry's name: its kind, and what its state does not tell already. */
+QString Detail(const Overview &overview, int place);
+
+// How an entry's state is drawn.
+Glyphs::Mark Mark(const Overview &overview, int place);
+Glyphs::Reach Reach(const Overview &overview, int place);
 
 /** How far a network is that is coming up, a ConnectionStage; empty when it is not. */
 QString Stage(int stage);

@@ -81,11 +81,13 @@ QString ConnectionOrder::Reason() const
                                                          : OverviewText::Outcome(Failure());
 }
 
-QString ConnectionOrder::Problem(const QList<ActiveConnection> &active) const
+bool ConnectionOrder::HasFailed(const QList<ActiveConnection> &active) const
 {
-    if (Failure() == FailureNone || HasComeAbout(active)) {
-        return QString();
-    }
-    return OverviewText::NotDone(m_isToConnect ? "IDS_SWITCH_FAILED" : "IDS_DISCONNECT_FAILED", m_name,
-                                 Reason());
+    return Failure() != FailureNone && !HasComeAbout(active);
+}
+
+QString ConnectionOrder::Failed() const
+{
+    return DashboardText(m_isToConnect ? "IDS_SWITCH_FAILED" : "IDS_DISCONNECT_FAILED")
+        .arg(OverviewText::Name(m_name));
 }

@@ -16,15 +16,18 @@ public:
 
     bool IsUnderWay() const;
 
-    /** Why it has not come about; empty when it has, in whatever way, or is under way, or none was given. */
-    QString Problem(const QList<ActiveConnection> &active) const;
+    /** Whether it has not come about and won't; false, too, when it has come about in another way. */
+    bool HasFailed(const QList<ActiveConnection> &active) const;
+
+    // What has not come about, and why; the second is empty when that is not known.
+    QString Failed() const;
+    QString Reason() const;
 
 private:
     ConnectAttempt Attempt() const;
     bool HasComeAbout(const QList<ActiveConnection> &active) const;
     /** A ConnectionFailure; FailureNone while nothing is wrong. */
     int Failure() const;
-    QString Reason() const;
 
     bool m_isToConnect = true;
     QString m_name;

@@ -43,6 +43,7 @@ QAction *ListActions::CreateAction(const char *name, const char *slot)
 
 void ListActions::FillMenu(QMenu *menu)
 {
+    menu->setToolTipsVisible(true);
     menu->addAction(m_undo);
     menu->addAction(m_redo);
     menu->addAction(m_restore);
@@ -59,11 +60,7 @@ QWidget *ListActions::CreateBar()
     QHBoxLayout *layout = new QHBoxLayout(bar);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_lastChange, 1);
-    const QList<QWidget *> buttons = CreateButtons("undoButton", "redoButton");
-    for (int i = 0; i < buttons.size(); ++i) {
-        layout->addWidget(buttons.at(i));
-    }
-    layout->addWidget(new ActionButton("restoreButton", m_restore));
+    layout->addWidget(new ActionButton("undoButton", m_undo));
     return bar;
 }
 
@@ -81,7 +78,6 @@ void ListActions::Retranslate()
     m_export->setText(DashboardText("IDS_ACTION_EXPORT"));
     m_undo->setIconText(DashboardText("IDS_BUTTON_UNDO"));
     m_redo->setIconText(DashboardText("IDS_BUTTON_REDO"));
-    m_restore->setIconText(DashboardText("IDS_BUTTON_RESTORE"));
     if (m_restoreDialog) {
         m_restoreDialog->Retranslate();
     }

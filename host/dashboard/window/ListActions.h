@@ -29,7 +29,7 @@ public:
     /** Not owned; whoever calls puts it into a menu bar. */
     void FillMenu(QMenu *menu);
 
-    /** The last change in words, and buttons to undo, redo and restore. */
+    /** The last change in words, and a button to undo it. */
     QWidget *CreateBar();
 
     /** Buttons to undo and redo for another window. */

@@ -1,12 +1,14 @@
 #include "MainWindow.h"
 
 #include "ConnectDialog.h"
+#include "HeadArea.h"
 #include "ListActions.h"
 #include "ListGuard.h"
+#include "WindowProblems.h"
 
 #include <AccessibleRows.h>
 #include <Appearance.h>
-#include <BidiText.h>
+#include <Banner.h>
 #include <Change.h>
 #include <ContractNumbers.h>
 #include <DashboardLanguage.h>
@@ -14,9 +16,7 @@
 #include <DialogParts.h>
 #include <GeneralPage.h>
 #include <IConnectionPlugin.h>
-#include <ListChangeText.h>
 #include <ListKeeper.h>
-#include <ListKeeperText.h>
 #include <OverviewDelegate.h>
 #include <OverviewText.h>
 #include <PluginHost.h>
@@ -24,6 +24,7 @@
 #include <PluginPage.h>
 #include <Settings.h>
 #include <SettingsDialog.h>
+#include <TextButton.h>
 #include <TracePanel.h>
 #include <UserData.h>
 #include <WrappedLabel.h>
@@ -31,13 +32,12 @@
 #include <QActionGroup>
 #include <QApplication>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
-#include <QPushButton>
 #include <QScrollBar>
-#include <QShortcut>
 #include <QStackedWidget>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -67,13 +67,6 @@ QLabel *MakeLabel(const char *name, qreal sizeFactor, bool isBold)
     return label;
 }
 
-QPushButton *MakeButton(const char *name)
-{
-    QPushButton *button = new QPushButton;
-    button->setObjectName(QLatin1String(name));
-    return button;
-}
-
 } // namespace
 
 MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLog *log)
@@ -93,20 +86,16 @@ MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLo
     QWidget *central = new QWidget;
     central->setObjectName(QLatin1String("central"));
     QVBoxLayout *layout = new QVBoxLayout(central);
-    layout->setContentsMargins(18, 16, 18, 14);
+    layout->setContentsMargins(16, 16, 16, 16);
     layout->setSpacing(12);
-    layout->addWidget(CreateHead());
-
-    m_problems = MakeLabel("problemsLabel", 1, false);
-    m_problems->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    m_problems->setAutoFillBackground(true);
-    m_problems->setBackgroundRole(QPalette::ToolTipBase);
-    m_problems->setForegroundRole(QPalette::ToolTipText);
-    m_problems->setMargin(10);
-    layout->addWidget(m_problems);
-    m_repairButton = MakeButton("repairButton");
-    connect(m_repairButton, SIGNAL(clicked()), m_guard, SLOT(Ask()));
-    layout->addWidget(m_repairButton, 0, Qt::AlignLeading);
+    m_head = new HeadArea;
+    connect(m_head, &HeadArea::SwitchWanted, this, &MainWindow::Switch);
+    connect(m_head, &HeadArea::StopWanted, this, &MainWindow::Disconnect);
+    connect(m_head, &HeadArea::ConnectWanted, this, &MainWindow::OpenConnect);
+    layout->addWidget(m_head);
+    m_banner = new Banner;
+    layout->addWidget(m_banner);
+    layout->addWidget(CreateListHeader());
 
     m_list = new QListWidget;
     m_list->setObjectName(QLatin1String("overviewList"));
@@ -117,18 +106,13 @@ MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLo
     m_list->setUniformItemSizes(true);
     // Not at a single click, which is what some desktops take for opening.
     connect(m_list, &QListWidget::itemDoubleClicked, this, &MainWindow::ConnectEntry);
-    for (const int key : {Qt::Key_Return, Qt::Key_Enter}) {
-        QShortcut *shortcut = new QShortcut(QKeySequence(key), m_list);
-        shortcut->setContext(Qt::WidgetShortcut);
-        connect(shortcut, &QShortcut::activated, this, &MainWindow::ConnectEntry);
-    }
+    m_list->installEventFilter(this);
     m_body = new QStackedWidget;
     m_body->setObjectName(QLatin1String("body"));
     m_body->addWidget(m_list);
     m_body->addWidget(CreateMessagePage());
     layout->addWidget(m_body, 1);
     layout->addWidget(m_listActions->CreateBar());
-    layout->addWidget(CreateFoot());
     setCentralWidget(central);
 
     if (QObject *service = PluginObjects::PriorityService()) {
@@ -141,8 +125,9 @@ MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLo
     connect(m_keeper, SIGNAL(Changed()), this, SLOT(FollowHistory()));
     connect(m_language, SIGNAL(Switched()), this, SLOT(FollowLanguage()));
 
-    resize(DialogParts::ForFont(820), DialogParts::ForFont(620));
+    resize(DialogParts::ForFont(820), DialogParts::ForFont(640));
     restoreGeometry(Settings::Read(GeometryKey()).toByteArray());
+    m_list->setFocus();
     Retranslate();
 }
 
@@ -154,35 +139,40 @@ MainWindow::~MainWindow()
 
 void MainWindow::CreateMenus()
 {
-    m_fileMenu = menuBar()->addMenu(QString());
+    m_networkMenu = menuBar()->addMenu(QString());
     m_editMenu = menuBar()->addMenu(QString());
     m_viewMenu = menuBar()->addMenu(QString());
     m_languageMenu = menuBar()->addMenu(QString());
     menuBar()->setObjectName(QLatin1String("menuBar"));
-    m_fileMenu->setObjectName(QLatin1String("fileMenu"));
+    m_networkMenu->setObjectName(QLatin1String("networkMenu"));
     m_editMenu->setObjectName(QLatin1String("editMenu"));
     m_viewMenu->setObjectName(QLatin1String("viewMenu"));
     m_languageMenu->setObjectName(QLatin1String("languageMenu"));
 
-    m_connectAction = m_fileMenu->addAction(QString(), this, SLOT(OpenConnect()));
+    m_connectAction = m_networkMenu->addAction(QString(), this, SLOT(OpenConnect()));
     m_connectAction->setObjectName(QLatin1String("connectAction"));
     m_connectAction->setShortcut(QKeySequence(QLatin1String("Ctrl+K")));
-    m_disconnectAction = m_fileMenu->addAction(QString(), this, SLOT(Disconnect()));
+    m_disconnectAction = m_networkMenu->addAction(QString(), this, SLOT(Disconnect()));
     m_disconnectAction->setObjectName(QLatin1String("disconnectAction"));
-    m_settingsAction = m_fileMenu->addAction(QString(), this, SLOT(OpenSettings()));
-    m_settingsAction->setShortcut(QKeySequence(QLatin1String("Ctrl+,")));
-    m_refreshAction = m_fileMenu->addAction(QString(), this, SLOT(LookAgain()));
-    m_refreshAction->setShortcut(QKeySequence(QLatin1String("F5")));
-    m_fileMenu->addSeparator();
-    m_quitAction = m_fileMenu->addAction(QString(), this, SLOT(close()));
+    m_networkMenu->addSeparator();
+    m_quitAction = m_networkMenu->addAction(QString(), this, SLOT(close()));
     m_quitAction->setShortcut(QKeySequence(QLatin1String("Ctrl+Q")));
     m_listActions->FillMenu(m_editMenu);
+    m_editMenu->addSeparator();
+    m_settingsAction = m_editMenu->addAction(QString(), this, SLOT(OpenSettings()));
+    m_settingsAction->setShortcut(QKeySequence(QLatin1String("Ctrl+,")));
+    m_repairAction = new QAction(this);
+    m_repairAction->setObjectName(QLatin1String("repairAction"));
+    connect(m_repairAction, &QAction::triggered, m_guard, &ListGuard::Ask);
     m_trace->toggleViewAction()->setShortcut(QKeySequence(QLatin1String("F12")));
     m_viewMenu->addAction(m_trace->toggleViewAction());
     m_searchAction = m_viewMenu->addAction(QString(), m_trace, SLOT(StartSearch()));
     m_searchAction->setObjectName(QLatin1String("traceSearchAction"));
     m_searchAction->setShortcut(QKeySequence(QLatin1String("Ctrl+F")));
     CreateAppearanceActions();
+    m_refreshAction = m_viewMenu->addAction(QString(), this, SLOT(LookAgain()));
+    m_refreshAction->setObjectName(QLatin1String("refreshAction"));
+    m_refreshAction->setShortcut(QKeySequence(QLatin1String("F5")));
     CreateLanguageActions();
 }
 
@@ -223,37 +213,23 @@ void MainWindow::CreateLanguageActions()
     addAction(open);
 }
 
-QWidget *MainWindow::CreateHead()
+QWidget *MainWindow::CreateListHeader()
 {
-    m_headline = MakeLabel("headlineLabel", 1.5, true);
-    m_explanation = MakeLabel("explanationLabel", 1, false);
-    m_switchButton = MakeButton("switchButton");
-    m_switchButton->setMinimumSize(120, 38);
-    connect(m_switchButton, SIGNAL(clicked()), this, SLOT(Switch()));
-    m_connectButton = MakeButton("connectButton");
-    m_connectButton->setMinimumSize(120, 38);
-    connect(m_connectButton, SIGNAL(clicked()), this, SLOT(OpenConnect()));
-    m_settingsButton = MakeButton("settingsButton");
-    m_settingsButton->setMinimumSize(120, 38);
-    connect(m_settingsButton, SIGNAL(clicked()), this, SLOT(OpenSettings()));
+    m_listTitle = MakeLabel("listTitle", 1, true);
+    m_listTitle->setWordWrap(false);
+    m_note = MakeLabel("noteLabel", 0.92, false);
+    m_settingsButton = new TextButton("settingsButton");
+    connect(m_settingsButton, &QPushButton::clicked, this, &MainWindow::OpenSettings);
 
-    QWidget *head = new QWidget;
-    head->setObjectName(QLatin1String("head"));
-    QVBoxLayout *texts = new QVBoxLayout;
-    texts->setSpacing(4);
-    texts->addWidget(m_headline);
-    texts->addWidget(m_explanation);
-    QHBoxLayout *layout = new QHBoxLayout(head);
+    QWidget *header = new QWidget;
+    header->setObjectName(QLatin1String("listHeader"));
+    QHBoxLayout *layout = new QHBoxLayout(header);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(16);
-    layout->addLayout(texts, 1);
-    QHBoxLayout *buttons = new QHBoxLayout;
-    buttons->setSpacing(8);
-    buttons->addWidget(m_switchButton, 0, Qt::AlignTop);
-    buttons->addWidget(m_connectButton, 0, Qt::AlignTop);
-    buttons->addWidget(m_settingsButton, 0, Qt::AlignTop);
-    layout->addLayout(buttons);
-    return head;
+    layout->setSpacing(12);
+    layout->addWidget(m_listTitle);
+    layout->addWidget(m_note, 1);
+    layout->addWidget(m_settingsButton);
+    return header;
 }
 
 QWidget *MainWindow::CreateMessagePage()
@@ -276,33 +252,6 @@ QWidget *MainWindow::CreateMessagePage()
     return m_messagePage;
 }
 
-QWidget *MainWindow::CreateFoot()
-{
-    m_refreshButton = MakeButton("refreshButton");
-    connect(m_refreshButton, SIGNAL(clicked()), this, SLOT(LookAgain()));
-    m_languageButton = MakeButton("languageButton");
-    m_languageButton->setMenu(m_languageMenu);
-    m_traceButton = MakeButton("traceButton");
-    m_traceButton->setCheckable(true);
-    m_traceButton->setChecked(m_trace->toggleViewAction()->isChecked());
-    connect(m_traceButton, SIGNAL(toggled(bool)), m_trace, SLOT(setVisible(bool)));
-    connect(m_trace->toggleViewAction(), SIGNAL(toggled(bool)), m_traceButton, SLOT(setChecked(bool)));
-
-    m_note = MakeLabel("noteLabel", 0.9, false);
-
-    QWidget *foot = new QWidget;
-    foot->setObjectName(QLatin1String("foot"));
-    QHBoxLayout *layout = new QHBoxLayout(foot);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_refreshButton);
-    layout->addSpacing(6);
-    layout->addWidget(m_note, 1);
-    layout->addSpacing(6);
-    layout->addWidget(m_languageButton);
-    layout->addWidget(m_traceButton);
-    return foot;
-}
-
 void MainWindow::FollowLanguage()
 {
     // The plug-ins first: what this window shows has texts of theirs.
@@ -312,7 +261,7 @@ void MainWindow::FollowLanguage()
 
 void MainWindow::Retranslate()
 {
-    m_fileMenu->setTitle(DashboardText("IDS_MENU_FILE"));
+    m_networkMenu->setTitle(DashboardText("IDS_MENU_NETWORK"));
     m_editMenu->setTitle(DashboardText("IDS_MENU_EDIT"));
     m_viewMenu->setTitle(DashboardText("IDS_MENU_VIEW"));
     m_languageMenu->setTitle(DashboardText("IDS_MENU_LANGUAGE"));
@@ -321,13 +270,10 @@ void MainWindow::Retranslate()
     m_settingsAction->setText(DashboardText("IDS_ACTION_SETTINGS"));
     m_refreshAction->setText(DashboardText("IDS_ACTION_REFRESH"));
     m_quitAction->setText(DashboardText("IDS_ACTION_QUIT"));
-    m_switchButton->setText(DashboardText("IDS_BUTTON_SWITCH"));
-    m_connectButton->setText(DashboardText("IDS_BUTTON_CONNECT"));
     m_settingsButton->setText(DashboardText("IDS_BUTTON_SETTINGS"));
+    m_listTitle->setText(DashboardText("IDS_LIST_TITLE"));
     m_list->setAccessibleName(DashboardText("IDS_PLUGIN_PRIORITY"));
-    m_refreshButton->setText(DashboardText("IDS_BUTTON_REFRESH"));
-    m_traceButton->setText(DashboardText("IDS_BUTTON_TRACE"));
-    m_repairButton->setText(DashboardText("IDS_BUTTON_REPAIR"));
+    m_repairAction->setText(DashboardText("IDS_BUTTON_REPAIR"));
     m_listActions->Retranslate();
     m_guard->Retranslate();
     m_trace->Retranslate();
@@ -343,8 +289,6 @@ void MainWindow::Retranslate()
     for (int i = 0; i < actions.size(); ++i) {
         actions.at(i)->setChecked(actions.at(i)->data().toString() == Change::GetLangName());
     }
-    m_languageButton->setText(DashboardLanguage::NativeName(Change::GetLangName()));
-    m_languageButton->setAccessibleDescription(DashboardText("IDS_GENERAL_LANGUAGE"));
     if (m_settings) {
         m_settings->Retranslate();
     }
@@ -370,7 +314,6 @@ void MainWindow::Refresh()
 void MainWindow::Show()
 {
     m_overview = Overview::Of(m_keeper->LastReading());
-    ShowConnect();
     ShowHead();
     ShowProblems();
     ShowList();
@@ -417,6 +360,18 @@ void MainWindow::Watch()
     } else {
         disconnect(connections, SIGNAL(OnConnectionsChanged()), m_refreshTimer, SLOT(start()));
     }
+}
+
+bool MainWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_list && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            ConnectEntry();
+            return true;
+        }
+    }
+    return QMainWindow::eventFilter(watched, event);
 }
 
 void MainWindow::changeEvent(QEvent *event)
@@ -486,73 +441,35 @@ void MainWindow::FollowHistory()
     }
 }
 
-void MainWindow::ShowConnect()
-{
-    const bool areKnown = m_overview.connections.AreKnown();
-    m_connectAction->setEnabled(areKnown);
-    m_connectButton->setEnabled(areKnown);
-    m_connectButton->setToolTip(areKnown ? QString() : OverviewText::Explanation(m_overview).toHtmlEscaped());
-    m_disconnectAction->setEnabled(Disconnectable() != nullptr);
-}
-
 void MainWindow::ShowHead()
 {
     setWindowTitle(OverviewText::Marked(m_overview, DashboardText("IDS_WINDOW_TITLE")));
-    m_headline->setText(OverviewText::Headline(m_overview));
-    m_explanation->setText(OverviewText::Explanation(m_overview));
-    m_switchButton->setVisible(m_overview.CanSwitch());
-    if (m_overview.CanSwitch()) {
-        const QString what =
-            DashboardText("IDS_SWITCH_TO").arg(ListChangeText::Name(m_overview.Choice()->entry));
-        m_switchButton->setAccessibleName(what);
-        m_switchButton->setToolTip(what.toHtmlEscaped());
-        m_switchButton->setEnabled(!m_order.IsUnderWay());
-    }
+    m_head->Show(m_overview, m_order.IsUnderWay(), Disconnectable());
+    m_connectAction->setEnabled(m_overview.connections.AreKnown());
+    m_disconnectAction->setEnabled(Disconnectable());
 }
 
 void MainWindow::ShowProblems()
 {
-    QStringList problems;
-    const QString orderProblem = m_order.Problem(m_overview.connections.active);
-    if (!orderProblem.isEmpty()) {
-        problems.append(orderProblem);
+    QList<Banner::Problem> problems;
+    // What the user has just asked for comes first.
+    if (m_order.HasFailed(m_overview.connections.active)) {
+        problems.append(WindowProblems::OfOrder(m_order));
     }
-    const QList<PluginHost::Plugin> plugins = m_plugins->Plugins();
-    for (int i = 0; i < plugins.size(); ++i) {
-        // Without a list, the problem of its plug-in is shown in the list's place.
-        const PluginHost::Plugin &plugin = plugins.at(i);
-        if (plugin.state != PluginReady && !(m_overview.status < 0 && plugin.known.hasSettingsPage)) {
-            problems.append(PluginHost::ProblemText(plugin));
-        }
-    }
-    for (int i = 0; i < m_languageProblems.size(); ++i) {
-        problems.append(DashboardLanguage::ProblemText(m_languageProblems.at(i)));
-    }
-    m_repairButton->setVisible(m_keeper->IsDamaged() && m_keeper->WriteObstacle() == ListKeeper::NoObstacle);
-    if (m_keeper->IsDamaged()) {
-        problems.append(DamageText());
-    } else if (m_overview.status == PriorityNotOpened) {
-        problems.append(DashboardText("IDS_LIST_NOT_OPENED"));
-    }
-    const QString historyProblem = ListKeeperText::Reason(*m_keeper, m_keeper->HistoryProblem());
-    if (!historyProblem.isNull()) {
-        problems.append(historyProblem);
-    }
-    m_problems->setText(problems.join(QLatin1String("\n\n")));
-    m_problems->setVisible(!problems.isEmpty());
+    problems += WindowProblems::OfList(m_overview, *m_keeper, m_repairAction);
+    problems += WindowProblems::OfInstallation(m_overview, *m_plugins, m_languageProblems);
+    m_banner->Show(problems);
 }
 
-QString MainWindow::DamageText() const
+/** Counted from 0; -1: nothing that is listed is in use. */
+int MainWindow::PlaceInUse() const
 {
-    QStringList sentences(DashboardText("IDS_LIST_DAMAGED"));
-    const QString obstacle = ListKeeperText::Reason(*m_keeper, m_keeper->WriteObstacle());
-    sentences.append(obstacle.isNull()
-                         ? DashboardText("IDS_LIST_KEPT").arg(InOwnDirection(m_keeper->CopyPath()))
-                         : obstacle);
-    if (obstacle.isNull() && m_keeper->CanBringBack()) {
-        sentences.append(DashboardText("IDS_LIST_UNDO_DAMAGE"));
+    for (int i = 0; i < m_overview.entries.size(); ++i) {
+        if (m_overview.entries.at(i).isInUse) {
+            return i;
+        }
     }
-    return DashboardJoined("IDS_SENTENCES", sentences);
+    return -1;
 }
 
 void MainWindow::ShowList()
@@ -581,24 +498,24 @@ void MainWindow::ShowList()
         return;
     }
     const int scrolledTo = m_list->verticalScrollBar()->value();
-    const int current = m_list->currentRow();
+    const int current = m_list->count() == 0 ? PlaceInUse() : m_list->currentRow();
     m_list->clear();
     for (int i = 0; i < m_overview.entries.size(); ++i) {
         const Overview::Entry &entry = m_overview.entries.at(i);
         QListWidgetItem *item = new QListWidgetItem(entry.entry.name, m_list);
-        const QString kind = OverviewText::Kind(entry);
         const QString state = OverviewText::State(m_overview, i);
         const QString reason = OverviewText::Reason(m_overview, i);
-        item->setData(OverviewDelegate::KindTextRole, kind);
+        item->setData(OverviewDelegate::DetailTextRole, OverviewText::Detail(m_overview, i));
         item->setData(OverviewDelegate::StateTextRole, state);
-        item->setData(OverviewDelegate::IsWifiRole, entry.IsWifi());
-        item->setData(OverviewDelegate::IsAvailableRole, entry.CanBeUsed());
-        item->setData(OverviewDelegate::IsInUseRole, entry.isInUse);
-        item->setData(OverviewDelegate::SignalRole, entry.CanBeUsed() ? entry.signal : -1);
+        item->setData(OverviewDelegate::MarkRole, OverviewText::Mark(m_overview, i));
+        item->setData(OverviewDelegate::KindRole, Glyphs::KindOf(entry.entry.type));
+        item->setData(OverviewDelegate::ReachRole, OverviewText::Reach(m_overview, i));
+        item->setData(OverviewDelegate::SignalRole, entry.signal);
         item->setToolTip(reason.toHtmlEscaped());
         item->setData(Qt::AccessibleDescriptionRole, reason);
-        item->setData(Qt::AccessibleTextRole,
-                      QString::fromLatin1("%1, %2, %3").arg(entry.entry.name, kind, state));
+        item->setData(
+            Qt::AccessibleTextRole,
+            QString::fromLatin1("%1, %2, %3").arg(entry.entry.name, OverviewText::Kind(entry), state));
     }
     m_body->setCurrentWidget(m_list);
     m_list->setCurrentRow(qMin(current, m_list->count() - 1));
@@ -607,10 +524,7 @@ void MainWindow::ShowList()
 
 void MainWindow::OpenLanguageMenu()
 {
-    const QRect button(m_languageButton->mapToGlobal(QPoint()), m_languageButton->size());
-    const int beginning =
-        isRightToLeft() ? button.right() + 1 - m_languageMenu->sizeHint().width() : button.left();
-    m_languageMenu->popup(QPoint(beginning, button.bottom() + 1));
+    menuBar()->setActiveAction(m_languageMenu->menuAction());
     m_languageMenu->setActiveAction(m_languageActions->checkedAction());
 }
 

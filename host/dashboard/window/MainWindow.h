@@ -11,8 +11,10 @@
 #include <QMainWindow>
 #include <QPointer>
 
+class Banner;
 class ConnectDialog;
 class DashboardLanguage;
+class HeadArea;
 class ListActions;
 class ListGuard;
 class ListKeeper;
@@ -22,10 +24,10 @@ class QActionGroup;
 class QLabel;
 class QListWidget;
 class QMenu;
-class QPushButton;
 class QStackedWidget;
 class QTimer;
 class SettingsDialog;
+class TextButton;
 class TraceLog;
 class TracePanel;
 
@@ -47,6 +49,7 @@ public slots:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void changeEvent(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
@@ -70,14 +73,12 @@ private:
     void CreateAppearanceActions();
     void CreateLanguageActions();
     void Watch();
-    QWidget *CreateHead();
+    QWidget *CreateListHeader();
     QWidget *CreateMessagePage();
-    QWidget *CreateFoot();
     const ActiveConnection *Disconnectable() const;
-    void ShowConnect();
     void ShowHead();
     void ShowProblems();
-    QString DamageText() const;
+    int PlaceInUse() const;
     void ShowList();
     void ShowNote();
 
@@ -98,7 +99,7 @@ private:
     QPointer<SettingsDialog> m_settings;
     QPointer<ConnectDialog> m_connect;
 
-    QMenu *m_fileMenu;
+    QMenu *m_networkMenu;
     QMenu *m_editMenu;
     QMenu *m_viewMenu;
     QMenu *m_languageMenu;
@@ -107,27 +108,22 @@ private:
     QAction *m_settingsAction;
     QAction *m_refreshAction;
     QAction *m_quitAction;
+    QAction *m_repairAction;
     QAction *m_searchAction;
     QMenu *m_appearanceMenu;
     QActionGroup *m_appearanceActions;
     QActionGroup *m_languageActions;
 
-    QLabel *m_headline;
-    QLabel *m_explanation;
-    QLabel *m_problems;
-    QPushButton *m_repairButton;
+    HeadArea *m_head;
+    Banner *m_banner;
+    QLabel *m_listTitle;
+    QLabel *m_note;
+    TextButton *m_settingsButton;
     QStackedWidget *m_body;
     QListWidget *m_list;
     QWidget *m_messagePage;
     QLabel *m_messageTitle;
     QLabel *m_messageText;
-    QPushButton *m_switchButton;
-    QPushButton *m_connectButton;
-    QPushButton *m_settingsButton;
-    QPushButton *m_refreshButton;
-    QLabel *m_note;
-    QPushButton *m_languageButton;
-    QPushButton *m_traceButton;
 };
 
 #endif

@@ -24,6 +24,10 @@ private slots:
     void StateAndReasonFollowTheProfile();
     void StateFollowsTheConnection_data();
     void StateFollowsTheConnection();
+    void StateFollowsTheLastTry_data();
+    void StateFollowsTheLastTry();
+    void DetailTellsWhatTheStateDoesNot_data();
+    void DetailTellsWhatTheStateDoesNot();
     void FailureIsTold_data();
     void FailureIsTold();
     void OutcomeOfAnAttemptIsTold_data();
@@ -64,13 +68,11 @@ void OverviewTextTest::HeadTellsWhatIsInUse_data()
         << "Office, Café, Home"
         << "1"
         << "Home" << int(StageConnected) << true << "In use now: Home"
-        << "Your list would choose Café. NetworkManager keeps a connection that works until you switch. "
-           "Higher in the list, but cannot be used now: Office.";
+        << "Your list would choose Café. NetworkManager keeps a connection that works until you switch.";
     QTest::newRow("above it hidden") << "Attic, Home"
                                      << "1"
                                      << "Home" << int(StageConnected) << true << "In use now: Home"
-                                     << "It is the first network in your list that is known to be usable. "
-                                        "Not known if in range: Attic.";
+                                     << "It is the first network in your list that is known to be usable.";
     QTest::newRow("not in the list") << "Home"
                                      << "1"
                                      << "Library" << int(StageConnected) << true << "In use now: Library"
@@ -206,7 +208,7 @@ void OverviewTextTest::StateAndReasonFollowTheProfile_data()
                          << "Its adapter or modem is turned off.";
     QTest::newRow("blocked") << wifi << int(ConnectionProfile::UseDeviceBlocked) << "Turned off"
                              << "Its adapter or modem is held off by a button of this computer.";
-    QTest::newRow("SIM") << mobile << int(ConnectionProfile::UseSimLocked) << "Cannot be used"
+    QTest::newRow("SIM") << mobile << int(ConnectionProfile::UseSimLocked) << "SIM locked"
                          << "The SIM card wants its PIN.";
     QTest::newRow("other users") << wifi << int(ConnectionProfile::UseOtherUsers) << "Cannot be used"
                                  << "It belongs to other users of this computer.";
@@ -259,6 +261,77 @@ void OverviewTextTest::StateFollowsTheConnection()
     told.active << ConnectionOf("X", stage, carriesTraffic);
     told.active[0].signal = 64;
     QTEST(OverviewText::State(Overview::Make(0, Listed("X"), told), 0), "state");
+}
+
+void OverviewTextTest::StateFollowsTheLastTry_data()
+{
+    QTest::addColumn<int>("failure");
+    QTest::addColumn<bool>("connectsByItself");
+    QTest::addColumn<QString>("state");
+    QTest::addColumn<int>("mark");
+    QTest::newRow("none") << int(FailureNone) << true << "In range" << int(Glyphs::NoMark);
+    QTest::newRow("stopped by hand") << int(FailureStopped) << true << "In range" << int(Glyphs::NoMark);
+    QTest::newRow("wrong key") << int(FailureWrongKey) << true << "Key refused" << int(Glyphs::MarkError);
+    QTest::newRow("no answer") << int(FailureNoAnswer) << true << "Last try failed" << int(Glyphs::MarkError);
+    QTest::newRow("by hand") << int(FailureNone) << false << "By hand only" << int(Glyphs::NoMark);
+    QTest::newRow("by hand, wrong key")
+        << int(FailureWrongKey) << false << "Key refused" << int(Glyphs::MarkError);
+}
+
+void OverviewTextTest::StateFollowsTheLastTry()
+{
+    QFETCH(int, failure);
+    QFETCH(bool, connectsByItself);
+    Connections told = KnownConnections();
+    told.profiles << SavedProfile("X");
+    told.profiles[0].failure = failure;
+    told.profiles[0].connectsByItself = connectsByItself;
+    const Overview overview = Overview::Make(0, Listed("X"), told);
+    QTEST(OverviewText::State(overview, 0), "state");
+    QTEST(int(OverviewText::Mark(overview, 0)), "mark");
+}
+
+void OverviewTextTest::DetailTellsWhatTheStateDoesNot_data()
+{
+    QTest::addColumn<int>("place");
+    QTest::addColumn<QString>("state");
+    QTest::addColumn<QString>("detail");
+    QTest::addColumn<int>("reach");
+    QTest::newRow("out of range") << 0 << "Out of range"
+                                  << "Wi-Fi" << int(Glyphs::OutOfReach);
+    QTest::newRow("hidden") << 1 << "Hidden: is tried"
+                            << "Wi-Fi · The network hides its name, so it is not known if it is in range. It "
+                               "is tried."
+                            << int(Glyphs::ReachNotKnown);
+    QTest::newRow("higher than what is in use")
+        << 2 << "In range"
+        << "Wi-Fi · NetworkManager keeps a connection that works until you switch." << int(Glyphs::InReach);
+    QTest::newRow("in use") << 3 << "In use now"
+                            << "Wi-Fi" << int(Glyphs::InReach);
+    QTest::newRow("lower") << 4 << "In range"
+                           << "Wi-Fi · Home is higher in the list." << int(Glyphs::InReach);
+    QTest::newRow("no profile") << 5 << "Not saved here"
+                                << "Wi-Fi · This computer has no saved network of that name."
+                                << int(Glyphs::OutOfReach);
+    QTest::newRow("listed twice") << 6 << "Listed twice"
+                                  << "Wi-Fi · It stands higher in the list already, so this place has no "
+                                     "effect."
+                                  << int(Glyphs::InReach);
+}
+
+void OverviewTextTest::DetailTellsWhatTheStateDoesNot()
+{
+    QFETCH(int, place);
+    Connections told = KnownConnections();
+    told.profiles << SavedProfile("Office", ConnectionProfile::UseOutOfRange)
+                  << SavedProfile("Attic", ConnectionProfile::UseHiddenIsTried) << SavedProfile("Home")
+                  << SavedProfile("Cafe") << SavedProfile("Library");
+    told.active << ConnectionOf("Cafe", StageConnected, true);
+    const Overview overview =
+        Overview::Make(0, Listed("Office, Attic, Home, Cafe, Library, Away, Home"), told);
+    QTEST(OverviewText::State(overview, place), "state");
+    QTEST(Plain(OverviewText::Detail(overview, place)), "detail");
+    QTEST(int(OverviewText::Reach(overview, place)), "reach");
 }
 
 void OverviewTextTest::FailureIsTold_data()
@@ -347,8 +420,10 @@ void OverviewTextTest::EntryThatIsListedTwiceIsToldSo()
 {
     Connections told = KnownConnections();
     told.profiles << SavedProfile("X");
-    QCOMPARE(OverviewText::Reason(Overview::Make(0, Listed("X, X"), told), 1),
+    const Overview overview = Overview::Make(0, Listed("X, X"), told);
+    QCOMPARE(OverviewText::Reason(overview, 1),
              QString("It stands higher in the list already, so this place has no effect."));
+    QCOMPARE(int(OverviewText::Mark(overview, 1)), int(Glyphs::MarkWarning));
 }
 
 void OverviewTextTest::LowerEntryNamesTheHigherOne()

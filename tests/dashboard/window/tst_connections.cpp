@@ -37,6 +37,7 @@ private slots:
     void SingleClickOrdersNothing();
     void EntryThatIsConnectedIsNotOrdered();
     void EntryWithoutProfileTellsWhy();
+    void StopEndsWhatIsComingUp();
     void DisconnectEndsWhatIsInUse();
     void DisconnectIsThereOnlyForUse_data();
     void DisconnectIsThereOnlyForUse();
@@ -49,8 +50,9 @@ private:
     QPushButton *Switch() const { return m_world->window->findChild<QPushButton *>("switchButton"); }
     QString Problems() const
     {
-        const QLabel *label = m_world->window->findChild<QLabel *>("problemsLabel");
-        return label->isVisible() ? label->text() : QString();
+        return m_world->window->findChild<QWidget *>("banner")->isVisible()
+                   ? QString("%1 %2").arg(m_world->Text("bannerTitle"), m_world->Text("bannerText")).trimmed()
+                   : QString();
     }
 
     QScopedPointer<ConnectedWindow> m_world;
@@ -273,6 +275,17 @@ void ConnectionsTest::EntryWithoutProfileTellsWhy()
     QCOMPARE(Problems(), QString("Home was not connected. This computer has no saved network of that name."));
 }
 
+void ConnectionsTest::StopEndsWhatIsComingUp()
+{
+    QPushButton *stop = m_world->window->findChild<QPushButton *>("stopButton");
+    QVERIFY(!stop->isVisible());
+    m_world->connections->told.active = {ConnectionOf("Home", StageAuthenticating, false)};
+    m_world->Follow();
+    QVERIFY(stop->isVisible());
+    QTest::mouseClick(stop, Qt::LeftButton);
+    QCOMPARE(m_world->connections->ended, QStringList(m_world->connections->told.active.at(0).id));
+}
+
 void ConnectionsTest::DisconnectEndsWhatIsInUse()
 {
     QVERIFY(Disconnect()->isEnabled());
@@ -319,7 +332,7 @@ void ConnectionsTest::RefusedDisconnectIsToldUntilItIsGone()
 void ConnectionsTest::RefreshLooksForNetworks()
 {
     QCOMPARE(m_world->connections->looks, 0);
-    QTest::mouseClick(m_world->window->findChild<QPushButton *>("refreshButton"), Qt::LeftButton);
+    m_world->window->findChild<QAction *>("refreshAction")->trigger();
     QCOMPARE(m_world->connections->looks, 1);
 }
 

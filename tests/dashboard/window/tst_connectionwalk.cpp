@@ -1,6 +1,7 @@
 #include "ConnectedWindow.h"
 #include "Lists.h"
 
+#include <Glyphs.h>
 #include <OverviewDelegate.h>
 
 #include <QPushButton>
@@ -129,9 +130,10 @@ QString ConnectionWalkTest::Wrong(const ConnectedWindow &world)
         isTaken = isTaken || isIt;
         const QListWidgetItem *item = list->item(i);
         const QString spoken = item->data(Qt::AccessibleTextRole).toString();
-        const QString reason = item->data(Qt::AccessibleDescriptionRole).toString() + item->toolTip();
-        if (item->data(OverviewDelegate::IsInUseRole).toBool() != isIt ||
-            world.State(i).startsWith(words) != isIt || spoken.contains(words) != isIt ||
+        const QString reason = item->data(Qt::AccessibleDescriptionRole).toString() + item->toolTip() +
+                               item->data(OverviewDelegate::DetailTextRole).toString();
+        const bool isMarked = item->data(OverviewDelegate::MarkRole).toInt() == Glyphs::MarkInUse;
+        if (isMarked != isIt || world.State(i).startsWith(words) != isIt || spoken.contains(words) != isIt ||
             reason.contains(words)) {
             return QString("row %1: %2; %3; %4").arg(i).arg(world.State(i), spoken, reason);
         }

@@ -149,10 +149,10 @@ void DamagedListTest::WindowTellsAndOffersTheQuestion()
 {
     WriteWhole();
     m_window->Refresh();
-    QVERIFY(!Find<QPushButton>("repairButton")->isVisible());
+    QVERIFY(!Find<QPushButton>("bannerRemedyButton")->isVisible());
     const QByteArray damaged = Damage();
     QCOMPARE(
-        Text("problemsLabel"),
+        Text("bannerText"),
         QString::fromUtf8("The file with your list is damaged. Only the networks before the damaged part are "
                           "shown. A copy of the file is kept as %1Priority-damaged-1.xml. This program does "
                           "not change your list until you decide what to do. “Undo” restores the last "
@@ -160,13 +160,13 @@ void DamagedListTest::WindowTellsAndOffersTheQuestion()
             .arg(m_world.UserData()));
     QVERIFY(!Question());
     QCOMPARE(m_world.Read("Priority-damaged-1.xml"), damaged);
-    Click("repairButton");
+    Click("bannerRemedyButton");
     QVERIFY(Question() && Question()->isModal());
     Click("damageBringBackButton");
     QVERIFY(!Question());
     QCOMPARE(PluginWorld::Stored(), QString("A, B, C"));
-    QVERIFY(!Find<QPushButton>("repairButton")->isVisible());
-    QVERIFY(!Find<QLabel>("problemsLabel")->isVisible());
+    QVERIFY(!Find<QPushButton>("bannerRemedyButton")->isVisible());
+    QVERIFY(!Find<QWidget>("banner")->isVisible());
 }
 
 void DamagedListTest::QuestionComesBeforeWhatCanWrite_data()
@@ -308,7 +308,7 @@ void DamagedListTest::QuestionThatIsLeftChangesNothing()
     QVERIFY(!Question());
     QVERIFY(!Dialog("settingsDialog"));
     QCOMPARE(ListBytes(), damaged);
-    QVERIFY(Find<QPushButton>("repairButton")->isVisible());
+    QVERIFY(Find<QPushButton>("bannerRemedyButton")->isVisible());
     // It is asked again.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     Click("settingsButton");
@@ -330,7 +330,7 @@ void DamagedListTest::FailureIsToldAndTheQuestionStays()
 {
     const QByteArray damaged = Damage();
     QVERIFY(QDir().mkdir(m_world.UserData() + "Priority.xml.new"));
-    Click("repairButton");
+    Click("bannerRemedyButton");
     const int height = Question()->height();
     Click("damageBringBackButton");
     QVERIFY(Question());
@@ -357,9 +357,9 @@ void DamagedListTest::NothingIsOpenedWithoutACopy()
     QFETCH(QString, button);
     QVERIFY(QDir().mkdir(m_world.UserData() + "Priority-damaged-1.xml.new"));
     const QByteArray damaged = Damage();
-    QVERIFY2(Text("problemsLabel").contains("cannot be backed up"), qPrintable(Text("problemsLabel")));
-    QVERIFY(!Text("problemsLabel").contains("Undo"));
-    QVERIFY(!Find<QPushButton>("repairButton")->isVisible());
+    QVERIFY2(Text("bannerText").contains("cannot be backed up"), qPrintable(Text("bannerText")));
+    QVERIFY(!Text("bannerText").contains("Undo"));
+    QVERIFY(!Find<QPushButton>("bannerRemedyButton")->isVisible());
     MessageReader message;
     QTest::mouseClick(m_window->findChild<QPushButton *>(button), Qt::LeftButton);
     QVERIFY2(Plain(message.text).contains("Priority.xml cannot be backed up"), qPrintable(message.text));
@@ -398,7 +398,7 @@ void DamagedListTest::OkWritesNothingOverAListDamagedMeanwhile()
     QVERIFY(!Dialog("settingsDialog"));
     QCOMPARE(ListBytes(), damaged);
     QCOMPARE(m_world.Read("Priority-damaged-1.xml"), damaged);
-    QVERIFY(Find<QPushButton>("repairButton")->isVisible());
+    QVERIFY(Find<QPushButton>("bannerRemedyButton")->isVisible());
 }
 
 void DamagedListTest::DamageIsAskedAboutOverTheOpenPage()
@@ -490,10 +490,10 @@ void DamagedListTest::ConnectingLeavesADamagedListAlone()
 void DamagedListTest::TextsFollowTheLanguage()
 {
     Damage();
-    Click("repairButton");
+    Click("bannerRemedyButton");
     QVERIFY(m_language->Switch("he"));
     QCOMPARE(Question()->windowTitle(), QString::fromUtf8("הקובץ עם הרשימה שלך פגום"));
-    QCOMPARE(Find<QPushButton>("repairButton")->text(), QString::fromUtf8("החלטה מה לעשות…"));
+    QCOMPARE(Find<QPushButton>("bannerRemedyButton")->text(), QString::fromUtf8("החלטה מה לעשות…"));
     QCOMPARE(Find<QPushButton>("damageLeaveButton")->text(), QString::fromUtf8("השארת הקובץ כפי שהוא"));
 }
 

@@ -47,7 +47,7 @@ private slots:
     void cleanup();
 
     void NothingCanBeUndoneAtFirst();
-    void ButtonsUndoAndRedo();
+    void UndoAndRedoFollowEachOther();
     void KeysUndoAndRedo();
     void MenuHasEverything();
     void ToolTipsTellWhatWouldBeUndone();
@@ -60,7 +60,7 @@ private slots:
     void FiftyNinePressesAreOneChange();
     void PressesOfOneOpeningAreOneChange();
     void OkAfterAnUndoKeepsTheRestoredList();
-    void RestoreButtonOpensTheDialog();
+    void RestoreOpensTheDialog();
     void ReasonIsToldWithoutThePlugin();
     void DamagedHistoryIsToldInTheWindow();
     void DamagedListIsRepairedByUndo();
@@ -147,13 +147,13 @@ void ListActionsTest::cleanup()
 void ListActionsTest::NothingCanBeUndoneAtFirst()
 {
     QVERIFY(!Button("undoButton")->isEnabled());
-    QVERIFY(!Button("redoButton")->isEnabled());
-    QVERIFY(Button("restoreButton")->isEnabled());
+    QVERIFY(!Action("redoAction")->isEnabled());
+    QVERIFY(Action("restoreAction")->isEnabled());
     QVERIFY(Button("undoButton")->toolTip().contains("There is no earlier list to go back to."));
-    QVERIFY(Button("redoButton")->toolTip().contains("there is nothing to redo"));
+    QVERIFY(Action("redoAction")->toolTip().contains("there is nothing to redo"));
 }
 
-void ListActionsTest::ButtonsUndoAndRedo()
+void ListActionsTest::UndoAndRedoFollowEachOther()
 {
     PluginWorld::AddTop("Home");
     PluginWorld::AddTop("Office");
@@ -161,11 +161,11 @@ void ListActionsTest::ButtonsUndoAndRedo()
     Click("undoButton");
     QCOMPARE(PluginWorld::Stored(), QString("Home"));
     QCOMPARE(Shown(), QString("Home"));
-    QVERIFY(Button("redoButton")->isEnabled());
-    Click("redoButton");
+    QVERIFY(Action("redoAction")->isEnabled());
+    Action("redoAction")->trigger();
     QCOMPARE(PluginWorld::Stored(), QString("Office, Home"));
     QCOMPARE(Shown(), QString("Office, Home"));
-    QVERIFY(!Button("redoButton")->isEnabled());
+    QVERIFY(!Action("redoAction")->isEnabled());
 }
 
 void ListActionsTest::KeysUndoAndRedo()
@@ -192,8 +192,8 @@ void ListActionsTest::MenuHasEverything()
     }
     QCOMPARE(texts, QStringList() << "&Undo"
                                   << "&Redo" << QString::fromUtf8("Earlier &lists…") << QString()
-                                  << QString::fromUtf8("&Import list…")
-                                  << QString::fromUtf8("&Export list…"));
+                                  << QString::fromUtf8("&Import list…") << QString::fromUtf8("&Export list…")
+                                  << QString() << QString::fromUtf8("&Settings…"));
     PluginWorld::AddTop("Home");
     Action("undoAction")->trigger();
     QCOMPARE(PluginWorld::Stored(), QString());
@@ -207,7 +207,7 @@ void ListActionsTest::ToolTipsTellWhatWouldBeUndone()
     QCOMPARE(Plain(Button("undoButton")->toolTip()), QString("Undo: Added &lt;i&gt;Home"));
     QCOMPARE(Plain(Button("undoButton")->accessibleDescription()), QString("Undo: Added <i>Home"));
     Click("undoButton");
-    QCOMPARE(Plain(Button("redoButton")->toolTip()), QString("Redo: Added &lt;i&gt;Home"));
+    QCOMPARE(Plain(Action("redoAction")->toolTip()), QString("Redo: Added &lt;i&gt;Home"));
 }
 
 void ListActionsTest::LastChangeIsTold()
@@ -383,13 +383,13 @@ void ListActionsTest::OkAfterAnUndoKeepsTheRestoredList()
     Click("settingsOkButton");
     QCOMPARE(PluginWorld::Stored(), QString("Home"));
     QCOMPARE(Shown(), QString("Home"));
-    QVERIFY(Button("redoButton")->isEnabled());
+    QVERIFY(Action("redoAction")->isEnabled());
 }
 
-void ListActionsTest::RestoreButtonOpensTheDialog()
+void ListActionsTest::RestoreOpensTheDialog()
 {
     PluginWorld::AddTop("Home");
-    Click("restoreButton");
+    Action("restoreAction")->trigger();
     QDialog *dialog = m_window->findChild<QDialog *>("restoreDialog");
     QVERIFY(dialog && dialog->isVisible() && dialog->isModal());
     QTest::keyClick(dialog->findChild<QTableWidget *>("restoreList"), Qt::Key_Down);
@@ -404,11 +404,11 @@ void ListActionsTest::ReasonIsToldWithoutThePlugin()
     PluginWorld::AddTop("Home");
     HostControl::SetPluginContainer(nullptr);
     m_window->Refresh();
-    const char *const names[] = {"undoButton", "redoButton", "restoreButton"};
+    const char *const names[] = {"undoAction", "redoAction", "restoreAction"};
     for (const char *name : names) {
-        QVERIFY(!Button(name)->isEnabled());
-        QVERIFY2(Button(name)->toolTip().contains("The plug-in that keeps the list is not available"),
-                 qPrintable(Button(name)->toolTip()));
+        QVERIFY(!Action(name)->isEnabled());
+        QVERIFY2(Action(name)->toolTip().contains("The plug-in that keeps the list is not available"),
+                 qPrintable(Action(name)->toolTip()));
     }
     QVERIFY(!Action("importAction")->isEnabled());
     QVERIFY(!Action("exportAction")->isEnabled());
@@ -419,7 +419,7 @@ void ListActionsTest::DamagedHistoryIsToldInTheWindow()
     PluginWorld::AddTop("Home");
     m_world.Write("history/states.xml", "<listhistory version=\"1\" current=\"0\">\nnonsense");
     m_window->Refresh();
-    const QLabel *problems = m_window->findChild<QLabel *>("problemsLabel");
+    const QLabel *problems = m_window->findChild<QLabel *>("bannerText");
     QVERIFY(problems->isVisible());
     QVERIFY2(Plain(problems->text()).contains("history/states.xml, is damaged and was not changed. Line 2: "),
              qPrintable(problems->text()));
@@ -429,7 +429,7 @@ void ListActionsTest::DamagedHistoryIsToldInTheWindow()
     // The program goes on, and Restore helps.
     PluginWorld::AddTop("Office");
     QCOMPARE(Shown(), QString("Office, Home"));
-    Click("restoreButton");
+    Action("restoreAction")->trigger();
     Click("restoreAsideButton");
     QVERIFY(!problems->isVisible());
     PluginWorld::AddTop("Cafe");
@@ -444,8 +444,7 @@ void ListActionsTest::DamagedListIsRepairedByUndo()
     m_world.Write("Priority.xml", whole.left(whole.indexOf("\"B\"")));
     m_window->Refresh();
     QCOMPARE(Shown(), QString("A"));
-    QVERIFY(
-        m_window->findChild<QLabel *>("problemsLabel")->text().contains("restores the last complete list"));
+    QVERIFY(m_window->findChild<QLabel *>("bannerText")->text().contains("restores the last complete list"));
     Click("undoButton");
     QCOMPARE(Shown(), QString("A, B, C"));
     QCOMPARE(m_world.Read("Priority.xml"), whole);
@@ -457,11 +456,11 @@ void ListActionsTest::UndoIsNoHelpForAListNeverRead()
     QVERIFY(m_world.Begin());
     m_world.Write("Priority.xml", "<zeltdoc>");
     m_window.reset(new MainWindow(m_world.Plugins(), m_language.data(), m_log.data()));
-    const QString told = Label("problemsLabel");
+    const QString told = Label("bannerText");
     QVERIFY2(told.contains("is damaged") && !told.contains("brings back"), qPrintable(told));
     QVERIFY(!Button("undoButton")->isEnabled());
-    QVERIFY2(!Button("redoButton")->toolTip().contains("brings back"),
-             qPrintable(Button("redoButton")->toolTip()));
+    QVERIFY2(!Action("redoAction")->toolTip().contains("brings back"),
+             qPrintable(Action("redoAction")->toolTip()));
 }
 
 void ListActionsTest::FailureIsTold()

@@ -151,7 +151,7 @@ void MainWindowProblemsTest::OtherMissingPluginIsToldAboveTheList()
     DashboardLanguage language(nullptr);
     MainWindow window(&plugins, &language, &log);
     window.show();
-    const QLabel *problems = window.findChild<QLabel *>("problemsLabel");
+    const QLabel *problems = window.findChild<QLabel *>("bannerText");
     QVERIFY(problems->isVisible());
     QVERIFY(problems->text().contains("libInitFails.so"));
     QVERIFY(!problems->text().contains("libAbsent.so"));
@@ -233,8 +233,12 @@ void MainWindowProblemsTest::DamagedLanguageFileIsNamedAndTheOthersWork()
     DashboardLanguage language(nullptr);
     MainWindow window(&plugins, &language, &log);
     window.show();
-    const QLabel *problems = window.findChild<QLabel *>("problemsLabel");
-    QVERIFY(problems->isVisible());
+    const QLabel *problems = window.findChild<QLabel *>("bannerText");
+    // The plug-ins that are not loaded come first.
+    QPushButton *next = window.findChild<QPushButton *>("bannerNextButton");
+    QCOMPARE(next->text(), QString::fromUtf8("1 of 3 ›"));
+    QTest::mouseClick(next, Qt::LeftButton);
+    QTest::mouseClick(next, Qt::LeftButton);
     QVERIFY2(problems->text().contains("languages/fr.qm has no texts that can be used"),
              qPrintable(problems->text()));
     QVERIFY(!window.findChild<QAction *>("languageAction_fr"));

@@ -1,0 +1,50 @@
+#ifndef BANNER_H
+#define BANNER_H
+
+#include "Glyphs.h"
+
+#include <QPointer>
+#include <QWidget>
+
+class QAction;
+class QLabel;
+class QPushButton;
+
+/** What is wrong, one problem at a time, with what can be done about it. Hidden while nothing is. */
+class Banner : public QWidget
+{
+    Q_OBJECT
+
+public:
+    struct Problem {
+        Glyphs::Mark mark = Glyphs::MarkWarning;
+        QString title;
+        QString text;
+        /** Not owned; null: nothing can be done here. */
+        QPointer<QAction> remedy;
+    };
+
+    Banner();
+
+    /** The worst first. */
+    void Show(const QList<Problem> &problems);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private slots:
+    void ShowNext();
+    void Remedy();
+
+private:
+    void ShowPlace();
+
+    QList<Problem> m_problems;
+    int m_place = 0;
+    QLabel *m_title;
+    QLabel *m_text;
+    QPushButton *m_remedy;
+    QPushButton *m_next;
+};
+
+#endif
