@@ -1259,7 +1259,7 @@
     <message>
         <source>IDS_BANNER_COUNT</source>
         <extracomment>Button of a message: %1 is its number, %2 how many there are</extracomment>
-        <translation>%1 من %2</translation>
+        <translation>&#x200f;%1 من %2</translation>
     </message>
     <message>
         <source>IDS_BANNER_NEXT</source>

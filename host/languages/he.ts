@@ -1239,7 +1239,7 @@
     <message>
         <source>IDS_BANNER_LIST_DAMAGED</source>
         <extracomment>Title of a message above the list</extracomment>
-        <translation>הרשימה שלך פגומה</translation>
+        <translation>הקובץ עם הרשימה שלך פגום</translation>
     </message>
     <message>
         <source>IDS_BANNER_HISTORY</source>
@@ -1259,7 +1259,7 @@
     <message>
         <source>IDS_BANNER_COUNT</source>
         <extracomment>Button of a message: %1 is its number, %2 how many there are</extracomment>
-        <translation>%1 מתוך %2</translation>
+        <translation>&#x200f;%1 מתוך %2</translation>
     </message>
     <message>
         <source>IDS_BANNER_NEXT</source>

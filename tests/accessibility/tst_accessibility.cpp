@@ -473,7 +473,7 @@ void TestAccessibility::menuItemsTellTheirState()
         }
     });
     QCOMPARE(told.join(", "), QString::fromUtf8("Undo off, Redo off, Earlier lists… on, Import list… on, "
-                                                "Export list… on"));
+                                                "Export list… on, Settings… on"));
 }
 
 QTEST_MAIN(TestAccessibility)

@@ -137,17 +137,17 @@ void FillWithEveryReason(QList<PriorityList> *list, Connections *told)
                                  "Library", "Campus", "Workshop", "Neighbour", "Mobile broadband"};
     const int nameCount = 10;
     const int inUse = 12;
-    const int uses[] = {2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 0, 6, 3, 1, -1, 3, 3, 3, 3, 3};
-    const int stages[] = {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 4, 0, 0, 1, 2, 3, 4, 5};
+    const int uses[] = {2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 0, 6, 3, 1, -1, 3, 3, 3, 3, 3, 1};
+    const int stages[] = {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 4, 0, 0, 1, 2, 3, 4, 5, 0};
     const int count = sizeof uses / sizeof uses[0];
     for (int i = 0; i < count; ++i) {
         PriorityList entry;
-        entry.name = QString::fromUtf8(names[i % nameCount]);
+        entry.name = i < 2 * nameCount ? QString::fromUtf8(names[i % nameCount]) : QLatin1String("Campus 2");
         entry.type = QLatin1String(i < nameCount ? "1" : "2");
         list->append(entry);
         if (uses[i] >= 0) {
             told->profiles.append(SavedProfile(entry.name, uses[i], entry.type));
-            told->profiles.last().failure = uses[i];
+            told->profiles.last().failure = i < 2 * nameCount ? uses[i] : int(FailureWrongKey);
         }
         if (stages[i] != StageNotKnown) {
             told->active.append(ConnectionOf(entry.name, stages[i], i == inUse, entry.type));
@@ -211,6 +211,7 @@ const Screens::Screen Screens::screens[] = {
     {"question, damaged list", &Screens::ShowDamageQuestion, "with history"},
     {"question, damaged list without an earlier one", &Screens::ShowDamageQuestion, nullptr},
     {"question, damaged list, not written", &Screens::ShowDamageNotMended, nullptr},
+    {"list and history, damaged", &Screens::ShowTwoMessages, damagedList},
     {"history, not well-formed", &Screens::ShowHistoryFile, "no history"},
     {"history, declaration", &Screens::ShowHistoryFile, "<!DOCTYPE a><listhistory/>"},
     {"history, another element", &Screens::ShowHistoryFile, "<z/>"},
@@ -247,6 +248,8 @@ const Screens::Screen Screens::screens[] = {
     {"trace, nothing found", &Screens::ShowTraceSearch, "no line has this"},
     {"Network menu", &Screens::ShowMenu, "networkMenu"},
     {"Edit menu", &Screens::ShowMenu, "editMenu"},
+    {"Edit menu, to be undone and redone", &Screens::ShowEditMenu, nullptr},
+    {"Edit menu, damaged list", &Screens::ShowEditMenu, damagedList},
     {"View menu", &Screens::ShowMenu, "viewMenu"},
     {"Appearance menu", &Screens::ShowMenu, "appearanceMenu"},
     {"Language menu", &Screens::ShowMenu, "languageMenu"},
@@ -518,6 +521,15 @@ void Screens::ShowTraceSearch(const char *text)
     Visit();
 }
 
+void Screens::ShowEditMenu(const char *listFile)
+{
+    KeepHistory(States(), stateInForce);
+    if (listFile) {
+        WriteUserFile(QLatin1String("Priority.xml"), listFile);
+    }
+    ShowMenu("editMenu");
+}
+
 void Screens::ShowMenu(const char *menu)
 {
     OpenWindow(m_plugins.data());
@@ -745,6 +757,14 @@ void Screens::ShowHistoryFile(const char *content)
 {
     Fill();
     WriteUserFile(QLatin1String("history/states.xml"), content);
+    OpenWindow(m_plugins.data());
+    Visit();
+}
+
+void Screens::ShowTwoMessages(const char *listFile)
+{
+    WriteUserFile(QLatin1String("Priority.xml"), listFile);
+    WriteUserFile(QLatin1String("history/states.xml"), "no history");
     OpenWindow(m_plugins.data());
     Visit();
 }

@@ -62,6 +62,8 @@ private:
     void ShowTrace(const char *);
     void ShowTraceSearch(const char *text);
     void ShowMenu(const char *menu);
+    void ShowEditMenu(const char *listFile);
+    void ShowTwoMessages(const char *listFile);
     void ShowBroken(const char *folder);
     void ShowBrokenSettings(const char *folder);
     void ShowBrokenGeneralPage(const char *folder);

@@ -125,8 +125,8 @@ void TourTest::TourSucceedsAtAnyScale_data()
 {
     QTest::addColumn<QString>("scale");
     QTest::addColumn<QSize>("size");
-    QTest::newRow("150 %") << "1.5" << QSize(1230, 930);
-    QTest::newRow("200 %") << "2" << QSize(1640, 1240);
+    QTest::newRow("150 %") << "1.5" << QSize(1230, 960);
+    QTest::newRow("200 %") << "2" << QSize(1640, 1280);
 }
 
 void TourTest::TourSucceedsAtAnyScale()

@@ -1,13 +1,13 @@
 #ifndef ACTIONBUTTON_H
 #define ACTIONBUTTON_H
 
-#include "TextButton.h"
+#include <QPushButton>
 
 class QAction;
 
 /** A button that does what an action does, and shows its text, its tool tip and whether it can be done. The
  * action's shortcut works in the button's window too. */
-class ActionButton : public TextButton
+class ActionButton : public QPushButton
 {
     Q_OBJECT
 

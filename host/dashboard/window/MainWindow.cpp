@@ -240,6 +240,8 @@ QWidget *MainWindow::CreateMessagePage()
     m_messageText->setAlignment(Qt::AlignCenter);
     m_messagePage = new QWidget;
     m_messagePage->setObjectName(QLatin1String("messagePage"));
+    // There is nothing on it to work with; the settings fill the list.
+    m_messagePage->setFocusProxy(m_settingsButton);
     m_messagePage->setAutoFillBackground(true);
     m_messagePage->setBackgroundRole(QPalette::Base);
     QVBoxLayout *layout = new QVBoxLayout(m_messagePage);
