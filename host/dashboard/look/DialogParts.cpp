@@ -42,6 +42,15 @@ int DialogParts::ForFont(int pixels)
     return qRound(pixels * qBound(qreal(1), factor, largest));
 }
 
+QFont DialogParts::Scaled(const QFont &font, qreal factor)
+{
+    QFont scaled = font;
+    if (scaled.pointSizeF() > 0) {
+        scaled.setPointSizeF(scaled.pointSizeF() * factor);
+    }
+    return scaled;
+}
+
 QLabel *DialogParts::Label(const char *name)
 {
     return new WrappedLabel(name);

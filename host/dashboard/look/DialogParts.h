@@ -1,6 +1,7 @@
 #ifndef DIALOGPARTS_H
 #define DIALOGPARTS_H
 
+#include <QFont>
 #include <QString>
 #include <QWidget>
 
@@ -15,6 +16,9 @@ namespace DialogParts
 /** A size in pixels that suits fonts of the usual size, for the size of the application's font when that is
  * larger. */
 int ForFont(int pixels);
+
+/** A font of another size; one whose size is given in pixels stays as it is. */
+QFont Scaled(const QFont &font, qreal factor);
 
 /** Plain text over as many lines as it needs. */
 QLabel *Label(const char *name);

@@ -1,5 +1,6 @@
 #include "OverviewDelegate.h"
 
+#include "DialogParts.h"
 #include "Glyphs.h"
 
 #include <DashboardText.h>
@@ -14,25 +15,16 @@ const int glyphSize = 26;
 const int markSize = 12;
 const int smallestRow = 52;
 
-QFont Sized(const QFont &font, qreal factor)
-{
-    QFont sized = font;
-    if (sized.pointSizeF() > 0) {
-        sized.setPointSizeF(sized.pointSizeF() * factor);
-    }
-    return sized;
-}
-
 QFont NameFont(const QFont &font, bool isInUse)
 {
-    QFont name = Sized(font, 1.08);
+    QFont name = DialogParts::Scaled(font, 1.08);
     name.setBold(isInUse);
     return name;
 }
 
 QFont SmallFont(const QFont &font)
 {
-    return Sized(font, 0.92);
+    return DialogParts::Scaled(font, 0.92);
 }
 
 Glyphs::Mark MarkOf(const QModelIndex &index)

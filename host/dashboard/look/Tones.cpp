@@ -65,9 +65,9 @@ QColor Tones::Readable(const QColor &colour, const QList<QColor> &grounds, qreal
 Tones Tones::OfApplication()
 {
     const QPalette palette = QApplication::palette();
-    const QColor window = palette.color(QPalette::Window);
+    const QColor &window = palette.color(QPalette::Window);
     // That of lists may be a soft one, made for reading on it.
-    const QColor highlight = palette.color(QPalette::Highlight);
+    const QColor &highlight = palette.color(QPalette::Highlight);
     Tones tones;
     tones.base = palette.color(QPalette::Base);
     tones.selected = Blend(palette.color(QPalette::Text), tones.base, 0.1);

@@ -98,8 +98,7 @@ void HeadArea::ShowButtons(const Overview &overview, bool isSwitching, bool mayS
 
 void HeadArea::MakeFonts()
 {
-    QFont large = font();
-    large.setPointSizeF(large.pointSizeF() * 1.4);
+    QFont large = DialogParts::Scaled(font(), 1.4);
     large.setBold(true);
     m_headline->setFont(large);
     // One line more or less below the headline would move the list.

@@ -58,10 +58,7 @@ QString TraceShownKey()
 QLabel *MakeLabel(const char *name, qreal sizeFactor, bool isBold)
 {
     QLabel *label = new WrappedLabel(name);
-    QFont font = label->font();
-    if (font.pointSizeF() > 0) {
-        font.setPointSizeF(font.pointSizeF() * sizeFactor);
-    }
+    QFont font = DialogParts::Scaled(label->font(), sizeFactor);
     font.setBold(isBold);
     label->setFont(font);
     return label;
