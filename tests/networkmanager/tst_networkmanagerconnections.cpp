@@ -699,9 +699,12 @@ void tst_networkmanagerconnections::ConnectionIsEnded()
 {
     const QString device = Fake().AddDevice();
     const QString path = Fake().Connect(AddProfile("Office", "net"), activated, device);
+    Fake().DoNotAnswer("DeactivateConnection");
     const int attempt = LoadedWLAN::Connections()->Disconnect(path);
     QVERIFY(attempt > 0);
     QCOMPARE(LoadedWLAN::Attempt(attempt).stage, int(StageDisconnecting));
+    QTRY_COMPARE(Fake().CallCount("DeactivateConnection"), 1);
+    Fake().SetConnectionState(path, deactivated);
     QTRY_COMPARE(LoadedWLAN::Attempt(attempt).stage, int(StageDisconnected));
     QVERIFY(LoadedWLAN::Active().isEmpty());
 }
