@@ -7,6 +7,7 @@
 
 #include <QAccessible>
 #include <QAction>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QStyle>
@@ -101,6 +102,14 @@ void Banner::Remedy()
 {
     if (QAction *remedy = m_problems.value(m_place).remedy) {
         remedy->trigger();
+    }
+}
+
+void Banner::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && !m_problems.isEmpty()) {
+        ShowPlace();
     }
 }
 

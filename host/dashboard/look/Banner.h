@@ -30,6 +30,7 @@ public:
     void Show(const QList<Problem> &problems);
 
 protected:
+    void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private slots:

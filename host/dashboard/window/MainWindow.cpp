@@ -507,7 +507,7 @@ void MainWindow::ShowList()
         item->setData(OverviewDelegate::DetailTextRole, OverviewText::Detail(m_overview, i));
         item->setData(OverviewDelegate::StateTextRole, state);
         item->setData(OverviewDelegate::MarkRole, OverviewText::Mark(m_overview, i));
-        item->setData(OverviewDelegate::KindRole, Glyphs::KindOf(entry.entry.type));
+        item->setData(OverviewDelegate::KindRole, entry.IsWifi() ? Glyphs::Wifi : Glyphs::Mobile);
         item->setData(OverviewDelegate::ReachRole, OverviewText::Reach(m_overview, i));
         item->setData(OverviewDelegate::SignalRole, entry.signal);
         item->setToolTip(reason.toHtmlEscaped());

@@ -1,6 +1,8 @@
+#include <Appearance.h>
 #include <Banner.h>
 #include <DashboardLanguage.h>
 #include <HostControl.h>
+#include <Tones.h>
 
 #include <QAction>
 #include <QLabel>
@@ -37,6 +39,7 @@ private slots:
     void NextOneIsShownAndThenTheFirstAgain();
     void WhatIsSeenStaysUntilOthersComeOrGo();
     void RemedyIsThatOfWhatIsShown();
+    void TextCanBeReadWhenTheColoursChange();
 
 private:
     QString Title() const { return m_banner->findChild<QLabel *>("bannerTitle")->text(); }
@@ -102,6 +105,19 @@ void BannerTest::RemedyIsThatOfWhatIsShown()
     QCOMPARE(Button("bannerRemedyButton")->text(), QString("Mend it"));
     QTest::mouseClick(Button("bannerRemedyButton"), Qt::LeftButton);
     QCOMPARE(mended, 1);
+}
+
+void BannerTest::TextCanBeReadWhenTheColoursChange()
+{
+    m_banner->Show(Problems({"The list"}));
+    for (const bool isDark : {true, false}) {
+        QApplication::setPalette(Appearance::Colours(isDark));
+        const QColor ground = Tones::OfApplication().warning.ground;
+        for (const char *name : {"bannerTitle", "bannerText"}) {
+            const QPalette palette = m_banner->findChild<QLabel *>(name)->palette();
+            QVERIFY(Tones::Contrast(palette.color(QPalette::WindowText), ground) >= 4.5);
+        }
+    }
 }
 
 QTEST_MAIN(BannerTest)
