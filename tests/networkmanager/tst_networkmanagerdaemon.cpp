@@ -17,8 +17,11 @@
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTableWidget>
 #include <QtTest>
+
+#include <algorithm>
 
 namespace
 {
@@ -89,7 +92,7 @@ private slots:
     void KeyOfTheWrongLengthIsRefused();
     void MovingAnEntryOnThePageChangesWhatNmcliPrints();
     void ProfileMadeInTheDialogAppearsInNmcli();
-    void EntriesBeyondTheRangeHaveTheLowestPriority();
+    void EntriesWithoutAProfileTakeNoPriority();
     void NothingButThePriorityIsWritten();
     void KilledNetworkManagerIsToldAndTheNextOneUsed();
     void AddDialogOutlivesAKilledNetworkManager();
@@ -110,6 +113,8 @@ private:
     /** -1 when they can't be told. */
     static int RememberedCount();
     template <typename Widget> Widget *Find(const char *name) { return m_dashboard->Find<Widget>(name); }
+    /** The names of the profiles, the greatest priority first. */
+    static QStringList Order();
     /** What the Add dialog offers, from its top. */
     QStringList Offered();
     /** A network with a key, in the New dialog. */
@@ -163,6 +168,18 @@ int tst_networkmanagerdaemon::RememberedCount()
 {
     QList<RememberedList> list;
     return Wlan()->GetRememberedList(&list) == 0 ? list.size() : -1;
+}
+
+QStringList tst_networkmanagerdaemon::Order()
+{
+    const auto priority = [](const QString &profile) {
+        return profile.section(':', 1).toInt();
+    };
+    QStringList profiles = NetworkManagerDaemon::Priorities();
+    std::stable_sort(profiles.begin(), profiles.end(), [&](const QString &left, const QString &right) {
+        return priority(left) > priority(right);
+    });
+    return profiles.replaceInStrings(QRegularExpression(":.*"), QString());
 }
 
 QStringList tst_networkmanagerdaemon::Offered()
@@ -252,19 +269,19 @@ void tst_networkmanagerdaemon::MovingAnEntryOnThePageChangesWhatNmcliPrints()
     }
     SetList(QStringList() << "A"
                           << "B");
-    QTRY_COMPARE(NetworkManagerDaemon::Priorities(), QStringList() << "A:999"
-                                                                   << "B:998"
+    QTRY_COMPARE(NetworkManagerDaemon::Priorities(), QStringList() << "A:667"
+                                                                   << "B:334"
                                                                    << "C:0");
     m_dashboard->OpenSettings();
     QCOMPARE(UserActions::ClickRow(Find<QTableWidget>("priorityTable"), 1), QString());
     QCOMPARE(m_dashboard->Click("upButton"), QString());
-    QTRY_COMPARE(NetworkManagerDaemon::Priorities(), QStringList() << "A:998"
-                                                                   << "B:999"
-                                                                   << "C:0");
+    QTRY_COMPARE(Order(), QStringList() << "B"
+                                        << "A"
+                                        << "C");
     QCOMPARE(m_dashboard->Click("downButton"), QString());
-    QTRY_COMPARE(NetworkManagerDaemon::Priorities(), QStringList() << "A:999"
-                                                                   << "B:998"
-                                                                   << "C:0");
+    QTRY_COMPARE(Order(), QStringList() << "A"
+                                        << "B"
+                                        << "C");
 }
 
 void tst_networkmanagerdaemon::ProfileMadeInTheDialogAppearsInNmcli()
@@ -274,7 +291,7 @@ void tst_networkmanagerdaemon::ProfileMadeInTheDialogAppearsInNmcli()
     QCOMPARE(Find<QComboBox>("authenticationBox")->count(), 6);
     FillNewDialog("Summer house");
     QCOMPARE(m_dashboard->Click("newOkButton"), QString());
-    QTRY_COMPARE(NetworkManagerDaemon::Priorities(), QStringList("Summer house:999"));
+    QTRY_COMPARE(NetworkManagerDaemon::Priorities(), QStringList("Summer house:500"));
     const QString security = "802-11-wireless-security.";
     const QString told("wpa-psk\nccmp\nsea-and-sand");
     QCOMPARE(Told("Summer house", security + "key-mgmt," + security + "pairwise," + security + "psk", told),
@@ -289,28 +306,23 @@ void tst_networkmanagerdaemon::ProfileMadeInTheDialogAppearsInNmcli()
     QVERIFY(!m_dashboard->Log().contains("sea-and-sand"));
 }
 
-void tst_networkmanagerdaemon::EntriesBeyondTheRangeHaveTheLowestPriority()
+void tst_networkmanagerdaemon::EntriesWithoutAProfileTakeNoPriority()
 {
-    const int count = 2010;
     QStringList list;
-    for (int i = 0; i < count; ++i) {
+    for (int i = 0; i < 2010; ++i) {
         list.append(QString("filler %1").arg(i));
     }
     list[0] = "A";
-    list[1997] = "B";
-    list[1998] = "C";
-    list[1999] = "D";
-    list[count - 1] = "E";
-    const char *const names[] = {"A", "B", "C", "D", "E"};
+    list[1998] = "B";
+    list[2009] = "C";
+    const char *const names[] = {"A", "B", "C"};
     for (const char *name : names) {
         QVERIFY(NetworkManagerDaemon::Add(name));
     }
     SetList(list);
-    QTRY_COMPARE(NetworkManagerDaemon::Priorities(), QStringList() << "A:999"
-                                                                   << "B:-998"
-                                                                   << "C:-999"
-                                                                   << "D:-999"
-                                                                   << "E:-999");
+    QTRY_COMPARE(NetworkManagerDaemon::Priorities(), QStringList() << "A:750"
+                                                                   << "B:500"
+                                                                   << "C:250");
 }
 
 void tst_networkmanagerdaemon::NothingButThePriorityIsWritten()
@@ -326,7 +338,7 @@ void tst_networkmanagerdaemon::NothingButThePriorityIsWritten()
     const QByteArray before = m_daemon->Keyfile("A");
     QVERIFY(before.contains("open sesame") && before.contains("192.0.2.8"));
     SetList(QStringList("A"));
-    QTRY_COMPARE(NetworkManagerDaemon::Priorities(), QStringList("A:999"));
+    QTRY_COMPARE(NetworkManagerDaemon::Priorities(), QStringList("A:500"));
     QCOMPARE(OtherLines(m_daemon->Keyfile("A")), OtherLines(before));
     SetList(QStringList());
     QTRY_COMPARE(NetworkManagerDaemon::Priorities(), QStringList("A:0"));
@@ -348,7 +360,7 @@ void tst_networkmanagerdaemon::KilledNetworkManagerIsToldAndTheNextOneUsed()
     PluginObjects::Priority()->AddTopPriority(entry);
     QTRY_COMPARE(Find<QTableWidget>("priorityTable")->rowCount(), 1);
     QVERIFY2(m_daemon->Start(), qPrintable(m_daemon->WhyNot()));
-    QTRY_COMPARE(NetworkManagerDaemon::Priorities(), QStringList("A:999"));
+    QTRY_COMPARE(NetworkManagerDaemon::Priorities(), QStringList("A:500"));
     QCOMPARE(Wlan()->GetRememberedList(&list), 0);
     QCOMPARE(list.size(), 1);
 }
@@ -371,14 +383,14 @@ void tst_networkmanagerdaemon::AddDialogOutlivesAKilledNetworkManager()
     QCOMPARE(Offered(), QStringList());
     QVERIFY2(m_daemon->Start(), qPrintable(m_daemon->WhyNot()));
     QCOMPARE(m_dashboard->Click("addCancelButton"), QString());
-    QTRY_COMPARE(NetworkManagerDaemon::Priorities(), QStringList() << "A:999"
+    QTRY_COMPARE(NetworkManagerDaemon::Priorities(), QStringList() << "A:500"
                                                                    << "B:0");
     m_dashboard->OpenDialog("addButton", "rememberTable");
     QCOMPARE(Offered(), QStringList("B"));
     QCOMPARE(UserActions::Click(Find<QWidget>("rowCheckBox")), QString());
     QCOMPARE(m_dashboard->Click("addOkButton"), QString());
-    QTRY_COMPARE(NetworkManagerDaemon::Priorities(), QStringList() << "A:999"
-                                                                   << "B:998");
+    QTRY_COMPARE(NetworkManagerDaemon::Priorities(), QStringList() << "A:500"
+                                                                   << "B:445");
 }
 
 void tst_networkmanagerdaemon::ProfileWithAnAccountOutlivesTheNewDialog()
@@ -401,7 +413,7 @@ void tst_networkmanagerdaemon::ProfileWithAnAccountOutlivesTheNewDialog()
                                              "name.")));
     QVERIFY(!IsVisible("networkNameBox"));
     // It stands in the list now, and has its place.
-    QTRY_COMPARE(NetworkManagerDaemon::Priorities(), QStringList("eduroam:999"));
+    QTRY_COMPARE(NetworkManagerDaemon::Priorities(), QStringList("eduroam:500"));
     QCOMPARE(OtherLines(m_daemon->Keyfile("eduroam")), OtherLines(before));
 }
 
@@ -463,7 +475,7 @@ void tst_networkmanagerdaemon::NewDialogOutlivesAKilledNetworkManager()
     m_dashboard->OpenDialog("newButton", "networkNameBox");
     FillNewDialog("Harbour");
     QCOMPARE(m_dashboard->Click("newOkButton"), QString());
-    QTRY_COMPARE(NetworkManagerDaemon::Priorities(), QStringList("Harbour:998"));
+    QTRY_COMPARE(NetworkManagerDaemon::Priorities(), QStringList("Harbour:500"));
     QVERIFY(!m_dashboard->Log().contains("sea-and-sand"));
 }
 
@@ -476,7 +488,7 @@ void tst_networkmanagerdaemon::NewDialogStoresInTheNetworkManagerThatCameBack()
     QVERIFY2(m_daemon->Start(), qPrintable(m_daemon->WhyNot()));
     QCOMPARE(m_dashboard->Click("newOkButton"), QString());
     QVERIFY(!IsVisible("networkNameBox"));
-    QTRY_COMPARE(NetworkManagerDaemon::Priorities(), QStringList("Summer house:999"));
+    QTRY_COMPARE(NetworkManagerDaemon::Priorities(), QStringList("Summer house:500"));
 }
 
 void tst_networkmanagerdaemon::NewDialogWithoutNetworkManagerTellsWhatIsMissing()
@@ -565,7 +577,7 @@ void tst_networkmanagerdaemon::FiveHundredProfilesAreAllOffered()
     QCOMPARE(Find<QTableWidget>("priorityTable")->rowCount(), 1);
     // From the disk, as nmcli itself leaves many out when there are more than the bus lets it ask for at
     // once.
-    QTRY_VERIFY(m_daemon->Keyfile("many-499").contains("autoconnect-priority=999"));
+    QTRY_VERIFY(m_daemon->Keyfile("many-499").contains("autoconnect-priority=500"));
     for (int i = 0; i < count - 1; ++i) {
         QVERIFY(!m_daemon->Keyfile(expected.at(i)).contains("autoconnect-priority"));
     }

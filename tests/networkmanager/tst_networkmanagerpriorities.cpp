@@ -14,6 +14,8 @@ namespace
 
 const unsigned int activating = 1;
 const unsigned int activated = 2;
+/** Of the only profile in the list. */
+const int alone = 500;
 const char priorityClass[] = "D78C8E0F-7A3F-4f51-87E3-753F0F7F0E05";
 
 /** The file as the priority plug-in writes it; entries are "name" or "name/type" with blanks between them. */
@@ -80,6 +82,10 @@ private:
     void Begin(const QString &entries);
     void SetList(const QString &entries) { Directory().Write("Priority.xml", ListOf(entries)); }
     QStringList Listed();
+    bool IsBefore(const QString &first, const QString &second)
+    {
+        return Fake().PriorityOf(first) > Fake().PriorityOf(second);
+    }
     /** Gives time to whatever might still come. */
     static void Settle() { QTest::qWait(600); }
 
@@ -120,15 +126,15 @@ void tst_networkmanagerpriorities::OrderIsWritten()
     const QString b = Fake().AddProfile("B");
     Begin("");
     SetList("B A");
-    QTRY_COMPARE(Fake().PriorityOf(b), 999);
-    QTRY_COMPARE(Fake().PriorityOf(a), 998);
+    QTRY_COMPARE(Fake().PriorityOf(b), 667);
+    QTRY_COMPARE(Fake().PriorityOf(a), 334);
 }
 
 void tst_networkmanagerpriorities::ListThatIsThereAtTheStartIsWritten()
 {
     const QString a = Fake().AddProfile("A");
     Begin("X A");
-    QCOMPARE(Fake().PriorityOf(a), 998);
+    QCOMPARE(Fake().PriorityOf(a), alone);
 }
 
 void tst_networkmanagerpriorities::MoveIsWritten()
@@ -136,23 +142,23 @@ void tst_networkmanagerpriorities::MoveIsWritten()
     const QString a = Fake().AddProfile("A");
     const QString b = Fake().AddProfile("B");
     Begin("A B");
-    QCOMPARE(Fake().PriorityOf(a), 999);
+    QVERIFY(IsBefore(a, b));
     // The file is deleted and written anew, as it is for every change.
     m_plugin.Priority()->AddTopPriority(Entry("B"));
-    QTRY_COMPARE(Fake().PriorityOf(b), 999);
-    QTRY_COMPARE(Fake().PriorityOf(a), 998);
+    QTRY_VERIFY(IsBefore(b, a));
 }
 
 void tst_networkmanagerpriorities::OnlyWhatDiffersIsWritten()
 {
-    const QString b = Fake().AddProfile("B");
-    Fake().AddProfile("A");
-    Begin("A B");
-    QCOMPARE(Fake().CallCount("Update2"), 2);
-    SetList("A X B");
-    QTRY_COMPARE(Fake().PriorityOf(b), 997);
-    Settle();
+    const QString a = Fake().AddProfile("A");
+    Fake().AddProfile("B");
+    const QString c = Fake().AddProfile("C");
+    Begin("A B C");
     QCOMPARE(Fake().CallCount("Update2"), 3);
+    SetList("C X A B");
+    QTRY_VERIFY(IsBefore(c, a));
+    Settle();
+    QCOMPARE(Fake().CallCount("Update2"), 4);
 }
 
 void tst_networkmanagerpriorities::OtherSettingsStayAsTheyAre()
@@ -166,7 +172,7 @@ void tst_networkmanagerpriorities::OtherSettingsStayAsTheyAre()
     settings["user"]["unheard-of"] = QString("value");
     const QString a = Fake().AddProfile(settings);
     Begin("A");
-    settings["connection"]["autoconnect-priority"] = 999;
+    settings["connection"]["autoconnect-priority"] = alone;
     QCOMPARE(Fake().SettingsOf(a), settings);
 }
 
@@ -185,14 +191,14 @@ void tst_networkmanagerpriorities::OldFormsOfSettingsAreNotSentBack()
     told["802-11-wireless"]["cloned-mac-address"] = QByteArray("\x02");
     const QString a = Fake().AddProfile(told);
     Begin("A");
-    settings["connection"]["autoconnect-priority"] = 999;
+    settings["connection"]["autoconnect-priority"] = alone;
     QCOMPARE(Fake().SettingsOf(a), settings);
 }
 
 void tst_networkmanagerpriorities::ChangeInTheMiddleIsNotOverwritten()
 {
     const QString a = Fake().AddProfile("A");
-    Fake().AddProfile("B");
+    const QString b = Fake().AddProfile("B");
     Begin("A B");
     Fake().ForgetCalls();
     Fake().Hold("GetSettings");
@@ -202,7 +208,7 @@ void tst_networkmanagerpriorities::ChangeInTheMiddleIsNotOverwritten()
     QCOMPARE(
         LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("A", "WPA2PSK", "CCMP", "12345678")), 0);
     Fake().Release();
-    QTRY_COMPARE(Fake().PriorityOf(a), 998);
+    QTRY_VERIFY(IsBefore(b, a));
     QCOMPARE(Fake().SettingsOf(a)["802-11-wireless-security"].value("key-mgmt").toString(),
              QString("wpa-psk"));
 }
@@ -216,7 +222,7 @@ void tst_networkmanagerpriorities::ChangeBySomebodyElseInTheMiddleIsReadFirst()
     SetList("A");
     QTRY_VERIFY(Fake().CallCount("Update2") > 1);
     Fake().Behave();
-    QTRY_COMPARE(Fake().PriorityOf(a), 999);
+    QTRY_COMPARE(Fake().PriorityOf(a), alone);
     QCOMPARE(trace.Lines().filter("WLANNetworkManager"), QStringList());
 }
 
@@ -225,8 +231,7 @@ void tst_networkmanagerpriorities::MobileBroadbandHasItsPlace()
     const QString wifi = Fake().AddProfile("A");
     const QString mobile = Fake().AddProfile("A", "gsm");
     Begin("A/0 A/1");
-    QCOMPARE(Fake().PriorityOf(mobile), 999);
-    QCOMPARE(Fake().PriorityOf(wifi), 998);
+    QVERIFY(IsBefore(mobile, wifi));
 }
 
 void tst_networkmanagerpriorities::ProfilesOfOneNameHaveOnePlace()
@@ -234,8 +239,8 @@ void tst_networkmanagerpriorities::ProfilesOfOneNameHaveOnePlace()
     const QString first = Fake().AddProfile("A");
     const QString second = Fake().AddProfile("A");
     Begin("X A");
-    QCOMPARE(Fake().PriorityOf(first), 998);
-    QCOMPARE(Fake().PriorityOf(second), 998);
+    QCOMPARE(Fake().PriorityOf(first), alone);
+    QCOMPARE(Fake().PriorityOf(second), alone);
 }
 
 void tst_networkmanagerpriorities::ProfilesOutsideTheListAreLeftAlone()
@@ -253,11 +258,11 @@ void tst_networkmanagerpriorities::ProfilesOutsideTheListAreLeftAlone()
 void tst_networkmanagerpriorities::EntryThatLeavesGetsItsFormerPriority()
 {
     const QString a = Fake().AddProfile("A");
-    Fake().SetSetting(a, "connection", "autoconnect-priority", 12);
+    Fake().SetSetting(a, "connection", "autoconnect-priority", -12);
     Begin("A B");
-    QCOMPARE(Fake().PriorityOf(a), 999);
+    QCOMPARE(Fake().PriorityOf(a), alone);
     SetList("B");
-    QTRY_COMPARE(Fake().PriorityOf(a), 12);
+    QTRY_COMPARE(Fake().PriorityOf(a), -12);
 }
 
 void tst_networkmanagerpriorities::ForeignPriorityIsNotSetBack()
@@ -274,15 +279,16 @@ void tst_networkmanagerpriorities::ForeignPriorityIsNotSetBack()
 void tst_networkmanagerpriorities::RemovedListSetsAllBackAndANewOneIsFollowed()
 {
     const QString a = Fake().AddProfile("A");
+    const QString b = Fake().AddProfile("B");
     Begin("A");
-    QCOMPARE(Fake().PriorityOf(a), 999);
+    QCOMPARE(Fake().PriorityOf(a), alone);
     QVERIFY(QFile::remove(Directory().FilePath("Priority.xml")));
     QTRY_COMPARE(Fake().PriorityOf(a), 0);
-    SetList("B A");
-    QTRY_COMPARE(Fake().PriorityOf(a), 998);
+    SetList("A B");
+    QTRY_VERIFY(Fake().PriorityOf(b) > 0);
     // Written into the file that is there, of which its directory tells nothing.
-    SetList("C B A");
-    QTRY_COMPARE(Fake().PriorityOf(a), 997);
+    SetList("A C");
+    QTRY_COMPARE(Fake().PriorityOf(b), 0);
     QVERIFY(QFile::remove(Directory().FilePath("Priority.xml")));
     QTRY_COMPARE(Fake().PriorityOf(a), 0);
 }
@@ -298,7 +304,7 @@ void tst_networkmanagerpriorities::ListThatGoesBackToWhatItWasIsFollowed()
         Directory().Write(QString("other%1").arg(i), QByteArray());
         QTest::qWait(20);
     }
-    QCOMPARE(Fake().PriorityOf(a), 999);
+    QCOMPARE(Fake().PriorityOf(a), alone);
     SetList("");
     QTRY_COMPARE(Fake().PriorityOf(a), 0);
 }
@@ -307,20 +313,20 @@ void tst_networkmanagerpriorities::NewProfileGetsItsPlace()
 {
     Begin("X A");
     const QString a = Fake().AddProfile("A");
-    QTRY_COMPARE(Fake().PriorityOf(a), 998);
+    QTRY_COMPARE(Fake().PriorityOf(a), alone);
 }
 
 void tst_networkmanagerpriorities::WorkGoesOnAfterARestartOfTheProgram()
 {
     const QString a = Fake().AddProfile("A");
-    Fake().SetSetting(a, "connection", "autoconnect-priority", 12);
+    Fake().SetSetting(a, "connection", "autoconnect-priority", -12);
     Begin("A B");
     LoadedWLAN::Root()->OnDestroy();
     SetList("B");
     Settle();
-    QCOMPARE(Fake().PriorityOf(a), 999);
+    QCOMPARE(Fake().PriorityOf(a), alone);
     QVERIFY(LoadedWLAN::Root()->Init());
-    QTRY_COMPARE(Fake().PriorityOf(a), 12);
+    QTRY_COMPARE(Fake().PriorityOf(a), -12);
 }
 
 void tst_networkmanagerpriorities::WorkGoesOnWhenNetworkManagerComesBack()
@@ -328,11 +334,11 @@ void tst_networkmanagerpriorities::WorkGoesOnWhenNetworkManagerComesBack()
     const QString a = Fake().AddProfile("A");
     Begin("A");
     Fake().Vanish();
-    SetList("B A");
+    SetList("B");
     Settle();
-    QCOMPARE(Fake().PriorityOf(a), 999);
+    QCOMPARE(Fake().PriorityOf(a), alone);
     QVERIFY(Fake().Appear());
-    QTRY_COMPARE(Fake().PriorityOf(a), 998);
+    QTRY_COMPARE(Fake().PriorityOf(a), 0);
 }
 
 void tst_networkmanagerpriorities::WorkGoesOnOnANewBus()
@@ -344,16 +350,17 @@ void tst_networkmanagerpriorities::WorkGoesOnOnANewBus()
     StartBusAgain();
     const QString a = Fake().AddProfile("A");
     QVERIFY(Fake().Appear());
-    QTRY_COMPARE(Fake().PriorityOf(a), 998);
+    QTRY_COMPARE(Fake().PriorityOf(a), alone);
     // Whoever was told of news on the old bus is told of those on the new one.
     const QString c = Fake().AddProfile("C");
-    QTRY_COMPARE(Fake().PriorityOf(c), 997);
+    QTRY_VERIFY(Fake().PriorityOf(c) > 0);
+    QVERIFY(IsBefore(a, c));
     Fake().Vanish();
     SetList("A");
     Settle();
     QVERIFY(Fake().Appear());
-    QTRY_COMPARE(Fake().PriorityOf(a), 999);
     QTRY_COMPARE(Fake().PriorityOf(c), 0);
+    QCOMPARE(Fake().PriorityOf(a), alone);
 }
 
 void tst_networkmanagerpriorities::ReadOnlyProfilesAreLeftAlone()
@@ -387,7 +394,7 @@ void tst_networkmanagerpriorities::DamagedListChangesNothing()
     Begin("A");
     Directory().Write("Priority.xml", content);
     Settle();
-    QCOMPARE(Fake().PriorityOf(a), 999);
+    QCOMPARE(Fake().PriorityOf(a), alone);
     QCOMPARE(Fake().CallCount("Update2"), 1);
     QCOMPARE(Directory().Read("Priority.xml"), content);
 }
@@ -397,12 +404,12 @@ void tst_networkmanagerpriorities::MissingPriorityPluginChangesNothing()
     const QString a = Fake().AddProfile("A");
     Begin("A");
     m_container.objects.clear();
-    SetList("B A");
+    SetList("B");
     Settle();
     StandInHost::container = nullptr;
-    SetList("B C A");
+    SetList("B C");
     Settle();
-    QCOMPARE(Fake().PriorityOf(a), 999);
+    QCOMPARE(Fake().PriorityOf(a), alone);
 }
 
 namespace
@@ -430,7 +437,7 @@ void tst_networkmanagerpriorities::PriorityPluginThatWasTakenDownChangesNothing(
     m_container.objects[qMakePair(QString(priorityClass), 4103)] = &takenDown;
     SetList("B A");
     Settle();
-    QCOMPARE(Fake().PriorityOf(a), 999);
+    QCOMPARE(Fake().PriorityOf(a), alone);
 }
 
 void tst_networkmanagerpriorities::RefusedWriteIsToldAndTheOthersAreMade()
@@ -441,7 +448,7 @@ void tst_networkmanagerpriorities::RefusedWriteIsToldAndTheOthersAreMade()
     TraceCapture trace;
     Begin("A B");
     QCOMPARE(Fake().PriorityOf(a), 0);
-    QCOMPARE(Fake().PriorityOf(b), 998);
+    QCOMPARE(Fake().PriorityOf(b), 334);
     QVERIFY(trace.Lines().contains(
         "WLANNetworkManager: the priority of \"A\" is not changed: this user may not do that"));
 }
@@ -452,14 +459,14 @@ void tst_networkmanagerpriorities::MeaninglessAnswerLosesNothing()
     Begin("A");
     Fake().AnswerWith("GetManagedObjects", QList<QVariant>() << 42);
     TraceCapture trace;
-    SetList("B A");
+    SetList("B");
     QTRY_VERIFY(trace.Lines().contains(
         "WLANNetworkManager: the list is not compared: NetworkManager's answer can't be understood"));
-    QCOMPARE(Fake().PriorityOf(a), 999);
-    QCOMPARE(Directory().Read("Priority.xml"), ListOf("B A"));
+    QCOMPARE(Fake().PriorityOf(a), alone);
+    QCOMPARE(Directory().Read("Priority.xml"), ListOf("B"));
     Fake().Behave();
-    SetList("C B A");
-    QTRY_COMPARE(Fake().PriorityOf(a), 997);
+    SetList("C B");
+    QTRY_COMPARE(Fake().PriorityOf(a), 0);
 }
 
 void tst_networkmanagerpriorities::UnreadableProfileIsToldAndTheOthersAreWritten()
@@ -469,7 +476,7 @@ void tst_networkmanagerpriorities::UnreadableProfileIsToldAndTheOthersAreWritten
     Fake().AnswerWith("GetSettings", QList<QVariant>() << 42, a);
     TraceCapture trace;
     Begin("A B");
-    QCOMPARE(Fake().PriorityOf(b), 998);
+    QCOMPARE(Fake().PriorityOf(b), alone);
     QCOMPARE(Fake().PriorityOf(a), 0);
     QVERIFY(trace.Lines().contains("WLANNetworkManager: not all profiles are compared with the list: "
                                    "NetworkManager's answer can't be understood"));
@@ -484,10 +491,10 @@ void tst_networkmanagerpriorities::FirstConnectionGoesToTheTop()
     QTRY_COMPARE(Listed(), QStringList() << "A/1"
                                          << "X/1"
                                          << "Y/1");
-    QTRY_COMPARE(Fake().PriorityOf(a), 999);
+    QTRY_COMPARE(Fake().PriorityOf(a), alone);
     Fake().Connect(mobile, activated);
     QTRY_COMPARE(Listed().value(0), QString("M/2"));
-    QTRY_COMPARE(Fake().PriorityOf(a), 998);
+    QTRY_VERIFY(IsBefore(mobile, a));
 }
 
 void tst_networkmanagerpriorities::ConnectionIsRaisedWhenItIsMadeAndNotBefore()

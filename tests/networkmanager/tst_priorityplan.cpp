@@ -42,13 +42,19 @@ NetworkProfile Profile(const QString &name, int priority = 0)
 
 typedef QMap<QString, PriorityRecord> Records;
 
-/** "name=priority" for every change. */
+/** What can't be fitted, and "name=priority" for every change. */
 QStringList Plan(const QList<PriorityList> &list, const QList<NetworkProfile> &profiles, Records *records)
 {
-    const QList<PriorityChange> changes = PriorityPlan::Make(list, profiles, records);
+    const PlannedPriorities planned = PriorityPlan::Make(list, profiles, records);
     QStringList texts;
-    for (int i = 0; i < changes.size(); ++i) {
-        texts.append(QString("%1=%2").arg(changes.at(i).profile.name).arg(changes.at(i).priority));
+    for (const NetworkProfile &profile : planned.contradicting) {
+        texts.append(profile.name + " contradicts");
+    }
+    for (const NetworkProfile &profile : planned.overtaking) {
+        texts.append(profile.name + " overtakes");
+    }
+    for (const PriorityChange &change : planned.changes) {
+        texts.append(QString("%1=%2").arg(change.profile.name).arg(change.priority));
     }
     return texts;
 }
@@ -70,8 +76,6 @@ class tst_priorityplan : public QObject
     Q_OBJECT
 
 private slots:
-    void PriorityFallsWithThePlaceAndStaysInRange_data();
-    void PriorityFallsWithThePlaceAndStaysInRange();
     void ListedProfilesGetTheirPlaces();
     void OnlyWhatDiffersIsWritten();
     void UnlistedProfilesAreLeftAlone();
@@ -80,12 +84,18 @@ private slots:
     void RepeatedEntryHasItsFirstPlace();
     void ProfilesOfOneNameHaveOnePlace();
     void UnchangeableProfilesAreLeftAlone();
+    void OthersAreFittedAroundTheUnchangeable();
+    void UnchangeableThatContradictsIsTold();
+    void UnlistedProfilesComeAfterTheList_data();
+    void UnlistedProfilesComeAfterTheList();
+    void UnlistedProfileThatOvertakesIsTold();
     void ProfileWithoutItsAccountIsNotTriedFirst();
     void AccountIsLackingOnlyWhereOneIsNeeded_data();
     void AccountIsLackingOnlyWhereOneIsNeeded();
     void ProfileThatLeavesGetsItsFormerPriority();
     void FormerPriorityIsThatBeforeTheFirstWrite();
     void ForeignValueIsNotSetBack();
+    void ForeignValueThatFollowsTheListStays();
     void ForeignValueInTheListIsOverwrittenAndRemembered();
     void SetBackIsTriedAgainUntilItIsDone();
     void InterruptedWriteIsStillOwn();
@@ -105,38 +115,20 @@ private slots:
     void WhatIsNotForTheListIsNotFound();
 };
 
-void tst_priorityplan::PriorityFallsWithThePlaceAndStaysInRange_data()
-{
-    QTest::addColumn<int>("place");
-    QTest::addColumn<int>("priority");
-
-    QTest::newRow("first") << 0 << 999;
-    QTest::newRow("second") << 1 << 998;
-    QTest::newRow("like unlisted profiles") << 999 << 0;
-    QTest::newRow("last of the range") << 1998 << -999;
-    QTest::newRow("beyond") << 1999 << -999;
-    QTest::newRow("far beyond") << 100000 << -999;
-}
-
-void tst_priorityplan::PriorityFallsWithThePlaceAndStaysInRange()
-{
-    QFETCH(int, place);
-    QTEST(PriorityPlan::PriorityAt(place), "priority");
-}
-
 void tst_priorityplan::ListedProfilesGetTheirPlaces()
 {
     Records records;
     QCOMPARE(Plan(List("B A"), QList<NetworkProfile>() << Profile("A") << Profile("B"), &records),
-             QStringList() << "A=998"
-                           << "B=999");
+             QStringList() << "A=334"
+                           << "B=667");
 }
 
 void tst_priorityplan::OnlyWhatDiffersIsWritten()
 {
     Records records;
-    QCOMPARE(Plan(List("A B C"),
-                  QList<NetworkProfile>() << Profile("A", 999) << Profile("B", 5) << Profile("C", 997),
+    QCOMPARE(Plan(List("A B C D"),
+                  QList<NetworkProfile>()
+                      << Profile("A", 999) << Profile("B", 5) << Profile("C", 997) << Profile("D", 900),
                   &records),
              QStringList("B=998"));
     QCOMPARE(records.keys(), QList<QString>() << "uuid-of-B");
@@ -190,7 +182,7 @@ void tst_priorityplan::NameAndKindHaveToFit()
     profile.kind = static_cast<NetworkProfile::Kind>(kind);
     Records records;
     QCOMPARE(Plan(QList<PriorityList>() << Entry(name, type), QList<NetworkProfile>() << profile, &records),
-             fits ? QStringList("A=999") : QStringList());
+             fits ? QStringList("A=500") : QStringList());
 }
 
 void tst_priorityplan::RepeatedEntryHasItsFirstPlace()
@@ -198,9 +190,9 @@ void tst_priorityplan::RepeatedEntryHasItsFirstPlace()
     Records records;
     QCOMPARE(Plan(List("A B A C"), QList<NetworkProfile>() << Profile("A") << Profile("B") << Profile("C"),
                   &records),
-             QStringList() << "A=999"
-                           << "B=998"
-                           << "C=997");
+             QStringList() << "A=750"
+                           << "B=500"
+                           << "C=250");
 }
 
 void tst_priorityplan::ProfilesOfOneNameHaveOnePlace()
@@ -209,17 +201,64 @@ void tst_priorityplan::ProfilesOfOneNameHaveOnePlace()
     twin.uuid = "another";
     Records records;
     QCOMPARE(Plan(List("B A"), QList<NetworkProfile>() << Profile("A") << twin, &records), QStringList()
-                                                                                               << "A=998"
-                                                                                               << "A=998");
+                                                                                               << "A=500"
+                                                                                               << "A=500");
 }
 
 void tst_priorityplan::UnchangeableProfilesAreLeftAlone()
 {
-    NetworkProfile profile = Profile("A");
+    NetworkProfile profile = Profile("A", 5);
     profile.isFreelyChangeable = false;
     Records records;
     QCOMPARE(Plan(List("A"), QList<NetworkProfile>() << profile, &records), QStringList());
     QVERIFY(records.isEmpty());
+}
+
+void tst_priorityplan::OthersAreFittedAroundTheUnchangeable()
+{
+    NetworkProfile fixed = Profile("B", 300);
+    fixed.isFreelyChangeable = false;
+    Records records;
+    QCOMPARE(Plan(List("A B C"), QList<NetworkProfile>() << Profile("A") << fixed << Profile("C"), &records),
+             QStringList() << "A=377"
+                           << "C=267");
+}
+
+void tst_priorityplan::UnchangeableThatContradictsIsTold()
+{
+    NetworkProfile first = Profile("A", 100);
+    first.isFreelyChangeable = false;
+    NetworkProfile second = Profile("B", 200);
+    second.isFreelyChangeable = false;
+    Records records;
+    QCOMPARE(Plan(List("A B"), QList<NetworkProfile>() << first << second, &records),
+             QStringList("B contradicts"));
+}
+
+void tst_priorityplan::UnlistedProfilesComeAfterTheList_data()
+{
+    QTest::addColumn<int>("unlisted");
+    QTest::addColumn<int>("priority");
+    QTest::newRow("as others have set it") << 700 << 850;
+    QTest::newRow("none") << 0 << 500;
+    QTest::newRow("less than none") << -10 << 500;
+}
+
+void tst_priorityplan::UnlistedProfilesComeAfterTheList()
+{
+    QFETCH(int, unlisted);
+    QFETCH(int, priority);
+    Records records;
+    QCOMPARE(Plan(List("A"), QList<NetworkProfile>() << Profile("A") << Profile("B", unlisted), &records),
+             QStringList(QString("A=%1").arg(priority)));
+}
+
+void tst_priorityplan::UnlistedProfileThatOvertakesIsTold()
+{
+    Records records;
+    QCOMPARE(Plan(List("A"), QList<NetworkProfile>() << Profile("A") << Profile("B", 999), &records),
+             QStringList() << "B overtakes"
+                           << "A=500");
 }
 
 void tst_priorityplan::ProfileWithoutItsAccountIsNotTriedFirst()
@@ -231,7 +270,7 @@ void tst_priorityplan::ProfileWithoutItsAccountIsNotTriedFirst()
     records["uuid-of-A"].intended = 999;
     QCOMPARE(Plan(List("A B"), QList<NetworkProfile>() << incomplete << Profile("B"), &records),
              QStringList() << "A=0"
-                           << "B=998");
+                           << "B=500");
 }
 
 void tst_priorityplan::AccountIsLackingOnlyWhereOneIsNeeded_data()
@@ -275,58 +314,67 @@ void tst_priorityplan::AccountIsLackingOnlyWhereOneIsNeeded()
 void tst_priorityplan::ProfileThatLeavesGetsItsFormerPriority()
 {
     Records records;
-    Plan(List("A"), QList<NetworkProfile>() << Profile("A", 12), &records);
-    QCOMPARE(Plan(List(""), QList<NetworkProfile>() << Profile("A", 999), &records), QStringList("A=12"));
+    Plan(List("A"), QList<NetworkProfile>() << Profile("A", -12), &records);
+    QCOMPARE(Plan(List(""), QList<NetworkProfile>() << Profile("A", 500), &records), QStringList("A=-12"));
 }
 
 void tst_priorityplan::FormerPriorityIsThatBeforeTheFirstWrite()
 {
     Records records;
-    Plan(List("A B"), QList<NetworkProfile>() << Profile("A", 12), &records);
-    Plan(List("B A"), QList<NetworkProfile>() << Profile("A", 999), &records);
-    Plan(List("B C A"), QList<NetworkProfile>() << Profile("A", 998), &records);
-    QCOMPARE(Plan(List("B C"), QList<NetworkProfile>() << Profile("A", 997), &records), QStringList("A=12"));
+    Plan(List("A"), QList<NetworkProfile>() << Profile("A", -12), &records);
+    QCOMPARE(Plan(List("B A"), QList<NetworkProfile>() << Profile("A", 500) << Profile("B", 400), &records),
+             QStringList("A=356"));
+    QCOMPARE(Plan(List("B"), QList<NetworkProfile>() << Profile("A", 356) << Profile("B", 400), &records),
+             QStringList("A=-12"));
 }
 
 void tst_priorityplan::ForeignValueIsNotSetBack()
 {
     Records records;
-    Plan(List("A"), QList<NetworkProfile>() << Profile("A", 12), &records);
+    Plan(List("A"), QList<NetworkProfile>() << Profile("A", -12), &records);
     QCOMPARE(Plan(List(""), QList<NetworkProfile>() << Profile("A", 50), &records), QStringList());
+    QVERIFY(records.isEmpty());
+}
+
+void tst_priorityplan::ForeignValueThatFollowsTheListStays()
+{
+    Records records;
+    Plan(List("A"), QList<NetworkProfile>() << Profile("A", -12), &records);
+    QCOMPARE(Plan(List("A"), QList<NetworkProfile>() << Profile("A", 50), &records), QStringList());
     QVERIFY(records.isEmpty());
 }
 
 void tst_priorityplan::ForeignValueInTheListIsOverwrittenAndRemembered()
 {
     Records records;
-    Plan(List("A"), QList<NetworkProfile>() << Profile("A", 12), &records);
-    QCOMPARE(Plan(List("A"), QList<NetworkProfile>() << Profile("A", 50), &records), QStringList("A=999"));
-    QCOMPARE(Plan(List(""), QList<NetworkProfile>() << Profile("A", 999), &records), QStringList("A=50"));
+    Plan(List("A"), QList<NetworkProfile>() << Profile("A", -12), &records);
+    QCOMPARE(Plan(List("A"), QList<NetworkProfile>() << Profile("A", -50), &records), QStringList("A=500"));
+    QCOMPARE(Plan(List(""), QList<NetworkProfile>() << Profile("A", 500), &records), QStringList("A=-50"));
 }
 
 void tst_priorityplan::SetBackIsTriedAgainUntilItIsDone()
 {
     Records records;
-    Plan(List("A"), QList<NetworkProfile>() << Profile("A", 12), &records);
-    Plan(List(""), QList<NetworkProfile>() << Profile("A", 999), &records);
-    QCOMPARE(Plan(List(""), QList<NetworkProfile>() << Profile("A", 999), &records), QStringList("A=12"));
+    Plan(List("A"), QList<NetworkProfile>() << Profile("A", -12), &records);
+    Plan(List(""), QList<NetworkProfile>() << Profile("A", 500), &records);
+    QCOMPARE(Plan(List(""), QList<NetworkProfile>() << Profile("A", 500), &records), QStringList("A=-12"));
 }
 
 void tst_priorityplan::InterruptedWriteIsStillOwn()
 {
     Records records;
-    Plan(List("A"), QList<NetworkProfile>() << Profile("A", 12), &records);
+    Plan(List("A"), QList<NetworkProfile>() << Profile("A", -12), &records);
     // Recorded, and never written: the profile still has what was written before.
-    Plan(List("B A"), QList<NetworkProfile>() << Profile("A", 999), &records);
-    QCOMPARE(Plan(List(""), QList<NetworkProfile>() << Profile("A", 999), &records), QStringList("A=12"));
+    Plan(List("B A"), QList<NetworkProfile>() << Profile("A", 500) << Profile("B", 400), &records);
+    QCOMPARE(Plan(List(""), QList<NetworkProfile>() << Profile("A", 500), &records), QStringList("A=-12"));
 }
 
 void tst_priorityplan::RecordGoesWithTheSetBack()
 {
     Records records;
-    Plan(List("A"), QList<NetworkProfile>() << Profile("A", 12), &records);
-    Plan(List(""), QList<NetworkProfile>() << Profile("A", 999), &records);
-    QCOMPARE(Plan(List(""), QList<NetworkProfile>() << Profile("A", 12), &records), QStringList());
+    Plan(List("A"), QList<NetworkProfile>() << Profile("A", -12), &records);
+    Plan(List(""), QList<NetworkProfile>() << Profile("A", 500), &records);
+    QCOMPARE(Plan(List(""), QList<NetworkProfile>() << Profile("A", -12), &records), QStringList());
     QVERIFY(records.isEmpty());
 }
 

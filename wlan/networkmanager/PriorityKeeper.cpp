@@ -186,7 +186,17 @@ bool CPriorityKeeper::RaiseFirstConnections(const QList<PriorityList> &list)
 
 void CPriorityKeeper::Write(const QList<PriorityList> &list)
 {
-    m_changes = PriorityPlan::Make(list, m_reader->Profiles(), &m_records.priorities);
+    const PlannedPriorities planned = PriorityPlan::Make(list, m_reader->Profiles(), &m_records.priorities);
+    m_changes = planned.changes;
+    for (const NetworkProfile &profile : planned.contradicting) {
+        Complain(QString::fromLatin1("\"%1\" can't be changed, and its priority contradicts the list")
+                     .arg(profile.name));
+    }
+    for (const NetworkProfile &profile : planned.overtaking) {
+        Complain(QString::fromLatin1("\"%1\" is not in the list and comes before entries of it: there are no "
+                                     "greater priorities for these")
+                     .arg(profile.name));
+    }
     // Saved first: a priority that was written and not recorded could never be told from somebody else's.
     if (!m_records.Save()) {
         Complain(QLatin1String(

@@ -1,59 +1,152 @@
 #include "PriorityPlan.h"
 
+#include "PriorityFit.h"
+
 #include <QHash>
 #include <QPair>
+#include <QSet>
 
 namespace
 {
 
-const int highestPriority = 999;
-const int lowestPriority = -999;
+const int defaultPriority = 0;
 
 typedef QHash<QPair<bool, QString>, int> Places;
 
 Places PlacesIn(const QList<PriorityList> &list)
 {
     Places places;
-    for (int i = 0; i < list.size(); ++i) {
-        const QPair<bool, QString> key = NetworkProfile::ListKeyOf(list.at(i));
+    for (const PriorityList &entry : list) {
+        const QPair<bool, QString> key = NetworkProfile::ListKeyOf(entry);
         if (!places.contains(key)) {
-            const int place = places.size();
+            const int place = static_cast<int>(places.size());
             places.insert(key, place);
         }
     }
     return places;
 }
 
-} // namespace
-
-int PriorityPlan::PriorityAt(int place)
+/** -1 for what is not in the list, or can't be connected. */
+int PlaceOf(const NetworkProfile &profile, const Places &places)
 {
-    return qMax(lowestPriority, highestPriority - place);
+    const bool isForTheList = profile.kind != NetworkProfile::OtherKind && !profile.uuid.isEmpty();
+    return isForTheList && !profile.lacksAccount ? places.value(profile.ListKey(), -1) : -1;
 }
 
-QList<PriorityChange> PriorityPlan::Make(const QList<PriorityList> &list,
-                                         const QList<NetworkProfile> &profiles,
-                                         QMap<QString, PriorityRecord> *records)
+bool IsOwn(const NetworkProfile &profile, const QMap<QString, PriorityRecord> &records)
+{
+    return records.contains(profile.uuid) && records.value(profile.uuid).IsOwn(profile.priority);
+}
+
+/** What it has without the list, as far as that can be changed. */
+int PriorityBefore(const NetworkProfile &profile, const QMap<QString, PriorityRecord> &records)
+{
+    return profile.isFreelyChangeable && IsOwn(profile, records) ? records.value(profile.uuid).before
+                                                                 : profile.priority;
+}
+
+void AddProfile(const NetworkProfile &profile, bool isFirst, PriorityFit::Place *place)
+{
+    const bool isFixed = !profile.isFreelyChangeable;
+    if (isFirst || (isFixed && !place->isFixed)) {
+        place->priority = profile.priority;
+        place->isMixed = place->isMixed && !isFixed;
+    } else if (!place->isFixed && place->priority != profile.priority) {
+        place->isMixed = true;
+    }
+    place->isFixed = place->isFixed || isFixed;
+}
+
+bool IsOutside(const NetworkProfile &profile, const Places &places)
+{
+    return PlaceOf(profile, places) < 0 && profile.kind != NetworkProfile::OtherKind && !profile.isHotspot;
+}
+
+/** For the places that there are profiles for. */
+struct FittedPlaces {
+    QHash<int, int> priorities;
+    QSet<int> contradicting;
+};
+
+/** Those that NetworkManager could take before the last profile that follows the list. */
+QList<NetworkProfile> Overtaking(const QList<NetworkProfile> &profiles, const Places &places,
+                                 const FittedPlaces &fitted, const QMap<QString, PriorityRecord> &records)
+{
+    int last = PriorityFit::highest + 1;
+    for (const NetworkProfile &profile : profiles) {
+        const int place = PlaceOf(profile, places);
+        if (place >= 0 && profile.isFreelyChangeable) {
+            last = qMin(last, fitted.priorities.value(place));
+        }
+    }
+    QList<NetworkProfile> overtaking;
+    for (const NetworkProfile &profile : profiles) {
+        if (IsOutside(profile, places) && PriorityBefore(profile, records) >= last) {
+            overtaking.append(profile);
+        }
+    }
+    return overtaking;
+}
+
+FittedPlaces Fitted(const QList<NetworkProfile> &profiles, const Places &places,
+                    const QMap<QString, PriorityRecord> &records)
+{
+    QMap<int, PriorityFit::Place> there;
+    QList<int> unlisted;
+    for (const NetworkProfile &profile : profiles) {
+        const int place = PlaceOf(profile, places);
+        if (place >= 0) {
+            const bool isFirst = !there.contains(place);
+            AddProfile(profile, isFirst, &there[place]);
+        } else if (IsOutside(profile, places)) {
+            unlisted.append(PriorityBefore(profile, records));
+        }
+    }
+    int floor = defaultPriority;
+    for (const int priority : unlisted) {
+        if (priority > floor && there.size() <= PriorityFit::highest - priority) {
+            floor = priority;
+        }
+    }
+    const PriorityFit::Result result = PriorityFit::Fit(there.values(), floor);
+    const QList<int> keys = there.keys();
+    FittedPlaces fitted;
+    for (int i = 0; i < keys.size(); ++i) {
+        fitted.priorities.insert(keys.at(i), result.priorities.at(i));
+    }
+    for (const int place : result.contradicting) {
+        fitted.contradicting.insert(keys.at(place));
+    }
+    return fitted;
+}
+
+} // namespace
+
+PlannedPriorities PriorityPlan::Make(const QList<PriorityList> &list, const QList<NetworkProfile> &profiles,
+                                     QMap<QString, PriorityRecord> *records)
 {
     const Places places = PlacesIn(list);
-    QList<PriorityChange> changes;
-    for (int i = 0; i < profiles.size(); ++i) {
-        const NetworkProfile &profile = profiles.at(i);
+    const FittedPlaces fitted = Fitted(profiles, places, *records);
+    PlannedPriorities planned;
+    planned.overtaking = Overtaking(profiles, places, fitted, *records);
+    for (const NetworkProfile &profile : profiles) {
+        const int place = PlaceOf(profile, places);
+        if (!profile.isFreelyChangeable && fitted.contradicting.contains(place)) {
+            planned.contradicting.append(profile);
+        }
         if (!profile.isFreelyChangeable || profile.kind == NetworkProfile::OtherKind ||
             profile.uuid.isEmpty()) {
             continue;
         }
-        const int place = profile.lacksAccount ? -1 : places.value(profile.ListKey(), -1);
-        const PriorityRecord record = records->value(profile.uuid);
-        const bool isOwn = records->contains(profile.uuid) && record.IsOwn(profile.priority);
-        const int before = isOwn ? record.before : profile.priority;
+        const bool isOwn = IsOwn(profile, *records);
+        const int before = PriorityBefore(profile, *records);
 
         PriorityChange change;
         change.profile = profile;
-        change.priority = place >= 0 ? PriorityAt(place) : before;
+        change.priority = fitted.priorities.value(place, before);
         const bool isToBeWritten = change.priority != profile.priority;
         if (isToBeWritten) {
-            changes.append(change);
+            planned.changes.append(change);
         }
         if (isToBeWritten || (isOwn && place >= 0)) {
             PriorityRecord next;
@@ -65,5 +158,5 @@ QList<PriorityChange> PriorityPlan::Make(const QList<PriorityList> &list,
             records->remove(profile.uuid);
         }
     }
-    return changes;
+    return planned;
 }

@@ -16,32 +16,38 @@ struct PriorityChange {
     int priority = 0;
 };
 
+/** What has to be done, and what can't be. */
+struct PlannedPriorities {
+    QList<PriorityChange> changes;
+    /** Profiles in the list that can't be changed and contradict it. */
+    QList<NetworkProfile> contradicting;
+    /** Profiles outside the list that come before one in it which can be changed. */
+    QList<NetworkProfile> overtaking;
+};
+
 namespace PriorityPlan
 {
 
 /**
- * The priority that entries have for NetworkManager, by their place in the list: 999 for the first, one less
- * for each that follows, and -999 for all that are beyond NetworkManager's range.
+ * What has to be written for the list to take effect: to profiles in the list whose priorities do not follow
+ * it, and to profiles that left the list with the priority that was written to them, which get the one that
+ * they had before.
  *
- * What is not in the list keeps its own priority, which is 0 unless somebody has set another. It comes after
- * the entries with a greater one, mostly the first 999, and before those with a smaller one. Of profiles with
- * the same priority NetworkManager takes the one that was used last.
+ * As few profiles as possible are written; what follows the list already stays, whoever has set it. Profiles
+ * that can't freely be changed are left alone, and the others are fitted around them. Those that lack an
+ * account are treated as if they were not in the list: NetworkManager would try them in vain before others.
+ *
+ * What is not in the list keeps its own priority, which is 0 unless somebody has set another, and comes after
+ * the entries: as far as NetworkManager's range has room for them above it. Of profiles with the same
+ * priority NetworkManager takes the one that was used last.
  *
  * An entry that stands in the list twice has its first place. Profiles of one name all have the place of that
  * name.
- */
-int PriorityAt(int place);
-
-/**
- * What has to be written for the list to take effect: to profiles in the list that have another priority than
- * their place gives, and to profiles that left the list with the priority that was written to them, which get
- * the one that they had before. Profiles that can't freely be changed are left alone, and those that lack an
- * account are treated as if they were not in the list: NetworkManager would try them in vain before others.
  *
  * @param records  receives what is about to be written, and loses what somebody else has overwritten since.
  */
-QList<PriorityChange> Make(const QList<PriorityList> &list, const QList<NetworkProfile> &profiles,
-                           QMap<QString, PriorityRecord> *records);
+PlannedPriorities Make(const QList<PriorityList> &list, const QList<NetworkProfile> &profiles,
+                       QMap<QString, PriorityRecord> *records);
 
 } // namespace PriorityPlan
 
