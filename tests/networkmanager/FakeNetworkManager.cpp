@@ -394,9 +394,23 @@ void FakeNetworkManager::SetSetting(const QString &profile, const QString &secti
     {
         const QMutexLocker locker(&m_mutex);
         m_settings[profile][section][key] = value;
-        Signal(profile, profileInterface, "Updated", QList<QVariant>());
+        TellOfChange(profile);
     }
     Settle();
+}
+
+QVariant FakeNetworkManager::VersionOf(const QString &profile) const
+{
+    return m_objects.value(profile).value(profileInterface).value("VersionId");
+}
+
+void FakeNetworkManager::TellOfChange(const QString &profile)
+{
+    const QVariant version = VersionOf(profile);
+    if (version.isValid()) {
+        Put(profile, profileInterface, "VersionId", version.toULongLong() + 1);
+    }
+    Signal(profile, profileInterface, "Updated", QList<QVariant>());
 }
 
 void FakeNetworkManager::SetChangesByKeyQuestion(qulonglong changes)
@@ -616,7 +630,7 @@ QDBusMessage FakeNetworkManager::AnswerOfProfile(const QDBusMessage &call)
     if (m_settings.contains(path) && call.member() == "GetSettings") {
         return call.createReply(QVariant::fromValue(WithoutKeys(m_settings.value(path))));
     }
-    const QVariant version = m_objects.value(path).value(profileInterface).value("VersionId");
+    const QVariant version = VersionOf(path);
     if (m_settings.contains(path) && call.member() == "GetSecrets") {
         if (version.isValid()) {
             Put(path, profileInterface, "VersionId", version.toULongLong() + m_changesByKeyQuestion);
@@ -636,7 +650,7 @@ QDBusMessage FakeNetworkManager::AnswerOfProfile(const QDBusMessage &call)
         if (call.arguments().at(1).toUInt() == toDisk) {
             Put(path, profileInterface, "Flags", 0U);
         }
-        Signal(path, profileInterface, "Updated", QList<QVariant>());
+        TellOfChange(path);
         return call.createReply(QVariantMap());
     }
     return call.createErrorReply(noSuchObject, "there is nothing of that path");

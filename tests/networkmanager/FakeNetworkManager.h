@@ -117,6 +117,9 @@ private:
     QString MakeConnection(const QString &profile, unsigned int state, const QString &device);
     QDBusMessage AnswerOfManager(const QDBusMessage &call);
     void EndConnection(const QString &activeConnection);
+    /** Not valid where it is not told. */
+    QVariant VersionOf(const QString &profile) const;
+    void TellOfChange(const QString &profile);
     void TellOfObject(const QString &path);
     void TakeAway(const QString &path);
     void Put(const QString &path, const QString &interface, const QString &property, const QVariant &value);

@@ -16,6 +16,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QLabel>
+#include <QProcess>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QTableWidget>
@@ -94,6 +95,7 @@ private slots:
     void ProfileMadeInTheDialogAppearsInNmcli();
     void EntriesWithoutAProfileTakeNoPriority();
     void NothingButThePriorityIsWritten();
+    void EditsOfAnotherProgramSurviveChangesOfTheList();
     void KilledNetworkManagerIsToldAndTheNextOneUsed();
     void AddDialogOutlivesAKilledNetworkManager();
     void ProfileWithAnAccountOutlivesTheNewDialog();
@@ -343,6 +345,29 @@ void tst_networkmanagerdaemon::NothingButThePriorityIsWritten()
     SetList(QStringList());
     QTRY_COMPARE(NetworkManagerDaemon::Priorities(), QStringList("A:0"));
     QCOMPARE(m_daemon->Keyfile("A"), before);
+}
+
+void tst_networkmanagerdaemon::EditsOfAnotherProgramSurviveChangesOfTheList()
+{
+    const int count = 50;
+    QVERIFY(NetworkManagerDaemon::Add("A"));
+    QProcess editor;
+    editor.start("sh", {"-c",
+                        "i=0; while [ $i -lt $2 ]; do \"$1\" connection modify A +ipv4.dns-search "
+                        "edit$i.example.org || exit 1; i=$((i + 1)); sleep 0.1; done",
+                        "sh", ChildProcess::Find("nmcli"), QString::number(count)});
+    for (int i = 0; i < count; ++i) {
+        SetList(i % 2 == 0 ? QStringList("A") : QStringList());
+        QTest::qWait(130);
+    }
+    QTRY_COMPARE_WITH_TIMEOUT(editor.state(), QProcess::NotRunning, 60000);
+    QCOMPARE(editor.exitCode(), 0);
+    SetList(QStringList("A"));
+    QTRY_COMPARE(NetworkManagerDaemon::Priorities(), QStringList("A:500"));
+    const QByteArray keyfile = m_daemon->Keyfile("A");
+    for (int i = 0; i < count; ++i) {
+        QVERIFY2(keyfile.contains("edit" + QByteArray::number(i) + ".example.org;"), keyfile.constData());
+    }
 }
 
 void tst_networkmanagerdaemon::KilledNetworkManagerIsToldAndTheNextOneUsed()

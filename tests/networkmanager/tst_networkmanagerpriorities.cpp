@@ -16,6 +16,7 @@ const unsigned int activating = 1;
 const unsigned int activated = 2;
 /** Of the only profile in the list. */
 const int alone = 500;
+const char profileInterface[] = "org.freedesktop.NetworkManager.Settings.Connection";
 const char priorityClass[] = "D78C8E0F-7A3F-4f51-87E3-753F0F7F0E05";
 
 /** The file as the priority plug-in writes it; entries are "name" or "name/type" with blanks between them. */
@@ -49,6 +50,13 @@ private slots:
     void OldFormsOfSettingsAreNotSentBack();
     void ChangeInTheMiddleIsNotOverwritten();
     void ChangeBySomebodyElseInTheMiddleIsReadFirst();
+    void ChangeBySomebodyElseSurvives_data();
+    void ChangeBySomebodyElseSurvives();
+    void ProfileThatIsBeingChangedIsLeftUntilItRests();
+    void WriteIsBoundToTheVersionThatIsKnown();
+    void PriorityThatSomebodyElseSetsMeanwhileIsRemembered();
+    void MoveTakesFewCalls_data();
+    void MoveTakesFewCalls();
     void MobileBroadbandHasItsPlace();
     void ProfilesOfOneNameHaveOnePlace();
     void ProfilesOutsideTheListAreLeftAlone();
@@ -203,7 +211,7 @@ void tst_networkmanagerpriorities::ChangeInTheMiddleIsNotOverwritten()
     Fake().ForgetCalls();
     Fake().Hold("GetSettings");
     SetList("B A");
-    QTRY_COMPARE(Fake().CallCount("GetSettings"), 2);
+    QTRY_COMPARE(Fake().CallCount("GetSettings"), 1);
     Fake().Hold(QString());
     QCOMPARE(
         LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("A", "WPA2PSK", "CCMP", "12345678")), 0);
@@ -224,6 +232,98 @@ void tst_networkmanagerpriorities::ChangeBySomebodyElseInTheMiddleIsReadFirst()
     Fake().Behave();
     QTRY_COMPARE(Fake().PriorityOf(a), alone);
     QCOMPARE(trace.Lines().filter("WLANNetworkManager"), QStringList());
+}
+
+void tst_networkmanagerpriorities::ChangeBySomebodyElseSurvives_data()
+{
+    QTest::addColumn<bool>("hasVersions");
+    QTest::newRow("NetworkManager that counts versions") << true;
+    QTest::newRow("an earlier one") << false;
+}
+
+void tst_networkmanagerpriorities::ChangeBySomebodyElseSurvives()
+{
+    QFETCH(bool, hasVersions);
+    const QString a = Fake().AddProfile("A");
+    if (hasVersions) {
+        Fake().SetProperty(a, profileInterface, "VersionId", qulonglong(7));
+    }
+    Begin(QString());
+    Fake().ForgetCalls();
+    Fake().Hold("GetSettings");
+    SetList("A");
+    QTRY_COMPARE(Fake().CallCount("GetSettings"), 1);
+    Fake().SetSetting(a, "connection", "metered", 2);
+    Fake().Hold(QString());
+    Fake().Release();
+    QTRY_COMPARE(Fake().PriorityOf(a), alone);
+    QCOMPARE(Fake().SettingsOf(a)["connection"].value("metered").toInt(), 2);
+}
+
+void tst_networkmanagerpriorities::ProfileThatIsBeingChangedIsLeftUntilItRests()
+{
+    const QString a = Fake().AddProfile("A");
+    Begin(QString());
+    SetList("A");
+    for (int i = 1; i <= 20; ++i) {
+        Fake().SetSetting(a, "connection", "metered", i % 2);
+        QTest::qWait(50);
+    }
+    QCOMPARE(Fake().CallCount("Update2"), 0);
+    QTRY_COMPARE(Fake().PriorityOf(a), alone);
+}
+
+void tst_networkmanagerpriorities::WriteIsBoundToTheVersionThatIsKnown()
+{
+    const QString a = Fake().AddProfile("A");
+    Fake().SetProperty(a, profileInterface, "VersionId", qulonglong(7));
+    Begin("A");
+    QCOMPARE(Fake().PriorityOf(a), alone);
+    QCOMPARE(Fake().ConditionsOfTheLastChange().value("version-id").toULongLong(), qulonglong(7));
+    QCOMPARE(Fake().CallCount("Update2"), 1);
+}
+
+void tst_networkmanagerpriorities::PriorityThatSomebodyElseSetsMeanwhileIsRemembered()
+{
+    const QString a = Fake().AddProfile("A");
+    const QString b = Fake().AddProfile("B");
+    Begin(QString());
+    Fake().Hold("Update2");
+    SetList("A B");
+    QTRY_COMPARE(Fake().CallCount("Update2"), 1);
+    Fake().SetSetting(b, "connection", "autoconnect-priority", 900);
+    Fake().Hold(QString());
+    Fake().Release();
+    QTRY_VERIFY(IsBefore(a, b));
+    SetList("A");
+    QTRY_COMPARE(Fake().PriorityOf(b), 900);
+}
+
+void tst_networkmanagerpriorities::MoveTakesFewCalls_data()
+{
+    ChangeBySomebodyElseSurvives_data();
+}
+
+void tst_networkmanagerpriorities::MoveTakesFewCalls()
+{
+    QFETCH(bool, hasVersions);
+    QStringList names;
+    QStringList paths;
+    for (int i = 0; i < 30; ++i) {
+        names.append(QString::number(i));
+        paths.append(Fake().AddProfile(names.last()));
+        if (hasVersions) {
+            Fake().SetProperty(paths.last(), profileInterface, "VersionId", qulonglong(7));
+        }
+    }
+    Begin(names.join(' '));
+    Fake().ForgetCalls();
+    names.move(20, 5);
+    SetList(names.join(' '));
+    QTRY_VERIFY(IsBefore(paths.at(20), paths.at(5)));
+    Settle();
+    QCOMPARE(Fake().CallCount("Update2"), 1);
+    QVERIFY2(Fake().CallCount() <= 5, qPrintable(QString::number(Fake().CallCount())));
 }
 
 void tst_networkmanagerpriorities::MobileBroadbandHasItsPlace()
@@ -366,7 +466,7 @@ void tst_networkmanagerpriorities::WorkGoesOnOnANewBus()
 void tst_networkmanagerpriorities::ReadOnlyProfilesAreLeftAlone()
 {
     const QString a = Fake().AddProfile("A");
-    Fake().SetProperty(a, "org.freedesktop.NetworkManager.Settings.Connection", "Unsaved", true);
+    Fake().SetProperty(a, profileInterface, "Unsaved", true);
     Begin("A");
     QCOMPARE(Fake().CallCount("Update2"), 0);
 }
@@ -459,13 +559,16 @@ void tst_networkmanagerpriorities::MeaninglessAnswerLosesNothing()
     Begin("A");
     Fake().AnswerWith("GetManagedObjects", QList<QVariant>() << 42);
     TraceCapture trace;
+    Fake().Vanish();
     SetList("B");
+    QVERIFY(Fake().Appear());
     QTRY_VERIFY(trace.Lines().contains(
         "WLANNetworkManager: the list is not compared: NetworkManager's answer can't be understood"));
     QCOMPARE(Fake().PriorityOf(a), alone);
     QCOMPARE(Directory().Read("Priority.xml"), ListOf("B"));
     Fake().Behave();
-    SetList("C B");
+    Fake().Vanish();
+    QVERIFY(Fake().Appear());
     QTRY_COMPARE(Fake().PriorityOf(a), 0);
 }
 

@@ -78,6 +78,12 @@ const ConnectionPicture &CLivePicture::Now()
     return m_picture;
 }
 
+bool CLivePicture::IsOnItsWay()
+{
+    Now();
+    return m_reader || m_batch || !m_due.isEmpty();
+}
+
 const ConnectionRecords &CLivePicture::Records()
 {
     const ConnectionPicture &picture = Now();
@@ -275,6 +281,7 @@ void CLivePicture::TakeProfiles()
             StoreProfile(m_asked.at(i), replies.at(i));
         }
     }
+    NoteChange();
     AskForProfiles();
 }
 
@@ -303,7 +310,6 @@ void CLivePicture::StoreProfile(const QString &path, const QDBusMessage &reply)
             m_picture.failures.insert(path, failure);
         }
     }
-    NoteChange();
 }
 
 void CLivePicture::Expect(const QString &profile)

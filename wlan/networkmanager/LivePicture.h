@@ -43,6 +43,12 @@ public:
      */
     const ConnectionPicture &Complete();
 
+    /**
+     * Whether something has been asked for that Now lacks as yet; Changed comes with it. False, too, while
+     * NetworkManager is gone or does not answer.
+     */
+    bool IsOnItsWay();
+
     /** Why the last picture was not to be had, or is not there any more. */
     NetworkManagerResult Result() const { return m_result; }
     /** Why a profile that this user may see is missing; success when none is. */

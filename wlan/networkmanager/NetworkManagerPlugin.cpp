@@ -50,8 +50,7 @@ bool CNetworkManagerPlugin::Init()
     m_picture = new CLivePicture(m_client, nullptr);
     m_service = new CNetworkManagerWLANService(m_client, m_picture, nullptr);
     m_connections = new CNetworkManagerConnections(m_client, m_picture, nullptr);
-    m_keeper = new CPriorityKeeper(m_client, UserData::Directory(), nullptr);
-    connect(m_service, SIGNAL(AboutToChange()), m_keeper, SLOT(StartAgain()));
+    m_keeper = new CPriorityKeeper(m_client, m_picture, UserData::Directory(), nullptr);
     return true;
 }
 

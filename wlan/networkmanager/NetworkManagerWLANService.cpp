@@ -257,7 +257,6 @@ NetworkManagerResult CNetworkManagerWLANService::Add(const WLANProfile &wanted, 
 NetworkManagerResult CNetworkManagerWLANService::Change(const NetworkProfile &profile,
                                                         const WLANProfile &wanted, const CTimeLimit &limit)
 {
-    emit AboutToChange();
     NetworkProfile changed = profile;
     changed.settings[WirelessSection()].insert(QLatin1String("ssid"), SsidText::ToBytes(wanted.ssid));
     NetworkManagerResult result = NetworkManagerResultSuccess;

@@ -68,10 +68,6 @@ public:
      */
     int GetNetworkProfile(const WlanAvilableNetworkInfo &network, WLANProfile *profile) override;
 
-signals:
-    /** What has been read of the profiles so far must not be written any more. */
-    void AboutToChange();
-
 private:
     Q_DISABLE_COPY(CNetworkManagerWLANService)
 

@@ -1,10 +1,8 @@
 #include "PriorityKeeper.h"
 
-#include "CallBatch.h"
 #include "FirstConnections.h"
+#include "LivePicture.h"
 #include "NetworkManagerClient.h"
-#include "ProfileReader.h"
-#include "ProfileUpdate.h"
 
 #include <FileWatcher.h>
 #include <IPriorityPlugin.h>
@@ -19,10 +17,6 @@ namespace
 {
 
 const int pauseMilliseconds = 100;
-const int retryMilliseconds = 10000;
-// Nobody waits, and writing a profile takes its time.
-const int readMilliseconds = 10000;
-const int writeMilliseconds = 60000;
 
 QString RecordsFile(const QString &userDirectory)
 {
@@ -36,27 +30,21 @@ bool HasEntries(const QString &listPath)
     return OrdinaryFile::Read(listPath, std::numeric_limits<int>::max(), &bytes) && bytes.contains("<item");
 }
 
-QDBusMessage WriteCall(const PriorityChange &change)
-{
-    NMVariantMapMap settings = change.profile.settings;
-    settings[QLatin1String("connection")].insert(QLatin1String("autoconnect-priority"), change.priority);
-    return ProfileUpdate::Call(change.profile, settings);
-}
-
 } // namespace
 
-CPriorityKeeper::CPriorityKeeper(CNetworkManagerClient *client, const QString &userDirectory, QObject *parent)
-    : QObject(parent), m_client(client), m_listPath(userDirectory + QLatin1String("Priority.xml")),
-      m_file(new FileWatcher(m_listPath, this)), m_records(RecordsFile(userDirectory)), m_reader(nullptr),
-      m_batch(nullptr), m_isDueAgain(false)
+CPriorityKeeper::CPriorityKeeper(CNetworkManagerClient *client, CLivePicture *picture,
+                                 const QString &userDirectory, QObject *parent)
+    : QObject(parent), m_client(client), m_picture(picture),
+      m_listPath(userDirectory + QLatin1String("Priority.xml")), m_file(new FileWatcher(m_listPath, this)),
+      m_records(RecordsFile(userDirectory)), m_writer(client, nullptr), m_isWaiting(false),
+      m_isDueAgain(false)
 {
     m_pause.setSingleShot(true);
     m_pause.setInterval(pauseMilliseconds);
     connect(&m_pause, SIGNAL(timeout()), this, SLOT(Begin()));
-    m_retry.setSingleShot(true);
-    m_retry.setInterval(retryMilliseconds);
-    connect(&m_retry, SIGNAL(timeout()), this, SLOT(Begin()));
 
+    connect(m_picture, SIGNAL(Changed()), this, SLOT(TakePicture()));
+    connect(&m_writer, SIGNAL(Finished()), this, SLOT(TakeResults()));
     connect(m_file, SIGNAL(Changed()), this, SLOT(Trigger()));
     connect(m_client, SIGNAL(Appeared()), this, SLOT(Trigger()));
     m_client->Listen(CNetworkManagerClient::SettingsPath(), CNetworkManagerClient::SettingsInterface(),
@@ -77,19 +65,6 @@ void CPriorityKeeper::Trigger()
     }
 }
 
-void CPriorityKeeper::StartAgain()
-{
-    if (m_reader) {
-        m_reader->disconnect(this);
-        m_reader->deleteLater();
-        m_reader = nullptr;
-    }
-    delete m_batch;
-    m_batch = nullptr;
-    m_changes.clear();
-    Trigger();
-}
-
 void CPriorityKeeper::TakeManagerChange(const QString &, const QVariantMap &changed, const QStringList &)
 {
     if (changed.contains(QLatin1String("ActiveConnections"))) {
@@ -106,42 +81,46 @@ void CPriorityKeeper::TakeConnectionChange(const QString &, const QVariantMap &c
 
 void CPriorityKeeper::Begin()
 {
-    if (m_reader || m_batch) {
+    if (m_writer.IsWriting()) {
         m_isDueAgain = true;
         return;
     }
-    m_retry.stop();
-    m_complaints.clear();
-    m_reader = new CProfileReader(m_client, CTimeLimit(readMilliseconds), this);
-    connect(m_reader, SIGNAL(Finished()), this, SLOT(TakeProfiles()));
-    m_reader->Start();
+    m_isWaiting = m_picture->IsOnItsWay();
+    if (!m_isWaiting) {
+        Compare();
+    }
 }
 
-void CPriorityKeeper::TakeProfiles()
+void CPriorityKeeper::TakePicture()
 {
-    const NetworkManagerResult result = m_reader->Result();
-    QList<PriorityList> list;
-    if (result != NetworkManagerResultSuccess) {
-        Complain(QString::fromLatin1("the list is not compared: %1").arg(DescriptionOf(result)));
-        m_retry.start();
+    if (m_isWaiting && !m_pause.isActive()) {
+        Begin();
+    }
+}
+
+void CPriorityKeeper::Compare()
+{
+    m_complaints.clear();
+    // Copies: whoever is told of what is done here may have the picture changed.
+    const ConnectionPicture picture = m_picture->Now();
+    if (picture.source != ConnectionState::SourceKnown) {
+        Complain(QString::fromLatin1("the list is not compared: %1").arg(DescriptionOf(m_picture->Result())));
+        m_isWaiting = true;
         End();
         return;
     }
-    if (m_reader->Shortfall() != NetworkManagerResultSuccess) {
+    if (m_picture->Shortfall() != NetworkManagerResultSuccess) {
         Complain(QString::fromLatin1("not all profiles are compared with the list: %1")
-                     .arg(DescriptionOf(m_reader->Shortfall())));
+                     .arg(DescriptionOf(m_picture->Shortfall())));
     }
+    QList<PriorityList> list;
     if (!ReadList(&list)) {
         End();
-        return;
-    }
-    if (RaiseFirstConnections(list)) {
-        list.clear();
-        ReadList(&list);
-    }
-    // Whoever is told of a new first entry may have changed a profile.
-    if (m_reader) {
-        Write(list);
+    } else if (RaiseFirstConnections(picture, list)) {
+        m_isDueAgain = true;
+        End();
+    } else {
+        Write(picture.profiles, list);
     }
 }
 
@@ -165,29 +144,30 @@ bool CPriorityKeeper::ReadList(QList<PriorityList> *list)
     }
 }
 
-bool CPriorityKeeper::RaiseFirstConnections(const QList<PriorityList> &list)
+bool CPriorityKeeper::RaiseFirstConnections(const ConnectionPicture &picture, const QList<PriorityList> &list)
 {
     const QList<NetworkProfile> found =
-        FirstConnections::Find(m_reader->Profiles(), m_reader->State().ConnectedProfiles(), list, &m_records);
-    for (int i = 0; i < found.size(); ++i) {
+        FirstConnections::Find(picture.profiles, picture.state.ConnectedProfiles(), list, &m_records);
+    bool isAnyRaised = false;
+    for (const NetworkProfile &profile : found) {
         IPriorityPlugin *priority =
             qobject_cast<IPriorityPlugin *>(FindPluginObject(priorityClassId, PriorityInterface));
         if (!priority) {
             break;
         }
         PriorityList entry;
-        entry.name = found.at(i).name;
-        entry.type = found.at(i).TypeText();
+        entry.name = profile.name;
+        entry.type = profile.TypeText();
         priority->AddTopPriority(entry);
-        m_records.connected.insert(found.at(i).uuid);
+        m_records.connected.insert(profile.uuid);
+        isAnyRaised = true;
     }
-    return !found.isEmpty();
+    return isAnyRaised;
 }
 
-void CPriorityKeeper::Write(const QList<PriorityList> &list)
+void CPriorityKeeper::Write(const QList<NetworkProfile> &profiles, const QList<PriorityList> &list)
 {
-    const PlannedPriorities planned = PriorityPlan::Make(list, m_reader->Profiles(), &m_records.priorities);
-    m_changes = planned.changes;
+    const PlannedPriorities planned = PriorityPlan::Make(list, profiles, &m_records.priorities);
     for (const NetworkProfile &profile : planned.contradicting) {
         Complain(QString::fromLatin1("\"%1\" can't be changed, and its priority contradicts the list")
                      .arg(profile.name));
@@ -203,25 +183,18 @@ void CPriorityKeeper::Write(const QList<PriorityList> &list)
             "NetworkManager.ini can't be written: what this program has changed in NetworkManager "
             "will be forgotten when it ends"));
     }
-    QList<QDBusMessage> calls;
-    for (int i = 0; i < m_changes.size(); ++i) {
-        calls.append(WriteCall(m_changes.at(i)));
-    }
-    m_batch = new CCallBatch(m_client, calls, CTimeLimit(writeMilliseconds), this);
-    connect(m_batch, SIGNAL(Finished()), this, SLOT(TakeReplies()));
-    m_batch->Start();
+    m_writer.Start(planned.changes);
 }
 
-void CPriorityKeeper::TakeReplies()
+void CPriorityKeeper::TakeResults()
 {
-    const QList<QDBusMessage> replies = m_batch->Replies();
-    for (int i = 0; i < replies.size(); ++i) {
-        const NetworkManagerResult result = ResultOf(replies.at(i), ProfileUpdate::signature);
-        if (result == NetworkManagerResultChangedMeanwhile) {
+    const QList<NetworkManagerResult> results = m_writer.Results();
+    for (int i = 0; i < results.size(); ++i) {
+        if (results.at(i) == NetworkManagerResultChangedMeanwhile) {
             m_isDueAgain = true;
-        } else if (result != NetworkManagerResultSuccess) {
+        } else if (results.at(i) != NetworkManagerResultSuccess) {
             Complain(QString::fromLatin1("the priority of \"%1\" is not changed: %2")
-                         .arg(m_changes.at(i).profile.name, DescriptionOf(result)));
+                         .arg(m_writer.Changes().at(i).profile.name, DescriptionOf(results.at(i))));
         }
     }
     End();
@@ -235,15 +208,6 @@ void CPriorityKeeper::Complain(const QString &text)
 void CPriorityKeeper::End()
 {
     m_log.Tell(m_complaints);
-    if (m_reader) {
-        m_reader->deleteLater();
-        m_reader = nullptr;
-    }
-    if (m_batch) {
-        m_batch->deleteLater();
-        m_batch = nullptr;
-    }
-    m_changes.clear();
     if (m_isDueAgain) {
         m_isDueAgain = false;
         Trigger();

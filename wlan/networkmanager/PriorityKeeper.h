@@ -1,8 +1,8 @@
 #ifndef PRIORITYKEEPER_H
 #define PRIORITYKEEPER_H
 
-#include "PriorityPlan.h"
 #include "PriorityRecords.h"
+#include "PriorityWriter.h"
 
 #include <ComplaintLog.h>
 #include <PriorityList.h>
@@ -11,11 +11,10 @@
 #include <QObject>
 #include <QTimer>
 
-class CCallBatch;
-class FileWatcher;
+class CLivePicture;
 class CNetworkManagerClient;
-class CProfileReader;
-class QDBusMessage;
+class FileWatcher;
+struct ConnectionPicture;
 
 /**
  * Keeps the priority list and NetworkManager's priorities together: whatever changes in the list is written
@@ -31,47 +30,44 @@ class CPriorityKeeper : public QObject
 public:
     /**
      * @param client         outlives the keeper.
+     * @param picture        as well.
      * @param userDirectory  with a trailing separator, as the priority plug-in has it; may be empty.
      */
-    CPriorityKeeper(CNetworkManagerClient *client, const QString &userDirectory, QObject *parent);
+    CPriorityKeeper(CNetworkManagerClient *client, CLivePicture *picture, const QString &userDirectory,
+                    QObject *parent);
 
 public slots:
     /** Has the two compared soon. */
     void Trigger();
 
-    /**
-     * Drops what has been read and not yet written, and begins anew: a profile is about to be changed, and
-     * its former settings must not be written over that.
-     */
-    void StartAgain();
-
 private slots:
     void Begin();
-    void TakeProfiles();
-    void TakeReplies();
+    void TakePicture();
+    void TakeResults();
     void TakeManagerChange(const QString &interface, const QVariantMap &changed, const QStringList &);
     void TakeConnectionChange(const QString &interface, const QVariantMap &changed, const QStringList &);
 
 private:
     Q_DISABLE_COPY(CPriorityKeeper)
 
+    void Compare();
     bool ReadList(QList<PriorityList> *list);
-    bool RaiseFirstConnections(const QList<PriorityList> &list);
-    void Write(const QList<PriorityList> &list);
+    bool RaiseFirstConnections(const ConnectionPicture &picture, const QList<PriorityList> &list);
+    void Write(const QList<NetworkProfile> &profiles, const QList<PriorityList> &list);
     void Complain(const QString &text);
     void End();
 
     CNetworkManagerClient *const m_client;
+    CLivePicture *const m_picture;
     const QString m_listPath;
     FileWatcher *m_file;
     CPriorityRecords m_records;
     CComplaintLog m_log{"WLANNetworkManager"};
     QStringList m_complaints;
     QTimer m_pause;
-    QTimer m_retry;
-    CProfileReader *m_reader;
-    CCallBatch *m_batch;
-    QList<PriorityChange> m_changes;
+    CPriorityWriter m_writer;
+    /** For the picture to be complete. */
+    bool m_isWaiting;
     bool m_isDueAgain;
 };
 
