@@ -1389,5 +1389,21 @@
         <source>IDS_WLAN_BUSY</source>
         <translation>الشبكة «%1» غير محفوظة: برنامج آخر يغيّر الشبكات الآن. حاول مرة أخرى بعد قليل.</translation>
     </message>
+    <message>
+        <source>IDS_WLAN_ORDER_TITLE</source>
+        <translation>قائمتك</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_ORDER_FIXED</source>
+        <translation>لا يمكن تطبيق ترتيب قائمتك بالكامل بسبب «%1»: لا يمكن تغيير هذه الشبكة، وأولويتها لا تناسب موضعها في القائمة. الشبكات الأخرى مرتبة حسب القائمة.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_ORDER_SEVERAL</source>
+        <translation>لا يمكن تطبيق ترتيب قائمتك بالكامل بسبب «%1» وشبكات أخرى: لا يمكن تغييرها، وأولويتها لا تناسب موضعها في القائمة. تجد أسماءها في السجل.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_ORDER_OVERTAKEN</source>
+        <translation>الشبكة «%1» ليست في قائمتك، لكنها تُجرَّب قبل شبكات موجودة فيها: لا توجد أولوية أعلى لهذه الشبكات. أضِف «%1» إلى قائمتك ليكون لها موضع.</translation>
+    </message>
 </context>
 </TS>

@@ -1390,5 +1390,21 @@ Erwartet: %3</translation>
         <source>IDS_WLAN_BUSY</source>
         <translation>„%1“ wurde nicht gespeichert: Ein anderes Programm ändert gerade die Netzwerke. Versuchen Sie es gleich noch einmal.</translation>
     </message>
+    <message>
+        <source>IDS_WLAN_ORDER_TITLE</source>
+        <translation>Ihre Liste</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_ORDER_FIXED</source>
+        <translation>Die Reihenfolge Ihrer Liste kann wegen „%1“ nicht ganz wirksam werden: Dieses Netzwerk kann nicht geändert werden, und seine Priorität passt nicht zu seinem Platz in der Liste. Die anderen Netzwerke folgen der Liste.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_ORDER_SEVERAL</source>
+        <translation>Die Reihenfolge Ihrer Liste kann wegen „%1“ und anderer Netzwerke nicht ganz wirksam werden: Sie können nicht geändert werden, und ihre Priorität passt nicht zu ihrem Platz in der Liste. Ihre Namen stehen im Ablaufprotokoll.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_ORDER_OVERTAKEN</source>
+        <translation>„%1“ steht nicht in Ihrer Liste, wird aber vor Netzwerken versucht, die darin stehen: Für diese gibt es keine höhere Priorität. Fügen Sie „%1“ zu Ihrer Liste hinzu, damit das Netzwerk einen Platz bekommt.</translation>
+    </message>
 </context>
 </TS>

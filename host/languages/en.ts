@@ -1505,5 +1505,25 @@ Expected: %3</translation>
         <extracomment>%1: a network</extracomment>
         <translation>“%1” was not saved: another program is changing the networks. Try again in a moment.</translation>
     </message>
+    <message>
+        <source>IDS_WLAN_ORDER_TITLE</source>
+        <extracomment>Title of the notices about the order of the list</extracomment>
+        <translation>Your list</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_ORDER_FIXED</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>The order of your list cannot take full effect because of “%1”: this network cannot be changed, and its priority does not fit its place in the list. The other networks follow the list.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_ORDER_SEVERAL</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>The order of your list cannot take full effect because of “%1” and other networks: they cannot be changed, and their priority does not fit their place in the list. See the log for their names.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_ORDER_OVERTAKEN</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>“%1” is not in your list, but is tried before networks that are: there is no higher priority for these. Add “%1” to your list to give it a place.</translation>
+    </message>
 </context>
 </TS>

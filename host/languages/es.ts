@@ -1390,5 +1390,21 @@ Esperado: %3</translation>
         <source>IDS_WLAN_BUSY</source>
         <translation>«%1» no se ha guardado: otro programa está cambiando las redes. Inténtelo de nuevo dentro de un momento.</translation>
     </message>
+    <message>
+        <source>IDS_WLAN_ORDER_TITLE</source>
+        <translation>Su lista</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_ORDER_FIXED</source>
+        <translation>El orden de su lista no puede aplicarse del todo a causa de «%1»: esta red no se puede modificar, y su prioridad no corresponde a su puesto en la lista. Las demás redes siguen la lista.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_ORDER_SEVERAL</source>
+        <translation>El orden de su lista no puede aplicarse del todo a causa de «%1» y otras redes: no se pueden modificar, y su prioridad no corresponde a su puesto en la lista. Consulte los nombres en el registro.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_ORDER_OVERTAKEN</source>
+        <translation>«%1» no está en su lista, pero se prueba antes que redes que sí están: no hay una prioridad más alta para estas. Añada «%1» a su lista para darle un puesto.</translation>
+    </message>
 </context>
 </TS>

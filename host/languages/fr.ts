@@ -1390,5 +1390,21 @@ Attendu&#xa0;: %3</translation>
         <source>IDS_WLAN_BUSY</source>
         <translation>«&#xa0;%1&#xa0;» n’a pas été enregistré&#xa0;: un autre programme modifie les réseaux. Réessayez dans un instant.</translation>
     </message>
+    <message>
+        <source>IDS_WLAN_ORDER_TITLE</source>
+        <translation>Votre liste</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_ORDER_FIXED</source>
+        <translation>L’ordre de votre liste ne peut pas s’appliquer entièrement à cause de «&#xa0;%1&#xa0;»&#xa0;: ce réseau ne peut pas être modifié, et sa priorité ne correspond pas à son rang dans la liste. Les autres réseaux suivent la liste.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_ORDER_SEVERAL</source>
+        <translation>L’ordre de votre liste ne peut pas s’appliquer entièrement à cause de «&#xa0;%1&#xa0;» et d’autres réseaux&#xa0;: ils ne peuvent pas être modifiés, et leur priorité ne correspond pas à leur rang dans la liste. Leurs noms se trouvent dans le journal.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_ORDER_OVERTAKEN</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas dans votre liste, mais est essayé avant des réseaux qui y sont&#xa0;: il n’y a pas de priorité plus élevée pour ceux-ci. Ajoutez «&#xa0;%1&#xa0;» à votre liste pour lui donner un rang.</translation>
+    </message>
 </context>
 </TS>

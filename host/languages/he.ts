@@ -1389,5 +1389,21 @@
         <source>IDS_WLAN_BUSY</source>
         <translation>הרשת „%1” אינה שמורה: תוכנה אחרת משנה את הרשתות. יש לנסות שוב בעוד רגע.</translation>
     </message>
+    <message>
+        <source>IDS_WLAN_ORDER_TITLE</source>
+        <translation>הרשימה שלך</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_ORDER_FIXED</source>
+        <translation>סדר הרשימה שלך אינו יכול לחול במלואו בגלל „%1”&#x200f;: לא ניתן לשנות את הרשת הזאת, והעדיפות שלה אינה מתאימה למקום שלה ברשימה. שאר הרשתות הן לפי הרשימה.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_ORDER_SEVERAL</source>
+        <translation>סדר הרשימה שלך אינו יכול לחול במלואו בגלל „%1” ורשתות נוספות: לא ניתן לשנות אותן, והעדיפות שלהן אינה מתאימה למקום שלהן ברשימה. השמות כתובים ביומן.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_ORDER_OVERTAKEN</source>
+        <translation>הרשת „%1” אינה ברשימה שלך, אך מנסים אותה לפני רשתות שנמצאות בה: אין להן עדיפות גבוהה יותר. יש להוסיף את „%1” לרשימה שלך כדי שיהיה לה מקום.</translation>
+    </message>
 </context>
 </TS>

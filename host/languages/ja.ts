@@ -1390,5 +1390,21 @@
         <source>IDS_WLAN_BUSY</source>
         <translation>「%1」は登録されませんでした。ほかのプログラムがネットワークを変更しています。しばらくしてからもう一度お試しください。</translation>
     </message>
+    <message>
+        <source>IDS_WLAN_ORDER_TITLE</source>
+        <translation>リスト</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_ORDER_FIXED</source>
+        <translation>「%1」のため、リストの順番を完全には適用できません。このネットワークは変更できず、その優先度がリストでの順位に合いません。ほかのネットワークはリストに従います。</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_ORDER_SEVERAL</source>
+        <translation>「%1」とほかのネットワークのため、リストの順番を完全には適用できません。これらは変更できず、優先度がリストでの順位に合いません。名前はログをご覧ください。</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_ORDER_OVERTAKEN</source>
+        <translation>「%1」はリストにありませんが、リストにあるネットワークより先に試されます。それらのための、より高い優先度はありません。順位を付けるには、「%1」をリストに追加してください。</translation>
+    </message>
 </context>
 </TS>

@@ -1390,5 +1390,21 @@ Esperado: %3</translation>
         <source>IDS_WLAN_BUSY</source>
         <translation>“%1” não foi salva: outro programa está alterando as redes. Tente novamente em instantes.</translation>
     </message>
+    <message>
+        <source>IDS_WLAN_ORDER_TITLE</source>
+        <translation>Sua lista</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_ORDER_FIXED</source>
+        <translation>A ordem da sua lista não pode valer por completo por causa de “%1”: essa rede não pode ser alterada, e a prioridade dela não corresponde à posição dela na lista. As outras redes seguem a lista.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_ORDER_SEVERAL</source>
+        <translation>A ordem da sua lista não pode valer por completo por causa de “%1” e de outras redes: elas não podem ser alteradas, e a prioridade delas não corresponde à posição delas na lista. Veja os nomes no registro.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_ORDER_OVERTAKEN</source>
+        <translation>“%1” não está na sua lista, mas é tentada antes de redes que estão: não há prioridade mais alta para elas. Adicione “%1” à sua lista para que ela tenha uma posição.</translation>
+    </message>
 </context>
 </TS>

@@ -1390,5 +1390,21 @@
         <source>IDS_WLAN_BUSY</source>
         <translation>Сеть «%1» не сохранена: другая программа меняет сети. Попробуйте ещё раз чуть позже.</translation>
     </message>
+    <message>
+        <source>IDS_WLAN_ORDER_TITLE</source>
+        <translation>Ваш список</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_ORDER_FIXED</source>
+        <translation>Порядок вашего списка не может действовать полностью из-за сети «%1»: её нельзя изменить, а её приоритет не подходит к её месту в списке. Остальные сети следуют списку.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_ORDER_SEVERAL</source>
+        <translation>Порядок вашего списка не может действовать полностью из-за «%1» и других сетей: их нельзя изменить, а их приоритет не подходит к их месту в списке. Названия есть в журнале.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_ORDER_OVERTAKEN</source>
+        <translation>Сети «%1» нет в списке, но она пробуется раньше сетей из списка: более высокого приоритета для них нет. Добавьте «%1» в список, чтобы у неё было место.</translation>
+    </message>
 </context>
 </TS>

@@ -1390,5 +1390,21 @@
         <source>IDS_WLAN_BUSY</source>
         <translation>“%1”未保存：另一个程序正在更改网络。请稍后重试。</translation>
     </message>
+    <message>
+        <source>IDS_WLAN_ORDER_TITLE</source>
+        <translation>您的列表</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_ORDER_FIXED</source>
+        <translation>由于“%1”，您的列表顺序无法完全生效：无法更改此网络，并且它的优先级与它在列表中的位置不符。其他网络按列表顺序。</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_ORDER_SEVERAL</source>
+        <translation>由于“%1”和其他网络，您的列表顺序无法完全生效：无法更改这些网络，并且它们的优先级与它们在列表中的位置不符。名称请查看日志。</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_ORDER_OVERTAKEN</source>
+        <translation>“%1”不在您的列表中，但会先于列表中的网络被尝试：没有更高的优先级可用于这些网络。请将“%1”添加到您的列表，为它指定位置。</translation>
+    </message>
 </context>
 </TS>

@@ -304,6 +304,9 @@ const Screens::Screen Screens::screens[] = {
     {"notice, not stored, file not usable", &Screens::ShowStoringNotice, "IDS_WLAN_FILE_UNUSABLE"},
     {"notice, not stored, file damaged", &Screens::ShowStoringNotice, "IDS_WLAN_FILE_DAMAGED"},
     {"notice, not stored, changed by another", &Screens::ShowStoringNotice, "IDS_WLAN_BUSY"},
+    {"notice, order, one can't be changed", &Screens::ShowStoringNotice, "IDS_WLAN_ORDER_FIXED"},
+    {"notice, order, several can't be changed", &Screens::ShowStoringNotice, "IDS_WLAN_ORDER_SEVERAL"},
+    {"notice, order, one outside comes first", &Screens::ShowStoringNotice, "IDS_WLAN_ORDER_OVERTAKEN"},
     {"connect dialog", &Screens::ShowConnect, nullptr},
     {"connect dialog, nothing in range", &Screens::ShowConnect, noNetworks},
     {"connect dialog, key asked for", &Screens::ShowConnecting, "key"},
@@ -654,7 +657,8 @@ void Screens::ShowNameNotice(const char *name)
 void Screens::ShowStoringNotice(const char *id)
 {
     OpenWindow(m_plugins.data());
-    CUserNotice notice;
+    const bool isOfTheOrder = QByteArray(id).startsWith("IDS_WLAN_ORDER_");
+    CUserNotice notice(isOfTheOrder ? "IDS_WLAN_ORDER_TITLE" : "IDS_WLAN_TITLE");
     const bool hasOther = QByteArray(id) == "IDS_WLAN_BETTER_PROFILE";
     notice.Tell(id, QLatin1String("Home"), hasOther ? QString(QLatin1String("Office")) : QString());
     QTimer::singleShot(0, this, SLOT(VisitMessage()));

@@ -7,7 +7,10 @@
 
 #include <QFile>
 #include <QPointer>
+#include <QWidget>
 #include <QtTest>
+
+#include <utility>
 
 namespace
 {
@@ -57,6 +60,10 @@ private slots:
     void PriorityThatSomebodyElseSetsMeanwhileIsRemembered();
     void MoveTakesFewCalls_data();
     void MoveTakesFewCalls();
+    void WhatKeepsTheListFromTakingEffectIsTold_data();
+    void WhatKeepsTheListFromTakingEffectIsTold();
+    void WhatWasToldIsToldAgainOnlyWhenItComesBack();
+    void WhatNobodySawIsToldInAWindow();
     void MobileBroadbandHasItsPlace();
     void ProfilesOfOneNameHaveOnePlace();
     void ProfilesOutsideTheListAreLeftAlone();
@@ -90,6 +97,9 @@ private:
     void Begin(const QString &entries);
     void SetList(const QString &entries) { Directory().Write("Priority.xml", ListOf(entries)); }
     QStringList Listed();
+    QString AddProfile(const QString &name, int priority, bool isChangeable = true);
+    /** Those since the last call. */
+    static QStringList Notices();
     bool IsBefore(const QString &first, const QString &second)
     {
         return Fake().PriorityOf(first) > Fake().PriorityOf(second);
@@ -126,6 +136,25 @@ QStringList tst_networkmanagerpriorities::Listed()
     QList<PriorityList> list;
     m_plugin.Priority()->GetPriorityList(&list);
     return AsTexts(list);
+}
+
+QString tst_networkmanagerpriorities::AddProfile(const QString &name, int priority, bool isChangeable)
+{
+    NMVariantMapMap settings = FakeNetworkManager::Settings(name);
+    settings["connection"]["autoconnect-priority"] = priority;
+    settings["connection"]["read-only"] = !isChangeable;
+    return Fake().AddProfile(settings);
+}
+
+QStringList tst_networkmanagerpriorities::Notices()
+{
+    QStringList texts;
+    for (const MessageCall &message : std::as_const(StandInHost::messages)) {
+        // The first sign tells the direction.
+        texts.append(message.text.mid(1));
+    }
+    StandInHost::messages.clear();
+    return texts;
 }
 
 void tst_networkmanagerpriorities::OrderIsWritten()
@@ -324,6 +353,73 @@ void tst_networkmanagerpriorities::MoveTakesFewCalls()
     Settle();
     QCOMPARE(Fake().CallCount("Update2"), 1);
     QVERIFY2(Fake().CallCount() <= 5, qPrintable(QString::number(Fake().CallCount())));
+}
+
+void tst_networkmanagerpriorities::WhatKeepsTheListFromTakingEffectIsTold_data()
+{
+    QTest::addColumn<QString>("list");
+    QTest::addColumn<QStringList>("notices");
+    QTest::addColumn<QString>("line");
+    QTest::newRow("one") << "Low High" << QStringList("WLAN?IDS_WLAN_ORDER_FIXED")
+                         << "\"High\" can't be changed, and its priority contradicts the list";
+    QTest::newRow("several") << "Low High Higher" << QStringList("WLAN?IDS_WLAN_ORDER_SEVERAL")
+                             << "\"Higher\" can't be changed, and its priority contradicts the list";
+    QTest::newRow("outside") << "Higher High Low" << QStringList("WLAN?IDS_WLAN_ORDER_OVERTAKEN")
+                             << "\"Top\" is not in the list and comes before entries of it: there are no "
+                                "greater priorities for these";
+    QTest::newRow("none") << "Top Higher High Low" << QStringList() << QString();
+}
+
+void tst_networkmanagerpriorities::WhatKeepsTheListFromTakingEffectIsTold()
+{
+    QFETCH(QString, list);
+    QFETCH(QString, line);
+    AddProfile("Low", 5, false);
+    AddProfile("High", 6, false);
+    AddProfile("Higher", 7, false);
+    if (!line.contains("changed")) {
+        AddProfile("Top", 999);
+        AddProfile("X", 0);
+        list += " X";
+    }
+    QWidget window;
+    window.show();
+    TraceCapture trace;
+    Begin(list);
+    QTEST(Notices(), "notices");
+    QCOMPARE(trace.Lines().filter("WLANNetworkManager: ").filter(line).isEmpty(), line.isEmpty());
+}
+
+void tst_networkmanagerpriorities::WhatWasToldIsToldAgainOnlyWhenItComesBack()
+{
+    AddProfile("Low", 5, false);
+    AddProfile("High", 6, false);
+    const QString x = AddProfile("X", 0);
+    QWidget window;
+    window.show();
+    Begin("Low High");
+    QCOMPARE(Notices().size(), 1);
+    SetList("Low High X");
+    QTRY_VERIFY(Fake().PriorityOf(x) > 0);
+    StartPluginAgain();
+    Settle();
+    QCOMPARE(Notices(), QStringList());
+    SetList("High Low");
+    QTRY_COMPARE(Fake().PriorityOf(x), 0);
+    SetList("Low High");
+    QTRY_COMPARE(StandInHost::messages.size(), 1);
+}
+
+void tst_networkmanagerpriorities::WhatNobodySawIsToldInAWindow()
+{
+    AddProfile("Low", 5, false);
+    AddProfile("High", 6, false);
+    Begin("Low High");
+    QCOMPARE(Notices(), QStringList());
+    QWidget window;
+    window.show();
+    StartPluginAgain();
+    QTRY_COMPARE(StandInHost::messages.size(), 1);
 }
 
 void tst_networkmanagerpriorities::MobileBroadbandHasItsPlace()

@@ -36,8 +36,8 @@ CPriorityKeeper::CPriorityKeeper(CNetworkManagerClient *client, CLivePicture *pi
                                  const QString &userDirectory, QObject *parent)
     : QObject(parent), m_client(client), m_picture(picture),
       m_listPath(userDirectory + QLatin1String("Priority.xml")), m_file(new FileWatcher(m_listPath, this)),
-      m_records(RecordsFile(userDirectory)), m_writer(client, nullptr), m_isWaiting(false),
-      m_isDueAgain(false)
+      m_records(RecordsFile(userDirectory)), m_notice("IDS_WLAN_ORDER_TITLE"), m_writer(client, nullptr),
+      m_isWaiting(false), m_isDueAgain(false)
 {
     m_pause.setSingleShot(true);
     m_pause.setInterval(pauseMilliseconds);
@@ -168,6 +168,18 @@ bool CPriorityKeeper::RaiseFirstConnections(const ConnectionPicture &picture, co
 void CPriorityKeeper::Write(const QList<NetworkProfile> &profiles, const QList<PriorityList> &list)
 {
     const PlannedPriorities planned = PriorityPlan::Make(list, profiles, &m_records.priorities);
+    Tell(planned);
+    // Saved first: a priority that was written and not recorded could never be told from somebody else's.
+    if (!m_records.Save()) {
+        Complain(QLatin1String(
+            "NetworkManager.ini can't be written: what this program has changed in NetworkManager "
+            "will be forgotten when it ends"));
+    }
+    m_writer.Start(planned.changes);
+}
+
+void CPriorityKeeper::Tell(const PlannedPriorities &planned)
+{
     for (const NetworkProfile &profile : planned.contradicting) {
         Complain(QString::fromLatin1("\"%1\" can't be changed, and its priority contradicts the list")
                      .arg(profile.name));
@@ -177,13 +189,34 @@ void CPriorityKeeper::Write(const QList<NetworkProfile> &profiles, const QList<P
                                      "greater priorities for these")
                      .arg(profile.name));
     }
-    // Saved first: a priority that was written and not recorded could never be told from somebody else's.
-    if (!m_records.Save()) {
-        Complain(QLatin1String(
-            "NetworkManager.ini can't be written: what this program has changed in NetworkManager "
-            "will be forgotten when it ends"));
+    const QSet<QString> told = m_records.told;
+    m_records.told.clear();
+    const QString fixed = FirstUntold(planned.contradicting, told);
+    const QString overtaking = FirstUntold(planned.overtaking, told);
+    if (!fixed.isNull()) {
+        m_notice.Tell(planned.contradicting.size() == 1 ? "IDS_WLAN_ORDER_FIXED" : "IDS_WLAN_ORDER_SEVERAL",
+                      fixed);
     }
-    m_writer.Start(planned.changes);
+    if (!overtaking.isNull()) {
+        m_notice.Tell("IDS_WLAN_ORDER_OVERTAKEN", overtaking);
+    }
+}
+
+QString CPriorityKeeper::FirstUntold(const QList<NetworkProfile> &profiles, const QSet<QString> &told)
+{
+    // Who is not told now is told when there is a window.
+    const bool hasAudience = CUserNotice::HasAudience();
+    QString first;
+    for (const NetworkProfile &profile : profiles) {
+        const bool isTold = told.contains(profile.uuid);
+        if (isTold || hasAudience) {
+            m_records.told.insert(profile.uuid);
+        }
+        if (!isTold && hasAudience && first.isNull()) {
+            first = profile.name;
+        }
+    }
+    return first;
 }
 
 void CPriorityKeeper::TakeResults()

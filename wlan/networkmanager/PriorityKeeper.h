@@ -6,9 +6,11 @@
 
 #include <ComplaintLog.h>
 #include <PriorityList.h>
+#include <UserNotice.h>
 
 #include <QList>
 #include <QObject>
+#include <QSet>
 #include <QTimer>
 
 class CLivePicture;
@@ -54,6 +56,9 @@ private:
     bool ReadList(QList<PriorityList> *list);
     bool RaiseFirstConnections(const ConnectionPicture &picture, const QList<PriorityList> &list);
     void Write(const QList<NetworkProfile> &profiles, const QList<PriorityList> &list);
+    void Tell(const PlannedPriorities &planned);
+    /** The name of the first profile that the user has not been told of, who is told of all of them now. */
+    QString FirstUntold(const QList<NetworkProfile> &profiles, const QSet<QString> &told);
     void Complain(const QString &text);
     void End();
 
@@ -64,6 +69,7 @@ private:
     CPriorityRecords m_records;
     CComplaintLog m_log{"WLANNetworkManager"};
     QStringList m_complaints;
+    CUserNotice m_notice;
     QTimer m_pause;
     CPriorityWriter m_writer;
     /** For the picture to be complete. */

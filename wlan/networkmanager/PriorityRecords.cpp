@@ -11,6 +11,11 @@ QString ConnectedKey()
     return QLatin1String("connected");
 }
 
+QString ToldKey()
+{
+    return QLatin1String("told");
+}
+
 QString PrioritiesGroup()
 {
     return QLatin1String("priorities");
@@ -28,6 +33,23 @@ bool ReadRecord(const QString &text, PriorityRecord *record)
     return isSound;
 }
 
+QSet<QString> ReadUuids(const QSettings &settings, const QString &key)
+{
+    QSet<QString> uuids;
+    const QStringList list = settings.value(key).toStringList();
+    for (const QString &uuid : list) {
+        uuids.insert(uuid);
+    }
+    return uuids;
+}
+
+void WriteUuids(const QSet<QString> &uuids, const QString &key, QSettings *settings)
+{
+    QStringList list = uuids.values();
+    list.sort();
+    settings->setValue(key, list);
+}
+
 } // namespace
 
 CPriorityRecords::CPriorityRecords(const QString &file) : m_file(file)
@@ -37,10 +59,8 @@ CPriorityRecords::CPriorityRecords(const QString &file) : m_file(file)
     }
     QSettings settings(m_file, QSettings::IniFormat);
     isConnectedKnown = settings.contains(ConnectedKey());
-    const QStringList uuids = settings.value(ConnectedKey()).toStringList();
-    for (int i = 0; i < uuids.size(); ++i) {
-        connected.insert(uuids.at(i));
-    }
+    connected = ReadUuids(settings, ConnectedKey());
+    told = ReadUuids(settings, ToldKey());
     settings.beginGroup(PrioritiesGroup());
     const QStringList keys = settings.childKeys();
     for (int i = 0; i < keys.size(); ++i) {
@@ -51,21 +71,21 @@ CPriorityRecords::CPriorityRecords(const QString &file) : m_file(file)
     }
     m_savedPriorities = priorities;
     m_savedConnected = connected;
+    m_savedTold = told;
     m_isConnectedSaved = isConnectedKnown;
 }
 
 bool CPriorityRecords::Save()
 {
     if (m_file.isEmpty() || (priorities == m_savedPriorities && connected == m_savedConnected &&
-                             isConnectedKnown == m_isConnectedSaved)) {
+                             told == m_savedTold && isConnectedKnown == m_isConnectedSaved)) {
         return true;
     }
     QSettings settings(m_file, QSettings::IniFormat);
     if (isConnectedKnown) {
-        QStringList uuids = connected.values();
-        uuids.sort();
-        settings.setValue(ConnectedKey(), uuids);
+        WriteUuids(connected, ConnectedKey(), &settings);
     }
+    WriteUuids(told, ToldKey(), &settings);
     settings.beginGroup(PrioritiesGroup());
     settings.remove(QString());
     for (QMap<QString, PriorityRecord>::const_iterator i = priorities.constBegin();
@@ -82,6 +102,7 @@ bool CPriorityRecords::Save()
     }
     m_savedPriorities = priorities;
     m_savedConnected = connected;
+    m_savedTold = told;
     m_isConnectedSaved = isConnectedKnown;
     return true;
 }

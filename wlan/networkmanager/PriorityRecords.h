@@ -22,8 +22,8 @@ struct PriorityRecord {
 
 /**
  * What has to outlive the program for it to tell its own work from that of others: the priorities that it
- * wrote and the profiles that it has known as connected. Profiles are named by their uuid; there is nothing
- * else in the file.
+ * wrote, the profiles that it has known as connected, and those that it has told of. Profiles are named by
+ * their uuid; there is nothing else in the file.
  */
 class CPriorityRecords
 {
@@ -37,6 +37,9 @@ public:
     bool isConnectedKnown = false;
     QSet<QString> connected;
 
+    /** Profiles of which the user has been told that they keep the list from taking full effect. */
+    QSet<QString> told;
+
     /** Writes the file if anything has changed; false when it can't be written. */
     bool Save();
 
@@ -46,6 +49,7 @@ private:
     const QString m_file;
     QMap<QString, PriorityRecord> m_savedPriorities;
     QSet<QString> m_savedConnected;
+    QSet<QString> m_savedTold;
     bool m_isConnectedSaved = false;
 };
 

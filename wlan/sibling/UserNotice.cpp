@@ -54,13 +54,18 @@ QWidget *WindowInFront()
 
 } // namespace
 
-CUserNotice::CUserNotice() : m_open(nullptr) {}
+CUserNotice::CUserNotice(const char *title) : m_title(title), m_open(nullptr) {}
 
 CUserNotice::~CUserNotice()
 {
     if (m_open) {
         m_open->reject();
     }
+}
+
+bool CUserNotice::HasAudience()
+{
+    return WindowInFront() != nullptr;
 }
 
 void CUserNotice::Tell(const char *id, const QString &name, const QString &other)
@@ -83,9 +88,8 @@ void CUserNotice::Show()
         text = notice.other.isNull() ? text.arg(InOwnDirection(notice.name))
                                      : text.arg(InOwnDirection(notice.name), InOwnDirection(notice.other));
         // This object may be gone when it returns.
-        CommonUtils::ShowMessage(QMessageBox::Information, window, Text("IDS_WLAN_TITLE"),
-                                 WithDirection(text), QLatin1String("IDS_OK"), QString::fromLatin1(""),
-                                 QString::fromLatin1(""), true, Qt::WindowCloseButtonHint, &m_open, QString(),
-                                 true);
+        CommonUtils::ShowMessage(QMessageBox::Information, window, Text(m_title), WithDirection(text),
+                                 QLatin1String("IDS_OK"), QString::fromLatin1(""), QString::fromLatin1(""),
+                                 true, Qt::WindowCloseButtonHint, &m_open, QString(), true);
     }
 }

@@ -8,7 +8,8 @@
 class QDialog;
 
 /**
- * Tells the user, through the host, what became of an order that its caller doesn't ask about.
+ * Tells the user, through the host, what became of an order that its caller doesn't ask about, or of the
+ * list.
  *
  * The order comes from a dialog that goes on as if all had gone well. A notice in the middle of that would
  * run an event loop in which the dialog can be deleted; so it is shown when the caller is back in its event
@@ -19,10 +20,14 @@ class CUserNotice : public QObject
     Q_OBJECT
 
 public:
-    CUserNotice();
+    /** @param title  the id of the notices' title, in the context "WLAN". */
+    explicit CUserNotice(const char *title = "IDS_WLAN_TITLE");
 
     /** Closes the notice that is open and drops those that wait. */
     ~CUserNotice() override;
+
+    /** Whether a notice would be seen now. */
+    static bool HasAudience();
 
     /**
      * @param id     of a text in the context "WLAN".
@@ -43,6 +48,7 @@ private:
         QString other;
     };
 
+    const char *const m_title;
     QList<Notice> m_waiting;
     QDialog *m_open;
 };
