@@ -95,6 +95,7 @@ private slots:
     void ProfileMadeInTheDialogAppearsInNmcli();
     void EntriesWithoutAProfileTakeNoPriority();
     void NothingButThePriorityIsWritten();
+    void KeyThatTheDesktopKeepsStaysThere();
     void EditsOfAnotherProgramSurviveChangesOfTheList();
     void KilledNetworkManagerIsToldAndTheNextOneUsed();
     void AddDialogOutlivesAKilledNetworkManager();
@@ -345,6 +346,17 @@ void tst_networkmanagerdaemon::NothingButThePriorityIsWritten()
     SetList(QStringList());
     QTRY_COMPARE(NetworkManagerDaemon::Priorities(), QStringList("A:0"));
     QCOMPARE(m_daemon->Keyfile("A"), before);
+}
+
+void tst_networkmanagerdaemon::KeyThatTheDesktopKeepsStaysThere()
+{
+    QVERIFY(
+        NetworkManagerDaemon::Add("A", QString("wifi-sec.key-mgmt|wpa-psk|wifi-sec.psk-flags|1").split('|')));
+    const QByteArray before = m_daemon->Keyfile("A");
+    QVERIFY(before.contains("psk-flags=1"));
+    SetList(QStringList("A"));
+    QTRY_COMPARE(NetworkManagerDaemon::Priorities(), QStringList("A:500"));
+    QCOMPARE(OtherLines(m_daemon->Keyfile("A")), OtherLines(before));
 }
 
 void tst_networkmanagerdaemon::EditsOfAnotherProgramSurviveChangesOfTheList()

@@ -93,7 +93,7 @@ void CPriorityWriter::TakeSettings()
 {
     // The word of a change may have arrived with the settings.
     QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
-    const QDBusMessage reply = m_batch->Replies().first();
+    const QDBusMessage reply = m_batch->Replies().at(0);
     const NetworkManagerResult result = ResultOf(reply, NetworkProfile::Signature());
     m_client->Note(result);
     if (result != NetworkManagerResultSuccess) {
@@ -115,7 +115,7 @@ void CPriorityWriter::TakeSettings()
 void CPriorityWriter::TakeReply()
 {
     m_isSent = false;
-    Note(ResultOf(m_batch->Replies().first(), ProfileUpdate::signature));
+    Note(ResultOf(m_batch->Replies().at(0), ProfileUpdate::signature));
 }
 
 void CPriorityWriter::TakeUpdate(const QDBusMessage &signal)
