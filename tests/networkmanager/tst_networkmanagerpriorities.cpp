@@ -55,7 +55,8 @@ private slots:
     void ChangeBySomebodyElseInTheMiddleIsReadFirst();
     void ChangeBySomebodyElseSurvives_data();
     void ChangeBySomebodyElseSurvives();
-    void ProfileThatIsBeingChangedIsLeftUntilItRests();
+    void ProfileWithoutVersionsIsLeftUntilItRests_data();
+    void ProfileWithoutVersionsIsLeftUntilItRests();
     void WriteIsBoundToTheVersionThatIsKnown();
     void PriorityThatSomebodyElseSetsMeanwhileIsRemembered();
     void MoveTakesFewCalls_data();
@@ -289,16 +290,25 @@ void tst_networkmanagerpriorities::ChangeBySomebodyElseSurvives()
     QCOMPARE(Fake().SettingsOf(a)["connection"].value("metered").toInt(), 2);
 }
 
-void tst_networkmanagerpriorities::ProfileThatIsBeingChangedIsLeftUntilItRests()
+void tst_networkmanagerpriorities::ProfileWithoutVersionsIsLeftUntilItRests_data()
 {
+    ChangeBySomebodyElseSurvives_data();
+}
+
+void tst_networkmanagerpriorities::ProfileWithoutVersionsIsLeftUntilItRests()
+{
+    QFETCH(bool, hasVersions);
     const QString a = Fake().AddProfile("A");
+    if (hasVersions) {
+        Fake().SetProperty(a, profileInterface, "VersionId", qulonglong(7));
+    }
     Begin(QString());
     SetList("A");
     for (int i = 1; i <= 20; ++i) {
         Fake().SetSetting(a, "connection", "metered", i % 2);
         QTest::qWait(50);
     }
-    QCOMPARE(Fake().CallCount("Update2"), 0);
+    QCOMPARE(Fake().PriorityOf(a), hasVersions ? alone : 0);
     QTRY_COMPARE(Fake().PriorityOf(a), alone);
 }
 
@@ -321,6 +331,8 @@ void tst_networkmanagerpriorities::PriorityThatSomebodyElseSetsMeanwhileIsRememb
     SetList("A B");
     QTRY_COMPARE(Fake().CallCount("Update2"), 1);
     Fake().SetSetting(b, "connection", "autoconnect-priority", 900);
+    // Its turn comes when it has rested.
+    Settle();
     Fake().Hold(QString());
     Fake().Release();
     QTRY_VERIFY(IsBefore(a, b));
