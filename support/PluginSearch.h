@@ -2,11 +2,14 @@
 #define PLUGINSEARCH_H
 
 #include <ContractNumbers.h>
-
-class QObject;
+#include <Startup.h>
 
 /** The object that the host's container knows for the class id and the number, or null. It belongs to its
  * plug-in: look for it each time. */
-QObject *FindPluginObject(const char *classId, InterfaceNumber number);
+inline QObject *FindPluginObject(const char *classId, InterfaceNumber number)
+{
+    IPluginContainer *container = Startup::GetPluginContainer();
+    return container ? container->GetPluginObject(QLatin1String(classId), number) : nullptr;
+}
 
 #endif

@@ -1,9 +1,0 @@
-#include "PluginSearch.h"
-
-#include <Startup.h>
-
-QObject *FindPluginObject(const char *classId, InterfaceNumber number)
-{
-    IPluginContainer *container = Startup::GetPluginContainer();
-    return container ? container->GetPluginObject(QLatin1String(classId), number) : nullptr;
-}
