@@ -100,7 +100,8 @@ struct ConnectionState {
     int wifi = RadioNotKnown;
     int mobile = RadioNotKnown;
     int connectivity = ConnectivityNotKnown;
-    /** The user may connect and disconnect without a password. */
+    /** The user may connect and disconnect, where need be after a password that the connection manager asks
+     * for. */
     bool mayConnect = false;
 };
 

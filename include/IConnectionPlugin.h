@@ -42,7 +42,7 @@ public:
         RefusedUnknown = -1,
         /** The connection manager is not known now. */
         RefusedSource = -2,
-        /** This user may not do it, or only with a password. */
+        /** This user may not do it, not even with a password. */
         RefusedNotAllowed = -3,
         /** A key is needed, or what was given can't be a key of that network. */
         RefusedKey = -4,

@@ -64,6 +64,7 @@ private slots:
     void FailureIsForgottenOnceItIsConnected();
     void OrderIsRefused_data();
     void OrderIsRefused();
+    void PasswordIsLeftToNetworkManagerToAskFor();
     void ErrorOfTheOrderIsTold_data();
     void ErrorOfTheOrderIsTold();
     void CancelledOrderEnds();
@@ -488,8 +489,7 @@ void tst_networkmanagerconnections::OrderIsRefused_data()
     QTest::addColumn<int>("refusal");
     QTest::newRow("nothing of that id") << "unknown" << int(IConnectionPlugin::RefusedUnknown);
     QTest::newRow("gone") << "gone" << int(IConnectionPlugin::RefusedSource);
-    QTest::newRow("with a password") << "auth" << int(IConnectionPlugin::RefusedNotAllowed);
-    QTest::newRow("never") << "no" << int(IConnectionPlugin::RefusedNotAllowed);
+    QTest::newRow("not allowed") << "no" << int(IConnectionPlugin::RefusedNotAllowed);
 }
 
 void tst_networkmanagerconnections::OrderIsRefused()
@@ -517,6 +517,17 @@ void tst_networkmanagerconnections::OrderIsRefused()
     Fake().Settle();
     QCOMPARE(Fake().CallCount("ActivateConnection"), 0);
     QCOMPARE(Fake().CallCount("DeactivateConnection"), 0);
+}
+
+void tst_networkmanagerconnections::PasswordIsLeftToNetworkManagerToAskFor()
+{
+    Fake().AddDevice();
+    Fake().AddAccessPoint("net", 40);
+    const QString profile = AddProfile("Office", "net");
+    Fake().SetRight(networkControl, "auth");
+    QTRY_VERIFY(LoadedWLAN::State().mayConnect);
+    QVERIFY(LoadedWLAN::Connections()->ConnectProfile(profile) > 0);
+    QTRY_COMPARE(Fake().CallCount("ActivateConnection"), 1);
 }
 
 void tst_networkmanagerconnections::ErrorOfTheOrderIsTold_data()

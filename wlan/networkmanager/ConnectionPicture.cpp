@@ -88,7 +88,7 @@ ConnectionState StateOf(const ConnectionPicture &picture)
         state.wifi = RadioOf(picture.state.wifi, HasDevice(picture.state, NetworkDevice::Wifi));
         state.mobile = RadioOf(picture.state.mobile, HasDevice(picture.state, NetworkDevice::Modem));
         state.connectivity = ConnectivityOf(picture.state.connectivity);
-        state.mayConnect = picture.rights.control == CallerRights::Allowed;
+        state.mayConnect = picture.rights.control != CallerRights::Denied;
     }
     return state;
 }
