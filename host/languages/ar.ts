@@ -225,10 +225,6 @@
         <translation>الشبكة</translation>
     </message>
     <message>
-        <source>IDS_CONNECT_SIGNAL</source>
-        <translation>الإشارة</translation>
-    </message>
-    <message>
         <source>IDS_CONNECT_PERCENT</source>
         <translation>%1٪</translation>
     </message>
@@ -239,11 +235,6 @@
     <message>
         <source>IDS_CONNECT_NONE</source>
         <translation>لا توجد شبكة ضمن النطاق. عندما توجد واحدة ستظهر هنا.</translation>
-    </message>
-    <message>
-        <source>IDS_CONNECT_SECURITY</source>
-        <extracomment>Heads a column of what networks in range ask for</extracomment>
-        <translation>الأمن</translation>
     </message>
     <message>
         <source>IDS_PROTECTION_OPEN</source>
@@ -269,6 +260,18 @@
         <translation>محفوظة</translation>
     </message>
     <message>
+        <source>IDS_CONNECT_PLACE</source>
+        <translation>الموضع %1</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_LISTED</source>
+        <translation>في قائمتك</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_OTHERS</source>
+        <translation>شبكات أخرى ضمن النطاق</translation>
+    </message>
+    <message>
         <source>IDS_CONNECT_KEY</source>
         <extracomment>Label of a field. %1: a network</extracomment>
         <translation>مفتاح %1</translation>
@@ -291,6 +294,10 @@
         <source>IDS_CONNECT_STOP</source>
         <extracomment>Button, in the place of Cancel while a network is being connected</extracomment>
         <translation>إيقاف</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_LONG</source>
+        <translation>يستغرق ذلك وقتًا أطول من المعتاد.</translation>
     </message>
     <message>
         <source>IDS_CONNECT_NOT_SAVED</source>
@@ -673,6 +680,10 @@
     <message>
         <source>IDS_TRIED_KEY</source>
         <translation>رُفض المفتاح. الأحرف الكبيرة والصغيرة تختلف.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_SAVED_KEY</source>
+        <translation>رُفض المفتاح المحفوظ. يمكن تغييره في إعدادات الشبكة، فافتح الإعدادات في سطح المكتب.</translation>
     </message>
     <message>
         <source>IDS_TRIED_NO_KEY</source>

@@ -225,10 +225,6 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
         <translation>Netzwerk</translation>
     </message>
     <message>
-        <source>IDS_CONNECT_SIGNAL</source>
-        <translation>Signalstärke</translation>
-    </message>
-    <message>
         <source>IDS_CONNECT_PERCENT</source>
         <translation>%1&#xa0;%</translation>
     </message>
@@ -239,11 +235,6 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
     <message>
         <source>IDS_CONNECT_NONE</source>
         <translation>Kein Netzwerk ist in Reichweite. Sobald eines da ist, erscheint es hier.</translation>
-    </message>
-    <message>
-        <source>IDS_CONNECT_SECURITY</source>
-        <extracomment>Heads a column of what networks in range ask for</extracomment>
-        <translation>Sicherheit</translation>
     </message>
     <message>
         <source>IDS_PROTECTION_OPEN</source>
@@ -269,6 +260,18 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
         <translation>Gespeichert</translation>
     </message>
     <message>
+        <source>IDS_CONNECT_PLACE</source>
+        <translation>Platz %1</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_LISTED</source>
+        <translation>In Ihrer Liste</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_OTHERS</source>
+        <translation>Andere Netzwerke in Reichweite</translation>
+    </message>
+    <message>
         <source>IDS_CONNECT_KEY</source>
         <extracomment>Label of a field. %1: a network</extracomment>
         <translation>Schlüssel von %1</translation>
@@ -291,6 +294,10 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
         <source>IDS_CONNECT_STOP</source>
         <extracomment>Button, in the place of Cancel while a network is being connected</extracomment>
         <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_LONG</source>
+        <translation>Das dauert länger als gewöhnlich.</translation>
     </message>
     <message>
         <source>IDS_CONNECT_NOT_SAVED</source>
@@ -673,6 +680,10 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
     <message>
         <source>IDS_TRIED_KEY</source>
         <translation>Der Schlüssel wurde abgelehnt. Groß- und Kleinschreibung zählt.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_SAVED_KEY</source>
+        <translation>Der gespeicherte Schlüssel wurde abgelehnt. Er lässt sich in den Einstellungen Ihres Desktops für Netzwerke ändern.</translation>
     </message>
     <message>
         <source>IDS_TRIED_NO_KEY</source>

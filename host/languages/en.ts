@@ -248,10 +248,6 @@ You can use letters, digits and these symbols:
         <translation>Network</translation>
     </message>
     <message>
-        <source>IDS_CONNECT_SIGNAL</source>
-        <translation>Signal</translation>
-    </message>
-    <message>
         <source>IDS_CONNECT_PERCENT</source>
         <extracomment>Signal strength, as this language writes percentages</extracomment>
         <translation>%1%</translation>
@@ -263,11 +259,6 @@ You can use letters, digits and these symbols:
     <message>
         <source>IDS_CONNECT_NONE</source>
         <translation>No network is in range. When there is one, it appears here.</translation>
-    </message>
-    <message>
-        <source>IDS_CONNECT_SECURITY</source>
-        <extracomment>Heads a column of what networks in range ask for</extracomment>
-        <translation>Security</translation>
     </message>
     <message>
         <source>IDS_PROTECTION_OPEN</source>
@@ -293,6 +284,21 @@ You can use letters, digits and these symbols:
         <translation>Saved</translation>
     </message>
     <message>
+        <source>IDS_CONNECT_PLACE</source>
+        <extracomment>Behind what a network in range asks for. %1: its place in the list</extracomment>
+        <translation>Place %1</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_LISTED</source>
+        <extracomment>Above the networks in range that are in the list</extracomment>
+        <translation>In your list</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_OTHERS</source>
+        <extracomment>Above the networks in range that are not in the list</extracomment>
+        <translation>Other networks in range</translation>
+    </message>
+    <message>
         <source>IDS_CONNECT_KEY</source>
         <extracomment>Label of a field. %1: a network</extracomment>
         <translation>Key of %1</translation>
@@ -315,6 +321,11 @@ You can use letters, digits and these symbols:
         <source>IDS_CONNECT_STOP</source>
         <extracomment>Button, in the place of Cancel while a network is being connected</extracomment>
         <translation>Stop</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_LONG</source>
+        <extracomment>While a network is being connected</extracomment>
+        <translation>This takes longer than usual.</translation>
     </message>
     <message>
         <source>IDS_CONNECT_NOT_SAVED</source>
@@ -701,6 +712,10 @@ You can use letters, digits and these symbols:
         <source>IDS_TRIED_KEY</source>
         <extracomment>These follow "was not connected", right after the attempt</extracomment>
         <translation>The key was refused. Upper and lower case count.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_SAVED_KEY</source>
+        <translation>The saved key was refused. You can change it in the network settings of your desktop.</translation>
     </message>
     <message>
         <source>IDS_TRIED_NO_KEY</source>

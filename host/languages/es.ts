@@ -225,10 +225,6 @@ Puede usar letras, números y estos símbolos:
         <translation>Red</translation>
     </message>
     <message>
-        <source>IDS_CONNECT_SIGNAL</source>
-        <translation>Señal</translation>
-    </message>
-    <message>
         <source>IDS_CONNECT_PERCENT</source>
         <translation>%1&#xa0;%</translation>
     </message>
@@ -239,11 +235,6 @@ Puede usar letras, números y estos símbolos:
     <message>
         <source>IDS_CONNECT_NONE</source>
         <translation>No hay ninguna red al alcance. Cuando haya una, aparecerá aquí.</translation>
-    </message>
-    <message>
-        <source>IDS_CONNECT_SECURITY</source>
-        <extracomment>Heads a column of what networks in range ask for</extracomment>
-        <translation>Seguridad</translation>
     </message>
     <message>
         <source>IDS_PROTECTION_OPEN</source>
@@ -269,6 +260,18 @@ Puede usar letras, números y estos símbolos:
         <translation>Guardada</translation>
     </message>
     <message>
+        <source>IDS_CONNECT_PLACE</source>
+        <translation>Puesto %1</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_LISTED</source>
+        <translation>En su lista</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_OTHERS</source>
+        <translation>Otras redes al alcance</translation>
+    </message>
+    <message>
         <source>IDS_CONNECT_KEY</source>
         <extracomment>Label of a field. %1: a network</extracomment>
         <translation>Clave de %1</translation>
@@ -291,6 +294,10 @@ Puede usar letras, números y estos símbolos:
         <source>IDS_CONNECT_STOP</source>
         <extracomment>Button, in the place of Cancel while a network is being connected</extracomment>
         <translation>Detener</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_LONG</source>
+        <translation>Tarda más de lo habitual.</translation>
     </message>
     <message>
         <source>IDS_CONNECT_NOT_SAVED</source>
@@ -673,6 +680,10 @@ Puede usar letras, números y estos símbolos:
     <message>
         <source>IDS_TRIED_KEY</source>
         <translation>Se rechazó la clave. Las mayúsculas y minúsculas cuentan.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_SAVED_KEY</source>
+        <translation>Se rechazó la clave guardada. Puede cambiarla en la configuración de red de su escritorio.</translation>
     </message>
     <message>
         <source>IDS_TRIED_NO_KEY</source>

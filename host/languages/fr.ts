@@ -225,10 +225,6 @@ Vous pouvez utiliser des lettres, des chiffres et les symboles suivants&#xa0;:
         <translation>Réseau</translation>
     </message>
     <message>
-        <source>IDS_CONNECT_SIGNAL</source>
-        <translation>Signal</translation>
-    </message>
-    <message>
         <source>IDS_CONNECT_PERCENT</source>
         <translation>%1&#x202f;%</translation>
     </message>
@@ -239,11 +235,6 @@ Vous pouvez utiliser des lettres, des chiffres et les symboles suivants&#xa0;:
     <message>
         <source>IDS_CONNECT_NONE</source>
         <translation>Aucun réseau n’est à portée. Dès qu’il y en aura un, il apparaîtra ici.</translation>
-    </message>
-    <message>
-        <source>IDS_CONNECT_SECURITY</source>
-        <extracomment>Heads a column of what networks in range ask for</extracomment>
-        <translation>Sécurité</translation>
     </message>
     <message>
         <source>IDS_PROTECTION_OPEN</source>
@@ -269,6 +260,18 @@ Vous pouvez utiliser des lettres, des chiffres et les symboles suivants&#xa0;:
         <translation>Enregistré</translation>
     </message>
     <message>
+        <source>IDS_CONNECT_PLACE</source>
+        <translation>Rang %1</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_LISTED</source>
+        <translation>Dans votre liste</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_OTHERS</source>
+        <translation>Autres réseaux à portée</translation>
+    </message>
+    <message>
         <source>IDS_CONNECT_KEY</source>
         <extracomment>Label of a field. %1: a network</extracomment>
         <translation>Clé de %1</translation>
@@ -291,6 +294,10 @@ Vous pouvez utiliser des lettres, des chiffres et les symboles suivants&#xa0;:
         <source>IDS_CONNECT_STOP</source>
         <extracomment>Button, in the place of Cancel while a network is being connected</extracomment>
         <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_LONG</source>
+        <translation>Cela prend plus de temps que d’habitude.</translation>
     </message>
     <message>
         <source>IDS_CONNECT_NOT_SAVED</source>
@@ -673,6 +680,10 @@ Vous pouvez utiliser des lettres, des chiffres et les symboles suivants&#xa0;:
     <message>
         <source>IDS_TRIED_KEY</source>
         <translation>La clé a été refusée. Les majuscules et les minuscules comptent.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_SAVED_KEY</source>
+        <translation>La clé enregistrée a été refusée. Vous pouvez la modifier dans les paramètres réseau de votre bureau.</translation>
     </message>
     <message>
         <source>IDS_TRIED_NO_KEY</source>

@@ -225,10 +225,6 @@
         <translation>רשת</translation>
     </message>
     <message>
-        <source>IDS_CONNECT_SIGNAL</source>
-        <translation>עוצמת אות</translation>
-    </message>
-    <message>
         <source>IDS_CONNECT_PERCENT</source>
         <translation>%1%</translation>
     </message>
@@ -239,11 +235,6 @@
     <message>
         <source>IDS_CONNECT_NONE</source>
         <translation>אין רשת בטווח. כשתהיה אחת, היא תופיע כאן.</translation>
-    </message>
-    <message>
-        <source>IDS_CONNECT_SECURITY</source>
-        <extracomment>Heads a column of what networks in range ask for</extracomment>
-        <translation>אבטחה</translation>
     </message>
     <message>
         <source>IDS_PROTECTION_OPEN</source>
@@ -269,6 +260,18 @@
         <translation>שמורה</translation>
     </message>
     <message>
+        <source>IDS_CONNECT_PLACE</source>
+        <translation>מקום %1</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_LISTED</source>
+        <translation>ברשימה שלך</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_OTHERS</source>
+        <translation>רשתות אחרות בטווח</translation>
+    </message>
+    <message>
         <source>IDS_CONNECT_KEY</source>
         <extracomment>Label of a field. %1: a network</extracomment>
         <translation>המפתח של %1</translation>
@@ -291,6 +294,10 @@
         <source>IDS_CONNECT_STOP</source>
         <extracomment>Button, in the place of Cancel while a network is being connected</extracomment>
         <translation>עצירה</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_LONG</source>
+        <translation>זה נמשך יותר מהרגיל.</translation>
     </message>
     <message>
         <source>IDS_CONNECT_NOT_SAVED</source>
@@ -673,6 +680,10 @@
     <message>
         <source>IDS_TRIED_KEY</source>
         <translation>המפתח נדחה. יש הבדל בין אותיות גדולות לקטנות.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_SAVED_KEY</source>
+        <translation>המפתח השמור נדחה. אפשר לשנות אותו בהגדרות הרשת של שולחן העבודה.</translation>
     </message>
     <message>
         <source>IDS_TRIED_NO_KEY</source>

@@ -225,10 +225,6 @@
         <translation>ネットワーク</translation>
     </message>
     <message>
-        <source>IDS_CONNECT_SIGNAL</source>
-        <translation>電波強度</translation>
-    </message>
-    <message>
         <source>IDS_CONNECT_PERCENT</source>
         <translation>%1%</translation>
     </message>
@@ -239,11 +235,6 @@
     <message>
         <source>IDS_CONNECT_NONE</source>
         <translation>圏内にネットワークがありません。見つかると、ここに表示されます。</translation>
-    </message>
-    <message>
-        <source>IDS_CONNECT_SECURITY</source>
-        <extracomment>Heads a column of what networks in range ask for</extracomment>
-        <translation>セキュリティ</translation>
     </message>
     <message>
         <source>IDS_PROTECTION_OPEN</source>
@@ -269,6 +260,18 @@
         <translation>登録済み</translation>
     </message>
     <message>
+        <source>IDS_CONNECT_PLACE</source>
+        <translation>順位 %1</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_LISTED</source>
+        <translation>リストにあるもの</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_OTHERS</source>
+        <translation>圏内のその他のネットワーク</translation>
+    </message>
+    <message>
         <source>IDS_CONNECT_KEY</source>
         <extracomment>Label of a field. %1: a network</extracomment>
         <translation>%1 のキー</translation>
@@ -291,6 +294,10 @@
         <source>IDS_CONNECT_STOP</source>
         <extracomment>Button, in the place of Cancel while a network is being connected</extracomment>
         <translation>停止</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_LONG</source>
+        <translation>いつもより時間がかかっています。</translation>
     </message>
     <message>
         <source>IDS_CONNECT_NOT_SAVED</source>
@@ -673,6 +680,10 @@
     <message>
         <source>IDS_TRIED_KEY</source>
         <translation>キーが拒否されました。大文字と小文字は区別されます。</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_SAVED_KEY</source>
+        <translation>登録されているキーが拒否されました。デスクトップのネットワーク設定で変更できます。</translation>
     </message>
     <message>
         <source>IDS_TRIED_NO_KEY</source>

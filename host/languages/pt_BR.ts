@@ -225,10 +225,6 @@ Você pode usar letras, números e estes símbolos:
         <translation>Rede</translation>
     </message>
     <message>
-        <source>IDS_CONNECT_SIGNAL</source>
-        <translation>Sinal</translation>
-    </message>
-    <message>
         <source>IDS_CONNECT_PERCENT</source>
         <translation>%1%</translation>
     </message>
@@ -239,11 +235,6 @@ Você pode usar letras, números e estes símbolos:
     <message>
         <source>IDS_CONNECT_NONE</source>
         <translation>Nenhuma rede está ao alcance. Quando houver uma, ela aparecerá aqui.</translation>
-    </message>
-    <message>
-        <source>IDS_CONNECT_SECURITY</source>
-        <extracomment>Heads a column of what networks in range ask for</extracomment>
-        <translation>Segurança</translation>
     </message>
     <message>
         <source>IDS_PROTECTION_OPEN</source>
@@ -269,6 +260,18 @@ Você pode usar letras, números e estes símbolos:
         <translation>Salva</translation>
     </message>
     <message>
+        <source>IDS_CONNECT_PLACE</source>
+        <translation>Posição %1</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_LISTED</source>
+        <translation>Na sua lista</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_OTHERS</source>
+        <translation>Outras redes ao alcance</translation>
+    </message>
+    <message>
         <source>IDS_CONNECT_KEY</source>
         <extracomment>Label of a field. %1: a network</extracomment>
         <translation>Chave de %1</translation>
@@ -291,6 +294,10 @@ Você pode usar letras, números e estes símbolos:
         <source>IDS_CONNECT_STOP</source>
         <extracomment>Button, in the place of Cancel while a network is being connected</extracomment>
         <translation>Parar</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_LONG</source>
+        <translation>Está demorando mais que o normal.</translation>
     </message>
     <message>
         <source>IDS_CONNECT_NOT_SAVED</source>
@@ -673,6 +680,10 @@ Você pode usar letras, números e estes símbolos:
     <message>
         <source>IDS_TRIED_KEY</source>
         <translation>A chave foi recusada. Maiúsculas e minúsculas contam.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_SAVED_KEY</source>
+        <translation>A chave salva foi recusada. É possível alterá-la nas configurações de rede da sua área de trabalho.</translation>
     </message>
     <message>
         <source>IDS_TRIED_NO_KEY</source>

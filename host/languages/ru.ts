@@ -225,10 +225,6 @@
         <translation>Сеть</translation>
     </message>
     <message>
-        <source>IDS_CONNECT_SIGNAL</source>
-        <translation>Сигнал</translation>
-    </message>
-    <message>
         <source>IDS_CONNECT_PERCENT</source>
         <translation>%1&#xa0;%</translation>
     </message>
@@ -239,11 +235,6 @@
     <message>
         <source>IDS_CONNECT_NONE</source>
         <translation>Нет сетей в зоне действия. Как только такая сеть появится, она будет показана здесь.</translation>
-    </message>
-    <message>
-        <source>IDS_CONNECT_SECURITY</source>
-        <extracomment>Heads a column of what networks in range ask for</extracomment>
-        <translation>Защита</translation>
     </message>
     <message>
         <source>IDS_PROTECTION_OPEN</source>
@@ -269,6 +260,18 @@
         <translation>Сохранена</translation>
     </message>
     <message>
+        <source>IDS_CONNECT_PLACE</source>
+        <translation>Место %1</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_LISTED</source>
+        <translation>В вашем списке</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_OTHERS</source>
+        <translation>Другие сети в зоне действия</translation>
+    </message>
+    <message>
         <source>IDS_CONNECT_KEY</source>
         <extracomment>Label of a field. %1: a network</extracomment>
         <translation>Ключ сети %1</translation>
@@ -291,6 +294,10 @@
         <source>IDS_CONNECT_STOP</source>
         <extracomment>Button, in the place of Cancel while a network is being connected</extracomment>
         <translation>Остановить</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_LONG</source>
+        <translation>Это длится дольше обычного.</translation>
     </message>
     <message>
         <source>IDS_CONNECT_NOT_SAVED</source>
@@ -673,6 +680,10 @@
     <message>
         <source>IDS_TRIED_KEY</source>
         <translation>Ключ не был принят. Прописные и строчные буквы различаются.</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_SAVED_KEY</source>
+        <translation>Сохранённый ключ не был принят. Его можно изменить в настройках сети рабочего стола.</translation>
     </message>
     <message>
         <source>IDS_TRIED_NO_KEY</source>

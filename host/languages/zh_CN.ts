@@ -225,10 +225,6 @@
         <translation>网络</translation>
     </message>
     <message>
-        <source>IDS_CONNECT_SIGNAL</source>
-        <translation>信号强度</translation>
-    </message>
-    <message>
         <source>IDS_CONNECT_PERCENT</source>
         <translation>%1%</translation>
     </message>
@@ -239,11 +235,6 @@
     <message>
         <source>IDS_CONNECT_NONE</source>
         <translation>没有网络在信号范围内。一旦有网络，就会显示在这里。</translation>
-    </message>
-    <message>
-        <source>IDS_CONNECT_SECURITY</source>
-        <extracomment>Heads a column of what networks in range ask for</extracomment>
-        <translation>安全</translation>
     </message>
     <message>
         <source>IDS_PROTECTION_OPEN</source>
@@ -269,6 +260,18 @@
         <translation>已保存</translation>
     </message>
     <message>
+        <source>IDS_CONNECT_PLACE</source>
+        <translation>位置 %1</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_LISTED</source>
+        <translation>在您的列表中</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_OTHERS</source>
+        <translation>信号范围内的其他网络</translation>
+    </message>
+    <message>
         <source>IDS_CONNECT_KEY</source>
         <extracomment>Label of a field. %1: a network</extracomment>
         <translation>%1 的密钥</translation>
@@ -291,6 +294,10 @@
         <source>IDS_CONNECT_STOP</source>
         <extracomment>Button, in the place of Cancel while a network is being connected</extracomment>
         <translation>停止</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_LONG</source>
+        <translation>所需时间比平时长。</translation>
     </message>
     <message>
         <source>IDS_CONNECT_NOT_SAVED</source>
@@ -673,6 +680,10 @@
     <message>
         <source>IDS_TRIED_KEY</source>
         <translation>密钥被拒绝。请注意区分大小写。</translation>
+    </message>
+    <message>
+        <source>IDS_TRIED_SAVED_KEY</source>
+        <translation>已保存的密钥被拒绝。可以在桌面的网络设置中更改。</translation>
     </message>
     <message>
         <source>IDS_TRIED_NO_KEY</source>
@@ -1269,7 +1280,7 @@
     </message>
     <message>
         <source>IDS_HEAD_CONNECT_HINT</source>
-        <translation>“连接…”可显示信号范围内的其他网络。</translation>
+        <translation>“连接…”可显示信号信号范围内的其他网络。</translation>
     </message>
     <message>
         <source>IDS_WHY_OUT_OF_RANGE</source>

@@ -1,11 +1,11 @@
 #include "UserActions.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPointer>
-#include <QTableWidget>
 #include <QtTest>
 
 namespace
@@ -93,14 +93,14 @@ QString UserActions::Click(QWidget *widget)
     return ClickAt(widget, widget->rect().center());
 }
 
-QString UserActions::ClickRow(QTableWidget *table, int row)
+QString UserActions::ClickRow(QAbstractItemView *view, int row)
 {
-    if (row < 0 || row >= table->rowCount()) {
-        return QString::fromLatin1("%1 has no row %2").arg(NameOf(table)).arg(row + 1);
+    if (row < 0 || row >= view->model()->rowCount()) {
+        return QString::fromLatin1("%1 has no row %2").arg(NameOf(view)).arg(row + 1);
     }
-    const QModelIndex index = table->model()->index(row, 0);
-    table->scrollTo(index);
-    return ClickAt(table->viewport(), table->visualRect(index).center());
+    const QModelIndex index = view->model()->index(row, 0);
+    view->scrollTo(index);
+    return ClickAt(view->viewport(), view->visualRect(index).center());
 }
 
 QString UserActions::ChooseFromMenu(QMenu *menu, QAction *action)

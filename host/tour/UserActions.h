@@ -6,7 +6,7 @@
 
 class QAction;
 class QMenu;
-class QTableWidget;
+class QAbstractItemView;
 class QWidget;
 
 /**
@@ -17,7 +17,7 @@ namespace UserActions
 {
 
 QString Click(QWidget *widget);
-QString ClickRow(QTableWidget *table, int row);
+QString ClickRow(QAbstractItemView *view, int row);
 
 /** Opens a menu of the menu bar, and chooses from it. */
 QString ChooseFromMenu(QMenu *menu, QAction *action);

@@ -325,8 +325,6 @@ void TestAccessibility::rowsAreCalledByTheirNetworks_data()
                                    << "priorityTable" << 0 << "Home";
     QTest::newRow("add dialog") << "add dialog"
                                 << "rememberTable" << 0 << "Mobile broadband";
-    QTest::newRow("connect dialog") << "connect dialog"
-                                    << "connectList" << 0 << "Home";
     QTest::newRow("import dialog") << "import dialog"
                                    << "importList" << 1 << "Office";
 }

@@ -314,7 +314,9 @@ const Screens::Screen Screens::screens[] = {
     {"connect dialog, no key of WEP", &Screens::ShowConnecting, "no WEP key"},
     {"connect dialog, account needed", &Screens::ShowConnecting, "account"},
     {"connect dialog, connecting", &Screens::ShowConnecting, "connecting"},
+    {"connect dialog, taking long", &Screens::ShowConnecting, "long"},
     {"connect dialog, key refused", &Screens::ShowConnecting, "2"},
+    {"connect dialog, saved key refused", &Screens::ShowConnecting, "saved key"},
     {"connect dialog, no key saved", &Screens::ShowConnecting, "3"},
     {"connect dialog, no answer", &Screens::ShowConnecting, "4"},
     {"connect dialog, no address", &Screens::ShowConnecting, "5"},
@@ -692,29 +694,35 @@ void Screens::ShowConnecting(const char *what)
         connections.told.networks.append(network);
     }
     connections.told.networks[3].isInUse = true;
-    connections.told.networks[4].profileIds << QLatin1String("Home");
+    connections.told.active << ConnectionOf(QLatin1String("Library"), StageConnected, true);
+    connections.told.profiles << SavedProfile(QLatin1String("Home"));
+    connections.told.networks[4].profileIds << connections.told.profiles[0].id;
     if (shown == "no key" || shown == "no WEP key") {
         connections.answer = IConnectionPlugin::RefusedKey;
     }
-    const int failure = shown.toInt();
-    connections.attempt.stage = shown == "connecting" ? StageAuthenticating
-                                : failure > 0         ? StageFailed
-                                                      : StageConnected;
+    const bool isUnderWay = shown == "connecting" || shown == "long";
+    const int failure = shown == "saved key" ? int(FailureWrongKey) : shown.toInt();
+    connections.attempt.stage = isUnderWay ? StageAuthenticating : failure > 0 ? StageFailed : StageConnected;
     connections.attempt.failure = failure > 0 ? failure : int(FailureNotStored);
+    Fill();
     WithConnections container(m_plugins.data(), &connections);
     HostControl::SetPluginContainer(&container);
     OpenWindow(m_plugins.data());
     Click("connectButton");
-    Child<QTableWidget>("connectList")
-        ->setCurrentCell(shown == "account"      ? 2
-                         : shown == "no WEP key" ? 1
-                                                 : 0,
-                         0);
+    const QString chosen = QLatin1String(shown == "account"      ? "Campus"
+                                         : shown == "no WEP key" ? "Workshop"
+                                         : shown == "saved key"  ? "Home"
+                                                                 : "Neighbour");
+    QListWidget *list = Child<QListWidget>("connectList");
+    list->setCurrentItem(list->findItems(chosen, Qt::MatchExactly).first());
     Child<QLineEdit>("connectKeyEdit")->setText(QLatin1String("sea-and-sand"));
     if (shown != "key" && shown != "account" && shown != "away") {
         Click("connectOkButton");
     }
-    if (shown == "away") {
+    if (shown == "long") {
+        Child<QTimer>("usualTime")->stop();
+        connections.Tell();
+    } else if (shown == "away") {
         connections.told.networks.removeFirst();
         connections.Tell();
     } else if (shown == "gone") {

@@ -70,7 +70,8 @@ void Banner::ShowPlace()
     const bool isNew = m_title->text() != problem.title || m_text->text() != problem.text;
     m_title->setText(problem.title);
     m_text->setText(problem.text);
-    m_text->setVisible(!problem.text.isEmpty());
+    m_text->setVisible(!problem.text.isEmpty() && !m_isBrief);
+    m_title->setToolTip(problem.text.toHtmlEscaped());
     QPalette readable = palette();
     readable.setColor(QPalette::WindowText, ColoursOf(problem.mark).text);
     m_title->setPalette(readable);
@@ -89,6 +90,14 @@ void Banner::ShowPlace()
     if (isNew) {
         QAccessibleEvent event(m_title, QAccessible::Alert);
         QAccessible::updateAccessibility(&event);
+    }
+}
+
+void Banner::SetBrief(bool isBrief)
+{
+    m_isBrief = isBrief;
+    if (!m_problems.isEmpty()) {
+        ShowPlace();
     }
 }
 

@@ -29,6 +29,9 @@ public:
     /** The worst first. */
     void Show(const QList<Problem> &problems);
 
+    /** Titles alone, where there is little room; the text is the title's tool tip then. */
+    void SetBrief(bool isBrief);
+
 protected:
     void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
@@ -42,6 +45,7 @@ private:
 
     QList<Problem> m_problems;
     int m_place = 0;
+    bool m_isBrief = false;
     QLabel *m_title;
     QLabel *m_text;
     QPushButton *m_remedy;

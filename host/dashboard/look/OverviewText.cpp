@@ -402,6 +402,11 @@ QString OverviewText::Outcome(int failure)
     return TextOf(outcomes, failure);
 }
 
+QString OverviewText::OutcomeOfSaved(int failure)
+{
+    return failure == FailureWrongKey ? DashboardText("IDS_TRIED_SAVED_KEY") : Outcome(failure);
+}
+
 QString OverviewText::NotDone(const char *what, const QString &name, const QString &reason)
 {
     const QString sentence = DashboardText(what).arg(Name(name));

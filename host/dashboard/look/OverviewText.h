@@ -47,6 +47,9 @@ QString Failure(int failure);
  */
 QString Outcome(int failure);
 
+/** ... of a network whose key is saved. */
+QString OutcomeOfSaved(int failure);
+
 /** What was not done with a network, the id of a text, and why; reason may be empty. */
 QString NotDone(const char *what, const QString &name, const QString &reason);
 

@@ -3,38 +3,43 @@
 #include <Change.h>
 #include <DashboardText.h>
 #include <DialogParts.h>
+#include <Glyphs.h>
 #include <IConnectionPlugin.h>
 #include <IPriorityPlugin.h>
 #include <ListEntries.h>
-#include <NameDelegate.h>
+#include <NetworkDelegate.h>
 #include <OverviewText.h>
 #include <PluginObjects.h>
 
 #include <QCheckBox>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
+#include <QProgressBar>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStackedWidget>
-#include <QTableWidget>
+#include <QTimer>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 namespace
 {
 
 const int dialogWidth = 480;
-const int dialogHeight = 440;
-const int nameWidth = 150;
-const int detailsWidth = 200;
+const int dialogHeight = 520;
 
-enum Column { NameColumn, DetailsColumn, SignalColumn, ColumnCount };
+/** Of a row, besides what is drawn: the network's id. */
+const int idRole = Qt::UserRole + 100;
 
-/** What a name's item holds besides its text: the network's id. */
-const int idRole = Qt::UserRole;
+/** In milliseconds. By then, most networks have answered. */
+const int usualTime = 15000;
+
+const int stageCount = StageGettingAddress;
 
 const char *ProtectionText(int protection)
 {
@@ -64,7 +69,7 @@ QString KeyRule(bool isWep)
 } // namespace
 
 ConnectDialog::ConnectDialog(QWidget *parent)
-    : ExtendDialog(parent, Qt::WindowCloseButtonHint, enWidgetTypeDialog)
+    : ExtendDialog(parent, Qt::WindowCloseButtonHint, enWidgetTypeDialog), m_usualTime(new QTimer(this))
 {
     setObjectName(QLatin1String("connectDialog"));
     QWidget *content = new QWidget(this);
@@ -74,14 +79,19 @@ ConnectDialog::ConnectDialog(QWidget *parent)
     m_hint = DialogParts::Label("connectHintLabel");
     layout->addWidget(m_hint);
 
-    CreateTable();
+    CreateList();
     m_empty = DialogParts::EmptyLabel("connectEmptyLabel");
     m_body = new QStackedWidget;
     m_body->setObjectName(QLatin1String("connectBody"));
-    m_body->addWidget(m_table);
+    m_body->addWidget(m_list);
     m_body->addWidget(m_empty);
     layout->addWidget(m_body, 1);
     layout->addWidget(CreateKeyRow());
+    m_progress = new QProgressBar;
+    m_progress->setObjectName(QLatin1String("connectProgress"));
+    m_progress->setRange(0, stageCount);
+    m_progress->setTextVisible(false);
+    layout->addWidget(m_progress);
     m_outcome = DialogParts::Label("connectOutcomeLabel");
     layout->addWidget(m_outcome);
     layout->addWidget(CreateButtons());
@@ -89,13 +99,20 @@ ConnectDialog::ConnectDialog(QWidget *parent)
     m_okButton->setDefault(true);
     setFixedSize(DialogParts::ForFont(dialogWidth), DialogParts::ForFont(dialogHeight));
 
-    connect(m_table, &QTableWidget::itemSelectionChanged, this, &ConnectDialog::FollowChoice);
-    connect(m_table, &QTableWidget::cellDoubleClicked, this, &ConnectDialog::accept);
+    connect(m_list, &QListWidget::itemSelectionChanged, this, &ConnectDialog::FollowChoice);
+    connect(m_list, &QListWidget::itemDoubleClicked, this, &ConnectDialog::accept);
+    m_usualTime->setObjectName(QLatin1String("usualTime"));
+    m_usualTime->setSingleShot(true);
+    m_usualTime->setInterval(usualTime);
+    connect(m_usualTime, &QTimer::timeout, this, &ConnectDialog::Show);
     if (IConnectionPlugin *plugin = PluginObjects::Connecting()) {
         connect(PluginObjects::ConnectionService(), SIGNAL(OnConnectionsChanged()), this, SLOT(Follow()));
         plugin->LookForNetworks();
     }
-    m_told = Connections::Read();
+    if (IPriorityPlugin *priority = PluginObjects::Priority()) {
+        priority->GetPriorityList(&m_listed);
+    }
+    Read();
     for (const VisibleNetwork &network : std::as_const(m_told.networks)) {
         // The one in use is not what somebody wants to go to.
         if (m_chosen.isEmpty() && !network.isInUse) {
@@ -103,16 +120,16 @@ ConnectDialog::ConnectDialog(QWidget *parent)
         }
     }
     Retranslate();
-    m_table->setFocus();
+    m_list->setFocus();
 }
 
-void ConnectDialog::CreateTable()
+void ConnectDialog::CreateList()
 {
-    m_table = DialogParts::Table("connectList", ColumnCount);
-    m_table->setItemDelegateForColumn(NameColumn, new NameDelegate(m_table));
-    m_table->horizontalHeader()->setObjectName(QLatin1String("connectHeader"));
-    m_table->setColumnWidth(NameColumn, DialogParts::ForFont(nameWidth));
-    m_table->setColumnWidth(DetailsColumn, DialogParts::ForFont(detailsWidth));
+    m_list = new QListWidget;
+    m_list->setObjectName(QLatin1String("connectList"));
+    m_list->setItemDelegate(new NetworkDelegate(m_list, NetworkDelegate::WithoutPlaces));
+    m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
 
 QWidget *ConnectDialog::CreateKeyRow()
@@ -148,39 +165,107 @@ QWidget *ConnectDialog::CreateButtons()
     return DialogParts::ButtonBar("connectButtonBar", m_okButton, m_cancelButton);
 }
 
-void ConnectDialog::ListNetworks()
+void ConnectDialog::Read()
 {
-    const QSignalBlocker blocker(m_table);
-    m_table->clearSelection();
-    m_table->setRowCount(static_cast<int>(m_told.networks.size()));
-    for (int row = 0; row < m_table->rowCount(); ++row) {
-        const VisibleNetwork &network = m_told.networks.at(row);
-        DialogParts::SetCell(m_table, row, NameColumn, network.name);
-        m_table->item(row, NameColumn)->setData(idRole, network.id);
-        DialogParts::SetCell(m_table, row, DetailsColumn, DetailsOf(network));
-        DialogParts::SetCell(m_table, row, SignalColumn, OverviewText::Signal(network.signal));
-        m_table->item(row, SignalColumn)->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        if (network.id == m_chosen) {
-            m_table->setCurrentCell(row, NameColumn);
+    m_told = Connections::Read();
+    QHash<QString, int> placeOfName;
+    for (int i = 0; i < m_listed.size(); ++i) {
+        const PriorityList &entry = m_listed.at(i);
+        if (ListEntries::IsWifi(entry) && !placeOfName.contains(entry.name)) {
+            placeOfName.insert(entry.name, i + 1);
         }
     }
+    m_places.clear();
+    for (const ConnectionProfile &profile : std::as_const(m_told.profiles)) {
+        if (placeOfName.contains(profile.name)) {
+            m_places.insert(profile.id, placeOfName.value(profile.name));
+        }
+    }
+}
+
+void ConnectDialog::ListNetworks()
+{
+    const QSignalBlocker blocker(m_list);
+    const int scrolledTo = m_list->verticalScrollBar()->value();
+    m_list->clear();
+    AddSection("IDS_CONNECT_LISTED", true);
+    AddSection("IDS_CONNECT_OTHERS", false);
+    m_list->verticalScrollBar()->setValue(scrolledTo);
     const bool isEmpty = m_told.networks.isEmpty();
     m_empty->setText(m_told.AreKnown()
                          ? DashboardText("IDS_CONNECT_NONE")
                          : OverviewText::Explanation(Overview::Make(0, QList<PriorityList>(), m_told)));
-    m_body->setCurrentWidget(isEmpty ? static_cast<QWidget *>(m_empty) : m_table);
+    m_body->setCurrentWidget(isEmpty ? static_cast<QWidget *>(m_empty) : m_list);
+}
+
+/** Those that have a place in the priority list, or those that have none; nothing where there are none. */
+void ConnectDialog::AddSection(const char *titleId, bool isListed)
+{
+    QList<VisibleNetwork> networks;
+    for (const VisibleNetwork &network : std::as_const(m_told.networks)) {
+        if ((PlaceOf(network) > 0) == isListed) {
+            networks.append(network);
+        }
+    }
+    // Those that have no place stay best first.
+    std::stable_sort(
+        networks.begin(), networks.end(),
+        [this](const VisibleNetwork &a, const VisibleNetwork &b) { return PlaceOf(a) < PlaceOf(b); });
+    if (!networks.isEmpty()) {
+        QListWidgetItem *title = new QListWidgetItem(DashboardText(titleId));
+        title->setData(NetworkDelegate::IsSectionRole, true);
+        // Keys pass over it.
+        title->setFlags(Qt::NoItemFlags);
+        m_list->addItem(title);
+    }
+    for (const VisibleNetwork &network : std::as_const(networks)) {
+        AddNetwork(network);
+    }
+}
+
+void ConnectDialog::AddNetwork(const VisibleNetwork &network)
+{
+    QListWidgetItem *item = new QListWidgetItem(network.name, m_list);
+    const QString details = DetailsOf(network);
+    const QString state =
+        network.isInUse ? DashboardText("IDS_STATE_CONNECTED") : OverviewText::Signal(network.signal);
+    item->setData(idRole, network.id);
+    item->setData(NetworkDelegate::DetailTextRole, details);
+    item->setData(NetworkDelegate::StateTextRole, state);
+    item->setData(NetworkDelegate::MarkRole, network.isInUse ? Glyphs::MarkInUse : Glyphs::NoMark);
+    item->setData(NetworkDelegate::KindRole, Glyphs::Wifi);
+    item->setData(NetworkDelegate::ReachRole, Glyphs::InReach);
+    item->setData(NetworkDelegate::SignalRole, network.signal);
+    item->setToolTip(network.name.toHtmlEscaped());
+    QStringList spoken{network.name, details, state};
+    spoken.removeAll(QString());
+    item->setData(Qt::AccessibleTextRole, spoken.join(QLatin1String(", ")));
+    if (network.id == m_chosen) {
+        m_list->setCurrentItem(item);
+    }
+}
+
+/** In the priority list, counted from 1; 0: it has none. */
+int ConnectDialog::PlaceOf(const VisibleNetwork &network) const
+{
+    int first = 0;
+    for (const QString &profile : network.profileIds) {
+        const int place = m_places.value(profile);
+        first = first == 0 || (place > 0 && place < first) ? place : first;
+    }
+    return first;
 }
 
 QString ConnectDialog::DetailsOf(const VisibleNetwork &network) const
 {
-    if (network.isInUse) {
-        return DashboardText("IDS_STATE_CONNECTED");
-    }
     QStringList details;
     if (const char *protection = ProtectionText(network.protection)) {
         details.append(DashboardText(protection));
     }
-    if (!network.profileIds.isEmpty()) {
+    const int place = PlaceOf(network);
+    if (place > 0) {
+        details.append(DashboardText("IDS_CONNECT_PLACE").arg(DashboardNumber(place)));
+    } else if (!network.profileIds.isEmpty()) {
         details.append(DashboardText("IDS_CONNECT_SAVED"));
     }
     return details.join(QString::fromUtf8(" · "));
@@ -211,10 +296,8 @@ void ConnectDialog::Retranslate()
 {
     setWindowTitle(DashboardText("IDS_CONNECT_TITLE"));
     m_hint->setText(DashboardText("IDS_CONNECT_HINT"));
-    m_table->setAccessibleName(DashboardText("IDS_CONNECT_TITLE"));
-    DialogParts::SetHeader(m_table, NameColumn, DashboardText("IDS_CONNECT_NETWORK"), Qt::AlignLeft);
-    DialogParts::SetHeader(m_table, DetailsColumn, DashboardText("IDS_CONNECT_SECURITY"), Qt::AlignLeft);
-    DialogParts::SetHeader(m_table, SignalColumn, DashboardText("IDS_CONNECT_SIGNAL"), Qt::AlignRight);
+    m_list->setAccessibleName(DashboardText("IDS_CONNECT_TITLE"));
+    m_progress->setAccessibleName(DashboardText("IDS_CONNECT_TITLE"));
     m_showKey->setText(DashboardText("IDS_CONNECT_SHOW_KEY"));
     m_okButton->setText(DashboardText("IDS_CONNECT_OK"));
     ListNetworks();
@@ -224,7 +307,7 @@ void ConnectDialog::Retranslate()
 void ConnectDialog::Follow()
 {
     const bool wasUnderWay = IsUnderWay();
-    m_told = Connections::Read();
+    Read();
     IConnectionPlugin *plugin = PluginObjects::Connecting();
     if (plugin && m_order > 0) {
         plugin->GetAttempt(m_order, &m_attempt);
@@ -244,8 +327,8 @@ void ConnectDialog::Follow()
 
 void ConnectDialog::FollowChoice()
 {
-    const QModelIndexList chosen = m_table->selectionModel()->selectedRows(NameColumn);
-    const QString id = chosen.isEmpty() ? QString() : chosen.first().data(idRole).toString();
+    const QList<QListWidgetItem *> chosen = m_list->selectedItems();
+    const QString id = chosen.isEmpty() ? QString() : chosen.first()->data(idRole).toString();
     if (id != m_chosen) {
         // What was typed for one network is not told another one.
         m_chosen = id;
@@ -274,24 +357,39 @@ QString ConnectDialog::Outcome() const
         break;
     }
     if (IsUnderWay()) {
-        return OverviewText::Stage(m_attempt.stage);
+        const QString stage = OverviewText::Stage(m_attempt.stage);
+        return m_usualTime->isActive()
+                   ? stage
+                   : DashboardJoined("IDS_SENTENCES", QStringList()
+                                                          << stage << DashboardText("IDS_CONNECT_LONG"));
     }
     if (m_order > 0 && m_attempt.stage == StageConnected) {
         return DashboardText("IDS_CONNECT_NOT_SAVED").arg(name);
-    }
-    if (m_order > 0 && m_attempt.stage == StageCancelled) {
-        return DashboardText("IDS_SWITCH_FAILED").arg(name);
     }
     if (!m_chosen.isEmpty() && !chosen && m_told.AreKnown()) {
         return DashboardText("IDS_CONNECT_AWAY").arg(name);
     }
     if (m_order != 0) {
-        const int failure = m_order > 0 ? m_attempt.failure : int(FailureOther);
-        return OverviewText::NotDone("IDS_SWITCH_FAILED", m_chosenName, OverviewText::Outcome(failure));
+        return NotConnected();
     }
     const bool isForAccounts =
         chosen && chosen->profileIds.isEmpty() && chosen->protection == VisibleNetwork::ProtectionAccount;
     return isForAccounts ? DashboardText("IDS_CONNECT_ACCOUNT").arg(name) : QString();
+}
+
+/** Why the order came to nothing, and what is in use after it. */
+QString ConnectDialog::NotConnected() const
+{
+    const int failure = m_order > 0 ? m_attempt.failure : int(FailureOther);
+    const QString reason =
+        m_isKeyTyped ? OverviewText::Outcome(failure) : OverviewText::OutcomeOfSaved(failure);
+    const QString told = OverviewText::NotDone("IDS_SWITCH_FAILED", m_chosenName, reason);
+    // An order that was not taken has ended nothing.
+    if (m_order < 0 || !m_told.AreKnown()) {
+        return told;
+    }
+    return told + QLatin1Char('\n') +
+           OverviewText::Headline(Overview::Make(0, QList<PriorityList>(), m_told));
 }
 
 void ConnectDialog::Show()
@@ -306,7 +404,9 @@ void ConnectDialog::Show()
     m_key->setAccessibleName(m_keyLabel->text());
     m_keyRow->setVisible(needsKey);
     m_keyRow->setEnabled(!isUnderWay);
-    m_table->setEnabled(!isUnderWay);
+    m_list->setEnabled(!isUnderWay);
+    m_progress->setVisible(isUnderWay);
+    m_progress->setValue(m_attempt.stage);
     const bool isForAccounts =
         chosen && chosen->profileIds.isEmpty() && chosen->protection == VisibleNetwork::ProtectionAccount;
     m_okButton->setEnabled(chosen && !isUnderWay && !chosen->isInUse && !isForAccounts &&
@@ -345,10 +445,12 @@ void ConnectDialog::accept()
         return;
     }
     m_attempt = ConnectAttempt();
-    m_order = plugin->ConnectNetwork(chosen->id, NeedsKey(*chosen) ? m_key->text() : QString());
+    m_isKeyTyped = NeedsKey(*chosen);
+    m_order = plugin->ConnectNetwork(chosen->id, m_isKeyTyped ? m_key->text() : QString());
     if (m_order > 0) {
         plugin->GetAttempt(m_order, &m_attempt);
     }
+    m_usualTime->start();
     Show();
 }
 

@@ -4,14 +4,19 @@
 #include <Connections.h>
 #include <ExtendDialog.h>
 
+#include <PriorityList.h>
+
+#include <QHash>
 #include <QString>
 
 class QCheckBox;
 class QLabel;
 class QLineEdit;
+class QListWidget;
+class QProgressBar;
 class QPushButton;
 class QStackedWidget;
-class QTableWidget;
+class QTimer;
 
 /**
  * Lists the networks in range as they come and go, and connects the one that the user chooses. A network
@@ -40,34 +45,48 @@ private slots:
     void ShowKey(bool isShown);
 
 private:
-    void CreateTable();
+    void CreateList();
     QWidget *CreateKeyRow();
     QWidget *CreateButtons();
+    void Read();
     void ListNetworks();
+    void AddSection(const char *titleId, bool isListed);
+    void AddNetwork(const VisibleNetwork &network);
+    int PlaceOf(const VisibleNetwork &network) const;
     const VisibleNetwork *Chosen() const;
     bool IsUnderWay() const;
     static bool NeedsKey(const VisibleNetwork &network);
     QString DetailsOf(const VisibleNetwork &network) const;
     QString Outcome() const;
+    QString NotConnected() const;
     void Show();
     void AddToList() const;
 
     Connections m_told;
+    /** The priority list as it was when the dialog opened. */
+    QList<PriorityList> m_listed;
+    /** Of the profiles that are in it, by their id: counted from 1. */
+    QHash<QString, int> m_places;
+    /** Runs while an attempt takes no longer than usual. */
+    QTimer *m_usualTime;
     /** Of the chosen network; empty when none is. */
     QString m_chosen;
     QString m_chosenName;
     /** The last order, as IConnectionPlugin answers it; 0: none was given. */
     int m_order = 0;
     ConnectAttempt m_attempt;
+    /** The order brought a key along; otherwise a saved one was used, or none. */
+    bool m_isKeyTyped = false;
 
     QLabel *m_hint;
     QStackedWidget *m_body;
-    QTableWidget *m_table;
+    QListWidget *m_list;
     QLabel *m_empty;
     QWidget *m_keyRow;
     QLabel *m_keyLabel;
     QLineEdit *m_key;
     QCheckBox *m_showKey;
+    QProgressBar *m_progress;
     QLabel *m_outcome;
     QPushButton *m_okButton;
     QPushButton *m_cancelButton;

@@ -78,7 +78,7 @@ QString ConnectionOrder::Reason() const
         return DashboardText("IDS_USE_NOT_SAVED");
     }
     return m_number == IConnectionPlugin::RefusedAccount ? DashboardText("IDS_USE_NO_ACCOUNT")
-                                                         : OverviewText::Outcome(Failure());
+                                                         : OverviewText::OutcomeOfSaved(Failure());
 }
 
 bool ConnectionOrder::HasFailed(const QList<ActiveConnection> &active) const

@@ -2,6 +2,7 @@
 
 #include <DashboardText.h>
 #include <DialogParts.h>
+#include <ElidedLabel.h>
 #include <ListChangeText.h>
 #include <OverviewText.h>
 #include <SignalImage.h>
@@ -34,7 +35,7 @@ Glyphs::Signal SignalOf(const Overview &overview)
 } // namespace
 
 HeadArea::HeadArea()
-    : m_signal(new SignalImage(40)), m_headline(new WrappedLabel("headlineLabel")),
+    : m_signal(new SignalImage(40)), m_headline(new ElidedLabel("headlineLabel")),
       m_explanation(new WrappedLabel("explanationLabel")),
       m_switch(new TextButton("switchButton", TextButton::Filled)),
       m_stop(new TextButton("stopButton", TextButton::Filled)), m_connect(new TextButton("connectButton"))
@@ -70,9 +71,15 @@ HeadArea::HeadArea()
 void HeadArea::Show(const Overview &overview, bool isSwitching, bool mayStop)
 {
     m_signal->Show(SignalOf(overview));
-    m_headline->setText(OverviewText::Headline(overview));
+    m_headline->SetFullText(OverviewText::Headline(overview));
     m_explanation->setText(OverviewText::Explanation(overview));
+    setToolTip(m_explanation->text().toHtmlEscaped());
     ShowButtons(overview, isSwitching, mayStop);
+}
+
+void HeadArea::SetBrief(bool isBrief)
+{
+    m_explanation->setVisible(!isBrief);
 }
 
 void HeadArea::ShowButtons(const Overview &overview, bool isSwitching, bool mayStop)

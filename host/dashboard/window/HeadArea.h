@@ -5,6 +5,7 @@
 
 #include <QWidget>
 
+class ElidedLabel;
 class QBoxLayout;
 class QLabel;
 class SignalImage;
@@ -21,6 +22,9 @@ public:
     /** @param isSwitching  an order is under way. @param mayStop  what is coming up can be stopped. */
     void Show(const Overview &overview, bool isSwitching, bool mayStop);
 
+    /** Without the reason, where there is little room; it is the headline's tool tip then. */
+    void SetBrief(bool isBrief);
+
 signals:
     void SwitchWanted();
     void StopWanted();
@@ -35,7 +39,7 @@ private:
     void MakeFonts();
 
     SignalImage *m_signal;
-    QLabel *m_headline;
+    ElidedLabel *m_headline;
     QLabel *m_explanation;
     TextButton *m_switch;
     TextButton *m_stop;

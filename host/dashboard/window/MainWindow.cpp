@@ -17,7 +17,7 @@
 #include <GeneralPage.h>
 #include <IConnectionPlugin.h>
 #include <ListKeeper.h>
-#include <OverviewDelegate.h>
+#include <NetworkDelegate.h>
 #include <OverviewText.h>
 #include <PluginHost.h>
 #include <PluginObjects.h>
@@ -92,11 +92,12 @@ MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLo
     layout->addWidget(m_head);
     m_banner = new Banner;
     layout->addWidget(m_banner);
-    layout->addWidget(CreateListHeader());
+    m_listHeader = CreateListHeader();
+    layout->addWidget(m_listHeader);
 
     m_list = new QListWidget;
     m_list->setObjectName(QLatin1String("overviewList"));
-    m_list->setItemDelegate(new OverviewDelegate(m_list));
+    m_list->setItemDelegate(new NetworkDelegate(m_list));
     m_list->setSelectionMode(QAbstractItemView::SingleSelection);
     m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -109,7 +110,8 @@ MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLo
     m_body->addWidget(m_list);
     m_body->addWidget(CreateMessagePage());
     layout->addWidget(m_body, 1);
-    layout->addWidget(m_listActions->CreateBar());
+    m_listBar = m_listActions->CreateBar();
+    layout->addWidget(m_listBar);
     setCentralWidget(central);
 
     if (QObject *service = PluginObjects::PriorityService()) {
@@ -122,6 +124,7 @@ MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLo
     connect(m_keeper, SIGNAL(Changed()), this, SLOT(FollowHistory()));
     connect(m_language, SIGNAL(Switched()), this, SLOT(FollowLanguage()));
 
+    setMinimumSize(DialogParts::ForFont(360), DialogParts::ForFont(280));
     resize(DialogParts::ForFont(820), DialogParts::ForFont(640));
     restoreGeometry(Settings::Read(GeometryKey()).toByteArray());
     m_list->setFocus();
@@ -361,6 +364,17 @@ void MainWindow::Watch()
     }
 }
 
+void MainWindow::resizeEvent(QResizeEvent *event)
+{
+    QMainWindow::resizeEvent(event);
+    // What is in use and the list itself are seen last of all.
+    const bool isLow = height() < DialogParts::ForFont(460);
+    m_head->SetBrief(isLow);
+    m_listHeader->setVisible(!isLow);
+    m_listBar->setVisible(!isLow);
+    m_banner->SetBrief(height() < DialogParts::ForFont(360));
+}
+
 bool MainWindow::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == m_list && event->type() == QEvent::KeyPress) {
@@ -504,12 +518,12 @@ void MainWindow::ShowList()
         QListWidgetItem *item = new QListWidgetItem(entry.entry.name, m_list);
         const QString state = OverviewText::State(m_overview, i);
         const QString reason = OverviewText::Reason(m_overview, i);
-        item->setData(OverviewDelegate::DetailTextRole, OverviewText::Detail(m_overview, i));
-        item->setData(OverviewDelegate::StateTextRole, state);
-        item->setData(OverviewDelegate::MarkRole, OverviewText::Mark(m_overview, i));
-        item->setData(OverviewDelegate::KindRole, entry.IsWifi() ? Glyphs::Wifi : Glyphs::Mobile);
-        item->setData(OverviewDelegate::ReachRole, OverviewText::Reach(m_overview, i));
-        item->setData(OverviewDelegate::SignalRole, entry.signal);
+        item->setData(NetworkDelegate::DetailTextRole, OverviewText::Detail(m_overview, i));
+        item->setData(NetworkDelegate::StateTextRole, state);
+        item->setData(NetworkDelegate::MarkRole, OverviewText::Mark(m_overview, i));
+        item->setData(NetworkDelegate::KindRole, entry.IsWifi() ? Glyphs::Wifi : Glyphs::Mobile);
+        item->setData(NetworkDelegate::ReachRole, OverviewText::Reach(m_overview, i));
+        item->setData(NetworkDelegate::SignalRole, entry.signal);
         item->setToolTip(reason.toHtmlEscaped());
         item->setData(Qt::AccessibleDescriptionRole, reason);
         item->setData(

@@ -49,6 +49,7 @@ public slots:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
     void changeEvent(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
@@ -116,6 +117,8 @@ private:
 
     HeadArea *m_head;
     Banner *m_banner;
+    QWidget *m_listHeader;
+    QWidget *m_listBar;
     QLabel *m_listTitle;
     QLabel *m_note;
     TextButton *m_settingsButton;

@@ -40,6 +40,7 @@ private slots:
     void WhatIsSeenStaysUntilOthersComeOrGo();
     void RemedyIsThatOfWhatIsShown();
     void TextCanBeReadWhenTheColoursChange();
+    void TextIsInTheToolTipWhereThereIsLittleRoom();
 
 private:
     QString Title() const { return m_banner->findChild<QLabel *>("bannerTitle")->text(); }
@@ -119,6 +120,18 @@ void BannerTest::TextCanBeReadWhenTheColoursChange()
             QTRY_VERIFY(Tones::Contrast(label->palette().color(QPalette::WindowText), ground) >= 4.5);
         }
     }
+}
+
+void BannerTest::TextIsInTheToolTipWhereThereIsLittleRoom()
+{
+    m_banner->Show(Problems({"The list"}));
+    QLabel *text = m_banner->findChild<QLabel *>("bannerText");
+    QVERIFY(text->isVisible());
+    m_banner->SetBrief(true);
+    QVERIFY(!text->isVisible());
+    QCOMPARE(m_banner->findChild<QLabel *>("bannerTitle")->toolTip(), text->text());
+    m_banner->SetBrief(false);
+    QVERIFY(text->isVisible());
 }
 
 QTEST_MAIN(BannerTest)

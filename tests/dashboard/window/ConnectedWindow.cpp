@@ -1,7 +1,7 @@
 #include "ConnectedWindow.h"
 
 #include <HostControl.h>
-#include <OverviewDelegate.h>
+#include <NetworkDelegate.h>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -54,7 +54,7 @@ QString ConnectedWindow::Text(const char *label) const
 
 QString ConnectedWindow::State(int row) const
 {
-    return List()->item(row)->data(OverviewDelegate::StateTextRole).toString();
+    return List()->item(row)->data(NetworkDelegate::StateTextRole).toString();
 }
 
 QObject *ConnectedWindow::Container::GetPluginObject(const QString &, int interfaceNumber)

@@ -5,23 +5,22 @@
 #include <ConnectDialog.h>
 #include <ContractNumbers.h>
 #include <DashboardLanguage.h>
+#include <Glyphs.h>
 #include <HostControl.h>
+#include <NetworkDelegate.h>
 #include <WindowActivation.h>
 
 #include <QApplication>
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
-#include <QTableWidget>
+#include <QTimer>
 #include <QtTest>
 
 namespace
 {
-
-const int nameColumn = 0;
-const int detailsColumn = 1;
-const int signalColumn = 2;
 
 /** Hands out the list. */
 class ListContainer : public IPluginContainer
@@ -48,6 +47,8 @@ private slots:
     void cleanup();
 
     void NetworksAreListedAsTheyAreTold();
+    void ListedNetworksComeFirstWithTheirPlace();
+    void KeysPassOverSections();
     void NamesAreShownAsPlainText();
     void NetworksComeAndGo();
     void DevicesLookForNetworksWhenItOpens();
@@ -61,7 +62,9 @@ private slots:
     void KeyOfOneNetworkIsNotGivenToAnother();
     void KeyCanBeShown();
     void ProgressIsToldAndTheDialogClosesWhenItIsConnected();
+    void AttemptThatTakesLongIsCalledSo();
     void FailureIsToldAndTheKeyCanBeTypedAgain();
+    void FailureOfASavedNetworkTellsWhereItsKeyIsChangedAndWhatIsInUse();
     void WhatIsUnderWayCanBeStopped_data();
     void WhatIsUnderWayCanBeStopped();
     void RefusalIsTold_data();
@@ -80,12 +83,14 @@ private:
     void Open();
     void Choose(const QString &name) const;
     void ConnectTo(const QString &name);
-    QTableWidget *List() const { return m_dialog->findChild<QTableWidget *>("connectList"); }
+    QListWidget *List() const { return m_dialog->findChild<QListWidget *>("connectList"); }
     QPushButton *Button(const char *name) const { return m_dialog->findChild<QPushButton *>(name); }
     QLineEdit *Key() const { return m_dialog->findChild<QLineEdit *>("connectKeyEdit"); }
     QString Outcome() const;
     QString Chosen() const;
-    QStringList Column(int column) const;
+    /** Of every row; sections are in brackets. */
+    QString Rows(int role = Qt::DisplayRole) const;
+    QListWidgetItem *Row(const QString &name) const;
 
     QScopedPointer<FakeConnections> m_fake;
     QScopedPointer<FakePriority> m_priority;
@@ -139,9 +144,8 @@ void ConnectDialogTest::Open()
 
 void ConnectDialogTest::Choose(const QString &name) const
 {
-    const QModelIndex index =
-        List()->model()->index(static_cast<int>(Column(nameColumn).indexOf(name)), nameColumn);
-    QTest::mouseClick(List()->viewport(), Qt::LeftButton, Qt::NoModifier, List()->visualRect(index).center());
+    QTest::mouseClick(List()->viewport(), Qt::LeftButton, Qt::NoModifier,
+                      List()->visualItemRect(Row(name)).center());
 }
 
 void ConnectDialogTest::ConnectTo(const QString &name)
@@ -162,37 +166,72 @@ QString ConnectDialogTest::Outcome() const
 
 QString ConnectDialogTest::Chosen() const
 {
-    const QModelIndexList rows = List()->selectionModel()->selectedRows();
-    return rows.isEmpty() ? QString() : rows.first().data().toString();
+    const QList<QListWidgetItem *> rows = List()->selectedItems();
+    return rows.isEmpty() ? QString() : rows.first()->text();
 }
 
-QStringList ConnectDialogTest::Column(int column) const
+QString ConnectDialogTest::Rows(int role) const
 {
     QStringList texts;
-    for (int row = 0; row < List()->rowCount(); ++row) {
-        texts.append(List()->item(row, column)->text());
+    for (int row = 0; row < List()->count(); ++row) {
+        const QListWidgetItem *item = List()->item(row);
+        texts.append(item->data(NetworkDelegate::IsSectionRole).toBool() ? "[" + item->text() + "]"
+                                                                         : item->data(role).toString());
     }
-    return texts;
+    return texts.join(", ");
+}
+
+QListWidgetItem *ConnectDialogTest::Row(const QString &name) const
+{
+    return List()->findItems(name, Qt::MatchExactly).value(0);
 }
 
 void ConnectDialogTest::NetworksAreListedAsTheyAreTold()
 {
     m_fake->told.networks[2].isInUse = true;
     Open();
-    QCOMPARE(Column(nameColumn).join(','), QString("Home,Neighbour,Park,Workshop,Campus"));
-    QCOMPARE(Column(detailsColumn).join(','),
-             QString::fromUtf8("Key · Saved,Key,Connected,Weak key (WEP),Account"));
-    QCOMPARE(Column(signalColumn).join(','), QString("92%,71%,64%,27%,"));
+    QCOMPARE(Rows(), QString("[Other networks in range], Home, Neighbour, Park, Workshop, Campus"));
+    QCOMPARE(
+        Rows(NetworkDelegate::DetailTextRole),
+        QString::fromUtf8("[Other networks in range], Key · Saved, Key, No key, Weak key (WEP), Account"));
+    QCOMPARE(Rows(NetworkDelegate::StateTextRole),
+             QString("[Other networks in range], 92%, 71%, Connected, 27%, "));
+    QCOMPARE(Row("Park")->data(NetworkDelegate::MarkRole).toInt(), int(Glyphs::MarkInUse));
+}
+
+void ConnectDialogTest::ListedNetworksComeFirstWithTheirPlace()
+{
+    // The profile has another name than its network, and a network of the entry's name is no other's.
+    m_priority->list = Listed("Work, University, Park, At home");
+    m_fake->told.profiles << SavedProfile("At home") << SavedProfile("University");
+    m_fake->told.networks[1].profileIds << m_fake->told.profiles[0].id;
+    m_fake->told.networks[4].profileIds << m_fake->told.profiles[1].id;
+    Open();
+    QCOMPARE(Rows(), QString("[In your list], Campus, Neighbour, [Other networks in range], Home, Park, "
+                             "Workshop"));
+    QCOMPARE(Row("Neighbour")->data(NetworkDelegate::DetailTextRole).toString(),
+             QString::fromUtf8("Key · Place 4"));
+}
+
+void ConnectDialogTest::KeysPassOverSections()
+{
+    m_priority->list = Listed("At home");
+    m_fake->told.profiles << SavedProfile("At home");
+    m_fake->told.networks[1].profileIds << m_fake->told.profiles[0].id;
+    Open();
+    Choose("Neighbour");
+    QTest::keyClick(List(), Qt::Key_Down);
+    QCOMPARE(Chosen(), QString("Home"));
+    QTest::keyClick(List(), Qt::Key_Up);
+    QTest::keyClick(List(), Qt::Key_Up);
+    QCOMPARE(Chosen(), QString("Neighbour"));
 }
 
 void ConnectDialogTest::NamesAreShownAsPlainText()
 {
     m_fake->told.networks[0].name = "<b>A</b> & B";
-    m_fake->told.networks[1].name = " two\nlines";
     Open();
-    QCOMPARE(List()->item(0, nameColumn)->text(), QString("<b>A</b> & B"));
-    QCOMPARE(List()->item(0, nameColumn)->toolTip(), QString("&lt;b&gt;A&lt;/b&gt; &amp; B"));
-    QCOMPARE(List()->item(1, nameColumn)->text(), QString("two lines"));
+    QCOMPARE(Row("<b>A</b> & B")->toolTip(), QString("&lt;b&gt;A&lt;/b&gt; &amp; B"));
 }
 
 void ConnectDialogTest::NetworksComeAndGo()
@@ -201,8 +240,8 @@ void ConnectDialogTest::NetworksComeAndGo()
     m_fake->told.networks.removeFirst();
     m_fake->told.networks[0].signal = 5;
     m_fake->Tell();
-    QCOMPARE(Column(nameColumn).join(','), QString("Neighbour,Park,Workshop,Campus"));
-    QCOMPARE(Column(signalColumn).first(), QString("5%"));
+    QCOMPARE(Rows(), QString("[Other networks in range], Neighbour, Park, Workshop, Campus"));
+    QCOMPARE(Row("Neighbour")->data(NetworkDelegate::StateTextRole).toString(), QString("5%"));
 }
 
 void ConnectDialogTest::DevicesLookForNetworksWhenItOpens()
@@ -326,10 +365,21 @@ void ConnectDialogTest::ProgressIsToldAndTheDialogClosesWhenItIsConnected()
     m_fake->attempt.stage = StageGettingAddress;
     m_fake->Tell();
     QCOMPARE(Outcome(), QString("The network is being asked for an address."));
+    QVERIFY(m_dialog->findChild<QWidget *>("connectProgress")->isVisible());
     m_fake->attempt.stage = StageConnected;
     m_fake->Tell();
     QVERIFY(!m_dialog->isVisible());
     QCOMPARE(m_dialog->result(), static_cast<int>(QDialog::Accepted));
+}
+
+void ConnectDialogTest::AttemptThatTakesLongIsCalledSo()
+{
+    ConnectTo("Park");
+    // The time that is usual is over at once.
+    QTimer *usualTime = m_dialog->findChild<QTimer *>("usualTime");
+    QVERIFY(usualTime->isActive());
+    usualTime->start(0);
+    QTRY_COMPARE(Outcome(), QString("The connection is being prepared. This takes longer than usual."));
 }
 
 void ConnectDialogTest::FailureIsToldAndTheKeyCanBeTypedAgain()
@@ -338,10 +388,25 @@ void ConnectDialogTest::FailureIsToldAndTheKeyCanBeTypedAgain()
     m_fake->attempt.stage = StageFailed;
     m_fake->attempt.failure = FailureWrongKey;
     m_fake->Tell();
-    QCOMPARE(Outcome(),
-             QString("Neighbour was not connected. The key was refused. Upper and lower case count."));
+    QCOMPARE(Outcome(), QString("Neighbour was not connected. The key was refused. Upper and lower case "
+                                "count.\nNo network in use"));
     QCOMPARE(Key()->selectedText(), QString("sea-and-sand"));
     QVERIFY(Key()->hasFocus() && Button("connectOkButton")->isEnabled());
+}
+
+void ConnectDialogTest::FailureOfASavedNetworkTellsWhereItsKeyIsChangedAndWhatIsInUse()
+{
+    ConnectTo("Home");
+    m_fake->attempt.stage = StageFailed;
+    m_fake->attempt.failure = FailureWrongKey;
+    m_fake->Tell();
+    const QString told = "Home was not connected. The saved key was refused. You can change it in the "
+                         "network settings of your desktop.\n";
+    QCOMPARE(Outcome(), told + "No network in use");
+    // What was connected before comes back by itself.
+    m_fake->told.active << ConnectionOf("Office", StageConnected, true);
+    m_fake->Tell();
+    QCOMPARE(Outcome(), told + "In use now: Office");
 }
 
 void ConnectDialogTest::WhatIsUnderWayCanBeStopped_data()
@@ -365,7 +430,7 @@ void ConnectDialogTest::WhatIsUnderWayCanBeStopped()
     QVERIFY(m_dialog->isVisible());
     m_fake->attempt.stage = StageCancelled;
     m_fake->Tell();
-    QCOMPARE(Outcome(), QString("Park was not connected."));
+    QCOMPARE(Outcome(), QString("Park was not connected.\nNo network in use"));
     QTest::keyClick(m_dialog.data(), Qt::Key_Escape);
     QVERIFY(!m_dialog->isVisible());
 }
@@ -494,14 +559,9 @@ void ConnectDialogTest::TextsAndSidesFollowTheLanguage()
     QVERIFY(DashboardLanguage::Apply(language));
     m_dialog->Retranslate();
     QTEST(Button("connectOkButton")->text(), "connectText");
-    QTEST(Column(signalColumn).first(), "percent");
+    QTEST(Row("Home")->data(NetworkDelegate::StateTextRole).toString(), "percent");
     QVERIFY(m_dialog->windowTitle() != before);
     QApplication::processEvents();
-    const QAbstractItemModel *model = List()->model();
-    QVERIFY(List()->visualRect(model->index(0, nameColumn)).left() >
-            List()->visualRect(model->index(0, signalColumn)).left());
-    QVERIFY(List()->horizontalHeaderItem(nameColumn)->textAlignment() & Qt::AlignRight);
-    QVERIFY(List()->horizontalHeaderItem(signalColumn)->textAlignment() & Qt::AlignLeft);
     QVERIFY(Button("connectCancelButton")->x() < Button("connectOkButton")->x());
 }
 

@@ -1,7 +1,7 @@
 #include "ConnectedWindow.h"
 #include "Lists.h"
 
-#include <OverviewDelegate.h>
+#include <NetworkDelegate.h>
 
 #include <QAction>
 #include <QPushButton>
@@ -216,7 +216,9 @@ void ConnectionsTest::FailedSwitchIsToldUntilItIsConnected()
     m_world->connections->attempt.stage = StageFailed;
     m_world->connections->attempt.failure = FailureWrongKey;
     m_world->Follow();
-    QCOMPARE(Problems(), QString("Home was not connected. The key was refused. Upper and lower case count."));
+    QCOMPARE(Problems(),
+             QString("Home was not connected. The saved key was refused. You can change it in the "
+                     "network settings of your desktop."));
     m_world->connections->told.active << ConnectionOf("Home", StageConnected, false);
     m_world->Follow();
     QVERIFY(Problems().isEmpty());

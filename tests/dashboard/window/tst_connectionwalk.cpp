@@ -2,7 +2,7 @@
 #include "Lists.h"
 
 #include <Glyphs.h>
-#include <OverviewDelegate.h>
+#include <NetworkDelegate.h>
 
 #include <QPushButton>
 #include <QtTest>
@@ -131,8 +131,8 @@ QString ConnectionWalkTest::Wrong(const ConnectedWindow &world)
         const QListWidgetItem *item = list->item(i);
         const QString spoken = item->data(Qt::AccessibleTextRole).toString();
         const QString reason = item->data(Qt::AccessibleDescriptionRole).toString() + item->toolTip() +
-                               item->data(OverviewDelegate::DetailTextRole).toString();
-        const bool isMarked = item->data(OverviewDelegate::MarkRole).toInt() == Glyphs::MarkInUse;
+                               item->data(NetworkDelegate::DetailTextRole).toString();
+        const bool isMarked = item->data(NetworkDelegate::MarkRole).toInt() == Glyphs::MarkInUse;
         if (isMarked != isIt || world.State(i).startsWith(words) != isIt || spoken.contains(words) != isIt ||
             reason.contains(words)) {
             return QString("row %1: %2; %3; %4").arg(i).arg(world.State(i), spoken, reason);

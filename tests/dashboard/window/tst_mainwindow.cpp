@@ -4,7 +4,7 @@
 #include <DashboardLanguage.h>
 #include <HostControl.h>
 #include <MainWindow.h>
-#include <OverviewDelegate.h>
+#include <NetworkDelegate.h>
 #include <PluginHost.h>
 #include <PluginObjects.h>
 #include <TemporaryDirectory.h>
@@ -85,6 +85,7 @@ private slots:
     void TraceIsShownOnDemand();
     void TraceShowsLines();
     void LongListIsShown();
+    void SmallestWindowShowsWhatIsInUseAndThreeEntries();
 
 private:
     QString Text(const char *name) const
@@ -117,7 +118,7 @@ QStringList MainWindowTest::States() const
 {
     QStringList states;
     for (int i = 0; i < List()->count(); ++i) {
-        states.append(List()->item(i)->data(OverviewDelegate::StateTextRole).toString());
+        states.append(List()->item(i)->data(NetworkDelegate::StateTextRole).toString());
     }
     return states;
 }
@@ -344,9 +345,9 @@ void MainWindowTest::ConnectPutsANewNetworkAtTheEnd()
     } else {
         QTest::mouseClick(m_window->findChild<QPushButton *>("connectButton"), Qt::LeftButton);
     }
-    QTableWidget *list = m_window->findChild<QTableWidget *>("connectList");
+    QListWidget *list = m_window->findChild<QListWidget *>("connectList");
     QVERIFY(list && list->isVisible() && list->window()->isModal());
-    QCOMPARE(list->rowCount(), 2);
+    QCOMPARE(list->count(), 3);
     QTest::keyClick(list, Qt::Key_Down);
     QTest::mouseClick(m_window->findChild<QPushButton *>("connectOkButton"), Qt::LeftButton);
     QTRY_COMPARE(Names(), QStringList() << "Office"
@@ -360,7 +361,7 @@ void MainWindowTest::ConnectLeavesAListedNetworkInItsPlace()
     entries << Entry("Office") << Entry("Mobile", "2") << Entry("Home");
     PluginObjects::Priority()->AddPriorityList(entries);
     m_window->OpenConnect();
-    QTest::keyClick(m_window->findChild<QTableWidget *>("connectList"), Qt::Key_Return);
+    QTest::keyClick(m_window->findChild<QListWidget *>("connectList"), Qt::Key_Return);
     QTRY_COMPARE(Text("headlineLabel"), QString("In use now: Home (practice)"));
     QCOMPARE(Names(), QStringList() << "Office"
                                     << "Mobile"
@@ -386,7 +387,7 @@ void MainWindowTest::OpenPageFollowsAConnection()
     const QTableWidget *table = m_window->findChild<QTableWidget *>("priorityTable");
     QCOMPARE(table->rowCount(), 1);
     m_window->OpenConnect();
-    QTableWidget *networks = m_window->findChild<QTableWidget *>("connectList");
+    QListWidget *networks = m_window->findChild<QListWidget *>("connectList");
     QTest::keyClick(networks, Qt::Key_Down);
     QTest::mouseClick(m_window->findChild<QPushButton *>("connectOkButton"), Qt::LeftButton);
     QTRY_COMPARE(table->rowCount(), 2);
@@ -451,6 +452,24 @@ void MainWindowTest::LongListIsShown()
     WriteList(ListFile(names));
     m_window->Refresh();
     QCOMPARE(Names(), names);
+}
+
+void MainWindowTest::SmallestWindowShowsWhatIsInUseAndThreeEntries()
+{
+    QList<PriorityList> entries;
+    entries << Entry("Home") << Entry("Office") << Entry("Mobile", "2") << Entry("Library");
+    PluginObjects::Priority()->AddPriorityList(entries);
+    QTRY_COMPARE(List()->count(), 4);
+    const QSize before = m_window->size();
+    m_window->resize(1, 1);
+    QCOMPARE(m_window->size(), m_window->minimumSize());
+    QTRY_VERIFY(List()->viewport()->rect().contains(List()->visualItemRect(List()->item(2))));
+    const QLabel *headline = m_window->findChild<QLabel *>("headlineLabel");
+    QVERIFY(!headline->visibleRegion().isEmpty() && headline->height() >= headline->sizeHint().height());
+    QWidget *explanation = m_window->findChild<QWidget *>("explanationLabel");
+    QVERIFY(!explanation->isVisible());
+    m_window->resize(before);
+    QTRY_VERIFY(explanation->isVisible());
 }
 
 QTEST_MAIN(MainWindowTest)

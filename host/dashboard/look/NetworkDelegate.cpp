@@ -1,4 +1,4 @@
-#include "OverviewDelegate.h"
+#include "NetworkDelegate.h"
 
 #include "DialogParts.h"
 #include "Glyphs.h"
@@ -13,7 +13,8 @@ namespace
 const int margin = 8;
 const int glyphSize = 26;
 const int markSize = 12;
-const int smallestRow = 52;
+const int listedRow = 52;
+const int otherRow = 44;
 
 QFont NameFont(const QFont &font, bool isInUse)
 {
@@ -29,7 +30,7 @@ QFont SmallFont(const QFont &font)
 
 Glyphs::Mark MarkOf(const QModelIndex &index)
 {
-    return static_cast<Glyphs::Mark>(index.data(OverviewDelegate::MarkRole).toInt());
+    return static_cast<Glyphs::Mark>(index.data(NetworkDelegate::MarkRole).toInt());
 }
 
 /** The ground, the text and the mark of a state that stands out. */
@@ -45,20 +46,39 @@ Tones::Trouble ChipOf(Glyphs::Mark mark, const Tones &tones)
     return mark == Glyphs::MarkError ? tones.error : tones.warning;
 }
 
-/** Where the place and the glyph of a row are; the texts begin behind it. */
-QRect GlyphArea(const QStyleOptionViewItem &option)
+} // namespace
+
+NetworkDelegate::NetworkDelegate(QObject *parent, Places places)
+    : QStyledItemDelegate(parent), m_places(places)
 {
-    const int places = QFontMetrics(SmallFont(option.font)).horizontalAdvance(QLatin1String("0000"));
-    return QRect(option.rect.left() + margin + places + margin,
+}
+
+QRect NetworkDelegate::GlyphArea(const QStyleOptionViewItem &option) const
+{
+    const int places =
+        m_places == WithPlaces
+            ? QFontMetrics(SmallFont(option.font)).horizontalAdvance(QLatin1String("0000")) + margin
+            : 0;
+    return QRect(option.rect.left() + margin + places,
                  option.rect.top() + (option.rect.height() - glyphSize) / 2, glyphSize, glyphSize);
 }
 
-} // namespace
+void NetworkDelegate::PaintSection(QPainter *painter, const QStyleOptionViewItem &option,
+                                   const QModelIndex &index, const Tones &tones)
+{
+    QFont font = SmallFont(option.font);
+    font.setBold(true);
+    painter->fillRect(option.rect, option.palette.color(QPalette::Window));
+    painter->setFont(font);
+    painter->setPen(tones.text);
+    const Qt::Alignment leading =
+        QStyle::visualAlignment(option.direction, Qt::AlignLeft | Qt::AlignVCenter) | Qt::AlignAbsolute;
+    painter->drawText(option.rect.adjusted(margin, 0, -margin, 0), static_cast<int>(leading),
+                      index.data(Qt::DisplayRole).toString());
+}
 
-OverviewDelegate::OverviewDelegate(QObject *parent) : QStyledItemDelegate(parent) {}
-
-void OverviewDelegate::PaintGround(QPainter *painter, const QStyleOptionViewItem &option, bool isInUse,
-                                   const Tones &tones)
+void NetworkDelegate::PaintGround(QPainter *painter, const QStyleOptionViewItem &option, bool isInUse,
+                                  const Tones &tones)
 {
     const QRect &row = option.rect;
     if (isInUse) {
@@ -78,8 +98,8 @@ void OverviewDelegate::PaintGround(QPainter *painter, const QStyleOptionViewItem
     }
 }
 
-QRect OverviewDelegate::PaintState(QPainter *painter, const QStyleOptionViewItem &option,
-                                   const QModelIndex &index, const Tones &tones)
+QRect NetworkDelegate::PaintState(QPainter *painter, const QStyleOptionViewItem &option,
+                                  const QModelIndex &index, const Tones &tones)
 {
     const QRect &row = option.rect;
     const Glyphs::Mark mark = MarkOf(index);
@@ -112,8 +132,8 @@ QRect OverviewDelegate::PaintState(QPainter *painter, const QStyleOptionViewItem
     return chip;
 }
 
-void OverviewDelegate::PaintTexts(QPainter *painter, const QStyleOptionViewItem &option,
-                                  const QModelIndex &index, const QRect &area, const Tones &tones)
+void NetworkDelegate::PaintTexts(QPainter *painter, const QStyleOptionViewItem &option,
+                                 const QModelIndex &index, const QRect &area, const Tones &tones)
 {
     const QFont nameFont = NameFont(option.font, MarkOf(index) == Glyphs::MarkInUse);
     const QFont smallFont = SmallFont(option.font);
@@ -141,21 +161,29 @@ void OverviewDelegate::PaintTexts(QPainter *painter, const QStyleOptionViewItem 
         smallMetrics.elidedText(index.data(DetailTextRole).toString(), Qt::ElideRight, detailLine.width()));
 }
 
-void OverviewDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
-                             const QModelIndex &index) const
+void NetworkDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
+                            const QModelIndex &index) const
 {
     const Tones tones = Tones::OfApplication();
     const QRect &row = option.rect;
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
+    if (index.data(IsSectionRole).toBool()) {
+        PaintSection(painter, option, index, tones);
+        painter->restore();
+        return;
+    }
     PaintGround(painter, option, MarkOf(index) == Glyphs::MarkInUse, tones);
 
     const QRect glyph = GlyphArea(option);
-    const QRect place(row.left() + margin, row.top(), glyph.left() - row.left() - 2 * margin, row.height());
-    painter->setFont(SmallFont(option.font));
-    painter->setPen(tones.faint);
-    painter->drawText(QStyle::visualRect(option.direction, row, place), Qt::AlignCenter,
-                      DashboardNumber(index.row() + 1));
+    if (m_places == WithPlaces) {
+        const QRect place(row.left() + margin, row.top(), glyph.left() - row.left() - 2 * margin,
+                          row.height());
+        painter->setFont(SmallFont(option.font));
+        painter->setPen(tones.faint);
+        painter->drawText(QStyle::visualRect(option.direction, row, place), Qt::AlignCenter,
+                          DashboardNumber(index.row() + 1));
+    }
     Glyphs::Signal signal;
     signal.kind = static_cast<Glyphs::Kind>(index.data(KindRole).toInt());
     signal.reach = static_cast<Glyphs::Reach>(index.data(ReachRole).toInt());
@@ -170,9 +198,13 @@ void OverviewDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opti
     painter->restore();
 }
 
-QSize OverviewDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &) const
+QSize NetworkDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
+    if (index.data(IsSectionRole).toBool()) {
+        return QSize(200, QFontMetrics(SmallFont(option.font)).height() + 12);
+    }
+    const bool isInList = m_places == WithPlaces;
     const int texts =
         QFontMetrics(NameFont(option.font, true)).height() + QFontMetrics(SmallFont(option.font)).height();
-    return QSize(260, qMax(smallestRow, texts + 16));
+    return QSize(200, qMax(isInList ? listedRow : otherRow, texts + (isInList ? 16 : 8)));
 }

@@ -1,0 +1,49 @@
+#ifndef NETWORKDELEGATE_H
+#define NETWORKDELEGATE_H
+
+#include <QStyledItemDelegate>
+
+struct Tones;
+
+/** Draws one network: its place, its name with what is to be said of it, and its state. */
+class NetworkDelegate : public QStyledItemDelegate
+{
+    Q_OBJECT
+
+public:
+    enum Places { WithPlaces, WithoutPlaces };
+
+    /** What an item holds besides its text, which is the network's name, or what those below have in common.
+     */
+    enum Role {
+        IsSectionRole = Qt::UserRole, /**< bool; nothing else is looked at then. */
+        DetailTextRole,               /**< QString, shown below the name. */
+        StateTextRole,                /**< QString, shown at the end of the row. */
+        MarkRole,                     /**< int, a Glyphs::Mark: what kind of state that is. */
+        KindRole,                     /**< int, a Glyphs::Kind */
+        ReachRole,                    /**< int, a Glyphs::Reach */
+        SignalRole                    /**< int, as Overview::Entry::signal. */
+    };
+
+    explicit NetworkDelegate(QObject *parent, Places places = WithPlaces);
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option,
+               const QModelIndex &index) const override;
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
+
+private:
+    QRect GlyphArea(const QStyleOptionViewItem &option) const;
+    // What is laid out from left to right is mirrored in row for the other direction.
+    static void PaintGround(QPainter *painter, const QStyleOptionViewItem &option, bool isInUse,
+                            const Tones &tones);
+    static QRect PaintState(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index,
+                            const Tones &tones);
+    static void PaintTexts(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index,
+                           const QRect &area, const Tones &tones);
+    static void PaintSection(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index,
+                             const Tones &tones);
+
+    const Places m_places;
+};
+
+#endif
