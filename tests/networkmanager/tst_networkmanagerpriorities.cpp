@@ -6,6 +6,7 @@
 #include <TraceCapture.h>
 
 #include <QFile>
+#include <QLockFile>
 #include <QPointer>
 #include <QWidget>
 #include <QtTest>
@@ -69,6 +70,8 @@ private slots:
     void ProfilesOfOneNameHaveOnePlace();
     void ProfilesOutsideTheListAreLeftAlone();
     void EntryThatLeavesGetsItsFormerPriority();
+    void WhatAnotherProgramOfTheUserHasDoneIsSetBackToo();
+    void ProgramsOfOneUserWorkInTurns();
     void ForeignPriorityIsNotSetBack();
     void RemovedListSetsAllBackAndANewOneIsFollowed();
     void ListThatGoesBackToWhatItWasIsFollowed();
@@ -471,6 +474,33 @@ void tst_networkmanagerpriorities::EntryThatLeavesGetsItsFormerPriority()
     QCOMPARE(Fake().PriorityOf(a), alone);
     SetList("B");
     QTRY_COMPARE(Fake().PriorityOf(a), -12);
+}
+
+void tst_networkmanagerpriorities::WhatAnotherProgramOfTheUserHasDoneIsSetBackToo()
+{
+    const QString a = AddProfile("A", 12);
+    const QString uuid = Fake().SettingsOf(a)["connection"]["uuid"].toString();
+    Begin("B");
+    Directory().Write("NetworkManager.ini", QString("[priorities]\n%1=12 999\n").arg(uuid).toUtf8());
+    Fake().SetSetting(a, "connection", "autoconnect-priority", 999);
+    SetList("A B");
+    Settle();
+    QCOMPARE(Fake().PriorityOf(a), 999);
+    SetList("B");
+    QTRY_COMPARE(Fake().PriorityOf(a), 12);
+}
+
+void tst_networkmanagerpriorities::ProgramsOfOneUserWorkInTurns()
+{
+    const QString a = AddProfile("A", 0);
+    Begin("B");
+    QLockFile otherProgram(Directory().FilePath("NetworkManager.ini.use"));
+    QVERIFY(otherProgram.tryLock());
+    SetList("A");
+    Settle();
+    QCOMPARE(Fake().PriorityOf(a), 0);
+    otherProgram.unlock();
+    QTRY_COMPARE(Fake().PriorityOf(a), alone);
 }
 
 void tst_networkmanagerpriorities::ForeignPriorityIsNotSetBack()

@@ -97,6 +97,7 @@ private slots:
     void ForeignValueIsNotSetBack();
     void ForeignValueThatFollowsTheListStays();
     void ForeignValueInTheListIsOverwrittenAndRemembered();
+    void ValueOfAnotherProgramOfOursThatComesLateIsOwn();
     void SetBackIsTriedAgainUntilItIsDone();
     void InterruptedWriteIsStillOwn();
     void RecordGoesWithTheSetBack();
@@ -104,7 +105,8 @@ private slots:
     void RecordsSurviveTheProgram();
     void RecordsAreOnlyWrittenWhenTheyChange();
     void DamagedRecordsAreLeftOut();
-    void RecordsThatCannotBeWrittenAreTold();
+    void RecordsThatCannotBeWrittenAreToldAndKept();
+    void RecordsAreUsedByOneProgramAtATime();
 
     void WhatWasConnectedBeforeTheRecordsIsOld();
     void FirstConnectionIsFound();
@@ -266,8 +268,7 @@ void tst_priorityplan::ProfileWithoutItsAccountIsNotTriedFirst()
     NetworkProfile incomplete = Profile("A", 999);
     incomplete.lacksAccount = true;
     Records records;
-    records["uuid-of-A"].written = 999;
-    records["uuid-of-A"].intended = 999;
+    records["uuid-of-A"].AddOwn(999);
     QCOMPARE(Plan(List("A B"), QList<NetworkProfile>() << incomplete << Profile("B"), &records),
              QStringList() << "A=0"
                            << "B=500");
@@ -352,6 +353,18 @@ void tst_priorityplan::ForeignValueInTheListIsOverwrittenAndRemembered()
     QCOMPARE(Plan(List(""), QList<NetworkProfile>() << Profile("A", 500), &records), QStringList("A=-50"));
 }
 
+void tst_priorityplan::ValueOfAnotherProgramOfOursThatComesLateIsOwn()
+{
+    Records records;
+    records["uuid-of-A"].before = 12;
+    records["uuid-of-A"].AddOwn(700);
+    records["uuid-of-A"].AddOwn(400);
+    // Its writes are made, and not yet heard of.
+    Plan(List("A"), QList<NetworkProfile>() << Profile("A", 12), &records);
+    Plan(List("B A"), QList<NetworkProfile>() << Profile("A", 700) << Profile("B", 600), &records);
+    QCOMPARE(Plan(List(""), QList<NetworkProfile>() << Profile("A", 400), &records), QStringList("A=12"));
+}
+
 void tst_priorityplan::SetBackIsTriedAgainUntilItIsDone()
 {
     Records records;
@@ -385,18 +398,18 @@ void tst_priorityplan::RecordsSurviveTheProgram()
         CPriorityRecords records(directory.FilePath("records.ini"));
         QVERIFY(!records.isConnectedKnown);
         records.priorities["first"].before = -3;
-        records.priorities["first"].written = 999;
-        records.priorities["first"].intended = 998;
+        records.priorities["first"].AddOwn(999);
+        records.priorities["first"].AddOwn(998);
         records.isConnectedKnown = true;
         records.connected << "one"
                           << "two, with a comma";
         QVERIFY(records.Save());
     }
-    const CPriorityRecords records(directory.FilePath("records.ini"));
+    CPriorityRecords records(directory.FilePath("records.ini"));
+    QVERIFY(records.Open());
     QCOMPARE(records.priorities.size(), 1);
     QCOMPARE(records.priorities.value("first").before, -3);
-    QCOMPARE(records.priorities.value("first").written, 999);
-    QCOMPARE(records.priorities.value("first").intended, 998);
+    QCOMPARE(records.priorities.value("first").own, QList<int>({999, 998}));
     QVERIFY(records.isConnectedKnown);
     QCOMPARE(records.connected, QSet<QString>() << "one"
                                                 << "two, with a comma");
@@ -419,18 +432,42 @@ void tst_priorityplan::DamagedRecordsAreLeftOut()
 {
     const TemporaryDirectory directory;
     directory.Write("records.ini",
-                    "[priorities]\na=1 2 3\nb=1 2\nc=x y z\nd=\ne=1 2 3 4\nf=99999999999 1 1\n");
-    const CPriorityRecords records(directory.FilePath("records.ini"));
+                    "[priorities]\na=1 2 3\nb=1\nc=x y z\nd=\ne=1 2 x\nf=99999999999 1 1\n");
+    CPriorityRecords records(directory.FilePath("records.ini"));
+    QVERIFY(records.Open());
     QCOMPARE(records.priorities.keys(), QList<QString>() << "a");
 }
 
-void tst_priorityplan::RecordsThatCannotBeWrittenAreTold()
+void tst_priorityplan::RecordsThatCannotBeWrittenAreToldAndKept()
 {
     const TemporaryDirectory directory;
     CPriorityRecords records(directory.FilePath("absent/because/this is a file/records.ini"));
     directory.Write("absent", "a file");
     records.isConnectedKnown = true;
     QVERIFY(!records.Save());
+    records.Close();
+    QVERIFY(records.Open());
+    QVERIFY(records.isConnectedKnown);
+}
+
+void tst_priorityplan::RecordsAreUsedByOneProgramAtATime()
+{
+    const TemporaryDirectory directory;
+    CPriorityRecords one(directory.FilePath("records.ini"));
+    CPriorityRecords other(directory.FilePath("records.ini"));
+    QVERIFY(one.Open());
+    QVERIFY(!other.Open());
+    one.priorities["first"].before = 12;
+    one.priorities["first"].AddOwn(999);
+    QVERIFY(one.Save());
+    one.Close();
+    QVERIFY(other.Open());
+    QCOMPARE(other.priorities, one.priorities);
+    other.priorities.clear();
+    QVERIFY(other.Save());
+    other.Close();
+    QVERIFY(one.Open());
+    QVERIFY(one.priorities.isEmpty());
 }
 
 void tst_priorityplan::WhatWasConnectedBeforeTheRecordsIsOld()

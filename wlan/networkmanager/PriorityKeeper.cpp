@@ -113,10 +113,16 @@ void CPriorityKeeper::Compare()
         Complain(QString::fromLatin1("not all profiles are compared with the list: %1")
                      .arg(DescriptionOf(m_picture->Shortfall())));
     }
+    if (!m_records.Open()) {
+        m_isDueAgain = true;
+        End();
+        return;
+    }
     QList<PriorityList> list;
     if (!ReadList(&list)) {
         End();
     } else if (RaiseFirstConnections(picture, list)) {
+        SaveRecords();
         m_isDueAgain = true;
         End();
     } else {
@@ -170,12 +176,17 @@ void CPriorityKeeper::Write(const QList<NetworkProfile> &profiles, const QList<P
     const PlannedPriorities planned = PriorityPlan::Make(list, profiles, &m_records.priorities);
     Tell(planned);
     // Saved first: a priority that was written and not recorded could never be told from somebody else's.
+    SaveRecords();
+    m_writer.Start(planned.changes);
+}
+
+void CPriorityKeeper::SaveRecords()
+{
     if (!m_records.Save()) {
         Complain(QLatin1String(
             "NetworkManager.ini can't be written: what this program has changed in NetworkManager "
             "will be forgotten when it ends"));
     }
-    m_writer.Start(planned.changes);
 }
 
 void CPriorityKeeper::Tell(const PlannedPriorities &planned)
@@ -240,6 +251,7 @@ void CPriorityKeeper::Complain(const QString &text)
 
 void CPriorityKeeper::End()
 {
+    m_records.Close();
     m_log.Tell(m_complaints);
     if (m_isDueAgain) {
         m_isDueAgain = false;

@@ -56,6 +56,7 @@ private:
     bool ReadList(QList<PriorityList> *list);
     bool RaiseFirstConnections(const ConnectionPicture &picture, const QList<PriorityList> &list);
     void Write(const QList<NetworkProfile> &profiles, const QList<PriorityList> &list);
+    void SaveRecords();
     void Tell(const PlannedPriorities &planned);
     /** The name of the first profile that the user has not been told of, who is told of all of them now. */
     QString FirstUntold(const QList<NetworkProfile> &profiles, const QSet<QString> &told);

@@ -38,6 +38,13 @@ bool IsOwn(const NetworkProfile &profile, const QMap<QString, PriorityRecord> &r
     return records.contains(profile.uuid) && records.value(profile.uuid).IsOwn(profile.priority);
 }
 
+/** As well when what another program of ours has written has not arrived here yet. */
+bool IsKnown(const NetworkProfile &profile, const QMap<QString, PriorityRecord> &records)
+{
+    const bool isBefore = records.contains(profile.uuid) && records[profile.uuid].before == profile.priority;
+    return isBefore || IsOwn(profile, records);
+}
+
 /** What it has without the list, as far as that can be changed. */
 int PriorityBefore(const NetworkProfile &profile, const QMap<QString, PriorityRecord> &records)
 {
@@ -138,22 +145,23 @@ PlannedPriorities PriorityPlan::Make(const QList<PriorityList> &list, const QLis
             profile.uuid.isEmpty()) {
             continue;
         }
-        const bool isOwn = IsOwn(profile, *records);
-        const int before = PriorityBefore(profile, *records);
-
+        const bool isKnown = IsKnown(profile, *records);
         PriorityChange change;
         change.profile = profile;
-        change.priority = fitted.priorities.value(place, before);
+        change.priority = fitted.priorities.value(place, PriorityBefore(profile, *records));
         const bool isToBeWritten = change.priority != profile.priority;
         if (isToBeWritten) {
             planned.changes.append(change);
         }
-        if (isToBeWritten || (isOwn && place >= 0)) {
-            PriorityRecord next;
-            next.before = before;
-            next.written = isOwn ? profile.priority : change.priority;
-            next.intended = change.priority;
-            records->insert(profile.uuid, next);
+        if (isToBeWritten || (isKnown && place >= 0)) {
+            PriorityRecord &record = (*records)[profile.uuid];
+            if (!isKnown) {
+                record = PriorityRecord();
+                record.before = profile.priority;
+            }
+            if (isToBeWritten) {
+                record.AddOwn(change.priority);
+            }
         } else {
             records->remove(profile.uuid);
         }

@@ -3,6 +3,8 @@
 #include <QSettings>
 #include <QStringList>
 
+#include <utility>
+
 namespace
 {
 
@@ -21,16 +23,32 @@ QString PrioritiesGroup()
     return QLatin1String("priorities");
 }
 
-/** A record is three numbers with blanks between them. */
+/** A record is numbers with blanks between them: the former one, then our own. */
 bool ReadRecord(const QString &text, PriorityRecord *record)
 {
-    int *const numbers[] = {&record->before, &record->written, &record->intended};
     const QStringList parts = text.split(QLatin1Char(' '));
-    bool isSound = parts.size() == 3;
-    for (int i = 0; i < 3 && isSound; ++i) {
-        *numbers[i] = parts.at(i).toInt(&isSound);
+    QList<int> numbers;
+    for (const QString &part : parts) {
+        bool isSound = false;
+        numbers.append(part.toInt(&isSound));
+        if (!isSound) {
+            return false;
+        }
     }
-    return isSound;
+    record->before = numbers.takeFirst();
+    for (const int number : std::as_const(numbers)) {
+        record->AddOwn(number);
+    }
+    return !record->own.isEmpty();
+}
+
+QString WrittenRecord(const PriorityRecord &record)
+{
+    QStringList numbers(QString::number(record.before));
+    for (const int number : record.own) {
+        numbers.append(QString::number(number));
+    }
+    return numbers.join(QLatin1Char(' '));
 }
 
 QSet<QString> ReadUuids(const QSettings &settings, const QString &key)
@@ -52,15 +70,38 @@ void WriteUuids(const QSet<QString> &uuids, const QString &key, QSettings *setti
 
 } // namespace
 
-CPriorityRecords::CPriorityRecords(const QString &file) : m_file(file)
+void PriorityRecord::AddOwn(int priority)
+{
+    const int mostOwn = 8;
+    own.removeAll(priority);
+    own.append(priority);
+    if (own.size() > mostOwn) {
+        own.removeFirst();
+    }
+}
+
+CPriorityRecords::CPriorityRecords(const QString &file) : m_file(file) {}
+
+bool CPriorityRecords::Open()
 {
     if (m_file.isEmpty()) {
-        return;
+        return true;
+    }
+    QScopedPointer<QLockFile> lock(new QLockFile(m_file + QLatin1String(".use")));
+    // It is over when the program that has it is, and not earlier.
+    lock->setStaleLockTime(0);
+    if (!lock->tryLock(0) && lock->error() == QLockFile::LockFailedError) {
+        return false;
+    }
+    m_lock.swap(lock);
+    if (m_isUnsaved) {
+        return true;
     }
     QSettings settings(m_file, QSettings::IniFormat);
     isConnectedKnown = settings.contains(ConnectedKey());
     connected = ReadUuids(settings, ConnectedKey());
     told = ReadUuids(settings, ToldKey());
+    priorities.clear();
     settings.beginGroup(PrioritiesGroup());
     const QStringList keys = settings.childKeys();
     for (int i = 0; i < keys.size(); ++i) {
@@ -69,6 +110,18 @@ CPriorityRecords::CPriorityRecords(const QString &file) : m_file(file)
             priorities.insert(keys.at(i), record);
         }
     }
+    Note();
+    return true;
+}
+
+void CPriorityRecords::Close()
+{
+    m_lock.reset();
+}
+
+/** What is in the file now. */
+void CPriorityRecords::Note()
+{
     m_savedPriorities = priorities;
     m_savedConnected = connected;
     m_savedTold = told;
@@ -90,19 +143,14 @@ bool CPriorityRecords::Save()
     settings.remove(QString());
     for (QMap<QString, PriorityRecord>::const_iterator i = priorities.constBegin();
          i != priorities.constEnd(); ++i) {
-        settings.setValue(i.key(), QString::fromLatin1("%1 %2 %3")
-                                       .arg(i.value().before)
-                                       .arg(i.value().written)
-                                       .arg(i.value().intended));
+        settings.setValue(i.key(), WrittenRecord(i.value()));
     }
     settings.endGroup();
     settings.sync();
-    if (settings.status() != QSettings::NoError) {
+    m_isUnsaved = settings.status() != QSettings::NoError;
+    if (m_isUnsaved) {
         return false;
     }
-    m_savedPriorities = priorities;
-    m_savedConnected = connected;
-    m_savedTold = told;
-    m_isConnectedSaved = isConnectedKnown;
+    Note();
     return true;
 }

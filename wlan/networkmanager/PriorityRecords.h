@@ -1,7 +1,10 @@
 #ifndef PRIORITYRECORDS_H
 #define PRIORITYRECORDS_H
 
+#include <QList>
+#include <QLockFile>
 #include <QMap>
+#include <QScopedPointer>
 #include <QSet>
 #include <QString>
 
@@ -9,27 +12,35 @@
 struct PriorityRecord {
     /** What it was before. */
     int before = 0;
-    /** What it was made, and what it is being made: the program may end before it is. */
-    int written = 0;
-    int intended = 0;
+    /**
+     * What it was made, the latest last. That one is perhaps still to be written, and an earlier one is what
+     * there is while another program of ours is slower: so some of them are kept.
+     */
+    QList<int> own;
 
-    bool IsOwn(int priority) const { return priority == written || priority == intended; }
-    bool operator==(const PriorityRecord &other) const
-    {
-        return before == other.before && written == other.written && intended == other.intended;
-    }
+    bool IsOwn(int priority) const { return own.contains(priority); }
+    void AddOwn(int priority);
+    bool operator==(const PriorityRecord &other) const { return before == other.before && own == other.own; }
 };
 
 /**
  * What has to outlive the program for it to tell its own work from that of others: the priorities that it
  * wrote, the profiles that it has known as connected, and those that it has told of. Profiles are named by
  * their uuid; there is nothing else in the file.
+ *
+ * All programs of a user share the file. Who works with it has it alone, from Open to Close, which is to
+ * include what is done to NetworkManager: another one would take our priorities for somebody's own.
  */
 class CPriorityRecords
 {
 public:
     /** @param file  an INI file, which may be missing. Empty: nothing outlives the program. */
     explicit CPriorityRecords(const QString &file);
+
+    /** Reads the file anew, unless it could not be written. False, and nothing is read: another program has
+     * it now. */
+    bool Open();
+    void Close();
 
     QMap<QString, PriorityRecord> priorities;
 
@@ -46,11 +57,16 @@ public:
 private:
     Q_DISABLE_COPY(CPriorityRecords)
 
+    void Note();
+
     const QString m_file;
+    QScopedPointer<QLockFile> m_lock;
     QMap<QString, PriorityRecord> m_savedPriorities;
     QSet<QString> m_savedConnected;
     QSet<QString> m_savedTold;
     bool m_isConnectedSaved = false;
+    /** What is known here is more than the file has, as it can't be written. */
+    bool m_isUnsaved = false;
 };
 
 #endif
