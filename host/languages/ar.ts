@@ -221,6 +221,14 @@
         <translation>تُضاف الشبكة التي ليست في قائمتك إلى آخر القائمة.</translation>
     </message>
     <message>
+        <source>IDS_CONNECT_HINT_TOP</source>
+        <translation>تُضاف الشبكة التي ليست في قائمتك إلى أول القائمة.</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_HINT_NONE</source>
+        <translation>لا تُضاف الشبكة التي ليست في قائمتك إلى القائمة.</translation>
+    </message>
+    <message>
         <source>IDS_CONNECT_NETWORK</source>
         <translation>الشبكة</translation>
     </message>
@@ -335,6 +343,23 @@
     <message>
         <source>IDS_GENERAL_LANGUAGE</source>
         <translation>اللغة</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_NEW</source>
+        <extracomment>In the settings, above a box with the next three texts: where networks go in the list that are connected for the first time</extracomment>
+        <translation>الشبكات الجديدة</translation>
+    </message>
+    <message>
+        <source>IDS_NEW_AT_END</source>
+        <translation>في آخر قائمتك</translation>
+    </message>
+    <message>
+        <source>IDS_NEW_AT_TOP</source>
+        <translation>في أول قائمتك</translation>
+    </message>
+    <message>
+        <source>IDS_NEW_NOT_LISTED</source>
+        <translation>خارج قائمتك</translation>
     </message>
     <message>
         <source>IDS_GENERAL_PLUGINS</source>

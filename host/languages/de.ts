@@ -221,6 +221,14 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
         <translation>Ein Netzwerk, das nicht in Ihrer Liste steht, kommt an ihr Ende.</translation>
     </message>
     <message>
+        <source>IDS_CONNECT_HINT_TOP</source>
+        <translation>Ein Netzwerk, das nicht in Ihrer Liste steht, kommt an ihren Anfang.</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_HINT_NONE</source>
+        <translation>Ein Netzwerk, das nicht in Ihrer Liste steht, kommt auch nicht hinein.</translation>
+    </message>
+    <message>
         <source>IDS_CONNECT_NETWORK</source>
         <translation>Netzwerk</translation>
     </message>
@@ -335,6 +343,23 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
     <message>
         <source>IDS_GENERAL_LANGUAGE</source>
         <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_NEW</source>
+        <extracomment>In the settings, above a box with the next three texts: where networks go in the list that are connected for the first time</extracomment>
+        <translation>Neue Netzwerke</translation>
+    </message>
+    <message>
+        <source>IDS_NEW_AT_END</source>
+        <translation>Am Ende Ihrer Liste</translation>
+    </message>
+    <message>
+        <source>IDS_NEW_AT_TOP</source>
+        <translation>Am Anfang Ihrer Liste</translation>
+    </message>
+    <message>
+        <source>IDS_NEW_NOT_LISTED</source>
+        <translation>Nicht in Ihrer Liste</translation>
     </message>
     <message>
         <source>IDS_GENERAL_PLUGINS</source>

@@ -244,6 +244,14 @@ You can use letters, digits and these symbols:
         <translation>A network that is not in your list goes to its end.</translation>
     </message>
     <message>
+        <source>IDS_CONNECT_HINT_TOP</source>
+        <translation>A network that is not in your list goes to its top.</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_HINT_NONE</source>
+        <translation>A network that is not in your list stays out of it.</translation>
+    </message>
+    <message>
         <source>IDS_CONNECT_NETWORK</source>
         <translation>Network</translation>
     </message>
@@ -365,6 +373,23 @@ You can use letters, digits and these symbols:
     <message>
         <source>IDS_GENERAL_LANGUAGE</source>
         <translation>Language</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_NEW</source>
+        <extracomment>In the settings, above a box with the next three texts: where networks go in the list that are connected for the first time</extracomment>
+        <translation>New networks</translation>
+    </message>
+    <message>
+        <source>IDS_NEW_AT_END</source>
+        <translation>At the end of your list</translation>
+    </message>
+    <message>
+        <source>IDS_NEW_AT_TOP</source>
+        <translation>At the top of your list</translation>
+    </message>
+    <message>
+        <source>IDS_NEW_NOT_LISTED</source>
+        <translation>Not in your list</translation>
     </message>
     <message>
         <source>IDS_GENERAL_PLUGINS</source>

@@ -221,6 +221,14 @@ Puede usar letras, números y estos símbolos:
         <translation>Una red que no está en su lista pasa al final de ella.</translation>
     </message>
     <message>
+        <source>IDS_CONNECT_HINT_TOP</source>
+        <translation>Una red que no está en su lista pasa al principio de ella.</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_HINT_NONE</source>
+        <translation>Una red que no está en su lista no se añade a ella.</translation>
+    </message>
+    <message>
         <source>IDS_CONNECT_NETWORK</source>
         <translation>Red</translation>
     </message>
@@ -335,6 +343,23 @@ Puede usar letras, números y estos símbolos:
     <message>
         <source>IDS_GENERAL_LANGUAGE</source>
         <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_NEW</source>
+        <extracomment>In the settings, above a box with the next three texts: where networks go in the list that are connected for the first time</extracomment>
+        <translation>Redes nuevas</translation>
+    </message>
+    <message>
+        <source>IDS_NEW_AT_END</source>
+        <translation>Al final de su lista</translation>
+    </message>
+    <message>
+        <source>IDS_NEW_AT_TOP</source>
+        <translation>Al principio de su lista</translation>
+    </message>
+    <message>
+        <source>IDS_NEW_NOT_LISTED</source>
+        <translation>Fuera de su lista</translation>
     </message>
     <message>
         <source>IDS_GENERAL_PLUGINS</source>

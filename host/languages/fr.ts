@@ -221,6 +221,14 @@ Vous pouvez utiliser des lettres, des chiffres et les symboles suivants&#xa0;:
         <translation>Un réseau qui n’est pas dans votre liste est mis à la fin.</translation>
     </message>
     <message>
+        <source>IDS_CONNECT_HINT_TOP</source>
+        <translation>Un réseau qui n’est pas dans votre liste est mis en tête.</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_HINT_NONE</source>
+        <translation>Un réseau qui n’est pas dans votre liste n’y est pas ajouté.</translation>
+    </message>
+    <message>
         <source>IDS_CONNECT_NETWORK</source>
         <translation>Réseau</translation>
     </message>
@@ -335,6 +343,23 @@ Vous pouvez utiliser des lettres, des chiffres et les symboles suivants&#xa0;:
     <message>
         <source>IDS_GENERAL_LANGUAGE</source>
         <translation>Langue</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_NEW</source>
+        <extracomment>In the settings, above a box with the next three texts: where networks go in the list that are connected for the first time</extracomment>
+        <translation>Nouveaux réseaux</translation>
+    </message>
+    <message>
+        <source>IDS_NEW_AT_END</source>
+        <translation>À la fin de votre liste</translation>
+    </message>
+    <message>
+        <source>IDS_NEW_AT_TOP</source>
+        <translation>En tête de votre liste</translation>
+    </message>
+    <message>
+        <source>IDS_NEW_NOT_LISTED</source>
+        <translation>Pas dans votre liste</translation>
     </message>
     <message>
         <source>IDS_GENERAL_PLUGINS</source>

@@ -221,6 +221,14 @@
         <translation>רשת שאינה ברשימה שלך מתווספת לסוף הרשימה.</translation>
     </message>
     <message>
+        <source>IDS_CONNECT_HINT_TOP</source>
+        <translation>רשת שאינה ברשימה שלך מתווספת לראש הרשימה.</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_HINT_NONE</source>
+        <translation>רשת שאינה ברשימה שלך אינה מתווספת לרשימה.</translation>
+    </message>
+    <message>
         <source>IDS_CONNECT_NETWORK</source>
         <translation>רשת</translation>
     </message>
@@ -335,6 +343,23 @@
     <message>
         <source>IDS_GENERAL_LANGUAGE</source>
         <translation>שפה</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_NEW</source>
+        <extracomment>In the settings, above a box with the next three texts: where networks go in the list that are connected for the first time</extracomment>
+        <translation>רשתות חדשות</translation>
+    </message>
+    <message>
+        <source>IDS_NEW_AT_END</source>
+        <translation>בסוף הרשימה שלך</translation>
+    </message>
+    <message>
+        <source>IDS_NEW_AT_TOP</source>
+        <translation>בראש הרשימה שלך</translation>
+    </message>
+    <message>
+        <source>IDS_NEW_NOT_LISTED</source>
+        <translation>מחוץ לרשימה שלך</translation>
     </message>
     <message>
         <source>IDS_GENERAL_PLUGINS</source>

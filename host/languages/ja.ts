@@ -221,6 +221,14 @@
         <translation>リストにないネットワークは、リストの最後に入ります。</translation>
     </message>
     <message>
+        <source>IDS_CONNECT_HINT_TOP</source>
+        <translation>リストにないネットワークは、リストの先頭に入ります。</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_HINT_NONE</source>
+        <translation>リストにないネットワークは、リストに入りません。</translation>
+    </message>
+    <message>
         <source>IDS_CONNECT_NETWORK</source>
         <translation>ネットワーク</translation>
     </message>
@@ -335,6 +343,23 @@
     <message>
         <source>IDS_GENERAL_LANGUAGE</source>
         <translation>言語</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_NEW</source>
+        <extracomment>In the settings, above a box with the next three texts: where networks go in the list that are connected for the first time</extracomment>
+        <translation>新しいネットワーク</translation>
+    </message>
+    <message>
+        <source>IDS_NEW_AT_END</source>
+        <translation>リストの最後</translation>
+    </message>
+    <message>
+        <source>IDS_NEW_AT_TOP</source>
+        <translation>リストの先頭</translation>
+    </message>
+    <message>
+        <source>IDS_NEW_NOT_LISTED</source>
+        <translation>リストに入れない</translation>
     </message>
     <message>
         <source>IDS_GENERAL_PLUGINS</source>

@@ -221,6 +221,14 @@ Você pode usar letras, números e estes símbolos:
         <translation>Uma rede que não está na sua lista vai para o fim dela.</translation>
     </message>
     <message>
+        <source>IDS_CONNECT_HINT_TOP</source>
+        <translation>Uma rede que não está na sua lista vai para o topo dela.</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_HINT_NONE</source>
+        <translation>Uma rede que não está na sua lista não entra nela.</translation>
+    </message>
+    <message>
         <source>IDS_CONNECT_NETWORK</source>
         <translation>Rede</translation>
     </message>
@@ -335,6 +343,23 @@ Você pode usar letras, números e estes símbolos:
     <message>
         <source>IDS_GENERAL_LANGUAGE</source>
         <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_NEW</source>
+        <extracomment>In the settings, above a box with the next three texts: where networks go in the list that are connected for the first time</extracomment>
+        <translation>Redes novas</translation>
+    </message>
+    <message>
+        <source>IDS_NEW_AT_END</source>
+        <translation>No fim da sua lista</translation>
+    </message>
+    <message>
+        <source>IDS_NEW_AT_TOP</source>
+        <translation>No topo da sua lista</translation>
+    </message>
+    <message>
+        <source>IDS_NEW_NOT_LISTED</source>
+        <translation>Fora da sua lista</translation>
     </message>
     <message>
         <source>IDS_GENERAL_PLUGINS</source>

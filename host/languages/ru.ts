@@ -221,6 +221,14 @@
         <translation>Сеть, которой нет в вашем списке, попадёт в его конец.</translation>
     </message>
     <message>
+        <source>IDS_CONNECT_HINT_TOP</source>
+        <translation>Сеть, которой нет в вашем списке, попадёт в его начало.</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_HINT_NONE</source>
+        <translation>Сеть, которой нет в вашем списке, не попадёт в него.</translation>
+    </message>
+    <message>
         <source>IDS_CONNECT_NETWORK</source>
         <translation>Сеть</translation>
     </message>
@@ -335,6 +343,23 @@
     <message>
         <source>IDS_GENERAL_LANGUAGE</source>
         <translation>Язык</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_NEW</source>
+        <extracomment>In the settings, above a box with the next three texts: where networks go in the list that are connected for the first time</extracomment>
+        <translation>Новые сети</translation>
+    </message>
+    <message>
+        <source>IDS_NEW_AT_END</source>
+        <translation>В конце вашего списка</translation>
+    </message>
+    <message>
+        <source>IDS_NEW_AT_TOP</source>
+        <translation>В начале вашего списка</translation>
+    </message>
+    <message>
+        <source>IDS_NEW_NOT_LISTED</source>
+        <translation>Вне вашего списка</translation>
     </message>
     <message>
         <source>IDS_GENERAL_PLUGINS</source>

@@ -221,6 +221,14 @@
         <translation>不在列表中的网络会排到列表末尾。</translation>
     </message>
     <message>
+        <source>IDS_CONNECT_HINT_TOP</source>
+        <translation>不在列表中的网络会排到列表顶部。</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_HINT_NONE</source>
+        <translation>不在列表中的网络不会加入列表。</translation>
+    </message>
+    <message>
         <source>IDS_CONNECT_NETWORK</source>
         <translation>网络</translation>
     </message>
@@ -335,6 +343,23 @@
     <message>
         <source>IDS_GENERAL_LANGUAGE</source>
         <translation>语言</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_NEW</source>
+        <extracomment>In the settings, above a box with the next three texts: where networks go in the list that are connected for the first time</extracomment>
+        <translation>新网络</translation>
+    </message>
+    <message>
+        <source>IDS_NEW_AT_END</source>
+        <translation>列表末尾</translation>
+    </message>
+    <message>
+        <source>IDS_NEW_AT_TOP</source>
+        <translation>列表顶部</translation>
+    </message>
+    <message>
+        <source>IDS_NEW_NOT_LISTED</source>
+        <translation>不加入列表</translation>
     </message>
     <message>
         <source>IDS_GENERAL_PLUGINS</source>

@@ -229,7 +229,7 @@ void TestKeyboard::buttonsComeAfterThePage_data()
         << "pageList, upButton, downButton, addButton, deleteButton, newButton, priorityTable, "
            "settingsOkButton, settingsCancelButton";
     QTest::newRow("general page") << "settings, general page"
-                                  << "pageList, languageBox, settingsOkButton, settingsCancelButton";
+                                  << "pageList, languageBox, newNetworksBox, settingsOkButton, settingsCancelButton";
 }
 
 void TestKeyboard::buttonsComeAfterThePage()

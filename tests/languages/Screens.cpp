@@ -10,6 +10,7 @@
 #include <IPriorityPlugin.h>
 #include <IWLANUIPlugin.h>
 #include <ListActions.h>
+#include <ListRules.h>
 #include <Lists.h>
 #include <MainWindow.h>
 #include <OrderFile.h>
@@ -310,6 +311,8 @@ const Screens::Screen Screens::screens[] = {
     {"connect dialog", &Screens::ShowConnect, nullptr},
     {"connect dialog, nothing in range", &Screens::ShowConnect, noNetworks},
     {"connect dialog, key asked for", &Screens::ShowConnecting, "key"},
+    {"connect dialog, new ones at the top", &Screens::ShowConnecting, "top"},
+    {"connect dialog, new ones not listed", &Screens::ShowConnecting, "not listed"},
     {"connect dialog, no key of WPA", &Screens::ShowConnecting, "no key"},
     {"connect dialog, no key of WEP", &Screens::ShowConnecting, "no WEP key"},
     {"connect dialog, account needed", &Screens::ShowConnecting, "account"},
@@ -705,6 +708,10 @@ void Screens::ShowConnecting(const char *what)
     connections.attempt.stage = isUnderWay ? StageAuthenticating : failure > 0 ? StageFailed : StageConnected;
     connections.attempt.failure = failure > 0 ? failure : int(FailureNotStored);
     Fill();
+    if (shown == "top" || shown == "not listed") {
+        ListRules::SetPlaceOfNewNetworks(shown == "top" ? ListRules::NewAtTheTop
+                                                        : ListRules::NewNotInTheList);
+    }
     WithConnections container(m_plugins.data(), &connections);
     HostControl::SetPluginContainer(&container);
     OpenWindow(m_plugins.data());
@@ -716,7 +723,8 @@ void Screens::ShowConnecting(const char *what)
     QListWidget *list = Child<QListWidget>("connectList");
     list->setCurrentItem(list->findItems(chosen, Qt::MatchExactly).first());
     Child<QLineEdit>("connectKeyEdit")->setText(QLatin1String("sea-and-sand"));
-    if (shown != "key" && shown != "account" && shown != "away") {
+    const QList<QByteArray> notOrdered{"key", "account", "away", "top", "not listed"};
+    if (!notOrdered.contains(shown)) {
         Click("connectOkButton");
     }
     if (shown == "long") {

@@ -90,11 +90,13 @@ private slots:
     void MeaninglessAnswerLosesNothing();
     void UnreadableProfileIsToldAndTheOthersAreWritten();
 
-    void FirstConnectionGoesToTheTop();
-    void ConnectionIsRaisedWhenItIsMadeAndNotBefore();
-    void SecondConnectionIsNotRaised();
-    void DeletedEntryIsNotRaisedAgain();
-    void WhatWasConnectedBeforeTheFirstStartIsNotRaised();
+    void FirstConnectionGoesWhereTheUserWantsIt_data();
+    void FirstConnectionGoesWhereTheUserWantsIt();
+    void NetworkThatIsKeptOutOfTheListIsNotAddedLater();
+    void ConnectionIsAddedWhenItIsMadeAndNotBefore();
+    void SecondConnectionIsNotAdded();
+    void DeletedEntryIsNotAddedAgain();
+    void WhatWasConnectedBeforeTheFirstStartIsNotAdded();
 
 private:
     /** Has the real priority plug-in in the container, and waits for the first comparison to be over. */
@@ -723,22 +725,48 @@ void tst_networkmanagerpriorities::UnreadableProfileIsToldAndTheOthersAreWritten
                                    "NetworkManager's answer can't be understood"));
 }
 
-void tst_networkmanagerpriorities::FirstConnectionGoesToTheTop()
+void tst_networkmanagerpriorities::FirstConnectionGoesWhereTheUserWantsIt_data()
 {
-    const QString a = Fake().AddProfile("A");
-    const QString mobile = Fake().AddProfile("M", "gsm");
-    Begin("X Y");
-    Fake().Connect(a, activated);
-    QTRY_COMPARE(Listed(), QStringList() << "A/1"
-                                         << "X/1"
-                                         << "Y/1");
-    QTRY_COMPARE(Fake().PriorityOf(a), alone);
-    Fake().Connect(mobile, activated);
-    QTRY_COMPARE(Listed().value(0), QString("M/2"));
-    QTRY_VERIFY(IsBefore(mobile, a));
+    QTest::addColumn<QByteArray>("place");
+    QTest::addColumn<QStringList>("after");
+    QTest::newRow("not chosen") << QByteArray() << QStringList{"X/1", "A/1", "M/2"};
+    QTest::newRow("at the end") << QByteArray("end") << QStringList{"X/1", "A/1", "M/2"};
+    QTest::newRow("at the top") << QByteArray("top") << QStringList{"M/2", "A/1", "X/1"};
+    QTest::newRow("not at all") << QByteArray("none") << QStringList{"X/1"};
 }
 
-void tst_networkmanagerpriorities::ConnectionIsRaisedWhenItIsMadeAndNotBefore()
+void tst_networkmanagerpriorities::FirstConnectionGoesWhereTheUserWantsIt()
+{
+    QFETCH(QByteArray, place);
+    QFETCH(QStringList, after);
+    const QString a = Fake().AddProfile("A");
+    const QString mobile = Fake().AddProfile("M", "gsm");
+    Directory().Write("rules.ini", "[General]\nnewNetworks=" + place + '\n');
+    Begin("X");
+    Fake().Connect(a, activated);
+    QTRY_COMPARE(Listed().contains("A/1"), after.contains("A/1"));
+    Settle();
+    Fake().Connect(mobile, activated);
+    QTRY_COMPARE(Listed(), after);
+    if (after.size() == 3) {
+        QTRY_VERIFY(place == "top" ? IsBefore(mobile, a) : IsBefore(a, mobile));
+    }
+}
+
+void tst_networkmanagerpriorities::NetworkThatIsKeptOutOfTheListIsNotAddedLater()
+{
+    const QString a = Fake().AddProfile("A");
+    Directory().Write("rules.ini", "[General]\nnewNetworks=none\n");
+    Begin("X");
+    Fake().Connect(a, activated);
+    Settle();
+    Directory().Write("rules.ini", "[General]\nnewNetworks=end\n");
+    SetList("Y");
+    Settle();
+    QCOMPARE(Listed(), QStringList("Y/1"));
+}
+
+void tst_networkmanagerpriorities::ConnectionIsAddedWhenItIsMadeAndNotBefore()
 {
     const QString a = Fake().AddProfile("A");
     Begin("X");
@@ -746,10 +774,10 @@ void tst_networkmanagerpriorities::ConnectionIsRaisedWhenItIsMadeAndNotBefore()
     Settle();
     QCOMPARE(Listed(), QStringList("X/1"));
     Fake().SetConnectionState(connection, activated);
-    QTRY_COMPARE(Listed().value(0), QString("A/1"));
+    QTRY_COMPARE(Listed().value(1), QString("A/1"));
 }
 
-void tst_networkmanagerpriorities::SecondConnectionIsNotRaised()
+void tst_networkmanagerpriorities::SecondConnectionIsNotAdded()
 {
     const QString a = Fake().AddProfile("A");
     Begin("X A");
@@ -759,12 +787,12 @@ void tst_networkmanagerpriorities::SecondConnectionIsNotRaised()
                                      << "A/1");
 }
 
-void tst_networkmanagerpriorities::DeletedEntryIsNotRaisedAgain()
+void tst_networkmanagerpriorities::DeletedEntryIsNotAddedAgain()
 {
     const QString a = Fake().AddProfile("A");
     Begin("X");
     const QString connection = Fake().Connect(a, activated);
-    QTRY_COMPARE(Listed().value(0), QString("A/1"));
+    QTRY_COMPARE(Listed().value(1), QString("A/1"));
     SetList("X");
     Settle();
     Fake().SetConnectionState(connection, activating);
@@ -775,7 +803,7 @@ void tst_networkmanagerpriorities::DeletedEntryIsNotRaisedAgain()
     QCOMPARE(Listed(), QStringList("X/1"));
 }
 
-void tst_networkmanagerpriorities::WhatWasConnectedBeforeTheFirstStartIsNotRaised()
+void tst_networkmanagerpriorities::WhatWasConnectedBeforeTheFirstStartIsNotAdded()
 {
     const QString a = Fake().AddProfile("A");
     Fake().Connect(a, activated);

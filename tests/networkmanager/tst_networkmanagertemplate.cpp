@@ -84,7 +84,7 @@ private slots:
     void ProfileThatWasDeletedIsUnknown();
 
     void OrderOfTheListTakesEffect();
-    void ConnectionIsRaisedWhenItIsMadeAndNotBefore();
+    void ConnectionIsAddedWhenItIsMadeAndNotBefore();
 
 private:
     MockNetworkManager &Mock() { return *m_mock; }
@@ -426,7 +426,7 @@ void tst_networkmanagertemplate::OrderOfTheListTakesEffect()
     QTRY_VERIFY(priorityOf(mobile) > priorityOf(wifi));
 }
 
-void tst_networkmanagertemplate::ConnectionIsRaisedWhenItIsMadeAndNotBefore()
+void tst_networkmanagertemplate::ConnectionIsAddedWhenItIsMadeAndNotBefore()
 {
     BeginWithList();
     const QString device = Mock().AddWifiDevice("wlan0");
@@ -436,8 +436,8 @@ void tst_networkmanagertemplate::ConnectionIsRaisedWhenItIsMadeAndNotBefore()
     Settle();
     QCOMPARE(Listed(), QStringList("X/1"));
     Mock().SetProperty(connection, activeConnection, "State", activated);
-    QTRY_COMPARE(Listed(), QStringList() << "A/1"
-                                         << "X/1");
+    QTRY_COMPARE(Listed(), QStringList() << "X/1"
+                                         << "A/1");
 }
 
 QTEST_MAIN(tst_networkmanagertemplate)

@@ -431,8 +431,7 @@ void tst_priorityplan::RecordsAreOnlyWrittenWhenTheyChange()
 void tst_priorityplan::DamagedRecordsAreLeftOut()
 {
     const TemporaryDirectory directory;
-    directory.Write("records.ini",
-                    "[priorities]\na=1 2 3\nb=1\nc=x y z\nd=\ne=1 2 x\nf=99999999999 1 1\n");
+    directory.Write("records.ini", "[priorities]\na=1 2 3\nb=1\nc=x y z\nd=\ne=1 2 x\nf=99999999999 1 1\n");
     CPriorityRecords records(directory.FilePath("records.ini"));
     QVERIFY(records.Open());
     QCOMPARE(records.priorities.keys(), QList<QString>() << "a");

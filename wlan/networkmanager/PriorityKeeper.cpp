@@ -6,12 +6,14 @@
 
 #include <FileWatcher.h>
 #include <IPriorityPlugin.h>
+#include <ListRules.h>
 #include <OrdinaryFile.h>
 #include <PluginSearch.h>
 
 #include <QStringList>
 
 #include <limits>
+#include <utility>
 
 namespace
 {
@@ -121,7 +123,7 @@ void CPriorityKeeper::Compare()
     QList<PriorityList> list;
     if (!ReadList(&list)) {
         End();
-    } else if (RaiseFirstConnections(picture, list)) {
+    } else if (AddFirstConnections(picture, list)) {
         SaveRecords();
         m_isDueAgain = true;
         End();
@@ -150,25 +152,35 @@ bool CPriorityKeeper::ReadList(QList<PriorityList> *list)
     }
 }
 
-bool CPriorityKeeper::RaiseFirstConnections(const ConnectionPicture &picture, const QList<PriorityList> &list)
+bool CPriorityKeeper::AddFirstConnections(const ConnectionPicture &picture, const QList<PriorityList> &list)
 {
     const QList<NetworkProfile> found =
         FirstConnections::Find(picture.profiles, picture.state.ConnectedProfiles(), list, &m_records);
-    bool isAnyRaised = false;
+    IPriorityPlugin *priority =
+        qobject_cast<IPriorityPlugin *>(FindPluginObject(priorityClassId, PriorityInterface));
+    const ListRules::NewNetworks place = ListRules::PlaceOfNewNetworks();
+    QList<PriorityList> entries;
     for (const NetworkProfile &profile : found) {
-        IPriorityPlugin *priority =
-            qobject_cast<IPriorityPlugin *>(FindPluginObject(priorityClassId, PriorityInterface));
         if (!priority) {
-            break;
+            return false;
         }
+        m_records.connected.insert(profile.uuid);
         PriorityList entry;
         entry.name = profile.name;
         entry.type = profile.TypeText();
-        priority->AddTopPriority(entry);
-        m_records.connected.insert(profile.uuid);
-        isAnyRaised = true;
+        entries.append(entry);
     }
-    return isAnyRaised;
+    if (place == ListRules::NewNotInTheList || entries.isEmpty()) {
+        return false;
+    }
+    if (place == ListRules::NewAtTheEnd) {
+        priority->AddPriorityList(entries);
+    } else {
+        for (const PriorityList &entry : std::as_const(entries)) {
+            priority->AddTopPriority(entry);
+        }
+    }
+    return true;
 }
 
 void CPriorityKeeper::Write(const QList<NetworkProfile> &profiles, const QList<PriorityList> &list)

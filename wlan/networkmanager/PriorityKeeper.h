@@ -20,7 +20,7 @@ struct ConnectionPicture;
 
 /**
  * Keeps the priority list and NetworkManager's priorities together: whatever changes in the list is written
- * to NetworkManager, and a network that is connected for the first time goes to the top of the list.
+ * to NetworkManager, and a network that is connected for the first time goes to its place in the list.
  *
  * Works in the background: nobody waits for it, and it may be deleted at any time. The list is read and
  * changed through the priority plug-in alone; its file is only watched.
@@ -54,7 +54,7 @@ private:
 
     void Compare();
     bool ReadList(QList<PriorityList> *list);
-    bool RaiseFirstConnections(const ConnectionPicture &picture, const QList<PriorityList> &list);
+    bool AddFirstConnections(const ConnectionPicture &picture, const QList<PriorityList> &list);
     void Write(const QList<NetworkProfile> &profiles, const QList<PriorityList> &list);
     void SaveRecords();
     void Tell(const PlannedPriorities &planned);

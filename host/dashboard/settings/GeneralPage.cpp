@@ -10,6 +10,7 @@
 
 #include <QComboBox>
 #include <QLabel>
+#include <QSignalBlocker>
 #include <QVBoxLayout>
 
 namespace
@@ -52,7 +53,8 @@ QString Line(const QString &text)
 
 GeneralPage::GeneralPage(DashboardLanguage *language, PluginHost *plugins)
     : m_language(language), m_plugins(plugins), m_languageLabel(nullptr), m_languageBox(nullptr),
-      m_pluginsLabel(nullptr), m_pluginsText(nullptr), m_placesLabel(nullptr), m_placesText(nullptr)
+      m_newLabel(nullptr), m_newBox(nullptr), m_pluginsLabel(nullptr), m_pluginsText(nullptr),
+      m_placesLabel(nullptr), m_placesText(nullptr)
 {
 }
 
@@ -79,6 +81,14 @@ bool GeneralPage::Show(QWidget *place)
     m_languageLabel->setBuddy(m_languageBox);
     layout->addWidget(m_languageBox);
     layout->addSpacing(12);
+    m_newLabel = AddCaption("newNetworksLabel", layout);
+    m_newBox = new QComboBox;
+    m_newBox->setObjectName(QLatin1String("newNetworksBox"));
+    m_newBefore = ListRules::PlaceOfNewNetworks();
+    m_newLabel->setBuddy(m_newBox);
+    connect(m_newBox, QOverload<int>::of(&QComboBox::activated), this, &GeneralPage::ChooseNewNetworks);
+    layout->addWidget(m_newBox);
+    layout->addSpacing(12);
     m_pluginsLabel = AddCaption("pluginsLabel", layout);
     m_pluginsText = AddText("pluginsText", layout);
     m_placesLabel = AddCaption("placesLabel", layout);
@@ -102,6 +112,9 @@ void GeneralPage::Close(Answer answer)
 {
     if (answer != Ok) {
         m_language->Switch(m_languageBefore);
+        if (ListRules::PlaceOfNewNetworks() != m_newBefore) {
+            ListRules::SetPlaceOfNewNetworks(m_newBefore);
+        }
     }
     delete m_page.data();
 }
@@ -112,6 +125,16 @@ void GeneralPage::Retranslate()
         return;
     }
     m_languageLabel->setText(DashboardText("IDS_GENERAL_LANGUAGE"));
+    m_newLabel->setText(DashboardText("IDS_GENERAL_NEW"));
+    {
+        const QSignalBlocker blocker(m_newBox);
+        m_newBox->clear();
+        // In the order of ListRules::NewNetworks.
+        for (const char *id : {"IDS_NEW_AT_END", "IDS_NEW_AT_TOP", "IDS_NEW_NOT_LISTED"}) {
+            m_newBox->addItem(DashboardText(id));
+        }
+        m_newBox->setCurrentIndex(ListRules::PlaceOfNewNetworks());
+    }
     m_pluginsLabel->setText(DashboardText("IDS_GENERAL_PLUGINS"));
     m_placesLabel->setText(DashboardText("IDS_GENERAL_PLACES"));
 
@@ -133,4 +156,13 @@ void GeneralPage::Retranslate()
 void GeneralPage::ChooseLanguage(int index)
 {
     m_language->Switch(m_languageBox->itemData(index).toString());
+}
+
+void GeneralPage::ChooseNewNetworks(int index)
+{
+    if (!ListRules::SetPlaceOfNewNetworks(ListRules::NewNetworks(index))) {
+        qWarning("the place of new networks can't be kept in %s",
+                 UserData::Directory().toLocal8Bit().constData());
+        m_newBox->setCurrentIndex(ListRules::PlaceOfNewNetworks());
+    }
 }

@@ -3,6 +3,8 @@
 
 #include "SettingsPage.h"
 
+#include <ListRules.h>
+
 #include <QObject>
 #include <QPointer>
 
@@ -11,7 +13,8 @@ class PluginHost;
 class QComboBox;
 class QLabel;
 
-/** The dashboard's own page: its language, its plug-ins, and where it keeps things. */
+/** The dashboard's own page: its language, the place of new networks, its plug-ins, and where it keeps
+ * things. */
 class GeneralPage : public QObject, public SettingsPage
 {
     Q_OBJECT
@@ -27,6 +30,7 @@ public:
 
 private slots:
     void ChooseLanguage(int index);
+    void ChooseNewNetworks(int index);
 
 private:
     DashboardLanguage *const m_language;
@@ -35,6 +39,9 @@ private:
     QPointer<QWidget> m_page;
     QLabel *m_languageLabel;
     QComboBox *m_languageBox;
+    ListRules::NewNetworks m_newBefore = ListRules::NewAtTheEnd;
+    QLabel *m_newLabel;
+    QComboBox *m_newBox;
     QLabel *m_pluginsLabel;
     QLabel *m_pluginsText;
     QLabel *m_placesLabel;

@@ -7,6 +7,7 @@
 #include <IConnectionPlugin.h>
 #include <IPriorityPlugin.h>
 #include <ListEntries.h>
+#include <ListRules.h>
 #include <NetworkDelegate.h>
 #include <OverviewText.h>
 #include <PluginObjects.h>
@@ -295,7 +296,8 @@ bool ConnectDialog::NeedsKey(const VisibleNetwork &network)
 void ConnectDialog::Retranslate()
 {
     setWindowTitle(DashboardText("IDS_CONNECT_TITLE"));
-    m_hint->setText(DashboardText("IDS_CONNECT_HINT"));
+    const char *const hints[] = {"IDS_CONNECT_HINT", "IDS_CONNECT_HINT_TOP", "IDS_CONNECT_HINT_NONE"};
+    m_hint->setText(DashboardText(hints[ListRules::PlaceOfNewNetworks()]));
     m_list->setAccessibleName(DashboardText("IDS_CONNECT_TITLE"));
     m_progress->setAccessibleName(DashboardText("IDS_CONNECT_TITLE"));
     m_showKey->setText(DashboardText("IDS_CONNECT_SHOW_KEY"));
@@ -433,8 +435,18 @@ void ConnectDialog::AddToList() const
             return;
         }
     }
-    QList<PriorityList> added{entry};
-    priority->AddPriorityList(added);
+    switch (ListRules::PlaceOfNewNetworks()) {
+    case ListRules::NewAtTheEnd: {
+        QList<PriorityList> added{entry};
+        priority->AddPriorityList(added);
+        break;
+    }
+    case ListRules::NewAtTheTop:
+        priority->AddTopPriority(entry);
+        break;
+    case ListRules::NewNotInTheList:
+        break;
+    }
 }
 
 void ConnectDialog::accept()

@@ -21,7 +21,7 @@ class QTimer;
 /**
  * Lists the networks in range as they come and go, and connects the one that the user chooses. A network
  * that asks for a key and has no profile is given its key here. What is listed keeps its place in the
- * priority list; what is not goes to its end once it is connected.
+ * priority list; what is not goes once it is connected to where the user wants new networks to go.
  */
 class ConnectDialog : public ExtendDialog
 {

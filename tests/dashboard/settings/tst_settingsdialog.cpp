@@ -3,6 +3,7 @@
 #include <DashboardLanguage.h>
 #include <GeneralPage.h>
 #include <HostControl.h>
+#include <ListRules.h>
 #include <PluginHost.h>
 #include <PluginPage.h>
 #include <SettingsDialog.h>
@@ -76,6 +77,9 @@ private slots:
     void LanguageSwitchesAtOnce();
     void LanguageGoesBackUnlessOk_data();
     void LanguageGoesBackUnlessOk();
+    void PlaceOfNewNetworksIsKeptUnlessCancelled_data();
+    void PlaceOfNewNetworksIsKeptUnlessCancelled();
+    void PlaceOfNewNetworksThatCannotBeKeptIsNotShown();
     void GeneralPageTellsOfPlugins();
 
 private:
@@ -358,6 +362,49 @@ void SettingsDialogTest::LanguageGoesBackUnlessOk()
     QTest::keyClick(dialog.findChild<QComboBox *>("languageBox"), Qt::Key_Home);
     dialog.done(isOk ? QDialog::Accepted : QDialog::Rejected);
     QTEST(Change::GetLangName(), "after");
+}
+
+void SettingsDialogTest::PlaceOfNewNetworksIsKeptUnlessCancelled_data()
+{
+    QTest::addColumn<bool>("isOk");
+    QTest::addColumn<int>("after");
+    QTest::newRow("OK") << true << int(ListRules::NewNotInTheList);
+    QTest::newRow("Cancel") << false << int(ListRules::NewAtTheTop);
+}
+
+void SettingsDialogTest::PlaceOfNewNetworksIsKeptUnlessCancelled()
+{
+    QFETCH(bool, isOk);
+    PluginHost host(BUILD_DIRECTORY, QList<KnownPlugin>());
+    DashboardLanguage language(nullptr);
+    SettingsDialog dialog(nullptr);
+    QVERIFY(ListRules::SetPlaceOfNewNetworks(ListRules::NewAtTheTop));
+    dialog.AddPage(new GeneralPage(&language, &host));
+    dialog.SelectPage(0);
+    dialog.show();
+    QComboBox *box = dialog.findChild<QComboBox *>("newNetworksBox");
+    QCOMPARE(box->currentText(), QString("At the top of your list"));
+    QTest::keyClick(box, Qt::Key_End);
+    QCOMPARE(ListRules::PlaceOfNewNetworks(), ListRules::NewNotInTheList);
+    dialog.done(isOk ? QDialog::Accepted : QDialog::Rejected);
+    QTEST(int(ListRules::PlaceOfNewNetworks()), "after");
+}
+
+void SettingsDialogTest::PlaceOfNewNetworksThatCannotBeKeptIsNotShown()
+{
+    PluginHost host(BUILD_DIRECTORY, QList<KnownPlugin>());
+    DashboardLanguage language(nullptr);
+    SettingsDialog dialog(nullptr);
+    dialog.AddPage(new GeneralPage(&language, &host));
+    dialog.SelectPage(0);
+    dialog.show();
+    QComboBox *box = dialog.findChild<QComboBox *>("newNetworksBox");
+    // There is no user directory any more, and none can be made.
+    m_directory.Write("a file", "");
+    qputenv("XDG_DATA_HOME", m_directory.FilePath("a file").toLocal8Bit());
+    QTest::keyClick(box, Qt::Key_End);
+    QCOMPARE(box->currentText(), QString("At the end of your list"));
+    qputenv("XDG_DATA_HOME", m_directory.Path().toLocal8Bit());
 }
 
 void SettingsDialogTest::GeneralPageTellsOfPlugins()

@@ -7,7 +7,9 @@
 #include <DashboardLanguage.h>
 #include <Glyphs.h>
 #include <HostControl.h>
+#include <ListRules.h>
 #include <NetworkDelegate.h>
+#include <TemporaryDirectory.h>
 #include <WindowActivation.h>
 
 #include <QApplication>
@@ -71,6 +73,8 @@ private slots:
     void RefusalIsTold();
     void ConnectedNetworkIsPutAtTheEndOfTheList_data();
     void ConnectedNetworkIsPutAtTheEndOfTheList();
+    void NewNetworkGoesWhereTheUserWantsIt_data();
+    void NewNetworkGoesWhereTheUserWantsIt();
     void NetworkThatCouldNotBeSavedIsToldAndNotListed();
     void OtherWaysOutOrderNothing_data();
     void OtherWaysOutOrderNothing();
@@ -92,6 +96,7 @@ private:
     QString Rows(int role = Qt::DisplayRole) const;
     QListWidgetItem *Row(const QString &name) const;
 
+    QScopedPointer<TemporaryDirectory> m_directory;
     QScopedPointer<FakeConnections> m_fake;
     QScopedPointer<FakePriority> m_priority;
     ListContainer m_list;
@@ -101,6 +106,8 @@ private:
 
 void ConnectDialogTest::init()
 {
+    m_directory.reset(new TemporaryDirectory);
+    qputenv("XDG_DATA_HOME", m_directory->Path().toLocal8Bit());
     HostControl::SetLanguageDirectory(QLatin1String(BUILD_DIRECTORY "/share/priority-dashboard/languages"));
     QVERIFY(DashboardLanguage::Apply("en"));
     m_fake.reset(new FakeConnections);
@@ -485,6 +492,32 @@ void ConnectDialogTest::ConnectedNetworkIsPutAtTheEndOfTheList()
     m_fake->Tell();
     QTEST(AsText(m_priority->list), "after");
     QVERIFY(m_priority->toppedEntries.isEmpty());
+}
+
+void ConnectDialogTest::NewNetworkGoesWhereTheUserWantsIt_data()
+{
+    QTest::addColumn<int>("place");
+    QTest::addColumn<QString>("hint");
+    QTest::addColumn<QString>("after");
+    QTest::newRow("at the top") << int(ListRules::NewAtTheTop)
+                                << "A network that is not in your list goes to its top."
+                                << "Park, Office";
+    QTest::newRow("not at all") << int(ListRules::NewNotInTheList)
+                                << "A network that is not in your list stays out of it."
+                                << "Office";
+}
+
+void ConnectDialogTest::NewNetworkGoesWhereTheUserWantsIt()
+{
+    QFETCH(int, place);
+    QVERIFY(ListRules::SetPlaceOfNewNetworks(ListRules::NewNetworks(place)));
+    m_priority->list = Listed("Office");
+    m_fake->attempt.name = "Park";
+    ConnectTo("Park");
+    QTEST(m_dialog->findChild<QLabel *>("connectHintLabel")->text(), "hint");
+    m_fake->attempt.stage = StageConnected;
+    m_fake->Tell();
+    QTEST(AsText(m_priority->list), "after");
 }
 
 void ConnectDialogTest::NetworkThatCouldNotBeSavedIsToldAndNotListed()

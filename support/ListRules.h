@@ -1,0 +1,22 @@
+#ifndef LISTRULES_H
+#define LISTRULES_H
+
+/**
+ * How the list rules the networks, as the user has chosen. The dashboard writes it and the WLAN plug-ins
+ * follow it, in the file "rules.ini" of the user data directory. It is read anew each time.
+ */
+namespace ListRules
+{
+
+/** Where a network goes that is connected for the first time and is not in the list. */
+enum NewNetworks { NewAtTheEnd = 0, NewAtTheTop = 1, NewNotInTheList = 2 };
+
+/** NewAtTheEnd where nothing, or nothing that is known, was chosen. */
+NewNetworks PlaceOfNewNetworks();
+
+/** False when it can't be kept; then it is as it was. */
+bool SetPlaceOfNewNetworks(NewNetworks place);
+
+} // namespace ListRules
+
+#endif
