@@ -80,6 +80,7 @@ void HeadArea::Show(const Overview &overview, bool isSwitching, bool mayStop)
 void HeadArea::SetBrief(bool isBrief)
 {
     m_explanation->setVisible(!isBrief);
+    m_parts->setSpacing(isBrief ? 6 : 16);
 }
 
 void HeadArea::ShowButtons(const Overview &overview, bool isSwitching, bool mayStop)

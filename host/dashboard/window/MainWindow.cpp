@@ -83,8 +83,6 @@ MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLo
     QWidget *central = new QWidget;
     central->setObjectName(QLatin1String("central"));
     QVBoxLayout *layout = new QVBoxLayout(central);
-    layout->setContentsMargins(16, 16, 16, 16);
-    layout->setSpacing(12);
     m_head = new HeadArea;
     connect(m_head, &HeadArea::SwitchWanted, this, &MainWindow::Switch);
     connect(m_head, &HeadArea::StopWanted, this, &MainWindow::Disconnect);
@@ -369,6 +367,9 @@ void MainWindow::resizeEvent(QResizeEvent *event)
     QMainWindow::resizeEvent(event);
     // What is in use and the list itself are seen last of all.
     const bool isLow = height() < DialogParts::ForFont(460);
+    const int margin = isLow ? 8 : 16;
+    centralWidget()->layout()->setContentsMargins(margin, margin, margin, margin);
+    centralWidget()->layout()->setSpacing(isLow ? 6 : 12);
     m_head->SetBrief(isLow);
     m_listHeader->setVisible(!isLow);
     m_listBar->setVisible(!isLow);
