@@ -87,13 +87,13 @@ bool CPriorityRecords::Open()
     if (m_file.isEmpty()) {
         return true;
     }
-    QScopedPointer<QLockFile> lock(new QLockFile(m_file + QLatin1String(".use")));
+    auto lock = std::make_unique<QLockFile>(m_file + QLatin1String(".use"));
     // It is over when the program that has it is, and not earlier.
     lock->setStaleLockTime(0);
     if (!lock->tryLock(0) && lock->error() == QLockFile::LockFailedError) {
         return false;
     }
-    m_lock.swap(lock);
+    m_lock = std::move(lock);
     if (m_isUnsaved) {
         return true;
     }

@@ -4,9 +4,10 @@
 #include <QList>
 #include <QLockFile>
 #include <QMap>
-#include <QScopedPointer>
 #include <QSet>
 #include <QString>
+
+#include <memory>
 
 /** What was done to the priority of one profile. */
 struct PriorityRecord {
@@ -60,7 +61,7 @@ private:
     void Note();
 
     const QString m_file;
-    QScopedPointer<QLockFile> m_lock;
+    std::unique_ptr<QLockFile> m_lock;
     QMap<QString, PriorityRecord> m_savedPriorities;
     QSet<QString> m_savedConnected;
     QSet<QString> m_savedTold;
