@@ -385,7 +385,7 @@ QString ConnectDialog::NotConnected() const
     const int failure = m_order > 0 ? m_attempt.failure : int(FailureOther);
     const QString reason =
         m_isKeyTyped ? OverviewText::Outcome(failure) : OverviewText::OutcomeOfSaved(failure);
-    const QString told = OverviewText::NotDone("IDS_SWITCH_FAILED", m_chosenName, reason);
+    QString told = OverviewText::NotDone("IDS_SWITCH_FAILED", m_chosenName, reason);
     // An order that was not taken has ended nothing.
     if (m_order < 0 || !m_told.AreKnown()) {
         return told;
