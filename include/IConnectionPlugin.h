@@ -59,8 +59,9 @@ public:
     virtual void GetActiveConnections(QList<ActiveConnection> *connections) = 0;
 
     /**
-     * 5: every Wi-Fi and mobile-broadband profile, by name. Profiles of one name, or of one network, are each
-     * told of. Profiles that make a network of this computer's own are left out.
+     * 5: every Wi-Fi and mobile-broadband profile, the one first that the connection manager would rather
+     * connect by itself, as far as that is known, whether it can be used now or not. Profiles of one name, or
+     * of one network, are each told of. Profiles that make a network of this computer's own are left out.
      */
     virtual void GetProfiles(QList<ConnectionProfile> *profiles) = 0;
 

@@ -132,6 +132,7 @@ int RunWindow(const Arguments &arguments, TraceLog *log)
     }
     DashboardLanguage language(nullptr);
     MainWindow window(&plugins, &language, log);
+    window.FitToScreen();
     window.show();
     return QApplication::exec();
 }

@@ -245,6 +245,14 @@
         <translation>لا توجد شبكة ضمن النطاق. عندما توجد واحدة ستظهر هنا.</translation>
     </message>
     <message>
+        <source>IDS_CONNECT_SEARCH</source>
+        <translation>البحث عن شبكة</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NOT_FOUND</source>
+        <translation>لا توجد شبكة ضمن النطاق في اسمها «%1».</translation>
+    </message>
+    <message>
         <source>IDS_PROTECTION_OPEN</source>
         <extracomment>What a network in range asks for</extracomment>
         <translation>بلا مفتاح</translation>
@@ -822,6 +830,18 @@
         <translation>افتح الإعدادات ثم اختر «إضافة» للشبكات المحفوظة على هذا الحاسوب، أو «جديدة» لإدخال شبكة بنفسك. تُفضَّل الشبكة الأعلى في القائمة.</translation>
     </message>
     <message>
+        <source>IDS_FIRST_TITLE</source>
+        <translation>أي الشبكات تأتي أولًا؟</translation>
+    </message>
+    <message>
+        <source>IDS_FIRST_TAKE_OVER</source>
+        <translation>توجد شبكات محفوظة على هذا الحاسوب. خذها بالترتيب الذي تُستخدم به الآن، ثم انقل ما تفضله إلى أول القائمة.</translation>
+    </message>
+    <message>
+        <source>IDS_FIRST_CONNECT</source>
+        <translation>اتصل بشبكة وستظهر هنا.</translation>
+    </message>
+    <message>
         <source>IDS_EMPTY_UNREADABLE</source>
         <translation>الرسالة أعلاه توضّح السبب.</translation>
     </message>
@@ -920,6 +940,14 @@
     <message>
         <source>IDS_BUTTON_REDO</source>
         <translation>إعادة</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_TAKE_OVER</source>
+        <translation>أخذ الشبكات المحفوظة…</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_IMPORT</source>
+        <translation>استيراد قائمة…</translation>
     </message>
     <message>
         <source>IDS_UNDO_WHAT</source>
@@ -1175,6 +1203,22 @@
     <message>
         <source>IDS_IMPORT_OK</source>
         <translation>استيراد</translation>
+    </message>
+    <message>
+        <source>IDS_TAKE_OVER_TITLE</source>
+        <translation>أخذ الشبكات المحفوظة</translation>
+    </message>
+    <message>
+        <source>IDS_TAKE_OVER_HINT</source>
+        <translation>تكوين قائمتك من الشبكات المحفوظة على هذا الحاسوب، مع عرضها قبل ذلك.</translation>
+    </message>
+    <message>
+        <source>IDS_TAKE_OVER_SUMMARY</source>
+        <translation>بالترتيب الذي تُستخدم به الآن: %1</translation>
+    </message>
+    <message>
+        <source>IDS_TAKE_OVER_OK</source>
+        <translation>أخذ</translation>
     </message>
     <message>
         <source>IDS_IMPORT_NOT_READABLE</source>

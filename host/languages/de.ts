@@ -245,6 +245,14 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
         <translation>Kein Netzwerk ist in Reichweite. Sobald eines da ist, erscheint es hier.</translation>
     </message>
     <message>
+        <source>IDS_CONNECT_SEARCH</source>
+        <translation>Netzwerk suchen</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NOT_FOUND</source>
+        <translation>Kein Netzwerk in Reichweite hat „%1“ im Namen.</translation>
+    </message>
+    <message>
         <source>IDS_PROTECTION_OPEN</source>
         <extracomment>What a network in range asks for</extracomment>
         <translation>Ohne Schlüssel</translation>
@@ -822,6 +830,18 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
         <translation>Öffnen Sie die Einstellungen, und wählen Sie „Hinzufügen“ für Netzwerke, die auf diesem Computer gespeichert sind, oder „Neu“, um selbst eines einzugeben. Das Netzwerk, das in der Liste am höchsten steht, wird bevorzugt.</translation>
     </message>
     <message>
+        <source>IDS_FIRST_TITLE</source>
+        <translation>Welche Netzwerke kommen zuerst?</translation>
+    </message>
+    <message>
+        <source>IDS_FIRST_TAKE_OVER</source>
+        <translation>Auf diesem Computer sind Netzwerke gespeichert. Übernehmen Sie sie in der Reihenfolge, in der sie jetzt verwendet werden, und setzen Sie dann die bevorzugten an den Anfang.</translation>
+    </message>
+    <message>
+        <source>IDS_FIRST_CONNECT</source>
+        <translation>Verbinden Sie sich mit einem Netzwerk, dann erscheint es hier.</translation>
+    </message>
+    <message>
         <source>IDS_EMPTY_UNREADABLE</source>
         <translation>Die Meldung oben sagt, warum.</translation>
     </message>
@@ -921,6 +941,14 @@ Erwartet: %3</translation>
     <message>
         <source>IDS_BUTTON_REDO</source>
         <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_TAKE_OVER</source>
+        <translation>Gespeicherte Netzwerke übernehmen&#xa0;…</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_IMPORT</source>
+        <translation>Liste importieren&#xa0;…</translation>
     </message>
     <message>
         <source>IDS_UNDO_WHAT</source>
@@ -1176,6 +1204,22 @@ Erwartet: %3</translation>
     <message>
         <source>IDS_IMPORT_OK</source>
         <translation>Importieren</translation>
+    </message>
+    <message>
+        <source>IDS_TAKE_OVER_TITLE</source>
+        <translation>Gespeicherte Netzwerke übernehmen</translation>
+    </message>
+    <message>
+        <source>IDS_TAKE_OVER_HINT</source>
+        <translation>Macht die Netzwerke, die auf diesem Computer gespeichert sind, zu Ihrer Liste. Sie können sie vorher prüfen.</translation>
+    </message>
+    <message>
+        <source>IDS_TAKE_OVER_SUMMARY</source>
+        <translation>In der Reihenfolge, in der sie jetzt verwendet werden: %1</translation>
+    </message>
+    <message>
+        <source>IDS_TAKE_OVER_OK</source>
+        <translation>Übernehmen</translation>
     </message>
     <message>
         <source>IDS_IMPORT_NOT_READABLE</source>

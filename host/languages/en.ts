@@ -269,6 +269,16 @@ You can use letters, digits and these symbols:
         <translation>No network is in range. When there is one, it appears here.</translation>
     </message>
     <message>
+        <source>IDS_CONNECT_SEARCH</source>
+        <extracomment>In an empty search field above the networks in range</extracomment>
+        <translation>Find a network</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NOT_FOUND</source>
+        <extracomment>%1: what was typed into the search field</extracomment>
+        <translation>No network in range has “%1” in its name.</translation>
+    </message>
+    <message>
         <source>IDS_PROTECTION_OPEN</source>
         <extracomment>What a network in range asks for</extracomment>
         <translation>No key</translation>
@@ -863,6 +873,20 @@ You can use letters, digits and these symbols:
         <translation>Open the settings, then choose “Add” for networks that are saved on this computer, or “New” to enter one yourself. The network highest in the list is preferred.</translation>
     </message>
     <message>
+        <source>IDS_FIRST_TITLE</source>
+        <translation>Which networks come first?</translation>
+    </message>
+    <message>
+        <source>IDS_FIRST_TAKE_OVER</source>
+        <extracomment>Above a button that does it</extracomment>
+        <translation>Networks are saved on this computer. Take them over in the order in which they are used now, then move the ones you prefer to the top.</translation>
+    </message>
+    <message>
+        <source>IDS_FIRST_CONNECT</source>
+        <extracomment>Above a button that does it; no network is saved yet</extracomment>
+        <translation>Connect to a network, and it appears here.</translation>
+    </message>
+    <message>
         <source>IDS_EMPTY_UNREADABLE</source>
         <translation>The message above tells why.</translation>
     </message>
@@ -963,6 +987,16 @@ Expected: %3</translation>
     <message>
         <source>IDS_BUTTON_REDO</source>
         <translation>Redo</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_TAKE_OVER</source>
+        <extracomment>Button; opens the dialog “Take over saved networks”</extracomment>
+        <translation>Take over saved networks…</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_IMPORT</source>
+        <extracomment>Button; the same as the entry of the menu Edit</extracomment>
+        <translation>Import list…</translation>
     </message>
     <message>
         <source>IDS_UNDO_WHAT</source>
@@ -1248,6 +1282,26 @@ Expected: %3</translation>
         <source>IDS_IMPORT_OK</source>
         <extracomment>Button</extracomment>
         <translation>Import</translation>
+    </message>
+    <message>
+        <source>IDS_TAKE_OVER_TITLE</source>
+        <extracomment>Title of a dialog that shows the list that would be made</extracomment>
+        <translation>Take over saved networks</translation>
+    </message>
+    <message>
+        <source>IDS_TAKE_OVER_HINT</source>
+        <extracomment>Tool tip of the button that opens the dialog</extracomment>
+        <translation>Makes the networks that are saved on this computer your list. You can check it first.</translation>
+    </message>
+    <message>
+        <source>IDS_TAKE_OVER_SUMMARY</source>
+        <extracomment>%1: what will be done, such as 3 networks will be added.</extracomment>
+        <translation>In the order in which they are used now: %1</translation>
+    </message>
+    <message>
+        <source>IDS_TAKE_OVER_OK</source>
+        <extracomment>Button</extracomment>
+        <translation>Take over</translation>
     </message>
     <message>
         <source>IDS_IMPORT_NOT_READABLE</source>

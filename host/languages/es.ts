@@ -245,6 +245,14 @@ Puede usar letras, números y estos símbolos:
         <translation>No hay ninguna red al alcance. Cuando haya una, aparecerá aquí.</translation>
     </message>
     <message>
+        <source>IDS_CONNECT_SEARCH</source>
+        <translation>Buscar una red</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NOT_FOUND</source>
+        <translation>Ninguna red al alcance tiene «%1» en su nombre.</translation>
+    </message>
+    <message>
         <source>IDS_PROTECTION_OPEN</source>
         <extracomment>What a network in range asks for</extracomment>
         <translation>Sin clave</translation>
@@ -822,6 +830,18 @@ Puede usar letras, números y estos símbolos:
         <translation>Abra la configuración y elija «Añadir» para las redes guardadas en este equipo, o «Nueva» para introducir una. Se prefiere la red que está más arriba en la lista.</translation>
     </message>
     <message>
+        <source>IDS_FIRST_TITLE</source>
+        <translation>¿Qué redes van primero?</translation>
+    </message>
+    <message>
+        <source>IDS_FIRST_TAKE_OVER</source>
+        <translation>En este equipo hay redes guardadas. Adóptelas en el orden en que se usan ahora y luego lleve las que prefiera al principio.</translation>
+    </message>
+    <message>
+        <source>IDS_FIRST_CONNECT</source>
+        <translation>Al conectarse a una red, esta aparece aquí.</translation>
+    </message>
+    <message>
         <source>IDS_EMPTY_UNREADABLE</source>
         <translation>El mensaje de arriba explica por qué.</translation>
     </message>
@@ -921,6 +941,14 @@ Esperado: %3</translation>
     <message>
         <source>IDS_BUTTON_REDO</source>
         <translation>Rehacer</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_TAKE_OVER</source>
+        <translation>Adoptar las redes guardadas…</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_IMPORT</source>
+        <translation>Importar lista…</translation>
     </message>
     <message>
         <source>IDS_UNDO_WHAT</source>
@@ -1176,6 +1204,22 @@ Esperado: %3</translation>
     <message>
         <source>IDS_IMPORT_OK</source>
         <translation>Importar</translation>
+    </message>
+    <message>
+        <source>IDS_TAKE_OVER_TITLE</source>
+        <translation>Adoptar las redes guardadas</translation>
+    </message>
+    <message>
+        <source>IDS_TAKE_OVER_HINT</source>
+        <translation>Convierte en su lista las redes guardadas en este equipo. Antes puede comprobarla.</translation>
+    </message>
+    <message>
+        <source>IDS_TAKE_OVER_SUMMARY</source>
+        <translation>En el orden en que se usan ahora: %1</translation>
+    </message>
+    <message>
+        <source>IDS_TAKE_OVER_OK</source>
+        <translation>Adoptar</translation>
     </message>
     <message>
         <source>IDS_IMPORT_NOT_READABLE</source>

@@ -245,6 +245,14 @@ Vous pouvez utiliser des lettres, des chiffres et les symboles suivants&#xa0;:
         <translation>Aucun réseau n’est à portée. Dès qu’il y en aura un, il apparaîtra ici.</translation>
     </message>
     <message>
+        <source>IDS_CONNECT_SEARCH</source>
+        <translation>Rechercher un réseau</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NOT_FOUND</source>
+        <translation>Aucun réseau à portée n’a «&#xa0;%1&#xa0;» dans son nom.</translation>
+    </message>
+    <message>
         <source>IDS_PROTECTION_OPEN</source>
         <extracomment>What a network in range asks for</extracomment>
         <translation>Sans clé</translation>
@@ -822,6 +830,18 @@ Vous pouvez utiliser des lettres, des chiffres et les symboles suivants&#xa0;:
         <translation>Ouvrez les paramètres, puis choisissez «&#xa0;Ajouter&#xa0;» pour les réseaux enregistrés sur cet ordinateur, ou «&#xa0;Nouveau&#xa0;» pour en saisir un vous-même. Le réseau le plus haut dans la liste est préféré.</translation>
     </message>
     <message>
+        <source>IDS_FIRST_TITLE</source>
+        <translation>Quels réseaux viennent en premier&#xa0;?</translation>
+    </message>
+    <message>
+        <source>IDS_FIRST_TAKE_OVER</source>
+        <translation>Des réseaux sont enregistrés sur cet ordinateur. Reprenez-les dans l’ordre dans lequel ils sont utilisés actuellement, puis placez ceux que vous préférez en tête.</translation>
+    </message>
+    <message>
+        <source>IDS_FIRST_CONNECT</source>
+        <translation>Connectez-vous à un réseau, et il apparaîtra ici.</translation>
+    </message>
+    <message>
         <source>IDS_EMPTY_UNREADABLE</source>
         <translation>Le message ci-dessus dit pourquoi.</translation>
     </message>
@@ -921,6 +941,14 @@ Attendu&#xa0;: %3</translation>
     <message>
         <source>IDS_BUTTON_REDO</source>
         <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_TAKE_OVER</source>
+        <translation>Reprendre les réseaux enregistrés…</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_IMPORT</source>
+        <translation>Importer une liste…</translation>
     </message>
     <message>
         <source>IDS_UNDO_WHAT</source>
@@ -1176,6 +1204,22 @@ Attendu&#xa0;: %3</translation>
     <message>
         <source>IDS_IMPORT_OK</source>
         <translation>Importer</translation>
+    </message>
+    <message>
+        <source>IDS_TAKE_OVER_TITLE</source>
+        <translation>Reprendre les réseaux enregistrés</translation>
+    </message>
+    <message>
+        <source>IDS_TAKE_OVER_HINT</source>
+        <translation>Fait des réseaux enregistrés sur cet ordinateur votre liste. Vous pouvez d’abord la vérifier.</translation>
+    </message>
+    <message>
+        <source>IDS_TAKE_OVER_SUMMARY</source>
+        <translation>Dans l’ordre dans lequel ils sont utilisés actuellement&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>IDS_TAKE_OVER_OK</source>
+        <translation>Reprendre</translation>
     </message>
     <message>
         <source>IDS_IMPORT_NOT_READABLE</source>

@@ -245,6 +245,14 @@
         <translation>אין רשת בטווח. כשתהיה אחת, היא תופיע כאן.</translation>
     </message>
     <message>
+        <source>IDS_CONNECT_SEARCH</source>
+        <translation>חיפוש רשת</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NOT_FOUND</source>
+        <translation>אין בטווח רשת ש„%1” בשמה.</translation>
+    </message>
+    <message>
         <source>IDS_PROTECTION_OPEN</source>
         <extracomment>What a network in range asks for</extracomment>
         <translation>ללא מפתח</translation>
@@ -822,6 +830,18 @@
         <translation>יש לפתוח את ההגדרות ולבחור „הוספה” עבור רשתות השמורות במחשב הזה, או „חדשה” להזנת רשת. הרשת הגבוהה ביותר ברשימה מועדפת.</translation>
     </message>
     <message>
+        <source>IDS_FIRST_TITLE</source>
+        <translation>אילו רשתות קודמות?</translation>
+    </message>
+    <message>
+        <source>IDS_FIRST_TAKE_OVER</source>
+        <translation>במחשב הזה שמורות רשתות. אפשר לאמץ אותן בסדר שבו הן משמשות עכשיו, ואז להעביר את המועדפות לראש הרשימה.</translation>
+    </message>
+    <message>
+        <source>IDS_FIRST_CONNECT</source>
+        <translation>לאחר התחברות לרשת, היא תופיע כאן.</translation>
+    </message>
+    <message>
         <source>IDS_EMPTY_UNREADABLE</source>
         <translation>ההודעה למעלה מסבירה מדוע.</translation>
     </message>
@@ -920,6 +940,14 @@
     <message>
         <source>IDS_BUTTON_REDO</source>
         <translation>ביצוע חוזר</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_TAKE_OVER</source>
+        <translation>אימוץ הרשתות השמורות…</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_IMPORT</source>
+        <translation>ייבוא רשימה…</translation>
     </message>
     <message>
         <source>IDS_UNDO_WHAT</source>
@@ -1175,6 +1203,22 @@
     <message>
         <source>IDS_IMPORT_OK</source>
         <translation>ייבוא</translation>
+    </message>
+    <message>
+        <source>IDS_TAKE_OVER_TITLE</source>
+        <translation>אימוץ הרשתות השמורות</translation>
+    </message>
+    <message>
+        <source>IDS_TAKE_OVER_HINT</source>
+        <translation>הרכבת הרשימה שלך מהרשתות השמורות במחשב הזה. אפשר לבדוק אותה לפני כן.</translation>
+    </message>
+    <message>
+        <source>IDS_TAKE_OVER_SUMMARY</source>
+        <translation>בסדר שבו הן משמשות עכשיו: %1</translation>
+    </message>
+    <message>
+        <source>IDS_TAKE_OVER_OK</source>
+        <translation>אימוץ</translation>
     </message>
     <message>
         <source>IDS_IMPORT_NOT_READABLE</source>

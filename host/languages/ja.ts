@@ -245,6 +245,14 @@
         <translation>圏内にネットワークがありません。見つかると、ここに表示されます。</translation>
     </message>
     <message>
+        <source>IDS_CONNECT_SEARCH</source>
+        <translation>ネットワークを探す</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NOT_FOUND</source>
+        <translation>圏内に、名前に「%1」を含むネットワークはありません。</translation>
+    </message>
+    <message>
         <source>IDS_PROTECTION_OPEN</source>
         <extracomment>What a network in range asks for</extracomment>
         <translation>キーなし</translation>
@@ -822,6 +830,18 @@
         <translation>設定を開き、このコンピューターに登録済みのネットワークを加えるには「追加」を、自分で入力するには「新規」を選択してください。リストで上にあるネットワークほど優先されます。</translation>
     </message>
     <message>
+        <source>IDS_FIRST_TITLE</source>
+        <translation>どのネットワークを優先しますか？</translation>
+    </message>
+    <message>
+        <source>IDS_FIRST_TAKE_OVER</source>
+        <translation>このコンピューターにはネットワークが登録されています。今使われている順に取り込み、そのあと優先したいものを先頭に移動してください。</translation>
+    </message>
+    <message>
+        <source>IDS_FIRST_CONNECT</source>
+        <translation>ネットワークに接続すると、ここに表示されます。</translation>
+    </message>
+    <message>
         <source>IDS_EMPTY_UNREADABLE</source>
         <translation>理由は上のメッセージに示されています。</translation>
     </message>
@@ -921,6 +941,14 @@
     <message>
         <source>IDS_BUTTON_REDO</source>
         <translation>やり直す</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_TAKE_OVER</source>
+        <translation>登録済みのネットワークを取り込む…</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_IMPORT</source>
+        <translation>リストのインポート…</translation>
     </message>
     <message>
         <source>IDS_UNDO_WHAT</source>
@@ -1176,6 +1204,22 @@
     <message>
         <source>IDS_IMPORT_OK</source>
         <translation>インポート</translation>
+    </message>
+    <message>
+        <source>IDS_TAKE_OVER_TITLE</source>
+        <translation>登録済みのネットワークの取り込み</translation>
+    </message>
+    <message>
+        <source>IDS_TAKE_OVER_HINT</source>
+        <translation>このコンピューターに登録済みのネットワークをリストにします。内容を先に確認できます。</translation>
+    </message>
+    <message>
+        <source>IDS_TAKE_OVER_SUMMARY</source>
+        <translation>今使われている順の取り込み: %1</translation>
+    </message>
+    <message>
+        <source>IDS_TAKE_OVER_OK</source>
+        <translation>取り込む</translation>
     </message>
     <message>
         <source>IDS_IMPORT_NOT_READABLE</source>

@@ -245,6 +245,14 @@ Você pode usar letras, números e estes símbolos:
         <translation>Nenhuma rede está ao alcance. Quando houver uma, ela aparecerá aqui.</translation>
     </message>
     <message>
+        <source>IDS_CONNECT_SEARCH</source>
+        <translation>Buscar uma rede</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NOT_FOUND</source>
+        <translation>Nenhuma rede ao alcance tem “%1” no nome.</translation>
+    </message>
+    <message>
         <source>IDS_PROTECTION_OPEN</source>
         <extracomment>What a network in range asks for</extracomment>
         <translation>Sem chave</translation>
@@ -822,6 +830,18 @@ Você pode usar letras, números e estes símbolos:
         <translation>Abra as configurações e escolha “Adicionar” para redes salvas neste computador ou “Nova” para inserir uma. A rede que está mais acima na lista é a preferida.</translation>
     </message>
     <message>
+        <source>IDS_FIRST_TITLE</source>
+        <translation>Quais redes vêm primeiro?</translation>
+    </message>
+    <message>
+        <source>IDS_FIRST_TAKE_OVER</source>
+        <translation>Há redes salvas neste computador. Adote-as na ordem em que são usadas agora e depois leve as preferidas para o topo.</translation>
+    </message>
+    <message>
+        <source>IDS_FIRST_CONNECT</source>
+        <translation>Conecte-se a uma rede, e ela aparecerá aqui.</translation>
+    </message>
+    <message>
         <source>IDS_EMPTY_UNREADABLE</source>
         <translation>A mensagem acima diz o motivo.</translation>
     </message>
@@ -921,6 +941,14 @@ Esperado: %3</translation>
     <message>
         <source>IDS_BUTTON_REDO</source>
         <translation>Refazer</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_TAKE_OVER</source>
+        <translation>Adotar as redes salvas…</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_IMPORT</source>
+        <translation>Importar lista…</translation>
     </message>
     <message>
         <source>IDS_UNDO_WHAT</source>
@@ -1176,6 +1204,22 @@ Esperado: %3</translation>
     <message>
         <source>IDS_IMPORT_OK</source>
         <translation>Importar</translation>
+    </message>
+    <message>
+        <source>IDS_TAKE_OVER_TITLE</source>
+        <translation>Adotar as redes salvas</translation>
+    </message>
+    <message>
+        <source>IDS_TAKE_OVER_HINT</source>
+        <translation>Faz das redes salvas neste computador a sua lista. Antes você pode conferi-la.</translation>
+    </message>
+    <message>
+        <source>IDS_TAKE_OVER_SUMMARY</source>
+        <translation>Na ordem em que são usadas agora: %1</translation>
+    </message>
+    <message>
+        <source>IDS_TAKE_OVER_OK</source>
+        <translation>Adotar</translation>
     </message>
     <message>
         <source>IDS_IMPORT_NOT_READABLE</source>

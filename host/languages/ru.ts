@@ -245,6 +245,14 @@
         <translation>Нет сетей в зоне действия. Как только такая сеть появится, она будет показана здесь.</translation>
     </message>
     <message>
+        <source>IDS_CONNECT_SEARCH</source>
+        <translation>Найти сеть</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NOT_FOUND</source>
+        <translation>Ни у одной сети в зоне действия нет «%1» в имени.</translation>
+    </message>
+    <message>
         <source>IDS_PROTECTION_OPEN</source>
         <extracomment>What a network in range asks for</extracomment>
         <translation>Без ключа</translation>
@@ -822,6 +830,18 @@
         <translation>Откройте настройки и нажмите «Добавить», чтобы выбрать сети, сохранённые на этом компьютере, или «Создать», чтобы ввести сеть самостоятельно. Предпочтение отдаётся сети, которая стоит в списке выше остальных.</translation>
     </message>
     <message>
+        <source>IDS_FIRST_TITLE</source>
+        <translation>Какие сети важнее?</translation>
+    </message>
+    <message>
+        <source>IDS_FIRST_TAKE_OVER</source>
+        <translation>На этом компьютере сохранены сети. Возьмите их в том порядке, в котором они используются сейчас, а затем переместите предпочитаемые в начало.</translation>
+    </message>
+    <message>
+        <source>IDS_FIRST_CONNECT</source>
+        <translation>Подключитесь к сети, и она появится здесь.</translation>
+    </message>
+    <message>
         <source>IDS_EMPTY_UNREADABLE</source>
         <translation>Причина указана в сообщении выше.</translation>
     </message>
@@ -921,6 +941,14 @@
     <message>
         <source>IDS_BUTTON_REDO</source>
         <translation>Повторить</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_TAKE_OVER</source>
+        <translation>Взять сохранённые сети…</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_IMPORT</source>
+        <translation>Импортировать список…</translation>
     </message>
     <message>
         <source>IDS_UNDO_WHAT</source>
@@ -1176,6 +1204,22 @@
     <message>
         <source>IDS_IMPORT_OK</source>
         <translation>Импортировать</translation>
+    </message>
+    <message>
+        <source>IDS_TAKE_OVER_TITLE</source>
+        <translation>Сохранённые сети</translation>
+    </message>
+    <message>
+        <source>IDS_TAKE_OVER_HINT</source>
+        <translation>Составляет ваш список из сетей, сохранённых на этом компьютере. Сначала его можно проверить.</translation>
+    </message>
+    <message>
+        <source>IDS_TAKE_OVER_SUMMARY</source>
+        <translation>В порядке использования сейчас: %1</translation>
+    </message>
+    <message>
+        <source>IDS_TAKE_OVER_OK</source>
+        <translation>Взять</translation>
     </message>
     <message>
         <source>IDS_IMPORT_NOT_READABLE</source>

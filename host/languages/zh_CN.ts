@@ -245,6 +245,14 @@
         <translation>没有网络在信号范围内。一旦有网络，就会显示在这里。</translation>
     </message>
     <message>
+        <source>IDS_CONNECT_SEARCH</source>
+        <translation>查找网络</translation>
+    </message>
+    <message>
+        <source>IDS_CONNECT_NOT_FOUND</source>
+        <translation>信号范围内没有名称包含“%1”的网络。</translation>
+    </message>
+    <message>
         <source>IDS_PROTECTION_OPEN</source>
         <extracomment>What a network in range asks for</extracomment>
         <translation>无密钥</translation>
@@ -822,6 +830,18 @@
         <translation>请打开设置，选择“添加”来添加此计算机上已保存的网络，或选择“新建”来自行输入网络。列表中最靠上的网络优先使用。</translation>
     </message>
     <message>
+        <source>IDS_FIRST_TITLE</source>
+        <translation>优先使用哪些网络？</translation>
+    </message>
+    <message>
+        <source>IDS_FIRST_TAKE_OVER</source>
+        <translation>此计算机上保存了一些网络。可以按现在的使用顺序采用它们，然后把首选的网络移到顶部。</translation>
+    </message>
+    <message>
+        <source>IDS_FIRST_CONNECT</source>
+        <translation>连接到一个网络后，它会显示在这里。</translation>
+    </message>
+    <message>
         <source>IDS_EMPTY_UNREADABLE</source>
         <translation>原因请看上面的消息。</translation>
     </message>
@@ -921,6 +941,14 @@
     <message>
         <source>IDS_BUTTON_REDO</source>
         <translation>重做</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_TAKE_OVER</source>
+        <translation>采用已保存的网络…</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_IMPORT</source>
+        <translation>导入列表…</translation>
     </message>
     <message>
         <source>IDS_UNDO_WHAT</source>
@@ -1176,6 +1204,22 @@
     <message>
         <source>IDS_IMPORT_OK</source>
         <translation>导入</translation>
+    </message>
+    <message>
+        <source>IDS_TAKE_OVER_TITLE</source>
+        <translation>采用已保存的网络</translation>
+    </message>
+    <message>
+        <source>IDS_TAKE_OVER_HINT</source>
+        <translation>用此计算机上已保存的网络组成您的列表。您可以先查看。</translation>
+    </message>
+    <message>
+        <source>IDS_TAKE_OVER_SUMMARY</source>
+        <translation>按现在的使用顺序：%1</translation>
+    </message>
+    <message>
+        <source>IDS_TAKE_OVER_OK</source>
+        <translation>采用</translation>
     </message>
     <message>
         <source>IDS_IMPORT_NOT_READABLE</source>

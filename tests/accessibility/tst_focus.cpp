@@ -13,7 +13,7 @@ namespace
 {
 
 const char *const screens[] = {"list",
-                               "list, empty",
+                               "list, emptied",
                                "trace, something found",
                                "settings, priority page",
                                "add dialog",

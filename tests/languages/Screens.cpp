@@ -180,7 +180,9 @@ private:
 const Screens::Screen Screens::screens[] = {
     {"list", &Screens::ShowList, nullptr},
     {"list, nothing in range", &Screens::ShowList, noNetworks},
-    {"list, empty", &Screens::ShowListFile, nullptr},
+    {"list, first start", &Screens::ShowListFile, nullptr},
+    {"list, first start, nothing saved", &Screens::ShowConnections, "nothing saved"},
+    {"list, emptied", &Screens::ShowEmptiedList, nullptr},
     {"list, of mobile broadband", &Screens::ShowListFile, "<z><item name='Mobile broadband' type='2'/></z>"},
     {"list, mobile broadband second", &Screens::ShowListFile,
      "<z><item name='Home' type='1'/><item name='Mobile broadband' type='2'/></z>"},
@@ -232,6 +234,7 @@ const Screens::Screen Screens::screens[] = {
     {"restore dialog, history damaged", &Screens::ShowRestoreWithoutHistory, nullptr},
     {"restore dialog, history not set aside", &Screens::ShowHistoryNotSetAside, nullptr},
     {"import dialog", &Screens::ShowImport, imported},
+    {"take-over dialog", &Screens::ShowTakeOver, nullptr},
     {"import dialog, one moves up", &Screens::ShowImport,
      "Home, Office, Café, Old printer, Library, Workshop, Company"},
     {"import dialog, one moves down", &Screens::ShowImport,
@@ -310,6 +313,8 @@ const Screens::Screen Screens::screens[] = {
     {"notice, order, one outside comes first", &Screens::ShowStoringNotice, "IDS_WLAN_ORDER_OVERTAKEN"},
     {"connect dialog", &Screens::ShowConnect, nullptr},
     {"connect dialog, nothing in range", &Screens::ShowConnect, noNetworks},
+    {"connect dialog, something found", &Screens::ShowNetworkSearch, "o"},
+    {"connect dialog, nothing found", &Screens::ShowNetworkSearch, "Home 2"},
     {"connect dialog, key asked for", &Screens::ShowConnecting, "key"},
     {"connect dialog, new ones at the top", &Screens::ShowConnecting, "top"},
     {"connect dialog, new ones not listed", &Screens::ShowConnecting, "not listed"},
@@ -433,6 +438,45 @@ void Screens::ShowListFile(const char *content)
     Visit();
 }
 
+void Screens::ShowEmptiedList(const char *)
+{
+    Fill();
+    OpenWindow(m_plugins.data());
+    WriteUserFile(QLatin1String("Priority.xml"), OrderFile::Document(QList<PriorityList>()));
+    m_window->Refresh();
+    Visit();
+}
+
+void Screens::ShowTakeOver(const char *)
+{
+    OpenWindow(m_plugins.data());
+    Click("message_takeOverAction");
+    Visit();
+}
+
+void Screens::ShowNetworkSearch(const char *typed)
+{
+    const char *const names[] = {"Home",     "Office",  "Café",    "Company",   "Old printer", "Library",
+                                 "Workshop", "Library", "Company", "Neighbour", "Campus",      "Library"};
+    FakeConnections connections;
+    for (const char *name : names) {
+        VisibleNetwork network;
+        network.name = QString::fromUtf8(name);
+        network.id = network.name + QString::number(connections.told.networks.size());
+        network.protection = VisibleNetwork::ProtectionOpen;
+        network.signal = 90;
+        connections.told.networks.append(network);
+    }
+    WithConnections container(m_plugins.data(), &connections);
+    HostControl::SetPluginContainer(&container);
+    OpenWindow(m_plugins.data());
+    Click("connectButton");
+    Child<QLineEdit>("connectSearchEdit")->setText(QLatin1String(typed));
+    Visit();
+    m_window.reset();
+    HostControl::SetPluginContainer(m_plugins.data());
+}
+
 void Screens::ShowUnopenedList(const char *)
 {
     // A directory can't be opened as a file, not even by root.
@@ -485,6 +529,10 @@ void Screens::ShowConnections(const char *what)
         told.state.source = ConnectionState::SourceGone;
     } else if (shown == "asked") {
         told.state.source = ConnectionState::SourceNotKnown;
+    }
+    if (shown == "nothing saved") {
+        list.clear();
+        told.profiles.clear();
     }
     connections.answer = IConnectionPlugin::RefusedNotAllowed;
     WriteUserFile(QLatin1String("Priority.xml"), OrderFile::Document(list));

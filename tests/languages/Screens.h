@@ -55,6 +55,9 @@ private:
 
     void ShowList(const char *networksInRange);
     void ShowListFile(const char *content);
+    void ShowEmptiedList(const char *unused);
+    void ShowTakeOver(const char *unused);
+    void ShowNetworkSearch(const char *typed);
     void ShowUnopenedList(const char *);
     void ShowRangeUnknown(const char *listFile);
     void ShowConnections(const char *what);

@@ -159,6 +159,7 @@ private slots:
     void ProfilesOfOneNetworkAreEachTold();
     void ProfilesOfOneNameAreEachTold();
     void HotspotIsNoProfileToJoin();
+    void ProfilesComeInTheOrderInWhichNetworkManagerChooses();
     void FailureIsTold();
 
     void StageIsThatOfTheDevice_data();
@@ -628,6 +629,30 @@ void tst_connectionpicture::HotspotIsNoProfileToJoin()
     settings[wifiType]["mode"] = "ap";
     scene.Add(settings);
     QVERIFY(scene.Records().profiles.isEmpty());
+}
+
+void tst_connectionpicture::ProfilesComeInTheOrderInWhichNetworkManagerChooses()
+{
+    Scene scene;
+    const struct {
+        const char *name;
+        int priority;
+        qulonglong timestamp;
+        bool connectsByItself;
+    } profiles[] = {{"a, by hand", 9, 9, false}, {"b", 0, 0, true},  {"c", 5, 1, true},
+                    {"d", 0, 7, true},           {"e", -1, 9, true}, {"f", 5, 2, true}};
+    for (const auto &profile : profiles) {
+        NMVariantMapMap settings = Scene::Settings(profile.name, "x");
+        settings["connection"]["autoconnect-priority"] = profile.priority;
+        settings["connection"]["timestamp"] = profile.timestamp;
+        settings["connection"]["autoconnect"] = profile.connectsByItself;
+        scene.Add(settings);
+    }
+    QStringList names;
+    for (const ConnectionProfile &profile : scene.Records().profiles) {
+        names.append(profile.name);
+    }
+    QCOMPARE(names.join(' '), QString("f c d b e a, by hand"));
 }
 
 void tst_connectionpicture::FailureIsTold()

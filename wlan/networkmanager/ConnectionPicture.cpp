@@ -172,9 +172,7 @@ ConnectionProfile RecordOf(const NetworkProfile &profile, const CProfileReach::R
     record.failure = failure.failure;
     record.failedAt = failure.when;
     record.lastConnected = static_cast<qint64>(profile.lastConnected);
-    record.connectsByItself = profile.settings.value(QLatin1String("connection"))
-                                  .value(QLatin1String("autoconnect"), true)
-                                  .toBool();
+    record.connectsByItself = profile.connectsByItself;
     if (profile.kind == NetworkProfile::Wifi) {
         WLANProfile words;
         NetworkSecurity::Describe(profile.settings, &words);
@@ -262,6 +260,26 @@ private:
     QHash<QString, int> m_places;
 };
 
+/** As NetworkManager chooses; it never chooses what doesn't connect by itself. */
+bool IsRatherUsed(const NetworkProfile *left, const NetworkProfile *right)
+{
+    if (left->connectsByItself != right->connectsByItself) {
+        return left->connectsByItself;
+    }
+    return left->priority != right->priority ? left->priority > right->priority
+                                             : left->lastConnected > right->lastConnected;
+}
+
+QList<const NetworkProfile *> InOrderOfUse(const QList<NetworkProfile> &profiles)
+{
+    QList<const NetworkProfile *> ordered;
+    for (const NetworkProfile &profile : profiles) {
+        ordered.append(&profile);
+    }
+    std::stable_sort(ordered.begin(), ordered.end(), IsRatherUsed);
+    return ordered;
+}
+
 bool WasConnectedLater(const NetworkProfile *left, const NetworkProfile *right)
 {
     return left->lastConnected > right->lastConnected;
@@ -286,7 +304,8 @@ ConnectionRecords ConnectionRecords::Of(const ConnectionPicture &picture)
     CNetworkList networks(reach.Sightings());
     QList<const NetworkProfile *> byUse;
     QHash<QString, QList<Sighting>> sightings;
-    for (const NetworkProfile &profile : picture.profiles) {
+    for (const NetworkProfile *rather : InOrderOfUse(picture.profiles)) {
+        const NetworkProfile &profile = *rather;
         if (profile.kind == NetworkProfile::OtherKind || profile.isHotspot) {
             continue;
         }

@@ -118,10 +118,8 @@ QString BssTypeOf(const NMVariantMapMap &settings)
 
 void Fill(const NetworkProfile &remembered, WLANProfile *profile)
 {
-    const QVariantMap connection = remembered.settings.value(QLatin1String("connection"));
     profile->profileName = remembered.name;
-    profile->connectionMode =
-        QLatin1String(connection.value(QLatin1String("autoconnect"), true).toBool() ? "auto" : "manual");
+    profile->connectionMode = QLatin1String(remembered.connectsByItself ? "auto" : "manual");
     profile->readOnly = QLatin1String(remembered.isReadOnly ? "true" : "false");
     if (remembered.kind == NetworkProfile::Wifi) {
         profile->ssid = SsidText::FromBytes(remembered.ssid);

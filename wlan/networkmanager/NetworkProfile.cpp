@@ -51,6 +51,7 @@ NetworkProfile NetworkProfile::Make(const ProfilePlace &place, const NMVariantMa
     profile.kind = KindOf(connection.value(QLatin1String("type")).toString());
     profile.lastConnected = connection.value(QLatin1String("timestamp")).toULongLong();
     profile.priority = connection.value(QLatin1String("autoconnect-priority")).toInt();
+    profile.connectsByItself = connection.value(QLatin1String("autoconnect"), true).toBool();
     if (profile.kind == Wifi) {
         NetworkManager::WirelessSetting wireless;
         wireless.fromMap(settings.value(wireless.name()));

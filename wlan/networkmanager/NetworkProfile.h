@@ -31,6 +31,8 @@ struct NetworkProfile {
     /** When it was last connected, in seconds since 1970; 0 for never. */
     quint64 lastConnected = 0;
     int priority = 0;
+    /** NetworkManager may choose it. */
+    bool connectsByItself = true;
     /** It is gone sooner or later without anybody deleting it. */
     bool isPassing = false;
     /** Only others may use it. */

@@ -2,9 +2,9 @@
 
 #include <QAction>
 
-ActionButton::ActionButton(const char *name, QAction *action) : m_action(action)
+ActionButton::ActionButton(const char *name, QAction *action, Look look)
+    : TextButton(name, look), m_action(action)
 {
-    setObjectName(QLatin1String(name));
     addAction(action);
     connect(this, SIGNAL(clicked()), action, SLOT(trigger()));
     connect(action, SIGNAL(changed()), this, SLOT(Follow()));

@@ -25,6 +25,15 @@ Tones::Trouble ColoursOf(Glyphs::Mark mark)
     return mark == Glyphs::MarkError ? tones.error : tones.warning;
 }
 
+QList<QByteArray> Kinds(const QList<Banner::Problem> &problems)
+{
+    QList<QByteArray> kinds;
+    for (const Banner::Problem &problem : problems) {
+        kinds.append(problem.kind);
+    }
+    return kinds;
+}
+
 } // namespace
 
 Banner::Banner()
@@ -56,7 +65,7 @@ Banner::Banner()
 void Banner::Show(const QList<Problem> &problems)
 {
     // What has been turned to stays, until others come or go.
-    m_place = problems.size() == m_problems.size() ? m_place : 0;
+    m_place = Kinds(problems) == Kinds(m_problems) ? m_place : 0;
     m_problems = problems;
     setVisible(!m_problems.isEmpty());
     if (!m_problems.isEmpty()) {

@@ -3,6 +3,7 @@
 
 #include "Glyphs.h"
 
+#include <QByteArray>
 #include <QPointer>
 #include <QWidget>
 
@@ -18,6 +19,8 @@ class Banner : public QWidget
 public:
     struct Problem {
         Glyphs::Mark mark = Glyphs::MarkWarning;
+        /** What it is, in whatever language it is told. */
+        QByteArray kind;
         QString title;
         QString text;
         /** Not owned; null: nothing can be done here. */

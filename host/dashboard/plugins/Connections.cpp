@@ -4,6 +4,9 @@
 
 #include <IConnectionPlugin.h>
 
+#include <QPair>
+#include <QSet>
+
 Connections Connections::Read()
 {
     Connections read;
@@ -33,6 +36,22 @@ const ActiveConnection *Connections::InUse() const
         }
     }
     return nullptr;
+}
+
+QList<PriorityList> Connections::Remembered() const
+{
+    QList<PriorityList> entries;
+    QSet<QPair<QString, QString>> known;
+    for (const ConnectionProfile &profile : profiles) {
+        PriorityList entry;
+        entry.name = profile.name;
+        entry.type = profile.type;
+        if (!known.contains(qMakePair(entry.name, entry.type))) {
+            known.insert(qMakePair(entry.name, entry.type));
+            entries.append(entry);
+        }
+    }
+    return entries;
 }
 
 bool Connections::IsComingUp(int stage)

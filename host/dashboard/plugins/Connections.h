@@ -2,6 +2,7 @@
 #define CONNECTIONS_H
 
 #include <ConnectionRecords.h>
+#include <PriorityList.h>
 
 #include <QList>
 
@@ -29,6 +30,9 @@ struct Connections {
     const ActiveConnection *InUse() const;
 
     static bool IsComingUp(int stage);
+
+    /** The entries that mean the profiles, in the order of these, each once. */
+    QList<PriorityList> Remembered() const;
 };
 
 #endif

@@ -11,6 +11,8 @@
 #include <NetworkDelegate.h>
 #include <OverviewText.h>
 #include <PluginObjects.h>
+#include <Settings.h>
+#include <TextButton.h>
 
 #include <QCheckBox>
 #include <QHBoxLayout>
@@ -33,6 +35,10 @@ namespace
 
 const int dialogWidth = 480;
 const int dialogHeight = 520;
+const int smallestSide = 360;
+
+/** So many networks can be looked through without searching. */
+const int searchableCount = 12;
 
 /** Of a row, besides what is drawn: the network's id. */
 const int idRole = Qt::UserRole + 100;
@@ -41,6 +47,23 @@ const int idRole = Qt::UserRole + 100;
 const int usualTime = 15000;
 
 const int stageCount = StageGettingAddress;
+
+QString SizeKey()
+{
+    return QLatin1String("connect/size");
+}
+
+/** The letters without case and accents. */
+QString Plain(const QString &text)
+{
+    QString plain;
+    for (const QChar letter : text.normalized(QString::NormalizationForm_KD)) {
+        if (!letter.isMark()) {
+            plain.append(letter);
+        }
+    }
+    return plain.toCaseFolded();
+}
 
 const char *ProtectionText(int protection)
 {
@@ -69,16 +92,19 @@ QString KeyRule(bool isWep)
 
 } // namespace
 
-ConnectDialog::ConnectDialog(QWidget *parent)
-    : ExtendDialog(parent, Qt::WindowCloseButtonHint, enWidgetTypeDialog), m_usualTime(new QTimer(this))
+ConnectDialog::ConnectDialog(QWidget *parent) : QDialog(parent), m_usualTime(new QTimer(this))
 {
     setObjectName(QLatin1String("connectDialog"));
-    QWidget *content = new QWidget(this);
-    content->setObjectName(QLatin1String("connectContent"));
-    QVBoxLayout *layout = new QVBoxLayout(content);
+    setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
+    QVBoxLayout *layout = new QVBoxLayout(this);
     layout->setSpacing(10);
     m_hint = DialogParts::Label("connectHintLabel");
     layout->addWidget(m_hint);
+    m_search = new QLineEdit;
+    m_search->setObjectName(QLatin1String("connectSearchEdit"));
+    m_search->hide();
+    connect(m_search, &QLineEdit::textChanged, this, &ConnectDialog::FollowSearch);
+    layout->addWidget(m_search);
 
     CreateList();
     m_empty = DialogParts::EmptyLabel("connectEmptyLabel");
@@ -96,9 +122,11 @@ ConnectDialog::ConnectDialog(QWidget *parent)
     m_outcome = DialogParts::Label("connectOutcomeLabel");
     layout->addWidget(m_outcome);
     layout->addWidget(CreateButtons());
-    AddMainWidget(content);
     m_okButton->setDefault(true);
-    setFixedSize(DialogParts::ForFont(dialogWidth), DialogParts::ForFont(dialogHeight));
+    setMinimumSize(DialogParts::ForFont(smallestSide), DialogParts::ForFont(smallestSide));
+    const QSize kept = Settings::Read(SizeKey()).toSize();
+    resize(kept.isValid() ? kept
+                          : QSize(DialogParts::ForFont(dialogWidth), DialogParts::ForFont(dialogHeight)));
 
     connect(m_list, &QListWidget::itemSelectionChanged, this, &ConnectDialog::FollowChoice);
     connect(m_list, &QListWidget::itemDoubleClicked, this, &ConnectDialog::accept);
@@ -157,11 +185,9 @@ QWidget *ConnectDialog::CreateKeyRow()
 
 QWidget *ConnectDialog::CreateButtons()
 {
-    m_okButton = new QPushButton;
-    m_okButton->setObjectName(QLatin1String("connectOkButton"));
+    m_okButton = new TextButton("connectOkButton");
     connect(m_okButton, &QPushButton::clicked, this, &ConnectDialog::accept);
-    m_cancelButton = new QPushButton;
-    m_cancelButton->setObjectName(QLatin1String("connectCancelButton"));
+    m_cancelButton = new TextButton("connectCancelButton");
     connect(m_cancelButton, &QPushButton::clicked, this, &ConnectDialog::reject);
     return DialogParts::ButtonBar("connectButtonBar", m_okButton, m_cancelButton);
 }
@@ -188,23 +214,35 @@ void ConnectDialog::ListNetworks()
 {
     const QSignalBlocker blocker(m_list);
     const int scrolledTo = m_list->verticalScrollBar()->value();
+    // Once it is there it stays: what has been typed counts.
+    m_search->setVisible(!m_search->isHidden() || m_told.networks.size() >= searchableCount);
+    const QList<VisibleNetwork> listed = Section(true);
+    const QList<VisibleNetwork> others = Section(false);
     m_list->clear();
-    AddSection("IDS_CONNECT_LISTED", true);
-    AddSection("IDS_CONNECT_OTHERS", false);
+    AddSection("IDS_CONNECT_LISTED", listed);
+    AddSection("IDS_CONNECT_OTHERS", others);
     m_list->verticalScrollBar()->setValue(scrolledTo);
-    const bool isEmpty = m_told.networks.isEmpty();
-    m_empty->setText(m_told.AreKnown()
-                         ? DashboardText("IDS_CONNECT_NONE")
-                         : OverviewText::Explanation(Overview::Make(0, QList<PriorityList>(), m_told)));
-    m_body->setCurrentWidget(isEmpty ? static_cast<QWidget *>(m_empty) : m_list);
+    m_empty->setText(NoNetworks());
+    m_body->setCurrentWidget(m_list->count() == 0 ? static_cast<QWidget *>(m_empty) : m_list);
 }
 
-/** Those that have a place in the priority list, or those that have none; nothing where there are none. */
-void ConnectDialog::AddSection(const char *titleId, bool isListed)
+/** Why none is listed. */
+QString ConnectDialog::NoNetworks() const
 {
+    if (!m_told.AreKnown()) {
+        return OverviewText::Explanation(Overview::Make(0, QList<PriorityList>(), m_told));
+    }
+    return m_told.networks.isEmpty() ? DashboardText("IDS_CONNECT_NONE")
+                                     : DashboardText("IDS_CONNECT_NOT_FOUND").arg(m_search->text());
+}
+
+/** Those that are looked for and have a place in the priority list, or have none. */
+QList<VisibleNetwork> ConnectDialog::Section(bool isListed) const
+{
+    const QString wanted = Plain(m_search->text());
     QList<VisibleNetwork> networks;
-    for (const VisibleNetwork &network : std::as_const(m_told.networks)) {
-        if ((PlaceOf(network) > 0) == isListed) {
+    for (const VisibleNetwork &network : m_told.networks) {
+        if ((PlaceOf(network) > 0) == isListed && Plain(network.name).contains(wanted)) {
             networks.append(network);
         }
     }
@@ -212,6 +250,11 @@ void ConnectDialog::AddSection(const char *titleId, bool isListed)
     std::stable_sort(
         networks.begin(), networks.end(),
         [this](const VisibleNetwork &a, const VisibleNetwork &b) { return PlaceOf(a) < PlaceOf(b); });
+    return networks;
+}
+
+void ConnectDialog::AddSection(const char *titleId, const QList<VisibleNetwork> &networks)
+{
     if (!networks.isEmpty()) {
         QListWidgetItem *title = new QListWidgetItem(DashboardText(titleId));
         title->setData(NetworkDelegate::IsSectionRole, true);
@@ -219,7 +262,7 @@ void ConnectDialog::AddSection(const char *titleId, bool isListed)
         title->setFlags(Qt::NoItemFlags);
         m_list->addItem(title);
     }
-    for (const VisibleNetwork &network : std::as_const(networks)) {
+    for (const VisibleNetwork &network : networks) {
         AddNetwork(network);
     }
 }
@@ -298,6 +341,8 @@ void ConnectDialog::Retranslate()
     setWindowTitle(DashboardText("IDS_CONNECT_TITLE"));
     const char *const hints[] = {"IDS_CONNECT_HINT", "IDS_CONNECT_HINT_TOP", "IDS_CONNECT_HINT_NONE"};
     m_hint->setText(DashboardText(hints[ListRules::PlaceOfNewNetworks()]));
+    m_search->setPlaceholderText(DashboardText("IDS_CONNECT_SEARCH"));
+    m_search->setAccessibleName(DashboardText("IDS_CONNECT_SEARCH"));
     m_list->setAccessibleName(DashboardText("IDS_CONNECT_TITLE"));
     m_progress->setAccessibleName(DashboardText("IDS_CONNECT_TITLE"));
     m_showKey->setText(DashboardText("IDS_CONNECT_SHOW_KEY"));
@@ -316,7 +361,7 @@ void ConnectDialog::Follow()
     }
     if (m_order > 0 && m_attempt.stage == StageConnected && m_attempt.failure == FailureNone) {
         AddToList();
-        ExtendDialog::accept();
+        QDialog::accept();
         return;
     }
     ListNetworks();
@@ -338,6 +383,19 @@ void ConnectDialog::FollowChoice()
         m_key->clear();
     }
     Show();
+}
+
+/** Chooses the first that is found, unless the chosen one is among them. */
+void ConnectDialog::FollowSearch()
+{
+    ListNetworks();
+    if (m_list->selectedItems().isEmpty()) {
+        // What has no place to go to, the sections' titles, can't be chosen.
+        for (int row = 0; row < m_list->count() && m_list->selectedItems().isEmpty(); ++row) {
+            m_list->setCurrentRow(row);
+        }
+        FollowChoice();
+    }
 }
 
 void ConnectDialog::ShowKey(bool isShown)
@@ -407,6 +465,7 @@ void ConnectDialog::Show()
     m_keyRow->setVisible(needsKey);
     m_keyRow->setEnabled(!isUnderWay);
     m_list->setEnabled(!isUnderWay);
+    m_search->setEnabled(!isUnderWay);
     m_progress->setVisible(isUnderWay);
     m_progress->setValue(m_attempt.stage);
     const bool isForAccounts =
@@ -472,6 +531,12 @@ void ConnectDialog::reject()
     if (IsUnderWay() && plugin) {
         plugin->CancelAttempt(m_order);
     } else {
-        ExtendDialog::reject();
+        QDialog::reject();
     }
+}
+
+void ConnectDialog::done(int result)
+{
+    Settings::Write(SizeKey(), size());
+    QDialog::done(result);
 }

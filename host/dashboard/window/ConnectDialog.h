@@ -2,10 +2,10 @@
 #define CONNECTDIALOG_H
 
 #include <Connections.h>
-#include <ExtendDialog.h>
 
 #include <PriorityList.h>
 
+#include <QDialog>
 #include <QHash>
 #include <QString>
 
@@ -23,7 +23,7 @@ class QTimer;
  * that asks for a key and has no profile is given its key here. What is listed keeps its place in the
  * priority list; what is not goes once it is connected to where the user wants new networks to go.
  */
-class ConnectDialog : public ExtendDialog
+class ConnectDialog : public QDialog
 {
     Q_OBJECT
 
@@ -36,12 +36,16 @@ public:
     /** Stops what is under way, or else closes. */
     void reject() override;
 
+    /** Keeps the size for the next time, in whatever way the dialog is closed. */
+    void done(int result) override;
+
 public slots:
     void Retranslate();
 
 private slots:
     void Follow();
     void FollowChoice();
+    void FollowSearch();
     void ShowKey(bool isShown);
 
 private:
@@ -50,7 +54,9 @@ private:
     QWidget *CreateButtons();
     void Read();
     void ListNetworks();
-    void AddSection(const char *titleId, bool isListed);
+    QString NoNetworks() const;
+    QList<VisibleNetwork> Section(bool isListed) const;
+    void AddSection(const char *titleId, const QList<VisibleNetwork> &networks);
     void AddNetwork(const VisibleNetwork &network);
     int PlaceOf(const VisibleNetwork &network) const;
     const VisibleNetwork *Chosen() const;
@@ -79,6 +85,7 @@ private:
     bool m_isKeyTyped = false;
 
     QLabel *m_hint;
+    QLineEdit *m_search;
     QStackedWidget *m_body;
     QListWidget *m_list;
     QLabel *m_empty;

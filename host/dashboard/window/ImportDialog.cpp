@@ -58,9 +58,15 @@ QString UnknownText(const ImportPlan &plan)
 
 } // namespace
 
-ImportDialog::ImportDialog(ListKeeper *keeper, const QList<PriorityList> &entries, QWidget *parent)
+const ImportDialog::Words ImportDialog::fromFile = {"IDS_IMPORT_TITLE", "IDS_IMPORT_SUMMARY",
+                                                    "IDS_IMPORT_OK"};
+const ImportDialog::Words ImportDialog::fromComputer = {"IDS_TAKE_OVER_TITLE", "IDS_TAKE_OVER_SUMMARY",
+                                                        "IDS_TAKE_OVER_OK"};
+
+ImportDialog::ImportDialog(ListKeeper *keeper, const QList<PriorityList> &entries, const Words &words,
+                           QWidget *parent)
     : ExtendDialog(parent, Qt::WindowCloseButtonHint, enWidgetTypeDialog), m_keeper(keeper),
-      m_entries(entries), m_summary(DialogParts::Label("importSummaryLabel")),
+      m_entries(entries), m_words(words), m_summary(DialogParts::Label("importSummaryLabel")),
       m_table(DialogParts::Table("importList", ColumnCount)),
       m_unknown(DialogParts::Label("importUnknownLabel")),
       m_problem(DialogParts::Label("importProblemLabel")), m_okButton(new QPushButton),
@@ -96,14 +102,14 @@ ImportDialog::ImportDialog(ListKeeper *keeper, const QList<PriorityList> &entrie
 
 void ImportDialog::Retranslate()
 {
-    setWindowTitle(DashboardText("IDS_IMPORT_TITLE"));
-    m_table->setAccessibleName(DashboardText("IDS_IMPORT_TITLE"));
+    setWindowTitle(DashboardText(m_words.title));
+    m_table->setAccessibleName(DashboardText(m_words.title));
     DialogParts::SetHeader(m_table, PlaceColumn, DashboardText("IDS_IMPORT_PLACE"), Qt::AlignRight);
     m_table->setColumnWidth(PlaceColumn,
                             qMax(placeWidth, m_table->horizontalHeader()->sectionSizeHint(PlaceColumn)));
     DialogParts::SetHeader(m_table, NameColumn, DashboardText("IDS_CONNECT_NETWORK"), Qt::AlignLeft);
     DialogParts::SetHeader(m_table, EffectColumn, DashboardText("IDS_IMPORT_EFFECT"), Qt::AlignLeft);
-    m_okButton->setText(DashboardText("IDS_IMPORT_OK"));
+    m_okButton->setText(DashboardText(m_words.accept));
     m_cancelButton->setText(DashboardText("IDS_CANCEL"));
     ShowPlan();
 }
@@ -114,9 +120,9 @@ void ImportDialog::ShowPlan()
     QList<PriorityList> known;
     const bool isKnown = PluginObjects::RememberedNetworks(&known);
     const ImportPlan plan = ImportPlan::Make(before, m_entries, isKnown ? &known : nullptr);
-    m_summary->setText(
-        plan.IsChange() ? DashboardText("IDS_IMPORT_SUMMARY").arg(ListChangeText::Announce(before, m_entries))
-                        : DashboardText("IDS_IMPORT_NO_CHANGE"));
+    m_summary->setText(plan.IsChange()
+                           ? DashboardText(m_words.summary).arg(ListChangeText::Announce(before, m_entries))
+                           : DashboardText("IDS_IMPORT_NO_CHANGE"));
     m_table->setRowCount(plan.rows.size());
     for (int row = 0; row < plan.rows.size(); ++row) {
         const ImportPlan::Row &planned = plan.rows.at(row);

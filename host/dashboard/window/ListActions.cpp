@@ -5,6 +5,7 @@
 
 #include <ActionButton.h>
 #include <BidiText.h>
+#include <Connections.h>
 #include <DashboardText.h>
 #include <DialogParts.h>
 #include <ElidedLabel.h>
@@ -26,7 +27,8 @@ ListActions::ListActions(ListKeeper *keeper, QWidget *window)
       m_redo(CreateAction("redoAction", SLOT(Redo()))),
       m_restore(CreateAction("restoreAction", SLOT(OpenRestore()))),
       m_import(CreateAction("importAction", SLOT(OpenImport()))),
-      m_export(CreateAction("exportAction", SLOT(OpenExport())))
+      m_export(CreateAction("exportAction", SLOT(OpenExport()))),
+      m_takeOver(CreateAction("takeOverAction", SLOT(OpenTakeOver())))
 {
     m_undo->setShortcut(QKeySequence(QLatin1String("Ctrl+Z")));
     m_redo->setShortcut(QKeySequence(QLatin1String("Ctrl+Shift+Z")));
@@ -76,6 +78,9 @@ void ListActions::Retranslate()
     m_restore->setText(DashboardText("IDS_ACTION_RESTORE"));
     m_import->setText(DashboardText("IDS_ACTION_IMPORT"));
     m_export->setText(DashboardText("IDS_ACTION_EXPORT"));
+    m_takeOver->setText(DashboardText("IDS_BUTTON_TAKE_OVER"));
+    m_takeOver->setIconText(DashboardText("IDS_BUTTON_TAKE_OVER"));
+    m_import->setIconText(DashboardText("IDS_BUTTON_IMPORT"));
     m_undo->setIconText(DashboardText("IDS_BUTTON_UNDO"));
     m_redo->setIconText(DashboardText("IDS_BUTTON_REDO"));
     if (m_restoreDialog) {
@@ -113,6 +118,8 @@ void ListActions::Update()
     SetHelp(m_restore, canOpen ? DashboardText("IDS_RESTORE_HINT") : obstacle);
     m_import->setEnabled(obstacle.isNull());
     SetHelp(m_import, obstacle.isNull() ? DashboardText("IDS_IMPORT_HINT") : obstacle);
+    m_takeOver->setEnabled(obstacle.isNull());
+    SetHelp(m_takeOver, obstacle.isNull() ? DashboardText("IDS_TAKE_OVER_HINT") : obstacle);
     // What can be read of a damaged list would pass for all of it, and take the place of a file that has all.
     const QString exportObstacle =
         obstacle.isNull() && m_keeper->IsDamaged() ? DashboardText("IDS_LIST_DAMAGED") : obstacle;
@@ -185,7 +192,17 @@ void ListActions::Import(const QString &path)
             DashboardText("IDS_IMPORT_DAMAGED").arg(InOwnDirection(path), FileFaultText(fault)));
         return;
     }
-    m_importDialog = new ImportDialog(m_keeper, entries, m_window);
+    Open(new ImportDialog(m_keeper, entries, ImportDialog::fromFile, m_window));
+}
+
+void ListActions::OpenTakeOver()
+{
+    Open(new ImportDialog(m_keeper, Connections::Read().Remembered(), ImportDialog::fromComputer, m_window));
+}
+
+void ListActions::Open(ImportDialog *dialog)
+{
+    m_importDialog = dialog;
     m_importDialog->setAttribute(Qt::WA_DeleteOnClose);
     m_importDialog->setModal(true);
     m_importDialog->show();

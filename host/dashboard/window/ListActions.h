@@ -35,6 +35,11 @@ public:
     /** Buttons to undo and redo for another window. */
     QList<QWidget *> CreateButtons(const char *undoName, const char *redoName);
 
+    // Not owned.
+    QAction *UndoAction() const { return m_undo; }
+    QAction *ImportAction() const { return m_import; }
+    QAction *TakeOverAction() const { return m_takeOver; }
+
     void Retranslate();
 
 public slots:
@@ -43,6 +48,7 @@ public slots:
     void Redo();
     void OpenRestore();
     void OpenImport();
+    void OpenTakeOver();
     void OpenExport();
 
 private slots:
@@ -52,6 +58,7 @@ private slots:
 private:
     QAction *CreateAction(const char *name, const char *slot);
     void SetHelp(QAction *action, const QString &help);
+    void Open(ImportDialog *dialog);
     QFileDialog *CreateFileDialog(const char *name, const char *titleId);
 
     ListKeeper *const m_keeper;
@@ -61,6 +68,8 @@ private:
     QAction *m_restore;
     QAction *m_import;
     QAction *m_export;
+    /** Makes the networks that this computer remembers the list, in the order in which they are used. */
+    QAction *m_takeOver;
     QPointer<ElidedLabel> m_lastChange;
     QPointer<RestoreDialog> m_restoreDialog;
     QPointer<ImportDialog> m_importDialog;

@@ -4,6 +4,7 @@
 #include "HeadArea.h"
 #include "ListActions.h"
 #include "ListGuard.h"
+#include "MessagePage.h"
 #include "WindowProblems.h"
 
 #include <AccessibleRows.h>
@@ -37,6 +38,7 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScreen>
 #include <QScrollBar>
 #include <QStackedWidget>
 #include <QTimer>
@@ -44,6 +46,9 @@
 
 namespace
 {
+
+const int widestContent = 960;
+const qreal shareOfScreen = 0.9;
 
 QString GeometryKey()
 {
@@ -106,7 +111,8 @@ MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLo
     m_body = new QStackedWidget;
     m_body->setObjectName(QLatin1String("body"));
     m_body->addWidget(m_list);
-    m_body->addWidget(CreateMessagePage());
+    m_message = new MessagePage;
+    m_body->addWidget(m_message);
     layout->addWidget(m_body, 1);
     m_listBar = m_listActions->CreateBar();
     layout->addWidget(m_listBar);
@@ -124,7 +130,7 @@ MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLo
 
     setMinimumSize(DialogParts::ForFont(360), DialogParts::ForFont(280));
     resize(DialogParts::ForFont(820), DialogParts::ForFont(640));
-    restoreGeometry(Settings::Read(GeometryKey()).toByteArray());
+    m_isSizeKept = restoreGeometry(Settings::Read(GeometryKey()).toByteArray());
     m_list->setFocus();
     Retranslate();
 }
@@ -133,6 +139,14 @@ MainWindow::~MainWindow()
 {
     // The pages are the plug-ins'; they are out of the dialog before it is deleted as a child of this window.
     delete m_settings.data();
+}
+
+void MainWindow::FitToScreen()
+{
+    // Qt itself brings a size that was kept into the screen.
+    if (!m_isSizeKept) {
+        resize(size().boundedTo(screen()->availableSize() * shareOfScreen));
+    }
 }
 
 void MainWindow::CreateMenus()
@@ -158,6 +172,7 @@ void MainWindow::CreateMenus()
     m_listActions->FillMenu(m_editMenu);
     m_editMenu->addSeparator();
     m_settingsAction = m_editMenu->addAction(QString(), this, SLOT(OpenSettings()));
+    m_settingsAction->setObjectName(QLatin1String("settingsAction"));
     m_settingsAction->setShortcut(QKeySequence(QLatin1String("Ctrl+,")));
     m_repairAction = new QAction(this);
     m_repairAction->setObjectName(QLatin1String("repairAction"));
@@ -230,28 +245,6 @@ QWidget *MainWindow::CreateListHeader()
     return header;
 }
 
-QWidget *MainWindow::CreateMessagePage()
-{
-    m_messageTitle = MakeLabel("messageTitle", 1.2, true);
-    m_messageText = MakeLabel("messageText", 1, false);
-    m_messageTitle->setAlignment(Qt::AlignCenter);
-    m_messageText->setAlignment(Qt::AlignCenter);
-    m_messagePage = new QWidget;
-    m_messagePage->setObjectName(QLatin1String("messagePage"));
-    // There is nothing on it to work with; the settings fill the list.
-    m_messagePage->setFocusProxy(m_settingsButton);
-    m_messagePage->setAutoFillBackground(true);
-    m_messagePage->setBackgroundRole(QPalette::Base);
-    QVBoxLayout *layout = new QVBoxLayout(m_messagePage);
-    layout->setContentsMargins(60, 20, 60, 20);
-    layout->setSpacing(10);
-    layout->addStretch();
-    layout->addWidget(m_messageTitle);
-    layout->addWidget(m_messageText);
-    layout->addStretch();
-    return m_messagePage;
-}
-
 void MainWindow::FollowLanguage()
 {
     // The plug-ins first: what this window shows has texts of theirs.
@@ -266,8 +259,10 @@ void MainWindow::Retranslate()
     m_viewMenu->setTitle(DashboardText("IDS_MENU_VIEW"));
     m_languageMenu->setTitle(DashboardText("IDS_MENU_LANGUAGE"));
     m_connectAction->setText(DashboardText("IDS_ACTION_CONNECT"));
+    m_connectAction->setIconText(DashboardText("IDS_BUTTON_CONNECT"));
     m_disconnectAction->setText(DashboardText("IDS_ACTION_DISCONNECT"));
     m_settingsAction->setText(DashboardText("IDS_ACTION_SETTINGS"));
+    m_settingsAction->setIconText(DashboardText("IDS_BUTTON_SETTINGS"));
     m_refreshAction->setText(DashboardText("IDS_ACTION_REFRESH"));
     m_quitAction->setText(DashboardText("IDS_ACTION_QUIT"));
     m_settingsButton->setText(DashboardText("IDS_BUTTON_SETTINGS"));
@@ -368,7 +363,9 @@ void MainWindow::resizeEvent(QResizeEvent *event)
     // What is in use and the list itself are seen last of all.
     const bool isLow = height() < DialogParts::ForFont(460);
     const int margin = isLow ? 8 : 16;
-    centralWidget()->layout()->setContentsMargins(margin, margin, margin, margin);
+    // What belongs together stays together, however wide the window is.
+    const int side = qMax(margin, (width() - DialogParts::ForFont(widestContent)) / 2);
+    centralWidget()->layout()->setContentsMargins(side, margin, side, margin);
     centralWidget()->layout()->setSpacing(isLow ? 6 : 12);
     m_head->SetBrief(isLow);
     m_listHeader->setVisible(!isLow);
@@ -489,28 +486,53 @@ int MainWindow::PlaceInUse() const
 void MainWindow::ShowList()
 {
     if (m_overview.status < 0) {
-        const QList<PluginHost::Plugin> plugins = m_plugins->Plugins();
-        QStringList problems;
-        for (int i = 0; i < plugins.size(); ++i) {
-            if (plugins.at(i).known.hasSettingsPage) {
-                const QString problem = PluginHost::ProblemText(plugins.at(i));
-                problems.append(problem.isEmpty()
-                                    ? DashboardText("IDS_LIST_NOT_OFFERED").arg(plugins.at(i).file)
-                                    : problem);
-            }
+        ShowNoList();
+    } else if (!m_overview.entries.isEmpty()) {
+        ShowEntries();
+    } else if (m_overview.IsListWhole()) {
+        ShowEmptyList();
+    } else {
+        m_message->Show(DashboardText("IDS_NO_LIST_TITLE"), DashboardText("IDS_EMPTY_UNREADABLE"),
+                        QList<QAction *>());
+    }
+    m_body->setCurrentWidget(m_overview.entries.isEmpty() ? static_cast<QWidget *>(m_message) : m_list);
+    if (focusWidget() == m_message) {
+        // There is nothing on it to work with; the settings may help.
+        m_settingsButton->setFocus();
+    }
+}
+
+void MainWindow::ShowNoList()
+{
+    QStringList problems;
+    const QList<PluginHost::Plugin> plugins = m_plugins->Plugins();
+    for (const PluginHost::Plugin &plugin : plugins) {
+        if (plugin.known.hasSettingsPage) {
+            const QString problem = PluginHost::ProblemText(plugin);
+            problems.append(problem.isEmpty() ? DashboardText("IDS_LIST_NOT_OFFERED").arg(plugin.file)
+                                              : problem);
         }
-        m_messageTitle->setText(DashboardText("IDS_NO_LIST_TITLE"));
-        m_messageText->setText(problems.join(QLatin1String("\n\n")));
-        m_body->setCurrentWidget(m_messagePage);
-        return;
     }
-    if (m_overview.entries.isEmpty()) {
-        const bool isEmpty = m_overview.IsListWhole();
-        m_messageTitle->setText(DashboardText(isEmpty ? "IDS_EMPTY_TITLE" : "IDS_NO_LIST_TITLE"));
-        m_messageText->setText(DashboardText(isEmpty ? "IDS_EMPTY_HINT" : "IDS_EMPTY_UNREADABLE"));
-        m_body->setCurrentWidget(m_messagePage);
-        return;
+    m_message->Show(DashboardText("IDS_NO_LIST_TITLE"), problems.join(QLatin1String("\n\n")),
+                    QList<QAction *>());
+}
+
+void MainWindow::ShowEmptyList()
+{
+    if (m_keeper->UndoObstacle() == ListKeeper::NoObstacle) {
+        m_message->Show(DashboardText("IDS_EMPTY_TITLE"), DashboardText("IDS_EMPTY_HINT"),
+                        {m_listActions->UndoAction(), m_settingsAction});
+    } else if (!m_overview.connections.profiles.isEmpty()) {
+        m_message->Show(DashboardText("IDS_FIRST_TITLE"), DashboardText("IDS_FIRST_TAKE_OVER"),
+                        {m_listActions->TakeOverAction(), m_listActions->ImportAction()});
+    } else {
+        m_message->Show(DashboardText("IDS_FIRST_TITLE"), DashboardText("IDS_FIRST_CONNECT"),
+                        {m_connectAction, m_listActions->ImportAction()});
     }
+}
+
+void MainWindow::ShowEntries()
+{
     const int scrolledTo = m_list->verticalScrollBar()->value();
     const int current = m_list->count() == 0 ? PlaceInUse() : m_list->currentRow();
     m_list->clear();
@@ -531,7 +553,6 @@ void MainWindow::ShowList()
             Qt::AccessibleTextRole,
             QString::fromLatin1("%1, %2, %3").arg(entry.entry.name, OverviewText::Kind(entry), state));
     }
-    m_body->setCurrentWidget(m_list);
     m_list->setCurrentRow(qMin(current, m_list->count() - 1));
     m_list->verticalScrollBar()->setValue(scrolledTo);
 }

@@ -18,6 +18,7 @@ class HeadArea;
 class ListActions;
 class ListGuard;
 class ListKeeper;
+class MessagePage;
 class PluginHost;
 class QAction;
 class QActionGroup;
@@ -39,6 +40,9 @@ class MainWindow : public QMainWindow
 public:
     MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLog *log);
     ~MainWindow() override;
+
+    /** Makes the window no larger than most of its screen, unless the user has chosen the size. */
+    void FitToScreen();
 
 public slots:
     void Refresh();
@@ -75,12 +79,14 @@ private:
     void CreateLanguageActions();
     void Watch();
     QWidget *CreateListHeader();
-    QWidget *CreateMessagePage();
     const ActiveConnection *Disconnectable() const;
     void ShowHead();
     void ShowProblems();
     int PlaceInUse() const;
     void ShowList();
+    void ShowEntries();
+    void ShowNoList();
+    void ShowEmptyList();
     void ShowNote();
 
     PluginHost *const m_plugins;
@@ -94,6 +100,7 @@ private:
     QTimer *m_refreshTimer;
     bool m_isRefreshing = false;
     bool m_isWatching = false;
+    bool m_isSizeKept = false;
     TracePanel *m_trace;
     Overview m_overview;
     ConnectionOrder m_order;
@@ -124,9 +131,7 @@ private:
     TextButton *m_settingsButton;
     QStackedWidget *m_body;
     QListWidget *m_list;
-    QWidget *m_messagePage;
-    QLabel *m_messageTitle;
-    QLabel *m_messageText;
+    MessagePage *m_message;
 };
 
 #endif

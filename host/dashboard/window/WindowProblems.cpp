@@ -15,11 +15,12 @@
 namespace
 {
 
-Banner::Problem Make(Glyphs::Mark mark, const QString &title, const QString &text)
+Banner::Problem Make(Glyphs::Mark mark, const char *titleId, const QString &text)
 {
     Banner::Problem problem;
     problem.mark = mark;
-    problem.title = title;
+    problem.kind = titleId;
+    problem.title = DashboardText(titleId);
     problem.text = text;
     return problem;
 }
@@ -40,7 +41,12 @@ QString DamageText(const ListKeeper &keeper)
 
 Banner::Problem WindowProblems::OfOrder(const ConnectionOrder &order)
 {
-    return Make(Glyphs::MarkError, order.Failed(), order.Reason());
+    Banner::Problem problem;
+    problem.mark = Glyphs::MarkError;
+    problem.kind = "order";
+    problem.title = order.Failed();
+    problem.text = order.Reason();
+    return problem;
 }
 
 QList<Banner::Problem> WindowProblems::OfList(const Overview &overview, const ListKeeper &keeper,
@@ -48,16 +54,14 @@ QList<Banner::Problem> WindowProblems::OfList(const Overview &overview, const Li
 {
     QList<Banner::Problem> problems;
     if (keeper.IsDamaged()) {
-        problems.append(
-            Make(Glyphs::MarkError, DashboardText("IDS_BANNER_LIST_DAMAGED"), DamageText(keeper)));
+        problems.append(Make(Glyphs::MarkError, "IDS_BANNER_LIST_DAMAGED", DamageText(keeper)));
         problems.last().remedy = keeper.WriteObstacle() == ListKeeper::NoObstacle ? repair : nullptr;
     } else if (overview.status == PriorityNotOpened) {
-        problems.append(Make(Glyphs::MarkError, DashboardText("IDS_NO_LIST_TITLE"),
-                             DashboardText("IDS_LIST_NOT_OPENED")));
+        problems.append(Make(Glyphs::MarkError, "IDS_NO_LIST_TITLE", DashboardText("IDS_LIST_NOT_OPENED")));
     }
     const QString history = ListKeeperText::Reason(keeper, keeper.HistoryProblem());
     if (!history.isNull()) {
-        problems.append(Make(Glyphs::MarkWarning, DashboardText("IDS_BANNER_HISTORY"), history));
+        problems.append(Make(Glyphs::MarkWarning, "IDS_BANNER_HISTORY", history));
     }
     return problems;
 }
@@ -69,13 +73,12 @@ QList<Banner::Problem> WindowProblems::OfInstallation(const Overview &overview, 
     const QList<PluginHost::Plugin> all = plugins.Plugins();
     for (const PluginHost::Plugin &plugin : all) {
         if (plugin.state != PluginReady && !(overview.status < 0 && plugin.known.hasSettingsPage)) {
-            problems.append(Make(Glyphs::MarkWarning, DashboardText("IDS_BANNER_PLUGIN"),
-                                 PluginHost::ProblemText(plugin)));
+            problems.append(Make(Glyphs::MarkWarning, "IDS_BANNER_PLUGIN", PluginHost::ProblemText(plugin)));
         }
     }
     for (const LanguageProblem &problem : languages) {
-        problems.append(Make(Glyphs::MarkWarning, DashboardText("IDS_BANNER_LANGUAGE"),
-                             DashboardLanguage::ProblemText(problem)));
+        problems.append(
+            Make(Glyphs::MarkWarning, "IDS_BANNER_LANGUAGE", DashboardLanguage::ProblemText(problem)));
     }
     return problems;
 }

@@ -79,12 +79,20 @@ private slots:
     void OtherWaysOutOrderNothing_data();
     void OtherWaysOutOrderNothing();
     void NothingInRangeIsTold();
+    void FewNetworksAreNotSearched();
+    void NetworksAreFoundByAPartOfTheirName_data();
+    void NetworksAreFoundByAPartOfTheirName();
+    void FoundNetworkIsConnectedByReturn();
+    void SearchWithoutAResultConnectsNothing();
+    void SizeIsKept();
     void SourceThatGoesIsTold();
     void TextsAndSidesFollowTheLanguage_data();
     void TextsAndSidesFollowTheLanguage();
 
 private:
     void Open();
+    void AddManyNetworks() const;
+    QLineEdit *Search() const { return m_dialog->findChild<QLineEdit *>("connectSearchEdit"); }
     void Choose(const QString &name) const;
     void ConnectTo(const QString &name);
     QListWidget *List() const { return m_dialog->findChild<QListWidget *>("connectList"); }
@@ -537,7 +545,7 @@ void ConnectDialogTest::OtherWaysOutOrderNothing_data()
     QTest::addColumn<QString>("way");
     QTest::newRow("Cancel") << "connectCancelButton";
     QTest::newRow("Escape") << "";
-    QTest::newRow("close button") << "dialogClose";
+    QTest::newRow("of the window") << "close";
 }
 
 void ConnectDialogTest::OtherWaysOutOrderNothing()
@@ -547,6 +555,8 @@ void ConnectDialogTest::OtherWaysOutOrderNothing()
     Choose("Park");
     if (way.isEmpty()) {
         QTest::keyClick(List(), Qt::Key_Escape);
+    } else if (way == "close") {
+        m_dialog->close();
     } else {
         QTest::mouseClick(m_dialog->findChild<QWidget *>(way), Qt::LeftButton);
     }
@@ -562,6 +572,88 @@ void ConnectDialogTest::NothingInRangeIsTold()
     const QLabel *label = m_dialog->findChild<QLabel *>("connectEmptyLabel");
     QVERIFY(label->isVisible() && label->text().startsWith("No network is in range."));
     QVERIFY(!Button("connectOkButton")->isEnabled());
+}
+
+void ConnectDialogTest::AddManyNetworks() const
+{
+    for (const char *name : {"Café Süd", "Cafeteria", "Museum", "Station", "Library", "Harbour", "Office"}) {
+        VisibleNetwork network;
+        network.id = name;
+        network.name = QString::fromUtf8(name);
+        network.protection = VisibleNetwork::ProtectionOpen;
+        m_fake->told.networks.append(network);
+    }
+}
+
+void ConnectDialogTest::FewNetworksAreNotSearched()
+{
+    AddManyNetworks();
+    const VisibleNetwork last = m_fake->told.networks.takeLast();
+    Open();
+    QVERIFY(!Search()->isVisible());
+    m_fake->told.networks.append(last);
+    m_fake->Tell();
+    QVERIFY(Search()->isVisible());
+    // What has been typed is not taken away.
+    m_fake->told.networks.removeLast();
+    m_fake->Tell();
+    QVERIFY(Search()->isVisible());
+}
+
+void ConnectDialogTest::NetworksAreFoundByAPartOfTheirName_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("found");
+    QTest::newRow("beginning") << "Lib"
+                               << "Library";
+    QTest::newRow("end") << "tion"
+                         << "Station";
+    QTest::newRow("other case") << "OFFICE"
+                                << "Office";
+    QTest::newRow("without the accent") << "cafe" << QString::fromUtf8("Café Süd, Cafeteria");
+    QTest::newRow("with the accent") << QString::fromUtf8("süd") << QString::fromUtf8("Café Süd");
+}
+
+void ConnectDialogTest::NetworksAreFoundByAPartOfTheirName()
+{
+    QFETCH(QString, typed);
+    AddManyNetworks();
+    Open();
+    QTest::mouseClick(Search(), Qt::LeftButton);
+    Search()->setText(typed);
+    QTEST(Rows().remove("[Other networks in range], "), "found");
+}
+
+void ConnectDialogTest::FoundNetworkIsConnectedByReturn()
+{
+    AddManyNetworks();
+    Open();
+    QTest::keyClicks(Search(), "muse");
+    QTest::keyClick(Search(), Qt::Key_Return);
+    QCOMPARE(m_fake->joined, QStringList("Museum/"));
+}
+
+void ConnectDialogTest::SearchWithoutAResultConnectsNothing()
+{
+    AddManyNetworks();
+    Open();
+    QTest::keyClicks(Search(), "<b>x");
+    QCOMPARE(m_dialog->findChild<QLabel *>("connectEmptyLabel")->text(),
+             QString::fromUtf8("No network in range has “<b>x” in its name."));
+    QTest::keyClick(Search(), Qt::Key_Return);
+    QVERIFY(m_fake->joined.isEmpty());
+    Search()->clear();
+    QCOMPARE(Chosen(), QString("Home"));
+}
+
+void ConnectDialogTest::SizeIsKept()
+{
+    Open();
+    const QSize before = m_dialog->size();
+    m_dialog->resize(before.width() + 40, before.height() - 30);
+    m_dialog->reject();
+    Open();
+    QCOMPARE(m_dialog->size(), QSize(before.width() + 40, before.height() - 30));
 }
 
 void ConnectDialogTest::SourceThatGoesIsTold()

@@ -77,7 +77,7 @@ void ImportDialogTest::cleanup()
 
 void ImportDialogTest::Open(const QString &entries)
 {
-    m_dialog.reset(new ImportDialog(m_keeper.data(), Listed(entries), nullptr));
+    m_dialog.reset(new ImportDialog(m_keeper.data(), Listed(entries), ImportDialog::fromFile, nullptr));
     m_dialog->show();
     ActivateWindow(m_dialog.data());
 }

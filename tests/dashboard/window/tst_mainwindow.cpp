@@ -2,6 +2,7 @@
 #include "Lists.h"
 
 #include <DashboardLanguage.h>
+#include <DialogParts.h>
 #include <HostControl.h>
 #include <MainWindow.h>
 #include <NetworkDelegate.h>
@@ -11,6 +12,7 @@
 #include <TraceLog.h>
 
 #include <CommonUtils.h>
+#include <Connections.h>
 #include <IConnectionPlugin.h>
 #include <IPriorityPlugin.h>
 
@@ -24,6 +26,7 @@
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QTableWidget>
 #include <QtTest>
 
@@ -61,7 +64,9 @@ private slots:
     void init();
     void cleanup();
 
-    void NoListIsToldWithAHint();
+    void FirstStartTakesOverWhatIsSaved();
+    void FirstStartWithNothingSavedOffersToConnect();
+    void EmptiedListCanBeHadBack();
     void EntriesAreShownInOrder();
     void ChosenRowStaysChosen();
     void AppearanceMenuSwitchesAndIsKept();
@@ -86,6 +91,9 @@ private slots:
     void TraceShowsLines();
     void LongListIsShown();
     void SmallestWindowShowsWhatIsInUseAndThreeEntries();
+    void WindowIsNoLargerThanMostOfTheScreen();
+    void SizeThatTheUserHasChosenStays();
+    void ContentStaysTogetherInAWideWindow();
 
 private:
     QString Text(const char *name) const
@@ -171,14 +179,73 @@ void MainWindowTest::cleanup()
     }
 }
 
-void MainWindowTest::NoListIsToldWithAHint()
+void MainWindowTest::FirstStartTakesOverWhatIsSaved()
 {
     QVERIFY(!List()->isVisible());
-    QVERIFY(m_window->findChild<QWidget *>("messagePage")->isVisible());
+    QCOMPARE(Text("messageTitle"), QString("Which networks come first?"));
+    QVERIFY(!m_window->findChild<QWidget *>("banner")->isVisible());
+    QTest::mouseClick(m_window->findChild<QPushButton *>("message_takeOverAction"), Qt::LeftButton);
+    QDialog *dialog = m_window->findChild<QDialog *>("importDialog");
+    QCOMPARE(dialog->windowTitle(), QString("Take over saved networks"));
+    QVERIFY(!QFile::exists(ListPath()));
+    QTest::mouseClick(dialog->findChild<QPushButton *>("importOkButton"), Qt::LeftButton);
+    QStringList saved;
+    for (const ConnectionProfile &profile : Connections::Read().profiles) {
+        saved.append(profile.name);
+    }
+    QVERIFY(saved.size() > 2);
+    QCOMPARE(Names(), saved);
+    QVERIFY(List()->isVisible());
+}
+
+void MainWindowTest::FirstStartWithNothingSavedOffersToConnect()
+{
+    m_directory->Write("priority-dashboard/WLANProfiles.xml", "<wlanprofiles/>");
+    m_window->Refresh();
+    QCOMPARE(Text("messageText"), QString("Connect to a network, and it appears here."));
+    QTest::mouseClick(m_window->findChild<QPushButton *>("message_connectAction"), Qt::LeftButton);
+    QVERIFY(m_window->findChild<QDialog *>("connectDialog"));
+}
+
+void MainWindowTest::EmptiedListCanBeHadBack()
+{
+    PluginObjects::Priority()->AddTopPriority(Entry("Home"));
+    QCOMPARE(Names(), QStringList("Home"));
+    WriteList("<prioritylist/>");
+    m_window->Refresh();
     QCOMPARE(Text("messageTitle"), QString("Your list is empty"));
     QVERIFY(Text("messageText").contains("Open the settings"));
-    QVERIFY(!m_window->findChild<QWidget *>("banner")->isVisible());
-    QVERIFY(!QFile::exists(ListPath()));
+    QPushButton *undo = m_window->findChild<QPushButton *>("message_undoAction");
+    undo->setFocus();
+    QTest::mouseClick(undo, Qt::LeftButton);
+    QCOMPARE(Names(), QStringList("Home"));
+    QCOMPARE(m_window->focusWidget(), List());
+}
+
+void MainWindowTest::WindowIsNoLargerThanMostOfTheScreen()
+{
+    const QSize screen = m_window->screen()->availableSize();
+    m_window->FitToScreen();
+    QVERIFY(m_window->width() <= screen.width() * 0.9 && m_window->height() <= screen.height() * 0.9);
+}
+
+void MainWindowTest::SizeThatTheUserHasChosenStays()
+{
+    const QSize chosen = m_window->screen()->availableSize() * 0.95;
+    m_window->resize(chosen);
+    m_window->close();
+    m_window.reset(new MainWindow(m_plugins.data(), m_language.data(), m_log.data()));
+    m_window->FitToScreen();
+    QCOMPARE(m_window->size(), chosen);
+}
+
+void MainWindowTest::ContentStaysTogetherInAWideWindow()
+{
+    m_window->resize(1800, 700);
+    const QWidget *body = m_window->findChild<QWidget *>("body");
+    const int widest = DialogParts::ForFont(960);
+    QTRY_VERIFY(body->width() <= widest && body->width() > widest - 60);
+    QVERIFY(qAbs(body->geometry().center().x() - m_window->rect().center().x()) <= 1);
 }
 
 void MainWindowTest::EntriesAreShownInOrder()
