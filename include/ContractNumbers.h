@@ -19,7 +19,9 @@ enum InterfaceNumber {
     /** IPriorityPlugin. The object is the one for SettingInterface. */
     PriorityInterface = 0x1007,
     /** IConnectionPlugin, of the WLAN plug-in. May be another object than the one for WLANInterface. */
-    ConnectionInterface = 0x1008
+    ConnectionInterface = 0x1008,
+    /** IOrderPlugin, of the WLAN plug-in. May be another object than those before. */
+    OrderInterface = 0x1009
 };
 
 /** Events for INotify::Notify. A host has more of them, which are of no concern here. */

@@ -9,24 +9,46 @@ namespace
 {
 
 const char *const placeWords[] = {"end", "top", "none"};
-
-QString FilePath()
-{
-    return UserData::FilePath(QLatin1String("rules.ini"));
-}
+const char *const notRuling = "no";
 
 QString NewNetworksKey()
 {
     return QLatin1String("newNetworks");
 }
 
+QString RulingKey()
+{
+    return QLatin1String("ruling");
+}
+
+QString Word(const QString &key)
+{
+    const QString path = ListRules::FilePath();
+    return path.isEmpty() ? QString() : QSettings(path, QSettings::IniFormat).value(key).toString();
+}
+
+bool SetWord(const QString &key, const char *word)
+{
+    const QString path = ListRules::FilePath();
+    if (path.isEmpty()) {
+        return false;
+    }
+    QSettings settings(path, QSettings::IniFormat);
+    settings.setValue(key, QLatin1String(word));
+    settings.sync();
+    return settings.status() == QSettings::NoError;
+}
+
 } // namespace
+
+QString ListRules::FilePath()
+{
+    return UserData::FilePath(QLatin1String("rules.ini"));
+}
 
 ListRules::NewNetworks ListRules::PlaceOfNewNetworks()
 {
-    const QString path = FilePath();
-    const QString word =
-        path.isEmpty() ? QString() : QSettings(path, QSettings::IniFormat).value(NewNetworksKey()).toString();
+    const QString word = Word(NewNetworksKey());
     for (const NewNetworks place : {NewAtTheTop, NewNotInTheList}) {
         if (word == QLatin1String(placeWords[place])) {
             return place;
@@ -37,12 +59,15 @@ ListRules::NewNetworks ListRules::PlaceOfNewNetworks()
 
 bool ListRules::SetPlaceOfNewNetworks(NewNetworks place)
 {
-    const QString path = FilePath();
-    if (path.isEmpty()) {
-        return false;
-    }
-    QSettings settings(path, QSettings::IniFormat);
-    settings.setValue(NewNetworksKey(), QLatin1String(placeWords[place]));
-    settings.sync();
-    return settings.status() == QSettings::NoError;
+    return SetWord(NewNetworksKey(), placeWords[place]);
+}
+
+bool ListRules::IsRuling()
+{
+    return Word(RulingKey()) != QLatin1String(notRuling);
+}
+
+bool ListRules::SetRuling(bool isRuling)
+{
+    return SetWord(RulingKey(), isRuling ? "yes" : notRuling);
 }

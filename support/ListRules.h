@@ -1,6 +1,8 @@
 #ifndef LISTRULES_H
 #define LISTRULES_H
 
+#include <QString>
+
 /**
  * How the list rules the networks, as the user has chosen. The dashboard writes it and the WLAN plug-ins
  * follow it, in the file "rules.ini" of the user data directory. It is read anew each time.
@@ -16,6 +18,16 @@ NewNetworks PlaceOfNewNetworks();
 
 /** False when it can't be kept; then it is as it was. */
 bool SetPlaceOfNewNetworks(NewNetworks place);
+
+/** Whether the list takes effect on the connection manager; true where nothing, or nothing that is known, was
+ * chosen. */
+bool IsRuling();
+
+/** False when it can't be kept; then it is as it was. */
+bool SetRuling(bool isRuling);
+
+/** Of the file; empty when there is no place for it. */
+QString FilePath();
 
 } // namespace ListRules
 

@@ -370,6 +370,14 @@
         <translation>خارج قائمتك</translation>
     </message>
     <message>
+        <source>IDS_GENERAL_RULING</source>
+        <translation>اجعل هذه القائمة توجّه NetworkManager</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_RULING_HINT</source>
+        <translation>وإلا تستعيد كل شبكة الأولوية التي كانت لها قبل هذه القائمة.</translation>
+    </message>
+    <message>
         <source>IDS_GENERAL_PLUGINS</source>
         <translation>الملحقات</translation>
     </message>
@@ -904,6 +912,10 @@
     <message>
         <source>IDS_NOTE_NETWORKMANAGER</source>
         <translation>هذه شبكات هذا الحاسوب. يجرّبها &#x202a;NetworkManager&#x202c; بترتيب هذه القائمة.</translation>
+    </message>
+    <message>
+        <source>IDS_NOTE_NOT_RULING</source>
+        <translation>يقرر NetworkManager بنفسه. يمكنك في الإعدادات أن تجعل هذه القائمة هي التي تقرر.</translation>
     </message>
     <message>
         <source>IDS_NOTE_STORED</source>

@@ -370,6 +370,14 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
         <translation>Nicht in Ihrer Liste</translation>
     </message>
     <message>
+        <source>IDS_GENERAL_RULING</source>
+        <translation>Diese Liste bestimmt über NetworkManager</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_RULING_HINT</source>
+        <translation>Sonst erhält jedes Netzwerk die Priorität zurück, die es vor dieser Liste hatte.</translation>
+    </message>
+    <message>
         <source>IDS_GENERAL_PLUGINS</source>
         <translation>Plugins</translation>
     </message>
@@ -905,6 +913,10 @@ Erwartet: %3</translation>
         <source>IDS_NOTE_NETWORKMANAGER</source>
         <extracomment>At the foot of the main window; two lines of 450 pixels at most</extracomment>
         <translation>Das sind die Netzwerke dieses Computers. NetworkManager probiert sie in der Reihenfolge dieser Liste.</translation>
+    </message>
+    <message>
+        <source>IDS_NOTE_NOT_RULING</source>
+        <translation>NetworkManager entscheidet selbst. In den Einstellungen können Sie diese Liste bestimmen lassen.</translation>
     </message>
     <message>
         <source>IDS_NOTE_STORED</source>

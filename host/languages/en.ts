@@ -402,6 +402,16 @@ You can use letters, digits and these symbols:
         <translation>Not in your list</translation>
     </message>
     <message>
+        <source>IDS_GENERAL_RULING</source>
+        <extracomment>Box to tick</extracomment>
+        <translation>Let this list rule NetworkManager</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_RULING_HINT</source>
+        <extracomment>Tool tip of that box</extracomment>
+        <translation>Without it, every network gets back the priority that it had before this list.</translation>
+    </message>
+    <message>
         <source>IDS_GENERAL_PLUGINS</source>
         <translation>Plug-ins</translation>
     </message>
@@ -951,6 +961,11 @@ Expected: %3</translation>
         <source>IDS_NOTE_NETWORKMANAGER</source>
         <extracomment>At the foot of the main window; two lines of 450 pixels at most</extracomment>
         <translation>These are this computer’s networks. NetworkManager tries them in the order of this list.</translation>
+    </message>
+    <message>
+        <source>IDS_NOTE_NOT_RULING</source>
+        <extracomment>In the place of the text before, while the user does not want the list to rule</extracomment>
+        <translation>NetworkManager decides by itself. You can let this list rule it in the settings.</translation>
     </message>
     <message>
         <source>IDS_NOTE_STORED</source>

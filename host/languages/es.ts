@@ -370,6 +370,14 @@ Puede usar letras, números y estos símbolos:
         <translation>Fuera de su lista</translation>
     </message>
     <message>
+        <source>IDS_GENERAL_RULING</source>
+        <translation>Dejar que esta lista dirija NetworkManager</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_RULING_HINT</source>
+        <translation>Si no, cada red recupera la prioridad que tenía antes de esta lista.</translation>
+    </message>
+    <message>
         <source>IDS_GENERAL_PLUGINS</source>
         <translation>Complementos</translation>
     </message>
@@ -905,6 +913,10 @@ Esperado: %3</translation>
         <source>IDS_NOTE_NETWORKMANAGER</source>
         <extracomment>At the foot of the main window; two lines of 450 pixels at most</extracomment>
         <translation>Estas son las redes de este equipo. NetworkManager las prueba en el orden de esta lista.</translation>
+    </message>
+    <message>
+        <source>IDS_NOTE_NOT_RULING</source>
+        <translation>NetworkManager decide por sí mismo. En la configuración puede dejar que decida esta lista.</translation>
     </message>
     <message>
         <source>IDS_NOTE_STORED</source>

@@ -370,6 +370,14 @@ Vous pouvez utiliser des lettres, des chiffres et les symboles suivants&#xa0;:
         <translation>Pas dans votre liste</translation>
     </message>
     <message>
+        <source>IDS_GENERAL_RULING</source>
+        <translation>Laisser cette liste diriger NetworkManager</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_RULING_HINT</source>
+        <translation>Sinon, chaque réseau retrouve la priorité qu’il avait avant cette liste.</translation>
+    </message>
+    <message>
         <source>IDS_GENERAL_PLUGINS</source>
         <translation>Modules</translation>
     </message>
@@ -905,6 +913,10 @@ Attendu&#xa0;: %3</translation>
         <source>IDS_NOTE_NETWORKMANAGER</source>
         <extracomment>At the foot of the main window; two lines of 450 pixels at most</extracomment>
         <translation>Ce sont les réseaux de cet ordinateur. NetworkManager les essaie dans l’ordre de cette liste.</translation>
+    </message>
+    <message>
+        <source>IDS_NOTE_NOT_RULING</source>
+        <translation>NetworkManager décide lui-même. Dans les paramètres, vous pouvez laisser cette liste décider.</translation>
     </message>
     <message>
         <source>IDS_NOTE_STORED</source>

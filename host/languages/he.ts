@@ -370,6 +370,14 @@
         <translation>מחוץ לרשימה שלך</translation>
     </message>
     <message>
+        <source>IDS_GENERAL_RULING</source>
+        <translation>הרשימה הזאת מנחה את NetworkManager</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_RULING_HINT</source>
+        <translation>אחרת כל רשת מקבלת בחזרה את העדיפות שהייתה לה לפני הרשימה הזאת.</translation>
+    </message>
+    <message>
         <source>IDS_GENERAL_PLUGINS</source>
         <translation>תוספים</translation>
     </message>
@@ -904,6 +912,10 @@
     <message>
         <source>IDS_NOTE_NETWORKMANAGER</source>
         <translation>אלה הרשתות של המחשב הזה. &#x202a;NetworkManager&#x202c; מנסה אותן לפי הסדר ברשימה הזו.</translation>
+    </message>
+    <message>
+        <source>IDS_NOTE_NOT_RULING</source>
+        <translation>ההחלטה היא של NetworkManager. בהגדרות אפשר לתת לרשימה הזאת להחליט.</translation>
     </message>
     <message>
         <source>IDS_NOTE_STORED</source>

@@ -370,6 +370,14 @@
         <translation>リストに入れない</translation>
     </message>
     <message>
+        <source>IDS_GENERAL_RULING</source>
+        <translation>NetworkManager をこのリストに従わせる</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_RULING_HINT</source>
+        <translation>オフにすると、各ネットワークの優先度はこのリストの前の値に戻ります。</translation>
+    </message>
+    <message>
         <source>IDS_GENERAL_PLUGINS</source>
         <translation>プラグイン</translation>
     </message>
@@ -905,6 +913,10 @@
         <source>IDS_NOTE_NETWORKMANAGER</source>
         <extracomment>At the foot of the main window; two lines of 450 pixels at most</extracomment>
         <translation>このコンピューターのネットワークです。NetworkManager がこのリストの順に接続を試みます。</translation>
+    </message>
+    <message>
+        <source>IDS_NOTE_NOT_RULING</source>
+        <translation>NetworkManager が自動で選びます。このリストに従わせるには、設定で変更してください。</translation>
     </message>
     <message>
         <source>IDS_NOTE_STORED</source>

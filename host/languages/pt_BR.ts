@@ -370,6 +370,14 @@ Você pode usar letras, números e estes símbolos:
         <translation>Fora da sua lista</translation>
     </message>
     <message>
+        <source>IDS_GENERAL_RULING</source>
+        <translation>Deixar esta lista dirigir o NetworkManager</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_RULING_HINT</source>
+        <translation>Sem isso, cada rede recupera a prioridade que tinha antes desta lista.</translation>
+    </message>
+    <message>
         <source>IDS_GENERAL_PLUGINS</source>
         <translation>Plug-ins</translation>
     </message>
@@ -905,6 +913,10 @@ Esperado: %3</translation>
         <source>IDS_NOTE_NETWORKMANAGER</source>
         <extracomment>At the foot of the main window; two lines of 450 pixels at most</extracomment>
         <translation>Estas são as redes deste computador. O NetworkManager as experimenta na ordem desta lista.</translation>
+    </message>
+    <message>
+        <source>IDS_NOTE_NOT_RULING</source>
+        <translation>O NetworkManager decide por si mesmo. Nas configurações, você pode deixar esta lista decidir.</translation>
     </message>
     <message>
         <source>IDS_NOTE_STORED</source>

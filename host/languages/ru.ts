@@ -370,6 +370,14 @@
         <translation>Вне вашего списка</translation>
     </message>
     <message>
+        <source>IDS_GENERAL_RULING</source>
+        <translation>Список управляет NetworkManager</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_RULING_HINT</source>
+        <translation>Иначе каждая сеть получит обратно приоритет, который был у неё до этого списка.</translation>
+    </message>
+    <message>
         <source>IDS_GENERAL_PLUGINS</source>
         <translation>Модули</translation>
     </message>
@@ -905,6 +913,10 @@
         <source>IDS_NOTE_NETWORKMANAGER</source>
         <extracomment>At the foot of the main window; two lines of 450 pixels at most</extracomment>
         <translation>Это сети этого компьютера. NetworkManager пробует их в порядке этого списка.</translation>
+    </message>
+    <message>
+        <source>IDS_NOTE_NOT_RULING</source>
+        <translation>NetworkManager решает сам. В настройках можно разрешить этому списку управлять им.</translation>
     </message>
     <message>
         <source>IDS_NOTE_STORED</source>

@@ -370,6 +370,14 @@
         <translation>不加入列表</translation>
     </message>
     <message>
+        <source>IDS_GENERAL_RULING</source>
+        <translation>让 NetworkManager 按此列表选择</translation>
+    </message>
+    <message>
+        <source>IDS_GENERAL_RULING_HINT</source>
+        <translation>否则，每个网络都会恢复此列表之前的优先级。</translation>
+    </message>
+    <message>
         <source>IDS_GENERAL_PLUGINS</source>
         <translation>插件</translation>
     </message>
@@ -905,6 +913,10 @@
         <source>IDS_NOTE_NETWORKMANAGER</source>
         <extracomment>At the foot of the main window; two lines of 450 pixels at most</extracomment>
         <translation>这些是此计算机的网络。NetworkManager 按此列表的顺序尝试连接它们。</translation>
+    </message>
+    <message>
+        <source>IDS_NOTE_NOT_RULING</source>
+        <translation>由 NetworkManager 自行决定。可以在设置中让它按此列表选择。</translation>
     </message>
     <message>
         <source>IDS_NOTE_STORED</source>

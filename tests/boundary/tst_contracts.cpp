@@ -127,6 +127,7 @@ Facts Positions()
                   Names("GetConnectionState GetActiveConnections GetProfiles GetVisibleNetworks "
                         "LookForNetworks ConnectProfile ConnectNetwork Disconnect GetAttempt CancelAttempt "
                         "(end)"));
+    AddOperations(&facts, "IOrderPlugin", first, Names("Apply GetOutcome (end)"));
     AddOperations(&facts, "IPluginContainer", first, Names("GetPluginObject (end)"));
     return facts;
 }
@@ -155,6 +156,9 @@ const Shape shapes[] = {
      "TTTTTTnnnwwbb"},
     {"VisibleNetwork", "id name security protection signal profileIds isInUse", "TTTnnTb"},
     {"ConnectAttempt", "name profileId stage failedStage failure", "TTnnn"},
+    {"OrderChange", "name before after", "Tnn"},
+    {"OrderKept", "name obstacle", "Tn"},
+    {"OrderOutcome", "stage failure changes kept", "nnTT"},
 };
 
 /** Texts and lists (T) and times (w) begin at whole words, numbers (n) at whole numbers, flags (b) anywhere.
@@ -242,6 +246,20 @@ const Number numbers[] = {
     {"RefusedNotAllowed", -3},
     {"RefusedKey", -4},
     {"RefusedAccount", -5},
+    {"ObstacleNotKnown", 0},
+    {"ObstacleOtherUsers", 1},
+    {"ObstaclePassing", 2},
+    {"ObstacleNotAllowed", 3},
+    {"ObstaclePassword", 4},
+    {"ObstacleRefused", 5},
+    {"ObstacleNoAnswer", 6},
+    {"StageOrderNotKnown", 0},
+    {"StageOrderUnderWay", 1},
+    {"StageOrderDone", 2},
+    {"StageOrderFailed", 3},
+    {"FailureOrderNone", 0},
+    {"FailureOrderSource", 1},
+    {"FailureOrderList", 2},
 };
 
 Facts Numbers()
@@ -296,6 +314,7 @@ Facts Identifiers()
     Add(&facts, "identifier of ISettingUIPlugin", "com.torvik.netquillforge.plugin.ISettingUIPlugin");
     Add(&facts, "identifier of IPriorityPlugin", "com.torvik.netquillforge.plugin.IPriorityPlugin");
     Add(&facts, "identifier of IConnectionPlugin", "com.torvik.netquillforge.plugin.IConnectionPlugin");
+    Add(&facts, "identifier of IOrderPlugin", "com.torvik.netquillforge.plugin.IOrderPlugin");
     Add(&facts, "identifier of IWLANUIPlugin", "com.torvik.netquillforge.plugin.IWLANUIPlugin");
     return facts;
 }

@@ -102,7 +102,8 @@ WithConnections::WithConnections(IPluginContainer *others, QObject *connections)
 QObject *WithConnections::GetPluginObject(const QString &classId, int interfaceNumber)
 {
     const int connectionInterface = 4104;
-    if (interfaceNumber == connectionInterface) {
+    const int orderInterface = 4105;
+    if (interfaceNumber == connectionInterface || interfaceNumber == orderInterface) {
         return m_connections;
     }
     return m_others ? m_others->GetPluginObject(classId, interfaceNumber) : nullptr;

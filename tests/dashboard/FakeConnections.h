@@ -3,15 +3,16 @@
 
 #include <Connections.h>
 #include <IConnectionPlugin.h>
+#include <IOrderPlugin.h>
 #include <IPluginContainer.h>
 
 #include <QStringList>
 
 /** Connections as they are told, behind the real interface; orders are recorded. */
-class FakeConnections : public QObject, public IConnectionPlugin
+class FakeConnections : public QObject, public IConnectionPlugin, public IOrderPlugin
 {
     Q_OBJECT
-    Q_INTERFACES(IConnectionPlugin)
+    Q_INTERFACES(IConnectionPlugin IOrderPlugin)
 
 public:
     FakeConnections();
@@ -26,6 +27,8 @@ public:
     int Disconnect(const QString &connectionId) override;
     void GetAttempt(int attempt, ConnectAttempt *result) override;
     void CancelAttempt(int attempt) override;
+    int Apply() override { return 0; }
+    void GetOutcome(int, OrderOutcome *) override {}
 
     /** Tells that something has changed. */
     void Tell();
@@ -48,6 +51,7 @@ public:
 
 signals:
     void OnConnectionsChanged();
+    void OnOrderChanged();
 };
 
 /** A profile whose id is its type and name. */

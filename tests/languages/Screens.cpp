@@ -275,6 +275,8 @@ const Screens::Screen Screens::screens[] = {
     {"list, NetworkManager", &Screens::ShowNetworkManager, "Working"},
     {"list, plug-in over NetworkManager broken", &Screens::ShowNetworkManager, "InitFails"},
     {"settings, general page with NetworkManager", &Screens::ShowNetworkManagerSettings, "Working"},
+    {"list, not ruling", &Screens::ShowRule, nullptr},
+    {"settings, general page with the rule", &Screens::ShowRule, "settings"},
     {"settings, priority page", &Screens::ShowPriorityPage, nullptr},
     {"add dialog", &Screens::ShowAddDialog, nullptr},
     {"new dialog, open", &Screens::ShowNewDialog, "open"},
@@ -649,6 +651,24 @@ void Screens::ShowNetworkManagerSettings(const char *folder)
     Child<QListWidget>("pageList")->setCurrentRow(0);
     Visit();
     m_window.reset();
+}
+
+void Screens::ShowRule(const char *where)
+{
+    PluginHost plugins(QLatin1String(BUILD_DIRECTORY "/tests/fixtures"), KnownNetworkManager("Working"));
+    plugins.Load();
+    FakeConnections connections;
+    WithConnections container(&plugins, &connections);
+    HostControl::SetPluginContainer(&container);
+    ListRules::SetRuling(where);
+    OpenWindow(&plugins);
+    if (where) {
+        Click("settingsButton");
+        Child<QListWidget>("pageList")->setCurrentRow(0);
+    }
+    Visit();
+    m_window.reset();
+    HostControl::SetPluginContainer(m_plugins.data());
 }
 
 void Screens::ShowGeneralPage(const char *)

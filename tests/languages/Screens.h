@@ -72,6 +72,7 @@ private:
     void ShowBrokenGeneralPage(const char *folder);
     void ShowNetworkManager(const char *folder);
     void ShowNetworkManagerSettings(const char *folder);
+    void ShowRule(const char *where);
     void ShowGeneralPage(const char *);
     void ShowPriorityPage(const char *);
     void ShowAddDialog(const char *);

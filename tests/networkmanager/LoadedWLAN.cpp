@@ -45,6 +45,17 @@ IConnectionPlugin *LoadedWLAN::Connections()
     return qobject_cast<IConnectionPlugin *>(ConnectionService());
 }
 
+QObject *LoadedWLAN::OrderService()
+{
+    QObject *service = nullptr;
+    return Root()->QueryInterface(4105, &service) ? service : nullptr;
+}
+
+IOrderPlugin *LoadedWLAN::Order()
+{
+    return qobject_cast<IOrderPlugin *>(OrderService());
+}
+
 ConnectionState LoadedWLAN::State()
 {
     ConnectionState state;

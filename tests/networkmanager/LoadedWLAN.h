@@ -2,6 +2,7 @@
 #define LOADEDWLAN_H
 
 #include <IConnectionPlugin.h>
+#include <IOrderPlugin.h>
 #include <IUIPlugin.h>
 #include <IWLANUIPlugin.h>
 
@@ -33,6 +34,10 @@ ConnectionProfile ConnectionProfileNamed(const QString &name);
 QList<VisibleNetwork> Networks();
 VisibleNetwork NetworkNamed(const QString &name);
 ConnectAttempt Attempt(int number);
+
+/** The object with the interface of orders, which has their signal. */
+QObject *OrderService();
+IOrderPlugin *Order();
 
 /** "name/type" of every remembered profile. */
 QStringList Remembered();

@@ -27,6 +27,13 @@ private slots:
     void StatusTellsWhatNetworkManagerTells();
     void ConnectWaitsUntilItIsUp();
     void CommandsDoNotRuleByTheList();
+    void ApplyBringsTheOrderAndTellsIt();
+    void ApplyTellsWhatItCannotChange();
+    void ApplyWithADamagedListChangesNothing();
+    void ReleaseGivesBackWhatWasThereAndEndsTheRule();
+    void ChangeOfTheListTakesEffect();
+    void OrderWithoutNetworkManagerIsTold_data();
+    void OrderWithoutNetworkManagerIsTold();
     void NetworkManagerThatIsNotThereIsTold();
 
 private:
@@ -112,6 +119,98 @@ void tst_networkmanagercommands::CommandsDoNotRuleByTheList()
     QCOMPARE(m_fake->PriorityOf(home), 0);
     QCOMPARE(m_fake->PriorityOf(coffee), 0);
     QVERIFY(!QFile::exists(m_directory->FilePath("priority-dashboard/NetworkManager.ini")));
+}
+
+void tst_networkmanagercommands::ApplyBringsTheOrderAndTellsIt()
+{
+    const QString coffee = AddProfile("Coffee", "CoffeeNet");
+    const QString home = AddProfile("Home\tsweet", "HomeNet");
+    m_directory->Write("priority-dashboard/Priority.xml",
+                       "<zeltdoc><profile><item name=\"Home&#9;sweet\" type=\"1\"/>"
+                       "<item name=\"Coffee\" type=\"1\"/></profile></zeltdoc>");
+    QVERIFY(m_fake->Appear());
+    const Outcome outcome = RunDashboard(QStringList("--apply"), Environment());
+    QCOMPARE(outcome.err, QString());
+    QCOMPARE(outcome.status, 0);
+    QCOMPARE(outcome.out, QString("set\tCoffee\t0\t%1\nset\tHome\\tsweet\t0\t%2\n")
+                              .arg(m_fake->PriorityOf(coffee))
+                              .arg(m_fake->PriorityOf(home)));
+    QVERIFY(m_fake->PriorityOf(home) > m_fake->PriorityOf(coffee));
+    const Outcome again = RunDashboard(QStringList("--apply"), Environment());
+    QCOMPARE(again.out, QString());
+    QCOMPARE(again.status, 0);
+}
+
+void tst_networkmanagercommands::ApplyTellsWhatItCannotChange()
+{
+    const QString coffee = AddProfile("Coffee", "CoffeeNet");
+    const QString home = AddProfile("Home", "HomeNet");
+    m_fake->SetSetting(coffee, "connection", "autoconnect-priority", 999);
+    m_fake->SetSetting(coffee, "connection", "read-only", true);
+    QVERIFY(m_fake->Appear());
+    const Outcome outcome = RunDashboard(QStringList("--apply"), Environment());
+    QCOMPARE(outcome.status, 14);
+    QVERIFY2(outcome.out.contains("kept\tCoffee\tyou may not change it\n"), qPrintable(outcome.out));
+    QCOMPARE(m_fake->PriorityOf(coffee), 999);
+    Q_UNUSED(home);
+}
+
+void tst_networkmanagercommands::ApplyWithADamagedListChangesNothing()
+{
+    AddProfile("Home", "HomeNet");
+    m_directory->Write("priority-dashboard/Priority.xml", "<zeltdoc><item name='Home' type='1'/><item");
+    QVERIFY(m_fake->Appear());
+    QCOMPARE(RunDashboard(QStringList("--apply"), Environment()).status, 6);
+    QCOMPARE(m_fake->CallCount("Update2"), 0);
+}
+
+void tst_networkmanagercommands::ReleaseGivesBackWhatWasThereAndEndsTheRule()
+{
+    const QString home = AddProfile("Home", "HomeNet");
+    m_fake->SetSetting(home, "connection", "autoconnect-priority", -7);
+    QVERIFY(m_fake->Appear());
+    QCOMPARE(RunDashboard(QStringList("--apply"), Environment()).status, 0);
+    const int ruled = m_fake->PriorityOf(home);
+    QVERIFY(ruled > 0);
+    const Outcome outcome = RunDashboard(QStringList("--release"), Environment());
+    QCOMPARE(outcome.out, QString("set\tHome\t%1\t-7\n").arg(ruled));
+    QCOMPARE(outcome.status, 0);
+    QCOMPARE(m_fake->PriorityOf(home), -7);
+    QCOMPARE(RunDashboard(QStringList("--add-top=Home"), Environment()).status, 0);
+    QCOMPARE(m_fake->PriorityOf(home), -7);
+    QCOMPARE(RunDashboard(QStringList("--apply"), Environment()).status, 0);
+    QVERIFY(m_fake->PriorityOf(home) > 0);
+}
+
+void tst_networkmanagercommands::ChangeOfTheListTakesEffect()
+{
+    const QString home = AddProfile("Home", "HomeNet");
+    const QString coffee = AddProfile("Coffee", "CoffeeNet");
+    QVERIFY(m_fake->Appear());
+    const Outcome outcome = RunDashboard(QStringList("--add-top=Coffee"), Environment());
+    QCOMPARE(outcome.err + outcome.out, QString());
+    QCOMPARE(outcome.status, 0);
+    QVERIFY(m_fake->PriorityOf(coffee) > m_fake->PriorityOf(home));
+    QVERIFY(m_fake->PriorityOf(home) > 0);
+    QCOMPARE(RunDashboard({"--wlan=stored", "--add-top=Home"}, Environment()).status, 0);
+    QVERIFY(m_fake->PriorityOf(coffee) > m_fake->PriorityOf(home));
+}
+
+void tst_networkmanagercommands::OrderWithoutNetworkManagerIsTold_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("apply") << QStringList("--apply");
+    QTest::newRow("release") << QStringList("--release");
+    QTest::newRow("practice networks") << QStringList({"--wlan=stored", "--apply"});
+}
+
+void tst_networkmanagercommands::OrderWithoutNetworkManagerIsTold()
+{
+    QFETCH(QStringList, arguments);
+    const Outcome outcome = RunDashboard(arguments, Environment());
+    QCOMPARE(outcome.out, QString());
+    QCOMPARE(outcome.err.count('\n'), 1);
+    QCOMPARE(outcome.status, 11);
 }
 
 void tst_networkmanagercommands::NetworkManagerThatIsNotThereIsTold()

@@ -74,6 +74,10 @@ private slots:
     void ProgramsOfOneUserWorkInTurns();
     void ForeignPriorityIsNotSetBack();
     void RemovedListSetsAllBackAndANewOneIsFollowed();
+    void ListThatIsNotToRuleGivesAllBackUntilItDoesAgain();
+    void DamagedListGivesAllBackWhenItIsNotToRule();
+    void OrderTellsWhatWasDone();
+    void OrderTellsWhatCannotBeDone();
     void ListThatGoesBackToWhatItWasIsFollowed();
     void NewProfileGetsItsPlace();
     void WorkGoesOnAfterARestartOfTheProgram();
@@ -531,6 +535,74 @@ void tst_networkmanagerpriorities::RemovedListSetsAllBackAndANewOneIsFollowed()
     QTRY_COMPARE(Fake().PriorityOf(b), 0);
     QVERIFY(QFile::remove(Directory().FilePath("Priority.xml")));
     QTRY_COMPARE(Fake().PriorityOf(a), 0);
+}
+
+void tst_networkmanagerpriorities::ListThatIsNotToRuleGivesAllBackUntilItDoesAgain()
+{
+    const QString a = AddProfile("A", -12);
+    Begin("A");
+    QCOMPARE(Fake().PriorityOf(a), alone);
+    Directory().Write("rules.ini", "[General]\nruling=no\n");
+    QTRY_COMPARE(Fake().PriorityOf(a), -12);
+    SetList("B A");
+    Settle();
+    QCOMPARE(Fake().PriorityOf(a), -12);
+    Directory().Write("rules.ini", "[General]\nruling=yes\n");
+    QTRY_COMPARE(Fake().PriorityOf(a), alone);
+}
+
+void tst_networkmanagerpriorities::DamagedListGivesAllBackWhenItIsNotToRule()
+{
+    const QString a = AddProfile("A", -12);
+    Begin("A");
+    Directory().Write("Priority.xml", "<zeltdoc><item");
+    Settle();
+    QCOMPARE(Fake().PriorityOf(a), alone);
+    Directory().Write("rules.ini", "[General]\nruling=no\n");
+    QTRY_COMPARE(Fake().PriorityOf(a), -12);
+}
+
+void tst_networkmanagerpriorities::OrderTellsWhatWasDone()
+{
+    AddProfile("A", 5);
+    AddProfile("B", 3, false);
+    AddProfile("C", 0);
+    Begin("");
+    IOrderPlugin *order = LoadedWLAN::Order();
+    QVERIFY(order);
+    SetList("B A C");
+    const int number = order->Apply();
+    OrderOutcome outcome;
+    order->GetOutcome(number, &outcome);
+    QCOMPARE(outcome.stage, int(OrderOutcome::StageOrderUnderWay));
+    QSignalSpy spy(LoadedWLAN::OrderService(), SIGNAL(OnOrderChanged()));
+    QTRY_COMPARE(spy.count(), 1);
+    order->GetOutcome(number, &outcome);
+    QCOMPARE(outcome.stage, int(OrderOutcome::StageOrderDone));
+    QStringList changes;
+    for (const OrderChange &change : std::as_const(outcome.changes)) {
+        changes << QString("%1 %2 %3").arg(change.name).arg(change.before).arg(change.after);
+    }
+    QCOMPARE(changes, QStringList({"A 5 2", "C 0 1"}));
+    QVERIFY(outcome.kept.isEmpty());
+}
+
+void tst_networkmanagerpriorities::OrderTellsWhatCannotBeDone()
+{
+    AddProfile("A", 5);
+    AddProfile("B", 3);
+    Fake().SetRight("org.freedesktop.NetworkManager.settings.modify.system", "auth");
+    Begin("B A");
+    IOrderPlugin *order = LoadedWLAN::Order();
+    const int number = order->Apply();
+    QSignalSpy spy(LoadedWLAN::OrderService(), SIGNAL(OnOrderChanged()));
+    QTRY_COMPARE(spy.count(), 1);
+    OrderOutcome outcome;
+    order->GetOutcome(number, &outcome);
+    QVERIFY(!outcome.kept.isEmpty());
+    QCOMPARE(outcome.kept.first().obstacle, int(ObstaclePassword));
+    order->GetOutcome(number + 1, &outcome);
+    QCOMPARE(outcome.stage, int(OrderOutcome::StageOrderNotKnown));
 }
 
 void tst_networkmanagerpriorities::ListThatGoesBackToWhatItWasIsFollowed()

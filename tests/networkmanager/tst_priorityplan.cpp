@@ -53,6 +53,9 @@ QStringList Plan(const QList<PriorityList> &list, const QList<NetworkProfile> &p
     for (const NetworkProfile &profile : planned.overtaking) {
         texts.append(profile.name + " overtakes");
     }
+    for (const NetworkProfile &profile : planned.owing) {
+        texts.append(profile.name + " can't be given back");
+    }
     for (const PriorityChange &change : planned.changes) {
         texts.append(QString("%1=%2").arg(change.profile.name).arg(change.priority));
     }
@@ -99,6 +102,7 @@ private slots:
     void ForeignValueInTheListIsOverwrittenAndRemembered();
     void ValueOfAnotherProgramOfOursThatComesLateIsOwn();
     void SetBackIsTriedAgainUntilItIsDone();
+    void SetBackThatCannotBeDoneIsTold();
     void InterruptedWriteIsStillOwn();
     void RecordGoesWithTheSetBack();
 
@@ -371,6 +375,17 @@ void tst_priorityplan::SetBackIsTriedAgainUntilItIsDone()
     Plan(List("A"), QList<NetworkProfile>() << Profile("A", -12), &records);
     Plan(List(""), QList<NetworkProfile>() << Profile("A", 500), &records);
     QCOMPARE(Plan(List(""), QList<NetworkProfile>() << Profile("A", 500), &records), QStringList("A=-12"));
+}
+
+void tst_priorityplan::SetBackThatCannotBeDoneIsTold()
+{
+    Records records;
+    Plan(List("A"), QList<NetworkProfile>() << Profile("A", -12), &records);
+    NetworkProfile ruled = Profile("A", 500);
+    ruled.isFreelyChangeable = false;
+    QCOMPARE(Plan(List(""), QList<NetworkProfile>() << ruled, &records),
+             QStringList("A can't be given back"));
+    QCOMPARE(Plan(List("A"), QList<NetworkProfile>() << ruled, &records), QStringList());
 }
 
 void tst_priorityplan::InterruptedWriteIsStillOwn()

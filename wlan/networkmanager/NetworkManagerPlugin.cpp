@@ -3,6 +3,7 @@
 #include "LivePicture.h"
 #include "NetworkManagerClient.h"
 #include "NetworkManagerConnections.h"
+#include "NetworkManagerOrder.h"
 #include "NetworkManagerWLANService.h"
 #include "PriorityKeeper.h"
 
@@ -23,11 +24,13 @@ int CNetworkManagerPlugin::GetLastError()
 
 void CNetworkManagerPlugin::OnDestroy()
 {
+    delete m_order;
     delete m_keeper;
     delete m_connections;
     delete m_service;
     delete m_picture;
     delete m_client;
+    m_order = nullptr;
     m_keeper = nullptr;
     m_connections = nullptr;
     m_service = nullptr;
@@ -47,10 +50,13 @@ bool CNetworkManagerPlugin::Init()
         // It may come later.
         qWarning("WLANNetworkManager: %s", DescriptionOf(result).toLocal8Bit().constData());
     }
+    // It is not waited for: whoever opens a dialog soon is told, instead, that it does not answer.
+    m_client->Check();
     m_picture = new CLivePicture(m_client, nullptr);
     m_service = new CNetworkManagerWLANService(m_client, m_picture, nullptr);
     m_connections = new CNetworkManagerConnections(m_client, m_picture, nullptr);
     m_keeper = new CPriorityKeeper(m_client, m_picture, UserData::Directory(), nullptr);
+    m_order = new CNetworkManagerOrder(m_keeper, nullptr);
     return true;
 }
 
@@ -66,6 +72,8 @@ QObject *CNetworkManagerPlugin::Service(int interfaceNumber)
         return m_service;
     case ConnectionInterface:
         return m_connections;
+    case OrderInterface:
+        return m_order;
     default:
         return nullptr;
     }

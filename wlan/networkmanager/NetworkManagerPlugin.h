@@ -9,6 +9,7 @@
 class CLivePicture;
 class CNetworkManagerClient;
 class CNetworkManagerConnections;
+class CNetworkManagerOrder;
 class CNetworkManagerWLANService;
 class CPriorityKeeper;
 
@@ -43,6 +44,7 @@ private:
     CNetworkManagerWLANService *m_service = nullptr;
     CNetworkManagerConnections *m_connections = nullptr;
     CPriorityKeeper *m_keeper = nullptr;
+    CNetworkManagerOrder *m_order = nullptr;
 };
 
 #endif

@@ -32,14 +32,41 @@ bool HasEntries(const QString &listPath)
     return OrdinaryFile::Read(listPath, std::numeric_limits<int>::max(), &bytes) && bytes.contains("<item");
 }
 
+IPriorityPlugin *Priority()
+{
+    return qobject_cast<IPriorityPlugin *>(FindPluginObject(priorityClassId, PriorityInterface));
+}
+
+int ObstacleOf(const NetworkProfile &profile)
+{
+    return profile.isOthers     ? ObstacleOtherUsers
+           : profile.isPassing  ? ObstaclePassing
+           : profile.isReadOnly ? ObstacleNotAllowed
+                                : ObstaclePassword;
+}
+
+int ObstacleOf(NetworkManagerResult result)
+{
+    switch (result) {
+    case NetworkManagerResultNotAnswering:
+    case NetworkManagerResultNotRunning:
+    case NetworkManagerResultNoBus:
+        return ObstacleNoAnswer;
+    case NetworkManagerResultPermissionDenied:
+        return ObstacleNotAllowed;
+    default:
+        return ObstacleRefused;
+    }
+}
+
 } // namespace
 
 CPriorityKeeper::CPriorityKeeper(CNetworkManagerClient *client, CLivePicture *picture,
                                  const QString &userDirectory, QObject *parent)
     : QObject(parent), m_client(client), m_picture(picture),
       m_listPath(userDirectory + QLatin1String("Priority.xml")), m_file(new FileWatcher(m_listPath, this)),
-      m_records(RecordsFile(userDirectory)), m_notice("IDS_WLAN_ORDER_TITLE"), m_writer(client, nullptr),
-      m_isWaiting(false), m_isDueAgain(false)
+      m_rules(new FileWatcher(ListRules::FilePath(), this)), m_records(RecordsFile(userDirectory)),
+      m_notice("IDS_WLAN_ORDER_TITLE"), m_writer(client, nullptr), m_isWaiting(false), m_isDueAgain(false)
 {
     m_pause.setSingleShot(true);
     m_pause.setInterval(pauseMilliseconds);
@@ -48,6 +75,7 @@ CPriorityKeeper::CPriorityKeeper(CNetworkManagerClient *client, CLivePicture *pi
     connect(m_picture, SIGNAL(Changed()), this, SLOT(TakePicture()));
     connect(&m_writer, SIGNAL(Finished()), this, SLOT(TakeResults()));
     connect(m_file, SIGNAL(Changed()), this, SLOT(Trigger()));
+    connect(m_rules, SIGNAL(Changed()), this, SLOT(Trigger()));
     connect(m_client, SIGNAL(Appeared()), this, SLOT(Trigger()));
     m_client->Listen(CNetworkManagerClient::SettingsPath(), CNetworkManagerClient::SettingsInterface(),
                      QLatin1String("NewConnection"), QString(), this, SLOT(Trigger()));
@@ -103,12 +131,15 @@ void CPriorityKeeper::TakePicture()
 void CPriorityKeeper::Compare()
 {
     m_complaints.clear();
+    m_outcome = OrderOutcome();
+    m_outcome.stage = OrderOutcome::StageOrderDone;
     // Copies: whoever is told of what is done here may have the picture changed.
     const ConnectionPicture picture = m_picture->Now();
     if (picture.source != ConnectionState::SourceKnown) {
         Complain(QString::fromLatin1("the list is not compared: %1").arg(DescriptionOf(m_picture->Result())));
         m_isWaiting = true;
-        End();
+        emit Begun();
+        Fail(OrderOutcome::FailureOrderSource);
         return;
     }
     if (m_picture->Shortfall() != NetworkManagerResultSuccess) {
@@ -120,26 +151,27 @@ void CPriorityKeeper::Compare()
         End();
         return;
     }
+    emit Begun();
+    IPriorityPlugin *priority = Priority();
     QList<PriorityList> list;
-    if (!ReadList(&list)) {
-        End();
-    } else if (AddFirstConnections(picture, list)) {
+    const bool isRead = priority && ReadList(priority, &list);
+    const bool isRuling = ListRules::IsRuling();
+    // What was there before is given back by a damaged list, too.
+    if (!priority || (isRuling && !isRead)) {
+        Fail(OrderOutcome::FailureOrderList);
+    } else if (isRead && AddFirstConnections(priority, picture, list)) {
         SaveRecords();
         m_isDueAgain = true;
         End();
     } else {
-        Write(picture.profiles, list);
+        Write(picture.profiles, isRuling ? list : QList<PriorityList>());
     }
 }
 
-bool CPriorityKeeper::ReadList(QList<PriorityList> *list)
+bool CPriorityKeeper::ReadList(IPriorityPlugin *priority, QList<PriorityList> *list)
 {
     m_file->Note();
-    IPriorityPlugin *priority =
-        qobject_cast<IPriorityPlugin *>(FindPluginObject(priorityClassId, PriorityInterface));
-    if (!priority) {
-        return false;
-    }
+    m_rules->Note();
     switch (priority->GetPriorityList(list)) {
     case PriorityRead:
         // A priority plug-in that has been taken down answers with a list that is read and empty.
@@ -152,18 +184,14 @@ bool CPriorityKeeper::ReadList(QList<PriorityList> *list)
     }
 }
 
-bool CPriorityKeeper::AddFirstConnections(const ConnectionPicture &picture, const QList<PriorityList> &list)
+bool CPriorityKeeper::AddFirstConnections(IPriorityPlugin *priority, const ConnectionPicture &picture,
+                                          const QList<PriorityList> &list)
 {
     const QList<NetworkProfile> found =
         FirstConnections::Find(picture.profiles, picture.state.ConnectedProfiles(), list, &m_records);
-    IPriorityPlugin *priority =
-        qobject_cast<IPriorityPlugin *>(FindPluginObject(priorityClassId, PriorityInterface));
     const ListRules::NewNetworks place = ListRules::PlaceOfNewNetworks();
     QList<PriorityList> entries;
     for (const NetworkProfile &profile : found) {
-        if (!priority) {
-            return false;
-        }
         m_records.connected.insert(profile.uuid);
         PriorityList entry;
         entry.name = profile.name;
@@ -187,6 +215,9 @@ void CPriorityKeeper::Write(const QList<NetworkProfile> &profiles, const QList<P
 {
     const PlannedPriorities planned = PriorityPlan::Make(list, profiles, &m_records.priorities);
     Tell(planned);
+    for (const NetworkProfile &profile : planned.contradicting + planned.owing) {
+        Keep(profile, ObstacleOf(profile));
+    }
     // Saved first: a priority that was written and not recorded could never be told from somebody else's.
     SaveRecords();
     m_writer.Start(planned.changes);
@@ -246,13 +277,37 @@ void CPriorityKeeper::TakeResults()
 {
     const QList<NetworkManagerResult> results = m_writer.Results();
     for (int i = 0; i < results.size(); ++i) {
+        const PriorityChange &change = m_writer.Changes().at(i);
         if (results.at(i) == NetworkManagerResultChangedMeanwhile) {
             m_isDueAgain = true;
-        } else if (results.at(i) != NetworkManagerResultSuccess) {
+        } else if (results.at(i) == NetworkManagerResultSuccess) {
+            OrderChange made;
+            made.name = change.profile.name;
+            made.before = change.profile.priority;
+            made.after = change.priority;
+            m_outcome.changes.append(made);
+        } else {
+            Keep(change.profile, ObstacleOf(results.at(i)));
             Complain(QString::fromLatin1("the priority of \"%1\" is not changed: %2")
-                         .arg(m_writer.Changes().at(i).profile.name, DescriptionOf(results.at(i))));
+                         .arg(change.profile.name, DescriptionOf(results.at(i))));
         }
     }
+    End();
+}
+
+void CPriorityKeeper::Keep(const NetworkProfile &profile, int obstacle)
+{
+    OrderKept kept;
+    kept.name = profile.name;
+    kept.obstacle = obstacle;
+    m_outcome.kept.append(kept);
+}
+
+/** Nothing could be compared. */
+void CPriorityKeeper::Fail(int failure)
+{
+    m_outcome.stage = OrderOutcome::StageOrderFailed;
+    m_outcome.failure = failure;
     End();
 }
 
@@ -265,6 +320,7 @@ void CPriorityKeeper::End()
 {
     m_records.Close();
     m_log.Tell(m_complaints);
+    emit Ended(m_outcome, m_isDueAgain);
     if (m_isDueAgain) {
         m_isDueAgain = false;
         Trigger();

@@ -5,6 +5,7 @@
 #include "PriorityWriter.h"
 
 #include <ComplaintLog.h>
+#include <OrderRecords.h>
 #include <PriorityList.h>
 #include <UserNotice.h>
 
@@ -16,11 +17,13 @@
 class CLivePicture;
 class CNetworkManagerClient;
 class FileWatcher;
+class IPriorityPlugin;
 struct ConnectionPicture;
 
 /**
  * Keeps the priority list and NetworkManager's priorities together: whatever changes in the list is written
- * to NetworkManager, and a network that is connected for the first time goes to its place in the list.
+ * to NetworkManager, and a network that is connected for the first time goes to its place in the list. While
+ * the user does not want the list to rule, all profiles have what they had before.
  *
  * Works in the background: nobody waits for it, and it may be deleted at any time. The list is read and
  * changed through the priority plug-in alone; its file is only watched.
@@ -42,6 +45,13 @@ public slots:
     /** Has the two compared soon. */
     void Trigger();
 
+signals:
+    /** A comparison begins. It ends with Ended, perhaps before this call is over. */
+    void Begun();
+
+    /** @param isDueAgain  another comparison follows: something has changed meanwhile. */
+    void Ended(const OrderOutcome &outcome, bool isDueAgain);
+
 private slots:
     void Begin();
     void TakePicture();
@@ -53,23 +63,28 @@ private:
     Q_DISABLE_COPY(CPriorityKeeper)
 
     void Compare();
-    bool ReadList(QList<PriorityList> *list);
-    bool AddFirstConnections(const ConnectionPicture &picture, const QList<PriorityList> &list);
+    bool ReadList(IPriorityPlugin *priority, QList<PriorityList> *list);
+    bool AddFirstConnections(IPriorityPlugin *priority, const ConnectionPicture &picture,
+                             const QList<PriorityList> &list);
     void Write(const QList<NetworkProfile> &profiles, const QList<PriorityList> &list);
     void SaveRecords();
     void Tell(const PlannedPriorities &planned);
     /** The name of the first profile that the user has not been told of, who is told of all of them now. */
     QString FirstUntold(const QList<NetworkProfile> &profiles, const QSet<QString> &told);
     void Complain(const QString &text);
+    void Keep(const NetworkProfile &profile, int obstacle);
+    void Fail(int failure);
     void End();
 
     CNetworkManagerClient *const m_client;
     CLivePicture *const m_picture;
     const QString m_listPath;
     FileWatcher *m_file;
+    FileWatcher *m_rules;
     CPriorityRecords m_records;
     CComplaintLog m_log{"WLANNetworkManager"};
     QStringList m_complaints;
+    OrderOutcome m_outcome;
     CUserNotice m_notice;
     QTimer m_pause;
     CPriorityWriter m_writer;

@@ -141,6 +141,9 @@ PlannedPriorities PriorityPlan::Make(const QList<PriorityList> &list, const QLis
         if (!profile.isFreelyChangeable && fitted.contradicting.contains(place)) {
             planned.contradicting.append(profile);
         }
+        if (!profile.isFreelyChangeable && place < 0 && IsOwn(profile, *records)) {
+            planned.owing.append(profile);
+        }
         if (!profile.isFreelyChangeable || profile.kind == NetworkProfile::OtherKind ||
             profile.uuid.isEmpty()) {
             continue;

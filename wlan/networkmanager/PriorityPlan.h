@@ -23,6 +23,8 @@ struct PlannedPriorities {
     QList<NetworkProfile> contradicting;
     /** Profiles outside the list that come before one in it which can be changed. */
     QList<NetworkProfile> overtaking;
+    /** Profiles that are to have their former priority back and can't be changed. */
+    QList<NetworkProfile> owing;
 };
 
 namespace PriorityPlan

@@ -1,6 +1,7 @@
 #include "PluginObjects.h"
 
 #include <IConnectionPlugin.h>
+#include <IOrderPlugin.h>
 #include <IPriorityPlugin.h>
 #include <IWLANUIPlugin.h>
 #include <PluginSearch.h>
@@ -36,6 +37,16 @@ QObject *PluginObjects::ConnectionService()
 IConnectionPlugin *PluginObjects::Connecting()
 {
     return qobject_cast<IConnectionPlugin *>(ConnectionService());
+}
+
+QObject *PluginObjects::OrderService()
+{
+    return FindPluginObject(wlanClassId, OrderInterface);
+}
+
+IOrderPlugin *PluginObjects::Ordering()
+{
+    return qobject_cast<IOrderPlugin *>(OrderService());
 }
 
 bool PluginObjects::RememberedNetworks(QList<PriorityList> *networks)

@@ -6,6 +6,7 @@
 #include <QList>
 
 class IConnectionPlugin;
+class IOrderPlugin;
 class IPriorityPlugin;
 class IWLANUIPlugin;
 class QObject;
@@ -17,6 +18,7 @@ public:
     static IPriorityPlugin *Priority();
     static IWLANUIPlugin *Wlan();
     static IConnectionPlugin *Connecting();
+    static IOrderPlugin *Ordering();
 
     /** The networks that the Wi-Fi plug-in remembers, as entries of the list; false when there is none to
      * ask.
@@ -31,6 +33,9 @@ public:
 
     /** The object behind Connecting(), which has the signal OnConnectionsChanged(). */
     static QObject *ConnectionService();
+
+    /** The object behind Ordering(), which has the signal OnOrderChanged(). */
+    static QObject *OrderService();
 };
 
 #endif

@@ -54,6 +54,8 @@ const CommandOption commandOptions[] = {
     {"--status", Command::Status},
     {"--connect", Command::Connect},
     {"--disconnect", Command::Disconnect},
+    {"--apply", Command::Apply},
+    {"--release", Command::Release},
 };
 
 /** Words for the types of entries. */
@@ -294,8 +296,16 @@ QString Arguments::HelpText()
         "                       need not be saved\n"
         "  --disconnect         end the connection that carries the traffic, unless it is of\n"
         "                       another kind than Wi-Fi and mobile broadband\n"
+        "  --apply              have the list rule NetworkManager, and bring the networks into its\n"
+        "                       order; print each priority that is changed: set, name, former and\n"
+        "                       new one, and each that can't be: kept, name and reason\n"
+        "  --release            have the list rule no more, and give all networks back what they\n"
+        "                       had before; prints the same\n"
         "  --wait SECONDS       let --connect and --disconnect take so long; 60 is the default\n"
         "  --json               let --list, --check and --status answer in JSON\n"
+        "\n"
+        "What --add and --add-top change takes effect at once, as long as the list rules\n"
+        "NetworkManager.\n"
         "\n"
         "TYPE is wifi (or 1), which is also the type of a network that is given without one,\n"
         "mobile (or 2), or another digit. NAME may have colons in it: the last one counts when\n"
@@ -314,7 +324,8 @@ QString Arguments::HelpText()
         "  10  another command was busy with the list for too long\n"
         "  11  the connection manager can't be reached\n"
         "  12  there is no such network, it needs a key first, or nothing is connected\n"
-        "  13  it was not connected, or not disconnected, or not in time\n");
+        "  13  it was not connected, or not disconnected, or not in time\n"
+        "  14  not every network could be brought into the order, or given back\n");
 }
 
 QString Arguments::VersionText()

@@ -18,7 +18,8 @@ enum CommandStatus {
     CommandListInUse = 10,
     CommandNoSource = 11,
     CommandNothingThere = 12,
-    CommandNotConnected = 13
+    CommandNotConnected = 13,
+    CommandNotInEffect = 14
 };
 
 /** What commands print. Answers go to the standard output, in UTF-8 whatever the locale; problems to the

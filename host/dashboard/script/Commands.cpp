@@ -4,9 +4,13 @@
 #include "ListCommands.h"
 
 #include <HostControl.h>
+#include <IPluginContainer.h>
+#include <ListRules.h>
 #include <PluginHost.h>
 #include <PluginList.h>
 #include <UserData.h>
+
+#include <algorithm>
 
 namespace
 {
@@ -35,6 +39,29 @@ QString ProblemOf(const PluginHost &plugins)
     return QString();
 }
 
+/** Hands out what either of two has. */
+class BothPlugins : public IPluginContainer
+{
+public:
+    BothPlugins(IPluginContainer *list, IPluginContainer *networks) : m_list(list), m_networks(networks) {}
+
+    QObject *GetPluginObject(const QString &classId, int interfaceNumber) override
+    {
+        QObject *object = m_list->GetPluginObject(classId, interfaceNumber);
+        return object ? object : m_networks->GetPluginObject(classId, interfaceNumber);
+    }
+
+private:
+    IPluginContainer *const m_list;
+    IPluginContainer *const m_networks;
+};
+
+bool IsAnyChange(const QList<Command> &commands)
+{
+    return std::any_of(commands.constBegin(), commands.constEnd(),
+                       [](const Command &command) { return command.IsChange(); });
+}
+
 } // namespace
 
 CommandStatus Commands::Run(const Arguments &arguments, const QString &libraryPath)
@@ -52,7 +79,16 @@ CommandStatus Commands::Run(const Arguments &arguments, const QString &libraryPa
     // Each in a container of its own: a Wi-Fi plug-in that can reach the list rules by it, and these commands
     // do what they are told and no more.
     PluginHost networks(libraryPath, WithoutTheList(PluginHost::KnownPlugins(arguments.ChosenWlan())));
+    BothPlugins both(&priority, &networks);
     QString problem;
+    const auto askNetworks = [&](IPluginContainer *container) {
+        if (networks.Plugins().constFirst().state == PluginNotLoaded) {
+            networks.Load();
+            problem = ProblemOf(networks);
+        }
+        HostControl::SetPluginContainer(container);
+        return ConnectionCommands(arguments.isJson, arguments.WaitSeconds(), problem);
+    };
     const ListCommands lists(listPath, arguments.isJson);
     const QList<Command> &commands = arguments.commands;
     CommandStatus status = CommandDone;
@@ -65,20 +101,22 @@ CommandStatus Commands::Run(const Arguments &arguments, const QString &libraryPa
         }
         if (!ofList.isEmpty()) {
             status = lists.Run(ofList);
+            if (IsAnyChange(ofList) && arguments.ChosenWlan() == WlanNetworkManager &&
+                ListRules::IsRuling()) {
+                askNetworks(&both).FollowList();
+            }
             continue;
         }
         const ListReading list = PluginList().Read();
-        if (networks.Plugins().constFirst().state == PluginNotLoaded) {
-            networks.Load();
-            problem = ProblemOf(networks);
-        }
-        HostControl::SetPluginContainer(&networks);
         const Command command = commands.at(i);
         ++i;
-        status = ConnectionCommands(arguments.isJson, arguments.WaitSeconds(), problem).Run(command, list);
-        if (status == CommandDone && command.kind == Command::Status) {
+        IPluginContainer *container =
+            command.IsOfOrder() ? static_cast<IPluginContainer *>(&both) : &networks;
+        status = askNetworks(container).Run(command, list);
+        if (status == CommandDone && (command.kind == Command::Status || command.kind == Command::Apply)) {
             status = lists.FailToRead(list.status);
         }
     }
+    HostControl::SetPluginContainer(nullptr);
     return status;
 }

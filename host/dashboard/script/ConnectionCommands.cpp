@@ -1,6 +1,8 @@
 #include "ConnectionCommands.h"
 
 #include <IConnectionPlugin.h>
+#include <IOrderPlugin.h>
+#include <ListRules.h>
 #include <OneLine.h>
 #include <Overview.h>
 #include <PluginObjects.h>
@@ -22,6 +24,9 @@ struct Word {
     const char *word;
 };
 
+// Writing hundreds of profiles takes its time, and another program of this user may do it first.
+const int orderMilliseconds = 120000;
+
 const Word failures[] = {
     {FailureWrongKey, "the key was refused"},
     {FailureKeyMissing, "a key is missing"},
@@ -35,15 +40,29 @@ const Word failures[] = {
     {FailureSource, "the connection manager does not answer any more"},
 };
 
-QString FailureText(int failure)
+template <int count> QString TextOf(int value, const Word (&words)[count])
 {
-    for (const Word &known : failures) {
-        if (known.value == failure) {
+    for (const Word &known : words) {
+        if (known.value == value) {
             return QLatin1String(known.word);
         }
     }
     return QLatin1String("the connection manager gives no reason");
 }
+
+QString FailureText(int failure)
+{
+    return TextOf(failure, failures);
+}
+
+const Word obstacles[] = {
+    {ObstacleOtherUsers, "it belongs to other users"},
+    {ObstaclePassing, "it is not stored"},
+    {ObstacleNotAllowed, "you may not change it"},
+    {ObstaclePassword, "changing it needs a password"},
+    {ObstacleRefused, "NetworkManager refused the change"},
+    {ObstacleNoAnswer, "NetworkManager did not answer"},
+};
 
 /** What scripts are told of a stage; null for one that is not known. */
 const char *StageWord(int stage)
@@ -54,20 +73,41 @@ const char *StageWord(int stage)
                                           : nullptr;
 }
 
-/** Waits until it is so, which changes can only make so that the plug-in tells; false when the time runs out.
- */
-bool Await(const std::function<bool()> &isSo, const QDeadlineTimer &deadline)
+/** Waits until it is so, which changes can only make so that the object tells by that signal; false when the
+ * time runs out. */
+bool Await(QObject *(*teller)(), const char *signal, const std::function<bool()> &isSo,
+           const QDeadlineTimer &deadline)
 {
     bool isItSo = isSo();
-    while (!isItSo && !deadline.hasExpired() && PluginObjects::ConnectionService()) {
+    while (!isItSo && !deadline.hasExpired() && teller()) {
         QEventLoop loop;
-        QObject::connect(PluginObjects::ConnectionService(), SIGNAL(OnConnectionsChanged()), &loop,
-                         SLOT(quit()));
+        QObject::connect(teller(), signal, &loop, SLOT(quit()));
         QTimer::singleShot(static_cast<int>(deadline.remainingTime()), &loop, SLOT(quit()));
         loop.exec();
         isItSo = isSo();
     }
     return isItSo;
+}
+
+bool AwaitConnections(const std::function<bool()> &isSo, const QDeadlineTimer &deadline)
+{
+    return Await(&PluginObjects::ConnectionService, SIGNAL(OnConnectionsChanged()), isSo, deadline);
+}
+
+/** Waits until the order has come to its end. */
+OrderOutcome OutcomeOf(int order)
+{
+    OrderOutcome outcome;
+    Await(
+        &PluginObjects::OrderService, SIGNAL(OnOrderChanged()),
+        [order, &outcome] {
+            if (IOrderPlugin *plugin = PluginObjects::Ordering()) {
+                plugin->GetOutcome(order, &outcome);
+            }
+            return outcome.stage != OrderOutcome::StageOrderUnderWay;
+        },
+        QDeadlineTimer(orderMilliseconds));
+    return outcome;
 }
 
 ConnectionState StateNow()
@@ -122,7 +162,7 @@ CommandStatus Follow(int order, const QString &name, int goal, const QDeadlineTi
         return FailRefused(order, name);
     }
     ConnectAttempt attempt;
-    const bool isOver = Await(
+    const bool isOver = AwaitConnections(
         [order, &attempt] {
             if (IConnectionPlugin *plugin = PluginObjects::Connecting()) {
                 plugin->GetAttempt(order, &attempt);
@@ -191,8 +231,8 @@ QString ConnectionCommands::SourceProblem() const
         return m_problem.isNull() ? QLatin1String("the Wi-Fi plug-in tells nothing of connections")
                                   : m_problem;
     }
-    Await([] { return StateNow().source != ConnectionState::SourceNotKnown; },
-          QDeadlineTimer(answerMilliseconds));
+    AwaitConnections([] { return StateNow().source != ConnectionState::SourceNotKnown; },
+                     QDeadlineTimer(answerMilliseconds));
     switch (StateNow().source) {
     case ConnectionState::SourceKnown:
         return QString();
@@ -220,9 +260,57 @@ CommandStatus ConnectionCommands::Run(const Command &command, const ListReading 
         return Connect(command.entry, deadline);
     case Command::Disconnect:
         return Disconnect(deadline);
+    case Command::Apply:
+    case Command::Release:
+        return Order(command.kind == Command::Apply);
     default:
         return Tell(list);
     }
+}
+
+void ConnectionCommands::FollowList() const
+{
+    IOrderPlugin *plugin = PluginObjects::Ordering();
+    if (plugin && SourceProblem().isNull()) {
+        OutcomeOf(plugin->Apply());
+    }
+}
+
+CommandStatus ConnectionCommands::Order(bool isRuling) const
+{
+    if (!ListRules::SetRuling(isRuling)) {
+        return CommandAnswer::Fail(CommandNotWritten,
+                                   QString::fromLatin1("%1 can't be written").arg(ListRules::FilePath()));
+    }
+    IOrderPlugin *plugin = PluginObjects::Ordering();
+    if (!plugin) {
+        return CommandAnswer::Fail(CommandNoSource,
+                                   QLatin1String("these networks are not ruled by the list"));
+    }
+    const OrderOutcome outcome = OutcomeOf(plugin->Apply());
+    QString lines;
+    for (const OrderChange &change : outcome.changes) {
+        lines +=
+            CommandAnswer::Line(QLatin1String("set"), OneLine::Escaped(change.name) + QLatin1Char('\t') +
+                                                          QString::number(change.before) + QLatin1Char('\t') +
+                                                          QString::number(change.after));
+    }
+    for (const OrderKept &kept : outcome.kept) {
+        lines += CommandAnswer::Line(QLatin1String("kept"), OneLine::Escaped(kept.name) + QLatin1Char('\t') +
+                                                                TextOf(kept.obstacle, obstacles));
+    }
+    const CommandStatus printed = CommandAnswer::Print(lines);
+    if (printed != CommandDone) {
+        return printed;
+    }
+    if (outcome.stage == OrderOutcome::StageOrderUnderWay) {
+        return CommandAnswer::Fail(
+            CommandListInUse, QLatin1String("another program has been busy with the order for too long"));
+    }
+    if (outcome.failure == OrderOutcome::FailureOrderSource) {
+        return CommandAnswer::Fail(CommandNoSource, FailureText(FailureSource));
+    }
+    return outcome.kept.isEmpty() ? CommandDone : CommandNotInEffect;
 }
 
 CommandStatus ConnectionCommands::Tell(const ListReading &list) const

@@ -26,11 +26,15 @@ public:
     /** @param list  as it is now; for Status. */
     CommandStatus Run(const Command &command, const ListReading &list) const;
 
+    /** Has the list take effect, and says nothing: the list itself is as it was wanted. */
+    void FollowList() const;
+
 private:
     QString SourceProblem() const;
     CommandStatus Tell(const ListReading &list) const;
     CommandStatus Connect(const PriorityList &entry, const QDeadlineTimer &deadline) const;
     CommandStatus Disconnect(const QDeadlineTimer &deadline) const;
+    CommandStatus Order(bool isRuling) const;
 
     const bool m_isJson;
     const int m_waitSeconds;

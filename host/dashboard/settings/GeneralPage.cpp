@@ -6,8 +6,10 @@
 #include <DashboardText.h>
 #include <HostControl.h>
 #include <PluginHost.h>
+#include <PluginObjects.h>
 #include <UserData.h>
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QSignalBlocker>
@@ -44,17 +46,17 @@ const char *StateTextId(PluginState state)
     return state == PluginReady ? "IDS_GENERAL_PLUGIN_WORKS" : "IDS_GENERAL_PLUGIN_MISSING";
 }
 
-QString Line(const QString &text)
+QString Lines(const QStringList &texts)
 {
-    return text.toHtmlEscaped() + QLatin1String("<br>");
+    return texts.join(QLatin1Char('\n')).toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br>"));
 }
 
 } // namespace
 
 GeneralPage::GeneralPage(DashboardLanguage *language, PluginHost *plugins)
     : m_language(language), m_plugins(plugins), m_languageLabel(nullptr), m_languageBox(nullptr),
-      m_newLabel(nullptr), m_newBox(nullptr), m_pluginsLabel(nullptr), m_pluginsText(nullptr),
-      m_placesLabel(nullptr), m_placesText(nullptr)
+      m_newLabel(nullptr), m_newBox(nullptr), m_rulingBox(nullptr), m_pluginsLabel(nullptr),
+      m_pluginsText(nullptr), m_placesLabel(nullptr), m_placesText(nullptr)
 {
 }
 
@@ -88,6 +90,14 @@ bool GeneralPage::Show(QWidget *place)
     m_newLabel->setBuddy(m_newBox);
     connect(m_newBox, QOverload<int>::of(&QComboBox::activated), this, &GeneralPage::ChooseNewNetworks);
     layout->addWidget(m_newBox);
+    m_rulingBox = new QCheckBox;
+    m_rulingBox->setObjectName(QLatin1String("rulingBox"));
+    m_wasRuling = ListRules::IsRuling();
+    m_rulingBox->setChecked(m_wasRuling);
+    // Practice networks are not ruled.
+    m_rulingBox->setVisible(PluginObjects::Ordering());
+    connect(m_rulingBox, &QCheckBox::clicked, this, &GeneralPage::ChooseRuling);
+    layout->addWidget(m_rulingBox);
     layout->addSpacing(12);
     m_pluginsLabel = AddCaption("pluginsLabel", layout);
     m_pluginsText = AddText("pluginsText", layout);
@@ -115,6 +125,9 @@ void GeneralPage::Close(Answer answer)
         if (ListRules::PlaceOfNewNetworks() != m_newBefore) {
             ListRules::SetPlaceOfNewNetworks(m_newBefore);
         }
+        if (ListRules::IsRuling() != m_wasRuling) {
+            ListRules::SetRuling(m_wasRuling);
+        }
     }
     delete m_page.data();
 }
@@ -135,22 +148,24 @@ void GeneralPage::Retranslate()
         }
         m_newBox->setCurrentIndex(ListRules::PlaceOfNewNetworks());
     }
+    m_rulingBox->setText(DashboardText("IDS_GENERAL_RULING"));
+    m_rulingBox->setToolTip(DashboardText("IDS_GENERAL_RULING_HINT"));
     m_pluginsLabel->setText(DashboardText("IDS_GENERAL_PLUGINS"));
     m_placesLabel->setText(DashboardText("IDS_GENERAL_PLACES"));
 
-    QString lines;
+    QStringList lines;
     const QList<PluginHost::Plugin> plugins = m_plugins->Plugins();
     for (int i = 0; i < plugins.size(); ++i) {
         const PluginHost::Plugin &plugin = plugins.at(i);
-        lines += Line(DashboardText("IDS_LABEL")
-                          .arg(DashboardText(plugin.known.titleId.toLatin1().constData()),
-                               DashboardText(StateTextId(plugin.state))));
+        lines.append(DashboardText("IDS_LABEL")
+                         .arg(DashboardText(plugin.known.titleId.toLatin1().constData()),
+                              DashboardText(StateTextId(plugin.state))));
     }
-    m_pluginsText->setText(lines);
+    m_pluginsText->setText(Lines(lines));
     m_placesText->setText(
-        Line(DashboardText("IDS_GENERAL_USER_DATA").arg(UserData::Directory())) +
-        Line(DashboardText("IDS_GENERAL_PLUGIN_LIBRARY").arg(CommonUtils::GetPluginLibraryPath())) +
-        Line(DashboardText("IDS_GENERAL_VERSION").arg(QLatin1String(DASHBOARD_VERSION))));
+        Lines({DashboardText("IDS_GENERAL_USER_DATA").arg(UserData::Directory()),
+               DashboardText("IDS_GENERAL_PLUGIN_LIBRARY").arg(CommonUtils::GetPluginLibraryPath()),
+               DashboardText("IDS_GENERAL_VERSION").arg(QLatin1String(DASHBOARD_VERSION))}));
 }
 
 void GeneralPage::ChooseLanguage(int index)
@@ -164,5 +179,14 @@ void GeneralPage::ChooseNewNetworks(int index)
         qWarning("the place of new networks can't be kept in %s",
                  UserData::Directory().toLocal8Bit().constData());
         m_newBox->setCurrentIndex(ListRules::PlaceOfNewNetworks());
+    }
+}
+
+void GeneralPage::ChooseRuling(bool isRuling)
+{
+    if (!ListRules::SetRuling(isRuling)) {
+        qWarning("whether the list rules can't be kept in %s",
+                 UserData::Directory().toLocal8Bit().constData());
+        m_rulingBox->setChecked(!isRuling);
     }
 }

@@ -10,11 +10,11 @@
 
 class DashboardLanguage;
 class PluginHost;
+class QCheckBox;
 class QComboBox;
 class QLabel;
 
-/** The dashboard's own page: its language, the place of new networks, its plug-ins, and where it keeps
- * things. */
+/** The dashboard's own page: its language, how the list rules, its plug-ins, and where it keeps things. */
 class GeneralPage : public QObject, public SettingsPage
 {
     Q_OBJECT
@@ -31,6 +31,7 @@ public:
 private slots:
     void ChooseLanguage(int index);
     void ChooseNewNetworks(int index);
+    void ChooseRuling(bool isRuling);
 
 private:
     DashboardLanguage *const m_language;
@@ -42,6 +43,8 @@ private:
     ListRules::NewNetworks m_newBefore = ListRules::NewAtTheEnd;
     QLabel *m_newLabel;
     QComboBox *m_newBox;
+    bool m_wasRuling = true;
+    QCheckBox *m_rulingBox;
     QLabel *m_pluginsLabel;
     QLabel *m_pluginsText;
     QLabel *m_placesLabel;

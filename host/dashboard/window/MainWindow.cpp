@@ -18,6 +18,7 @@
 #include <GeneralPage.h>
 #include <IConnectionPlugin.h>
 #include <ListKeeper.h>
+#include <ListRules.h>
 #include <NetworkDelegate.h>
 #include <OverviewText.h>
 #include <PluginHost.h>
@@ -325,7 +326,9 @@ void MainWindow::ShowNote()
         const bool isToldOf =
             m_overview.connections.teller != Connections::Plugin || m_overview.connections.AreKnown();
         if (plugin.state == PluginReady && !plugin.known.noteId.isEmpty() && isToldOf) {
-            notes.append(DashboardText(plugin.known.noteId.toLatin1().constData()));
+            const bool isIdle = PluginObjects::Ordering() && !ListRules::IsRuling();
+            notes.append(
+                DashboardText(isIdle ? "IDS_NOTE_NOT_RULING" : plugin.known.noteId.toLatin1().constData()));
         }
     }
     m_note->setText(DashboardJoined("IDS_SENTENCES", notes));

@@ -2,6 +2,7 @@
 #include <ExtendLineEdit.h>
 #include <IConnectionPlugin.h>
 #include <INotify.h>
+#include <IOrderPlugin.h>
 #include <IPluginContainer.h>
 #include <IPriorityPlugin.h>
 #include <ISettingUIPlugin.h>
@@ -221,6 +222,14 @@ void TellConnectionInterface()
     connections.AddEnd();
 }
 
+void TellOrderInterface()
+{
+    const Slots<IOrderPlugin> order("IOrderPlugin");
+    order.Add<int()>("Apply", &IOrderPlugin::Apply);
+    order.Add<void(int, OrderOutcome *)>("GetOutcome", &IOrderPlugin::GetOutcome);
+    order.AddEnd();
+}
+
 void TellHostClasses()
 {
     const Slots<IPluginContainer> container("IPluginContainer");
@@ -344,6 +353,42 @@ void TellConnectionRecords()
     attempt.Add<int>("failure", &ConnectAttempt::failure);
 }
 
+void TellOrderRecords()
+{
+    const Fields<OrderChange> change("OrderChange");
+    change.Add<QString>("name", &OrderChange::name);
+    change.Add<int>("before", &OrderChange::before);
+    change.Add<int>("after", &OrderChange::after);
+
+    const Fields<OrderKept> kept("OrderKept");
+    kept.Add<QString>("name", &OrderKept::name);
+    kept.Add<int>("obstacle", &OrderKept::obstacle);
+
+    const Fields<OrderOutcome> outcome("OrderOutcome");
+    outcome.Add<int>("stage", &OrderOutcome::stage);
+    outcome.Add<int>("failure", &OrderOutcome::failure);
+    outcome.Add<QList<OrderChange>>("changes", &OrderOutcome::changes);
+    outcome.Add<QList<OrderKept>>("kept", &OrderOutcome::kept);
+}
+
+void TellOrderWords()
+{
+    TellWord("ObstacleNotKnown", ObstacleNotKnown);
+    TellWord("ObstacleOtherUsers", ObstacleOtherUsers);
+    TellWord("ObstaclePassing", ObstaclePassing);
+    TellWord("ObstacleNotAllowed", ObstacleNotAllowed);
+    TellWord("ObstaclePassword", ObstaclePassword);
+    TellWord("ObstacleRefused", ObstacleRefused);
+    TellWord("ObstacleNoAnswer", ObstacleNoAnswer);
+    TellWord("StageOrderNotKnown", OrderOutcome::StageOrderNotKnown);
+    TellWord("StageOrderUnderWay", OrderOutcome::StageOrderUnderWay);
+    TellWord("StageOrderDone", OrderOutcome::StageOrderDone);
+    TellWord("StageOrderFailed", OrderOutcome::StageOrderFailed);
+    TellWord("FailureOrderNone", OrderOutcome::FailureOrderNone);
+    TellWord("FailureOrderSource", OrderOutcome::FailureOrderSource);
+    TellWord("FailureOrderList", OrderOutcome::FailureOrderList);
+}
+
 void TellConnectionWords()
 {
     TellWord("StageNotKnown", StageNotKnown);
@@ -413,6 +458,7 @@ void TellIdentifiers()
     Tell("identifier of ISettingUIPlugin", qobject_interface_iid<ISettingUIPlugin *>());
     Tell("identifier of IPriorityPlugin", qobject_interface_iid<IPriorityPlugin *>());
     Tell("identifier of IConnectionPlugin", qobject_interface_iid<IConnectionPlugin *>());
+    Tell("identifier of IOrderPlugin", qobject_interface_iid<IOrderPlugin *>());
     Tell("identifier of IWLANUIPlugin", qobject_interface_iid<IWLANUIPlugin *>());
 }
 
@@ -425,9 +471,12 @@ extern "C" Q_DECL_EXPORT const char *boundary_contracts()
     TellServiceInterfaces();
     TellWlanInterface();
     TellConnectionInterface();
+    TellOrderInterface();
     TellHostClasses();
     TellRecords();
     TellConnectionRecords();
+    TellOrderRecords();
+    TellOrderWords();
     TellConnectionWords();
     TellIdentifiers();
     return facts.constData();

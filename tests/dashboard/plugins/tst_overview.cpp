@@ -1,10 +1,6 @@
 #include "FakeConnections.h"
 #include "Lists.h"
 
-#include "FakeConnections.h"
-#include "Lists.h"
-#include <Overview.h>
-
 #include <Overview.h>
 #include <PluginList.h>
 
@@ -59,6 +55,7 @@ private slots:
     void UserWhoMayNotConnectIsOfferedNoSwitch();
     void ListThatIsNotWholeOffersNoSwitch();
     void VpnIsNoConnectionThatComesUp();
+    void RememberedNetworksAreToldOnceEachInTheirOrder();
     void WithoutPlugInsNothingIsKnown();
 };
 
@@ -231,6 +228,15 @@ void OverviewTest::VpnIsNoConnectionThatComesUp()
     told.active = ActiveOf("V 1/0");
     told.active[0].isVpn = true;
     QVERIFY(!Overview::Make(0, Listed("A"), told).ComingUp());
+}
+
+void OverviewTest::RememberedNetworksAreToldOnceEachInTheirOrder()
+{
+    Connections told = KnownConnections();
+    told.profiles << SavedProfile("Office") << SavedProfile("Home")
+                  << SavedProfile("Home", ConnectionProfile::UsePossible, "2") << SavedProfile("Office")
+                  << SavedProfile(QString::fromUtf8("Café"));
+    QCOMPARE(AsText(told.Remembered()), QString::fromUtf8("Office, Home, Home/2, Café"));
 }
 
 void OverviewTest::WithoutPlugInsNothingIsKnown()

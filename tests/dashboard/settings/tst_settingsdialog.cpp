@@ -1,3 +1,4 @@
+#include "FakeConnections.h"
 #include "FakePage.h"
 
 #include <DashboardLanguage.h>
@@ -13,6 +14,7 @@
 #include <Change.h>
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QListWidget>
@@ -80,6 +82,9 @@ private slots:
     void PlaceOfNewNetworksIsKeptUnlessCancelled_data();
     void PlaceOfNewNetworksIsKeptUnlessCancelled();
     void PlaceOfNewNetworksThatCannotBeKeptIsNotShown();
+    void RuleIsKeptUnlessCancelled_data();
+    void RuleIsKeptUnlessCancelled();
+    void RuleIsOfferedWhereTheListCanRule();
     void GeneralPageTellsOfPlugins();
 
 private:
@@ -405,6 +410,46 @@ void SettingsDialogTest::PlaceOfNewNetworksThatCannotBeKeptIsNotShown()
     QTest::keyClick(box, Qt::Key_End);
     QCOMPARE(box->currentText(), QString("At the end of your list"));
     qputenv("XDG_DATA_HOME", m_directory.Path().toLocal8Bit());
+}
+
+void SettingsDialogTest::RuleIsKeptUnlessCancelled_data()
+{
+    QTest::addColumn<bool>("isOk");
+    QTest::newRow("OK") << true;
+    QTest::newRow("Cancel") << false;
+}
+
+void SettingsDialogTest::RuleIsKeptUnlessCancelled()
+{
+    QFETCH(bool, isOk);
+    FakeConnections connections;
+    WithConnections container(nullptr, &connections);
+    HostControl::SetPluginContainer(&container);
+    PluginHost host(BUILD_DIRECTORY, QList<KnownPlugin>());
+    DashboardLanguage language(nullptr);
+    SettingsDialog dialog(nullptr);
+    QVERIFY(ListRules::SetRuling(true));
+    dialog.AddPage(new GeneralPage(&language, &host));
+    dialog.SelectPage(0);
+    dialog.show();
+    QCheckBox *box = dialog.findChild<QCheckBox *>("rulingBox");
+    QVERIFY(box->isVisible() && box->isChecked());
+    QTest::keyClick(box, Qt::Key_Space);
+    QVERIFY(!ListRules::IsRuling());
+    dialog.done(isOk ? QDialog::Accepted : QDialog::Rejected);
+    QCOMPARE(ListRules::IsRuling(), !isOk);
+    HostControl::SetPluginContainer(nullptr);
+}
+
+void SettingsDialogTest::RuleIsOfferedWhereTheListCanRule()
+{
+    PluginHost host(BUILD_DIRECTORY, QList<KnownPlugin>());
+    DashboardLanguage language(nullptr);
+    SettingsDialog dialog(nullptr);
+    dialog.AddPage(new GeneralPage(&language, &host));
+    dialog.SelectPage(0);
+    dialog.show();
+    QVERIFY(!dialog.findChild<QCheckBox *>("rulingBox")->isVisible());
 }
 
 void SettingsDialogTest::GeneralPageTellsOfPlugins()

@@ -1,0 +1,58 @@
+#ifndef IORDERPLUGIN_H
+#define IORDERPLUGIN_H
+
+#include "OrderRecords.h"
+
+#include <QObject>
+
+/**
+ * What a WLAN plug-in does for the list to take effect on the connection manager.
+ *
+ * Obtained from the host's container (Startup::GetPluginContainer) with wlanClassId and OrderInterface, then
+ * qobject_cast. It may be another object than those for the other interfaces. Look it up each time it is
+ * needed: it is invalid after the host's OnDestroy.
+ *
+ * A WLAN plug-in need not have it: one that touches nothing real has not. One that has it works whether
+ * anybody asks or not: from its Init on, every change of the list is followed. So a program that stays needs
+ * no operation of this interface. They are for one that wants to know what was done before it goes on, or
+ * ends.
+ *
+ * The plug-in reads the list through IPriorityPlugin, which has to be in the same container while an order is
+ * under way.
+ *
+ * The object has the signal OnOrderChanged(), without arguments, emitted when an order has come to its end;
+ * from the event loop, never from inside an operation. Connect to it by name.
+ *
+ * All calls come on the GUI thread, and none waits. Nothing is thrown across this interface.
+ *
+ * The table is binary contract. Counted from one over all its entries, of which the destructor takes the
+ * first two, the operations stand at 3 and 4.
+ */
+class IOrderPlugin
+{
+public:
+    virtual ~IOrderPlugin() {}
+
+    /**
+     * 3: begins to bring the connection manager to what the list asks for now. Where the user has chosen that
+     * the list is not to rule, each profile is given back what it had before. Nothing but priorities is
+     * written, into settings that are read directly before; a priority that somebody else has set since the
+     * list's is theirs and stays when the list no longer asks for another.
+     *
+     * Programs of one user have this one at a time. While another one has it, the order is under way.
+     *
+     * @return the number of the order, above 0 and never used again.
+     */
+    virtual int Apply() = 0;
+
+    /**
+     * 4: how far an order is. It can be asked for as long as the program runs.
+     *
+     * @param outcome  belongs to the caller and is replaced; null does nothing.
+     */
+    virtual void GetOutcome(int order, OrderOutcome *outcome) = 0;
+};
+
+Q_DECLARE_INTERFACE(IOrderPlugin, "com.torvik.netquillforge.plugin.IOrderPlugin")
+
+#endif
