@@ -43,6 +43,7 @@ private slots:
     void InitTellsThatThereIsNoNetworkManager();
     void NetworkManagerThatComesLaterIsKnown();
     void InitSucceedsWithNetworkManager();
+    void InitDoesNotWaitForASilentNetworkManager();
     void InitTwiceKeepsTheService();
     void HandsOutTheServiceForTheWlanNumberOnly_data();
     void HandsOutTheServiceForTheWlanNumberOnly();
@@ -227,6 +228,16 @@ void tst_networkmanagerlibrary::InitSucceedsWithNetworkManager()
     QVERIFY(LoadedWLAN::Root()->Init());
     QCOMPARE(LoadedWLAN::Root()->GetLastError(), 0);
     QVERIFY(LoadedWLAN::Wlan());
+}
+
+void tst_networkmanagerlibrary::InitDoesNotWaitForASilentNetworkManager()
+{
+    m_networkManager->DoNotAnswerAnything();
+    QVERIFY(LoadedWLAN::Root()->Init());
+    // It would be another result if its silence had been waited for.
+    QCOMPARE(LoadedWLAN::Root()->GetLastError(), 0);
+    QCOMPARE(LoadedWLAN::State().source, int(ConnectionState::SourceNotKnown));
+    m_networkManager->Behave();
 }
 
 void tst_networkmanagerlibrary::InitTwiceKeepsTheService()

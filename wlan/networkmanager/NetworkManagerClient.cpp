@@ -131,11 +131,17 @@ NetworkManagerResult CNetworkManagerClient::Probe(int limitMilliseconds)
     if (!m_bus.Connection().isConnected()) {
         return NetworkManagerResultNoBus;
     }
-    QDBusPendingCall call = Send(VersionCall(), limit.Remaining());
+    QDBusMessage question = QDBusMessage::createMethodCall(
+        QLatin1String("org.freedesktop.DBus"), QLatin1String("/org/freedesktop/DBus"),
+        QLatin1String("org.freedesktop.DBus"), QLatin1String("NameHasOwner"));
+    question << ServiceName();
+    QDBusPendingCall call = Send(question, limit.Remaining());
     call.waitForFinished();
-    const NetworkManagerResult result = ResultOf(call.reply(), "v");
+    const NetworkManagerResult result = ResultOf(call.reply(), "b");
     Note(result);
-    return result;
+    const bool isThere =
+        result != NetworkManagerResultSuccess || call.reply().arguments().constFirst().toBool();
+    return isThere ? result : NetworkManagerResultNotRunning;
 }
 
 QDBusPendingCall CNetworkManagerClient::Send(const QDBusMessage &call, int limitMilliseconds)

@@ -64,7 +64,8 @@ public:
     /** A call to NetworkManager, which is not started for its sake. */
     static QDBusMessage Call(const QString &path, const QString &interface, const QString &method);
 
-    /** Whether there is a bus and NetworkManager answers now; waits no longer than the limit. */
+    /** Whether there is a bus with NetworkManager on it, which need not answer. Waits for the bus alone, and
+     * no longer than the limit. */
     NetworkManagerResult Probe(int limitMilliseconds);
 
     QDBusPendingCall Send(const QDBusMessage &call, int limitMilliseconds);
