@@ -4,6 +4,7 @@
 
 #include <DashboardText.h>
 #include <DialogParts.h>
+#include <TextButton.h>
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -45,12 +46,10 @@ SettingsDialog::SettingsDialog(QWidget *parent) : QDialog(parent)
     m_keysHint->hide();
     new PageKeys(this, m_stack);
 
-    m_okButton = new QPushButton(this);
-    m_okButton->setObjectName(QLatin1String("settingsOkButton"));
+    m_okButton = new TextButton("settingsOkButton");
     m_okButton->setDefault(true);
     connect(m_okButton, SIGNAL(clicked()), this, SLOT(accept()));
-    m_cancelButton = new QPushButton(this);
-    m_cancelButton->setObjectName(QLatin1String("settingsCancelButton"));
+    m_cancelButton = new TextButton("settingsCancelButton");
     connect(m_cancelButton, SIGNAL(clicked()), this, SLOT(reject()));
 
     QHBoxLayout *body = new QHBoxLayout;
