@@ -7,6 +7,8 @@
 #include <QDir>
 #include <QtTest>
 
+#include <csignal>
+
 namespace
 {
 
@@ -32,6 +34,11 @@ private slots:
     void ApplyWithADamagedListChangesNothing();
     void ReleaseGivesBackWhatWasThereAndEndsTheRule();
     void ChangeOfTheListTakesEffect();
+    void AgentKeepsTheOrderUntilItIsEnded_data();
+    void AgentKeepsTheOrderUntilItIsEnded();
+    void AgentWaitsForNetworkManager();
+    void SecondAgentIsRefused();
+    void AgentThatWasKilledIsFollowedByAnother();
     void OrderWithoutNetworkManagerIsTold_data();
     void OrderWithoutNetworkManagerIsTold();
     void NetworkManagerThatIsNotThereIsTold();
@@ -39,6 +46,8 @@ private slots:
 private:
     QStringList Environment() const { return QStringList("XDG_DATA_HOME=" + m_directory->Path()); }
     QString AddProfile(const QString &name, const QByteArray &ssid);
+    void StartAgent(QProcess *process) const;
+    void SetList(const QByteArray &first, const QByteArray &second) const;
 
     PrivateBus m_bus;
     QScopedPointer<TemporaryDirectory> m_directory;
@@ -176,8 +185,9 @@ void tst_networkmanagercommands::ReleaseGivesBackWhatWasThereAndEndsTheRule()
     QCOMPARE(outcome.out, QString("set\tHome\t%1\t-7\n").arg(ruled));
     QCOMPARE(outcome.status, 0);
     QCOMPARE(m_fake->PriorityOf(home), -7);
+    m_fake->ForgetCalls();
     QCOMPARE(RunDashboard(QStringList("--add-top=Home"), Environment()).status, 0);
-    QCOMPARE(m_fake->PriorityOf(home), -7);
+    QCOMPARE(m_fake->CallCount(), 0);
     QCOMPARE(RunDashboard(QStringList("--apply"), Environment()).status, 0);
     QVERIFY(m_fake->PriorityOf(home) > 0);
 }
@@ -196,12 +206,100 @@ void tst_networkmanagercommands::ChangeOfTheListTakesEffect()
     QVERIFY(m_fake->PriorityOf(coffee) > m_fake->PriorityOf(home));
 }
 
+void tst_networkmanagercommands::StartAgent(QProcess *process) const
+{
+    ChangeEnvironment(process, Environment());
+    process->start(BUILD_DIRECTORY "/bin/priority-dashboard", {"--agent"});
+}
+
+void tst_networkmanagercommands::SetList(const QByteArray &first, const QByteArray &second) const
+{
+    m_directory->Write("priority-dashboard/Priority.xml", "<zeltdoc><profile><item name=\"" + first +
+                                                              "\" type=\"1\"/><item name=\"" + second +
+                                                              "\" type=\"1\"/></profile></zeltdoc>");
+}
+
+void tst_networkmanagercommands::AgentKeepsTheOrderUntilItIsEnded_data()
+{
+    QTest::addColumn<int>("signal");
+    QTest::newRow("SIGTERM") << SIGTERM;
+    QTest::newRow("SIGINT") << SIGINT;
+    QTest::newRow("SIGHUP") << SIGHUP;
+}
+
+void tst_networkmanagercommands::AgentKeepsTheOrderUntilItIsEnded()
+{
+    QFETCH(int, signal);
+    const QString home = AddProfile("Home", "HomeNet");
+    const QString coffee = AddProfile("Coffee", "CoffeeNet");
+    QVERIFY(m_fake->Appear());
+    SetList("Home", "Coffee");
+    QProcess agent;
+    StartAgent(&agent);
+    QTRY_VERIFY_WITH_TIMEOUT(m_fake->PriorityOf(coffee) > 0, 30000);
+    QVERIFY(m_fake->PriorityOf(home) > m_fake->PriorityOf(coffee));
+    SetList("Coffee", "Home");
+    QTRY_VERIFY_WITH_TIMEOUT(m_fake->PriorityOf(coffee) > m_fake->PriorityOf(home), 30000);
+    QCOMPARE(kill(static_cast<pid_t>(agent.processId()), signal), 0);
+    const Outcome outcome = OutcomeOf(&agent);
+    QCOMPARE(outcome.err + outcome.out, QString());
+    QCOMPARE(outcome.status, 0);
+    QVERIFY(m_fake->PriorityOf(coffee) > m_fake->PriorityOf(home));
+}
+
+void tst_networkmanagercommands::AgentWaitsForNetworkManager()
+{
+    const QString home = AddProfile("Home", "HomeNet");
+    QProcess agent;
+    StartAgent(&agent);
+    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(m_directory->FilePath("priority-dashboard/agent.use")), 30000);
+    QVERIFY(m_fake->Appear());
+    QTRY_VERIFY_WITH_TIMEOUT(m_fake->PriorityOf(home) > 0, 30000);
+    agent.terminate();
+    QCOMPARE(OutcomeOf(&agent).status, 0);
+}
+
+void tst_networkmanagercommands::SecondAgentIsRefused()
+{
+    const QString home = AddProfile("Home", "HomeNet");
+    QVERIFY(m_fake->Appear());
+    QProcess agent;
+    StartAgent(&agent);
+    QTRY_VERIFY_WITH_TIMEOUT(m_fake->PriorityOf(home) > 0, 30000);
+    const Outcome second = RunDashboard(QStringList("--agent"), Environment());
+    QCOMPARE(second.status, 10);
+    QCOMPARE(second.err.count('\n'), 1);
+    QCOMPARE(agent.state(), QProcess::Running);
+    agent.terminate();
+    QCOMPARE(OutcomeOf(&agent).status, 0);
+}
+
+void tst_networkmanagercommands::AgentThatWasKilledIsFollowedByAnother()
+{
+    const QString home = AddProfile("Home", "HomeNet");
+    const QString coffee = AddProfile("Coffee", "CoffeeNet");
+    QVERIFY(m_fake->Appear());
+    SetList("Home", "Coffee");
+    QProcess killed;
+    StartAgent(&killed);
+    QTRY_VERIFY_WITH_TIMEOUT(m_fake->PriorityOf(coffee) > 0, 30000);
+    killed.kill();
+    QVERIFY(killed.waitForFinished());
+    SetList("Coffee", "Home");
+    QProcess agent;
+    StartAgent(&agent);
+    QTRY_VERIFY_WITH_TIMEOUT(m_fake->PriorityOf(coffee) > m_fake->PriorityOf(home), 30000);
+    agent.terminate();
+    QCOMPARE(OutcomeOf(&agent).status, 0);
+}
+
 void tst_networkmanagercommands::OrderWithoutNetworkManagerIsTold_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::newRow("apply") << QStringList("--apply");
     QTest::newRow("release") << QStringList("--release");
     QTest::newRow("practice networks") << QStringList({"--wlan=stored", "--apply"});
+    QTest::newRow("agent of practice networks") << QStringList({"--wlan=stored", "--agent"});
 }
 
 void tst_networkmanagercommands::OrderWithoutNetworkManagerIsTold()

@@ -78,6 +78,7 @@ private slots:
     void DamagedListGivesAllBackWhenItIsNotToRule();
     void OrderTellsWhatWasDone();
     void OrderTellsWhatCannotBeDone();
+    void OrderEndsWhenNothingIsDueAnyMore();
     void ListThatGoesBackToWhatItWasIsFollowed();
     void NewProfileGetsItsPlace();
     void WorkGoesOnAfterARestartOfTheProgram();
@@ -603,6 +604,24 @@ void tst_networkmanagerpriorities::OrderTellsWhatCannotBeDone()
     QCOMPARE(outcome.kept.first().obstacle, int(ObstaclePassword));
     order->GetOutcome(number + 1, &outcome);
     QCOMPARE(outcome.stage, int(OrderOutcome::StageOrderNotKnown));
+}
+
+void tst_networkmanagerpriorities::OrderEndsWhenNothingIsDueAnyMore()
+{
+    AddProfile("A", 0);
+    Begin(QString());
+    Fake().AnswerWithError("Update2", "org.freedesktop.NetworkManager.Settings.VersionIdMismatch");
+    SetList("A");
+    QSignalSpy spy(LoadedWLAN::OrderService(), SIGNAL(OnOrderChanged()));
+    const int number = LoadedWLAN::Order()->Apply();
+    QTRY_VERIFY(Fake().CallCount("Update2") > 1);
+    QCOMPARE(spy.count(), 0);
+    Fake().Behave();
+    QTRY_COMPARE(spy.count(), 1);
+    OrderOutcome outcome;
+    LoadedWLAN::Order()->GetOutcome(number, &outcome);
+    QCOMPARE(outcome.changes.size(), 1);
+    QCOMPARE(outcome.changes.first().after, alone);
 }
 
 void tst_networkmanagerpriorities::ListThatGoesBackToWhatItWasIsFollowed()

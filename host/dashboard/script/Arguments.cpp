@@ -56,6 +56,7 @@ const CommandOption commandOptions[] = {
     {"--disconnect", Command::Disconnect},
     {"--apply", Command::Apply},
     {"--release", Command::Release},
+    {"--agent", Command::Agent},
 };
 
 /** Words for the types of entries. */
@@ -236,6 +237,9 @@ Arguments Arguments::Parse(const QStringList &arguments)
     for (const Command &command : std::as_const(parsed.commands)) {
         canWait = canWait || command.Waits();
         canAnswer = canAnswer || command.CanAnswerInJson();
+        if (command.kind == Command::Agent && parsed.commands.size() > 1) {
+            return Refused(QLatin1String("--agent goes without other commands; see --help"));
+        }
     }
     if (!canWait || !canAnswer) {
         return Refused(QLatin1String(canWait ? "--json goes with --list, --check or --status; see --help"
@@ -301,6 +305,8 @@ QString Arguments::HelpText()
         "                       new one, and each that can't be: kept, name and reason\n"
         "  --release            have the list rule no more, and give all networks back what they\n"
         "                       had before; prints the same\n"
+        "  --agent              keep the list in effect, as an open window does, until ended by a\n"
+        "                       signal; one for each user\n"
         "  --wait SECONDS       let --connect and --disconnect take so long; 60 is the default\n"
         "  --json               let --list, --check and --status answer in JSON\n"
         "\n"
@@ -321,7 +327,7 @@ QString Arguments::HelpText()
         "   7  the list's file can't be opened, or there is no directory for it\n"
         "   8  the list's file, or the output, can't be written\n"
         "   9  --check found networks that are listed more than once\n"
-        "  10  another command was busy with the list for too long\n"
+        "  10  another command was busy with the list for too long, or an agent is running already\n"
         "  11  the connection manager can't be reached\n"
         "  12  there is no such network, it needs a key first, or nothing is connected\n"
         "  13  it was not connected, or not disconnected, or not in time\n"

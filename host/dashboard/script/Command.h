@@ -5,7 +5,7 @@
 
 /** One thing that the command line asks for in the place of a window. */
 struct Command {
-    enum Kind { List, Check, Add, AddTop, Status, Connect, Disconnect, Apply, Release };
+    enum Kind { List, Check, Add, AddTop, Status, Connect, Disconnect, Apply, Release, Agent };
 
     Kind kind = List;
     PriorityList entry; /**< What Add and AddTop add, and what Connect connects. */

@@ -1,5 +1,6 @@
 #include "Commands.h"
 
+#include "Agent.h"
 #include "ConnectionCommands.h"
 #include "ListCommands.h"
 
@@ -71,6 +72,9 @@ CommandStatus Commands::Run(const Arguments &arguments, const QString &libraryPa
         return CommandAnswer::Fail(CommandFileNotOpened,
                                    QLatin1String("there is no directory for your data and none can be made"));
     }
+    if (!arguments.commands.isEmpty() && arguments.commands.constFirst().kind == Command::Agent) {
+        return Agent::Run(arguments, libraryPath);
+    }
     PluginHost priority(libraryPath, QList<KnownPlugin>() << PluginHost::PriorityPlugin());
     priority.Load();
     if (priority.Plugins().at(0).state != PluginReady) {
@@ -101,8 +105,7 @@ CommandStatus Commands::Run(const Arguments &arguments, const QString &libraryPa
         }
         if (!ofList.isEmpty()) {
             status = lists.Run(ofList);
-            if (IsAnyChange(ofList) && arguments.ChosenWlan() == WlanNetworkManager &&
-                ListRules::IsRuling()) {
+            if (IsAnyChange(ofList) && ListRules::IsRuling()) {
                 askNetworks(&both).FollowList();
             }
             continue;

@@ -120,6 +120,7 @@ void ArgumentsTest::RefusalNamesWhatIsWrong_data()
     QTest::addColumn<QStringList>("given");
     QTest::addColumn<QString>("named");
     QTest::newRow("unknown") << (QStringList() << "--fast") << "--fast";
+    QTest::newRow("agent and more") << QStringList({"--agent", "--list"}) << "--agent";
     QTest::newRow("unknown with value") << (QStringList() << "--fast=1") << "--fast";
     QTest::newRow("unknown short") << (QStringList() << "-x") << "-x";
     QTest::newRow("shortened") << (QStringList() << "--lang"

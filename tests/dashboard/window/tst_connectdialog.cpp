@@ -611,6 +611,7 @@ void ConnectDialogTest::NetworksAreFoundByAPartOfTheirName_data()
     QTest::newRow("other case") << "OFFICE"
                                 << "Office";
     QTest::newRow("without the accent") << "cafe" << QString::fromUtf8("Café Süd, Cafeteria");
+    QTest::newRow("without an accent within") << "sud" << QString::fromUtf8("Café Süd");
     QTest::newRow("with the accent") << QString::fromUtf8("süd") << QString::fromUtf8("Café Süd");
 }
 

@@ -1,0 +1,74 @@
+#include "Agent.h"
+
+#include <PluginHost.h>
+#include <PluginObjects.h>
+#include <UserData.h>
+
+#include <QCoreApplication>
+#include <QLockFile>
+#include <QSocketNotifier>
+
+#include <csignal>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace
+{
+
+/** Reading and writing end; hardly anything else may be done while a signal is handled. */
+int signalPipe[2] = {-1, -1};
+
+extern "C" void PassOn(int)
+{
+    const char sign = 0;
+    // A pipe that is full has told already.
+    static_cast<void>(write(signalPipe[1], &sign, 1) == 1);
+}
+
+bool CatchSignals()
+{
+    if (pipe2(signalPipe, O_CLOEXEC | O_NONBLOCK) != 0) {
+        return false;
+    }
+    struct sigaction action = {};
+    action.sa_handler = PassOn;
+    action.sa_flags = SA_RESTART;
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
+        sigaction(signal, &action, nullptr);
+    }
+    return true;
+}
+
+} // namespace
+
+CommandStatus Agent::Run(const Arguments &arguments, const QString &libraryPath)
+{
+    QLockFile onlyOne(UserData::FilePath(QLatin1String("agent.use")));
+    // However long it runs; one that has died is found out by its process.
+    onlyOne.setStaleLockTime(0);
+    if (!onlyOne.tryLock(0) && onlyOne.error() == QLockFile::LockFailedError) {
+        return CommandAnswer::Fail(CommandListInUse, QLatin1String("an agent of yours is running already"));
+    }
+    PluginHost plugins(libraryPath, PluginHost::KnownPlugins(arguments.ChosenWlan()));
+    plugins.Load();
+    const QList<PluginHost::Plugin> loaded = plugins.Plugins();
+    for (const PluginHost::Plugin &plugin : loaded) {
+        if (plugin.state != PluginReady) {
+            return CommandAnswer::Fail(plugin.known.hasSettingsPage ? CommandNoPlugin : CommandNoSource,
+                                       PluginHost::ProblemText(plugin));
+        }
+    }
+    if (!PluginObjects::Ordering()) {
+        return CommandAnswer::Fail(CommandNoSource,
+                                   QLatin1String("these networks are not ruled by the list"));
+    }
+    if (!CatchSignals()) {
+        return CommandAnswer::Fail(CommandNotWritten, QLatin1String("no pipe can be made"));
+    }
+    QSocketNotifier notifier(signalPipe[0], QSocketNotifier::Read);
+    QObject::connect(&notifier, &QSocketNotifier::activated, QCoreApplication::instance(),
+                     &QCoreApplication::quit);
+    QCoreApplication::exec();
+    return CommandDone;
+}
