@@ -304,7 +304,8 @@ ConnectionRecords ConnectionRecords::Of(const ConnectionPicture &picture)
     CNetworkList networks(reach.Sightings());
     QList<const NetworkProfile *> byUse;
     QHash<QString, QList<Sighting>> sightings;
-    for (const NetworkProfile *rather : InOrderOfUse(picture.profiles)) {
+    const QList<const NetworkProfile *> ordered = InOrderOfUse(picture.profiles);
+    for (const NetworkProfile *rather : ordered) {
         const NetworkProfile &profile = *rather;
         if (profile.kind == NetworkProfile::OtherKind || profile.isHotspot) {
             continue;

@@ -215,7 +215,8 @@ void CPriorityKeeper::Write(const QList<NetworkProfile> &profiles, const QList<P
 {
     const PlannedPriorities planned = PriorityPlan::Make(list, profiles, &m_records.priorities);
     Tell(planned);
-    for (const NetworkProfile &profile : planned.contradicting + planned.owing) {
+    const QList<NetworkProfile> kept = planned.contradicting + planned.owing;
+    for (const NetworkProfile &profile : kept) {
         Keep(profile, ObstacleOf(profile));
     }
     // Saved first: a priority that was written and not recorded could never be told from somebody else's.

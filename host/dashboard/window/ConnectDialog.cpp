@@ -57,7 +57,8 @@ QString SizeKey()
 QString Plain(const QString &text)
 {
     QString plain;
-    for (const QChar letter : text.normalized(QString::NormalizationForm_KD)) {
+    const QString apart = text.normalized(QString::NormalizationForm_KD);
+    for (const QChar letter : apart) {
         if (!letter.isMark()) {
             plain.append(letter);
         }
