@@ -153,7 +153,7 @@ void tst_networkmanagercommands::ApplyBringsTheOrderAndTellsIt()
 void tst_networkmanagercommands::ApplyTellsWhatItCannotChange()
 {
     const QString coffee = AddProfile("Coffee", "CoffeeNet");
-    const QString home = AddProfile("Home", "HomeNet");
+    AddProfile("Home", "HomeNet");
     m_fake->SetSetting(coffee, "connection", "autoconnect-priority", 999);
     m_fake->SetSetting(coffee, "connection", "read-only", true);
     QVERIFY(m_fake->Appear());
@@ -161,7 +161,6 @@ void tst_networkmanagercommands::ApplyTellsWhatItCannotChange()
     QCOMPARE(outcome.status, 14);
     QVERIFY2(outcome.out.contains("kept\tCoffee\tyou may not change it\n"), qPrintable(outcome.out));
     QCOMPARE(m_fake->PriorityOf(coffee), 999);
-    Q_UNUSED(home);
 }
 
 void tst_networkmanagercommands::ApplyWithADamagedListChangesNothing()
@@ -298,7 +297,8 @@ void tst_networkmanagercommands::OrderWithoutNetworkManagerIsTold_data()
     QTest::addColumn<QStringList>("arguments");
     QTest::newRow("apply") << QStringList("--apply");
     QTest::newRow("release") << QStringList("--release");
-    QTest::newRow("practice networks") << QStringList({"--wlan=stored", "--apply"});
+    QTest::newRow("apply, practice networks") << QStringList({"--wlan=stored", "--apply"});
+    QTest::newRow("release, practice networks") << QStringList({"--wlan=stored", "--release"});
     QTest::newRow("agent of practice networks") << QStringList({"--wlan=stored", "--agent"});
 }
 
@@ -309,6 +309,8 @@ void tst_networkmanagercommands::OrderWithoutNetworkManagerIsTold()
     QCOMPARE(outcome.out, QString());
     QCOMPARE(outcome.err.count('\n'), 1);
     QCOMPARE(outcome.status, 11);
+    // Whether the list rules is as the user has chosen it.
+    QVERIFY(!QFile::exists(m_directory->FilePath("priority-dashboard/rules.ini")));
 }
 
 void tst_networkmanagercommands::NetworkManagerThatIsNotThereIsTold()

@@ -278,14 +278,15 @@ void ConnectionCommands::FollowList() const
 
 CommandStatus ConnectionCommands::Order(bool isRuling) const
 {
-    if (!ListRules::SetRuling(isRuling)) {
-        return CommandAnswer::Fail(CommandNotWritten,
-                                   QString::fromLatin1("%1 can't be written").arg(ListRules::FilePath()));
-    }
+    // Looked for first: the choice is that of the real networks, and practice networks leave it alone.
     IOrderPlugin *plugin = PluginObjects::Ordering();
     if (!plugin) {
         return CommandAnswer::Fail(CommandNoSource,
                                    QLatin1String("these networks are not ruled by the list"));
+    }
+    if (!ListRules::SetRuling(isRuling)) {
+        return CommandAnswer::Fail(CommandNotWritten,
+                                   QString::fromLatin1("%1 can't be written").arg(ListRules::FilePath()));
     }
     const OrderOutcome outcome = OutcomeOf(plugin->Apply());
     QString lines;
