@@ -50,7 +50,7 @@ bool CNetworkManagerPlugin::Init()
         // It may come later.
         qWarning("WLANNetworkManager: %s", DescriptionOf(result).toLocal8Bit().constData());
     }
-    // It is not waited for: whoever opens a dialog soon is told, instead, that it does not answer.
+    // It is not waited for. Whether it answers is found out meanwhile.
     m_client->Check();
     m_picture = new CLivePicture(m_client, nullptr);
     m_service = new CNetworkManagerWLANService(m_client, m_picture, nullptr);
