@@ -41,7 +41,8 @@ public:
      * plug-in tells the user itself why, when this has returned: what is shown in the middle of it could
      * outlive the dialog that calls.
      *
-     * @return a code of the WLAN plug-in's own, 0 for success. The priority plug-in goes on whatever it is.
+     * @return a code of the WLAN plug-in's own; 0 for success, and as long as it is not known what becomes of
+     * the profile. The priority plug-in goes on whatever it is.
      */
     virtual int CreateWLANProfile(WLANProfile profile) = 0;
 

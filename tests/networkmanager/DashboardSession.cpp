@@ -2,7 +2,9 @@
 
 #include <DashboardLanguage.h>
 #include <HostControl.h>
+#include <IConnectionPlugin.h>
 #include <PluginHost.h>
+#include <PluginObjects.h>
 #include <TraceLog.h>
 #include <UserActions.h>
 
@@ -61,6 +63,18 @@ void DashboardSession::OpenWindow()
     m_window.reset(new MainWindow(m_plugins.data(), m_language.data(), m_log.data()));
     m_window->show();
     m_notices.clear();
+}
+
+int DashboardSession::Source()
+{
+    ConnectionState state;
+    PluginObjects::Connecting()->GetConnectionState(&state);
+    return state.source;
+}
+
+void DashboardSession::WaitForSource()
+{
+    QTRY_COMPARE(Source(), int(ConnectionState::SourceKnown));
 }
 
 void DashboardSession::CloseWindow()

@@ -28,6 +28,10 @@ public:
     void VerifyPlugins() const;
 
     void OpenWindow();
+    /** What is known of NetworkManager, a ConnectionState::Source. */
+    static int Source();
+    /** Returns when it is known what NetworkManager tells now. */
+    void WaitForSource();
     void CloseWindow();
     template <typename Widget> Widget *Find(const char *name) { return m_window->findChild<Widget *>(name); }
 

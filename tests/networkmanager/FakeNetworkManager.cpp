@@ -494,6 +494,10 @@ void FakeNetworkManager::Behave()
 {
     const QMutexLocker locker(&m_mutex);
     m_misbehaviour.clear();
+    for (const QDBusMessage &call : std::as_const(m_unanswered)) {
+        m_connection.send(Answer(call));
+    }
+    m_unanswered.clear();
 }
 
 void FakeNetworkManager::Hold(const QString &method)
@@ -545,6 +549,7 @@ bool FakeNetworkManager::handleMessage(const QDBusMessage &message, const QDBusC
         if (m_misbehaviour.contains(key)) {
             const Misbehaviour &misbehaviour = m_misbehaviour[key];
             if (misbehaviour.isSilent) {
+                m_unanswered.append(message);
                 return true;
             }
             return connection.send(misbehaviour.error.isEmpty()

@@ -76,6 +76,7 @@ public:
     void DoNotAnswer(const QString &method, const QString &path = QString());
     /** For each method. */
     void DoNotAnswerAnything();
+    /** From now on as it should, with the answers that it has not given first. */
     void Behave();
 
     /** Keeps the answers to that method, as they are now, until Release; to none from Hold(QString()) on. */
@@ -142,6 +143,7 @@ private:
     QString m_leaving;
     QString m_held;
     QList<QDBusMessage> m_heldAnswers;
+    QList<QDBusMessage> m_unanswered;
     int m_count;
 };
 

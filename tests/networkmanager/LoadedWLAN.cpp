@@ -1,6 +1,7 @@
 #include "LoadedWLAN.h"
 
 #include <QLibrary>
+#include <QSignalSpy>
 
 QString LoadedWLAN::FileName()
 {
@@ -140,6 +141,17 @@ WLANProfile LoadedWLAN::ProfileNamed(const QString &name)
     WLANProfile profile;
     Wlan()->GetProfileByName(name, &profile);
     return profile;
+}
+
+int LoadedWLAN::Store(const WLANProfile &profile)
+{
+    const int longEnough = 20000;
+    QSignalSpy ended(Service(), SIGNAL(ProfileEnded(int)));
+    Wlan()->CreateWLANProfile(profile);
+    if (ended.isEmpty()) {
+        ended.wait(longEnough);
+    }
+    return ended.isEmpty() ? -1 : ended.at(0).at(0).toInt();
 }
 
 WLANProfile LoadedWLAN::NewProfile(const QString &name, const QString &authentication,

@@ -47,6 +47,9 @@ QStringList InRange();
 
 WLANProfile ProfileNamed(const QString &name);
 
+/** What became of a profile that is to be stored; waits for it. */
+int Store(const WLANProfile &profile);
+
 /** A profile as the dialog makes it. */
 WLANProfile NewProfile(const QString &name, const QString &authentication, const QString &encryption,
                        const QString &key);

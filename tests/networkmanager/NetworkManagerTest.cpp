@@ -18,12 +18,14 @@ void NetworkManagerTest::init()
     m_networkManager.reset(new FakeNetworkManager);
     QVERIFY(m_networkManager->Appear());
     QVERIFY(LoadedWLAN::Root()->Init());
+    QTRY_COMPARE(LoadedWLAN::State().source, int(ConnectionState::SourceKnown));
 }
 
 void NetworkManagerTest::StartPluginAgain()
 {
     LoadedWLAN::Root()->OnDestroy();
     QVERIFY(LoadedWLAN::Root()->Init());
+    Fake().Settle();
 }
 
 void NetworkManagerTest::StartBusAgain()

@@ -14,7 +14,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QLabel>
 #include <QProcess>
 #include <QPushButton>
@@ -29,8 +28,8 @@ namespace
 
 QString whyNoNamespace;
 
-/** How long an operation may hold up its caller, and what a slow machine takes longer. */
-const int mostMilliseconds = 4000;
+/** Silence is found out within ten seconds; a slow machine takes longer. */
+const int mostMilliseconds = 30000;
 
 /**
  * What nmcli tells of one profile, its keys included; asked again until it is what is expected. Now and then,
@@ -106,8 +105,8 @@ private slots:
     void NewDialogOutlivesAKilledNetworkManager();
     void NewDialogStoresInTheNetworkManagerThatCameBack();
     void NewDialogWithoutNetworkManagerTellsWhatIsMissing();
-    void NewDialogDoesNotWaitLongForASilentNetworkManager();
-    void FrozenNetworkManagerIsNotWaitedForLong();
+    void NewDialogDoesNotWaitForASilentNetworkManager();
+    void FrozenNetworkManagerIsNotKnownUntilItGoesOn();
     void FiveHundredProfilesAreAllOffered();
 
 private:
@@ -154,6 +153,7 @@ void tst_networkmanagerdaemon::init()
     // A test that failed may have left it dead or frozen.
     m_daemon->Thaw();
     QVERIFY2(m_daemon->IsRunning() || m_daemon->Start(), qPrintable(m_daemon->WhyNot()));
+    m_dashboard->WaitForSource();
     m_dashboard->OpenWindow();
 }
 
@@ -249,7 +249,7 @@ void tst_networkmanagerdaemon::ProfilesHaveTheirSecurity()
     QCOMPARE(Wlan()->CreateWLANProfile(NewProfile(name, authentication, encryption, key)), 0);
     QCOMPARE(Told(name, fields, told), told);
     WLANProfile profile;
-    QCOMPARE(Wlan()->GetProfileByName(name, &profile), 0);
+    QTRY_COMPARE(Wlan()->GetProfileByName(name, &profile), 0);
     QCOMPARE(profile.authentication, authentication);
     QCOMPARE(profile.encryption, encryption);
     QCOMPARE(profile.readOnly, QString("false"));
@@ -259,8 +259,10 @@ void tst_networkmanagerdaemon::ProfilesHaveTheirSecurity()
 
 void tst_networkmanagerdaemon::KeyOfTheWrongLengthIsRefused()
 {
-    QCOMPARE(Wlan()->CreateWLANProfile(NewProfile("A", "WPA2PSK", "CCMP", "short")),
-             int(NetworkManagerResultProfileRefused));
+    Wlan()->CreateWLANProfile(NewProfile("A", "WPA2PSK", "CCMP", "short"));
+    QTRY_COMPARE(m_dashboard->Notices(),
+                 QStringList(QString::fromUtf8("“A” was not saved: NetworkManager does not "
+                                               "accept it, most likely because of the key.")));
     QCOMPARE(NetworkManagerDaemon::Priorities(), QStringList());
 }
 
@@ -398,14 +400,14 @@ void tst_networkmanagerdaemon::KilledNetworkManagerIsToldAndTheNextOneUsed()
     QTRY_COMPARE(Find<QTableWidget>("priorityTable")->rowCount(), 1);
     QVERIFY2(m_daemon->Start(), qPrintable(m_daemon->WhyNot()));
     QTRY_COMPARE(NetworkManagerDaemon::Priorities(), QStringList("A:500"));
-    QCOMPARE(Wlan()->GetRememberedList(&list), 0);
-    QCOMPARE(list.size(), 1);
+    QCOMPARE(RememberedCount(), 1);
 }
 
 void tst_networkmanagerdaemon::AddDialogOutlivesAKilledNetworkManager()
 {
     QVERIFY(NetworkManagerDaemon::Add("A"));
     QVERIFY(NetworkManagerDaemon::Add("B"));
+    QTRY_COMPARE(RememberedCount(), 2);
     m_dashboard->OpenSettings();
     m_dashboard->OpenDialog("addButton", "rememberTable");
     QCOMPARE(Offered(), QStringList() << "A"
@@ -439,6 +441,7 @@ void tst_networkmanagerdaemon::ProfileWithAnAccountOutlivesTheNewDialog()
                        .split('|')));
     const QByteArray before = m_daemon->Keyfile("eduroam");
     QVERIFY(before.contains("password=sesame"));
+    QTRY_COMPARE(RememberedCount(), 1);
     m_dashboard->OpenSettings();
     m_dashboard->OpenDialog("newButton", "networkNameBox");
     FillNewDialog("eduroam");
@@ -457,6 +460,7 @@ void tst_networkmanagerdaemon::ProfileWithAnAccountOutlivesTheNewDialog()
 void tst_networkmanagerdaemon::RefusalAndRepeatedNameAreBothTold()
 {
     QVERIFY(NetworkManagerDaemon::Add("A", QString("wifi.mode|adhoc").split('|')));
+    QTRY_COMPARE(RememberedCount(), 1);
     SetList(QStringList("A"));
     m_dashboard->OpenSettings();
     m_dashboard->OpenDialog("newButton", "networkNameBox");
@@ -473,6 +477,7 @@ void tst_networkmanagerdaemon::RefusalAndRepeatedNameAreBothTold()
 void tst_networkmanagerdaemon::SettingsMayCloseWhileARefusalIsTold()
 {
     QVERIFY(NetworkManagerDaemon::Add("A", QString("wifi.mode|adhoc").split('|')));
+    QTRY_COMPARE(RememberedCount(), 1);
     m_dashboard->OpenSettings();
     m_dashboard->OpenDialog("newButton", "networkNameBox");
     FillNewDialog("A");
@@ -486,6 +491,7 @@ void tst_networkmanagerdaemon::HotspotIsNotOfferedByAdd()
 {
     QVERIFY(NetworkManagerDaemon::Add("A", QString("wifi.mode|ap").split('|')));
     QVERIFY(NetworkManagerDaemon::Add("B"));
+    QTRY_COMPARE(RememberedCount(), 1);
     m_dashboard->OpenSettings();
     m_dashboard->OpenDialog("addButton", "rememberTable");
     QCOMPARE(Offered(), QStringList("B"));
@@ -509,6 +515,7 @@ void tst_networkmanagerdaemon::NewDialogOutlivesAKilledNetworkManager()
         m_dashboard->Log().contains("WLANNetworkManager: CreateWLANProfile: NetworkManager is not running"));
 
     QVERIFY2(m_daemon->Start(), qPrintable(m_daemon->WhyNot()));
+    m_dashboard->WaitForSource();
     m_dashboard->OpenDialog("newButton", "networkNameBox");
     FillNewDialog("Harbour");
     QCOMPARE(m_dashboard->Click("newOkButton"), QString());
@@ -542,43 +549,38 @@ void tst_networkmanagerdaemon::NewDialogWithoutNetworkManagerTellsWhatIsMissing(
     QCOMPARE(Find<QTableWidget>("priorityTable")->rowCount(), 0);
 
     QVERIFY2(m_daemon->Start(), qPrintable(m_daemon->WhyNot()));
+    m_dashboard->WaitForSource();
     m_dashboard->OpenDialog("newButton", "networkNameBox");
     QCOMPARE(Find<QComboBox>("authenticationBox")->count(), 6);
 }
 
-void tst_networkmanagerdaemon::NewDialogDoesNotWaitLongForASilentNetworkManager()
+void tst_networkmanagerdaemon::NewDialogDoesNotWaitForASilentNetworkManager()
 {
     m_dashboard->OpenSettings();
     m_dashboard->OpenDialog("newButton", "networkNameBox");
     FillNewDialog("Summer house");
     m_daemon->Freeze();
-    QElapsedTimer timer;
-    timer.start();
     QCOMPARE(m_dashboard->Click("newOkButton"), QString());
-    QVERIFY2(timer.elapsed() < mostMilliseconds, qPrintable(QString::number(timer.elapsed())));
     QVERIFY(!IsVisible("networkNameBox"));
-    QTRY_COMPARE(m_dashboard->Notices(),
-                 QStringList(QString::fromUtf8("It is not known whether “Summer house” was saved: "
-                                               "NetworkManager does not answer.")));
-    timer.start();
-    m_dashboard->OpenDialog("newButton", "networkNameBox");
-    QVERIFY2(timer.elapsed() < mostMilliseconds, qPrintable(QString::number(timer.elapsed())));
-    QCOMPARE(m_dashboard->Click("newCancelButton"), QString());
+    QCOMPARE(m_dashboard->Notices(), QStringList());
+    QTRY_COMPARE_WITH_TIMEOUT(m_dashboard->Notices(),
+                              QStringList(QString::fromUtf8("It is not known whether “Summer house” was "
+                                                            "saved: NetworkManager does not answer.")),
+                              mostMilliseconds);
     QVERIFY(
         m_dashboard->Log().contains("WLANNetworkManager: CreateWLANProfile: NetworkManager does not answer"));
     m_daemon->Thaw();
-    QTRY_COMPARE(RememberedCount(), 0);
+    QTRY_COMPARE(RememberedCount(), 1);
 }
 
-void tst_networkmanagerdaemon::FrozenNetworkManagerIsNotWaitedForLong()
+void tst_networkmanagerdaemon::FrozenNetworkManagerIsNotKnownUntilItGoesOn()
 {
     QVERIFY(NetworkManagerDaemon::Add("A"));
+    QTRY_COMPARE(RememberedCount(), 1);
     m_daemon->Freeze();
-    QElapsedTimer timer;
-    timer.start();
-    QList<RememberedList> list;
-    QCOMPARE(Wlan()->GetRememberedList(&list), int(NetworkManagerResultNotAnswering));
-    QVERIFY2(timer.elapsed() < mostMilliseconds, qPrintable(QString::number(timer.elapsed())));
+    QTRY_COMPARE_WITH_TIMEOUT(DashboardSession::Source(), int(ConnectionState::SourceNotKnown),
+                              mostMilliseconds);
+    QCOMPARE(RememberedCount(), -1);
     m_daemon->Thaw();
     QTRY_COMPARE(RememberedCount(), 1);
 }
@@ -596,13 +598,7 @@ void tst_networkmanagerdaemon::FiveHundredProfilesAreAllOffered()
     }
     NetworkManagerDaemon::Nmcli(QStringList() << "connection"
                                               << "reload");
-    QList<RememberedList> list;
-    QElapsedTimer timer;
-    timer.start();
-    QCOMPARE(Wlan()->GetRememberedList(&list), 0);
-    QCOMPARE(list.size(), count);
-    qInfo("%d profiles are listed in %d ms", count, static_cast<int>(timer.elapsed()));
-
+    QTRY_COMPARE(RememberedCount(), count);
     m_dashboard->OpenSettings();
     m_dashboard->OpenDialog("addButton", "rememberTable");
     QCOMPARE(Offered(), expected);

@@ -64,6 +64,7 @@ QStringList tst_networkmanagerdialogs::Offered()
 void tst_networkmanagerdialogs::NewDialogOpensWithoutADevice()
 {
     m_dashboard->OpenWindow();
+    m_dashboard->WaitForSource();
     m_dashboard->OpenSettings();
     m_dashboard->OpenDialog("newButton", "networkNameBox");
     QCOMPARE(Offered(), QStringList());
@@ -86,6 +87,7 @@ void tst_networkmanagerdialogs::NewDialogOffersThreeHundredNetworksOnceTheStrong
         m_mock->AddAccessPoint(device, QString("network %1").arg(i), 1);
     }
     m_dashboard->OpenWindow();
+    m_dashboard->WaitForSource();
     m_dashboard->OpenSettings();
     m_dashboard->OpenDialog("newButton", "networkNameBox");
     const QStringList names = Offered();

@@ -258,7 +258,7 @@ void tst_networkmanagerkept::ProfileOfThatNameIsKept()
     QFETCH(int, result);
     QVERIFY(Add(name, network, settings));
     const QStringList before = Everything();
-    QCOMPARE(LoadedWLAN::Wlan()->CreateWLANProfile(NewProfile(name, wanted)), result);
+    QCOMPARE(LoadedWLAN::Store(NewProfile(name, wanted)), result);
     QCOMPARE(Everything(), before);
     QFETCH(QString, notice);
     QCOMPARE(Notices(), QStringList(notice));
@@ -269,7 +269,7 @@ void tst_networkmanagerkept::SeveralProfilesOfOneNameAreKept()
     QVERIFY(Add(name, network, QString()));
     QVERIFY(Add(name, "skylight", wpa2));
     const QStringList before = Everything();
-    QCOMPARE(LoadedWLAN::Wlan()->CreateWLANProfile(NewProfile(name, "WPA2PSK|CCMP|sesame street")),
+    QCOMPARE(LoadedWLAN::Store(NewProfile(name, "WPA2PSK|CCMP|sesame street")),
              int(NetworkManagerResultSeveralProfiles));
     QCOMPARE(Everything(), before);
     QCOMPARE(Notices(), QStringList("WLAN?IDS_WLAN_KEPT_SEVERAL"));
@@ -344,7 +344,7 @@ void tst_networkmanagerkept::OnlyNetworkNameMethodAndKeyChange()
     profile.ssid = "skylight";
     profile.keyIndex = QString::number(keyIndex);
 
-    QCOMPARE(LoadedWLAN::Wlan()->CreateWLANProfile(profile), 0);
+    QCOMPARE(LoadedWLAN::Store(profile), 0);
     const QStringList after = Lines(m_daemon->Keyfile(name));
     QCOMPARE(Difference(before, after), QString("ssid=attic|" + gone).split('|', Qt::SkipEmptyParts));
     QCOMPARE(Difference(after, before), QString("ssid=skylight|" + come).split('|', Qt::SkipEmptyParts));
@@ -376,7 +376,7 @@ void tst_networkmanagerkept::ProfileOfAnotherNameIsNeverChanged()
     QFETCH(int, result);
     QVERIFY(Add(name, network, settings));
     const QByteArray before = m_daemon->Keyfile(name);
-    QCOMPARE(LoadedWLAN::Wlan()->CreateWLANProfile(NewProfile(network, wanted)), result);
+    QCOMPARE(LoadedWLAN::Store(NewProfile(network, wanted)), result);
     QCOMPARE(m_daemon->Keyfile(name), before);
     QCOMPARE(m_daemon->Keyfiles().size(), result == 0 ? 3 : 2);
     QCOMPARE(Notices(), result == 0 ? QStringList() : QStringList("WLAN?IDS_WLAN_BETTER_PROFILE"));
@@ -400,7 +400,7 @@ void tst_networkmanagerkept::CaseCounts()
     const QByteArray before = m_daemon->Keyfile(name);
     WLANProfile profile = NewProfile(newName, "open|none");
     profile.ssid = newNetwork;
-    QCOMPARE(LoadedWLAN::Wlan()->CreateWLANProfile(profile), 0);
+    QCOMPARE(LoadedWLAN::Store(profile), 0);
     QCOMPARE(m_daemon->Keyfile(name), before);
     QVERIFY(m_daemon->Keyfile(newName).contains("ssid=" + newNetwork.toUtf8()));
 }
@@ -409,7 +409,7 @@ void tst_networkmanagerkept::NetworkOfAHotspotIsAnotherNetwork()
 {
     QVERIFY(Add(name, network, QString("wifi.mode|ap|%1").arg(wpa2)));
     const QByteArray before = m_daemon->Keyfile(name);
-    QCOMPARE(LoadedWLAN::Wlan()->CreateWLANProfile(NewProfile(network, "open|none")), 0);
+    QCOMPARE(LoadedWLAN::Store(NewProfile(network, "open|none")), 0);
     QCOMPARE(m_daemon->Keyfile(name), before);
     QCOMPARE(m_daemon->Keyfiles().size(), 3);
 }
@@ -420,7 +420,7 @@ void tst_networkmanagerkept::ProfileOfAnotherKindIsNoObstacle()
                 {"connection", "add", "type", "ethernet", "con-name", name, "ifname", "*"})
                 .contains("successfully added"));
     const QStringList before = m_daemon->Keyfiles();
-    QCOMPARE(LoadedWLAN::Wlan()->CreateWLANProfile(NewProfile(name, "open|none")), 0);
+    QCOMPARE(LoadedWLAN::Store(NewProfile(name, "open|none")), 0);
     QCOMPARE(m_daemon->Keyfiles().size(), before.size() + 1);
     QCOMPARE(Notices(), QStringList());
 }
@@ -428,7 +428,7 @@ void tst_networkmanagerkept::ProfileOfAnotherKindIsNoObstacle()
 void tst_networkmanagerkept::KeyIsInNoNotice()
 {
     QVERIFY(Add(name, network, wpa2));
-    QCOMPARE(LoadedWLAN::Wlan()->CreateWLANProfile(NewProfile(name, "WPAPSK|CCMP|sesame street")),
+    QCOMPARE(LoadedWLAN::Store(NewProfile(name, "WPAPSK|CCMP|sesame street")),
              int(NetworkManagerResultWeakerMethod));
     QCOMPARE(Notices().size(), 1);
     const MessageCall message = StandInHost::messages.first();

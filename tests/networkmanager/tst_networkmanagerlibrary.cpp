@@ -39,7 +39,7 @@ private slots:
     // From here on in this order: the bus comes, then NetworkManager.
     void InitTellsThatThereIsNoBus();
     void BusComesUp();
-    void InitOnABusThatDoesNotAnswerEndsInTime();
+    void InitDoesNotWaitForABusThatDoesNotAnswer();
     void InitTellsThatThereIsNoNetworkManager();
     void NetworkManagerThatComesLaterIsKnown();
     void InitSucceedsWithNetworkManager();
@@ -181,9 +181,9 @@ void tst_networkmanagerlibrary::InitTellsThatThereIsNoBus()
 {
     TraceCapture trace;
     QVERIFY(LoadedWLAN::Root()->Init());
-    QCOMPARE(LoadedWLAN::Root()->GetLastError(), int(NetworkManagerResultNoBus));
-    QCOMPARE(trace.Lines(), QStringList("WLANNetworkManager: there is no system bus"));
-    QTRY_COMPARE(LoadedWLAN::State().source, int(ConnectionState::SourceGone));
+    QTRY_COMPARE(LoadedWLAN::Root()->GetLastError(), int(NetworkManagerResultNoBus));
+    QVERIFY(trace.Lines().contains("WLANNetworkManager: there is no system bus"));
+    QCOMPARE(LoadedWLAN::State().source, int(ConnectionState::SourceGone));
 }
 
 void tst_networkmanagerlibrary::BusComesUp()
@@ -191,18 +191,13 @@ void tst_networkmanagerlibrary::BusComesUp()
     QVERIFY2(m_bus->Start(), qPrintable(m_bus->WhyNot()));
 }
 
-void tst_networkmanagerlibrary::InitOnABusThatDoesNotAnswerEndsInTime()
+void tst_networkmanagerlibrary::InitDoesNotWaitForABusThatDoesNotAnswer()
 {
-    const int patience = 2000;
-    const int allowance = 1500;
     m_bus->Freeze();
-    TraceCapture trace;
-    QElapsedTimer timer;
-    timer.start();
     QVERIFY(LoadedWLAN::Root()->Init());
-    QVERIFY2(timer.elapsed() < patience + allowance, qPrintable(QString::number(timer.elapsed())));
-    QCOMPARE(LoadedWLAN::Root()->GetLastError(), int(NetworkManagerResultNotAnswering));
-    QCOMPARE(trace.Lines(), QStringList("WLANNetworkManager: NetworkManager does not answer"));
+    // Whoever had waited would know that there is no answer.
+    QCOMPARE(LoadedWLAN::Root()->GetLastError(), 0);
+    QCOMPARE(LoadedWLAN::State().source, int(ConnectionState::SourceNotKnown));
     m_bus->Thaw();
 }
 
@@ -210,9 +205,9 @@ void tst_networkmanagerlibrary::InitTellsThatThereIsNoNetworkManager()
 {
     TraceCapture trace;
     QVERIFY(LoadedWLAN::Root()->Init());
-    QCOMPARE(LoadedWLAN::Root()->GetLastError(), int(NetworkManagerResultNotRunning));
-    QCOMPARE(trace.Lines(), QStringList("WLANNetworkManager: NetworkManager is not running"));
-    QTRY_COMPARE(LoadedWLAN::State().source, int(ConnectionState::SourceGone));
+    QTRY_COMPARE(LoadedWLAN::Root()->GetLastError(), int(NetworkManagerResultNotRunning));
+    QVERIFY(trace.Lines().contains("WLANNetworkManager: NetworkManager is not running"));
+    QCOMPARE(LoadedWLAN::State().source, int(ConnectionState::SourceGone));
 }
 
 void tst_networkmanagerlibrary::NetworkManagerThatComesLaterIsKnown()
@@ -315,6 +310,7 @@ void tst_networkmanagerlibrary::OperationsStandAtTheirPositions()
     m_networkManager->AddDevice();
     m_networkManager->AddAccessPoint("Near", 71);
     QVERIFY(LoadedWLAN::Root()->Init());
+    QTRY_COMPARE(LoadedWLAN::State().source, int(ConnectionState::SourceKnown));
 
     Profile created;
     created.texts[0] = "Created";
@@ -324,6 +320,7 @@ void tst_networkmanagerlibrary::OperationsStandAtTheirPositions()
     created.texts[13] = "0";
     QCOMPARE(At<int (*)(void *, Profile)>(7)(Interface(), created), 0);
 
+    QTRY_COMPARE(LoadedWLAN::Profiles().size(), 1);
     QList<RememberedList> remembered;
     QCOMPARE(At<int (*)(void *, QList<RememberedList> *)>(8)(Interface(), &remembered), 0);
     QCOMPARE(remembered.size(), 1);

@@ -101,6 +101,7 @@ void tst_networkmanagerpermissions::init()
 {
     QCOMPARE(seteuid(nobody), 0);
     QVERIFY2(LoadedWLAN::Root()->Init(), "NetworkManager can't be had as another user");
+    QTRY_COMPARE(LoadedWLAN::State().source, int(ConnectionState::SourceKnown));
 }
 
 void tst_networkmanagerpermissions::cleanup()
@@ -117,9 +118,8 @@ void tst_networkmanagerpermissions::ProfileIsReadOnly()
 
 void tst_networkmanagerpermissions::ProfileIsNotChanged()
 {
-    QCOMPARE(
-        LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("A", "WPA2PSK", "CCMP", "open sesame")),
-        int(NetworkManagerResultReadOnlyProfile));
+    QCOMPARE(LoadedWLAN::Store(LoadedWLAN::NewProfile("A", "WPA2PSK", "CCMP", "open sesame")),
+             int(NetworkManagerResultReadOnlyProfile));
     QCOMPARE(LoadedWLAN::ProfileNamed("A").authentication, QString("open"));
 }
 
@@ -128,9 +128,8 @@ void tst_networkmanagerpermissions::NewProfileIsDenied()
     QWidget window;
     window.show();
     TraceCapture trace;
-    QCOMPARE(
-        LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("B", "WPA2PSK", "CCMP", "open sesame")),
-        int(NetworkManagerResultPermissionDenied));
+    QCOMPARE(LoadedWLAN::Store(LoadedWLAN::NewProfile("B", "WPA2PSK", "CCMP", "open sesame")),
+             int(NetworkManagerResultPermissionDenied));
     QVERIFY(trace.Lines().contains("WLANNetworkManager: CreateWLANProfile: this user may not do that"));
     QVERIFY(trace.Lines().filter("open sesame").isEmpty());
     QCoreApplication::processEvents();

@@ -253,8 +253,7 @@ void tst_networkmanagerpriorities::ChangeInTheMiddleIsNotOverwritten()
     SetList("B A");
     QTRY_COMPARE(Fake().CallCount("GetSettings"), 1);
     Fake().Hold(QString());
-    QCOMPARE(
-        LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("A", "WPA2PSK", "CCMP", "12345678")), 0);
+    QCOMPARE(LoadedWLAN::Store(LoadedWLAN::NewProfile("A", "WPA2PSK", "CCMP", "12345678")), 0);
     Fake().Release();
     QTRY_VERIFY(IsBefore(b, a));
     QCOMPARE(Fake().SettingsOf(a)["802-11-wireless-security"].value("key-mgmt").toString(),

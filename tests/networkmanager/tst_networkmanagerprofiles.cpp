@@ -82,6 +82,8 @@ private slots:
     void WhatCannotBeStoredIsRefusedBeforeItIsSent_data();
     void WhatCannotBeStoredIsRefusedBeforeItIsSent();
     void KeyIsInNoLine();
+    void ProfileIsStoredWhileTheProgramEnds();
+    void ProgramEndsWithoutAnAnswer();
 };
 
 void tst_networkmanagerprofiles::KindsAreTold_data()
@@ -410,9 +412,7 @@ void tst_networkmanagerprofiles::NewProfileHasTheSecurityOfTheDialog()
     QFETCH(QString, encryption);
     QFETCH(QString, key);
     QFETCH(QStringList, stored);
-    QCOMPARE(
-        LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("A", authentication, encryption, key)),
-        0);
+    QCOMPARE(LoadedWLAN::Store(LoadedWLAN::NewProfile("A", authentication, encryption, key)), 0);
     QCOMPARE(Fake().ProfilePaths().size(), 1);
     const NMVariantMapMap settings = Fake().SettingsOf(Fake().ProfilePaths().first());
     QStringList texts = Texts(settings.value(security));
@@ -440,11 +440,11 @@ void tst_networkmanagerprofiles::WepKeyHasItsIndex()
     QFETCH(QString, index);
     WLANProfile profile = LoadedWLAN::NewProfile("A", "open", "WEP", "0123456789");
     profile.keyIndex = index;
-    QCOMPARE(LoadedWLAN::Wlan()->CreateWLANProfile(profile), 0);
+    QCOMPARE(LoadedWLAN::Store(profile), 0);
     const QVariantMap stored = Fake().SettingsOf(Fake().ProfilePaths().value(0)).value(security);
     QCOMPARE(stored.value("wep-key" + index).toString(), QString("0123456789"));
     QCOMPARE(stored.value("wep-tx-keyidx").toUInt(), index.toUInt());
-    QCOMPARE(LoadedWLAN::ProfileNamed("A").keyIndex, index);
+    QTRY_COMPARE(LoadedWLAN::ProfileNamed("A").keyIndex, index);
 }
 
 void tst_networkmanagerprofiles::MethodsWithAnAccountAreRefused_data()
@@ -463,9 +463,8 @@ void tst_networkmanagerprofiles::MethodsWithAnAccountAreRefused()
 {
     QFETCH(QString, authentication);
     QFETCH(QString, encryption);
-    QCOMPARE(
-        LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("A", authentication, encryption, "")),
-        int(NetworkManagerResultNoAccount));
+    QCOMPARE(LoadedWLAN::Store(LoadedWLAN::NewProfile("A", authentication, encryption, "")),
+             int(NetworkManagerResultNoAccount));
     QCOMPARE(Fake().ProfilePaths(), QStringList());
 }
 
@@ -473,12 +472,11 @@ void tst_networkmanagerprofiles::NetworkNameIsSentAsItsBytes()
 {
     Fake().AddAccessPoint("Caf\xe9", 50);
     QCOMPARE(LoadedWLAN::InRange(), QStringList("Caf\\xE9"));
-    QCOMPARE(LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("Caf\\xE9", "open", "none", "")),
-             0);
+    QCOMPARE(LoadedWLAN::Store(LoadedWLAN::NewProfile("Caf\\xE9", "open", "none", "")), 0);
     const NMVariantMapMap settings = Fake().SettingsOf(Fake().ProfilePaths().value(0));
     QCOMPARE(settings[wifi].value("ssid").toByteArray(), QByteArray("Caf\xe9"));
     QCOMPARE(settings["connection"].value("id").toString(), QString("Caf\\xE9"));
-    QCOMPARE(LoadedWLAN::ProfileNamed("Caf\\xE9").ssid, QString("Caf\\xE9"));
+    QTRY_COMPARE(LoadedWLAN::ProfileNamed("Caf\\xE9").ssid, QString("Caf\\xE9"));
 }
 
 void tst_networkmanagerprofiles::ChangedProfileKeepsWhatIsNotKnownHere()
@@ -493,8 +491,7 @@ void tst_networkmanagerprofiles::ChangedProfileKeepsWhatIsNotKnownHere()
                                                     << "c";
     const QString path = Fake().AddProfile(settings);
 
-    QCOMPARE(
-        LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("A", "WPA2PSK", "CCMP", "12345678")), 0);
+    QCOMPARE(LoadedWLAN::Store(LoadedWLAN::NewProfile("A", "WPA2PSK", "CCMP", "12345678")), 0);
     QCOMPARE(Fake().ProfilePaths(), QStringList(path));
     settings[wifi]["ssid"] = QByteArray("A");
     settings[security]["psk"] = "12345678";
@@ -507,9 +504,8 @@ void tst_networkmanagerprofiles::AccountThatNothingUsesIsKept()
     settings[security]["key-mgmt"] = "wpa-psk";
     settings["802-1x"]["identity"] = "me";
     const QString path = Fake().AddProfile(settings);
-    QCOMPARE(
-        LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("A", "WPA2PSK", "CCMP", "12345678")),
-        int(NetworkManagerResultUndescribedProfile));
+    QCOMPARE(LoadedWLAN::Store(LoadedWLAN::NewProfile("A", "WPA2PSK", "CCMP", "12345678")),
+             int(NetworkManagerResultUndescribedProfile));
     QCOMPARE(Fake().SettingsOf(path), settings);
 }
 
@@ -530,7 +526,7 @@ void tst_networkmanagerprofiles::ChangeIsBoundToTheVersionThatWasRead()
     if (version.isValid()) {
         Fake().SetProperty(path, profileInterface, "VersionId", version);
     }
-    QCOMPARE(LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("A", "open", "none", "")), 0);
+    QCOMPARE(LoadedWLAN::Store(LoadedWLAN::NewProfile("A", "open", "none", "")), 0);
     QCOMPARE(Fake().CallCount("Update2"), 1);
     QTEST(Fake().ConditionsOfTheLastChange(), "conditions");
 }
@@ -539,7 +535,7 @@ void tst_networkmanagerprofiles::ChangeBySomebodyElseInTheMiddleIsTold()
 {
     Fake().AddProfile("A");
     Fake().AnswerWithError("Update2", "org.freedesktop.NetworkManager.Settings.VersionIdMismatch");
-    QCOMPARE(LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("A", "open", "none", "")),
+    QCOMPARE(LoadedWLAN::Store(LoadedWLAN::NewProfile("A", "open", "none", "")),
              int(NetworkManagerResultChangedMeanwhile));
 }
 
@@ -562,8 +558,7 @@ void tst_networkmanagerprofiles::QuestionForWepKeysIsNoChangeBySomebodyElse()
     const QString path = Fake().AddProfile(settings);
     Fake().SetProperty(path, profileInterface, "VersionId", qulonglong(7));
     Fake().SetChangesByKeyQuestion(changes);
-    QCOMPARE(LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("A", "open", "WEP", "12345")),
-             result);
+    QCOMPARE(LoadedWLAN::Store(LoadedWLAN::NewProfile("A", "open", "WEP", "12345")), result);
     QCOMPARE(Fake().SettingsOf(path) == settings, result != 0);
     QCOMPARE(Fake().SettingsOf(path)[security]["wep-key1"], QVariant("abcde"));
 }
@@ -587,8 +582,7 @@ void tst_networkmanagerprofiles::WepProfileIsKeptWhenItsOtherKeysCannotBeHad()
     settings[security]["key-mgmt"] = "none";
     const QString path = Fake().AddProfile(settings);
     Fake().AnswerWithError("GetSecrets", error);
-    QCOMPARE(LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("A", "open", "WEP", "12345")),
-             result);
+    QCOMPARE(LoadedWLAN::Store(LoadedWLAN::NewProfile("A", "open", "WEP", "12345")), result);
     QCOMPARE(Fake().CallCount("Update2"), result == 0 ? 1 : 0);
     QCOMPARE(Fake().SettingsOf(path) == settings, result != 0);
 }
@@ -598,9 +592,8 @@ void tst_networkmanagerprofiles::ReadOnlyProfileIsNotChanged()
     const NMVariantMapMap settings = FakeNetworkManager::Settings("A");
     const QString path = Fake().AddProfile(settings);
     Fake().SetProperty(path, profileInterface, "Unsaved", true);
-    QCOMPARE(
-        LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("A", "WPA2PSK", "CCMP", "12345678")),
-        int(NetworkManagerResultReadOnlyProfile));
+    QCOMPARE(LoadedWLAN::Store(LoadedWLAN::NewProfile("A", "WPA2PSK", "CCMP", "12345678")),
+             int(NetworkManagerResultReadOnlyProfile));
     QCOMPARE(Fake().ProfilePaths(), QStringList(path));
     QCOMPARE(Fake().SettingsOf(path), settings);
 }
@@ -627,7 +620,7 @@ void tst_networkmanagerprofiles::ProfileIsForEverybodyOrForItsMaker()
     QFETCH(QString, own);
     Fake().SetRight(modifyShared, shared);
     Fake().SetRight(modifyOwn, own);
-    QCOMPARE(LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("A", "open", "none", "")), 0);
+    QCOMPARE(LoadedWLAN::Store(LoadedWLAN::NewProfile("A", "open", "none", "")), 0);
     QTEST(Fake().SettingsOf(Fake().ProfilePaths().value(0))["connection"].value("permissions").toStringList(),
           "permissions");
 }
@@ -751,7 +744,7 @@ void tst_networkmanagerprofiles::WhatCannotBeStoredIsRefusedBeforeItIsSent()
     profile.ssid = ssid;
     profile.keyIndex = index;
     TraceCapture trace;
-    QCOMPARE(LoadedWLAN::Wlan()->CreateWLANProfile(profile), result);
+    QCOMPARE(LoadedWLAN::Store(profile), result);
     QCOMPARE(Fake().CallCount("AddConnection"), result == 0 ? 1 : 0);
     QCOMPARE(trace.Lines().size(), result == 0 ? 0 : 1);
 }
@@ -763,8 +756,8 @@ void tst_networkmanagerprofiles::KeyIsInNoLine()
                                   "org.freedesktop.NetworkManager.Settings.PermissionDenied"};
     for (const char *error : errors) {
         Fake().AnswerWithError("AddConnection", error);
-        LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("A", "WPA2PSK", "CCMP", "open sesame"));
-        LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("A", "WPA3", "CCMP", "open sesame"));
+        LoadedWLAN::Store(LoadedWLAN::NewProfile("A", "WPA2PSK", "CCMP", "open sesame"));
+        LoadedWLAN::Store(LoadedWLAN::NewProfile("A", "WPA3", "CCMP", "open sesame"));
     }
     QVERIFY(trace.Lines().size() >= 2);
     QVERIFY(!trace.Lines().join("\n").contains("sesame"));
@@ -772,6 +765,25 @@ void tst_networkmanagerprofiles::KeyIsInNoLine()
     for (int i = 0; i < files.size(); ++i) {
         QVERIFY(!Directory().Read(files.at(i)).contains("sesame"));
     }
+}
+
+void tst_networkmanagerprofiles::ProfileIsStoredWhileTheProgramEnds()
+{
+    Fake().DoNotAnswer("GetSettings");
+    Fake().AddProfile("A");
+    QCOMPARE(LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("B", "open", "none", "")), 0);
+    QCOMPARE(Fake().CallCount("AddConnection"), 0);
+    QTimer::singleShot(0, this, [this] { Fake().Behave(); });
+    LoadedWLAN::Root()->OnDestroy();
+    QCOMPARE(Fake().ProfilePaths().size(), 2);
+}
+
+void tst_networkmanagerprofiles::ProgramEndsWithoutAnAnswer()
+{
+    Fake().DoNotAnswer("AddConnection");
+    QCOMPARE(LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("A", "open", "none", "")), 0);
+    LoadedWLAN::Root()->OnDestroy();
+    QCOMPARE(Fake().CallCount("AddConnection"), 1);
 }
 
 QTEST_GUILESS_MAIN(tst_networkmanagerprofiles)

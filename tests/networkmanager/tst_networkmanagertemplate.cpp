@@ -119,6 +119,7 @@ void tst_networkmanagertemplate::init()
     m_mock.reset(new MockNetworkManager(&m_bus));
     QVERIFY2(m_mock->Start(), qPrintable(m_mock->WhyNot()));
     QVERIFY(LoadedWLAN::Root()->Init());
+    QTRY_COMPARE(LoadedWLAN::State().source, int(ConnectionState::SourceKnown));
 }
 
 void tst_networkmanagertemplate::cleanup()
@@ -214,11 +215,10 @@ void tst_networkmanagertemplate::NetworkNameThatIsNotUtf8ComesBackByteForByte()
     Mock().SetProperty(Mock().AddAccessPoint(device, "A", 50), accessPoint, "Ssid", ssid);
     const QStringList names = LoadedWLAN::InRange();
     QCOMPARE(names, QStringList("Caf\\xE9\\xFF\\x80"));
-    QCOMPARE(LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile(names.at(0), "open", "none", "")),
-             0);
+    QCOMPARE(LoadedWLAN::Store(LoadedWLAN::NewProfile(names.at(0), "open", "none", "")), 0);
     QCOMPARE(Mock().ProfilePaths().size(), 1);
     QCOMPARE(Mock().SettingsOf(Mock().ProfilePaths().at(0))["802-11-wireless"]["ssid"].toByteArray(), ssid);
-    QCOMPARE(LoadedWLAN::ProfileNamed(names.at(0)).ssid, names.at(0));
+    QTRY_COMPARE(LoadedWLAN::ProfileNamed(names.at(0)).ssid, names.at(0));
 }
 
 void tst_networkmanagertemplate::HiddenNetworksAreLeftOut_data()
@@ -320,15 +320,13 @@ void tst_networkmanagertemplate::DevicesAreToldToLookAgainAfterAPause()
 
 void tst_networkmanagertemplate::StoredProfileIsRememberedAndGivesNoKeyBack()
 {
-    QCOMPARE(
-        LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("A", "WPA2PSK", "CCMP", "open sesame")),
-        0);
+    QCOMPARE(LoadedWLAN::Store(LoadedWLAN::NewProfile("A", "WPA2PSK", "CCMP", "open sesame")), 0);
     QCOMPARE(Mock().ProfilePaths().size(), 1);
     const NMVariantMapMap settings = Mock().SettingsOf(Mock().ProfilePaths().at(0));
     QCOMPARE(settings["802-11-wireless-security"]["key-mgmt"].toString(), QString("wpa-psk"));
     // Other than NetworkManager, the template hands out keys to whoever asks for the settings.
     QCOMPARE(settings["802-11-wireless-security"]["psk"].toString(), QString("open sesame"));
-    QCOMPARE(LoadedWLAN::Remembered(), QStringList("A/1"));
+    QTRY_COMPARE(LoadedWLAN::Remembered(), QStringList("A/1"));
     const WLANProfile profile = LoadedWLAN::ProfileNamed("A");
     QCOMPARE(profile.ssid, QString("A"));
     QCOMPARE(SecurityOf(profile), QString("WPA2PSK CCMP passPhrase"));
@@ -341,11 +339,9 @@ void tst_networkmanagertemplate::ReplacedProfileKeepsItsPath()
 {
     const QString path = Mock().AddProfile(FakeNetworkManager::Settings("A"));
     Mock().AddUpdate2(path);
-    QCOMPARE(
-        LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("A", "WPA2PSK", "CCMP", "open sesame")),
-        0);
+    QCOMPARE(LoadedWLAN::Store(LoadedWLAN::NewProfile("A", "WPA2PSK", "CCMP", "open sesame")), 0);
     QCOMPARE(Mock().ProfilePaths(), QStringList(path));
-    QCOMPARE(SecurityOf(LoadedWLAN::ProfileNamed("A")), QString("WPA2PSK CCMP passPhrase"));
+    QTRY_COMPARE(SecurityOf(LoadedWLAN::ProfileNamed("A")), QString("WPA2PSK CCMP passPhrase"));
 }
 
 void tst_networkmanagertemplate::ReplacingWhereItCannotBeDoneIsTold()
@@ -353,9 +349,8 @@ void tst_networkmanagertemplate::ReplacingWhereItCannotBeDoneIsTold()
     const QString path = Mock().AddProfile(FakeNetworkManager::Settings("A"));
     const NMVariantMapMap before = Mock().SettingsOf(path);
     TraceCapture trace;
-    QCOMPARE(
-        LoadedWLAN::Wlan()->CreateWLANProfile(LoadedWLAN::NewProfile("A", "WPA2PSK", "CCMP", "open sesame")),
-        int(NetworkManagerResultFailed));
+    QCOMPARE(LoadedWLAN::Store(LoadedWLAN::NewProfile("A", "WPA2PSK", "CCMP", "open sesame")),
+             int(NetworkManagerResultFailed));
     QCOMPARE(trace.Lines(),
              QStringList("WLANNetworkManager: CreateWLANProfile: NetworkManager answered with an error"));
     QCOMPARE(Mock().ProfilePaths(), QStringList(path));
@@ -368,8 +363,7 @@ void tst_networkmanagertemplate::MobileBroadbandIsRememberedAndIsNoWifi()
     Mock().AddProfile(FakeNetworkManager::Settings("Mobile", "gsm"));
     Mock().AddProfile(FakeNetworkManager::Settings("Wired", "802-3-ethernet"));
     Mock().AddProfile(FakeNetworkManager::Settings("Wireless"));
-    QCOMPARE(LoadedWLAN::Remembered(), QStringList() << "Mobile/2"
-                                                     << "Wireless/1");
+    QTRY_COMPARE(LoadedWLAN::Remembered(), QStringList({"Mobile/2", "Wireless/1"}));
     QCOMPARE(LoadedWLAN::ProfileNamed("Mobile").profileName, QString("Mobile"));
     QCOMPARE(LoadedWLAN::ProfileNamed("Mobile").ssid, QString());
     QCOMPARE(LoadedWLAN::InRange(), QStringList());
@@ -385,6 +379,7 @@ void tst_networkmanagertemplate::ProfileThatGoesBetweenListingAndAskingIsLeftOut
     Mock().DeleteAfterListing(leaving);
     LoadedWLAN::Root()->OnDestroy();
     QVERIFY(LoadedWLAN::Root()->Init());
+    QTRY_COMPARE(LoadedWLAN::State().source, int(ConnectionState::SourceKnown));
     TraceCapture trace;
     QList<RememberedList> list;
     QCOMPARE(LoadedWLAN::Wlan()->GetRememberedList(&list), 0);
@@ -398,8 +393,7 @@ void tst_networkmanagertemplate::ProfileThatWasDeletedIsUnknown()
 {
     Mock().AddProfile(FakeNetworkManager::Settings("A"));
     const QString b = Mock().AddProfile(FakeNetworkManager::Settings("B"));
-    QCOMPARE(LoadedWLAN::Remembered(), QStringList() << "A/1"
-                                                     << "B/1");
+    QTRY_COMPARE(LoadedWLAN::Remembered(), QStringList({"A/1", "B/1"}));
     Mock().DeleteProfile(b);
     WLANProfile profile;
     QCOMPARE(LoadedWLAN::Wlan()->GetProfileByName("B", &profile), int(NetworkManagerResultUnknownName));

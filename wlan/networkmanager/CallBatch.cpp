@@ -31,15 +31,6 @@ void CCallBatch::Start()
     }
 }
 
-void CCallBatch::Wait()
-{
-    while (!m_underWay.isEmpty()) {
-        QDBusPendingCallWatcher *watcher = m_underWay.constBegin().key();
-        watcher->waitForFinished();
-        TakeReply(watcher);
-    }
-}
-
 void CCallBatch::SendMore()
 {
     while (m_next < m_calls.size() && m_underWay.size() < mostUnderWay && m_limit.Remaining() > 0) {
@@ -54,10 +45,6 @@ void CCallBatch::SendMore()
 
 void CCallBatch::TakeReply(QDBusPendingCallWatcher *watcher)
 {
-    // A reply that was waited for comes a second time: the watcher's own signal was on its way already.
-    if (!m_underWay.contains(watcher)) {
-        return;
-    }
     m_replies[m_underWay.take(watcher)] = watcher->reply();
     watcher->deleteLater();
     SendMore();

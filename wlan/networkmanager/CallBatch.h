@@ -27,10 +27,6 @@ public:
     /** Finished comes when all is answered, within this call when there is nothing to be asked. */
     void Start();
 
-    /** Holds up the caller until all is answered or the time is over; what arrives for others is left for
-     * later. */
-    void Wait();
-
     /** One for each call, in their order; what was not answered in time has an error in its place. */
     QList<QDBusMessage> Replies() const { return m_replies; }
 

@@ -32,8 +32,7 @@ const int readMilliseconds = 60000;
 
 CLivePicture::CLivePicture(CNetworkManagerClient *client, QObject *parent)
     : QObject(parent), m_client(client), m_isStateDue(false), m_areRecordsDue(true),
-      m_result(NetworkManagerResultNotAnswering), m_shortfall(NetworkManagerResultSuccess), m_reader(nullptr),
-      m_batch(nullptr), m_rightsBatch(nullptr)
+      m_result(NetworkManagerResultNotKnownYet), m_reader(nullptr), m_batch(nullptr), m_rightsBatch(nullptr)
 {
     m_pause.setSingleShot(true);
     m_pause.setInterval(pauseMilliseconds);
@@ -63,7 +62,9 @@ CLivePicture::CLivePicture(CNetworkManagerClient *client, QObject *parent)
                      QString(), this, SLOT(TakeProfileChange(QDBusMessage)));
     m_client->Listen(CNetworkManagerClient::ManagerPath(), CNetworkManagerClient::ManagerInterface(),
                      QLatin1String("CheckPermissions"), QString(), this, SLOT(AskForRights()));
-    Read();
+    if (m_client->HasBus()) {
+        Read();
+    }
 }
 
 const ConnectionPicture &CLivePicture::Now()
@@ -81,7 +82,7 @@ const ConnectionPicture &CLivePicture::Now()
 bool CLivePicture::IsOnItsWay()
 {
     Now();
-    return m_reader || m_batch || !m_due.isEmpty();
+    return m_client->IsSeekingBus() || m_reader || m_batch || !m_due.isEmpty();
 }
 
 const ConnectionRecords &CLivePicture::Records()
@@ -94,44 +95,10 @@ const ConnectionRecords &CLivePicture::Records()
     return m_records;
 }
 
-const ConnectionPicture &CLivePicture::Complete()
-{
-    Now();
-    if (m_picture.source == ConnectionState::SourceNotKnown && !m_client->IsSilent()) {
-        Begin(CNetworkManagerClient::patienceMilliseconds);
-        // It is not there any more when it has failed at once.
-        if (m_reader) {
-            m_reader->Wait();
-        }
-    }
-    if (m_batch) {
-        delete m_batch;
-        m_batch = nullptr;
-        for (const QString &path : std::as_const(m_asked)) {
-            if (!path.isEmpty()) {
-                m_due.insert(path);
-            }
-        }
-    }
-    if (!m_due.isEmpty()) {
-        BeginBatch(CNetworkManagerClient::patienceMilliseconds);
-        // It is not there any more when nothing could be sent.
-        if (m_batch) {
-            m_batch->Wait();
-        }
-    }
-    return Now();
-}
-
 void CLivePicture::Read()
 {
-    Begin(readMilliseconds);
-}
-
-void CLivePicture::Begin(int limitMilliseconds)
-{
-    Drop(ConnectionState::SourceNotKnown, NetworkManagerResultNotAnswering);
-    m_reader = new CProfileReader(m_client, CTimeLimit(limitMilliseconds), this);
+    Drop(ConnectionState::SourceNotKnown, NetworkManagerResultNotKnownYet);
+    m_reader = new CProfileReader(m_client, CTimeLimit(readMilliseconds), this);
     connect(m_reader, SIGNAL(Finished()), this, SLOT(TakeReading()));
     m_reader->Start();
 }
@@ -155,7 +122,7 @@ void CLivePicture::Drop(int source, NetworkManagerResult result)
     m_picture.source = source;
     m_isStateDue = false;
     m_result = result;
-    m_shortfall = NetworkManagerResultSuccess;
+    m_missed.clear();
     NoteChange();
 }
 
@@ -181,7 +148,7 @@ void CLivePicture::TakeReading()
     m_picture.profiles = reader->Profiles();
     m_picture.rights = reader->Rights();
     m_picture.source = ConnectionState::SourceKnown;
-    m_shortfall = reader->Shortfall();
+    m_missed = reader->Missed();
     const QList<QDBusMessage> early = m_early;
     m_early.clear();
     for (const QDBusMessage &signal : early) {
@@ -233,6 +200,7 @@ void CLivePicture::Apply(const QDBusMessage &signal)
 void CLivePicture::ForgetProfile(const QString &path)
 {
     m_due.remove(path);
+    m_missed.remove(path);
     m_picture.failures.remove(path);
     for (int i = 0; i < m_picture.profiles.size(); ++i) {
         if (m_picture.profiles.at(i).path == path) {
@@ -253,11 +221,11 @@ void CLivePicture::TakeProfileChange(const QDBusMessage &signal)
 void CLivePicture::AskForProfiles()
 {
     if (!m_reader && !m_batch && !m_due.isEmpty()) {
-        BeginBatch(readMilliseconds);
+        BeginBatch();
     }
 }
 
-void CLivePicture::BeginBatch(int limitMilliseconds)
+void CLivePicture::BeginBatch()
 {
     m_asked = m_due.values();
     m_due.clear();
@@ -266,7 +234,7 @@ void CLivePicture::BeginBatch(int limitMilliseconds)
         calls.append(CNetworkManagerClient::Call(path, CNetworkManagerClient::ProfileInterface(),
                                                  QLatin1String("GetSettings")));
     }
-    m_batch = new CCallBatch(m_client, calls, CTimeLimit(limitMilliseconds), this);
+    m_batch = new CCallBatch(m_client, calls, CTimeLimit(readMilliseconds), this);
     connect(m_batch, SIGNAL(Finished()), this, SLOT(TakeProfiles()));
     m_batch->Start();
 }
@@ -298,7 +266,9 @@ void CLivePicture::StoreProfile(const QString &path, const QDBusMessage &reply)
     if (isDue) {
         m_due.insert(path);
     }
-    if (result == NetworkManagerResultSuccess) {
+    if (CProfileReader::IsMissed(reply)) {
+        m_missed.insert(path, result);
+    } else if (result == NetworkManagerResultSuccess) {
         const NetworkProfile profile =
             NetworkProfile::Make(NetworkManagerState::PlaceOf(path, m_objects),
                                  qdbus_cast<NMVariantMapMap>(reply.arguments().at(0).value<QDBusArgument>()),
@@ -316,6 +286,7 @@ void CLivePicture::Expect(const QString &profile)
 {
     if (m_picture.source == ConnectionState::SourceKnown) {
         m_due.insert(profile);
+        AskForProfiles();
     }
 }
 

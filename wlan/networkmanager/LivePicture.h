@@ -7,6 +7,7 @@
 #include <QDBusMessage>
 #include <QElapsedTimer>
 #include <QList>
+#include <QMap>
 #include <QObject>
 #include <QSet>
 #include <QStringList>
@@ -37,13 +38,6 @@ public:
     const ConnectionRecords &Records();
 
     /**
-     * The same for an operation that has to be right when it returns: what is known to be missing is asked
-     * for and waited for, no longer than the user may be kept waiting. A picture that is complete, which it
-     * is but for moments, and a NetworkManager that is silent or gone keep nobody waiting.
-     */
-    const ConnectionPicture &Complete();
-
-    /**
      * Whether something has been asked for that Now lacks as yet; Changed comes with it. False, too, while
      * NetworkManager is gone or does not answer.
      */
@@ -52,9 +46,12 @@ public:
     /** Why the last picture was not to be had, or is not there any more. */
     NetworkManagerResult Result() const { return m_result; }
     /** Why a profile that this user may see is missing; success when none is. */
-    NetworkManagerResult Shortfall() const { return m_shortfall; }
+    NetworkManagerResult Shortfall() const
+    {
+        return m_missed.isEmpty() ? NetworkManagerResultSuccess : m_missed.constBegin().value();
+    }
 
-    /** Has Complete bring a profile that its caller has just changed or made. */
+    /** Asks for a profile that the caller has just changed or made: its signal may come later. */
     void Expect(const QString &profile);
 
     /** Has the devices look for networks, where the user may order that, but not again and again. */
@@ -106,11 +103,10 @@ private slots:
 private:
     Q_DISABLE_COPY(CLivePicture)
 
-    void Begin(int limitMilliseconds);
     void Drop(int source, NetworkManagerResult result);
     void Apply(const QDBusMessage &signal);
     void AskForProfiles();
-    void BeginBatch(int limitMilliseconds);
+    void BeginBatch();
     void StoreProfile(const QString &path, const QDBusMessage &reply);
     void ForgetProfile(const QString &path);
     void NoteChange();
@@ -124,7 +120,8 @@ private:
     bool m_isStateDue;
     bool m_areRecordsDue;
     NetworkManagerResult m_result;
-    NetworkManagerResult m_shortfall;
+    /** Profiles by their paths, and why they could not be read. */
+    QMap<QString, NetworkManagerResult> m_missed;
     CProfileReader *m_reader;
     /** What came while everything was being asked for. */
     QList<QDBusMessage> m_early;

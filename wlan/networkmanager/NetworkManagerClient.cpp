@@ -1,7 +1,5 @@
 #include "NetworkManagerClient.h"
 
-#include "TimeLimit.h"
-
 #include <NetworkManagerQt/GenericTypes>
 #include <NetworkManagerQt/Setting>
 
@@ -13,10 +11,13 @@
 #include <QEvent>
 #include <QStringList>
 
+#include <limits>
+
 namespace
 {
 
-const int signMilliseconds = 20000;
+// As long as it takes: whoever is held up answers in the end, and who has died is told by the bus.
+const int signMilliseconds = std::numeric_limits<int>::max();
 const int checkMilliseconds = 4000;
 
 QDBusMessage VersionCall()
@@ -30,14 +31,12 @@ QDBusMessage VersionCall()
 
 } // namespace
 
-const int CNetworkManagerClient::patienceMilliseconds;
-
 CNetworkManagerClient::CNetworkManagerClient(QObject *parent)
-    : QObject(parent), m_bus(nullptr), m_isSilent(false), m_isLost(false)
+    : QObject(parent), m_bus(nullptr), m_isSilent(false), m_isSeekingBus(true), m_isLost(false)
 {
     qDBusRegisterMetaType<NMVariantMapMap>();
     connect(&m_bus, SIGNAL(Found()), this, SLOT(TakeBus()));
-    connect(&m_bus, SIGNAL(Lost()), this, SLOT(TakeArrived()));
+    connect(&m_bus, &CSystemBus::Lost, this, &CNetworkManagerClient::TakeLoss);
     if (m_bus.Connection().isConnected()) {
         TakeBus();
     }
@@ -122,28 +121,6 @@ QDBusMessage CNetworkManagerClient::Call(const QString &path, const QString &int
     return call;
 }
 
-NetworkManagerResult CNetworkManagerClient::Probe(int limitMilliseconds)
-{
-    const CTimeLimit limit(limitMilliseconds);
-    if (!m_bus.Wait(limit.Remaining())) {
-        return NetworkManagerResultNotAnswering;
-    }
-    if (!m_bus.Connection().isConnected()) {
-        return NetworkManagerResultNoBus;
-    }
-    QDBusMessage question = QDBusMessage::createMethodCall(
-        QLatin1String("org.freedesktop.DBus"), QLatin1String("/org/freedesktop/DBus"),
-        QLatin1String("org.freedesktop.DBus"), QLatin1String("NameHasOwner"));
-    question << ServiceName();
-    QDBusPendingCall call = Send(question, limit.Remaining());
-    call.waitForFinished();
-    const NetworkManagerResult result = ResultOf(call.reply(), "b");
-    Note(result);
-    const bool isThere =
-        result != NetworkManagerResultSuccess || call.reply().arguments().constFirst().toBool();
-    return isThere ? result : NetworkManagerResultNotRunning;
-}
-
 QDBusPendingCall CNetworkManagerClient::Send(const QDBusMessage &call, int limitMilliseconds)
 {
     // Qt would bring the error of a lost bus only when it is done with greeting the next one.
@@ -175,7 +152,8 @@ void CNetworkManagerClient::Listen(const QString &path, const QString &interface
 
 void CNetworkManagerClient::Subscribe(const Subscription &subscription)
 {
-    if (subscription.receiver) {
+    // Qt ends the program when the connection is one that has been lost.
+    if (subscription.receiver && HasBus()) {
         QDBusConnection(m_bus.Connection())
             .connect(ServiceName(), subscription.path, subscription.interface, subscription.signal,
                      subscription.arguments, QString(), subscription.receiver, subscription.slot.constData());
@@ -185,6 +163,7 @@ void CNetworkManagerClient::Subscribe(const Subscription &subscription)
 void CNetworkManagerClient::TakeBus()
 {
     m_isSilent = false;
+    m_isSeekingBus = false;
     m_isLost = false;
     m_owner.reset(
         new QDBusServiceWatcher(ServiceName(), m_bus.Connection(), QDBusServiceWatcher::WatchForOwnerChange));
@@ -194,6 +173,8 @@ void CNetworkManagerClient::TakeBus()
         Subscribe(m_subscriptions.at(i));
     }
     emit Appeared();
+    // Whether it answers is found out meanwhile.
+    Check();
 }
 
 void CNetworkManagerClient::TakeArrived()
@@ -201,10 +182,16 @@ void CNetworkManagerClient::TakeArrived()
     if (m_owner) {
         QCoreApplication::sendPostedEvents(m_owner.data(), QEvent::MetaCall);
     }
-    if (!HasBus() && !m_isLost) {
+    if (!HasBus() && !m_isSeekingBus && !m_isLost) {
         m_isLost = true;
         emit Vanished();
     }
+}
+
+void CNetworkManagerClient::TakeLoss()
+{
+    m_isSeekingBus = false;
+    TakeArrived();
 }
 
 void CNetworkManagerClient::Note(NetworkManagerResult result)

@@ -39,9 +39,6 @@ class CNetworkManagerClient : public QObject
     Q_OBJECT
 
 public:
-    /** How long the user may be kept waiting by one operation. */
-    static const int patienceMilliseconds = 2000;
-
     explicit CNetworkManagerClient(QObject *parent);
     ~CNetworkManagerClient() override;
 
@@ -64,10 +61,6 @@ public:
     /** A call to NetworkManager, which is not started for its sake. */
     static QDBusMessage Call(const QString &path, const QString &interface, const QString &method);
 
-    /** Whether there is a bus with NetworkManager on it, which need not answer. Waits for the bus alone, and
-     * no longer than the limit. */
-    NetworkManagerResult Probe(int limitMilliseconds);
-
     QDBusPendingCall Send(const QDBusMessage &call, int limitMilliseconds);
 
     /** Sends a call of which the answer is of no interest. */
@@ -81,6 +74,8 @@ public:
                 const QString &firstArgument, QObject *receiver, const char *slot);
 
     bool HasBus() const { return m_bus.Connection().isConnected(); }
+    /** Whether it is not known as yet if there is a bus. */
+    bool IsSeekingBus() const { return m_isSeekingBus; }
     bool IsSilent() const { return m_isSilent; }
 
     /** To be told of every answer that was waited for. */
@@ -105,6 +100,7 @@ signals:
 
 private slots:
     void TakeBus();
+    void TakeLoss();
     void TakeOwner(const QString &name, const QString &before, const QString &now);
     void TakeCheck(QDBusPendingCallWatcher *watcher);
     void TakeSign(QDBusPendingCallWatcher *watcher);
@@ -128,6 +124,7 @@ private:
     QScopedPointer<QDBusServiceWatcher> m_owner;
     QList<Subscription> m_subscriptions;
     bool m_isSilent;
+    bool m_isSeekingBus;
     bool m_isLost;
     QPointer<QDBusPendingCallWatcher> m_check;
     QPointer<QDBusPendingCallWatcher> m_sign;

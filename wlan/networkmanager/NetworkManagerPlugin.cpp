@@ -43,21 +43,33 @@ bool CNetworkManagerPlugin::Init()
     if (m_client) {
         return true;
     }
+    m_lastError = NetworkManagerResultSuccess;
     m_client = new CNetworkManagerClient(nullptr);
-    const NetworkManagerResult result = m_client->Probe(CNetworkManagerClient::patienceMilliseconds);
-    m_lastError = result;
-    if (result != NetworkManagerResultSuccess) {
-        // It may come later.
-        qWarning("WLANNetworkManager: %s", DescriptionOf(result).toLocal8Bit().constData());
-    }
-    // It is not waited for. Whether it answers is found out meanwhile.
-    m_client->Check();
     m_picture = new CLivePicture(m_client, nullptr);
+    connect(m_picture, &CLivePicture::Changed, this, &CNetworkManagerPlugin::TakePicture);
     m_service = new CNetworkManagerWLANService(m_client, m_picture, nullptr);
+    connect(m_service, &CNetworkManagerWLANService::ProfileEnded, this, &CNetworkManagerPlugin::NoteFailure);
     m_connections = new CNetworkManagerConnections(m_client, m_picture, nullptr);
     m_keeper = new CPriorityKeeper(m_client, m_picture, UserData::Directory(), nullptr);
     m_order = new CNetworkManagerOrder(m_keeper, nullptr);
     return true;
+}
+
+void CNetworkManagerPlugin::TakePicture()
+{
+    if (!m_picture->IsOnItsWay()) {
+        const NetworkManagerResult result = m_picture->Result();
+        m_complaints.Tell(result == NetworkManagerResultSuccess ? QStringList()
+                                                                : QStringList(DescriptionOf(result)));
+        NoteFailure(result);
+    }
+}
+
+void CNetworkManagerPlugin::NoteFailure(int result)
+{
+    if (result != NetworkManagerResultSuccess) {
+        m_lastError = result;
+    }
 }
 
 QString CNetworkManagerPlugin::GetPluginName()

@@ -3,6 +3,7 @@
 
 #include "NetworkManagerResult.h"
 
+#include <ComplaintLog.h>
 #include <SiblingPlugin.h>
 #include <ToolkitPlugin.h>
 
@@ -27,17 +28,22 @@ class CNetworkManagerPlugin : public CSiblingPlugin
 public:
     ~CNetworkManagerPlugin() override;
 
-    /** A NetworkManagerResult: why NetworkManager was not to be had when Init was called. */
+    /** A NetworkManagerResult: why NetworkManager was last not to be had, or a profile not stored. */
     int GetLastError() override;
 
-    /** True without a NetworkManager, too: it may come at any time, and its absence is told until then. */
+    /** Waits for nobody, and is true without a NetworkManager, too: it may come at any time. */
     bool Init() override;
     void OnDestroy() override;
     QString GetPluginName() override;
 
+private slots:
+    void TakePicture();
+    void NoteFailure(int result);
+
 private:
     QObject *Service(int interfaceNumber) override;
 
+    CComplaintLog m_complaints{"WLANNetworkManager"};
     int m_lastError = NetworkManagerResultSuccess;
     CNetworkManagerClient *m_client = nullptr;
     CLivePicture *m_picture = nullptr;

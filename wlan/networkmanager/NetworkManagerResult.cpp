@@ -106,6 +106,8 @@ QString DescriptionOf(NetworkManagerResult result)
         return QLatin1String("a profile is not stored beside a better one for the same network");
     case NetworkManagerResultChangedMeanwhile:
         return QLatin1String("somebody else has just changed the profile");
+    case NetworkManagerResultNotKnownYet:
+        return QLatin1String("NetworkManager has not answered yet");
     }
     return QString();
 }
@@ -129,6 +131,7 @@ const char *NoticeOf(NetworkManagerResult result)
         return "IDS_WLAN_NOT_RUNNING";
     case NetworkManagerResultNotAnswering:
     case NetworkManagerResultUnusableAnswer:
+    case NetworkManagerResultNotKnownYet:
         return "IDS_WLAN_NO_ANSWER";
     case NetworkManagerResultPermissionDenied:
         return "IDS_WLAN_DENIED";

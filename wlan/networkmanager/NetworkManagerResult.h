@@ -54,7 +54,10 @@ enum NetworkManagerResult {
     /** The profile of that name can only be changed with a key that is complete. */
     NetworkManagerResultIncompleteKey = 19,
     /** A profile of another name is for the same network, and could not be changed in that way. */
-    NetworkManagerResultBetterProfile = 20
+    NetworkManagerResultBetterProfile = 20,
+
+    /** NetworkManager has been asked and has not answered yet; what it is asked for is not known. */
+    NetworkManagerResultNotKnownYet = 21
 };
 
 /** What an answer comes to. A reply whose arguments are not of signature is unusable. */

@@ -1,19 +1,11 @@
 #include "NetworkManagerWLANService.h"
 
-#include "CallBatch.h"
 #include "LivePicture.h"
-#include "NetworkManagerClient.h"
 #include "NetworkSecurity.h"
-#include "ProfileReader.h"
-#include "ProfileUpdate.h"
 #include "SsidText.h"
-
-#include <ProfileRules.h>
 
 #include <NetworkManagerQt/Utils>
 
-#include <QDBusArgument>
-#include <QDBusObjectPath>
 #include <QSet>
 
 #include <algorithm>
@@ -22,16 +14,6 @@ namespace
 {
 
 const int longestNetworkName = 32;
-
-QString WirelessSection()
-{
-    return QLatin1String("802-11-wireless");
-}
-
-CTimeLimit Patience()
-{
-    return CTimeLimit(CNetworkManagerClient::patienceMilliseconds);
-}
 
 /** The first profile of that name, Wi-Fi first; null when there is none. */
 const NetworkProfile *FindByName(const QList<NetworkProfile> &profiles, const QString &name)
@@ -96,101 +78,53 @@ const AccessPoint *FindNetwork(const QList<AccessPoint> &networks, const QByteAr
     return nullptr;
 }
 
-QString InfrastructureWord()
-{
-    return QLatin1String("ESS");
-}
-
-QString AdHocWord()
-{
-    return QLatin1String("IBSS");
-}
-
-/** NetworkManager's own word for what a WLANProfile has none for, such as a hotspot. */
-QString BssTypeOf(const NMVariantMapMap &settings)
-{
-    const QString mode = settings.value(WirelessSection()).value(QLatin1String("mode")).toString();
-    if (mode.isEmpty() || mode == QLatin1String("infrastructure")) {
-        return InfrastructureWord();
-    }
-    return mode == QLatin1String("adhoc") ? AdHocWord() : mode;
-}
-
-void Fill(const NetworkProfile &remembered, WLANProfile *profile)
-{
-    profile->profileName = remembered.name;
-    profile->connectionMode = QLatin1String(remembered.connectsByItself ? "auto" : "manual");
-    profile->readOnly = QLatin1String(remembered.isReadOnly ? "true" : "false");
-    if (remembered.kind == NetworkProfile::Wifi) {
-        profile->ssid = SsidText::FromBytes(remembered.ssid);
-        profile->bssType = BssTypeOf(remembered.settings);
-        NetworkSecurity::Describe(remembered.settings, profile);
-    }
-}
-
 /** The texts that D-Bus carries are UTF-8 and end with the first zero. */
 bool CanBeSent(const QString &text)
 {
     return !text.isEmpty() && !text.contains(QChar(ushort(0))) && QString::fromUtf8(text.toUtf8()) == text;
 }
 
-/** All Wi-Fi profiles as the rules see them, with their places in profiles. */
-QList<ProfileRules::RememberedProfile> WifiProfiles(const QList<NetworkProfile> &profiles)
-{
-    QList<ProfileRules::RememberedProfile> remembered;
-    for (int i = 0; i < profiles.size(); ++i) {
-        if (profiles.at(i).kind == NetworkProfile::Wifi) {
-            ProfileRules::RememberedProfile profile = {
-                WLANProfile(), !NetworkSecurity::IsDescribed(profiles.at(i).settings), i};
-            Fill(profiles.at(i), &profile.profile);
-            remembered.append(profile);
-        }
-    }
-    return remembered;
-}
-
-/** Success for what is no refusal. */
-NetworkManagerResult RefusalOf(ProfileRules::Verdict verdict)
-{
-    switch (verdict) {
-    case ProfileRules::NewProfile:
-    case ProfileRules::ChangedProfile:
-        break;
-    case ProfileRules::SeveralProfiles:
-        return NetworkManagerResultSeveralProfiles;
-    case ProfileRules::ReadOnlyProfile:
-        return NetworkManagerResultReadOnlyProfile;
-    case ProfileRules::UndescribedProfile:
-        return NetworkManagerResultUndescribedProfile;
-    case ProfileRules::WeakerMethod:
-        return NetworkManagerResultWeakerMethod;
-    case ProfileRules::IncompleteKey:
-        return NetworkManagerResultIncompleteKey;
-    case ProfileRules::BetterProfile:
-        return NetworkManagerResultBetterProfile;
-    }
-    return NetworkManagerResultSuccess;
-}
-
 } // namespace
 
 CNetworkManagerWLANService::CNetworkManagerWLANService(CNetworkManagerClient *client, CLivePicture *picture,
                                                        QObject *parent)
-    : QObject(parent), m_client(client), m_picture(picture)
+    : QObject(parent), m_picture(picture), m_writer(client, picture, nullptr),
+      m_result(NetworkManagerResultSuccess)
 {
+    connect(&m_writer, &CProfileWriter::Ended, this, &CNetworkManagerWLANService::TakeEnd);
+}
+
+CNetworkManagerWLANService::~CNetworkManagerWLANService()
+{
+    m_writer.Finish();
 }
 
 int CNetworkManagerWLANService::CreateWLANProfile(WLANProfile profile)
 {
-    QString better;
-    const NetworkManagerResult result = Store(profile, &better);
-    if (const char *id = NoticeOf(result)) {
-        m_notice.Tell(id, profile.profileName, better);
+    m_result = NetworkManagerResultSuccess;
+    const NetworkManagerResult refusal = Check(profile);
+    if (refusal == NetworkManagerResultSuccess) {
+        // One network can be written in several ways.
+        profile.ssid = SsidText::FromBytes(SsidText::ToBytes(profile.ssid));
+        m_writer.Store(profile);
+    } else {
+        TakeEnd(refusal, profile.profileName, QString());
     }
-    return Tell("CreateWLANProfile", result);
+    return m_result;
 }
 
-NetworkManagerResult CNetworkManagerWLANService::Store(WLANProfile wanted, QString *better)
+void CNetworkManagerWLANService::TakeEnd(NetworkManagerResult result, const QString &name,
+                                         const QString &better)
+{
+    m_result = Tell("CreateWLANProfile", result);
+    if (const char *id = NoticeOf(result)) {
+        m_notice.Tell(id, name, better);
+    }
+    emit ProfileEnded(result);
+}
+
+/** As far as it can be told without NetworkManager. */
+NetworkManagerResult CNetworkManagerWLANService::Check(const WLANProfile &wanted)
 {
     const QByteArray ssid = SsidText::ToBytes(wanted.ssid);
     if (!CanBeSent(wanted.profileName)) {
@@ -204,123 +138,8 @@ NetworkManagerResult CNetworkManagerWLANService::Store(WLANProfile wanted, QStri
     }
     NMVariantMapMap security;
     const bool isKeySendable = wanted.keyMaterial.isEmpty() || CanBeSent(wanted.keyMaterial);
-    if (!NetworkSecurity::Apply(wanted, &security) || !isKeySendable) {
-        return NetworkManagerResultUnusableSecurity;
-    }
-    const CTimeLimit limit = Patience();
-    CProfileReader reader(m_client, limit, nullptr);
-    reader.Read();
-    if (reader.Result() != NetworkManagerResultSuccess) {
-        return reader.Result();
-    }
-    // One network can be written in several ways.
-    wanted.ssid = SsidText::FromBytes(ssid);
-    const ProfileRules::Decision decision = ProfileRules::Decide(WifiProfiles(reader.Profiles()), wanted);
-    if (decision.verdict == ProfileRules::NewProfile) {
-        return Add(wanted, reader.Rights(), limit);
-    }
-    if (decision.verdict == ProfileRules::ChangedProfile) {
-        // One that could not be read may have the same name.
-        return reader.Shortfall() == NetworkManagerResultSuccess
-                   ? Change(reader.Profiles().at(decision.place), wanted, limit)
-                   : reader.Shortfall();
-    }
-    if (decision.verdict == ProfileRules::BetterProfile) {
-        *better = reader.Profiles().at(decision.place).name;
-    }
-    return RefusalOf(decision.verdict);
-}
-
-NetworkManagerResult CNetworkManagerWLANService::Add(const WLANProfile &wanted, const CallerRights &rights,
-                                                     const CTimeLimit &limit)
-{
-    NMVariantMapMap settings = NetworkProfile::NewSettings(wanted.profileName, rights);
-    QVariantMap &wireless = settings[WirelessSection()];
-    wireless.insert(QLatin1String("ssid"), SsidText::ToBytes(wanted.ssid));
-    wireless.insert(QLatin1String("mode"),
-                    QLatin1String(wanted.bssType == AdHocWord() ? "adhoc" : "infrastructure"));
-    NetworkSecurity::Apply(wanted, &settings);
-    QDBusMessage call = CNetworkManagerClient::Call(CNetworkManagerClient::SettingsPath(),
-                                                    CNetworkManagerClient::SettingsInterface(),
-                                                    QLatin1String("AddConnection"));
-    call << QVariant::fromValue(settings);
-    const QDBusMessage reply = Ask(call, limit);
-    const NetworkManagerResult result = ResultOf(reply, "o");
-    if (result == NetworkManagerResultSuccess) {
-        m_picture->Expect(reply.arguments().at(0).value<QDBusObjectPath>().path());
-    }
-    return result;
-}
-
-NetworkManagerResult CNetworkManagerWLANService::Change(const NetworkProfile &profile,
-                                                        const WLANProfile &wanted, const CTimeLimit &limit)
-{
-    NetworkProfile changed = profile;
-    changed.settings[WirelessSection()].insert(QLatin1String("ssid"), SsidText::ToBytes(wanted.ssid));
-    NetworkManagerResult result = NetworkManagerResultSuccess;
-    if (NetworkSecurity::HasStaticWep(changed.settings) && wanted.encryption == QLatin1String("WEP")) {
-        result = ReadWepKeys(&changed, limit);
-        if (result == NetworkManagerResultSuccess && changed.version != 0) {
-            result = ReadVersionAfterKeys(&changed, limit);
-        }
-        if (result != NetworkManagerResultSuccess) {
-            return result;
-        }
-    }
-    NetworkSecurity::Apply(wanted, &changed.settings);
-    result = ResultOf(Ask(ProfileUpdate::Call(changed, changed.settings), limit), ProfileUpdate::signature);
-    if (result == NetworkManagerResultSuccess) {
-        m_picture->Expect(profile.path);
-    }
-    return result;
-}
-
-NetworkManagerResult CNetworkManagerWLANService::ReadWepKeys(NetworkProfile *profile, const CTimeLimit &limit)
-{
-    const QString section = QLatin1String("802-11-wireless-security");
-    QDBusMessage call = CNetworkManagerClient::Call(profile->path, CNetworkManagerClient::ProfileInterface(),
-                                                    QLatin1String("GetSecrets"));
-    call << section;
-    const QDBusMessage reply = Ask(call, limit);
-    if (reply.errorName() == QLatin1String("org.freedesktop.NetworkManager.AgentManager.NoSecrets")) {
-        return NetworkManagerResultSuccess;
-    }
-    const NetworkManagerResult result = ResultOf(reply, NetworkProfile::Signature());
-    if (result == NetworkManagerResultSuccess) {
-        const QVariantMap keys =
-            qdbus_cast<NMVariantMapMap>(reply.arguments().at(0).value<QDBusArgument>()).value(section);
-        for (QVariantMap::const_iterator i = keys.constBegin(); i != keys.constEnd(); ++i) {
-            profile->settings[section].insert(i.key(), i.value());
-        }
-    }
-    return result;
-}
-
-NetworkManagerResult CNetworkManagerWLANService::ReadVersionAfterKeys(NetworkProfile *profile,
-                                                                      const CTimeLimit &limit)
-{
-    const QDBusMessage reply = Ask(ManagedObjects::Call(), limit);
-    const NetworkManagerResult result = ResultOf(reply, ManagedObjects::signature);
-    if (result != NetworkManagerResultSuccess) {
-        return result;
-    }
-    const quint64 version =
-        NetworkManagerState::PlaceOf(profile->path, ManagedObjects::FromReply(reply)).version;
-    // The question for the keys counts as one change itself (seen with 1.52). Of a profile that is gone no
-    // version is told.
-    if (version == 0 || version > profile->version + 1) {
-        return NetworkManagerResultChangedMeanwhile;
-    }
-    profile->version = version;
-    return NetworkManagerResultSuccess;
-}
-
-QDBusMessage CNetworkManagerWLANService::Ask(const QDBusMessage &call, const CTimeLimit &limit)
-{
-    CCallBatch batch(m_client, QList<QDBusMessage>() << call, limit, nullptr);
-    batch.Start();
-    batch.Wait();
-    return batch.Replies().at(0);
+    return NetworkSecurity::Apply(wanted, &security) && isKeySendable ? NetworkManagerResultSuccess
+                                                                      : NetworkManagerResultUnusableSecurity;
 }
 
 NetworkManagerResult CNetworkManagerWLANService::Outcome() const
@@ -333,7 +152,7 @@ int CNetworkManagerWLANService::GetRememberedList(QList<RememberedList> *list)
     if (!list) {
         return NetworkManagerResultNullPointer;
     }
-    const ConnectionPicture &picture = m_picture->Complete();
+    const ConnectionPicture &picture = m_picture->Now();
     for (const NetworkProfile &profile : picture.profiles) {
         if (profile.kind != NetworkProfile::OtherKind && !profile.isHotspot) {
             RememberedList remembered;
@@ -350,12 +169,12 @@ int CNetworkManagerWLANService::GetProfileByName(QString name, WLANProfile *prof
     if (!profile) {
         return NetworkManagerResultNullPointer;
     }
-    const NetworkProfile *known = FindByName(m_picture->Complete().profiles, name);
+    const NetworkProfile *known = FindByName(m_picture->Now().profiles, name);
     if (!known) {
         const NetworkManagerResult result = Tell("GetProfileByName", Outcome());
         return result == NetworkManagerResultSuccess ? NetworkManagerResultUnknownName : result;
     }
-    Fill(*known, profile);
+    known->Describe(profile);
     return Tell("GetProfileByName", NetworkManagerResultSuccess);
 }
 
@@ -364,7 +183,7 @@ int CNetworkManagerWLANService::GetConfigData(WLANConfigData *config)
     if (!config) {
         return NetworkManagerResultNullPointer;
     }
-    const ConnectionPicture &picture = m_picture->Complete();
+    const ConnectionPicture &picture = m_picture->Now();
     if (picture.source == ConnectionState::SourceKnown) {
         config->authenticationList = NetworkSecurity::Methods(picture.state.WifiDevices());
     }
@@ -376,7 +195,7 @@ int CNetworkManagerWLANService::GetAvailableNetworks(QList<WlanAvilableNetworkIn
     if (!list) {
         return NetworkManagerResultNullPointer;
     }
-    const QList<AccessPoint> networks = Networks(m_picture->Complete().state);
+    const QList<AccessPoint> networks = Networks(m_picture->Now().state);
     for (const AccessPoint &network : networks) {
         WlanAvilableNetworkInfo info;
         info.networkName = SsidText::FromBytes(network.ssid);
@@ -395,7 +214,7 @@ int CNetworkManagerWLANService::GetNetworkProfile(const WlanAvilableNetworkInfo 
         return 0;
     }
     const QByteArray ssid = SsidText::ToBytes(network.networkName);
-    const ConnectionPicture &picture = m_picture->Complete();
+    const ConnectionPicture &picture = m_picture->Now();
     Tell("GetNetworkProfile", Outcome());
     const QList<AccessPoint> networks = Networks(picture.state);
     const AccessPoint *seen = FindNetwork(networks, ssid);
@@ -405,7 +224,7 @@ int CNetworkManagerWLANService::GetNetworkProfile(const WlanAvilableNetworkInfo 
     }
     profile->profileName = network.networkName;
     profile->ssid = network.networkName;
-    profile->bssType = InfrastructureWord();
+    profile->bssType = NetworkProfile::InfrastructureWord();
     if (known) {
         NetworkSecurity::Describe(known->settings, profile);
     }

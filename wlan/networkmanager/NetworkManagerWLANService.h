@@ -2,26 +2,20 @@
 #define NETWORKMANAGERWLANSERVICE_H
 
 #include "NetworkManagerResult.h"
+#include "ProfileWriter.h"
 
 #include <ComplaintLog.h>
 #include <IWLANUIPlugin.h>
 #include <UserNotice.h>
 
-#include <NetworkManagerQt/GenericTypes>
-
 class CLivePicture;
 class CNetworkManagerClient;
-class CTimeLimit;
-class QDBusMessage;
-struct CallerRights;
-struct NetworkProfile;
 
 /**
  * The WLAN interface over NetworkManager. Results are those of NetworkManagerResult.h, GetNetworkProfile's
- * are 1 and 0. What is asked for is answered from the live picture: its callers are kept waiting only in the
- * moments in which something of it is known to be missing, and when something is to be stored, and never for
- * longer than CNetworkManagerClient::patienceMilliseconds. Keys go to NetworkManager and don't come back, but
- * for the other keys of a WEP profile that gets a new one: NetworkManager would drop them.
+ * are 1 and 0. What is asked for is answered from the live picture, and nobody is kept waiting. Keys go to
+ * NetworkManager and don't come back, but for the other keys of a WEP profile that gets a new one:
+ * NetworkManager would drop them.
  *
  * Of a network in range, value1 is the signal in percent, value2 the channel or 0 when it is not known, and
  * value3 to value5 are 0.
@@ -34,6 +28,8 @@ class CNetworkManagerWLANService : public QObject, public IWLANUIPlugin
 public:
     /** @param client  outlives the service, as picture does. */
     CNetworkManagerWLANService(CNetworkManagerClient *client, CLivePicture *picture, QObject *parent);
+    /** Gives a profile that is being stored a last moment. */
+    ~CNetworkManagerWLANService() override;
 
     /**
      * Stores the profile for everybody where this user may do that, and for this user alone otherwise.
@@ -44,6 +40,8 @@ public:
      * refused where it would be the weaker one. What goes wrong is told to the user.
      *
      * The profile connects by itself whatever its connectionMode is: it is the list that decides when.
+     *
+     * @return why it can't be stored where that is known at once; ProfileEnded comes in any case.
      */
     int CreateWLANProfile(WLANProfile profile) override;
 
@@ -68,22 +66,24 @@ public:
      */
     int GetNetworkProfile(const WlanAvilableNetworkInfo &network, WLANProfile *profile) override;
 
+signals:
+    /** What became of a profile that was to be stored, refused or not. */
+    void ProfileEnded(int result);
+
+private slots:
+    void TakeEnd(NetworkManagerResult result, const QString &name, const QString &better);
+
 private:
     Q_DISABLE_COPY(CNetworkManagerWLANService)
 
     NetworkManagerResult Outcome() const;
-    NetworkManagerResult Store(WLANProfile wanted, QString *better);
-    NetworkManagerResult Add(const WLANProfile &wanted, const CallerRights &rights, const CTimeLimit &limit);
-    NetworkManagerResult Change(const NetworkProfile &profile, const WLANProfile &wanted,
-                                const CTimeLimit &limit);
-    /** Into the settings, which have none so far. */
-    NetworkManagerResult ReadWepKeys(NetworkProfile *profile, const CTimeLimit &limit);
-    NetworkManagerResult ReadVersionAfterKeys(NetworkProfile *profile, const CTimeLimit &limit);
-    QDBusMessage Ask(const QDBusMessage &call, const CTimeLimit &limit);
+    static NetworkManagerResult Check(const WLANProfile &wanted);
     NetworkManagerResult Tell(const char *operation, NetworkManagerResult result);
 
-    CNetworkManagerClient *const m_client;
     CLivePicture *const m_picture;
+    CProfileWriter m_writer;
+    /** Of the profile that is being stored, as far as it is known. */
+    NetworkManagerResult m_result;
     CComplaintLog m_complaints{"WLANNetworkManager"};
     CUserNotice m_notice;
 };

@@ -1,8 +1,10 @@
 #include "NetworkProfile.h"
 
 #include "NetworkSecurity.h"
+#include "SsidText.h"
 
 #include <PriorityList.h>
+#include <WLANRecords.h>
 
 #include <NetworkManagerQt/ConnectionSettings>
 #include <NetworkManagerQt/WirelessSetting>
@@ -34,6 +36,22 @@ bool IsAmong(const QStringList &permissions, const QString &userName)
         }
     }
     return false;
+}
+
+QString AdHocWord()
+{
+    return QLatin1String("IBSS");
+}
+
+/** NetworkManager's own word for what a WLANProfile has none for, such as a hotspot. */
+QString BssTypeOf(const NMVariantMapMap &settings)
+{
+    const QString mode =
+        settings.value(QLatin1String("802-11-wireless")).value(QLatin1String("mode")).toString();
+    if (mode.isEmpty() || mode == QLatin1String("infrastructure")) {
+        return NetworkProfile::InfrastructureWord();
+    }
+    return mode == QLatin1String("adhoc") ? AdHocWord() : mode;
 }
 
 } // namespace
@@ -86,6 +104,28 @@ NMVariantMapMap NetworkProfile::NewSettings(const QString &name, const CallerRig
     NMVariantMapMap settings;
     settings.insert(QLatin1String("connection"), connection);
     return settings;
+}
+
+void NetworkProfile::Describe(WLANProfile *profile) const
+{
+    profile->profileName = name;
+    profile->connectionMode = QLatin1String(connectsByItself ? "auto" : "manual");
+    profile->readOnly = QLatin1String(isReadOnly ? "true" : "false");
+    if (kind == Wifi) {
+        profile->ssid = SsidText::FromBytes(ssid);
+        profile->bssType = BssTypeOf(settings);
+        NetworkSecurity::Describe(settings, profile);
+    }
+}
+
+QString NetworkProfile::InfrastructureWord()
+{
+    return QLatin1String("ESS");
+}
+
+QString NetworkProfile::ModeOf(const QString &bssType)
+{
+    return QLatin1String(bssType == AdHocWord() ? "adhoc" : "infrastructure");
 }
 
 NetworkProfile::Kind NetworkProfile::KindOf(const QString &connectionType)

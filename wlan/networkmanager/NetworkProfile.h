@@ -11,6 +11,7 @@
 #include <QString>
 
 struct PriorityList;
+struct WLANProfile;
 
 /** A profile that NetworkManager remembers, without its secrets. */
 struct NetworkProfile {
@@ -53,6 +54,14 @@ struct NetworkProfile {
 
     /** A Wi-Fi profile with nothing but its name; for everybody where this user may do that. */
     static NMVariantMapMap NewSettings(const QString &name, const CallerRights &rights);
+
+    /** Fills what a WLANProfile has a field for. */
+    void Describe(WLANProfile *profile) const;
+
+    /** WLANProfile's word for a network with access points, and NetworkManager's for a word of WLANProfile.
+     */
+    static QString InfrastructureWord();
+    static QString ModeOf(const QString &bssType);
 
     /** @param connectionType  NetworkManager's own word. */
     static Kind KindOf(const QString &connectionType);

@@ -10,7 +10,6 @@
 namespace
 {
 
-/** Whether the object that was asked is not there any more. */
 bool IsGone(const QDBusMessage &reply)
 {
     const char *const errors[] = {"org.freedesktop.DBus.Error.UnknownMethod",
@@ -28,8 +27,7 @@ bool IsGone(const QDBusMessage &reply)
 
 CProfileReader::CProfileReader(CNetworkManagerClient *client, const CTimeLimit &limit, QObject *parent)
     : QObject(parent), m_client(client), m_limit(limit), m_batch(nullptr),
-      m_result(NetworkManagerResultNotAnswering), m_shortfall(NetworkManagerResultSuccess),
-      m_isFinished(false)
+      m_result(NetworkManagerResultNotAnswering)
 {
 }
 
@@ -42,19 +40,6 @@ void CProfileReader::Start()
     QList<QDBusMessage> calls;
     calls << ManagedObjects::Call() << CallerRights::Call();
     Ask(calls, SLOT(TakeState()));
-}
-
-void CProfileReader::Read()
-{
-    Start();
-    Wait();
-}
-
-void CProfileReader::Wait()
-{
-    while (!m_isFinished) {
-        m_batch->Wait();
-    }
 }
 
 void CProfileReader::Ask(const QList<QDBusMessage> &calls, const char *slot)
@@ -105,18 +90,24 @@ void CProfileReader::TakeProfiles()
         } else if (result == NetworkManagerResultNotAnswering || result == NetworkManagerResultNotRunning ||
                    result == NetworkManagerResultNoBus) {
             worst = result;
-        } else if (result != NetworkManagerResultPermissionDenied && !IsGone(replies.at(i))) {
-            m_shortfall = result;
+        } else if (IsMissed(replies.at(i))) {
+            m_missed.insert(m_state.profiles.at(i).path, result);
         }
     }
     std::sort(m_profiles.begin(), m_profiles.end(), NetworkProfile::ComesBefore);
     Finish(worst);
 }
 
+bool CProfileReader::IsMissed(const QDBusMessage &reply)
+{
+    const NetworkManagerResult result = ResultOf(reply, NetworkProfile::Signature());
+    return result != NetworkManagerResultSuccess && result != NetworkManagerResultPermissionDenied &&
+           !IsGone(reply);
+}
+
 void CProfileReader::Finish(NetworkManagerResult result)
 {
     m_result = result;
     m_client->Note(result);
-    m_isFinished = true;
     emit Finished();
 }

@@ -26,12 +26,6 @@ public:
     /** Begins; Finished comes in any case. Call it once. */
     void Start();
 
-    /** Begins and holds up the caller until it is done, for no longer than the limit. */
-    void Read();
-
-    /** Holds up the caller until what was begun is done. */
-    void Wait();
-
     NetworkManagerResult Result() const { return m_result; }
     const NetworkManagerObjects &Objects() const { return m_objects; }
     const NetworkManagerState &State() const { return m_state; }
@@ -43,9 +37,11 @@ public:
      */
     const QList<NetworkProfile> &Profiles() const { return m_profiles; }
 
-    /** Why Profiles lacks one that NetworkManager has and that this user may see; success when it lacks none.
-     */
-    NetworkManagerResult Shortfall() const { return m_shortfall; }
+    /** Those that are there, that this user may see, and that could not be read, each with why. */
+    const QMap<QString, NetworkManagerResult> &Missed() const { return m_missed; }
+
+    /** Whether an answer without settings is of a profile that is there and that this user may see. */
+    static bool IsMissed(const QDBusMessage &reply);
 
 signals:
     void Finished();
@@ -64,12 +60,11 @@ private:
     const CTimeLimit m_limit;
     CCallBatch *m_batch;
     NetworkManagerResult m_result;
-    NetworkManagerResult m_shortfall;
+    QMap<QString, NetworkManagerResult> m_missed;
     NetworkManagerObjects m_objects;
     NetworkManagerState m_state;
     CallerRights m_rights;
     QList<NetworkProfile> m_profiles;
-    bool m_isFinished;
 };
 
 #endif

@@ -37,41 +37,25 @@ CSystemBus::CSystemBus(QObject *parent) : QObject(parent), m_connection(Connecti
     }
 }
 
-bool CSystemBus::Wait(int limitMilliseconds)
-{
-    if (!m_greeter) {
-        return true;
-    }
-    if (!m_greeter->wait(static_cast<unsigned long>(limitMilliseconds))) {
-        return false;
-    }
-    TakeConnection();
-    return true;
-}
-
 void CSystemBus::Seek()
 {
     QDBusConnection::disconnectFromBus(ConnectionName());
-    m_greeter = new CGreeter;
-    connect(m_greeter, SIGNAL(finished()), this, SLOT(TakeConnection()));
     // Without a parent, as it can't be stopped and may outlive this object.
-    connect(m_greeter, SIGNAL(finished()), m_greeter, SLOT(deleteLater()));
-    m_greeter->start();
+    CGreeter *greeter = new CGreeter;
+    connect(greeter, &QThread::finished, this, &CSystemBus::TakeConnection);
+    connect(greeter, &QThread::finished, greeter, &QObject::deleteLater);
+    greeter->start();
 }
 
 void CSystemBus::TakeConnection()
 {
-    // Waiting takes the connection here and leaves the thread's own message of it on the way.
-    if (!m_greeter || !m_greeter->isFinished()) {
-        return;
-    }
-    delete m_greeter;
     m_connection = QDBusConnection(ConnectionName());
     if (m_connection.isConnected()) {
         WatchForLoss();
         emit Found();
     } else {
         m_pause.start();
+        emit Lost();
     }
 }
 

@@ -3,10 +3,7 @@
 
 #include <QDBusConnection>
 #include <QObject>
-#include <QPointer>
 #include <QTimer>
-
-class QThread;
 
 /**
  * The plug-in's connection to the system bus, which is sought again for as long as it takes when it is lost.
@@ -21,13 +18,6 @@ class CSystemBus : public QObject
 public:
     explicit CSystemBus(QObject *parent);
 
-    /**
-     * Holds up the caller until there is a connection, or until it is known that there is none now.
-     *
-     * @return false when that was not known when the time was over.
-     */
-    bool Wait(int limitMilliseconds);
-
     /** Stays the same until Found; that of a lost bus answers every call with an error at once. */
     const QDBusConnection &Connection() const { return m_connection; }
 
@@ -35,7 +25,7 @@ signals:
     /** There is a connection, which is another one than before. */
     void Found();
 
-    /** The connection is of no use any more. */
+    /** The connection is of no use any more, or there is none now. */
     void Lost();
 
 private slots:
@@ -49,7 +39,6 @@ private:
 
     QDBusConnection m_connection;
     QTimer m_pause;
-    QPointer<QThread> m_greeter;
 };
 
 #endif
