@@ -442,6 +442,14 @@
         <translation>قيد الاستخدام الآن: %1</translation>
     </message>
     <message>
+        <source>IDS_HEAD_PORTAL</source>
+        <translation>قيد الاستخدام الآن: %1، يلزم تسجيل الدخول</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_LIMITED</source>
+        <translation>قيد الاستخدام الآن: %1، بلا إنترنت</translation>
+    </message>
+    <message>
         <source>IDS_HEAD_NONE</source>
         <translation>لا شبكة قيد الاستخدام</translation>
     </message>
@@ -504,6 +512,14 @@
         <source>IDS_HEAD_FIRST</source>
         <extracomment>Why a network is in use</extracomment>
         <translation>هي أول شبكة في قائمتك يُعرف أنه يمكن استخدامها.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_PORTAL_WHY</source>
+        <translation>تطلب هذه الشبكة تسجيل الدخول في صفحة ويب.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_LIMITED_WHY</source>
+        <translation>الشبكة تستجيب، لكن الإنترنت خلفها لا يستجيب.</translation>
     </message>
     <message>
         <source>IDS_HEAD_OTHER_KIND</source>

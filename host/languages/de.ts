@@ -442,6 +442,14 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
         <translation>Wird verwendet: %1</translation>
     </message>
     <message>
+        <source>IDS_HEAD_PORTAL</source>
+        <translation>Wird verwendet: %1, Anmeldung nötig</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_LIMITED</source>
+        <translation>Wird verwendet: %1, kein Internet</translation>
+    </message>
+    <message>
         <source>IDS_HEAD_NONE</source>
         <translation>Kein Netzwerk wird verwendet</translation>
     </message>
@@ -504,6 +512,14 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
         <source>IDS_HEAD_FIRST</source>
         <extracomment>Why a network is in use</extracomment>
         <translation>Es ist das erste Netzwerk in Ihrer Liste, von dem bekannt ist, dass es funktionieren kann.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_PORTAL_WHY</source>
+        <translation>Dieses Netzwerk verlangt eine Anmeldung auf einer Webseite.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_LIMITED_WHY</source>
+        <translation>Das Netzwerk antwortet, das Internet dahinter nicht.</translation>
     </message>
     <message>
         <source>IDS_HEAD_OTHER_KIND</source>

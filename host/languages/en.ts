@@ -477,6 +477,16 @@ You can use letters, digits and these symbols:
         <translation>In use now: %1</translation>
     </message>
     <message>
+        <source>IDS_HEAD_PORTAL</source>
+        <extracomment>%1: a network whose web page asks for a sign-in before it lets anybody through</extracomment>
+        <translation>In use now: %1, sign-in needed</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_LIMITED</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>In use now: %1, no internet</translation>
+    </message>
+    <message>
         <source>IDS_HEAD_NONE</source>
         <translation>No network in use</translation>
     </message>
@@ -539,6 +549,14 @@ You can use letters, digits and these symbols:
         <source>IDS_HEAD_FIRST</source>
         <extracomment>Why a network is in use</extracomment>
         <translation>It is the first network in your list that is known to be usable.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_PORTAL_WHY</source>
+        <translation>This network wants you to sign in on a web page.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_LIMITED_WHY</source>
+        <translation>The network answers, the internet behind it does not.</translation>
     </message>
     <message>
         <source>IDS_HEAD_OTHER_KIND</source>

@@ -442,6 +442,14 @@ Puede usar letras, números y estos símbolos:
         <translation>En uso ahora: %1</translation>
     </message>
     <message>
+        <source>IDS_HEAD_PORTAL</source>
+        <translation>En uso ahora: %1, hay que iniciar sesión</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_LIMITED</source>
+        <translation>En uso ahora: %1, sin Internet</translation>
+    </message>
+    <message>
         <source>IDS_HEAD_NONE</source>
         <translation>Ninguna red en uso</translation>
     </message>
@@ -504,6 +512,14 @@ Puede usar letras, números y estos símbolos:
         <source>IDS_HEAD_FIRST</source>
         <extracomment>Why a network is in use</extracomment>
         <translation>Es la primera red de su lista que se sabe que puede usarse.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_PORTAL_WHY</source>
+        <translation>Esta red pide que inicie sesión en una página web.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_LIMITED_WHY</source>
+        <translation>La red responde, pero Internet detrás de ella no.</translation>
     </message>
     <message>
         <source>IDS_HEAD_OTHER_KIND</source>

@@ -442,6 +442,14 @@ Vous pouvez utiliser des lettres, des chiffres et les symboles suivants&#xa0;:
         <translation>Utilisé actuellement&#xa0;: %1</translation>
     </message>
     <message>
+        <source>IDS_HEAD_PORTAL</source>
+        <translation>Utilisé actuellement&#xa0;: %1, identification requise</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_LIMITED</source>
+        <translation>Utilisé actuellement&#xa0;: %1, sans Internet</translation>
+    </message>
+    <message>
         <source>IDS_HEAD_NONE</source>
         <translation>Aucun réseau utilisé</translation>
     </message>
@@ -504,6 +512,14 @@ Vous pouvez utiliser des lettres, des chiffres et les symboles suivants&#xa0;:
         <source>IDS_HEAD_FIRST</source>
         <extracomment>Why a network is in use</extracomment>
         <translation>C’est le premier réseau de votre liste dont on sait qu’il peut servir.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_PORTAL_WHY</source>
+        <translation>Ce réseau demande de s’identifier sur une page web.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_LIMITED_WHY</source>
+        <translation>Le réseau répond, mais pas Internet au-delà.</translation>
     </message>
     <message>
         <source>IDS_HEAD_OTHER_KIND</source>

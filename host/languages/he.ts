@@ -442,6 +442,14 @@
         <translation>בשימוש כעת: %1</translation>
     </message>
     <message>
+        <source>IDS_HEAD_PORTAL</source>
+        <translation>בשימוש כעת: %1, נדרשת הזדהות</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_LIMITED</source>
+        <translation>בשימוש כעת: %1, ללא אינטרנט</translation>
+    </message>
+    <message>
         <source>IDS_HEAD_NONE</source>
         <translation>אין רשת בשימוש</translation>
     </message>
@@ -504,6 +512,14 @@
         <source>IDS_HEAD_FIRST</source>
         <extracomment>Why a network is in use</extracomment>
         <translation>זו הרשת הראשונה ברשימה שלך שידוע שאפשר להשתמש בה.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_PORTAL_WHY</source>
+        <translation>הרשת הזאת דורשת הזדהות בדף אינטרנט.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_LIMITED_WHY</source>
+        <translation>הרשת מגיבה, אך האינטרנט שמאחוריה אינו מגיב.</translation>
     </message>
     <message>
         <source>IDS_HEAD_OTHER_KIND</source>

@@ -442,6 +442,14 @@
         <translation>現在使用中: %1</translation>
     </message>
     <message>
+        <source>IDS_HEAD_PORTAL</source>
+        <translation>現在使用中: %1（サインインが必要）</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_LIMITED</source>
+        <translation>現在使用中: %1（インターネットなし）</translation>
+    </message>
+    <message>
         <source>IDS_HEAD_NONE</source>
         <translation>使用中のネットワークはありません</translation>
     </message>
@@ -504,6 +512,14 @@
         <source>IDS_HEAD_FIRST</source>
         <extracomment>Why a network is in use</extracomment>
         <translation>リストの中で、使えることがわかっている最初のネットワークです。</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_PORTAL_WHY</source>
+        <translation>このネットワークでは、Web ページでのサインインが必要です。</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_LIMITED_WHY</source>
+        <translation>ネットワークは応答していますが、その先のインターネットは応答していません。</translation>
     </message>
     <message>
         <source>IDS_HEAD_OTHER_KIND</source>

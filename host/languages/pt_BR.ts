@@ -442,6 +442,14 @@ Você pode usar letras, números e estes símbolos:
         <translation>Em uso agora: %1</translation>
     </message>
     <message>
+        <source>IDS_HEAD_PORTAL</source>
+        <translation>Em uso agora: %1, é preciso fazer login</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_LIMITED</source>
+        <translation>Em uso agora: %1, sem internet</translation>
+    </message>
+    <message>
         <source>IDS_HEAD_NONE</source>
         <translation>Nenhuma rede em uso</translation>
     </message>
@@ -504,6 +512,14 @@ Você pode usar letras, números e estes símbolos:
         <source>IDS_HEAD_FIRST</source>
         <extracomment>Why a network is in use</extracomment>
         <translation>É a primeira rede da sua lista que se sabe que pode ser usada.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_PORTAL_WHY</source>
+        <translation>Esta rede pede que você faça login em uma página da web.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_LIMITED_WHY</source>
+        <translation>A rede responde, mas a internet além dela não.</translation>
     </message>
     <message>
         <source>IDS_HEAD_OTHER_KIND</source>

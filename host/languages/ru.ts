@@ -442,6 +442,14 @@
         <translation>Используется сейчас: %1</translation>
     </message>
     <message>
+        <source>IDS_HEAD_PORTAL</source>
+        <translation>Используется сейчас: %1, нужен вход</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_LIMITED</source>
+        <translation>Используется сейчас: %1, без интернета</translation>
+    </message>
+    <message>
         <source>IDS_HEAD_NONE</source>
         <translation>Сеть не используется</translation>
     </message>
@@ -504,6 +512,14 @@
         <source>IDS_HEAD_FIRST</source>
         <extracomment>Why a network is in use</extracomment>
         <translation>Это первая сеть в вашем списке, о которой известно, что она доступна.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_PORTAL_WHY</source>
+        <translation>Эта сеть требует входа на веб-странице.</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_LIMITED_WHY</source>
+        <translation>Сеть отвечает, а интернет за ней — нет.</translation>
     </message>
     <message>
         <source>IDS_HEAD_OTHER_KIND</source>

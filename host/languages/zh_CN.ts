@@ -442,6 +442,14 @@
         <translation>正在使用：%1</translation>
     </message>
     <message>
+        <source>IDS_HEAD_PORTAL</source>
+        <translation>正在使用：%1，需要登录</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_LIMITED</source>
+        <translation>正在使用：%1，无互联网</translation>
+    </message>
+    <message>
         <source>IDS_HEAD_NONE</source>
         <translation>没有正在使用的网络</translation>
     </message>
@@ -504,6 +512,14 @@
         <source>IDS_HEAD_FIRST</source>
         <extracomment>Why a network is in use</extracomment>
         <translation>它是列表中第一个已知可用的网络。</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_PORTAL_WHY</source>
+        <translation>此网络要求在网页上登录。</translation>
+    </message>
+    <message>
+        <source>IDS_HEAD_LIMITED_WHY</source>
+        <translation>网络有响应，但其后的互联网没有响应。</translation>
     </message>
     <message>
         <source>IDS_HEAD_OTHER_KIND</source>

@@ -197,6 +197,8 @@ const Screens::Screen Screens::screens[] = {
     {"list, another one in use", &Screens::ShowConnections, "another one"},
     {"list, first one by hand", &Screens::ShowConnections, "by hand"},
     {"list, cable and VPN in use", &Screens::ShowConnections, "cable"},
+    {"list, sign-in needed", &Screens::ShowConnections, "portal"},
+    {"list, no internet", &Screens::ShowConnections, "limited"},
     {"list, connected without the traffic", &Screens::ShowConnections, "no traffic"},
     {"list, connecting", &Screens::ShowConnections, "connecting"},
     {"list, NetworkManager gone", &Screens::ShowConnections, "gone"},
@@ -523,6 +525,10 @@ void Screens::ShowConnections(const char *what)
         told.active[1].isVpn = true;
     } else if (shown == "disconnect refused") {
         told.active << ConnectionOf(QLatin1String("Home"), StageConnected, true);
+    } else if (shown == "portal" || shown == "limited") {
+        told.active << ConnectionOf(QLatin1String("Home"), StageConnected, true);
+        told.state.connectivity =
+            shown == "portal" ? ConnectionState::ConnectivityPortal : ConnectionState::ConnectivityLimited;
     } else if (shown == "no traffic") {
         told.active << ConnectionOf(QLatin1String("Home"), StageConnected, false);
     } else if (shown == "connecting") {

@@ -208,6 +208,31 @@ QStringList ChoiceText(const Overview &overview)
     return QStringList() << DashboardText("IDS_HEAD_CHOICE").arg(name) << ChoiceReason(overview);
 }
 
+const char *InUseTextId(const Overview &overview)
+{
+    switch (overview.connections.state.connectivity) {
+    case ConnectionState::ConnectivityPortal:
+        return "IDS_HEAD_PORTAL";
+    case ConnectionState::ConnectivityLimited:
+        return "IDS_HEAD_LIMITED";
+    default:
+        return "IDS_HEAD_IN_USE";
+    }
+}
+
+/** What keeps the traffic from the internet. */
+QString ConnectivityText(const Overview &overview)
+{
+    switch (overview.connections.state.connectivity) {
+    case ConnectionState::ConnectivityPortal:
+        return DashboardText("IDS_HEAD_PORTAL_WHY");
+    case ConnectionState::ConnectivityLimited:
+        return DashboardText("IDS_HEAD_LIMITED_WHY");
+    default:
+        return QString();
+    }
+}
+
 /** How what is in use stands to the list. */
 QString InUseText(const Overview &overview, const ActiveConnection &inUse)
 {
@@ -268,7 +293,7 @@ QString OverviewText::Headline(const Overview &overview)
     }
     QString headline = DashboardText("IDS_HEAD_NONE");
     if (const ActiveConnection *inUse = overview.connections.InUse()) {
-        headline = DashboardText("IDS_HEAD_IN_USE").arg(OverviewText::Name(inUse->name));
+        headline = DashboardText(InUseTextId(overview)).arg(OverviewText::Name(inUse->name));
     } else if (const ActiveConnection *comingUp = overview.ComingUp()) {
         headline = DashboardText("IDS_HEAD_CONNECTING").arg(OverviewText::Name(comingUp->name));
     }
@@ -290,7 +315,8 @@ QString OverviewText::Explanation(const Overview &overview)
     const ActiveConnection *inUse = overview.connections.InUse();
     const ActiveConnection *comingUp = overview.ComingUp();
     if (inUse) {
-        sentences << InUseText(overview, *inUse) << VpnTexts(overview.connections.active);
+        sentences << ConnectivityText(overview) << InUseText(overview, *inUse)
+                  << VpnTexts(overview.connections.active);
     } else if (comingUp) {
         sentences << TextOf(stages, comingUp->stage);
     }

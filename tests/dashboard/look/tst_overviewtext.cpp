@@ -17,6 +17,8 @@ private slots:
 
     void HeadTellsWhatIsInUse_data();
     void HeadTellsWhatIsInUse();
+    void HeadTellsWhatKeepsTheTrafficFromTheInternet_data();
+    void HeadTellsWhatKeepsTheTrafficFromTheInternet();
     void HeadTellsWhyNothingIsKnown_data();
     void HeadTellsWhyNothingIsKnown();
     void PracticeNetworksAreCalledSo();
@@ -124,6 +126,32 @@ void OverviewTextTest::HeadTellsWhatIsInUse()
         told.active << ConnectionOf(name, stage, carriesTraffic, type);
     }
     const Overview overview = Overview::Make(0, Listed(list), told);
+    QTEST(OverviewText::Headline(overview), "headline");
+    QTEST(OverviewText::Explanation(overview), "explanation");
+}
+
+void OverviewTextTest::HeadTellsWhatKeepsTheTrafficFromTheInternet_data()
+{
+    QTest::addColumn<int>("connectivity");
+    QTest::addColumn<QString>("headline");
+    QTest::addColumn<QString>("explanation");
+    const QString first = "It is the first network in your list that is known to be usable.";
+    QTest::newRow("nothing") << int(ConnectionState::ConnectivityFull) << "In use now: Home" << first;
+    QTest::newRow("not checked") << int(ConnectionState::ConnectivityNotKnown) << "In use now: Home" << first;
+    QTest::newRow("portal") << int(ConnectionState::ConnectivityPortal) << "In use now: Home, sign-in needed"
+                            << "This network wants you to sign in on a web page. " + first;
+    QTest::newRow("limited") << int(ConnectionState::ConnectivityLimited) << "In use now: Home, no internet"
+                             << "The network answers, the internet behind it does not. " + first;
+}
+
+void OverviewTextTest::HeadTellsWhatKeepsTheTrafficFromTheInternet()
+{
+    QFETCH(int, connectivity);
+    Connections told = KnownConnections();
+    told.state.connectivity = connectivity;
+    told.profiles << SavedProfile("Home");
+    told.active << ConnectionOf("Home", StageConnected, true);
+    const Overview overview = Overview::Make(0, Listed("Home"), told);
     QTEST(OverviewText::Headline(overview), "headline");
     QTEST(OverviewText::Explanation(overview), "explanation");
 }

@@ -60,7 +60,7 @@ void ConnectionWalkTest::Activate(Connections *told)
 void ConnectionWalkTest::Change(ConnectedWindow *world)
 {
     Connections &told = world->connections->told;
-    switch (Below(8)) {
+    switch (Below(9)) {
     case 0:
         world->priority->list.clear();
         for (int i = Below(7); i > 0; --i) {
@@ -88,6 +88,9 @@ void ConnectionWalkTest::Change(ConnectedWindow *world)
     case 4:
         told.state.sourceName = QLatin1String(Below(3) == 0 ? "stored" : "networkmanager");
         break;
+    case 5:
+        told.state.connectivity = Below(6);
+        break;
     default:
         Activate(&told);
         break;
@@ -105,6 +108,11 @@ QString ConnectionWalkTest::Wrong(const ConnectedWindow &world)
     }
     const QString words = QLatin1String(inUseWords);
     QString headline = inUse ? words + ": " + inUse->name : QString();
+    if (inUse && told.state.connectivity == ConnectionState::ConnectivityPortal) {
+        headline += ", sign-in needed";
+    } else if (inUse && told.state.connectivity == ConnectionState::ConnectivityLimited) {
+        headline += ", no internet";
+    }
     if (inUse && told.state.sourceName == QLatin1String("stored")) {
         headline += " (practice)";
     }
