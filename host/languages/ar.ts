@@ -353,7 +353,11 @@
         <translation>اللغة</translation>
     </message>
     <message>
-        <source>IDS_GENERAL_NEW</source>
+        <source>IDS_RULES_TITLE</source>
+        <translation>القواعد</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_NEW</source>
         <extracomment>In the settings, above a box with the next three texts: where networks go in the list that are connected for the first time</extracomment>
         <translation>الشبكات الجديدة</translation>
     </message>
@@ -370,11 +374,11 @@
         <translation>خارج قائمتك</translation>
     </message>
     <message>
-        <source>IDS_GENERAL_RULING</source>
+        <source>IDS_RULES_RULING</source>
         <translation>اجعل هذه القائمة توجّه NetworkManager</translation>
     </message>
     <message>
-        <source>IDS_GENERAL_RULING_HINT</source>
+        <source>IDS_RULES_RULING_HINT</source>
         <translation>وإلا تستعيد كل شبكة الأولوية التي كانت لها قبل هذه القائمة.</translation>
     </message>
     <message>

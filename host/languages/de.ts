@@ -353,7 +353,11 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
         <translation>Sprache</translation>
     </message>
     <message>
-        <source>IDS_GENERAL_NEW</source>
+        <source>IDS_RULES_TITLE</source>
+        <translation>Regeln</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_NEW</source>
         <extracomment>In the settings, above a box with the next three texts: where networks go in the list that are connected for the first time</extracomment>
         <translation>Neue Netzwerke</translation>
     </message>
@@ -370,11 +374,11 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
         <translation>Nicht in Ihrer Liste</translation>
     </message>
     <message>
-        <source>IDS_GENERAL_RULING</source>
+        <source>IDS_RULES_RULING</source>
         <translation>Diese Liste bestimmt über NetworkManager</translation>
     </message>
     <message>
-        <source>IDS_GENERAL_RULING_HINT</source>
+        <source>IDS_RULES_RULING_HINT</source>
         <translation>Sonst erhält jedes Netzwerk die Priorität zurück, die es vor dieser Liste hatte.</translation>
     </message>
     <message>

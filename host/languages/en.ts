@@ -385,7 +385,12 @@ You can use letters, digits and these symbols:
         <translation>Language</translation>
     </message>
     <message>
-        <source>IDS_GENERAL_NEW</source>
+        <source>IDS_RULES_TITLE</source>
+        <extracomment>Page of the settings: how the list rules the networks</extracomment>
+        <translation>Rules</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_NEW</source>
         <extracomment>In the settings, above a box with the next three texts: where networks go in the list that are connected for the first time</extracomment>
         <translation>New networks</translation>
     </message>
@@ -402,12 +407,12 @@ You can use letters, digits and these symbols:
         <translation>Not in your list</translation>
     </message>
     <message>
-        <source>IDS_GENERAL_RULING</source>
+        <source>IDS_RULES_RULING</source>
         <extracomment>Box to tick</extracomment>
         <translation>Let this list rule NetworkManager</translation>
     </message>
     <message>
-        <source>IDS_GENERAL_RULING_HINT</source>
+        <source>IDS_RULES_RULING_HINT</source>
         <extracomment>Tool tip of that box</extracomment>
         <translation>Without it, every network gets back the priority that it had before this list.</translation>
     </message>

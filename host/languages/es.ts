@@ -353,7 +353,11 @@ Puede usar letras, números y estos símbolos:
         <translation>Idioma</translation>
     </message>
     <message>
-        <source>IDS_GENERAL_NEW</source>
+        <source>IDS_RULES_TITLE</source>
+        <translation>Reglas</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_NEW</source>
         <extracomment>In the settings, above a box with the next three texts: where networks go in the list that are connected for the first time</extracomment>
         <translation>Redes nuevas</translation>
     </message>
@@ -370,11 +374,11 @@ Puede usar letras, números y estos símbolos:
         <translation>Fuera de su lista</translation>
     </message>
     <message>
-        <source>IDS_GENERAL_RULING</source>
+        <source>IDS_RULES_RULING</source>
         <translation>Dejar que esta lista dirija NetworkManager</translation>
     </message>
     <message>
-        <source>IDS_GENERAL_RULING_HINT</source>
+        <source>IDS_RULES_RULING_HINT</source>
         <translation>Si no, cada red recupera la prioridad que tenía antes de esta lista.</translation>
     </message>
     <message>

@@ -353,7 +353,11 @@ Vous pouvez utiliser des lettres, des chiffres et les symboles suivants&#xa0;:
         <translation>Langue</translation>
     </message>
     <message>
-        <source>IDS_GENERAL_NEW</source>
+        <source>IDS_RULES_TITLE</source>
+        <translation>Règles</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_NEW</source>
         <extracomment>In the settings, above a box with the next three texts: where networks go in the list that are connected for the first time</extracomment>
         <translation>Nouveaux réseaux</translation>
     </message>
@@ -370,11 +374,11 @@ Vous pouvez utiliser des lettres, des chiffres et les symboles suivants&#xa0;:
         <translation>Pas dans votre liste</translation>
     </message>
     <message>
-        <source>IDS_GENERAL_RULING</source>
+        <source>IDS_RULES_RULING</source>
         <translation>Laisser cette liste diriger NetworkManager</translation>
     </message>
     <message>
-        <source>IDS_GENERAL_RULING_HINT</source>
+        <source>IDS_RULES_RULING_HINT</source>
         <translation>Sinon, chaque réseau retrouve la priorité qu’il avait avant cette liste.</translation>
     </message>
     <message>

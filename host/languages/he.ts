@@ -353,7 +353,11 @@
         <translation>שפה</translation>
     </message>
     <message>
-        <source>IDS_GENERAL_NEW</source>
+        <source>IDS_RULES_TITLE</source>
+        <translation>כללים</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_NEW</source>
         <extracomment>In the settings, above a box with the next three texts: where networks go in the list that are connected for the first time</extracomment>
         <translation>רשתות חדשות</translation>
     </message>
@@ -370,11 +374,11 @@
         <translation>מחוץ לרשימה שלך</translation>
     </message>
     <message>
-        <source>IDS_GENERAL_RULING</source>
+        <source>IDS_RULES_RULING</source>
         <translation>הרשימה הזאת מנחה את NetworkManager</translation>
     </message>
     <message>
-        <source>IDS_GENERAL_RULING_HINT</source>
+        <source>IDS_RULES_RULING_HINT</source>
         <translation>אחרת כל רשת מקבלת בחזרה את העדיפות שהייתה לה לפני הרשימה הזאת.</translation>
     </message>
     <message>

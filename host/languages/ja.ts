@@ -353,7 +353,11 @@
         <translation>言語</translation>
     </message>
     <message>
-        <source>IDS_GENERAL_NEW</source>
+        <source>IDS_RULES_TITLE</source>
+        <translation>ルール</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_NEW</source>
         <extracomment>In the settings, above a box with the next three texts: where networks go in the list that are connected for the first time</extracomment>
         <translation>新しいネットワーク</translation>
     </message>
@@ -370,11 +374,11 @@
         <translation>リストに入れない</translation>
     </message>
     <message>
-        <source>IDS_GENERAL_RULING</source>
+        <source>IDS_RULES_RULING</source>
         <translation>NetworkManager をこのリストに従わせる</translation>
     </message>
     <message>
-        <source>IDS_GENERAL_RULING_HINT</source>
+        <source>IDS_RULES_RULING_HINT</source>
         <translation>オフにすると、各ネットワークの優先度はこのリストの前の値に戻ります。</translation>
     </message>
     <message>

@@ -353,7 +353,11 @@ Você pode usar letras, números e estes símbolos:
         <translation>Idioma</translation>
     </message>
     <message>
-        <source>IDS_GENERAL_NEW</source>
+        <source>IDS_RULES_TITLE</source>
+        <translation>Regras</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_NEW</source>
         <extracomment>In the settings, above a box with the next three texts: where networks go in the list that are connected for the first time</extracomment>
         <translation>Redes novas</translation>
     </message>
@@ -370,11 +374,11 @@ Você pode usar letras, números e estes símbolos:
         <translation>Fora da sua lista</translation>
     </message>
     <message>
-        <source>IDS_GENERAL_RULING</source>
+        <source>IDS_RULES_RULING</source>
         <translation>Deixar esta lista dirigir o NetworkManager</translation>
     </message>
     <message>
-        <source>IDS_GENERAL_RULING_HINT</source>
+        <source>IDS_RULES_RULING_HINT</source>
         <translation>Sem isso, cada rede recupera a prioridade que tinha antes desta lista.</translation>
     </message>
     <message>

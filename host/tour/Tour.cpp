@@ -882,7 +882,7 @@ void Tour::ChooseLanguage(const QString &language)
 {
     SelectPage(0);
     ChooseItem("languageBox", HostControl::LanguageNames().indexOf(language));
-    SelectPage(1);
+    SelectPage(2);
 }
 
 void Tour::EnterNew(const QString &name, const char *key, const char *confirmation)

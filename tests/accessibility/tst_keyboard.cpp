@@ -228,9 +228,10 @@ void TestKeyboard::buttonsComeAfterThePage_data()
         << "settings, priority page"
         << "pageList, upButton, downButton, addButton, deleteButton, newButton, priorityTable, "
            "settingsOkButton, settingsCancelButton";
-    QTest::newRow("general page")
-        << "settings, general page"
-        << "pageList, languageBox, newNetworksBox, settingsOkButton, settingsCancelButton";
+    QTest::newRow("general page") << "settings, general page"
+                                  << "pageList, languageBox, settingsOkButton, settingsCancelButton";
+    QTest::newRow("rules page") << "settings, rules page"
+                                << "pageList, newNetworksBox, settingsOkButton, settingsCancelButton";
 }
 
 void TestKeyboard::buttonsComeAfterThePage()

@@ -274,11 +274,12 @@ const Screens::Screen Screens::screens[] = {
     {"settings, page not handed out", &Screens::ShowBrokenSettings, "QueryNull"},
     {"settings, general page of missing plug-ins", &Screens::ShowBrokenGeneralPage, "Absent"},
     {"settings, general page", &Screens::ShowGeneralPage, nullptr},
+    {"settings, rules page", &Screens::ShowRulesPage, nullptr},
     {"list, NetworkManager", &Screens::ShowNetworkManager, "Working"},
     {"list, plug-in over NetworkManager broken", &Screens::ShowNetworkManager, "InitFails"},
     {"settings, general page with NetworkManager", &Screens::ShowNetworkManagerSettings, "Working"},
     {"list, not ruling", &Screens::ShowRule, nullptr},
-    {"settings, general page with the rule", &Screens::ShowRule, "settings"},
+    {"settings, rules page with NetworkManager", &Screens::ShowRule, "settings"},
     {"settings, priority page", &Screens::ShowPriorityPage, nullptr},
     {"add dialog", &Screens::ShowAddDialog, nullptr},
     {"new dialog, open", &Screens::ShowNewDialog, "open"},
@@ -670,7 +671,7 @@ void Screens::ShowRule(const char *where)
     OpenWindow(&plugins);
     if (where) {
         Click("settingsButton");
-        Child<QListWidget>("pageList")->setCurrentRow(0);
+        Child<QListWidget>("pageList")->setCurrentRow(1);
     }
     Visit();
     m_window.reset();
@@ -682,6 +683,14 @@ void Screens::ShowGeneralPage(const char *)
     OpenWindow(m_plugins.data());
     Click("settingsButton");
     Child<QListWidget>("pageList")->setCurrentRow(0);
+    Visit();
+}
+
+void Screens::ShowRulesPage(const char *)
+{
+    OpenWindow(m_plugins.data());
+    Click("settingsButton");
+    Child<QListWidget>("pageList")->setCurrentRow(1);
     Visit();
 }
 

@@ -74,6 +74,7 @@ private:
     void ShowNetworkManagerSettings(const char *folder);
     void ShowRule(const char *where);
     void ShowGeneralPage(const char *);
+    void ShowRulesPage(const char *);
     void ShowPriorityPage(const char *);
     void ShowAddDialog(const char *);
     void ShowNewDialog(const char *method);

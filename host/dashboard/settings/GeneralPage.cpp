@@ -6,13 +6,10 @@
 #include <DashboardText.h>
 #include <HostControl.h>
 #include <PluginHost.h>
-#include <PluginObjects.h>
 #include <UserData.h>
 
-#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
-#include <QSignalBlocker>
 #include <QVBoxLayout>
 
 namespace
@@ -55,8 +52,7 @@ QString Lines(const QStringList &texts)
 
 GeneralPage::GeneralPage(DashboardLanguage *language, PluginHost *plugins)
     : m_language(language), m_plugins(plugins), m_languageLabel(nullptr), m_languageBox(nullptr),
-      m_newLabel(nullptr), m_newBox(nullptr), m_rulingBox(nullptr), m_pluginsLabel(nullptr),
-      m_pluginsText(nullptr), m_placesLabel(nullptr), m_placesText(nullptr)
+      m_pluginsLabel(nullptr), m_pluginsText(nullptr), m_placesLabel(nullptr), m_placesText(nullptr)
 {
 }
 
@@ -83,22 +79,6 @@ bool GeneralPage::Show(QWidget *place)
     m_languageLabel->setBuddy(m_languageBox);
     layout->addWidget(m_languageBox);
     layout->addSpacing(12);
-    m_newLabel = AddCaption("newNetworksLabel", layout);
-    m_newBox = new QComboBox;
-    m_newBox->setObjectName(QLatin1String("newNetworksBox"));
-    m_newBefore = ListRules::PlaceOfNewNetworks();
-    m_newLabel->setBuddy(m_newBox);
-    connect(m_newBox, QOverload<int>::of(&QComboBox::activated), this, &GeneralPage::ChooseNewNetworks);
-    layout->addWidget(m_newBox);
-    m_rulingBox = new QCheckBox;
-    m_rulingBox->setObjectName(QLatin1String("rulingBox"));
-    m_wasRuling = ListRules::IsRuling();
-    m_rulingBox->setChecked(m_wasRuling);
-    // Practice networks are not ruled.
-    m_rulingBox->setVisible(PluginObjects::Ordering());
-    connect(m_rulingBox, &QCheckBox::clicked, this, &GeneralPage::ChooseRuling);
-    layout->addWidget(m_rulingBox);
-    layout->addSpacing(12);
     m_pluginsLabel = AddCaption("pluginsLabel", layout);
     m_pluginsText = AddText("pluginsText", layout);
     m_placesLabel = AddCaption("placesLabel", layout);
@@ -122,12 +102,6 @@ void GeneralPage::Close(Answer answer)
 {
     if (answer != Ok) {
         m_language->Switch(m_languageBefore);
-        if (ListRules::PlaceOfNewNetworks() != m_newBefore) {
-            ListRules::SetPlaceOfNewNetworks(m_newBefore);
-        }
-        if (ListRules::IsRuling() != m_wasRuling) {
-            ListRules::SetRuling(m_wasRuling);
-        }
     }
     delete m_page.data();
 }
@@ -138,18 +112,6 @@ void GeneralPage::Retranslate()
         return;
     }
     m_languageLabel->setText(DashboardText("IDS_GENERAL_LANGUAGE"));
-    m_newLabel->setText(DashboardText("IDS_GENERAL_NEW"));
-    {
-        const QSignalBlocker blocker(m_newBox);
-        m_newBox->clear();
-        // In the order of ListRules::NewNetworks.
-        for (const char *id : {"IDS_NEW_AT_END", "IDS_NEW_AT_TOP", "IDS_NEW_NOT_LISTED"}) {
-            m_newBox->addItem(DashboardText(id));
-        }
-        m_newBox->setCurrentIndex(ListRules::PlaceOfNewNetworks());
-    }
-    m_rulingBox->setText(DashboardText("IDS_GENERAL_RULING"));
-    m_rulingBox->setToolTip(DashboardText("IDS_GENERAL_RULING_HINT"));
     m_pluginsLabel->setText(DashboardText("IDS_GENERAL_PLUGINS"));
     m_placesLabel->setText(DashboardText("IDS_GENERAL_PLACES"));
 
@@ -171,22 +133,4 @@ void GeneralPage::Retranslate()
 void GeneralPage::ChooseLanguage(int index)
 {
     m_language->Switch(m_languageBox->itemData(index).toString());
-}
-
-void GeneralPage::ChooseNewNetworks(int index)
-{
-    if (!ListRules::SetPlaceOfNewNetworks(ListRules::NewNetworks(index))) {
-        qWarning("the place of new networks can't be kept in %s",
-                 UserData::Directory().toLocal8Bit().constData());
-        m_newBox->setCurrentIndex(ListRules::PlaceOfNewNetworks());
-    }
-}
-
-void GeneralPage::ChooseRuling(bool isRuling)
-{
-    if (!ListRules::SetRuling(isRuling)) {
-        qWarning("whether the list rules can't be kept in %s",
-                 UserData::Directory().toLocal8Bit().constData());
-        m_rulingBox->setChecked(!isRuling);
-    }
 }

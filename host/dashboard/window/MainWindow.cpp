@@ -24,6 +24,7 @@
 #include <PluginHost.h>
 #include <PluginObjects.h>
 #include <PluginPage.h>
+#include <RulesPage.h>
 #include <Settings.h>
 #include <SettingsDialog.h>
 #include <TextButton.h>
@@ -591,9 +592,10 @@ void MainWindow::OpenSettings()
     m_keeper->BeginOpening();
     m_settings = new SettingsDialog(this);
     m_settings->AddPage(new GeneralPage(m_language, m_plugins));
+    m_settings->AddPage(new RulesPage);
     int firstPluginPage = 0;
     const QList<PluginHost::Plugin> plugins = m_plugins->Plugins();
-    int pages = 1;
+    int pages = 2;
     for (int i = 0; i < plugins.size(); ++i) {
         if (PluginPage *page = PluginPage::Make(plugins.at(i), m_plugins)) {
             m_settings->AddPage(page);

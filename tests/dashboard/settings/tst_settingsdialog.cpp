@@ -7,6 +7,7 @@
 #include <ListRules.h>
 #include <PluginHost.h>
 #include <PluginPage.h>
+#include <RulesPage.h>
 #include <SettingsDialog.h>
 #include <TemporaryDirectory.h>
 #include <TraceCapture.h>
@@ -380,11 +381,9 @@ void SettingsDialogTest::PlaceOfNewNetworksIsKeptUnlessCancelled_data()
 void SettingsDialogTest::PlaceOfNewNetworksIsKeptUnlessCancelled()
 {
     QFETCH(bool, isOk);
-    PluginHost host(BUILD_DIRECTORY, QList<KnownPlugin>());
-    DashboardLanguage language(nullptr);
     SettingsDialog dialog(nullptr);
     QVERIFY(ListRules::SetPlaceOfNewNetworks(ListRules::NewAtTheTop));
-    dialog.AddPage(new GeneralPage(&language, &host));
+    dialog.AddPage(new RulesPage);
     dialog.SelectPage(0);
     dialog.show();
     QComboBox *box = dialog.findChild<QComboBox *>("newNetworksBox");
@@ -397,10 +396,8 @@ void SettingsDialogTest::PlaceOfNewNetworksIsKeptUnlessCancelled()
 
 void SettingsDialogTest::PlaceOfNewNetworksThatCannotBeKeptIsNotShown()
 {
-    PluginHost host(BUILD_DIRECTORY, QList<KnownPlugin>());
-    DashboardLanguage language(nullptr);
     SettingsDialog dialog(nullptr);
-    dialog.AddPage(new GeneralPage(&language, &host));
+    dialog.AddPage(new RulesPage);
     dialog.SelectPage(0);
     dialog.show();
     QComboBox *box = dialog.findChild<QComboBox *>("newNetworksBox");
@@ -425,11 +422,9 @@ void SettingsDialogTest::RuleIsKeptUnlessCancelled()
     FakeConnections connections;
     WithConnections container(nullptr, &connections);
     HostControl::SetPluginContainer(&container);
-    PluginHost host(BUILD_DIRECTORY, QList<KnownPlugin>());
-    DashboardLanguage language(nullptr);
     SettingsDialog dialog(nullptr);
     QVERIFY(ListRules::SetRuling(true));
-    dialog.AddPage(new GeneralPage(&language, &host));
+    dialog.AddPage(new RulesPage);
     dialog.SelectPage(0);
     dialog.show();
     QCheckBox *box = dialog.findChild<QCheckBox *>("rulingBox");
@@ -443,10 +438,8 @@ void SettingsDialogTest::RuleIsKeptUnlessCancelled()
 
 void SettingsDialogTest::RuleIsOfferedWhereTheListCanRule()
 {
-    PluginHost host(BUILD_DIRECTORY, QList<KnownPlugin>());
-    DashboardLanguage language(nullptr);
     SettingsDialog dialog(nullptr);
-    dialog.AddPage(new GeneralPage(&language, &host));
+    dialog.AddPage(new RulesPage);
     dialog.SelectPage(0);
     dialog.show();
     QVERIFY(!dialog.findChild<QCheckBox *>("rulingBox")->isVisible());

@@ -357,8 +357,9 @@ void MainWindowTest::SettingsOpenAtTheListsPage()
     const QDialog *dialog = m_window->findChild<QDialog *>("settingsDialog");
     QVERIFY(dialog && dialog->isVisible() && dialog->isModal());
     const QListWidget *pages = dialog->findChild<QListWidget *>("pageList");
-    QCOMPARE(pages->count(), 2);
+    QCOMPARE(pages->count(), 3);
     QCOMPARE(pages->item(0)->text(), QString("General"));
+    QCOMPARE(pages->item(1)->text(), QString("Rules"));
     QCOMPARE(pages->currentItem()->text(), QString("Network priority"));
     const QTableWidget *table = dialog->findChild<QTableWidget *>("priorityTable");
     QVERIFY(table && table->isVisible());
@@ -490,7 +491,7 @@ void MainWindowTest::OpenSettingsFollowTheLanguage()
     QVERIFY(m_language->Switch("he"));
     const QListWidget *pages = m_window->findChild<QListWidget *>("pageList");
     QCOMPARE(pages->item(0)->text(), QString::fromUtf8("כללי"));
-    QVERIFY(pages->item(1)->text() != QString("Network priority"));
+    QVERIFY(pages->item(2)->text() != QString("Network priority"));
 }
 
 void MainWindowTest::TraceIsShownOnDemand()

@@ -122,8 +122,8 @@ void MainWindowProblemsTest::SettingsExplainItToo()
     window.OpenSettings();
     QDialog *dialog = window.findChild<QDialog *>("settingsDialog");
     QListWidget *pages = dialog->findChild<QListWidget *>("pageList");
-    QCOMPARE(pages->count(), 3);
-    QCOMPARE(pages->currentRow(), 1);
+    QCOMPARE(pages->count(), 4);
+    QCOMPARE(pages->currentRow(), 2);
     const QLabel *problem = dialog->findChild<QLabel *>("pageProblem");
     QVERIFY(problem && problem->text().contains("was not found"));
     dialog->accept();

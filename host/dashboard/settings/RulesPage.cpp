@@ -1,0 +1,109 @@
+#include "RulesPage.h"
+
+#include <DashboardText.h>
+#include <PluginObjects.h>
+#include <UserData.h>
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+RulesPage::RulesPage() = default;
+
+QString RulesPage::Title() const
+{
+    return DashboardText("IDS_RULES_TITLE");
+}
+
+bool RulesPage::Show(QWidget *place)
+{
+    m_page = new QWidget(place);
+    m_page->setObjectName(QLatin1String("rulesPage"));
+    QVBoxLayout *layout = new QVBoxLayout(m_page);
+    m_newLabel = new QLabel;
+    m_newLabel->setObjectName(QLatin1String("newNetworksLabel"));
+    QFont font = m_newLabel->font();
+    font.setBold(true);
+    m_newLabel->setFont(font);
+    layout->addWidget(m_newLabel);
+    m_newBox = new QComboBox;
+    m_newBox->setObjectName(QLatin1String("newNetworksBox"));
+    m_newBefore = ListRules::PlaceOfNewNetworks();
+    m_newLabel->setBuddy(m_newBox);
+    connect(m_newBox, QOverload<int>::of(&QComboBox::activated), this, &RulesPage::ChooseNewNetworks);
+    layout->addWidget(m_newBox);
+    layout->addSpacing(12);
+    m_rulingBox = new QCheckBox;
+    m_rulingBox->setObjectName(QLatin1String("rulingBox"));
+    m_wasRuling = ListRules::IsRuling();
+    m_rulingBox->setChecked(m_wasRuling);
+    // Practice networks are not ruled.
+    m_rulingBox->setVisible(PluginObjects::Ordering());
+    connect(m_rulingBox, &QCheckBox::clicked, this, &RulesPage::ChooseRuling);
+    layout->addWidget(m_rulingBox);
+    layout->addStretch();
+
+    QVBoxLayout *placeLayout = new QVBoxLayout(place);
+    placeLayout->setContentsMargins(0, 0, 0, 0);
+    placeLayout->addWidget(m_page);
+    Retranslate();
+    m_page->show();
+    return true;
+}
+
+QString RulesPage::ProblemText() const
+{
+    return QString();
+}
+
+void RulesPage::Close(Answer answer)
+{
+    if (answer != Ok) {
+        if (ListRules::PlaceOfNewNetworks() != m_newBefore) {
+            ListRules::SetPlaceOfNewNetworks(m_newBefore);
+        }
+        if (ListRules::IsRuling() != m_wasRuling) {
+            ListRules::SetRuling(m_wasRuling);
+        }
+    }
+    delete m_page.data();
+}
+
+void RulesPage::Retranslate()
+{
+    if (!m_page) {
+        return;
+    }
+    m_newLabel->setText(DashboardText("IDS_RULES_NEW"));
+    {
+        const QSignalBlocker blocker(m_newBox);
+        m_newBox->clear();
+        // In the order of ListRules::NewNetworks.
+        for (const char *id : {"IDS_NEW_AT_END", "IDS_NEW_AT_TOP", "IDS_NEW_NOT_LISTED"}) {
+            m_newBox->addItem(DashboardText(id));
+        }
+        m_newBox->setCurrentIndex(ListRules::PlaceOfNewNetworks());
+    }
+    m_rulingBox->setText(DashboardText("IDS_RULES_RULING"));
+    m_rulingBox->setToolTip(DashboardText("IDS_RULES_RULING_HINT"));
+}
+
+void RulesPage::ChooseNewNetworks(int index)
+{
+    if (!ListRules::SetPlaceOfNewNetworks(ListRules::NewNetworks(index))) {
+        qWarning("the place of new networks can't be kept in %s",
+                 UserData::Directory().toLocal8Bit().constData());
+        m_newBox->setCurrentIndex(ListRules::PlaceOfNewNetworks());
+    }
+}
+
+void RulesPage::ChooseRuling(bool isRuling)
+{
+    if (!ListRules::SetRuling(isRuling)) {
+        qWarning("whether the list rules can't be kept in %s",
+                 UserData::Directory().toLocal8Bit().constData());
+        m_rulingBox->setChecked(!isRuling);
+    }
+}
