@@ -9,7 +9,8 @@ namespace
 {
 
 const char *const placeWords[] = {"end", "top", "none"};
-const char *const notRuling = "no";
+const char *const yes = "yes";
+const char *const no = "no";
 
 QString NewNetworksKey()
 {
@@ -19,6 +20,11 @@ QString NewNetworksKey()
 QString RulingKey()
 {
     return QLatin1String("ruling");
+}
+
+QString FollowingKey()
+{
+    return QLatin1String("following");
 }
 
 QString Word(const QString &key)
@@ -64,10 +70,20 @@ bool ListRules::SetPlaceOfNewNetworks(NewNetworks place)
 
 bool ListRules::IsRuling()
 {
-    return Word(RulingKey()) != QLatin1String(notRuling);
+    return Word(RulingKey()) != QLatin1String(no);
 }
 
 bool ListRules::SetRuling(bool isRuling)
 {
-    return SetWord(RulingKey(), isRuling ? "yes" : notRuling);
+    return SetWord(RulingKey(), isRuling ? yes : no);
+}
+
+bool ListRules::IsFollowing()
+{
+    return Word(FollowingKey()) == QLatin1String(yes);
+}
+
+bool ListRules::SetFollowing(bool isFollowing)
+{
+    return SetWord(FollowingKey(), isFollowing ? yes : no);
 }

@@ -26,6 +26,13 @@ bool IsRuling();
 /** False when it can't be kept; then it is as it was. */
 bool SetRuling(bool isRuling);
 
+/** Whether the computer changes over to an entry above the one in use as soon as that can be used; false
+ * where nothing, or nothing that is known, was chosen. It counts only while the list rules. */
+bool IsFollowing();
+
+/** False when it can't be kept; then it is as it was. */
+bool SetFollowing(bool isFollowing);
+
 /** Of the file; empty when there is no place for it. */
 QString FilePath();
 

@@ -198,6 +198,7 @@ void CConnectAttempts::TakeConnection(int number, const QDBusMessage &reply)
         attempt.told.profileId = arguments.at(0).value<QDBusObjectPath>().path();
     }
     attempt.connection = arguments.at(attempt.isNew ? 1 : 0).value<QDBusObjectPath>().path();
+    emit Taken(attempt.connection);
     if (attempt.isCancelled) {
         SendEnd(attempt.connection);
     }

@@ -45,6 +45,9 @@ public:
 signals:
     void Changed();
 
+    /** NetworkManager has taken an order to connect, and made this connection for it. */
+    void Taken(const QString &connection);
+
 private slots:
     void TakeReply(QDBusPendingCallWatcher *watcher);
     void TakeMove(const QString &connection);

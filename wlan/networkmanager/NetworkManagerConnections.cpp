@@ -1,5 +1,6 @@
 #include "NetworkManagerConnections.h"
 
+#include "HandConnections.h"
 #include "LivePicture.h"
 #include "NetworkManagerClient.h"
 #include "NetworkSecurity.h"
@@ -51,6 +52,8 @@ CNetworkManagerConnections::CNetworkManagerConnections(CNetworkManagerClient *cl
     connect(m_picture, SIGNAL(Changed()), this, SIGNAL(OnConnectionsChanged()));
     connect(m_picture, SIGNAL(AboutToAskForSign()), this, SLOT(LookWhoWatches()));
     connect(&m_attempts, SIGNAL(Changed()), this, SLOT(TellSoon()));
+    connect(&m_attempts, &CConnectAttempts::Taken, this, &HandConnections::Note);
+    connect(client, &CNetworkManagerClient::Vanished, this, &HandConnections::Forget);
 }
 
 void CNetworkManagerConnections::TellSoon()
@@ -117,16 +120,6 @@ int CNetworkManagerConnections::Refusal()
     return state.mayConnect ? 0 : int(RefusedNotAllowed);
 }
 
-QString CNetworkManagerConnections::DevicePath(const QString &name)
-{
-    for (const NetworkDevice &device : m_picture->Now().state.devices) {
-        if (!name.isEmpty() && device.name == name) {
-            return device.path;
-        }
-    }
-    return QString();
-}
-
 int CNetworkManagerConnections::ConnectProfile(const QString &profileId)
 {
     if (const int refusal = Refusal()) {
@@ -140,7 +133,7 @@ int CNetworkManagerConnections::ConnectProfile(const QString &profileId)
     if (profile.use == ConnectionProfile::UseNoAccount) {
         return RefusedAccount;
     }
-    return m_attempts.Connect(profile.name, profile.id, DevicePath(profile.device));
+    return m_attempts.Connect(profile.name, profile.id, m_picture->Now().state.DevicePath(profile.device));
 }
 
 int CNetworkManagerConnections::ConnectNetwork(const QString &networkId, const QString &key)

@@ -47,7 +47,6 @@ private:
     Q_DISABLE_COPY(CNetworkManagerConnections)
 
     int Refusal();
-    QString DevicePath(const QString &name);
     QString FreeName(const QString &name);
 
     CLivePicture *const m_picture;

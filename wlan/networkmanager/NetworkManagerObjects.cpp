@@ -14,7 +14,7 @@ namespace
 typedef QMap<QDBusObjectPath, NMVariantMapMap> ObjectsReply;
 
 /** What changes all the time and says nothing that anybody asks for. */
-const char *const passingProperties[] = {"LastSeen", "LastScan", "Bitrate", "StateFlags"};
+const char *const passingProperties[] = {"LastSeen", "Bitrate", "StateFlags"};
 
 QStringList PathsIn(const QVariant &value)
 {

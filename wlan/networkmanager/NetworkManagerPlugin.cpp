@@ -1,5 +1,6 @@
 #include "NetworkManagerPlugin.h"
 
+#include "ListFollower.h"
 #include "LivePicture.h"
 #include "NetworkManagerClient.h"
 #include "NetworkManagerConnections.h"
@@ -24,12 +25,14 @@ int CNetworkManagerPlugin::GetLastError()
 
 void CNetworkManagerPlugin::OnDestroy()
 {
+    delete m_follower;
     delete m_order;
     delete m_keeper;
     delete m_connections;
     delete m_service;
     delete m_picture;
     delete m_client;
+    m_follower = nullptr;
     m_order = nullptr;
     m_keeper = nullptr;
     m_connections = nullptr;
@@ -52,6 +55,7 @@ bool CNetworkManagerPlugin::Init()
     m_connections = new CNetworkManagerConnections(m_client, m_picture, nullptr);
     m_keeper = new CPriorityKeeper(m_client, m_picture, UserData::Directory(), nullptr);
     m_order = new CNetworkManagerOrder(m_keeper, nullptr);
+    m_follower = new CListFollower(m_client, m_picture, nullptr);
     return true;
 }
 

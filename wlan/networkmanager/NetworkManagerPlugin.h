@@ -7,6 +7,7 @@
 #include <SiblingPlugin.h>
 #include <ToolkitPlugin.h>
 
+class CListFollower;
 class CLivePicture;
 class CNetworkManagerClient;
 class CNetworkManagerConnections;
@@ -18,7 +19,7 @@ class CPriorityKeeper;
  * Root object of the WLAN plug-in over NetworkManager.
  *
  * From Init to OnDestroy the priority list takes effect on NetworkManager's profiles, whether anybody asks
- * for the service or not. There are services between the two only.
+ * for the service or not, and is followed while the user wants that. There are services between the two only.
  */
 class CNetworkManagerPlugin : public CSiblingPlugin
 {
@@ -51,6 +52,7 @@ private:
     CNetworkManagerConnections *m_connections = nullptr;
     CPriorityKeeper *m_keeper = nullptr;
     CNetworkManagerOrder *m_order = nullptr;
+    CListFollower *m_follower = nullptr;
 };
 
 #endif

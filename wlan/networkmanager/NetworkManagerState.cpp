@@ -59,6 +59,7 @@ void ReadWifi(const QVariantMap &wireless, const QVariantMap &common, NetworkDev
     device->kind = NetworkDevice::Wifi;
     device->capabilities = Number(wireless, "WirelessCapabilities");
     device->accessPoints = wireless.value(QLatin1String("AccessPoints")).toStringList();
+    device->lastScan = wireless.value(QLatin1String("LastScan")).toLongLong();
     device->activeAccessPoint = Path(wireless, "ActiveAccessPoint");
     const QVariantMap *const sources[] = {&wireless, &common};
     for (const QVariantMap *source : sources) {
@@ -179,6 +180,16 @@ QList<NetworkDevice> NetworkManagerState::WifiDevices() const
         }
     }
     return found;
+}
+
+QString NetworkManagerState::DevicePath(const QString &name) const
+{
+    for (const NetworkDevice &device : devices) {
+        if (!name.isEmpty() && device.name == name) {
+            return device.path;
+        }
+    }
+    return QString();
 }
 
 QList<QString> NetworkManagerState::ConnectedProfiles() const

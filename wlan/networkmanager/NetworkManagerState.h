@@ -43,6 +43,9 @@ struct NetworkDevice {
     /** Its address at the factory and the one that it has now. */
     QList<QByteArray> addresses;
     QStringList accessPoints;
+    /** When Wi-Fi last finished looking for networks, by a clock that only NetworkManager has; 0 where that
+     * is not told. */
+    qint64 lastScan = 0;
     /** The station by which it is connected. */
     QString activeAccessPoint;
     QString activeConnection;
@@ -100,6 +103,8 @@ struct NetworkManagerState {
     static ProfilePlace PlaceOf(const QString &path, const NetworkManagerObjects &objects);
 
     QList<NetworkDevice> WifiDevices() const;
+    /** Of the device that the user knows by that name; empty when there is none. */
+    QString DevicePath(const QString &name) const;
     /** The paths of the profiles by which a device is connected now. */
     QList<QString> ConnectedProfiles() const;
 };
