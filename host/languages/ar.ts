@@ -382,6 +382,22 @@
         <translation>وإلا تستعيد كل شبكة الأولوية التي كانت لها قبل هذه القائمة.</translation>
     </message>
     <message>
+        <source>IDS_RULES_KEEPING</source>
+        <translation>إبقاء الترتيب ساريًا عند إغلاق هذه النافذة</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_KEEPING_HINT</source>
+        <translation>يقوم بذلك برنامج بلا نافذة. يبدأ الآن، وفي كل مرة تسجل فيها الدخول.</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_FOLLOWING</source>
+        <translation>التبديل تلقائيًا إلى شبكة أعلى</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_FOLLOWING_HINT</source>
+        <translation>ما إن يمكن استخدام شبكة أعلى في قائمتك. لا تُترك شبكة وصلتها بنفسك، ولا يحدث تبديل أثناء استخدام VPN.</translation>
+    </message>
+    <message>
         <source>IDS_GENERAL_PLUGINS</source>
         <translation>الملحقات</translation>
     </message>

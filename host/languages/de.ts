@@ -382,6 +382,22 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
         <translation>Sonst erhält jedes Netzwerk die Priorität zurück, die es vor dieser Liste hatte.</translation>
     </message>
     <message>
+        <source>IDS_RULES_KEEPING</source>
+        <translation>Reihenfolge auch ohne Fenster einhalten</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_KEEPING_HINT</source>
+        <translation>Das macht ein Programm ohne Fenster. Es startet jetzt und bei jeder Anmeldung.</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_FOLLOWING</source>
+        <translation>Von selbst zu einem höheren Netzwerk wechseln</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_FOLLOWING_HINT</source>
+        <translation>Sobald ein Netzwerk weiter oben in Ihrer Liste verwendet werden kann. Nicht weg von einem Netzwerk, das Sie von Hand verbunden haben, und nicht während einer VPN-Verbindung.</translation>
+    </message>
+    <message>
         <source>IDS_GENERAL_PLUGINS</source>
         <translation>Plugins</translation>
     </message>

@@ -417,6 +417,26 @@ You can use letters, digits and these symbols:
         <translation>Without it, every network gets back the priority that it had before this list.</translation>
     </message>
     <message>
+        <source>IDS_RULES_KEEPING</source>
+        <extracomment>Box to tick</extracomment>
+        <translation>Keep the order in effect when this window is closed</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_KEEPING_HINT</source>
+        <extracomment>Tool tip of that box</extracomment>
+        <translation>A program without a window does it. It starts now, and with each session.</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_FOLLOWING</source>
+        <extracomment>Box to tick. Higher: in the list</extracomment>
+        <translation>Switch to a higher network by itself</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_FOLLOWING_HINT</source>
+        <extracomment>Tool tip of that box</extracomment>
+        <translation>As soon as a network higher in your list can be used. Not away from one that you connected by hand, and not during a VPN.</translation>
+    </message>
+    <message>
         <source>IDS_GENERAL_PLUGINS</source>
         <translation>Plug-ins</translation>
     </message>

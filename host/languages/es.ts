@@ -382,6 +382,22 @@ Puede usar letras, números y estos símbolos:
         <translation>Si no, cada red recupera la prioridad que tenía antes de esta lista.</translation>
     </message>
     <message>
+        <source>IDS_RULES_KEEPING</source>
+        <translation>Mantener el orden con esta ventana cerrada</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_KEEPING_HINT</source>
+        <translation>Lo hace un programa sin ventana. Se inicia ahora y cada vez que inicia sesión.</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_FOLLOWING</source>
+        <translation>Cambiar por sí solo a una red más alta</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_FOLLOWING_HINT</source>
+        <translation>En cuanto se pueda usar una red más alta de su lista. No se deja una red conectada a mano, ni se cambia durante una VPN.</translation>
+    </message>
+    <message>
         <source>IDS_GENERAL_PLUGINS</source>
         <translation>Complementos</translation>
     </message>

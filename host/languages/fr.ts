@@ -382,6 +382,22 @@ Vous pouvez utiliser des lettres, des chiffres et les symboles suivants&#xa0;:
         <translation>Sinon, chaque réseau retrouve la priorité qu’il avait avant cette liste.</translation>
     </message>
     <message>
+        <source>IDS_RULES_KEEPING</source>
+        <translation>Maintenir l’ordre quand cette fenêtre est fermée</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_KEEPING_HINT</source>
+        <translation>Un programme sans fenêtre s’en charge. Il démarre maintenant et à chaque ouverture de session.</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_FOLLOWING</source>
+        <translation>Passer automatiquement à un réseau plus haut</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_FOLLOWING_HINT</source>
+        <translation>Dès qu’un réseau plus haut dans votre liste peut être utilisé. Sans quitter un réseau connecté à la main, ni pendant un VPN.</translation>
+    </message>
+    <message>
         <source>IDS_GENERAL_PLUGINS</source>
         <translation>Modules</translation>
     </message>

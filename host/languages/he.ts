@@ -382,6 +382,22 @@
         <translation>אחרת כל רשת מקבלת בחזרה את העדיפות שהייתה לה לפני הרשימה הזאת.</translation>
     </message>
     <message>
+        <source>IDS_RULES_KEEPING</source>
+        <translation>שמירה על הסדר גם כשהחלון הזה סגור</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_KEEPING_HINT</source>
+        <translation>תוכנית ללא חלון עושה זאת. היא מופעלת עכשיו, ובכל פעם שנכנסים למערכת.</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_FOLLOWING</source>
+        <translation>מעבר אוטומטי לרשת גבוהה יותר</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_FOLLOWING_HINT</source>
+        <translation>ברגע שאפשר להשתמש ברשת גבוהה יותר ברשימה שלך. לא עוזבים רשת שחיברת ידנית, ולא מחליפים בזמן VPN.</translation>
+    </message>
+    <message>
         <source>IDS_GENERAL_PLUGINS</source>
         <translation>תוספים</translation>
     </message>

@@ -382,6 +382,22 @@
         <translation>オフにすると、各ネットワークの優先度はこのリストの前の値に戻ります。</translation>
     </message>
     <message>
+        <source>IDS_RULES_KEEPING</source>
+        <translation>このウィンドウを閉じても順序を守る</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_KEEPING_HINT</source>
+        <translation>ウィンドウのないプログラムが行います。今すぐ、そしてログインのたびに起動します。</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_FOLLOWING</source>
+        <translation>より上のネットワークに自動で切り替える</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_FOLLOWING_HINT</source>
+        <translation>リストでより上のネットワークが使用できるようになったときに切り替えます。手動で接続したネットワークからは切り替えません。VPN の使用中も切り替えません。</translation>
+    </message>
+    <message>
         <source>IDS_GENERAL_PLUGINS</source>
         <translation>プラグイン</translation>
     </message>

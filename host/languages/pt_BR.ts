@@ -382,6 +382,22 @@ Você pode usar letras, números e estes símbolos:
         <translation>Sem isso, cada rede recupera a prioridade que tinha antes desta lista.</translation>
     </message>
     <message>
+        <source>IDS_RULES_KEEPING</source>
+        <translation>Manter a ordem com esta janela fechada</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_KEEPING_HINT</source>
+        <translation>Um programa sem janela faz isso. Ele inicia agora e cada vez que você entra na sessão.</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_FOLLOWING</source>
+        <translation>Mudar sozinho para uma rede mais acima</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_FOLLOWING_HINT</source>
+        <translation>Assim que uma rede mais acima na sua lista puder ser usada. Não sai de uma rede conectada à mão, nem durante uma VPN.</translation>
+    </message>
+    <message>
         <source>IDS_GENERAL_PLUGINS</source>
         <translation>Plug-ins</translation>
     </message>

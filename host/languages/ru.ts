@@ -382,6 +382,22 @@
         <translation>Иначе каждая сеть получит обратно приоритет, который был у неё до этого списка.</translation>
     </message>
     <message>
+        <source>IDS_RULES_KEEPING</source>
+        <translation>Соблюдать порядок и при закрытом окне</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_KEEPING_HINT</source>
+        <translation>Это делает программа без окна. Она запускается сейчас и при каждом входе в систему.</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_FOLLOWING</source>
+        <translation>Самостоятельно переключаться на сеть выше</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_FOLLOWING_HINT</source>
+        <translation>Как только можно использовать сеть выше в вашем списке. Сеть, подключённая вручную, не сменяется, и во время VPN переключений нет.</translation>
+    </message>
+    <message>
         <source>IDS_GENERAL_PLUGINS</source>
         <translation>Модули</translation>
     </message>

@@ -382,6 +382,22 @@
         <translation>否则，每个网络都会恢复此列表之前的优先级。</translation>
     </message>
     <message>
+        <source>IDS_RULES_KEEPING</source>
+        <translation>关闭此窗口后仍保持此顺序</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_KEEPING_HINT</source>
+        <translation>由一个没有窗口的程序完成。它现在启动，以后每次登录时也会启动。</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_FOLLOWING</source>
+        <translation>自动切换到更靠前的网络</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_FOLLOWING_HINT</source>
+        <translation>列表中更靠前的网络可用时立即切换。不会离开您手动连接的网络，也不会在使用 VPN 时切换。</translation>
+    </message>
+    <message>
         <source>IDS_GENERAL_PLUGINS</source>
         <translation>插件</translation>
     </message>

@@ -10,7 +10,23 @@
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
-RulesPage::RulesPage() = default;
+namespace
+{
+
+QCheckBox *AddBox(const char *name, bool isChecked, QVBoxLayout *layout)
+{
+    QCheckBox *box = new QCheckBox;
+    box->setObjectName(QLatin1String(name));
+    box->setChecked(isChecked);
+    layout->addWidget(box);
+    // Practice networks are not ruled.
+    box->setVisible(PluginObjects::Ordering());
+    return box;
+}
+
+} // namespace
+
+RulesPage::RulesPage(const AgentStart &agent) : m_agent(agent) {}
 
 QString RulesPage::Title() const
 {
@@ -35,14 +51,16 @@ bool RulesPage::Show(QWidget *place)
     connect(m_newBox, QOverload<int>::of(&QComboBox::activated), this, &RulesPage::ChooseNewNetworks);
     layout->addWidget(m_newBox);
     layout->addSpacing(12);
-    m_rulingBox = new QCheckBox;
-    m_rulingBox->setObjectName(QLatin1String("rulingBox"));
     m_wasRuling = ListRules::IsRuling();
-    m_rulingBox->setChecked(m_wasRuling);
-    // Practice networks are not ruled.
-    m_rulingBox->setVisible(PluginObjects::Ordering());
+    m_rulingBox = AddBox("rulingBox", m_wasRuling, layout);
     connect(m_rulingBox, &QCheckBox::clicked, this, &RulesPage::ChooseRuling);
-    layout->addWidget(m_rulingBox);
+    m_agentBefore = m_agent.Now();
+    m_keepingBox = AddBox("keepingBox", m_agentBefore.IsOn(), layout);
+    connect(m_keepingBox, &QCheckBox::clicked, this, &RulesPage::ChooseKeeping);
+    m_wasFollowing = ListRules::IsFollowing();
+    m_followingBox = AddBox("followingBox", m_wasFollowing, layout);
+    connect(m_followingBox, &QCheckBox::clicked, this, &RulesPage::ChooseFollowing);
+    EnableBoxes();
     layout->addStretch();
 
     QVBoxLayout *placeLayout = new QVBoxLayout(place);
@@ -67,6 +85,12 @@ void RulesPage::Close(Answer answer)
         if (ListRules::IsRuling() != m_wasRuling) {
             ListRules::SetRuling(m_wasRuling);
         }
+        if (m_agent.Now().IsOn() != m_agentBefore.IsOn()) {
+            m_agent.Restore(m_agentBefore);
+        }
+        if (ListRules::IsFollowing() != m_wasFollowing) {
+            ListRules::SetFollowing(m_wasFollowing);
+        }
     }
     delete m_page.data();
 }
@@ -88,6 +112,10 @@ void RulesPage::Retranslate()
     }
     m_rulingBox->setText(DashboardText("IDS_RULES_RULING"));
     m_rulingBox->setToolTip(DashboardText("IDS_RULES_RULING_HINT"));
+    m_keepingBox->setText(DashboardText("IDS_RULES_KEEPING"));
+    m_keepingBox->setToolTip(DashboardText("IDS_RULES_KEEPING_HINT"));
+    m_followingBox->setText(DashboardText("IDS_RULES_FOLLOWING"));
+    m_followingBox->setToolTip(DashboardText("IDS_RULES_FOLLOWING_HINT"));
 }
 
 void RulesPage::ChooseNewNetworks(int index)
@@ -105,5 +133,29 @@ void RulesPage::ChooseRuling(bool isRuling)
         qWarning("whether the list rules can't be kept in %s",
                  UserData::Directory().toLocal8Bit().constData());
         m_rulingBox->setChecked(!isRuling);
+    }
+    EnableBoxes();
+}
+
+void RulesPage::EnableBoxes()
+{
+    m_keepingBox->setEnabled(m_rulingBox->isChecked());
+    m_followingBox->setEnabled(m_rulingBox->isChecked());
+}
+
+void RulesPage::ChooseKeeping(bool isKeeping)
+{
+    if (!(isKeeping ? m_agent.TurnOn() : m_agent.TurnOff())) {
+        qWarning("%s can't be changed", AgentStart::FilePath().toLocal8Bit().constData());
+        m_keepingBox->setChecked(!isKeeping);
+    }
+}
+
+void RulesPage::ChooseFollowing(bool isFollowing)
+{
+    if (!ListRules::SetFollowing(isFollowing)) {
+        qWarning("whether the list is followed can't be kept in %s",
+                 UserData::Directory().toLocal8Bit().constData());
+        m_followingBox->setChecked(!isFollowing);
     }
 }

@@ -3,6 +3,7 @@
 
 #include "SettingsPage.h"
 
+#include <AgentStart.h>
 #include <ListRules.h>
 
 #include <QObject>
@@ -18,7 +19,8 @@ class RulesPage : public QObject, public SettingsPage
     Q_OBJECT
 
 public:
-    RulesPage();
+    /** @param agent  what keeps the order in effect without a window. */
+    explicit RulesPage(const AgentStart &agent);
 
     QString Title() const override;
     bool Show(QWidget *place) override;
@@ -29,14 +31,23 @@ public:
 private slots:
     void ChooseNewNetworks(int index);
     void ChooseRuling(bool isRuling);
+    void ChooseKeeping(bool isKeeping);
+    void ChooseFollowing(bool isFollowing);
 
 private:
+    void EnableBoxes();
+
     QPointer<QWidget> m_page;
     ListRules::NewNetworks m_newBefore = ListRules::NewAtTheEnd;
     QLabel *m_newLabel = nullptr;
     QComboBox *m_newBox = nullptr;
     bool m_wasRuling = true;
     QCheckBox *m_rulingBox = nullptr;
+    AgentStart m_agent;
+    AgentStart::State m_agentBefore;
+    QCheckBox *m_keepingBox = nullptr;
+    bool m_wasFollowing = false;
+    QCheckBox *m_followingBox = nullptr;
 };
 
 #endif

@@ -8,15 +8,18 @@
 #include "WindowProblems.h"
 
 #include <AccessibleRows.h>
+#include <AgentStart.h>
 #include <Appearance.h>
 #include <Banner.h>
 #include <Change.h>
+#include <CommonUtils.h>
 #include <ContractNumbers.h>
 #include <DashboardLanguage.h>
 #include <DashboardText.h>
 #include <DialogParts.h>
 #include <GeneralPage.h>
 #include <IConnectionPlugin.h>
+#include <Installation.h>
 #include <ListKeeper.h>
 #include <ListRules.h>
 #include <NetworkDelegate.h>
@@ -69,6 +72,14 @@ QLabel *MakeLabel(const char *name, qreal sizeFactor, bool isBold)
     font.setBold(isBold);
     label->setFont(font);
     return label;
+}
+
+/** Finds what this program finds. */
+AgentStart Agent()
+{
+    const QString path = CommonUtils::GetPluginLibraryPath();
+    const bool isUsual = path == Installation::LibraryPath(QCoreApplication::applicationDirPath());
+    return AgentStart(QCoreApplication::applicationFilePath(), isUsual ? QString() : path);
 }
 
 } // namespace
@@ -592,7 +603,7 @@ void MainWindow::OpenSettings()
     m_keeper->BeginOpening();
     m_settings = new SettingsDialog(this);
     m_settings->AddPage(new GeneralPage(m_language, m_plugins));
-    m_settings->AddPage(new RulesPage);
+    m_settings->AddPage(new RulesPage(Agent()));
     int firstPluginPage = 0;
     const QList<PluginHost::Plugin> plugins = m_plugins->Plugins();
     int pages = 2;

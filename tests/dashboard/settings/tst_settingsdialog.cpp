@@ -1,6 +1,7 @@
 #include "FakeConnections.h"
 #include "FakePage.h"
 
+#include <AgentStart.h>
 #include <DashboardLanguage.h>
 #include <GeneralPage.h>
 #include <HostControl.h>
@@ -20,6 +21,8 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
+#include <QSettings>
+#include <QStandardPaths>
 #include <QtTest>
 
 namespace
@@ -48,6 +51,28 @@ QString ProblemOf(const QWidget *dialog)
     const QLabel *label = dialog->findChild<QLabel *>(QLatin1String("pageProblem"));
     return label ? label->text() : QString();
 }
+
+/** A program that ends at once in the agent's place. */
+AgentStart NoAgent()
+{
+    return AgentStart(QStandardPaths::findExecutable("true"), QString());
+}
+
+/** Networks that can be ruled, for as long as this lives. */
+class WithRules
+{
+public:
+    explicit WithRules(FakeConnections *connections) : m_container(nullptr, connections)
+    {
+        HostControl::SetPluginContainer(&m_container);
+    }
+    ~WithRules() { HostControl::SetPluginContainer(nullptr); }
+
+private:
+    Q_DISABLE_COPY(WithRules)
+
+    WithConnections m_container;
+};
 
 } // namespace
 
@@ -85,6 +110,10 @@ private slots:
     void PlaceOfNewNetworksThatCannotBeKeptIsNotShown();
     void RuleIsKeptUnlessCancelled_data();
     void RuleIsKeptUnlessCancelled();
+    void AgentIsStartedWithTheSessionUnlessCancelled_data();
+    void AgentIsStartedWithTheSessionUnlessCancelled();
+    void AgentThatCannotBeStartedIsShownSo();
+    void WhatNeedsTheRuleIsOffWithoutIt();
     void RuleIsOfferedWhereTheListCanRule();
     void GeneralPageTellsOfPlugins();
 
@@ -95,6 +124,7 @@ private:
 void SettingsDialogTest::init()
 {
     qputenv("XDG_DATA_HOME", m_directory.Path().toLocal8Bit());
+    qputenv("XDG_CONFIG_HOME", m_directory.Path().toLocal8Bit());
     HostControl::SetLanguageDirectory(QLatin1String(BUILD_DIRECTORY "/share/priority-dashboard/languages"));
     QVERIFY(DashboardLanguage::Apply("en"));
 }
@@ -383,7 +413,7 @@ void SettingsDialogTest::PlaceOfNewNetworksIsKeptUnlessCancelled()
     QFETCH(bool, isOk);
     SettingsDialog dialog(nullptr);
     QVERIFY(ListRules::SetPlaceOfNewNetworks(ListRules::NewAtTheTop));
-    dialog.AddPage(new RulesPage);
+    dialog.AddPage(new RulesPage(NoAgent()));
     dialog.SelectPage(0);
     dialog.show();
     QComboBox *box = dialog.findChild<QComboBox *>("newNetworksBox");
@@ -397,7 +427,7 @@ void SettingsDialogTest::PlaceOfNewNetworksIsKeptUnlessCancelled()
 void SettingsDialogTest::PlaceOfNewNetworksThatCannotBeKeptIsNotShown()
 {
     SettingsDialog dialog(nullptr);
-    dialog.AddPage(new RulesPage);
+    dialog.AddPage(new RulesPage(NoAgent()));
     dialog.SelectPage(0);
     dialog.show();
     QComboBox *box = dialog.findChild<QComboBox *>("newNetworksBox");
@@ -411,35 +441,101 @@ void SettingsDialogTest::PlaceOfNewNetworksThatCannotBeKeptIsNotShown()
 
 void SettingsDialogTest::RuleIsKeptUnlessCancelled_data()
 {
+    QTest::addColumn<QString>("box");
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<bool>("isOk");
+    for (const bool isOk : {true, false}) {
+        const char *answer = isOk ? "OK" : "Cancel";
+        QTest::addRow("ruling, %s", answer) << "rulingBox"
+                                            << "ruling" << isOk;
+        QTest::addRow("following, %s", answer) << "followingBox"
+                                               << "following" << isOk;
+    }
+}
+
+void SettingsDialogTest::RuleIsKeptUnlessCancelled()
+{
+    QFETCH(QString, box);
+    QFETCH(QString, key);
+    QFETCH(bool, isOk);
+    FakeConnections connections;
+    const WithRules rules(&connections);
+    QVERIFY(ListRules::SetRuling(true) && ListRules::SetFollowing(true));
+    SettingsDialog dialog(nullptr);
+    dialog.AddPage(new RulesPage(NoAgent()));
+    dialog.SelectPage(0);
+    dialog.show();
+    QCheckBox *shown = dialog.findChild<QCheckBox *>(box);
+    QVERIFY(shown->isVisible() && shown->isChecked());
+    QTest::keyClick(shown, Qt::Key_Space);
+    const auto isKept = [&key] {
+        return QSettings(ListRules::FilePath(), QSettings::IniFormat).value(key).toString() == "yes";
+    };
+    QVERIFY(!isKept());
+    dialog.done(isOk ? QDialog::Accepted : QDialog::Rejected);
+    QCOMPARE(isKept(), !isOk);
+}
+
+void SettingsDialogTest::AgentIsStartedWithTheSessionUnlessCancelled_data()
+{
     QTest::addColumn<bool>("isOk");
     QTest::newRow("OK") << true;
     QTest::newRow("Cancel") << false;
 }
 
-void SettingsDialogTest::RuleIsKeptUnlessCancelled()
+void SettingsDialogTest::AgentIsStartedWithTheSessionUnlessCancelled()
 {
     QFETCH(bool, isOk);
     FakeConnections connections;
-    WithConnections container(nullptr, &connections);
-    HostControl::SetPluginContainer(&container);
-    SettingsDialog dialog(nullptr);
+    const WithRules rules(&connections);
     QVERIFY(ListRules::SetRuling(true));
-    dialog.AddPage(new RulesPage);
+    SettingsDialog dialog(nullptr);
+    dialog.AddPage(new RulesPage(NoAgent()));
     dialog.SelectPage(0);
     dialog.show();
-    QCheckBox *box = dialog.findChild<QCheckBox *>("rulingBox");
-    QVERIFY(box->isVisible() && box->isChecked());
+    QCheckBox *box = dialog.findChild<QCheckBox *>("keepingBox");
+    QVERIFY(box->isVisible() && !box->isChecked());
     QTest::keyClick(box, Qt::Key_Space);
-    QVERIFY(!ListRules::IsRuling());
+    QVERIFY(QFile::exists(AgentStart::FilePath()));
     dialog.done(isOk ? QDialog::Accepted : QDialog::Rejected);
-    QCOMPARE(ListRules::IsRuling(), !isOk);
-    HostControl::SetPluginContainer(nullptr);
+    QCOMPARE(QFile::exists(AgentStart::FilePath()), isOk);
+    QFile::remove(AgentStart::FilePath());
+}
+
+void SettingsDialogTest::AgentThatCannotBeStartedIsShownSo()
+{
+    FakeConnections connections;
+    const WithRules rules(&connections);
+    m_directory.Write("a file", "");
+    qputenv("XDG_CONFIG_HOME", m_directory.FilePath("a file").toLocal8Bit());
+    SettingsDialog dialog(nullptr);
+    dialog.AddPage(new RulesPage(NoAgent()));
+    dialog.SelectPage(0);
+    dialog.show();
+    QCheckBox *box = dialog.findChild<QCheckBox *>("keepingBox");
+    QTest::keyClick(box, Qt::Key_Space);
+    QVERIFY(!box->isChecked());
+    qputenv("XDG_CONFIG_HOME", m_directory.Path().toLocal8Bit());
+}
+
+void SettingsDialogTest::WhatNeedsTheRuleIsOffWithoutIt()
+{
+    FakeConnections connections;
+    const WithRules rules(&connections);
+    QVERIFY(ListRules::SetRuling(true));
+    SettingsDialog dialog(nullptr);
+    dialog.AddPage(new RulesPage(NoAgent()));
+    dialog.SelectPage(0);
+    dialog.show();
+    QTest::keyClick(dialog.findChild<QCheckBox *>("rulingBox"), Qt::Key_Space);
+    QVERIFY(!dialog.findChild<QCheckBox *>("keepingBox")->isEnabled());
+    QVERIFY(!dialog.findChild<QCheckBox *>("followingBox")->isEnabled());
 }
 
 void SettingsDialogTest::RuleIsOfferedWhereTheListCanRule()
 {
     SettingsDialog dialog(nullptr);
-    dialog.AddPage(new RulesPage);
+    dialog.AddPage(new RulesPage(NoAgent()));
     dialog.SelectPage(0);
     dialog.show();
     QVERIFY(!dialog.findChild<QCheckBox *>("rulingBox")->isVisible());
