@@ -1,9 +1,12 @@
 #include <AgentStart.h>
 #include <TemporaryDirectory.h>
 
+#include <QDir>
 #include <QFile>
+#include <QProcess>
 #include <QScopedPointer>
 #include <QStandardPaths>
+#include <QSysInfo>
 #include <QtTest>
 
 /** The entry that has sessions start the agent, and the life of the agent itself. */
@@ -25,6 +28,7 @@ private slots:
     void AgentRunsFromOnToOff();
     void AgentThatHasJustBeenStartedIsEnded();
     void AgentThatRanBeforeGoesOn();
+    void AnotherProcessWithTheNumberOfTheAgentIsNotEnded();
 
 private:
     static QString Harmless() { return QStandardPaths::findExecutable("true"); }
@@ -158,6 +162,23 @@ void AgentStartTest::AgentThatRanBeforeGoesOn()
     QVERIFY(agent.Restore(before));
     QTRY_VERIFY(agent.Now().isRunning);
     QVERIFY(agent.TurnOff());
+}
+
+void AgentStartTest::AnotherProcessWithTheNumberOfTheAgentIsNotEnded()
+{
+    QProcess other;
+    other.start("sh", {"-c", "read line", "sh", "--agent"});
+    QVERIFY(other.waitForStarted());
+    const QByteArray lock = QByteArray::number(other.processId()) + "\npriority-dashboard\n" +
+                            QSysInfo::machineHostName().toUtf8() + "\n";
+    QVERIFY(QDir().mkpath(m_directory->FilePath("priority-dashboard")));
+    m_directory->Write("priority-dashboard/agent.use", lock);
+    AgentStart agent = Real();
+    QVERIFY(!agent.Now().isRunning);
+    QVERIFY(agent.TurnOff());
+    QVERIFY(!other.waitForFinished(300));
+    other.closeWriteChannel();
+    QVERIFY(other.waitForFinished());
 }
 
 QTEST_GUILESS_MAIN(AgentStartTest)
