@@ -208,5 +208,7 @@ void AgentStart::End()
     // Whoever is started next is not to meet this one.
     QLockFile lock(LockPath());
     lock.setStaleLockTime(0);
-    lock.tryLock(longestEndMilliseconds);
+    if (!lock.tryLock(longestEndMilliseconds) && lock.error() == QLockFile::LockFailedError) {
+        qWarning("the agent has been asked to end and has not ended yet");
+    }
 }
