@@ -238,7 +238,8 @@ QString InUseText(const Overview &overview, const ActiveConnection &inUse)
 {
     const Overview::Entry *listed = overview.InUse();
     if (listed && listed == overview.Choice()) {
-        return DashboardText("IDS_HEAD_FIRST");
+        // "Usable" is not the word for what leads nowhere.
+        return ConnectivityText(overview).isEmpty() ? DashboardText("IDS_HEAD_FIRST") : QString();
     }
     if (inUse.type == QLatin1String("0")) {
         return DashboardText("IDS_HEAD_OTHER_KIND");

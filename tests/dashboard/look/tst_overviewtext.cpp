@@ -139,9 +139,9 @@ void OverviewTextTest::HeadTellsWhatKeepsTheTrafficFromTheInternet_data()
     QTest::newRow("nothing") << int(ConnectionState::ConnectivityFull) << "In use now: Home" << first;
     QTest::newRow("not checked") << int(ConnectionState::ConnectivityNotKnown) << "In use now: Home" << first;
     QTest::newRow("portal") << int(ConnectionState::ConnectivityPortal) << "In use now: Home, sign-in needed"
-                            << "This network wants you to sign in on a web page. " + first;
+                            << "This network wants you to sign in on a web page.";
     QTest::newRow("limited") << int(ConnectionState::ConnectivityLimited) << "In use now: Home, no internet"
-                             << "The network answers, the internet behind it does not. " + first;
+                             << "The network answers, the internet behind it does not.";
 }
 
 void OverviewTextTest::HeadTellsWhatKeepsTheTrafficFromTheInternet()
