@@ -173,6 +173,11 @@ struct ConnectionProfile {
     qint64 lastConnected = 0;
     bool connectsByItself = false;
     bool isHidden = false;
+    /**
+     * Names the profile for as long as there is one, whatever name it is given and whichever program is
+     * started anew; never shown. Empty where the connection manager has nothing of the kind.
+     */
+    QString lastingId;
 };
 
 /** One network in range: all stations of one name that are protected in one way. */

@@ -24,6 +24,10 @@
  * only while somebody looks, not while the window is minimised, and read once when somebody looks again:
  * while there is a connection, a plug-in may ask its connection manager for a sign now and then.
  *
+ * It may have a second signal, OnProfilesChanged(), without arguments, emitted in the same way when a profile
+ * has come, has gone or has been given another name. Nothing is asked for the sake of who is connected to it,
+ * so a program may be for as long as it runs.
+ *
  * All calls come on the GUI thread. None waits: what is told comes from memory, what is ordered is begun, and
  * the signal tells how it goes on. What is told at one time is of one time. Outputs belong to the caller;
  * they are replaced, and a null one makes the operation do nothing. Nothing is thrown across this interface.

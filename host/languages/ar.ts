@@ -1054,6 +1054,10 @@
         <translation>إزالة %1 من الشبكات</translation>
     </message>
     <message>
+        <source>IDS_CHANGE_REPLACED</source>
+        <translation>حلّت %2 محلّ %1</translation>
+    </message>
+    <message>
         <source>IDS_CHANGE_MOVED_UP</source>
         <translation>نقل %1 إلى أعلى</translation>
     </message>
@@ -1110,6 +1114,10 @@
         <source>IDS_PLAN_REMOVE_MANY</source>
         <extracomment>What will be done, before it is done. %1: a number, two or more</extracomment>
         <translation>ستُزال %1 من الشبكات.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_REPLACE</source>
+        <translation>ستحلّ %2 محلّ %1.</translation>
     </message>
     <message>
         <source>IDS_PLAN_MOVE_UP</source>

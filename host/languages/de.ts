@@ -1055,6 +1055,10 @@ Erwartet: %3</translation>
         <translation>%1 Netzwerke entfernt</translation>
     </message>
     <message>
+        <source>IDS_CHANGE_REPLACED</source>
+        <translation>%1 durch %2 ersetzt</translation>
+    </message>
+    <message>
         <source>IDS_CHANGE_MOVED_UP</source>
         <translation>%1 nach oben verschoben</translation>
     </message>
@@ -1111,6 +1115,10 @@ Erwartet: %3</translation>
         <source>IDS_PLAN_REMOVE_MANY</source>
         <extracomment>What will be done, before it is done. %1: a number, two or more</extracomment>
         <translation>%1 Netzwerke werden entfernt.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_REPLACE</source>
+        <translation>%1 wird durch %2 ersetzt.</translation>
     </message>
     <message>
         <source>IDS_PLAN_MOVE_UP</source>

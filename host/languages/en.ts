@@ -1120,6 +1120,11 @@ Expected: %3</translation>
         <translation>Removed %1 networks</translation>
     </message>
     <message>
+        <source>IDS_CHANGE_REPLACED</source>
+        <extracomment>%1 and %2: names of networks; %2 now stands where %1 stood</extracomment>
+        <translation>Replaced %1 by %2</translation>
+    </message>
+    <message>
         <source>IDS_CHANGE_MOVED_UP</source>
         <extracomment>%1: a network</extracomment>
         <translation>Moved %1 up</translation>
@@ -1183,6 +1188,11 @@ Expected: %3</translation>
         <source>IDS_PLAN_REMOVE_MANY</source>
         <extracomment>What will be done, before it is done. %1: a number, two or more</extracomment>
         <translation>%1 networks will be removed.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_REPLACE</source>
+        <extracomment>%1 and %2: names of networks; %2 will stand where %1 stands</extracomment>
+        <translation>%1 will be replaced by %2.</translation>
     </message>
     <message>
         <source>IDS_PLAN_MOVE_UP</source>

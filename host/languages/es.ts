@@ -1055,6 +1055,10 @@ Esperado: %3</translation>
         <translation>%1 redes quitadas</translation>
     </message>
     <message>
+        <source>IDS_CHANGE_REPLACED</source>
+        <translation>%1 reemplazada por %2</translation>
+    </message>
+    <message>
         <source>IDS_CHANGE_MOVED_UP</source>
         <translation>%1 movida hacia arriba</translation>
     </message>
@@ -1111,6 +1115,10 @@ Esperado: %3</translation>
         <source>IDS_PLAN_REMOVE_MANY</source>
         <extracomment>What will be done, before it is done. %1: a number, two or more</extracomment>
         <translation>Se quitarán %1 redes.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_REPLACE</source>
+        <translation>%1 se reemplazará por %2.</translation>
     </message>
     <message>
         <source>IDS_PLAN_MOVE_UP</source>

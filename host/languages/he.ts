@@ -1054,6 +1054,10 @@
         <translation>הסרת %1 רשתות</translation>
     </message>
     <message>
+        <source>IDS_CHANGE_REPLACED</source>
+        <translation>הרשת %1 הוחלפה ברשת %2</translation>
+    </message>
+    <message>
         <source>IDS_CHANGE_MOVED_UP</source>
         <translation>העברת %1 למעלה</translation>
     </message>
@@ -1110,6 +1114,10 @@
         <source>IDS_PLAN_REMOVE_MANY</source>
         <extracomment>What will be done, before it is done. %1: a number, two or more</extracomment>
         <translation>יוסרו %1 רשתות.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_REPLACE</source>
+        <translation>הרשת %1 תוחלף ברשת %2.</translation>
     </message>
     <message>
         <source>IDS_PLAN_MOVE_UP</source>

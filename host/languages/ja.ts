@@ -1055,6 +1055,10 @@
         <translation>%1 個のネットワークを削除</translation>
     </message>
     <message>
+        <source>IDS_CHANGE_REPLACED</source>
+        <translation>%1 を %2 に置き換え</translation>
+    </message>
+    <message>
         <source>IDS_CHANGE_MOVED_UP</source>
         <translation>%1 を上へ移動</translation>
     </message>
@@ -1111,6 +1115,10 @@
         <source>IDS_PLAN_REMOVE_MANY</source>
         <extracomment>What will be done, before it is done. %1: a number, two or more</extracomment>
         <translation>%1 個のネットワークが削除されます。</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_REPLACE</source>
+        <translation>%1 が %2 に置き換わります。</translation>
     </message>
     <message>
         <source>IDS_PLAN_MOVE_UP</source>

@@ -1055,6 +1055,10 @@
         <translation>Убрано сетей: %1</translation>
     </message>
     <message>
+        <source>IDS_CHANGE_REPLACED</source>
+        <translation>Сеть %1 заменена сетью %2</translation>
+    </message>
+    <message>
         <source>IDS_CHANGE_MOVED_UP</source>
         <translation>Сеть %1 перемещена вверх</translation>
     </message>
@@ -1111,6 +1115,10 @@
         <source>IDS_PLAN_REMOVE_MANY</source>
         <extracomment>What will be done, before it is done. %1: a number, two or more</extracomment>
         <translation>Будет убрано сетей: %1.</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_REPLACE</source>
+        <translation>Сеть %1 будет заменена сетью %2.</translation>
     </message>
     <message>
         <source>IDS_PLAN_MOVE_UP</source>

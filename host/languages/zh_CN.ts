@@ -1055,6 +1055,10 @@
         <translation>移除 %1 个网络</translation>
     </message>
     <message>
+        <source>IDS_CHANGE_REPLACED</source>
+        <translation>将 %1 替换为 %2</translation>
+    </message>
+    <message>
         <source>IDS_CHANGE_MOVED_UP</source>
         <translation>上移 %1</translation>
     </message>
@@ -1111,6 +1115,10 @@
         <source>IDS_PLAN_REMOVE_MANY</source>
         <extracomment>What will be done, before it is done. %1: a number, two or more</extracomment>
         <translation>将移除 %1 个网络。</translation>
+    </message>
+    <message>
+        <source>IDS_PLAN_REPLACE</source>
+        <translation>%1 将替换为 %2。</translation>
     </message>
     <message>
         <source>IDS_PLAN_MOVE_UP</source>

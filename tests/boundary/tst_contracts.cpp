@@ -152,8 +152,8 @@ const Shape shapes[] = {
      "TTTTTTnnbb"},
     {"ConnectionProfile",
      "id name type network security device use signal failure failedAt lastConnected connectsByItself "
-     "isHidden",
-     "TTTTTTnnnwwbb"},
+     "isHidden lastingId",
+     "TTTTTTnnnwwbbT"},
     {"VisibleNetwork", "id name security protection signal profileIds isInUse", "TTTnnTb"},
     {"ConnectAttempt", "name profileId stage failedStage failure", "TTnnn"},
     {"OrderChange", "name before after", "Tnn"},

@@ -51,6 +51,7 @@ public:
 
 signals:
     void OnConnectionsChanged();
+    void OnProfilesChanged();
     void OnOrderChanged();
 };
 

@@ -47,14 +47,15 @@ const char *const userDirectory = "priority-dashboard";
 /** Names of the sample networks, and what stands in the new-network dialog's boxes. */
 const char *const values[] = {longName, "Home", "Office", "Café", "شبكة المنزل", "Company", "Old printer",
                               "Mobile broadband", "Neighbour", "Library", "Workshop", "Campus", "WPA2PSK",
-                              "WPAPSK", "WPA2(EAP)", "WPA(EAP)", "IEEE 802.1X", "open", "shared", "none",
-                              "WEP", "CCMP", "TKIP", "AUTO", "SIM", "AKA", "NetworkManager",
+                              "WPAPSK", "WPA2(EAP)", "WPA(EAP)", "IEEE 802.1X", "open", "Shop", "shared",
+                              "none", "WEP", "CCMP", "TKIP", "AUTO", "SIM", "AKA", "NetworkManager",
                               "Guest house at the upper end of the long road",
                               // The month of the states that are kept, in the words of Qt.
                               "Mar"};
 
 /** The states of the list that are kept, oldest first: every kind of change is among them. */
 const char *const states[] = {"",
+                              "Library",
                               "Home",
                               "Home, Office, Café, Company",
                               "Office, Home, Café, Company",
@@ -70,9 +71,9 @@ const char *const states[] = {"",
                               "Company, Home, Office, Guest house at the upper end of the long road",
                               "Company, Home, Office",
                               "Company, Home, Office"};
-const int stateInForce = 12;
+const int stateInForce = 13;
 /** The state that came about by going back to that one. */
-const int stateOfReturn = 14;
+const int stateOfReturn = 15;
 
 QStringList States()
 {
@@ -228,9 +229,9 @@ const Screens::Screen Screens::screens[] = {
     {"history, not writable", &Screens::ShowHistoryNotWritable, nullptr},
     {"undo, history held by another", &Screens::ShowUndoOfHeldHistory, nullptr},
     {"undo, list not written", &Screens::ShowUndoNotWritten, nullptr},
-    {"restore dialog", &Screens::ShowRestore, "4"},
-    {"restore dialog, list as it is", &Screens::ShowRestore, "12"},
-    {"restore dialog, list like now", &Screens::ShowRestore, "14"},
+    {"restore dialog", &Screens::ShowRestore, "5"},
+    {"restore dialog, list as it is", &Screens::ShowRestore, "13"},
+    {"restore dialog, list like now", &Screens::ShowRestore, "15"},
     {"restore dialog, list not written", &Screens::ShowRestoreNotWritten, nullptr},
     {"restore dialog, state lost", &Screens::ShowRestoreOfLostState, nullptr},
     {"restore dialog, history damaged", &Screens::ShowRestoreWithoutHistory, nullptr},
@@ -243,6 +244,8 @@ const Screens::Screen Screens::screens[] = {
      "Café, Office, Home, Old printer, Library, Workshop, Company"},
     {"import dialog, one moves to the top", &Screens::ShowImport,
      "Office, Home, Café, Old printer, Library, Workshop, Company"},
+    {"import dialog, one in the place of another", &Screens::ShowImport,
+     "Home, Café, Office, Shop, Library, Workshop, Company"},
     {"import dialog, many added and removed", &Screens::ShowImport, "Home, Office, Home/2, Office/2"},
     {"import dialog, nothing to import", &Screens::ShowImport, importedOver},
     {"import dialog, list not written", &Screens::ShowImportNotWritten, imported},

@@ -37,6 +37,8 @@ private slots:
     void AgentKeepsTheOrderUntilItIsEnded_data();
     void AgentKeepsTheOrderUntilItIsEnded();
     void AgentWaitsForNetworkManager();
+    void ProfileThatIsRenamedKeepsItsPlace_data();
+    void ProfileThatIsRenamedKeepsItsPlace();
     void SecondAgentIsRefused();
     void AgentThatWasKilledIsFollowedByAnother();
     void OrderWithoutNetworkManagerIsTold_data();
@@ -256,6 +258,40 @@ void tst_networkmanagercommands::AgentWaitsForNetworkManager()
     QTRY_VERIFY_WITH_TIMEOUT(m_fake->PriorityOf(home) > 0, 30000);
     agent.terminate();
     QCOMPARE(OutcomeOf(&agent).status, 0);
+}
+
+void tst_networkmanagercommands::ProfileThatIsRenamedKeepsItsPlace_data()
+{
+    QTest::addColumn<bool>("isAgentThere");
+    QTest::newRow("while an agent runs") << true;
+    QTest::newRow("while nothing runs") << false;
+}
+
+void tst_networkmanagercommands::ProfileThatIsRenamedKeepsItsPlace()
+{
+    QFETCH(bool, isAgentThere);
+    const QString home = AddProfile("Home", "HomeNet");
+    const QString coffee = AddProfile("Coffee", "CoffeeNet");
+    QVERIFY(m_fake->Appear());
+    SetList("Home", "Coffee");
+    QCOMPARE(RunDashboard({"--apply"}, Environment()).status, 0);
+    QProcess agent;
+    if (isAgentThere) {
+        StartAgent(&agent);
+        QTRY_VERIFY_WITH_TIMEOUT(m_fake->CallCount("GetManagedObjects") > 1, 30000);
+    }
+    m_fake->SetSetting(home, "connection", "id", QString("Flat"));
+    const auto list = [this] {
+        return RunDashboard({"--list"}, Environment()).out;
+    };
+    if (!isAgentThere) {
+        QCOMPARE(list(), QString("1\t1\tHome\n2\t1\tCoffee\n"));
+        QCOMPARE(RunDashboard({"--apply"}, Environment()).out, QString());
+    }
+    QTRY_COMPARE_WITH_TIMEOUT(list(), QString("1\t1\tFlat\n2\t1\tCoffee\n"), 30000);
+    agent.terminate();
+    agent.waitForFinished();
+    QVERIFY(m_fake->PriorityOf(home) > m_fake->PriorityOf(coffee));
 }
 
 void tst_networkmanagercommands::SecondAgentIsRefused()

@@ -40,6 +40,7 @@ private slots:
     void PictureIsKnownSoonAfterTheStart();
     void ChangesAreTold_data();
     void ChangesAreTold();
+    void NamesOfProfilesAreToldApart();
     void ChangesThatComeTogetherAreToldOnce();
     void WhatSaysNothingIsNotTold();
     void NullOutputsAreLeftAlone();
@@ -149,6 +150,24 @@ void tst_networkmanagerconnections::ChangesAreTold()
         QVERIFY(!LoadedWLAN::State().mayConnect);
     }
     QTRY_VERIFY(!told.isEmpty());
+}
+
+void tst_networkmanagerconnections::NamesOfProfilesAreToldApart()
+{
+    Fake().AddDevice();
+    const QString point = Fake().AddAccessPoint("net", 40);
+    const QString profile = AddProfile("Office", "net");
+    QTRY_COMPARE(LoadedWLAN::ConnectionProfileNamed("Office").signal, 40);
+    const QString lastingId = LoadedWLAN::ConnectionProfileNamed("Office").lastingId;
+    QTest::qWait(100);
+    QSignalSpy told(LoadedWLAN::ConnectionService(), SIGNAL(OnProfilesChanged()));
+    Fake().SetProperty(point, accessPointInterface, "Strength", QVariant::fromValue(uchar(80)));
+    QTRY_COMPARE(LoadedWLAN::ConnectionProfileNamed("Office").signal, 80);
+    QVERIFY(told.isEmpty());
+    Fake().SetSetting(profile, "connection", "id", "Work");
+    QTRY_COMPARE(told.size(), 1);
+    QVERIFY(!lastingId.isEmpty());
+    QCOMPARE(LoadedWLAN::ConnectionProfileNamed("Work").lastingId, lastingId);
 }
 
 void tst_networkmanagerconnections::ChangesThatComeTogetherAreToldOnce()

@@ -164,6 +164,7 @@ ConnectionProfile RecordOf(const NetworkProfile &profile, const CProfileReach::R
 {
     ConnectionProfile record;
     record.id = profile.path;
+    record.lastingId = profile.uuid;
     record.name = profile.name;
     record.type = profile.TypeText();
     record.use = reach.use;

@@ -50,6 +50,7 @@ CNetworkManagerConnections::CNetworkManagerConnections(CNetworkManagerClient *cl
     : QObject(parent), m_picture(picture), m_attempts(client, picture, nullptr), m_isToTell(false)
 {
     connect(m_picture, SIGNAL(Changed()), this, SIGNAL(OnConnectionsChanged()));
+    connect(m_picture, &CLivePicture::Changed, this, &CNetworkManagerConnections::LookAtNames);
     connect(m_picture, SIGNAL(AboutToAskForSign()), this, SLOT(LookWhoWatches()));
     connect(&m_attempts, SIGNAL(Changed()), this, SLOT(TellSoon()));
     connect(&m_attempts, &CConnectAttempts::Taken, this, &HandConnections::Note);
@@ -68,6 +69,22 @@ void CNetworkManagerConnections::Tell()
 {
     m_isToTell = false;
     emit OnConnectionsChanged();
+}
+
+void CNetworkManagerConnections::LookAtNames()
+{
+    const ConnectionPicture &picture = m_picture->Now();
+    if (picture.source != ConnectionState::SourceKnown) {
+        return;
+    }
+    QHash<QString, QString> names;
+    for (const NetworkProfile &profile : picture.profiles) {
+        names.insert(profile.uuid, profile.name);
+    }
+    if (names != m_names) {
+        m_names = names;
+        emit OnProfilesChanged();
+    }
 }
 
 void CNetworkManagerConnections::connectNotify(const QMetaMethod &signal)

@@ -5,6 +5,7 @@
 
 #include <IConnectionPlugin.h>
 
+#include <QHash>
 #include <QMetaMethod>
 #include <QObject>
 
@@ -34,6 +35,7 @@ public:
 
 signals:
     void OnConnectionsChanged();
+    void OnProfilesChanged();
 
 protected:
     void connectNotify(const QMetaMethod &signal) override;
@@ -41,6 +43,7 @@ protected:
 private slots:
     void TellSoon();
     void Tell();
+    void LookAtNames();
     void LookWhoWatches();
 
 private:
@@ -51,6 +54,8 @@ private:
 
     CLivePicture *const m_picture;
     CConnectAttempts m_attempts;
+    /** By their uuids. */
+    QHash<QString, QString> m_names;
     bool m_isToTell;
 };
 

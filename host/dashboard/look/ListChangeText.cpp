@@ -22,6 +22,7 @@ struct ChangeTexts {
     const char *addedMany;
     const char *removedOne;
     const char *removedMany;
+    const char *replaced;
     const char *movedUp;
     const char *movedDown;
     const char *movedToTop;
@@ -31,13 +32,13 @@ struct ChangeTexts {
 
 const ChangeTexts done = {"IDS_CHANGE_NONE",       "IDS_CHANGE_EMPTIED",     "IDS_CHANGE_ADDED_ONE",
                           "IDS_CHANGE_ADDED_MANY", "IDS_CHANGE_DELETED_ONE", "IDS_CHANGE_DELETED_MANY",
-                          "IDS_CHANGE_MOVED_UP",   "IDS_CHANGE_MOVED_DOWN",  "IDS_CHANGE_MOVED_TOP",
-                          "IDS_CHANGE_MOVED_END",  "IDS_CHANGE_MOVED_MANY"};
+                          "IDS_CHANGE_REPLACED",   "IDS_CHANGE_MOVED_UP",    "IDS_CHANGE_MOVED_DOWN",
+                          "IDS_CHANGE_MOVED_TOP",  "IDS_CHANGE_MOVED_END",   "IDS_CHANGE_MOVED_MANY"};
 
 const ChangeTexts planned = {"IDS_PLAN_NONE",     "IDS_PLAN_EMPTY",      "IDS_PLAN_ADD_ONE",
                              "IDS_PLAN_ADD_MANY", "IDS_PLAN_REMOVE_ONE", "IDS_PLAN_REMOVE_MANY",
-                             "IDS_PLAN_MOVE_UP",  "IDS_PLAN_MOVE_DOWN",  "IDS_PLAN_MOVE_TOP",
-                             "IDS_PLAN_MOVE_END", "IDS_PLAN_MOVE_MANY"};
+                             "IDS_PLAN_REPLACE",  "IDS_PLAN_MOVE_UP",    "IDS_PLAN_MOVE_DOWN",
+                             "IDS_PLAN_MOVE_TOP", "IDS_PLAN_MOVE_END",   "IDS_PLAN_MOVE_MANY"};
 
 const char *MoveTextId(const ListDifference::Move &move, const ChangeTexts &texts)
 {
@@ -58,6 +59,15 @@ QString OneOrMany(const char *oneId, const char *manyId, const QList<PriorityLis
                               : DashboardText(manyId).arg(DashboardNumber(places.size()));
 }
 
+/** One entry stands where another of its kind stood, and that is all. */
+bool IsReplacement(const ListDifference &difference, const QList<PriorityList> &before,
+                   const QList<PriorityList> &after)
+{
+    return difference.moved.isEmpty() && difference.added.size() == 1 &&
+           difference.removed == difference.added &&
+           before.at(difference.removed.first()).type == after.at(difference.added.first()).type;
+}
+
 QStringList PartsOf(const QList<PriorityList> &before, const QList<PriorityList> &after,
                     const ChangeTexts &texts)
 {
@@ -67,6 +77,11 @@ QStringList PartsOf(const QList<PriorityList> &before, const QList<PriorityList>
     }
     if (after.isEmpty() && before.size() > 1) {
         return QStringList(DashboardText(texts.emptied));
+    }
+    if (IsReplacement(difference, before, after)) {
+        return QStringList(DashboardText(texts.replaced)
+                               .arg(ListChangeText::Name(before.at(difference.removed.first())),
+                                    ListChangeText::Name(after.at(difference.added.first()))));
     }
     QStringList parts;
     if (!difference.added.isEmpty()) {

@@ -1,7 +1,11 @@
 #include "Agent.h"
 
+#include <FileWatcher.h>
+#include <ListKeeper.h>
 #include <PluginHost.h>
+#include <PluginList.h>
 #include <PluginObjects.h>
+#include <ProfileNames.h>
 #include <UserData.h>
 
 #include <QCoreApplication>
@@ -66,6 +70,14 @@ CommandStatus Agent::Run(const Arguments &arguments, const QString &libraryPath)
     if (!CatchSignals()) {
         return CommandAnswer::Fail(CommandNotWritten, QLatin1String("no pipe can be made"));
     }
+    PluginList list;
+    ListKeeper keeper(UserData::Directory(), &list, nullptr);
+    const ProfileNames names(UserData::FilePath(ProfileNames::FileName()), &keeper, nullptr);
+    FileWatcher watcher(keeper.ListPath(), nullptr);
+    QObject::connect(&watcher, &FileWatcher::Changed, &keeper, [&watcher, &keeper] {
+        watcher.Note();
+        keeper.Follow();
+    });
     QSocketNotifier notifier(signalPipe[0], QSocketNotifier::Read);
     QObject::connect(&notifier, &QSocketNotifier::activated, QCoreApplication::instance(),
                      &QCoreApplication::quit);

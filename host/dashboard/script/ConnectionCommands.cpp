@@ -2,10 +2,14 @@
 
 #include <IConnectionPlugin.h>
 #include <IOrderPlugin.h>
+#include <ListKeeper.h>
 #include <ListRules.h>
 #include <OneLine.h>
 #include <Overview.h>
+#include <PluginList.h>
 #include <PluginObjects.h>
+#include <ProfileNames.h>
+#include <UserData.h>
 
 #include <QEventLoop>
 #include <QJsonArray>
@@ -108,6 +112,14 @@ OrderOutcome OutcomeOf(int order)
         },
         QDeadlineTimer(orderMilliseconds));
     return outcome;
+}
+
+/** The list takes effect under the names that profiles have now. */
+void CatchUpWithNames()
+{
+    PluginList list;
+    ListKeeper keeper(UserData::Directory(), &list, nullptr);
+    const ProfileNames names(UserData::FilePath(ProfileNames::FileName()), &keeper, nullptr);
 }
 
 ConnectionState StateNow()
@@ -272,6 +284,7 @@ void ConnectionCommands::FollowList() const
 {
     IOrderPlugin *plugin = PluginObjects::Ordering();
     if (plugin && SourceProblem().isNull()) {
+        CatchUpWithNames();
         OutcomeOf(plugin->Apply());
     }
 }
@@ -287,6 +300,9 @@ CommandStatus ConnectionCommands::Order(bool isRuling) const
     if (!ListRules::SetRuling(isRuling)) {
         return CommandAnswer::Fail(CommandNotWritten,
                                    QString::fromLatin1("%1 can't be written").arg(ListRules::FilePath()));
+    }
+    if (isRuling) {
+        CatchUpWithNames();
     }
     const OrderOutcome outcome = OutcomeOf(plugin->Apply());
     QString lines;

@@ -27,6 +27,7 @@
 #include <PluginHost.h>
 #include <PluginObjects.h>
 #include <PluginPage.h>
+#include <ProfileNames.h>
 #include <RulesPage.h>
 #include <Settings.h>
 #include <SettingsDialog.h>
@@ -138,6 +139,7 @@ MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLo
     // Several changes that come close together are read once.
     m_refreshTimer->setSingleShot(true);
     connect(m_refreshTimer, SIGNAL(timeout()), this, SLOT(Show()));
+    new ProfileNames(UserData::FilePath(ProfileNames::FileName()), m_keeper, this);
     connect(m_keeper, SIGNAL(Changed()), this, SLOT(FollowHistory()));
     connect(m_language, SIGNAL(Switched()), this, SLOT(FollowLanguage()));
 

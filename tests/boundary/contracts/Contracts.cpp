@@ -335,6 +335,7 @@ void TellConnectionRecords()
     profile.Add<qint64>("lastConnected", &ConnectionProfile::lastConnected);
     profile.Add<bool>("connectsByItself", &ConnectionProfile::connectsByItself);
     profile.Add<bool>("isHidden", &ConnectionProfile::isHidden);
+    profile.Add<QString>("lastingId", &ConnectionProfile::lastingId);
 
     const Fields<VisibleNetwork> network("VisibleNetwork");
     network.Add<QString>("id", &VisibleNetwork::id);

@@ -363,7 +363,7 @@ void ListKeeperTest::RestoreOfTheListAsItIsAddsNothing()
     }
     QCOMPARE(m_keeper->Restore(1, m_keeper->History().States().at(1)), ListKeeper::NoObstacle);
     QCOMPARE(History(), QString(" | A | B | [A]"));
-    QCOMPARE(ListKeeperText::Undo(*m_keeper), QString::fromUtf8("Added A · Removed B"));
+    QCOMPARE(ListKeeperText::Undo(*m_keeper), QString("Replaced B by A"));
 }
 
 void ListKeeperTest::MovesInARowAreOneChange()
