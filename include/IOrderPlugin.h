@@ -20,13 +20,14 @@
  * The plug-in reads the list through IPriorityPlugin, which has to be in the same container while an order is
  * under way.
  *
- * The object has the signal OnOrderChanged(), without arguments, emitted when an order has come to its end;
- * from the event loop, never from inside an operation. Connect to it by name.
+ * The object has the signal OnOrderChanged(), without arguments, emitted when an order has come to its end,
+ * and when what GetStanding tells has changed; from the event loop, never from inside an operation. Connect
+ * to it by name.
  *
  * All calls come on the GUI thread, and none waits. Nothing is thrown across this interface.
  *
  * The table is binary contract. Counted from one over all its entries, of which the destructor takes the
- * first two, the operations stand at 3 and 4.
+ * first two, the operations stand at 3 to 6.
  */
 class IOrderPlugin
 {
@@ -51,6 +52,25 @@ public:
      * @param outcome  belongs to the caller and is replaced; null does nothing.
      */
     virtual void GetOutcome(int order, OrderOutcome *outcome) = 0;
+
+    /**
+     * 5: what the list's rule came to when the list was last followed, whether that was ordered or not.
+     *
+     * @param outcome  as for GetOutcome. StageOrderNotKnown until the list was followed for the first time;
+     *                 changes is empty.
+     */
+    virtual void GetStanding(OrderOutcome *outcome) = 0;
+
+    /**
+     * 6: begins to have a profile connected by the connection manager itself, or not any more. Nothing else
+     * of the profile is changed. It is the user's own wish for this one profile, so where the connection
+     * manager wants a password for it, it asks for that.
+     *
+     * @param profileId  a ConnectionProfile::id.
+     * @return as Apply. The outcome has no changes; what could not be done is in kept, also for a profile
+     *         that is not there (with ObstacleNotKnown and no name).
+     */
+    virtual int SetConnectsByItself(const QString &profileId, bool isOn) = 0;
 };
 
 Q_DECLARE_INTERFACE(IOrderPlugin, "com.torvik.netquillforge.plugin.IOrderPlugin")

@@ -41,11 +41,13 @@ struct OrderChange {
     int after = 0;
 };
 
-/** A profile that was to have another priority and could not be given it. */
+/** A profile that was to be changed and could not be. */
 struct OrderKept {
     QString name;
     /** An OrderObstacle. */
     int obstacle = ObstacleNotKnown;
+    /** The ConnectionProfile::id. */
+    QString profileId;
 };
 
 /** What came of an order. */

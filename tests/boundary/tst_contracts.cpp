@@ -127,7 +127,7 @@ Facts Positions()
                   Names("GetConnectionState GetActiveConnections GetProfiles GetVisibleNetworks "
                         "LookForNetworks ConnectProfile ConnectNetwork Disconnect GetAttempt CancelAttempt "
                         "(end)"));
-    AddOperations(&facts, "IOrderPlugin", first, Names("Apply GetOutcome (end)"));
+    AddOperations(&facts, "IOrderPlugin", first, Names("Apply GetOutcome GetStanding SetConnectsByItself (end)"));
     AddOperations(&facts, "IPluginContainer", first, Names("GetPluginObject (end)"));
     return facts;
 }
@@ -157,7 +157,7 @@ const Shape shapes[] = {
     {"VisibleNetwork", "id name security protection signal profileIds isInUse", "TTTnnTb"},
     {"ConnectAttempt", "name profileId stage failedStage failure", "TTnnn"},
     {"OrderChange", "name before after", "Tnn"},
-    {"OrderKept", "name obstacle", "Tn"},
+    {"OrderKept", "name obstacle profileId", "TnT"},
     {"OrderOutcome", "stage failure changes kept", "nnTT"},
 };
 

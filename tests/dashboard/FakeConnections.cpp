@@ -56,6 +56,12 @@ void FakeConnections::CancelAttempt(int number)
     cancelled.append(number);
 }
 
+int FakeConnections::SetConnectsByItself(const QString &profileId, bool isOn)
+{
+    wished.append(isOn ? profileId : '-' + profileId);
+    return static_cast<int>(wished.size());
+}
+
 void FakeConnections::Tell()
 {
     emit OnConnectionsChanged();

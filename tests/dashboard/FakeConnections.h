@@ -29,6 +29,8 @@ public:
     void CancelAttempt(int attempt) override;
     int Apply() override { return 0; }
     void GetOutcome(int, OrderOutcome *) override {}
+    void GetStanding(OrderOutcome *outcome) override { *outcome = standing; }
+    int SetConnectsByItself(const QString &profileId, bool isOn) override;
 
     /** Tells that something has changed. */
     void Tell();
@@ -38,6 +40,9 @@ public:
     /** NetworkManager, known, and the user may connect, unless a test tells otherwise. */
     Connections told;
     ConnectAttempt attempt;
+    OrderOutcome standing;
+    /** The profiles that were to connect by themselves, or, with a minus before, not to. */
+    QStringList wished;
     int answer = 1;
     /** Ids that were ordered to be connected. */
     QStringList ordered;

@@ -79,6 +79,12 @@ private slots:
     void OrderTellsWhatWasDone();
     void OrderTellsWhatCannotBeDone();
     void OrderEndsWhenNothingIsDueAnyMore();
+    void StandingTellsWhatTheListCannotChange();
+    void ProfileConnectsByItselfWhenTheUserWantsThat_data();
+    void ProfileConnectsByItselfWhenTheUserWantsThat();
+    void WishThatCannotBeFulfilledIsTold_data();
+    void WishThatCannotBeFulfilledIsTold();
+    void WishIsWrittenIntoWhatTheProfileIsByThen();
     void ListThatGoesBackToWhatItWasIsFollowed();
     void NewProfileGetsItsPlace();
     void WorkGoesOnAfterARestartOfTheProgram();
@@ -621,6 +627,113 @@ void tst_networkmanagerpriorities::OrderEndsWhenNothingIsDueAnyMore()
     LoadedWLAN::Order()->GetOutcome(number, &outcome);
     QCOMPARE(outcome.changes.size(), 1);
     QCOMPARE(outcome.changes.first().after, alone);
+}
+
+void tst_networkmanagerpriorities::StandingTellsWhatTheListCannotChange()
+{
+    const QString a = AddProfile("A", 3, false);
+    AddProfile("B", 5, false);
+    Begin("B A");
+    OrderOutcome standing;
+    LoadedWLAN::Order()->GetStanding(&standing);
+    QCOMPARE(standing.stage, int(OrderOutcome::StageOrderDone));
+    QVERIFY(standing.kept.isEmpty());
+    QSignalSpy spy(LoadedWLAN::OrderService(), SIGNAL(OnOrderChanged()));
+    SetList("A B");
+    QTRY_COMPARE(spy.count(), 1);
+    LoadedWLAN::Order()->GetStanding(&standing);
+    QCOMPARE(standing.kept.size(), 1);
+    const OrderKept kept = standing.kept.first();
+    QCOMPARE(kept.obstacle, int(ObstacleNotAllowed));
+    QCOMPARE(kept.profileId, LoadedWLAN::ConnectionProfileNamed(kept.name).id);
+    // What is as it was is not told again.
+    Fake().AddProfile("C");
+    Settle();
+    QCOMPARE(spy.count(), 1);
+}
+
+void tst_networkmanagerpriorities::ProfileConnectsByItselfWhenTheUserWantsThat_data()
+{
+    QTest::addColumn<bool>("isOn");
+    QTest::newRow("on") << true;
+    QTest::newRow("off") << false;
+}
+
+void tst_networkmanagerpriorities::ProfileConnectsByItselfWhenTheUserWantsThat()
+{
+    QFETCH(bool, isOn);
+    NMVariantMapMap settings = FakeNetworkManager::Settings("A");
+    settings["connection"]["autoconnect"] = !isOn;
+    const QString a = Fake().AddProfile(settings);
+    Begin("");
+    settings = Fake().SettingsOf(a);
+    QSignalSpy spy(LoadedWLAN::OrderService(), SIGNAL(OnOrderChanged()));
+    const int number = LoadedWLAN::Order()->SetConnectsByItself(a, isOn);
+    QCOMPARE(spy.count(), 0);
+    QTRY_COMPARE(spy.count(), 1);
+    OrderOutcome outcome;
+    LoadedWLAN::Order()->GetOutcome(number, &outcome);
+    QCOMPARE(outcome.stage, int(OrderOutcome::StageOrderDone));
+    QVERIFY(outcome.kept.isEmpty());
+    settings["connection"]["autoconnect"] = isOn;
+    QCOMPARE(Fake().SettingsOf(a), settings);
+    QTRY_COMPARE(LoadedWLAN::ConnectionProfileNamed("A").connectsByItself, isOn);
+    // It is as it should be already.
+    const int calls = Fake().CallCount("Update2");
+    LoadedWLAN::Order()->SetConnectsByItself(a, isOn);
+    QTRY_COMPARE(spy.count(), 2);
+    QCOMPARE(Fake().CallCount("Update2"), calls);
+}
+
+void tst_networkmanagerpriorities::WishThatCannotBeFulfilledIsTold_data()
+{
+    QTest::addColumn<QString>("error");
+    QTest::addColumn<int>("obstacle");
+    QTest::newRow("refused") << "org.freedesktop.NetworkManager.Settings.Failed" << int(ObstacleRefused);
+    QTest::newRow("not allowed") << "org.freedesktop.NetworkManager.Settings.PermissionDenied"
+                                 << int(ObstacleNotAllowed);
+    QTest::newRow("gone") << QString() << int(ObstacleNotKnown);
+}
+
+void tst_networkmanagerpriorities::WishThatCannotBeFulfilledIsTold()
+{
+    QFETCH(QString, error);
+    const QString a = Fake().AddProfile("A");
+    Begin("");
+    if (error.isEmpty()) {
+        Fake().Remove(a);
+    } else {
+        Fake().AnswerWithError("Update2", error);
+    }
+    QSignalSpy spy(LoadedWLAN::OrderService(), SIGNAL(OnOrderChanged()));
+    const int number = LoadedWLAN::Order()->SetConnectsByItself(a, false);
+    QTRY_COMPARE(spy.count(), 1);
+    OrderOutcome outcome;
+    LoadedWLAN::Order()->GetOutcome(number, &outcome);
+    QCOMPARE(outcome.kept.size(), 1);
+    QTEST(outcome.kept.first().obstacle, "obstacle");
+    QCOMPARE(outcome.kept.first().profileId, a);
+    Fake().Vanish();
+    const int later = LoadedWLAN::Order()->SetConnectsByItself(a, false);
+    QTRY_VERIFY(spy.count() > 1);
+    LoadedWLAN::Order()->GetOutcome(later, &outcome);
+    QCOMPARE(outcome.failure, int(OrderOutcome::FailureOrderSource));
+}
+
+void tst_networkmanagerpriorities::WishIsWrittenIntoWhatTheProfileIsByThen()
+{
+    const QString a = Fake().AddProfile("A");
+    Begin("");
+    Fake().AnswerWithError("Update2", "org.freedesktop.NetworkManager.Settings.VersionIdMismatch");
+    QSignalSpy spy(LoadedWLAN::OrderService(), SIGNAL(OnOrderChanged()));
+    LoadedWLAN::Order()->SetConnectsByItself(a, false);
+    QTRY_VERIFY(Fake().CallCount("Update2") > 0);
+    Fake().SetSetting(a, "connection", "zone", "home");
+    QCOMPARE(spy.count(), 0);
+    Fake().Behave();
+    QTRY_COMPARE(spy.count(), 1);
+    QCOMPARE(Fake().SettingsOf(a)["connection"]["zone"], QVariant("home"));
+    QCOMPARE(Fake().SettingsOf(a)["connection"]["autoconnect"], QVariant(false));
 }
 
 void tst_networkmanagerpriorities::ListThatGoesBackToWhatItWasIsFollowed()

@@ -45,20 +45,6 @@ int ObstacleOf(const NetworkProfile &profile)
                                 : ObstaclePassword;
 }
 
-int ObstacleOf(NetworkManagerResult result)
-{
-    switch (result) {
-    case NetworkManagerResultNotAnswering:
-    case NetworkManagerResultNotRunning:
-    case NetworkManagerResultNoBus:
-        return ObstacleNoAnswer;
-    case NetworkManagerResultPermissionDenied:
-        return ObstacleNotAllowed;
-    default:
-        return ObstacleRefused;
-    }
-}
-
 } // namespace
 
 CPriorityKeeper::CPriorityKeeper(CNetworkManagerClient *client, CLivePicture *picture,
@@ -221,7 +207,11 @@ void CPriorityKeeper::Write(const QList<NetworkProfile> &profiles, const QList<P
     }
     // Saved first: a priority that was written and not recorded could never be told from somebody else's.
     SaveRecords();
-    m_writer.Start(planned.changes);
+    QList<ProfileValue> values;
+    for (const PriorityChange &change : planned.changes) {
+        values.append(ProfileValue::Priority(change.profile, change.priority));
+    }
+    m_writer.Start(values);
 }
 
 void CPriorityKeeper::SaveRecords()
@@ -278,17 +268,17 @@ void CPriorityKeeper::TakeResults()
 {
     const QList<NetworkManagerResult> results = m_writer.Results();
     for (int i = 0; i < results.size(); ++i) {
-        const PriorityChange &change = m_writer.Changes().at(i);
+        const ProfileValue &change = m_writer.Values().at(i);
         if (results.at(i) == NetworkManagerResultChangedMeanwhile) {
             m_isDueAgain = true;
         } else if (results.at(i) == NetworkManagerResultSuccess) {
             OrderChange made;
             made.name = change.profile.name;
             made.before = change.profile.priority;
-            made.after = change.priority;
+            made.after = change.value.toInt();
             m_outcome.changes.append(made);
         } else {
-            Keep(change.profile, ObstacleOf(results.at(i)));
+            Keep(change.profile, CPriorityWriter::ObstacleOf(results.at(i)));
             Complain(QString::fromLatin1("the priority of \"%1\" is not changed: %2")
                          .arg(change.profile.name, DescriptionOf(results.at(i))));
         }
@@ -300,6 +290,7 @@ void CPriorityKeeper::Keep(const NetworkProfile &profile, int obstacle)
 {
     OrderKept kept;
     kept.name = profile.name;
+    kept.profileId = profile.path;
     kept.obstacle = obstacle;
     m_outcome.kept.append(kept);
 }

@@ -1,7 +1,7 @@
 #ifndef PRIORITYKEEPER_H
 #define PRIORITYKEEPER_H
 
-#include "PriorityRecords.h"
+#include "PriorityPlan.h"
 #include "PriorityWriter.h"
 
 #include <ComplaintLog.h>

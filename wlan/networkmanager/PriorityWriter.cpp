@@ -4,6 +4,8 @@
 #include "NetworkManagerClient.h"
 #include "ProfileUpdate.h"
 
+#include <OrderRecords.h>
+
 #include <QCoreApplication>
 #include <QDBusArgument>
 #include <QEvent>
@@ -21,10 +23,12 @@ QString ConnectionSection()
     return QLatin1String("connection");
 }
 
+const char *const priorityKey = "autoconnect-priority";
+
 /** Whether all that a priority depends on is as it was when it was planned. */
 bool IsAsPlanned(const NMVariantMapMap &planned, const NMVariantMapMap &now)
 {
-    for (const char *key : {"id", "type", "uuid", "permissions", "autoconnect-priority"}) {
+    for (const char *key : {"id", "type", "uuid", "permissions", priorityKey}) {
         if (planned.value(ConnectionSection()).value(QLatin1String(key)) !=
             now.value(ConnectionSection()).value(QLatin1String(key))) {
             return false;
@@ -48,9 +52,33 @@ CPriorityWriter::CPriorityWriter(CNetworkManagerClient *client, QObject *parent)
                      QString(), this, SLOT(TakeUpdate(QDBusMessage)));
 }
 
-void CPriorityWriter::Start(const QList<PriorityChange> &changes)
+ProfileValue ProfileValue::Priority(const NetworkProfile &profile, int priority)
 {
-    m_changes = changes;
+    return {profile, QLatin1String(priorityKey), priority};
+}
+
+ProfileValue ProfileValue::ConnectsByItself(const NetworkProfile &profile, bool isOn)
+{
+    return {profile, QLatin1String("autoconnect"), isOn};
+}
+
+int CPriorityWriter::ObstacleOf(NetworkManagerResult result)
+{
+    switch (result) {
+    case NetworkManagerResultNotAnswering:
+    case NetworkManagerResultNotRunning:
+    case NetworkManagerResultNoBus:
+        return ObstacleNoAnswer;
+    case NetworkManagerResultPermissionDenied:
+        return ObstacleNotAllowed;
+    default:
+        return ObstacleRefused;
+    }
+}
+
+void CPriorityWriter::Start(const QList<ProfileValue> &values)
+{
+    m_values = values;
     m_results.clear();
     m_isWriting = true;
     Next();
@@ -58,7 +86,7 @@ void CPriorityWriter::Start(const QList<PriorityChange> &changes)
 
 void CPriorityWriter::Next()
 {
-    if (m_results.size() == m_changes.size()) {
+    if (m_results.size() == m_values.size()) {
         m_isWriting = false;
         emit Finished();
         return;
@@ -107,7 +135,7 @@ void CPriorityWriter::TakeSettings()
         return;
     }
     // The version is older than these settings, or theirs.
-    settings[ConnectionSection()].insert(QLatin1String("autoconnect-priority"), Current().priority);
+    settings[ConnectionSection()].insert(Current().key, Current().value);
     m_isSent = true;
     Ask(ProfileUpdate::Call(profile, settings), writeMilliseconds, SLOT(TakeReply()));
 }
@@ -129,6 +157,6 @@ void CPriorityWriter::Note(NetworkManagerResult result)
 {
     do {
         m_results.append(result);
-    } while (IsUnanswered(result) && m_results.size() < m_changes.size());
+    } while (IsUnanswered(result) && m_results.size() < m_values.size());
     Next();
 }

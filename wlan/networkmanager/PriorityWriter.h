@@ -2,19 +2,32 @@
 #define PRIORITYWRITER_H
 
 #include "NetworkManagerResult.h"
-#include "PriorityPlan.h"
+#include "NetworkProfile.h"
 
 #include <QDBusMessage>
 #include <QElapsedTimer>
 #include <QHash>
 #include <QList>
 #include <QObject>
+#include <QString>
+#include <QVariant>
 
 class CCallBatch;
 class CNetworkManagerClient;
 
+/** What a key of a profile's section "connection" is to have. */
+struct ProfileValue {
+    NetworkProfile profile;
+    QString key;
+    QVariant value;
+
+    static ProfileValue Priority(const NetworkProfile &profile, int priority);
+    static ProfileValue ConnectsByItself(const NetworkProfile &profile, bool isOn);
+};
+
 /**
- * Writes priorities, one after the other, each into the settings as they are at that moment.
+ * Writes priorities, or whether profiles connect by themselves, one after the other, each into the settings
+ * as they are at that moment.
  *
  * NetworkManager takes a profile as a whole only. So its settings are read directly before, and what somebody
  * else has changed since then is not overwritten: from 1.44 on NetworkManager compares the version that was
@@ -30,16 +43,19 @@ public:
     CPriorityWriter(CNetworkManagerClient *client, QObject *parent);
 
     /** Finished comes when all is done, within this call when there is nothing to be written. */
-    void Start(const QList<PriorityChange> &changes);
+    void Start(const QList<ProfileValue> &values);
 
     bool IsWriting() const { return m_isWriting; }
 
-    const QList<PriorityChange> &Changes() const { return m_changes; }
+    const QList<ProfileValue> &Values() const { return m_values; }
     /**
-     * What came of each change. NetworkManagerResultChangedMeanwhile: it has to be planned anew, with what
+     * What came of each of them. NetworkManagerResultChangedMeanwhile: it has to be planned anew, with what
      * the profile has become. What followed a call that was not answered was not tried.
      */
     const QList<NetworkManagerResult> &Results() const { return m_results; }
+
+    /** The OrderObstacle that a result which is no success stands for. */
+    static int ObstacleOf(NetworkManagerResult result);
 
 signals:
     void Finished();
@@ -52,7 +68,7 @@ private slots:
 private:
     Q_DISABLE_COPY(CPriorityWriter)
 
-    const PriorityChange &Current() const { return m_changes.at(m_results.size()); }
+    const ProfileValue &Current() const { return m_values.at(m_results.size()); }
     void Next();
     void Ask(const QDBusMessage &call, int limitMilliseconds, const char *slot);
     void Note(NetworkManagerResult result);
@@ -60,7 +76,7 @@ private:
 
     CNetworkManagerClient *const m_client;
     CCallBatch *m_batch;
-    QList<PriorityChange> m_changes;
+    QList<ProfileValue> m_values;
     QList<NetworkManagerResult> m_results;
     bool m_isWriting;
     /** The call that writes is under way. */

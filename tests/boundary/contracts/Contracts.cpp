@@ -227,6 +227,8 @@ void TellOrderInterface()
     const Slots<IOrderPlugin> order("IOrderPlugin");
     order.Add<int()>("Apply", &IOrderPlugin::Apply);
     order.Add<void(int, OrderOutcome *)>("GetOutcome", &IOrderPlugin::GetOutcome);
+    order.Add<void(OrderOutcome *)>("GetStanding", &IOrderPlugin::GetStanding);
+    order.Add<int(const QString &, bool)>("SetConnectsByItself", &IOrderPlugin::SetConnectsByItself);
     order.AddEnd();
 }
 
@@ -364,6 +366,7 @@ void TellOrderRecords()
     const Fields<OrderKept> kept("OrderKept");
     kept.Add<QString>("name", &OrderKept::name);
     kept.Add<int>("obstacle", &OrderKept::obstacle);
+    kept.Add<QString>("profileId", &OrderKept::profileId);
 
     const Fields<OrderOutcome> outcome("OrderOutcome");
     outcome.Add<int>("stage", &OrderOutcome::stage);
