@@ -954,6 +954,70 @@
         <translation>يقرر NetworkManager بنفسه. يمكنك في الإعدادات أن تجعل هذه القائمة هي التي تقرر.</translation>
     </message>
     <message>
+        <source>IDS_RULED_SOME</source>
+        <translation>يتبع ‪NetworkManager‬ قائمتك في %1 من %2 من الشبكات.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_WHY</source>
+        <translation>لماذا ليس كلها؟</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_MEANS</source>
+        <translation>ماذا يعني هذا</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_RULED</source>
+        <translation>ما ال&amp;ذي تقرره قائمتك…</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_TITLE</source>
+        <translation>ما الذي تقرره قائمتك</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_TEXT</source>
+        <translation>تقرر قائمتك بأي شبكة يتصل هذا الحاسوب تلقائيًا عندما تكون عدة شبكات ضمن النطاق. ويبقى الاتصال الذي يعمل إلى أن تطلب التبديل. يأتي الكبل أولًا، وتأتي الشبكات التي ليست في قائمتك أخيرًا. وعند وجود عدة محولات يأخذ كل منها أول شبكة يمكنه استخدامها.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_ALL</source>
+        <translation>كل موضع في قائمتك سارٍ.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_WINDOW</source>
+        <translation>تسري قائمتك ما دامت هذه النافذة مفتوحة. ويمكن في الإعدادات إبقاء الترتيب ساريًا بعد ذلك.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_TURN_ON</source>
+        <translation>تفعيل</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_CONNECT</source>
+        <translation>اتصال</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_BY_HAND</source>
+        <translation>لا يتم الاتصال بها تلقائيًا، لذلك ليس لموضعها تأثير.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_NOT_ALLOWED</source>
+        <translation>لا يغيّر موضعها إلا مسؤول النظام. يمكن في الإعدادات الخاصة بشبكات سطح المكتب جعلها شبكة لك وحدك، فيسري موضعها.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_PASSING</source>
+        <translation>ينشئها برنامج آخر من جديد كل مرة، لذلك لا يبقى موضعها.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_REFUSED</source>
+        <translation>لم يقبل ‪NetworkManager‬ موضعها.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_RETRIES</source>
+        <translation>بعد عدة محاولات فاشلة ينتظر ‪NetworkManager‬ خمس دقائق قبل أن يحاول من جديد.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_NOT_TURNED_ON</source>
+        <translation>لا يتم الاتصال بالشبكة %1 تلقائيًا حتى الآن.</translation>
+    </message>
+    <message>
         <source>IDS_NOTE_STORED</source>
         <translation>هذه شبكات للتجربة. لا تتغيّر شبكات هذا الحاسوب.</translation>
     </message>

@@ -955,6 +955,70 @@ Erwartet: %3</translation>
         <translation>NetworkManager entscheidet selbst. In den Einstellungen können Sie diese Liste bestimmen lassen.</translation>
     </message>
     <message>
+        <source>IDS_RULED_SOME</source>
+        <translation>NetworkManager folgt Ihrer Liste bei %1 von %2 Netzwerken.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_WHY</source>
+        <translation>Warum nicht bei allen?</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_MEANS</source>
+        <translation>Was das heißt</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_RULED</source>
+        <translation>Was &amp;Ihre Liste bestimmt…</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_TITLE</source>
+        <translation>Was Ihre Liste bestimmt</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_TEXT</source>
+        <translation>Ihre Liste bestimmt, mit welchem Netzwerk sich dieser Computer von selbst verbindet, wenn mehrere in Reichweite sind. Eine Verbindung, die funktioniert, bleibt, bis Sie wechseln. Ein Kabel geht vor, und Netzwerke, die nicht in Ihrer Liste stehen, kommen zuletzt. Bei mehreren Adaptern nimmt jeder das erste Netzwerk, das er verwenden kann.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_ALL</source>
+        <translation>Jeder Platz in Ihrer Liste wirkt.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_WINDOW</source>
+        <translation>Ihre Liste wirkt, solange dieses Fenster offen ist. Die Einstellungen können dafür sorgen, dass die Reihenfolge danach weiter gilt.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_TURN_ON</source>
+        <translation>Einschalten</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_CONNECT</source>
+        <translation>Verbinden</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_BY_HAND</source>
+        <translation>Es verbindet sich nicht von selbst, daher wirkt sein Platz nicht.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_NOT_ALLOWED</source>
+        <translation>Seinen Platz darf nur ein Administrator ändern. In den Netzwerkeinstellungen der Arbeitsumgebung kann es ein Netzwerk für Sie allein werden; dann wirkt sein Platz.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_PASSING</source>
+        <translation>Ein anderes Programm legt es jedes Mal neu an, daher bleibt sein Platz nicht erhalten.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_REFUSED</source>
+        <translation>NetworkManager hat seinen Platz nicht übernommen.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_RETRIES</source>
+        <translation>Nach mehreren Fehlschlägen wartet NetworkManager fünf Minuten, bevor er es erneut versucht.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_NOT_TURNED_ON</source>
+        <translation>%1 verbindet sich weiterhin nicht von selbst.</translation>
+    </message>
+    <message>
         <source>IDS_NOTE_STORED</source>
         <translation>Das sind Übungsnetzwerke. Die Netzwerke dieses Computers werden nicht verändert.</translation>
     </message>

@@ -1011,6 +1011,86 @@ Expected: %3</translation>
         <translation>NetworkManager decides by itself. You can let this list rule it in the settings.</translation>
     </message>
     <message>
+        <source>IDS_RULED_SOME</source>
+        <extracomment>In the place of that, while some places have no effect; %1: how many have, %2: how many there are</extracomment>
+        <translation>NetworkManager follows your list for %1 of %2 networks.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_WHY</source>
+        <extracomment>Button behind that</extracomment>
+        <translation>Why not all?</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_MEANS</source>
+        <extracomment>The same button while all places have their effect</extracomment>
+        <translation>What this means</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_RULED</source>
+        <extracomment>In a menu: what the list decides and what it does not</extracomment>
+        <translation>&amp;What your list rules…</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_TITLE</source>
+        <extracomment>Title of a dialog</extracomment>
+        <translation>What your list rules</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_TEXT</source>
+        <extracomment>In that dialog</extracomment>
+        <translation>Your list rules to which network this computer connects by itself when several are in range. A connection that works is kept until you switch. A cable comes first, and networks that are not in your list come last. With several adapters, each takes the first network that it can use.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_ALL</source>
+        <extracomment>In that dialog, when no network has anything against it</extracomment>
+        <translation>Every place in your list has its effect.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_WINDOW</source>
+        <extracomment>In that dialog; a button Settings… stands beside it</extracomment>
+        <translation>Your list has its effect while this window is open. The settings can keep the order in effect after that.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_TURN_ON</source>
+        <extracomment>Button beside a network that does not connect by itself, and now shall</extracomment>
+        <translation>Turn on</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_CONNECT</source>
+        <extracomment>Button beside a network that could not be connected several times</extracomment>
+        <translation>Connect</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_BY_HAND</source>
+        <extracomment>Why a place of the list has no effect</extracomment>
+        <translation>It does not connect by itself, so its place has no effect.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_NOT_ALLOWED</source>
+        <extracomment>The same</extracomment>
+        <translation>Only an administrator may change its place. In the desktop’s network settings it can be made a network for you alone; then its place has its effect.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_PASSING</source>
+        <extracomment>The same</extracomment>
+        <translation>Another program makes it anew each time, so its place is not kept.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_REFUSED</source>
+        <extracomment>The same</extracomment>
+        <translation>NetworkManager did not take its place.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_RETRIES</source>
+        <extracomment>Behind a sentence that tells why a network could not be connected</extracomment>
+        <translation>After several failures NetworkManager waits for five minutes before it tries again.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_NOT_TURNED_ON</source>
+        <extracomment>At the foot of the dialog, after Turn on; %1: a network</extracomment>
+        <translation>%1 still does not connect by itself.</translation>
+    </message>
+    <message>
         <source>IDS_NOTE_STORED</source>
         <translation>These are practice networks. This computer’s networks are not changed.</translation>
     </message>

@@ -955,6 +955,70 @@ Esperado: %3</translation>
         <translation>NetworkManager decide por sí mismo. En la configuración puede dejar que decida esta lista.</translation>
     </message>
     <message>
+        <source>IDS_RULED_SOME</source>
+        <translation>NetworkManager sigue su lista en %1 de %2 redes.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_WHY</source>
+        <translation>¿Por qué no en todas?</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_MEANS</source>
+        <translation>Qué significa</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_RULED</source>
+        <translation>&amp;Qué decide su lista…</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_TITLE</source>
+        <translation>Qué decide su lista</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_TEXT</source>
+        <translation>Su lista decide a qué red se conecta este equipo por sí solo cuando hay varias al alcance. Una conexión que funciona se mantiene hasta que decida cambiar. Un cable va primero, y las redes que no están en su lista van al final. Con varios adaptadores, cada uno toma la primera red que puede usar.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_ALL</source>
+        <translation>Cada puesto de su lista surte efecto.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_WINDOW</source>
+        <translation>Su lista surte efecto mientras esta ventana está abierta. En la configuración se puede mantener el orden después.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_TURN_ON</source>
+        <translation>Activar</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_CONNECT</source>
+        <translation>Conectar</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_BY_HAND</source>
+        <translation>No se conecta por sí sola, así que su puesto no surte efecto.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_NOT_ALLOWED</source>
+        <translation>Solo un administrador puede cambiar su puesto. En la configuración de red del escritorio se puede hacer que sea una red solo para usted; entonces su puesto surte efecto.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_PASSING</source>
+        <translation>Otro programa la crea cada vez de nuevo, así que su puesto no se mantiene.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_REFUSED</source>
+        <translation>NetworkManager no aceptó su puesto.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_RETRIES</source>
+        <translation>Tras varios fallos, NetworkManager espera cinco minutos antes de volver a intentarlo.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_NOT_TURNED_ON</source>
+        <translation>%1 sigue sin conectarse por sí sola.</translation>
+    </message>
+    <message>
         <source>IDS_NOTE_STORED</source>
         <translation>Estas son redes de prueba. Las redes de este equipo no se modifican.</translation>
     </message>

@@ -955,6 +955,70 @@ Attendu&#xa0;: %3</translation>
         <translation>NetworkManager décide lui-même. Dans les paramètres, vous pouvez laisser cette liste décider.</translation>
     </message>
     <message>
+        <source>IDS_RULED_SOME</source>
+        <translation>NetworkManager suit votre liste pour %1 réseaux sur %2.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_WHY</source>
+        <translation>Pourquoi pas pour tous ?</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_MEANS</source>
+        <translation>Ce que cela veut dire</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_RULED</source>
+        <translation>&amp;Ce que décide votre liste…</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_TITLE</source>
+        <translation>Ce que décide votre liste</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_TEXT</source>
+        <translation>Votre liste décide à quel réseau cet ordinateur se connecte de lui-même quand plusieurs sont à portée. Une connexion qui fonctionne est gardée jusqu’à ce que vous décidiez de passer à une autre. Un câble passe en premier, et les réseaux qui ne sont pas dans votre liste en dernier. Avec plusieurs adaptateurs, chacun prend le premier réseau qu’il peut utiliser.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_ALL</source>
+        <translation>Chaque rang de votre liste a son effet.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_WINDOW</source>
+        <translation>Votre liste a son effet tant que cette fenêtre est ouverte. Les paramètres permettent de maintenir l’ordre ensuite.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_TURN_ON</source>
+        <translation>Activer</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_CONNECT</source>
+        <translation>Se connecter</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_BY_HAND</source>
+        <translation>Il ne se connecte pas de lui-même, donc son rang n’a pas d’effet.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_NOT_ALLOWED</source>
+        <translation>Seul un administrateur peut changer son rang. Dans les paramètres réseau du bureau, il peut devenir un réseau pour vous seul ; son rang a alors son effet.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_PASSING</source>
+        <translation>Un autre programme le recrée à chaque fois, donc son rang n’est pas gardé.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_REFUSED</source>
+        <translation>NetworkManager n’a pas accepté son rang.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_RETRIES</source>
+        <translation>Après plusieurs échecs, NetworkManager attend cinq minutes avant de réessayer.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_NOT_TURNED_ON</source>
+        <translation>%1 ne se connecte toujours pas de lui-même.</translation>
+    </message>
+    <message>
         <source>IDS_NOTE_STORED</source>
         <translation>Ce sont des réseaux d’essai. Les réseaux de cet ordinateur ne sont pas modifiés.</translation>
     </message>

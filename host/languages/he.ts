@@ -954,6 +954,70 @@
         <translation>ההחלטה היא של NetworkManager. בהגדרות אפשר לתת לרשימה הזאת להחליט.</translation>
     </message>
     <message>
+        <source>IDS_RULED_SOME</source>
+        <translation>התוכנה ‪NetworkManager‬ פועלת לפי הרשימה שלך ב-%1 מתוך %2 רשתות.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_WHY</source>
+        <translation>למה לא בכולן?</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_MEANS</source>
+        <translation>מה זה אומר</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_RULED</source>
+        <translation>&amp;מה הרשימה שלך קובעת…</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_TITLE</source>
+        <translation>מה הרשימה שלך קובעת</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_TEXT</source>
+        <translation>הרשימה שלך קובעת לאיזו רשת המחשב הזה מתחבר בעצמו כשיש כמה רשתות בטווח. חיבור שפועל נשמר עד שמתבצע מעבר. כבל קודם לכול, ורשתות שאינן ברשימה שלך באות אחרונות. כשיש כמה מתאמים, כל אחד מהם לוקח את הרשת הראשונה שהוא יכול להשתמש בה.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_ALL</source>
+        <translation>לכל מקום ברשימה שלך יש השפעה.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_WINDOW</source>
+        <translation>לרשימה שלך יש השפעה כל עוד החלון הזה פתוח. בהגדרות אפשר לשמור על הסדר גם אחר כך.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_TURN_ON</source>
+        <translation>הפעלה</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_CONNECT</source>
+        <translation>התחברות</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_BY_HAND</source>
+        <translation>אין התחברות אליה מעצמה, ולכן למקום שלה אין השפעה.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_NOT_ALLOWED</source>
+        <translation>רק מנהל מערכת רשאי לשנות את המקום שלה. בהגדרות הרשת של שולחן העבודה אפשר להפוך אותה לרשת שלך בלבד, ואז למקום שלה תהיה השפעה.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_PASSING</source>
+        <translation>תוכנה אחרת יוצרת אותה מחדש בכל פעם, ולכן המקום שלה אינו נשמר.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_REFUSED</source>
+        <translation>התוכנה ‪NetworkManager‬ לא קיבלה את המקום שלה.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_RETRIES</source>
+        <translation>אחרי כמה כישלונות התוכנה ‪NetworkManager‬ ממתינה חמש דקות לפני שהיא מנסה שוב.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_NOT_TURNED_ON</source>
+        <translation>עדיין אין התחברות אוטומטית אל %1.</translation>
+    </message>
+    <message>
         <source>IDS_NOTE_STORED</source>
         <translation>אלה רשתות לתרגול. הרשתות של המחשב הזה אינן משתנות.</translation>
     </message>

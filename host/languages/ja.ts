@@ -955,6 +955,70 @@
         <translation>NetworkManager が自動で選びます。このリストに従わせるには、設定で変更してください。</translation>
     </message>
     <message>
+        <source>IDS_RULED_SOME</source>
+        <translation>NetworkManager は、%2 個のネットワークのうち %1 個でリストに従っています。</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_WHY</source>
+        <translation>すべてではない理由</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_MEANS</source>
+        <translation>その意味</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_RULED</source>
+        <translation>リストが決めること(&amp;W)…</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_TITLE</source>
+        <translation>リストが決めること</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_TEXT</source>
+        <translation>複数のネットワークが圏内にあるとき、このコンピューターが自動で接続するネットワークをリストが決めます。動作している接続は、切り替えるまで保たれます。ケーブルが最優先で、リストにないネットワークは最後になります。アダプターが複数あるときは、それぞれが使用できる最初のネットワークに接続します。</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_ALL</source>
+        <translation>リストのすべての順位が効いています。</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_WINDOW</source>
+        <translation>リストは、このウィンドウが開いている間だけ効きます。その後も順序を守るには、設定で変更してください。</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_TURN_ON</source>
+        <translation>オンにする</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_CONNECT</source>
+        <translation>接続</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_BY_HAND</source>
+        <translation>自動で接続しないため、順位は効きません。</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_NOT_ALLOWED</source>
+        <translation>順位を変更できるのは管理者だけです。デスクトップのネットワーク設定で自分専用のネットワークにすると、順位が効くようになります。</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_PASSING</source>
+        <translation>ほかのプログラムが毎回作り直すため、順位は保たれません。</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_REFUSED</source>
+        <translation>NetworkManager は、その順位を受け付けませんでした。</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_RETRIES</source>
+        <translation>何度か失敗すると、NetworkManager は 5 分待ってからもう一度試します。</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_NOT_TURNED_ON</source>
+        <translation>%1 は、まだ自動で接続しません。</translation>
+    </message>
+    <message>
         <source>IDS_NOTE_STORED</source>
         <translation>これは練習用ネットワークです。このコンピューターのネットワークは変更されません。</translation>
     </message>

@@ -955,6 +955,70 @@ Esperado: %3</translation>
         <translation>O NetworkManager decide por si mesmo. Nas configurações, você pode deixar esta lista decidir.</translation>
     </message>
     <message>
+        <source>IDS_RULED_SOME</source>
+        <translation>O NetworkManager segue a sua lista em %1 de %2 redes.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_WHY</source>
+        <translation>Por que não em todas?</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_MEANS</source>
+        <translation>O que isso significa</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_RULED</source>
+        <translation>O &amp;que a sua lista decide…</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_TITLE</source>
+        <translation>O que a sua lista decide</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_TEXT</source>
+        <translation>A sua lista decide a qual rede este computador se conecta por si mesmo quando há várias ao alcance. Uma conexão que funciona é mantida até você mudar. Um cabo vem primeiro, e as redes que não estão na sua lista vêm por último. Com vários adaptadores, cada um usa a primeira rede que puder.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_ALL</source>
+        <translation>Cada posição da sua lista tem efeito.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_WINDOW</source>
+        <translation>A sua lista tem efeito enquanto esta janela está aberta. As configurações permitem manter a ordem depois.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_TURN_ON</source>
+        <translation>Ativar</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_CONNECT</source>
+        <translation>Conectar</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_BY_HAND</source>
+        <translation>Ela não se conecta por si mesma, por isso a sua posição não tem efeito.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_NOT_ALLOWED</source>
+        <translation>Só um administrador pode mudar a sua posição. Nas configurações de rede do ambiente de trabalho, ela pode ser tornada uma rede só sua; então a sua posição tem efeito.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_PASSING</source>
+        <translation>Outro programa a cria de novo a cada vez, por isso a sua posição não é mantida.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_REFUSED</source>
+        <translation>O NetworkManager não aceitou a sua posição.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_RETRIES</source>
+        <translation>Depois de várias falhas, o NetworkManager espera cinco minutos antes de tentar de novo.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_NOT_TURNED_ON</source>
+        <translation>%1 ainda não se conecta por si mesma.</translation>
+    </message>
+    <message>
         <source>IDS_NOTE_STORED</source>
         <translation>Estas são redes de teste. As redes deste computador não são alteradas.</translation>
     </message>

@@ -955,6 +955,70 @@
         <translation>NetworkManager решает сам. В настройках можно разрешить этому списку управлять им.</translation>
     </message>
     <message>
+        <source>IDS_RULED_SOME</source>
+        <translation>NetworkManager следует вашему списку для сетей: %1 из %2.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_WHY</source>
+        <translation>Почему не для всех?</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_MEANS</source>
+        <translation>Что это значит</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_RULED</source>
+        <translation>&amp;Чем управляет ваш список…</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_TITLE</source>
+        <translation>Чем управляет ваш список</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_TEXT</source>
+        <translation>Ваш список решает, к какой сети этот компьютер подключается сам, когда в зоне действия их несколько. Работающее подключение сохраняется, пока вы не переключитесь. Кабель идёт первым, а сети не из вашего списка — последними. Если адаптеров несколько, каждый берёт первую сеть, которую может использовать.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_ALL</source>
+        <translation>Каждое место вашего списка действует.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_WINDOW</source>
+        <translation>Ваш список действует, пока открыто это окно. В настройках можно сделать так, чтобы порядок соблюдался и потом.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_TURN_ON</source>
+        <translation>Включить</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_CONNECT</source>
+        <translation>Подключить</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_BY_HAND</source>
+        <translation>Она не подключается сама, поэтому её место не действует.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_NOT_ALLOWED</source>
+        <translation>Её место может изменить только администратор. В сетевых настройках рабочего стола её можно сделать сетью только для вас; тогда её место будет действовать.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_PASSING</source>
+        <translation>Её каждый раз заново создаёт другая программа, поэтому её место не сохраняется.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_REFUSED</source>
+        <translation>NetworkManager не принял её место.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_RETRIES</source>
+        <translation>После нескольких неудач NetworkManager ждёт пять минут, прежде чем попробовать снова.</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_NOT_TURNED_ON</source>
+        <translation>Сеть %1 по-прежнему не подключается сама.</translation>
+    </message>
+    <message>
         <source>IDS_NOTE_STORED</source>
         <translation>Это учебные сети. Сети этого компьютера не изменяются.</translation>
     </message>

@@ -955,6 +955,70 @@
         <translation>由 NetworkManager 自行决定。可以在设置中让它按此列表选择。</translation>
     </message>
     <message>
+        <source>IDS_RULED_SOME</source>
+        <translation>%2 个网络中有 %1 个由 NetworkManager 按您的列表处理。</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_WHY</source>
+        <translation>为什么不是全部？</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_MEANS</source>
+        <translation>这是什么意思</translation>
+    </message>
+    <message>
+        <source>IDS_ACTION_RULED</source>
+        <translation>列表决定什么(&amp;W)…</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_TITLE</source>
+        <translation>列表决定什么</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_TEXT</source>
+        <translation>信号范围内有多个网络时，由您的列表决定此计算机自动连接哪个网络。可用的连接会一直保持，直到您切换。网线优先，不在列表中的网络排在最后。有多个适配器时，每个适配器使用它能用的第一个网络。</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_ALL</source>
+        <translation>您列表中的每个位置都已生效。</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_WINDOW</source>
+        <translation>此窗口打开时，您的列表才会生效。可以在设置中让它之后继续保持此顺序。</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_TURN_ON</source>
+        <translation>开启</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_CONNECT</source>
+        <translation>连接</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_BY_HAND</source>
+        <translation>它不会自动连接，所以它的位置不起作用。</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_NOT_ALLOWED</source>
+        <translation>只有管理员可以更改它的位置。可以在桌面的网络设置中把它设为仅供您使用的网络，这样它的位置就会生效。</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_PASSING</source>
+        <translation>每次都由另一个程序重新创建，所以它的位置不会保留。</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_REFUSED</source>
+        <translation>NetworkManager 没有接受它的位置。</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_RETRIES</source>
+        <translation>多次失败后，NetworkManager 会等待五分钟再重试。</translation>
+    </message>
+    <message>
+        <source>IDS_RULED_NOT_TURNED_ON</source>
+        <translation>%1 仍然不会自动连接。</translation>
+    </message>
+    <message>
         <source>IDS_NOTE_STORED</source>
         <translation>这些是练习用网络。此计算机的网络保持不变。</translation>
     </message>

@@ -28,8 +28,8 @@ public:
     void GetAttempt(int attempt, ConnectAttempt *result) override;
     void CancelAttempt(int attempt) override;
     int Apply() override { return 0; }
-    void GetOutcome(int, OrderOutcome *) override {}
-    void GetStanding(OrderOutcome *outcome) override { *outcome = standing; }
+    void GetOutcome(int, OrderOutcome *result) override { *result = outcome; }
+    void GetStanding(OrderOutcome *result) override { *result = standing; }
     int SetConnectsByItself(const QString &profileId, bool isOn) override;
 
     /** Tells that something has changed. */
@@ -40,6 +40,7 @@ public:
     /** NetworkManager, known, and the user may connect, unless a test tells otherwise. */
     Connections told;
     ConnectAttempt attempt;
+    OrderOutcome outcome;
     OrderOutcome standing;
     /** The profiles that were to connect by themselves, or, with a minus before, not to. */
     QStringList wished;

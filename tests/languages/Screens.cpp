@@ -158,6 +158,26 @@ void FillWithEveryReason(QList<PriorityList> *list, Connections *told)
     list->append(list->first());
 }
 
+/** A list of which no place has an effect, each for another reason. */
+void FillWithoutEffect(QList<PriorityList> *list, FakeConnections *connections)
+{
+    *list = Listed(QString::fromUtf8("Home, Café, Office, Company, Library, Campus, Workshop, Home"));
+    QList<ConnectionProfile> &profiles = connections->told.profiles;
+    profiles.clear();
+    for (const char *name : {"Home", "Café", "Office", "Company", "Library", "Campus"}) {
+        profiles.append(SavedProfile(QString::fromUtf8(name)));
+    }
+    profiles[0].connectsByItself = false;
+    profiles[1].failure = FailureNoAnswer;
+    const int obstacles[] = {ObstacleNotAllowed, ObstaclePassing, ObstacleRefused, ObstacleOtherUsers};
+    for (int i = 0; i < 4; ++i) {
+        OrderKept kept;
+        kept.profileId = profiles.at(i + 2).id;
+        kept.obstacle = obstacles[i];
+        connections->standing.kept.append(kept);
+    }
+}
+
 /** Hands out everything but the Wi-Fi plug-in. */
 class WithoutWlan : public IPluginContainer
 {
@@ -207,6 +227,11 @@ const Screens::Screen Screens::screens[] = {
     {"list, connections not told", &Screens::ShowConnections, "not told"},
     {"list, switch refused", &Screens::ShowConnections, "refused"},
     {"list, disconnect refused", &Screens::ShowConnections, "disconnect refused"},
+    {"list, places without effect", &Screens::ShowConnections, "without effect"},
+    {"list, places with their effect", &Screens::ShowConnections, "with effect"},
+    {"what the list rules", &Screens::ShowConnections, "ruled"},
+    {"what the list rules, places without effect", &Screens::ShowConnections, "ruled, without effect"},
+    {"what the list rules, not turned on", &Screens::ShowConnections, "ruled, not turned on"},
     {"list, plug-in missing while connected", &Screens::ShowConnections, "no list"},
     {"list, not handed out", &Screens::ShowListNotHandedOut, "QueryNull"},
     {"list, damaged", &Screens::ShowListFile, damagedList},
@@ -546,6 +571,12 @@ void Screens::ShowConnections(const char *what)
         list.clear();
         told.profiles.clear();
     }
+    if (shown.startsWith("ruled") || shown.endsWith("effect")) {
+        connections.standing.stage = OrderOutcome::StageOrderDone;
+    }
+    if (shown.contains("without effect")) {
+        FillWithoutEffect(&list, &connections);
+    }
     connections.answer = IConnectionPlugin::RefusedNotAllowed;
     WriteUserFile(QLatin1String("Priority.xml"), OrderFile::Document(list));
     WithConnections container(shown == "no list" ? nullptr : m_plugins.data(),
@@ -556,6 +587,16 @@ void Screens::ShowConnections(const char *what)
         Click("switchButton");
     } else if (shown == "disconnect refused") {
         Trigger("disconnectAction");
+    } else if (shown.startsWith("ruled")) {
+        Trigger("ruledAction");
+    }
+    if (shown == "ruled, not turned on") {
+        connections.told.profiles[0].connectsByItself = false;
+        m_window->Refresh();
+        connections.outcome.stage = OrderOutcome::StageOrderFailed;
+        Click("ruledRowButton");
+        QCoreApplication::processEvents();
+        m_window->Refresh();
     }
     Visit();
     m_window.reset();

@@ -5,6 +5,7 @@
 #include "ListActions.h"
 #include "ListGuard.h"
 #include "MessagePage.h"
+#include "RuledDialog.h"
 #include "WindowProblems.h"
 
 #include <AccessibleRows.h>
@@ -19,6 +20,7 @@
 #include <DialogParts.h>
 #include <GeneralPage.h>
 #include <IConnectionPlugin.h>
+#include <IOrderPlugin.h>
 #include <Installation.h>
 #include <ListKeeper.h>
 #include <ListRules.h>
@@ -201,6 +203,8 @@ void MainWindow::CreateMenus()
     m_refreshAction = m_viewMenu->addAction(QString(), this, SLOT(LookAgain()));
     m_refreshAction->setObjectName(QLatin1String("refreshAction"));
     m_refreshAction->setShortcut(QKeySequence(QLatin1String("F5")));
+    m_ruledAction = m_viewMenu->addAction(QString(), this, &MainWindow::OpenRuled);
+    m_ruledAction->setObjectName(QLatin1String("ruledAction"));
     CreateLanguageActions();
 }
 
@@ -246,6 +250,8 @@ QWidget *MainWindow::CreateListHeader()
     m_listTitle = MakeLabel("listTitle", 1, true);
     m_listTitle->setWordWrap(false);
     m_note = MakeLabel("noteLabel", 0.92, false);
+    m_ruledButton = new TextButton("ruledButton");
+    connect(m_ruledButton, &QPushButton::clicked, this, &MainWindow::OpenRuled);
     m_settingsButton = new TextButton("settingsButton");
     connect(m_settingsButton, &QPushButton::clicked, this, &MainWindow::OpenSettings);
 
@@ -256,6 +262,7 @@ QWidget *MainWindow::CreateListHeader()
     layout->setSpacing(12);
     layout->addWidget(m_listTitle);
     layout->addWidget(m_note, 1);
+    layout->addWidget(m_ruledButton);
     layout->addWidget(m_settingsButton);
     return header;
 }
@@ -281,6 +288,7 @@ void MainWindow::Retranslate()
     m_refreshAction->setText(DashboardText("IDS_ACTION_REFRESH"));
     m_quitAction->setText(DashboardText("IDS_ACTION_QUIT"));
     m_settingsButton->setText(DashboardText("IDS_BUTTON_SETTINGS"));
+    m_ruledAction->setText(DashboardText("IDS_ACTION_RULED"));
     m_listTitle->setText(DashboardText("IDS_LIST_TITLE"));
     m_list->setAccessibleName(DashboardText("IDS_PLUGIN_PRIORITY"));
     m_repairAction->setText(DashboardText("IDS_BUTTON_REPAIR"));
@@ -305,6 +313,9 @@ void MainWindow::Retranslate()
     if (m_connect) {
         m_connect->Retranslate();
     }
+    if (m_ruled) {
+        m_ruled->Retranslate();
+    }
     Refresh();
 }
 
@@ -327,7 +338,59 @@ void MainWindow::Show()
     ShowHead();
     ShowProblems();
     ShowList();
+    ShowRuled();
     ShowNote();
+}
+
+void MainWindow::ShowRuled()
+{
+    OrderOutcome standing;
+    IOrderPlugin *ordering = PluginObjects::Ordering();
+    const bool isRuling = ordering && ListRules::IsRuling();
+    if (isRuling) {
+        ordering->GetStanding(&standing);
+    }
+    m_withoutEffect = RuledPlaces::WithoutEffect(m_overview, standing);
+    // While nothing is known, nobody can say what the list rules.
+    const bool isKnown = standing.stage == OrderOutcome::StageOrderDone && m_overview.connections.AreKnown();
+    m_ruledAction->setEnabled(isKnown);
+    m_ruledButton->setVisible(isKnown && !m_overview.entries.isEmpty());
+    m_ruledButton->setText(DashboardText(m_withoutEffect.isEmpty() ? "IDS_RULED_MEANS" : "IDS_RULED_WHY"));
+    if (m_ruled && isKnown) {
+        m_ruled->Show(m_withoutEffect, !Agent().Now().IsOn());
+    } else if (m_ruled) {
+        m_ruled->close();
+    }
+}
+
+void MainWindow::OpenRuled()
+{
+    if (!m_ruled) {
+        m_ruled = new RuledDialog(this);
+        m_ruled->setModal(true);
+        connect(m_ruled, &RuledDialog::ConnectWanted, this, [this](const QString &name, const QString &id) {
+            m_order.Connect(name, id);
+            Refresh();
+        });
+        connect(m_ruled, &RuledDialog::SettingsWanted, this, [this] {
+            m_ruled->close();
+            OpenSettings();
+        });
+        m_ruled->show();
+    }
+    Show();
+}
+
+QString MainWindow::NoteOf(const KnownPlugin &known) const
+{
+    if (PluginObjects::Ordering() && !ListRules::IsRuling()) {
+        return DashboardText("IDS_NOTE_NOT_RULING");
+    }
+    const int places = static_cast<int>(m_overview.entries.size());
+    return m_withoutEffect.isEmpty()
+               ? DashboardText(known.noteId.toLatin1().constData())
+               : DashboardText("IDS_RULED_SOME")
+                     .arg(DashboardNumber(places - m_withoutEffect.size()), DashboardNumber(places));
 }
 
 void MainWindow::ShowNote()
@@ -340,9 +403,7 @@ void MainWindow::ShowNote()
         const bool isToldOf =
             m_overview.connections.teller != Connections::Plugin || m_overview.connections.AreKnown();
         if (plugin.state == PluginReady && !plugin.known.noteId.isEmpty() && isToldOf) {
-            const bool isIdle = PluginObjects::Ordering() && !ListRules::IsRuling();
-            notes.append(
-                DashboardText(isIdle ? "IDS_NOTE_NOT_RULING" : plugin.known.noteId.toLatin1().constData()));
+            notes.append(NoteOf(plugin.known));
         }
     }
     m_note->setText(DashboardJoined("IDS_SENTENCES", notes));
@@ -362,15 +423,22 @@ void MainWindow::Watch()
 {
     const bool isWatched = isVisible() && !isMinimized();
     QObject *connections = PluginObjects::ConnectionService();
+    QObject *order = PluginObjects::OrderService();
     if (isWatched == m_isWatching || !connections) {
         return;
     }
     m_isWatching = isWatched;
     if (isWatched) {
         connect(connections, SIGNAL(OnConnectionsChanged()), m_refreshTimer, SLOT(start()));
+        if (order) {
+            connect(order, SIGNAL(OnOrderChanged()), m_refreshTimer, SLOT(start()));
+        }
         m_refreshTimer->start();
     } else {
-        disconnect(connections, SIGNAL(OnConnectionsChanged()), m_refreshTimer, SLOT(start()));
+        disconnect(connections, nullptr, m_refreshTimer, nullptr);
+        if (order) {
+            disconnect(order, nullptr, m_refreshTimer, nullptr);
+        }
     }
 }
 

@@ -7,6 +7,7 @@
 #include <HostControl.h>
 #include <Overview.h>
 #include <PluginList.h>
+#include <RuledPlaces.h>
 
 #include <QMainWindow>
 #include <QPointer>
@@ -20,6 +21,7 @@ class ListGuard;
 class ListKeeper;
 class MessagePage;
 class PluginHost;
+struct KnownPlugin;
 class QAction;
 class QActionGroup;
 class QLabel;
@@ -27,6 +29,7 @@ class QListWidget;
 class QMenu;
 class QStackedWidget;
 class QTimer;
+class RuledDialog;
 class SettingsDialog;
 class TextButton;
 class TraceLog;
@@ -72,6 +75,7 @@ private slots:
     void ChooseAppearance(QAction *action);
     void SettingsClosed();
     void ConnectClosed();
+    void OpenRuled();
 
 private:
     void CreateMenus();
@@ -88,6 +92,8 @@ private:
     void ShowNoList();
     void ShowEmptyList();
     void ShowNote();
+    QString NoteOf(const KnownPlugin &known) const;
+    void ShowRuled();
 
     PluginHost *const m_plugins;
     DashboardLanguage *const m_language;
@@ -106,6 +112,8 @@ private:
     ConnectionOrder m_order;
     QPointer<SettingsDialog> m_settings;
     QPointer<ConnectDialog> m_connect;
+    QPointer<RuledDialog> m_ruled;
+    QList<PlaceWithoutEffect> m_withoutEffect;
 
     QMenu *m_networkMenu;
     QMenu *m_editMenu;
@@ -117,6 +125,7 @@ private:
     QAction *m_refreshAction;
     QAction *m_quitAction;
     QAction *m_repairAction;
+    QAction *m_ruledAction;
     QAction *m_searchAction;
     QMenu *m_appearanceMenu;
     QActionGroup *m_appearanceActions;
@@ -128,6 +137,7 @@ private:
     QWidget *m_listBar;
     QLabel *m_listTitle;
     QLabel *m_note;
+    TextButton *m_ruledButton;
     TextButton *m_settingsButton;
     QStackedWidget *m_body;
     QListWidget *m_list;
