@@ -960,7 +960,7 @@ Attendu&#xa0;: %3</translation>
     </message>
     <message>
         <source>IDS_RULED_WHY</source>
-        <translation>Pourquoi pas pour tous ?</translation>
+        <translation>Pourquoi pas pour tous&#x202f;?</translation>
     </message>
     <message>
         <source>IDS_RULED_MEANS</source>
@@ -1000,7 +1000,7 @@ Attendu&#xa0;: %3</translation>
     </message>
     <message>
         <source>IDS_RULED_NOT_ALLOWED</source>
-        <translation>Seul un administrateur peut changer son rang. Dans les paramètres réseau du bureau, il peut devenir un réseau pour vous seul ; son rang a alors son effet.</translation>
+        <translation>Seul un administrateur peut changer son rang. Dans les paramètres réseau du bureau, il peut devenir un réseau pour vous seul&#x202f;; son rang a alors son effet.</translation>
     </message>
     <message>
         <source>IDS_RULED_PASSING</source>
