@@ -44,6 +44,7 @@ private slots:
     void OrderWaitsForTheMetrics();
     void RefusalIsTold_data();
     void RefusalIsTold();
+    void ChosenMetricThatContradictsIsTold();
     void DeviceThatHasGoneIsNotTold();
 
 private:
@@ -59,6 +60,7 @@ private:
     QString m_wifi;
     QString m_modem;
     QString m_wifiConnection;
+    QString m_wifiProfile;
     QString m_mobileProfile;
 };
 
@@ -85,7 +87,8 @@ void tst_networkmanagermetrics::Begin(const char *list)
     SetList(list);
     m_wifi = Fake().AddDevice();
     m_modem = Fake().AddModem();
-    m_wifiConnection = Fake().Connect(Fake().AddProfile("A"), activated, m_wifi);
+    m_wifiProfile = Fake().AddProfile("A");
+    m_wifiConnection = Fake().Connect(m_wifiProfile, activated, m_wifi);
     m_mobileProfile = Fake().AddProfile("M", "gsm");
     Fake().Connect(m_mobileProfile, activated, m_modem);
     Fake().ForgetCalls();
@@ -290,6 +293,17 @@ void tst_networkmanagermetrics::RefusalIsTold()
     QCOMPARE(outcome.kept.first().name, QString("M"));
     QTEST(outcome.kept.first().obstacle, "obstacle");
     QCOMPARE(trace.Lines().filter("the route metric of \"M\" is not changed").size(), 1);
+}
+
+void tst_networkmanagermetrics::ChosenMetricThatContradictsIsTold()
+{
+    Begin("M A");
+    // Before wired connections, where nothing else is put.
+    Fake().SetSetting(m_wifiProfile, "ipv4", "route-metric", qlonglong(90));
+    const OrderOutcome outcome = Order();
+    QCOMPARE(outcome.kept.size(), 1);
+    QCOMPARE(outcome.kept.first().name, QString("A"));
+    QCOMPARE(outcome.kept.first().obstacle, int(ObstacleOwnMetric));
 }
 
 void tst_networkmanagermetrics::DeviceThatHasGoneIsNotTold()
