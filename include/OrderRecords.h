@@ -16,7 +16,7 @@
  * one with the greater. NetworkManager's go from -999 to 999, and 0 is what nobody has set.
  */
 
-/** Why a profile keeps the priority that it has. */
+/** Why a profile keeps the priority, or its connection the route metric, that it has. */
 enum OrderObstacle {
     ObstacleNotKnown = 0,
     /** It belongs to other users of this computer. */
@@ -30,7 +30,10 @@ enum OrderObstacle {
     /** The connection manager refused the change. */
     ObstacleRefused = 5,
     /** The connection manager did not answer. */
-    ObstacleNoAnswer = 6
+    ObstacleNoAnswer = 6,
+    /** Somebody has chosen a route metric for it: of several connections that are up, another one carries the
+     * traffic. */
+    ObstacleOwnMetric = 7
 };
 
 /** A profile that was given another priority. */
@@ -41,7 +44,7 @@ struct OrderChange {
     int after = 0;
 };
 
-/** A profile that was to be changed and could not be. */
+/** A profile that was to be changed, or to carry the traffic, and could not be made to. */
 struct OrderKept {
     QString name;
     /** An OrderObstacle. */

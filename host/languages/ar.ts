@@ -1010,6 +1010,10 @@
         <translation>لم يقبل ‪NetworkManager‬ موضعها.</translation>
     </message>
     <message>
+        <source>IDS_RULED_OWN_METRIC</source>
+        <translation>اختار أحدهم لها مقياس مسار، لذلك قد يحمل اتصال آخر حركة البيانات قبلها.</translation>
+    </message>
+    <message>
         <source>IDS_RULED_RETRIES</source>
         <translation>بعد عدة محاولات فاشلة ينتظر ‪NetworkManager‬ خمس دقائق قبل أن يحاول من جديد.</translation>
     </message>

@@ -1011,6 +1011,10 @@ Erwartet: %3</translation>
         <translation>NetworkManager hat seinen Platz nicht übernommen.</translation>
     </message>
     <message>
+        <source>IDS_RULED_OWN_METRIC</source>
+        <translation>Jemand hat dafür eine Routenmetrik gewählt, daher kann eine andere Verbindung vor ihm den Verkehr tragen.</translation>
+    </message>
+    <message>
         <source>IDS_RULED_RETRIES</source>
         <translation>Nach mehreren Fehlschlägen wartet NetworkManager fünf Minuten, bevor er es erneut versucht.</translation>
     </message>

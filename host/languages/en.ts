@@ -1081,6 +1081,11 @@ Expected: %3</translation>
         <translation>NetworkManager did not take its place.</translation>
     </message>
     <message>
+        <source>IDS_RULED_OWN_METRIC</source>
+        <extracomment>Why a place of the list has no effect. A route metric is NetworkManager's number for which connection carries the traffic</extracomment>
+        <translation>Somebody has chosen a route metric for it, so another connection may carry the traffic before it.</translation>
+    </message>
+    <message>
         <source>IDS_RULED_RETRIES</source>
         <extracomment>Behind a sentence that tells why a network could not be connected</extracomment>
         <translation>After several failures NetworkManager waits for five minutes before it tries again.</translation>

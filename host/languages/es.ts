@@ -1011,6 +1011,10 @@ Esperado: %3</translation>
         <translation>NetworkManager no aceptó su puesto.</translation>
     </message>
     <message>
+        <source>IDS_RULED_OWN_METRIC</source>
+        <translation>Alguien eligió una métrica de ruta para ella, así que otra conexión puede llevar el tráfico antes.</translation>
+    </message>
+    <message>
         <source>IDS_RULED_RETRIES</source>
         <translation>Tras varios fallos, NetworkManager espera cinco minutos antes de volver a intentarlo.</translation>
     </message>

@@ -1011,6 +1011,10 @@ Attendu&#xa0;: %3</translation>
         <translation>NetworkManager n’a pas accepté son rang.</translation>
     </message>
     <message>
+        <source>IDS_RULED_OWN_METRIC</source>
+        <translation>Quelqu’un a choisi une métrique de route pour lui, donc une autre connexion peut porter le trafic avant lui.</translation>
+    </message>
+    <message>
         <source>IDS_RULED_RETRIES</source>
         <translation>Après plusieurs échecs, NetworkManager attend cinq minutes avant de réessayer.</translation>
     </message>

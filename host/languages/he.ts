@@ -1010,6 +1010,10 @@
         <translation>התוכנה ‪NetworkManager‬ לא קיבלה את המקום שלה.</translation>
     </message>
     <message>
+        <source>IDS_RULED_OWN_METRIC</source>
+        <translation>מישהו בחר עבורה מדד נתיב, ולכן ייתכן שחיבור אחר יישא את התעבורה לפניה.</translation>
+    </message>
+    <message>
         <source>IDS_RULED_RETRIES</source>
         <translation>אחרי כמה כישלונות התוכנה ‪NetworkManager‬ ממתינה חמש דקות לפני שהיא מנסה שוב.</translation>
     </message>

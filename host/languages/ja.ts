@@ -1011,6 +1011,10 @@
         <translation>NetworkManager は、その順位を受け付けませんでした。</translation>
     </message>
     <message>
+        <source>IDS_RULED_OWN_METRIC</source>
+        <translation>ルートのメトリックが個別に選ばれているため、ほかの接続が先に通信を受け持つことがあります。</translation>
+    </message>
+    <message>
         <source>IDS_RULED_RETRIES</source>
         <translation>何度か失敗すると、NetworkManager は 5 分待ってからもう一度試します。</translation>
     </message>

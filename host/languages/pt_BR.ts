@@ -1011,6 +1011,10 @@ Esperado: %3</translation>
         <translation>O NetworkManager não aceitou a sua posição.</translation>
     </message>
     <message>
+        <source>IDS_RULED_OWN_METRIC</source>
+        <translation>Alguém escolheu uma métrica de rota para ela, por isso outra conexão pode levar o tráfego antes dela.</translation>
+    </message>
+    <message>
         <source>IDS_RULED_RETRIES</source>
         <translation>Depois de várias falhas, o NetworkManager espera cinco minutos antes de tentar de novo.</translation>
     </message>

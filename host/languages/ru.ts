@@ -1011,6 +1011,10 @@
         <translation>NetworkManager не принял её место.</translation>
     </message>
     <message>
+        <source>IDS_RULED_OWN_METRIC</source>
+        <translation>Для неё кем-то выбрана метрика маршрута, поэтому трафик может идти через другое подключение.</translation>
+    </message>
+    <message>
         <source>IDS_RULED_RETRIES</source>
         <translation>После нескольких неудач NetworkManager ждёт пять минут, прежде чем попробовать снова.</translation>
     </message>

@@ -1011,6 +1011,10 @@
         <translation>NetworkManager 没有接受它的位置。</translation>
     </message>
     <message>
+        <source>IDS_RULED_OWN_METRIC</source>
+        <translation>有人为它选定了路由跃点数，因此可能由其他连接先承载流量。</translation>
+    </message>
+    <message>
         <source>IDS_RULED_RETRIES</source>
         <translation>多次失败后，NetworkManager 会等待五分钟再重试。</translation>
     </message>

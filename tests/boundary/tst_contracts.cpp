@@ -253,6 +253,7 @@ const Number numbers[] = {
     {"ObstaclePassword", 4},
     {"ObstacleRefused", 5},
     {"ObstacleNoAnswer", 6},
+    {"ObstacleOwnMetric", 7},
     {"StageOrderNotKnown", 0},
     {"StageOrderUnderWay", 1},
     {"StageOrderDone", 2},

@@ -161,16 +161,18 @@ void FillWithEveryReason(QList<PriorityList> *list, Connections *told)
 /** A list of which no place has an effect, each for another reason. */
 void FillWithoutEffect(QList<PriorityList> *list, FakeConnections *connections)
 {
-    *list = Listed(QString::fromUtf8("Home, Café, Office, Company, Library, Campus, Workshop, Home"));
+    *list =
+        Listed(QString::fromUtf8("Home, Café, Office, Company, Library, Campus, Neighbour, Workshop, Home"));
     QList<ConnectionProfile> &profiles = connections->told.profiles;
     profiles.clear();
-    for (const char *name : {"Home", "Café", "Office", "Company", "Library", "Campus"}) {
+    for (const char *name : {"Home", "Café", "Office", "Company", "Library", "Campus", "Neighbour"}) {
         profiles.append(SavedProfile(QString::fromUtf8(name)));
     }
     profiles[0].connectsByItself = false;
     profiles[1].failure = FailureNoAnswer;
-    const int obstacles[] = {ObstacleNotAllowed, ObstaclePassing, ObstacleRefused, ObstacleOtherUsers};
-    for (int i = 0; i < 4; ++i) {
+    const int obstacles[] = {ObstacleNotAllowed, ObstaclePassing, ObstacleRefused, ObstacleOtherUsers,
+                             ObstacleOwnMetric};
+    for (int i = 0; i < 5; ++i) {
         OrderKept kept;
         kept.profileId = profiles.at(i + 2).id;
         kept.obstacle = obstacles[i];

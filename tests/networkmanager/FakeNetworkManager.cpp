@@ -287,6 +287,8 @@ QString FakeNetworkManager::MakeConnection(const QString &profile, unsigned int 
     TellOfObject(path);
     if (!device.isEmpty()) {
         Put(device, deviceInterface, "ActiveConnection", PathValue(path));
+        m_applied[device] = m_settings.value(profile);
+        ++m_appliedVersions[device];
     }
     Put(root, managerInterface, "ActiveConnections", PathList(QStringList(path)));
     return path;
@@ -324,6 +326,30 @@ void FakeNetworkManager::SetDeviceState(const QString &device, unsigned int stat
         Put(device, deviceInterface, "State", state);
     }
     Settle();
+}
+
+void FakeNetworkManager::SetApplied(const QString &device, const QString &section, const QString &key,
+                                    const QVariant &value)
+{
+    const QMutexLocker locker(&m_mutex);
+    m_applied[device][section][key] = value;
+    ++m_appliedVersions[device];
+}
+
+NMVariantMapMap FakeNetworkManager::AppliedTo(const QString &device)
+{
+    const QMutexLocker locker(&m_mutex);
+    return m_applied.value(device);
+}
+
+QList<int> FakeNetworkManager::MetricsOf(const QString &device)
+{
+    const NMVariantMapMap settings = AppliedTo(device);
+    QList<int> metrics;
+    for (const char *section : {"ipv4", "ipv6"}) {
+        metrics.append(settings.value(section).value("route-metric", -1).toInt());
+    }
+    return metrics;
 }
 
 void FakeNetworkManager::Fail(const QString &activeConnection, unsigned int reason)
@@ -588,7 +614,29 @@ QDBusMessage FakeNetworkManager::Answer(const QDBusMessage &call)
     if (method == "RequestScan" && m_objects.contains(call.path())) {
         return call.createReply();
     }
+    if (m_applied.contains(call.path())) {
+        return AnswerOfDevice(call);
+    }
     return call.path() == root ? AnswerOfManager(call) : AnswerOfProfile(call);
+}
+
+QDBusMessage FakeNetworkManager::AnswerOfDevice(const QDBusMessage &call)
+{
+    const QString device = call.path();
+    if (call.member() == "GetAppliedConnection") {
+        return call.createReply(QList<QVariant>() << QVariant::fromValue(WithoutKeys(m_applied.value(device)))
+                                                  << m_appliedVersions.value(device));
+    }
+    if (call.member() == "Reapply") {
+        if (call.arguments().at(1).toULongLong() != m_appliedVersions.value(device)) {
+            return call.createErrorReply("org.freedesktop.NetworkManager.Device.VersionIdMismatch",
+                                         "changed");
+        }
+        m_applied[device] = SettingsIn(call);
+        ++m_appliedVersions[device];
+        return call.createReply();
+    }
+    return call.createErrorReply(noSuchObject, "there is no such method");
 }
 
 QDBusMessage FakeNetworkManager::AnswerOfManager(const QDBusMessage &call)

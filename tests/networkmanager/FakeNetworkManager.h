@@ -45,6 +45,11 @@ public:
     QString Connect(const QString &profile, unsigned int state, const QString &device = QString());
     void SetConnectionState(const QString &activeConnection, unsigned int state);
     void SetDeviceState(const QString &device, unsigned int state, unsigned int reason = 0);
+    /** As another program changes what a device is connected by. */
+    void SetApplied(const QString &device, const QString &section, const QString &key, const QVariant &value);
+    NMVariantMapMap AppliedTo(const QString &device);
+    /** The route metrics for both kinds of addresses by which a device is connected; -1 where it has none. */
+    QList<int> MetricsOf(const QString &device);
     /** As a device fails: it, its connection and what was made for it alone go their way. */
     void Fail(const QString &activeConnection, unsigned int reason);
     /** The connections that there are, in the order of their paths. */
@@ -114,6 +119,7 @@ private:
                    const QList<QVariant> &arguments);
     QDBusMessage Answer(const QDBusMessage &call);
     QDBusMessage AnswerOfProfile(const QDBusMessage &call);
+    QDBusMessage AnswerOfDevice(const QDBusMessage &call);
     QString Store(const NMVariantMapMap &settings);
     QString MakeConnection(const QString &profile, unsigned int state, const QString &device);
     QDBusMessage AnswerOfManager(const QDBusMessage &call);
@@ -132,6 +138,9 @@ private:
     QDBusConnection m_connection;
     QMap<QString, NMVariantMapMap> m_objects;
     QMap<QString, NMVariantMapMap> m_settings;
+    /** By device: what it is connected by, and how often that has changed. */
+    QMap<QString, NMVariantMapMap> m_applied;
+    QMap<QString, qulonglong> m_appliedVersions;
     QVariantMap m_conditions;
     qulonglong m_changesByKeyQuestion = 1;
     QVariantMap m_options;

@@ -22,7 +22,7 @@ void Write(const QString &path, const QByteArray &content)
 
 NetworkManagerDaemon::NetworkManagerDaemon(PrivateBus *bus) : m_bus(bus) {}
 
-bool NetworkManagerDaemon::Start(const QString &authorization)
+bool NetworkManagerDaemon::Start(const QString &authorization, const QString &unmanaged)
 {
     const QString program = ChildProcess::Find("NetworkManager");
     if (program.isEmpty() || ChildProcess::Find("nmcli").isEmpty()) {
@@ -35,7 +35,7 @@ bool NetworkManagerDaemon::Start(const QString &authorization)
           "[main]\nplugins=keyfile\ndns=none\nrc-manager=unmanaged\nno-auto-default=*\nhostname-mode=none\n"
           "auth-polkit=" +
               authorization.toLatin1() + "\n[keyfile]\npath=" + QFile::encodeName(m_bus->Path("profiles")) +
-              "\nunmanaged-devices=*\n");
+              "\nunmanaged-devices=" + unmanaged.toLatin1() + "\n");
     const QString empty = m_bus->Path("empty");
     if (!m_daemon.Begin(program,
                         QStringList() << "--no-daemon"

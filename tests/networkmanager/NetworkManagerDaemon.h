@@ -8,8 +8,8 @@
 #include <QStringList>
 
 /**
- * NetworkManager itself, with profiles of its own and nothing to manage, on a private bus. To be used in a
- * process that has entered a namespace.
+ * NetworkManager itself, with profiles of its own and mostly nothing to manage, on a private bus. To be used
+ * in a process that has entered a namespace.
  */
 class NetworkManagerDaemon
 {
@@ -17,8 +17,10 @@ public:
     explicit NetworkManagerDaemon(PrivateBus *bus);
 
     /** @param authorization  NetworkManager's own word: "false" allows everybody everything, "root-only"
-     * root. */
-    bool Start(const QString &authorization = QLatin1String("false"));
+     * root.
+     * @param unmanaged  NetworkManager's own words for the devices that it leaves alone. */
+    bool Start(const QString &authorization = QLatin1String("false"),
+               const QString &unmanaged = QLatin1String("*"));
     QString WhyNot() const { return m_whyNot; }
     bool IsRunning() const { return m_daemon.state() == QProcess::Running; }
     void End();

@@ -23,6 +23,7 @@ const NamedError namedErrors[] = {
     {"org.freedesktop.DBus.Error.InvalidSignature", NetworkManagerResultUnusableAnswer},
     {"org.freedesktop.DBus.Error.AccessDenied", NetworkManagerResultPermissionDenied},
     {"org.freedesktop.NetworkManager.Settings.VersionIdMismatch", NetworkManagerResultChangedMeanwhile},
+    {"org.freedesktop.NetworkManager.Device.VersionIdMismatch", NetworkManagerResultChangedMeanwhile},
 };
 
 /** Those of a profile's content. */

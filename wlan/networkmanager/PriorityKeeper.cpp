@@ -52,7 +52,8 @@ CPriorityKeeper::CPriorityKeeper(CNetworkManagerClient *client, CLivePicture *pi
     : QObject(parent), m_client(client), m_picture(picture),
       m_listPath(userDirectory + QLatin1String("Priority.xml")), m_file(new FileWatcher(m_listPath, this)),
       m_rules(new FileWatcher(ListRules::FilePath(), this)), m_records(RecordsFile(userDirectory)),
-      m_notice("IDS_WLAN_ORDER_TITLE"), m_writer(client, nullptr), m_isWaiting(false), m_isDueAgain(false)
+      m_notice("IDS_WLAN_ORDER_TITLE"), m_writer(client, nullptr), m_metrics(client, nullptr),
+      m_isWaiting(false), m_isDueAgain(false)
 {
     m_pause.setSingleShot(true);
     m_pause.setInterval(pauseMilliseconds);
@@ -60,6 +61,7 @@ CPriorityKeeper::CPriorityKeeper(CNetworkManagerClient *client, CLivePicture *pi
 
     connect(m_picture, SIGNAL(Changed()), this, SLOT(TakePicture()));
     connect(&m_writer, SIGNAL(Finished()), this, SLOT(TakeResults()));
+    connect(&m_metrics, &CMetricKeeper::Finished, this, &CPriorityKeeper::TakeMetrics);
     connect(m_file, SIGNAL(Changed()), this, SLOT(Trigger()));
     connect(m_rules, SIGNAL(Changed()), this, SLOT(Trigger()));
     connect(m_client, SIGNAL(Appeared()), this, SLOT(Trigger()));
@@ -83,7 +85,8 @@ void CPriorityKeeper::Trigger()
 
 void CPriorityKeeper::TakeManagerChange(const QString &, const QVariantMap &changed, const QStringList &)
 {
-    if (changed.contains(QLatin1String("ActiveConnections"))) {
+    if (changed.contains(QLatin1String("ActiveConnections")) ||
+        changed.contains(QLatin1String("PrimaryConnection"))) {
         Trigger();
     }
 }
@@ -97,7 +100,7 @@ void CPriorityKeeper::TakeConnectionChange(const QString &, const QVariantMap &c
 
 void CPriorityKeeper::Begin()
 {
-    if (m_writer.IsWriting()) {
+    if (m_writer.IsWriting() || m_metrics.IsWorking()) {
         m_isDueAgain = true;
         return;
     }
@@ -150,7 +153,7 @@ void CPriorityKeeper::Compare()
         m_isDueAgain = true;
         End();
     } else {
-        Write(picture.profiles, isRuling ? list : QList<PriorityList>());
+        Write(picture, isRuling ? list : QList<PriorityList>());
     }
 }
 
@@ -197,13 +200,21 @@ bool CPriorityKeeper::AddFirstConnections(IPriorityPlugin *priority, const Conne
     return true;
 }
 
-void CPriorityKeeper::Write(const QList<NetworkProfile> &profiles, const QList<PriorityList> &list)
+void CPriorityKeeper::Write(const ConnectionPicture &picture, const QList<PriorityList> &list)
 {
-    const PlannedPriorities planned = PriorityPlan::Make(list, profiles, &m_records.priorities);
+    const PlannedPriorities planned = PriorityPlan::Make(list, picture.profiles, &m_records.priorities);
     Tell(planned);
     const QList<NetworkProfile> kept = planned.contradicting + planned.owing;
     for (const NetworkProfile &profile : kept) {
         Keep(profile, ObstacleOf(profile));
+    }
+    const QList<NetworkProfile> chosen = m_metrics.Plan(list, picture, &m_records.metrics);
+    for (const NetworkProfile &profile : chosen) {
+        Keep(profile, ObstacleOwnMetric);
+        Complain(
+            QString::fromLatin1("\"%1\" has a route metric that somebody has chosen, and that contradicts "
+                                "the list")
+                .arg(profile.name));
     }
     // Saved first: a priority that was written and not recorded could never be told from somebody else's.
     SaveRecords();
@@ -283,6 +294,18 @@ void CPriorityKeeper::TakeResults()
                          .arg(change.profile.name, DescriptionOf(results.at(i))));
         }
     }
+    m_metrics.Start(&m_records.metrics);
+}
+
+void CPriorityKeeper::TakeMetrics()
+{
+    for (const CMetricKeeper::Failure &failure : m_metrics.Failures()) {
+        Keep(failure.profile, CPriorityWriter::ObstacleOf(failure.result));
+        Complain(QString::fromLatin1("the route metric of \"%1\" is not changed: %2")
+                     .arg(failure.profile.name, DescriptionOf(failure.result)));
+    }
+    m_isDueAgain = m_isDueAgain || m_metrics.IsDueAgain();
+    SaveRecords();
     End();
 }
 

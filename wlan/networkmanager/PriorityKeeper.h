@@ -1,6 +1,7 @@
 #ifndef PRIORITYKEEPER_H
 #define PRIORITYKEEPER_H
 
+#include "MetricKeeper.h"
 #include "PriorityPlan.h"
 #include "PriorityWriter.h"
 
@@ -22,8 +23,9 @@ struct ConnectionPicture;
 
 /**
  * Keeps the priority list and NetworkManager's priorities together: whatever changes in the list is written
- * to NetworkManager, and a network that is connected for the first time goes to its place in the list. While
- * the user does not want the list to rule, all profiles have what they had before.
+ * to NetworkManager, and a network that is connected for the first time goes to its place in the list. Of
+ * several connections that are up, the first one in the list carries the traffic. While the user does not
+ * want the list to rule, all profiles and connections have what they had before.
  *
  * Works in the background: nobody waits for it, and it may be deleted at any time. The list is read and
  * changed through the priority plug-in alone; its file is only watched.
@@ -56,6 +58,7 @@ private slots:
     void Begin();
     void TakePicture();
     void TakeResults();
+    void TakeMetrics();
     void TakeManagerChange(const QString &interface, const QVariantMap &changed, const QStringList &);
     void TakeConnectionChange(const QString &interface, const QVariantMap &changed, const QStringList &);
 
@@ -66,7 +69,7 @@ private:
     bool ReadList(IPriorityPlugin *priority, QList<PriorityList> *list);
     bool AddFirstConnections(IPriorityPlugin *priority, const ConnectionPicture &picture,
                              const QList<PriorityList> &list);
-    void Write(const QList<NetworkProfile> &profiles, const QList<PriorityList> &list);
+    void Write(const ConnectionPicture &picture, const QList<PriorityList> &list);
     void SaveRecords();
     void Tell(const PlannedPriorities &planned);
     /** The name of the first profile that the user has not been told of, who is told of all of them now. */
@@ -88,6 +91,7 @@ private:
     CUserNotice m_notice;
     QTimer m_pause;
     CPriorityWriter m_writer;
+    CMetricKeeper m_metrics;
     /** For the picture to be complete. */
     bool m_isWaiting;
     bool m_isDueAgain;

@@ -51,6 +51,11 @@ QString WrittenRecord(const PriorityRecord &record)
     return numbers.join(QLatin1Char(' '));
 }
 
+QString MetricsGroup()
+{
+    return QLatin1String("metrics");
+}
+
 QSet<QString> ReadUuids(const QSettings &settings, const QString &key)
 {
     QSet<QString> uuids;
@@ -59,6 +64,32 @@ QSet<QString> ReadUuids(const QSettings &settings, const QString &key)
         uuids.insert(uuid);
     }
     return uuids;
+}
+
+QMap<QString, PriorityRecord> ReadRecords(const QString &group, QSettings *settings)
+{
+    QMap<QString, PriorityRecord> records;
+    settings->beginGroup(group);
+    const QStringList keys = settings->childKeys();
+    for (const QString &key : keys) {
+        PriorityRecord record;
+        if (ReadRecord(settings->value(key).toString(), &record)) {
+            records.insert(key, record);
+        }
+    }
+    settings->endGroup();
+    return records;
+}
+
+void WriteRecords(const QMap<QString, PriorityRecord> &records, const QString &group, QSettings *settings)
+{
+    settings->beginGroup(group);
+    settings->remove(QString());
+    for (QMap<QString, PriorityRecord>::const_iterator i = records.constBegin(); i != records.constEnd();
+         ++i) {
+        settings->setValue(i.key(), WrittenRecord(i.value()));
+    }
+    settings->endGroup();
 }
 
 void WriteUuids(const QSet<QString> &uuids, const QString &key, QSettings *settings)
@@ -101,15 +132,8 @@ bool CPriorityRecords::Open()
     isConnectedKnown = settings.contains(ConnectedKey());
     connected = ReadUuids(settings, ConnectedKey());
     told = ReadUuids(settings, ToldKey());
-    priorities.clear();
-    settings.beginGroup(PrioritiesGroup());
-    const QStringList keys = settings.childKeys();
-    for (int i = 0; i < keys.size(); ++i) {
-        PriorityRecord record;
-        if (ReadRecord(settings.value(keys.at(i)).toString(), &record)) {
-            priorities.insert(keys.at(i), record);
-        }
-    }
+    priorities = ReadRecords(PrioritiesGroup(), &settings);
+    metrics = ReadRecords(MetricsGroup(), &settings);
     Note();
     return true;
 }
@@ -123,6 +147,7 @@ void CPriorityRecords::Close()
 void CPriorityRecords::Note()
 {
     m_savedPriorities = priorities;
+    m_savedMetrics = metrics;
     m_savedConnected = connected;
     m_savedTold = told;
     m_isConnectedSaved = isConnectedKnown;
@@ -130,8 +155,9 @@ void CPriorityRecords::Note()
 
 bool CPriorityRecords::Save()
 {
-    if (m_file.isEmpty() || (priorities == m_savedPriorities && connected == m_savedConnected &&
-                             told == m_savedTold && isConnectedKnown == m_isConnectedSaved)) {
+    if (m_file.isEmpty() ||
+        (priorities == m_savedPriorities && metrics == m_savedMetrics && connected == m_savedConnected &&
+         told == m_savedTold && isConnectedKnown == m_isConnectedSaved)) {
         return true;
     }
     QSettings settings(m_file, QSettings::IniFormat);
@@ -139,13 +165,8 @@ bool CPriorityRecords::Save()
         WriteUuids(connected, ConnectedKey(), &settings);
     }
     WriteUuids(told, ToldKey(), &settings);
-    settings.beginGroup(PrioritiesGroup());
-    settings.remove(QString());
-    for (QMap<QString, PriorityRecord>::const_iterator i = priorities.constBegin();
-         i != priorities.constEnd(); ++i) {
-        settings.setValue(i.key(), WrittenRecord(i.value()));
-    }
-    settings.endGroup();
+    WriteRecords(priorities, PrioritiesGroup(), &settings);
+    WriteRecords(metrics, MetricsGroup(), &settings);
     settings.sync();
     m_isUnsaved = settings.status() != QSettings::NoError;
     if (m_isUnsaved) {

@@ -9,7 +9,7 @@
 
 #include <memory>
 
-/** What was done to the priority of one profile. */
+/** What was done to the priority of one profile, or to the route metric of one connection. */
 struct PriorityRecord {
     /** What it was before. */
     int before = 0;
@@ -25,9 +25,9 @@ struct PriorityRecord {
 };
 
 /**
- * What has to outlive the program for it to tell its own work from that of others: the priorities that it
- * wrote, the profiles that it has known as connected, and those that it has told of. Profiles are named by
- * their uuid; there is nothing else in the file.
+ * What has to outlive the program for it to tell its own work from that of others: the priorities and route
+ * metrics that it set, the profiles that it has known as connected, and those that it has told of. Profiles
+ * are named by their uuid, connections by NetworkManager's number; there is nothing else in the file.
  *
  * All programs of a user share the file. Who works with it has it alone, from Open to Close, which is to
  * include what is done to NetworkManager: another one would take our priorities for somebody's own.
@@ -44,6 +44,9 @@ public:
     void Close();
 
     QMap<QString, PriorityRecord> priorities;
+
+    /** As MetricPlan has them: the route metrics of connections that are up. */
+    QMap<QString, PriorityRecord> metrics;
 
     /** False when there is no file yet: nothing can be told of what was connected before. */
     bool isConnectedKnown = false;
@@ -63,6 +66,7 @@ private:
     const QString m_file;
     std::unique_ptr<QLockFile> m_lock;
     QMap<QString, PriorityRecord> m_savedPriorities;
+    QMap<QString, PriorityRecord> m_savedMetrics;
     QSet<QString> m_savedConnected;
     QSet<QString> m_savedTold;
     bool m_isConnectedSaved = false;

@@ -23,7 +23,7 @@ const Forms forms[] = {
 
 } // namespace
 
-QDBusMessage ProfileUpdate::Call(const NetworkProfile &profile, NMVariantMapMap settings)
+NMVariantMapMap ProfileUpdate::WithoutOldForms(NMVariantMapMap settings)
 {
     for (NMVariantMapMap::iterator section = settings.begin(); section != settings.end(); ++section) {
         for (const Forms &form : forms) {
@@ -32,12 +32,17 @@ QDBusMessage ProfileUpdate::Call(const NetworkProfile &profile, NMVariantMapMap 
             }
         }
     }
+    return settings;
+}
+
+QDBusMessage ProfileUpdate::Call(const NetworkProfile &profile, const NMVariantMapMap &settings)
+{
     QVariantMap conditions;
     if (profile.version != 0) {
         conditions.insert(QLatin1String("version-id"), profile.version);
     }
     QDBusMessage call = CNetworkManagerClient::Call(profile.path, CNetworkManagerClient::ProfileInterface(),
                                                     QLatin1String("Update2"));
-    call << QVariant::fromValue(settings) << 0U << conditions;
+    call << QVariant::fromValue(WithoutOldForms(settings)) << 0U << conditions;
     return call;
 }

@@ -66,6 +66,7 @@ const Word obstacles[] = {
     {ObstaclePassword, "changing it needs a password"},
     {ObstacleRefused, "NetworkManager refused the change"},
     {ObstacleNoAnswer, "NetworkManager did not answer"},
+    {ObstacleOwnMetric, "it has a route metric that somebody has chosen"},
 };
 
 /** What scripts are told of a stage; null for one that is not known. */

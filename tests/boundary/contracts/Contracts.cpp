@@ -384,6 +384,7 @@ void TellOrderWords()
     TellWord("ObstaclePassword", ObstaclePassword);
     TellWord("ObstacleRefused", ObstacleRefused);
     TellWord("ObstacleNoAnswer", ObstacleNoAnswer);
+    TellWord("ObstacleOwnMetric", ObstacleOwnMetric);
     TellWord("StageOrderNotKnown", OrderOutcome::StageOrderNotKnown);
     TellWord("StageOrderUnderWay", OrderOutcome::StageOrderUnderWay);
     TellWord("StageOrderDone", OrderOutcome::StageOrderDone);
