@@ -141,11 +141,11 @@ void CMetricKeeper::NoteApplied(const MetricChange &change, const QDBusMessage &
 bool CMetricKeeper::Compare(const MetricWish &wish, NMVariantMapMap *settings)
 {
     const qint64 there = MetricPlan::MetricIn(*settings, wish.section);
-    const bool isOurs = m_records->value(wish.key).IsOwn(static_cast<int>(there));
-    if (there == wish.metric || (wish.metric == wish.own && !isOurs)) {
+    if (there == wish.metric) {
         NoteDone(wish);
         return false;
     }
+    const bool isOurs = m_records->value(wish.key).IsOwn(static_cast<int>(there));
     if (there != wish.own && !isOurs) {
         m_records->remove(wish.key);
         m_chosen.insert(wish.key, there);

@@ -305,7 +305,8 @@ void CPriorityKeeper::TakeMetrics()
                      .arg(failure.profile.name, DescriptionOf(failure.result)));
     }
     m_isDueAgain = m_isDueAgain || m_metrics.IsDueAgain();
-    SaveRecords();
+    // A record too many does no harm: what a device has is looked at before anything is given back.
+    m_records.Save();
     End();
 }
 
