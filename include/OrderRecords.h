@@ -33,7 +33,9 @@ enum OrderObstacle {
     ObstacleNoAnswer = 6,
     /** Somebody has chosen a route metric for it: of several connections that are up, another one carries the
      * traffic. */
-    ObstacleOwnMetric = 7
+    ObstacleOwnMetric = 7,
+    /** Somebody else's list or program has given it another priority, and again after it was set right. */
+    ObstacleOtherList = 8
 };
 
 /** A profile that was given another priority. */

@@ -1014,6 +1014,10 @@
         <translation>اختار أحدهم لها مقياس مسار، لذلك قد يحمل اتصال آخر حركة البيانات قبلها.</translation>
     </message>
     <message>
+        <source>IDS_RULED_OTHER_LIST</source>
+        <translation>أعطتها قائمة شخص آخر أو برنامجه موضعًا آخر بعد ذلك. تعود قائمتك إلى التقرير بشأنها ما إن تغيّرها.</translation>
+    </message>
+    <message>
         <source>IDS_RULED_RETRIES</source>
         <translation>بعد عدة محاولات فاشلة ينتظر ‪NetworkManager‬ خمس دقائق قبل أن يحاول من جديد.</translation>
     </message>
@@ -1608,6 +1612,10 @@
     <message>
         <source>IDS_WLAN_ORDER_OVERTAKEN</source>
         <translation>الشبكة «%1» ليست في قائمتك، لكنها تُجرَّب قبل شبكات موجودة فيها: لا توجد أولوية أعلى لهذه الشبكات. أضِف «%1» إلى قائمتك ليكون لها موضع.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_ORDER_OTHER</source>
+        <translation>الشبكة «%1» ليست في موضعها حسب قائمتك: غيّرت قائمة مستخدم آخر أو برنامج آخر أولويتها مرة أخرى. ما إن تغيّر قائمتك حتى تسري من جديد.</translation>
     </message>
 </context>
 </TS>

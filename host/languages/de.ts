@@ -1015,6 +1015,10 @@ Erwartet: %3</translation>
         <translation>Jemand hat dafür eine Routenmetrik gewählt, daher kann eine andere Verbindung vor ihm den Verkehr tragen.</translation>
     </message>
     <message>
+        <source>IDS_RULED_OTHER_LIST</source>
+        <translation>Die Liste oder ein Programm von jemand anderem hat ihm seither einen anderen Platz gegeben. Ihre Liste bestimmt wieder darüber, sobald Sie sie ändern.</translation>
+    </message>
+    <message>
         <source>IDS_RULED_RETRIES</source>
         <translation>Nach mehreren Fehlschlägen wartet NetworkManager fünf Minuten, bevor er es erneut versucht.</translation>
     </message>
@@ -1609,6 +1613,10 @@ Erwartet: %3</translation>
     <message>
         <source>IDS_WLAN_ORDER_OVERTAKEN</source>
         <translation>„%1“ steht nicht in Ihrer Liste, wird aber vor Netzwerken versucht, die darin stehen: Für diese gibt es keine höhere Priorität. Fügen Sie „%1“ zu Ihrer Liste hinzu, damit das Netzwerk einen Platz bekommt.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_ORDER_OTHER</source>
+        <translation>„%1“ hat nicht den Platz aus Ihrer Liste: Die Liste einer anderen Person oder ein anderes Programm hat die Priorität erneut geändert. Sobald Sie Ihre Liste ändern, gilt sie wieder.</translation>
     </message>
 </context>
 </TS>

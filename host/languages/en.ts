@@ -1086,6 +1086,11 @@ Expected: %3</translation>
         <translation>Somebody has chosen a route metric for it, so another connection may carry the traffic before it.</translation>
     </message>
     <message>
+        <source>IDS_RULED_OTHER_LIST</source>
+        <extracomment>Why a place of the list has no effect. Somebody else: another user of the computer, for one</extracomment>
+        <translation>Somebody else’s list or program has given it another place since. Your list rules it again as soon as you change the list.</translation>
+    </message>
+    <message>
         <source>IDS_RULED_RETRIES</source>
         <extracomment>Behind a sentence that tells why a network could not be connected</extracomment>
         <translation>After several failures NetworkManager waits for five minutes before it tries again.</translation>
@@ -1771,6 +1776,11 @@ Expected: %3</translation>
         <source>IDS_WLAN_ORDER_OVERTAKEN</source>
         <extracomment>%1: a network</extracomment>
         <translation>“%1” is not in your list, but is tried before networks that are: there is no higher priority for these. Add “%1” to your list to give it a place.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_ORDER_OTHER</source>
+        <extracomment>%1: a network</extracomment>
+        <translation>“%1” does not have its place in your list: another user’s list or another program has changed its priority again. As soon as you change your list, it rules again.</translation>
     </message>
 </context>
 </TS>

@@ -1015,6 +1015,10 @@ Esperado: %3</translation>
         <translation>Alguien eligió una métrica de ruta para ella, así que otra conexión puede llevar el tráfico antes.</translation>
     </message>
     <message>
+        <source>IDS_RULED_OTHER_LIST</source>
+        <translation>La lista o un programa de otra persona le ha dado desde entonces otro puesto. Su lista vuelve a decidir en cuanto la cambie.</translation>
+    </message>
+    <message>
         <source>IDS_RULED_RETRIES</source>
         <translation>Tras varios fallos, NetworkManager espera cinco minutos antes de volver a intentarlo.</translation>
     </message>
@@ -1609,6 +1613,10 @@ Esperado: %3</translation>
     <message>
         <source>IDS_WLAN_ORDER_OVERTAKEN</source>
         <translation>«%1» no está en su lista, pero se prueba antes que redes que sí están: no hay una prioridad más alta para estas. Añada «%1» a su lista para darle un puesto.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_ORDER_OTHER</source>
+        <translation>«%1» no tiene su puesto de la lista: la lista de otra persona u otro programa ha vuelto a cambiar su prioridad. En cuanto cambie su lista, esta vuelve a dirigir.</translation>
     </message>
 </context>
 </TS>

@@ -1015,6 +1015,10 @@ Attendu&#xa0;: %3</translation>
         <translation>Quelqu’un a choisi une métrique de route pour lui, donc une autre connexion peut porter le trafic avant lui.</translation>
     </message>
     <message>
+        <source>IDS_RULED_OTHER_LIST</source>
+        <translation>La liste ou un programme de quelqu’un d’autre lui a donné depuis un autre rang. Votre liste en décide à nouveau dès que vous la modifiez.</translation>
+    </message>
+    <message>
         <source>IDS_RULED_RETRIES</source>
         <translation>Après plusieurs échecs, NetworkManager attend cinq minutes avant de réessayer.</translation>
     </message>
@@ -1609,6 +1613,10 @@ Attendu&#xa0;: %3</translation>
     <message>
         <source>IDS_WLAN_ORDER_OVERTAKEN</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas dans votre liste, mais est essayé avant des réseaux qui y sont&#xa0;: il n’y a pas de priorité plus élevée pour ceux-ci. Ajoutez «&#xa0;%1&#xa0;» à votre liste pour lui donner un rang.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_ORDER_OTHER</source>
+        <translation>«&#xa0;%1&#xa0;» n’a pas son rang dans votre liste&#xa0;: la liste d’une autre personne ou un autre programme a encore changé sa priorité. Dès que vous modifiez votre liste, elle s’applique de nouveau.</translation>
     </message>
 </context>
 </TS>

@@ -1014,6 +1014,10 @@
         <translation>מישהו בחר עבורה מדד נתיב, ולכן ייתכן שחיבור אחר יישא את התעבורה לפניה.</translation>
     </message>
     <message>
+        <source>IDS_RULED_OTHER_LIST</source>
+        <translation>רשימה או תוכנה של מישהו אחר נתנה לה מאז מקום אחר. הרשימה שלך תקבע שוב לגביה ברגע שיהיה בה שינוי.</translation>
+    </message>
+    <message>
         <source>IDS_RULED_RETRIES</source>
         <translation>אחרי כמה כישלונות התוכנה ‪NetworkManager‬ ממתינה חמש דקות לפני שהיא מנסה שוב.</translation>
     </message>
@@ -1608,6 +1612,10 @@
     <message>
         <source>IDS_WLAN_ORDER_OVERTAKEN</source>
         <translation>הרשת „%1” אינה ברשימה שלך, אך מנסים אותה לפני רשתות שנמצאות בה: אין להן עדיפות גבוהה יותר. יש להוסיף את „%1” לרשימה שלך כדי שיהיה לה מקום.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_ORDER_OTHER</source>
+        <translation>הרשת „%1” אינה במקום שלה לפי הרשימה שלך: רשימה של משתמש אחר או תוכנה אחרת שינו שוב את העדיפות שלה. ברגע שהרשימה שלך תשתנה, היא תחול שוב.</translation>
     </message>
 </context>
 </TS>

@@ -1015,6 +1015,10 @@
         <translation>ルートのメトリックが個別に選ばれているため、ほかの接続が先に通信を受け持つことがあります。</translation>
     </message>
     <message>
+        <source>IDS_RULED_OTHER_LIST</source>
+        <translation>ほかの人のリストまたはプログラムが、その後に別の順位を付けました。リストを変更すると、ふたたびあなたのリストが効きます。</translation>
+    </message>
+    <message>
         <source>IDS_RULED_RETRIES</source>
         <translation>何度か失敗すると、NetworkManager は 5 分待ってからもう一度試します。</translation>
     </message>
@@ -1609,6 +1613,10 @@
     <message>
         <source>IDS_WLAN_ORDER_OVERTAKEN</source>
         <translation>「%1」はリストにありませんが、リストにあるネットワークより先に試されます。それらのための、より高い優先度はありません。順位を付けるには、「%1」をリストに追加してください。</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_ORDER_OTHER</source>
+        <translation>「%1」はリストの順位どおりになっていません。ほかのユーザーのリストまたはほかのプログラムが、優先度を再び変更しました。リストを変更すると、再びリストの順番になります。</translation>
     </message>
 </context>
 </TS>

@@ -1015,6 +1015,10 @@ Esperado: %3</translation>
         <translation>Alguém escolheu uma métrica de rota para ela, por isso outra conexão pode levar o tráfego antes dela.</translation>
     </message>
     <message>
+        <source>IDS_RULED_OTHER_LIST</source>
+        <translation>A lista ou um programa de outra pessoa deu a ela outra posição desde então. A sua lista volta a decidir assim que você a mudar.</translation>
+    </message>
+    <message>
         <source>IDS_RULED_RETRIES</source>
         <translation>Depois de várias falhas, o NetworkManager espera cinco minutos antes de tentar de novo.</translation>
     </message>
@@ -1609,6 +1613,10 @@ Esperado: %3</translation>
     <message>
         <source>IDS_WLAN_ORDER_OVERTAKEN</source>
         <translation>“%1” não está na sua lista, mas é tentada antes de redes que estão: não há prioridade mais alta para elas. Adicione “%1” à sua lista para que ela tenha uma posição.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_ORDER_OTHER</source>
+        <translation>“%1” não tem a posição dela na sua lista: a lista de outra pessoa ou outro programa alterou de novo a prioridade dela. Assim que você alterar sua lista, ela volta a valer.</translation>
     </message>
 </context>
 </TS>

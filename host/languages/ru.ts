@@ -1015,6 +1015,10 @@
         <translation>Для неё кем-то выбрана метрика маршрута, поэтому трафик может идти через другое подключение.</translation>
     </message>
     <message>
+        <source>IDS_RULED_OTHER_LIST</source>
+        <translation>Чужой список или программа с тех пор дали ей другое место. Ваш список снова будет действовать, как только вы его измените.</translation>
+    </message>
+    <message>
         <source>IDS_RULED_RETRIES</source>
         <translation>После нескольких неудач NetworkManager ждёт пять минут, прежде чем попробовать снова.</translation>
     </message>
@@ -1609,6 +1613,10 @@
     <message>
         <source>IDS_WLAN_ORDER_OVERTAKEN</source>
         <translation>Сети «%1» нет в списке, но она пробуется раньше сетей из списка: более высокого приоритета для них нет. Добавьте «%1» в список, чтобы у неё было место.</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_ORDER_OTHER</source>
+        <translation>Сеть «%1» не на своём месте в списке: список другого пользователя или другая программа снова изменили её приоритет. Как только вы измените свой список, он снова начнёт действовать.</translation>
     </message>
 </context>
 </TS>

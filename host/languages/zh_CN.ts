@@ -1015,6 +1015,10 @@
         <translation>有人为它选定了路由跃点数，因此可能由其他连接先承载流量。</translation>
     </message>
     <message>
+        <source>IDS_RULED_OTHER_LIST</source>
+        <translation>此后他人的列表或程序给了它另一个位置。您一更改列表，它就会再次按您的列表处理。</translation>
+    </message>
+    <message>
         <source>IDS_RULED_RETRIES</source>
         <translation>多次失败后，NetworkManager 会等待五分钟再重试。</translation>
     </message>
@@ -1609,6 +1613,10 @@
     <message>
         <source>IDS_WLAN_ORDER_OVERTAKEN</source>
         <translation>“%1”不在您的列表中，但会先于列表中的网络被尝试：没有更高的优先级可用于这些网络。请将“%1”添加到您的列表，为它指定位置。</translation>
+    </message>
+    <message>
+        <source>IDS_WLAN_ORDER_OTHER</source>
+        <translation>“%1”不在您的列表规定的位置：其他用户的列表或其他程序再次更改了它的优先级。只要您更改列表，列表就会再次生效。</translation>
     </message>
 </context>
 </TS>

@@ -161,18 +161,19 @@ void FillWithEveryReason(QList<PriorityList> *list, Connections *told)
 /** A list of which no place has an effect, each for another reason. */
 void FillWithoutEffect(QList<PriorityList> *list, FakeConnections *connections)
 {
-    *list =
-        Listed(QString::fromUtf8("Home, Café, Office, Company, Library, Campus, Neighbour, Workshop, Home"));
+    *list = Listed(QString::fromUtf8(
+        "Home, Café, Office, Company, Library, Campus, Neighbour, Old printer, Workshop, Home"));
     QList<ConnectionProfile> &profiles = connections->told.profiles;
     profiles.clear();
-    for (const char *name : {"Home", "Café", "Office", "Company", "Library", "Campus", "Neighbour"}) {
+    for (const char *name :
+         {"Home", "Café", "Office", "Company", "Library", "Campus", "Neighbour", "Old printer"}) {
         profiles.append(SavedProfile(QString::fromUtf8(name)));
     }
     profiles[0].connectsByItself = false;
     profiles[1].failure = FailureNoAnswer;
-    const int obstacles[] = {ObstacleNotAllowed, ObstaclePassing, ObstacleRefused, ObstacleOtherUsers,
-                             ObstacleOwnMetric};
-    for (int i = 0; i < 5; ++i) {
+    const int obstacles[] = {ObstacleNotAllowed, ObstaclePassing,   ObstacleRefused,
+                             ObstacleOtherUsers, ObstacleOwnMetric, ObstacleOtherList};
+    for (int i = 0; i < 6; ++i) {
         OrderKept kept;
         kept.profileId = profiles.at(i + 2).id;
         kept.obstacle = obstacles[i];
@@ -346,6 +347,7 @@ const Screens::Screen Screens::screens[] = {
     {"notice, order, one can't be changed", &Screens::ShowStoringNotice, "IDS_WLAN_ORDER_FIXED"},
     {"notice, order, several can't be changed", &Screens::ShowStoringNotice, "IDS_WLAN_ORDER_SEVERAL"},
     {"notice, order, one outside comes first", &Screens::ShowStoringNotice, "IDS_WLAN_ORDER_OVERTAKEN"},
+    {"notice, order, another list rules", &Screens::ShowStoringNotice, "IDS_WLAN_ORDER_OTHER"},
     {"connect dialog", &Screens::ShowConnect, nullptr},
     {"connect dialog, nothing in range", &Screens::ShowConnect, noNetworks},
     {"connect dialog, something found", &Screens::ShowNetworkSearch, "o"},

@@ -73,6 +73,17 @@ private slots:
     void WhatAnotherProgramOfTheUserHasDoneIsSetBackToo();
     void ProgramsOfOneUserWorkInTurns();
     void ForeignPriorityIsNotSetBack();
+    void ForeignPriorityAgainstTheListIsSetRightOnce_data();
+    void ForeignPriorityAgainstTheListIsSetRightOnce();
+    void ForeignPriorityIsSetRightAlsoWhenThatTakesTime();
+    void ListRulesAgainAfterItWasSetAside_data();
+    void ListRulesAgainAfterItWasSetAside();
+    void OtherNetworksFollowTheListThatWasSetAside();
+    void ForeignPriorityInAgreementIsNotCounted();
+    void PriorityThatWasSetByHandOnceIsGivenBack();
+    void PriorityOfAnotherListIsNotGivenBack();
+    void ListStaysSetAsideInAnotherProgram();
+    void UserIsToldThatTheListIsSetAside();
     void RemovedListSetsAllBackAndANewOneIsFollowed();
     void ListThatIsNotToRuleGivesAllBackUntilItDoesAgain();
     void DamagedListGivesAllBackWhenItIsNotToRule();
@@ -121,6 +132,13 @@ private:
     {
         return Fake().PriorityOf(first) > Fake().PriorityOf(second);
     }
+    /** A comparison is over when nothing more is asked or written. */
+    void WaitUntilNothingIsAsked();
+    /** As somebody else does it, and has the list compared after it. */
+    void SetByHand(const QString &profile, int priority);
+    /** Has the list "A B" set aside; yields A, which had 12 before the list and has -5 now. */
+    QString SetAside();
+    static QString Standing();
     /** Gives time to whatever might still come. */
     static void Settle() { QTest::qWait(600); }
 
@@ -140,7 +158,11 @@ void tst_networkmanagerpriorities::Begin(const QString &entries)
     Fake().ForgetCalls();
     QVERIFY(LoadedWLAN::Root()->Init());
     QTRY_VERIFY(Fake().CallCount("GetManagedObjects") > 0);
-    // It is over when nothing more is asked or written.
+    WaitUntilNothingIsAsked();
+}
+
+void tst_networkmanagerpriorities::WaitUntilNothingIsAsked()
+{
     int calls = 0;
     do {
         calls = Fake().CallCount();
@@ -172,6 +194,36 @@ QStringList tst_networkmanagerpriorities::Notices()
     }
     StandInHost::messages.clear();
     return texts;
+}
+
+void tst_networkmanagerpriorities::SetByHand(const QString &profile, int priority)
+{
+    // It need not rest first.
+    Fake().SetProperty(profile, profileInterface, "VersionId", qulonglong(7));
+    Fake().SetSetting(profile, "connection", "autoconnect-priority", priority);
+    Fake().AddProfile("wired", "802-3-ethernet");
+    WaitUntilNothingIsAsked();
+}
+
+QString tst_networkmanagerpriorities::SetAside()
+{
+    const QString a = AddProfile("A", 12);
+    AddProfile("B", 0);
+    Begin("A B");
+    SetByHand(a, -5);
+    SetByHand(a, -5);
+    return a;
+}
+
+QString tst_networkmanagerpriorities::Standing()
+{
+    OrderOutcome standing;
+    LoadedWLAN::Order()->GetStanding(&standing);
+    QString told = QString("%1 %2").arg(standing.stage).arg(standing.failure);
+    for (const OrderKept &kept : std::as_const(standing.kept)) {
+        told += QString(" %1 %2").arg(kept.profileId).arg(kept.obstacle);
+    }
+    return told;
 }
 
 void tst_networkmanagerpriorities::OrderIsWritten()
@@ -524,6 +576,128 @@ void tst_networkmanagerpriorities::ForeignPriorityIsNotSetBack()
     Settle();
     QCOMPARE(Fake().PriorityOf(a), 50);
     QCOMPARE(Fake().CallCount("Update2"), 1);
+}
+
+void tst_networkmanagerpriorities::ForeignPriorityAgainstTheListIsSetRightOnce_data()
+{
+    QTest::addColumn<bool>("isTheSame");
+    QTest::newRow("the same network") << true;
+    QTest::newRow("the other one of the two") << false;
+}
+
+void tst_networkmanagerpriorities::ForeignPriorityAgainstTheListIsSetRightOnce()
+{
+    QFETCH(bool, isTheSame);
+    const QString a = AddProfile("A", 0);
+    const QString b = AddProfile("B", 0);
+    Begin("A B");
+    TraceCapture trace;
+    SetByHand(a, -5);
+    QVERIFY(IsBefore(a, b));
+    QVERIFY(trace.Lines().contains("WLANNetworkManager: somebody else has set the priority of \"A\" against "
+                                   "the list: it is set right once"));
+    QCOMPARE(Standing(), QString("%1 0").arg(int(OrderOutcome::StageOrderDone)));
+    const QString second = isTheSame ? a : b;
+    const int priority = isTheSame ? -6 : 999;
+    SetByHand(second, priority);
+    QCOMPARE(Fake().PriorityOf(second), priority);
+    QVERIFY(IsBefore(b, a));
+    QCOMPARE(
+        Standing(),
+        QString("%1 0 %2 %3").arg(int(OrderOutcome::StageOrderDone)).arg(second).arg(int(ObstacleOtherList)));
+}
+
+void tst_networkmanagerpriorities::ForeignPriorityIsSetRightAlsoWhenThatTakesTime()
+{
+    const QString a = AddProfile("A", 0);
+    const QString b = AddProfile("B", 0);
+    Begin("A B");
+    Fake().SetSetting(a, "connection", "autoconnect-priority", -5);
+    Fake().AddProfile("wired", "802-3-ethernet");
+    QTRY_VERIFY(IsBefore(a, b));
+}
+
+void tst_networkmanagerpriorities::ListRulesAgainAfterItWasSetAside_data()
+{
+    QTest::addColumn<QString>("list");
+    QTest::newRow("when it changes") << "A B C";
+    QTest::newRow("when the user orders it") << QString();
+}
+
+void tst_networkmanagerpriorities::ListRulesAgainAfterItWasSetAside()
+{
+    QFETCH(QString, list);
+    const QString a = SetAside();
+    QCOMPARE(Fake().PriorityOf(a), -5);
+    if (list.isEmpty()) {
+        LoadedWLAN::Order()->Apply();
+    } else {
+        SetList(list);
+    }
+    QTRY_VERIFY(Fake().PriorityOf(a) > 0);
+    QTRY_COMPARE(Standing(), QString("%1 0").arg(int(OrderOutcome::StageOrderDone)));
+}
+
+void tst_networkmanagerpriorities::OtherNetworksFollowTheListThatWasSetAside()
+{
+    const QString a = AddProfile("A", 0);
+    const QString b = AddProfile("B", 0);
+    const QString c = AddProfile("C", 0);
+    Begin("A B C");
+    SetByHand(a, -5);
+    SetByHand(a, -5);
+    SetByHand(c, 999);
+    QVERIFY(IsBefore(b, c));
+    QCOMPARE(Fake().PriorityOf(a), -5);
+}
+
+void tst_networkmanagerpriorities::ForeignPriorityInAgreementIsNotCounted()
+{
+    const QString a = AddProfile("A", 0);
+    const QString b = AddProfile("B", 0);
+    Begin("A B");
+    SetByHand(a, 900);
+    SetByHand(a, -5);
+    QVERIFY(IsBefore(a, b));
+}
+
+void tst_networkmanagerpriorities::PriorityThatWasSetByHandOnceIsGivenBack()
+{
+    const QString a = AddProfile("A", 12);
+    const QString b = AddProfile("B", 20);
+    Begin("A B");
+    SetByHand(a, -5);
+    QVERIFY(IsBefore(a, b));
+    SetList("B");
+    QTRY_COMPARE(Fake().PriorityOf(a), -5);
+}
+
+void tst_networkmanagerpriorities::PriorityOfAnotherListIsNotGivenBack()
+{
+    const QString a = SetAside();
+    LoadedWLAN::Order()->Apply();
+    QTRY_VERIFY(Fake().PriorityOf(a) > 0);
+    Settle();
+    SetList("B");
+    QTRY_COMPARE(Fake().PriorityOf(a), 12);
+}
+
+void tst_networkmanagerpriorities::ListStaysSetAsideInAnotherProgram()
+{
+    const QString a = SetAside();
+    StartPluginAgain();
+    QTRY_COMPARE(
+        Standing(),
+        QString("%1 0 %2 %3").arg(int(OrderOutcome::StageOrderDone)).arg(a).arg(int(ObstacleOtherList)));
+    QCOMPARE(Fake().PriorityOf(a), -5);
+}
+
+void tst_networkmanagerpriorities::UserIsToldThatTheListIsSetAside()
+{
+    QWidget window;
+    window.show();
+    SetAside();
+    QCOMPARE(Notices(), QStringList("WLAN?IDS_WLAN_ORDER_OTHER"));
 }
 
 void tst_networkmanagerpriorities::RemovedListSetsAllBackAndANewOneIsFollowed()

@@ -61,7 +61,7 @@ int CNetworkManagerOrder::Apply()
 {
     const int order = Begun();
     m_waiting.append(order);
-    m_keeper->Trigger();
+    m_keeper->BeginTurn();
     return order;
 }
 

@@ -45,6 +45,19 @@ int ObstacleOf(const NetworkProfile &profile)
                                 : ObstaclePassword;
 }
 
+/** The profiles as they are once all of that is written. */
+QList<NetworkProfile> WithChanges(QList<NetworkProfile> profiles, const QList<PriorityChange> &changes)
+{
+    for (NetworkProfile &profile : profiles) {
+        for (const PriorityChange &change : changes) {
+            if (change.profile.path == profile.path) {
+                profile.priority = change.priority;
+            }
+        }
+    }
+    return profiles;
+}
+
 } // namespace
 
 CPriorityKeeper::CPriorityKeeper(CNetworkManagerClient *client, CLivePicture *picture,
@@ -53,7 +66,7 @@ CPriorityKeeper::CPriorityKeeper(CNetworkManagerClient *client, CLivePicture *pi
       m_listPath(userDirectory + QLatin1String("Priority.xml")), m_file(new FileWatcher(m_listPath, this)),
       m_rules(new FileWatcher(ListRules::FilePath(), this)), m_records(RecordsFile(userDirectory)),
       m_notice("IDS_WLAN_ORDER_TITLE"), m_writer(client, nullptr), m_metrics(client, nullptr),
-      m_isWaiting(false), m_isDueAgain(false)
+      m_isTurnNew(false), m_isWaiting(false), m_isDueAgain(false)
 {
     m_pause.setSingleShot(true);
     m_pause.setInterval(pauseMilliseconds);
@@ -81,6 +94,12 @@ void CPriorityKeeper::Trigger()
     if (!m_pause.isActive()) {
         m_pause.start();
     }
+}
+
+void CPriorityKeeper::BeginTurn()
+{
+    m_isTurnNew = true;
+    Trigger();
 }
 
 void CPriorityKeeper::TakeManagerChange(const QString &, const QVariantMap &changed, const QStringList &)
@@ -202,8 +221,18 @@ bool CPriorityKeeper::AddFirstConnections(IPriorityPlugin *priority, const Conne
 
 void CPriorityKeeper::Write(const ConnectionPicture &picture, const QList<PriorityList> &list)
 {
-    const PlannedPriorities planned = PriorityPlan::Make(list, picture.profiles, &m_records.priorities);
-    Tell(planned);
+    const QList<NetworkProfile> &profiles = picture.profiles;
+    const QList<NetworkProfile> ruled = TakeTurn(profiles, list);
+    const PlannedPriorities planned = PriorityPlan::Make(list, ruled, &m_records.priorities);
+    if (m_records.turn.list.isEmpty()) {
+        KeepFormer(planned.changes);
+    }
+    const QList<NetworkProfile> yielded =
+        m_records.turn.Contradicting(list, WithChanges(profiles, planned.changes));
+    Tell(planned, yielded);
+    for (const NetworkProfile &profile : yielded) {
+        Keep(profile, ObstacleOtherList);
+    }
     const QList<NetworkProfile> kept = planned.contradicting + planned.owing;
     for (const NetworkProfile &profile : kept) {
         Keep(profile, ObstacleOf(profile));
@@ -218,24 +247,67 @@ void CPriorityKeeper::Write(const ConnectionPicture &picture, const QList<Priori
     }
     // Saved first: a priority that was written and not recorded could never be told from somebody else's.
     SaveRecords();
+    m_changes = planned.changes;
     QList<ProfileValue> values;
-    for (const PriorityChange &change : planned.changes) {
+    for (const PriorityChange &change : std::as_const(m_changes)) {
         values.append(ProfileValue::Priority(change.profile, change.priority));
     }
     m_writer.Start(values);
 }
 
-void CPriorityKeeper::SaveRecords()
+/** What a list of somebody else has written is nobody's own: it is not what is given back later. */
+void CPriorityKeeper::KeepFormer(const QList<PriorityChange> &changes)
 {
-    if (!m_records.Save()) {
-        Complain(QLatin1String(
-            "NetworkManager.ini can't be written: what this program has changed in NetworkManager "
-            "will be forgotten when it ends"));
+    for (const PriorityChange &change : changes) {
+        const QString &uuid = change.profile.uuid;
+        if (change.isListed && m_records.turn.before.contains(uuid)) {
+            m_records.priorities[uuid].before = m_records.turn.before.value(uuid);
+        }
     }
 }
 
-void CPriorityKeeper::Tell(const PlannedPriorities &planned)
+/** The profiles that the list rules now. */
+QList<NetworkProfile> CPriorityKeeper::TakeTurn(const QList<NetworkProfile> &profiles,
+                                                const QList<PriorityList> &list)
 {
+    m_list = PriorityTurn::NameOf(list);
+    if (m_isTurnNew || m_records.turn.list != m_list) {
+        m_records.turn = m_records.turn.Next();
+    }
+    m_isTurnNew = false;
+    const QList<NetworkProfile> setRight = m_records.turn.TakeChanges(list, profiles, &m_records.priorities);
+    for (const NetworkProfile &profile : setRight) {
+        Complain(QString::fromLatin1("somebody else has set the priority of \"%1\" against the list: it is "
+                                     "set right once")
+                     .arg(profile.name));
+    }
+    m_left.clear();
+    const QMap<QString, int> places = PriorityPlan::Places(list, profiles);
+    for (const NetworkProfile &profile : profiles) {
+        if (places.contains(profile.uuid)) {
+            m_left.insert(profile.uuid, profile.priority);
+        }
+    }
+    return m_records.turn.Ruled(profiles);
+}
+
+void CPriorityKeeper::SaveRecords()
+{
+    const QString complaint = QLatin1String("NetworkManager.ini can't be written: what this program has "
+                                            "changed in NetworkManager will be forgotten when it ends");
+    if (!m_records.Save() && !m_complaints.contains(complaint)) {
+        Complain(complaint);
+    }
+}
+
+void CPriorityKeeper::Tell(const PlannedPriorities &planned, const QList<NetworkProfile> &yielded)
+{
+    for (const NetworkProfile &profile : yielded) {
+        Complain(
+            QString::fromLatin1("\"%1\" does not have its place: somebody else's list or program has set "
+                                "its priority again")
+                .arg(profile.name));
+    }
     for (const NetworkProfile &profile : planned.contradicting) {
         Complain(QString::fromLatin1("\"%1\" can't be changed, and its priority contradicts the list")
                      .arg(profile.name));
@@ -249,12 +321,16 @@ void CPriorityKeeper::Tell(const PlannedPriorities &planned)
     m_records.told.clear();
     const QString fixed = FirstUntold(planned.contradicting, told);
     const QString overtaking = FirstUntold(planned.overtaking, told);
+    const QString other = FirstUntold(yielded, told);
     if (!fixed.isNull()) {
         m_notice.Tell(planned.contradicting.size() == 1 ? "IDS_WLAN_ORDER_FIXED" : "IDS_WLAN_ORDER_SEVERAL",
                       fixed);
     }
     if (!overtaking.isNull()) {
         m_notice.Tell("IDS_WLAN_ORDER_OVERTAKEN", overtaking);
+    }
+    if (!other.isNull()) {
+        m_notice.Tell("IDS_WLAN_ORDER_OTHER", other);
     }
 }
 
@@ -279,20 +355,28 @@ void CPriorityKeeper::TakeResults()
 {
     const QList<NetworkManagerResult> results = m_writer.Results();
     for (int i = 0; i < results.size(); ++i) {
-        const ProfileValue &change = m_writer.Values().at(i);
+        const PriorityChange &change = m_changes.at(i);
         if (results.at(i) == NetworkManagerResultChangedMeanwhile) {
             m_isDueAgain = true;
         } else if (results.at(i) == NetworkManagerResultSuccess) {
             OrderChange made;
             made.name = change.profile.name;
             made.before = change.profile.priority;
-            made.after = change.value.toInt();
+            made.after = change.priority;
             m_outcome.changes.append(made);
+            if (change.isListed) {
+                m_left.insert(change.profile.uuid, change.priority);
+                m_records.turn.left.insert(change.profile.uuid, change.priority);
+            }
         } else {
             Keep(change.profile, CPriorityWriter::ObstacleOf(results.at(i)));
             Complain(QString::fromLatin1("the priority of \"%1\" is not changed: %2")
                          .arg(change.profile.name, DescriptionOf(results.at(i))));
         }
+    }
+    if (!m_isDueAgain) {
+        m_records.turn.left = m_left;
+        m_records.turn.list = m_list;
     }
     m_metrics.Start(&m_records.metrics);
 }
@@ -305,8 +389,7 @@ void CPriorityKeeper::TakeMetrics()
                      .arg(failure.profile.name, DescriptionOf(failure.result)));
     }
     m_isDueAgain = m_isDueAgain || m_metrics.IsDueAgain();
-    // A record too many does no harm: what a device has is looked at before anything is given back.
-    m_records.Save();
+    SaveRecords();
     End();
 }
 

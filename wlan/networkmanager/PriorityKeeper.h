@@ -43,6 +43,9 @@ public:
     CPriorityKeeper(CNetworkManagerClient *client, CLivePicture *picture, const QString &userDirectory,
                     QObject *parent);
 
+    /** What the user orders now comes before what somebody else has set against the list. */
+    void BeginTurn();
+
 public slots:
     /** Has the two compared soon. */
     void Trigger();
@@ -70,8 +73,10 @@ private:
     bool AddFirstConnections(IPriorityPlugin *priority, const ConnectionPicture &picture,
                              const QList<PriorityList> &list);
     void Write(const ConnectionPicture &picture, const QList<PriorityList> &list);
+    void KeepFormer(const QList<PriorityChange> &changes);
+    QList<NetworkProfile> TakeTurn(const QList<NetworkProfile> &profiles, const QList<PriorityList> &list);
     void SaveRecords();
-    void Tell(const PlannedPriorities &planned);
+    void Tell(const PlannedPriorities &planned, const QList<NetworkProfile> &yielded);
     /** The name of the first profile that the user has not been told of, who is told of all of them now. */
     QString FirstUntold(const QList<NetworkProfile> &profiles, const QSet<QString> &told);
     void Complain(const QString &text);
@@ -92,6 +97,12 @@ private:
     QTimer m_pause;
     CPriorityWriter m_writer;
     CMetricKeeper m_metrics;
+    /** What is being written. */
+    QList<PriorityChange> m_changes;
+    /** What this comparison leaves, and of which list; see PriorityTurn. */
+    QMap<QString, int> m_left;
+    QString m_list;
+    bool m_isTurnNew;
     /** For the picture to be complete. */
     bool m_isWaiting;
     bool m_isDueAgain;

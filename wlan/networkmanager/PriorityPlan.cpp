@@ -129,10 +129,24 @@ FittedPlaces Fitted(const QList<NetworkProfile> &profiles, const Places &places,
 
 } // namespace
 
+QMap<QString, int> PriorityPlan::Places(const QList<PriorityList> &list,
+                                        const QList<NetworkProfile> &profiles)
+{
+    const ::Places all = PlacesIn(list);
+    QMap<QString, int> places;
+    for (const NetworkProfile &profile : profiles) {
+        const int place = PlaceOf(profile, all);
+        if (place >= 0) {
+            places.insert(profile.uuid, place);
+        }
+    }
+    return places;
+}
+
 PlannedPriorities PriorityPlan::Make(const QList<PriorityList> &list, const QList<NetworkProfile> &profiles,
                                      QMap<QString, PriorityRecord> *records)
 {
-    const Places places = PlacesIn(list);
+    const ::Places places = PlacesIn(list);
     const FittedPlaces fitted = Fitted(profiles, places, *records);
     PlannedPriorities planned;
     planned.overtaking = Overtaking(profiles, places, fitted, *records);
@@ -152,6 +166,7 @@ PlannedPriorities PriorityPlan::Make(const QList<PriorityList> &list, const QLis
         PriorityChange change;
         change.profile = profile;
         change.priority = fitted.priorities.value(place, PriorityBefore(profile, *records));
+        change.isListed = place >= 0;
         const bool isToBeWritten = change.priority != profile.priority;
         if (isToBeWritten) {
             planned.changes.append(change);

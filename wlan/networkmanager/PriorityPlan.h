@@ -14,6 +14,8 @@
 struct PriorityChange {
     NetworkProfile profile;
     int priority = 0;
+    /** Its place is in the list. */
+    bool isListed = false;
 };
 
 /** What has to be done, and what can't be. */
@@ -29,6 +31,9 @@ struct PlannedPriorities {
 
 namespace PriorityPlan
 {
+
+/** The places, counted from 0, of the profiles that the list has one for, by their uuids. */
+QMap<QString, int> Places(const QList<PriorityList> &list, const QList<NetworkProfile> &profiles);
 
 /**
  * What has to be written for the list to take effect: to profiles in the list whose priorities do not follow

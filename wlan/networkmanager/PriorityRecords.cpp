@@ -99,6 +99,66 @@ void WriteUuids(const QSet<QString> &uuids, const QString &key, QSettings *setti
     settings->setValue(key, list);
 }
 
+QMap<QString, int> ReadNumbers(const QString &group, QSettings *settings)
+{
+    QMap<QString, int> numbers;
+    settings->beginGroup(group);
+    const QStringList keys = settings->childKeys();
+    for (const QString &key : keys) {
+        numbers.insert(key, settings->value(key).toInt());
+    }
+    settings->endGroup();
+    return numbers;
+}
+
+void WriteNumbers(const QMap<QString, int> &numbers, const QString &group, QSettings *settings)
+{
+    settings->beginGroup(group);
+    for (QMap<QString, int>::const_iterator i = numbers.constBegin(); i != numbers.constEnd(); ++i) {
+        settings->setValue(i.key(), i.value());
+    }
+    settings->endGroup();
+}
+
+QString TurnGroup()
+{
+    return QLatin1String("turn");
+}
+
+PriorityTurn ReadTurn(QSettings *settings)
+{
+    PriorityTurn turn;
+    settings->beginGroup(TurnGroup());
+    turn.list = settings->value(QLatin1String("list")).toString();
+    turn.left = ReadNumbers(QLatin1String("left"), settings);
+    turn.before = ReadNumbers(QLatin1String("before"), settings);
+    turn.yielded = ReadUuids(*settings, QLatin1String("yielded"));
+    const QStringList pairs = settings->value(QLatin1String("contested")).toStringList();
+    for (const QString &pair : pairs) {
+        turn.contested.insert(qMakePair(pair.section(QLatin1Char(' '), 0, 0).toInt(),
+                                        pair.section(QLatin1Char(' '), 1).toInt()));
+    }
+    settings->endGroup();
+    return turn;
+}
+
+void WriteTurn(const PriorityTurn &turn, QSettings *settings)
+{
+    QStringList pairs;
+    for (const QPair<int, int> &pair : turn.contested) {
+        pairs.append(QString::fromLatin1("%1 %2").arg(pair.first).arg(pair.second));
+    }
+    pairs.sort();
+    settings->beginGroup(TurnGroup());
+    settings->remove(QString());
+    settings->setValue(QLatin1String("list"), turn.list);
+    WriteNumbers(turn.left, QLatin1String("left"), settings);
+    WriteNumbers(turn.before, QLatin1String("before"), settings);
+    WriteUuids(turn.yielded, QLatin1String("yielded"), settings);
+    settings->setValue(QLatin1String("contested"), pairs);
+    settings->endGroup();
+}
+
 } // namespace
 
 void PriorityRecord::AddOwn(int priority)
@@ -134,6 +194,7 @@ bool CPriorityRecords::Open()
     told = ReadUuids(settings, ToldKey());
     priorities = ReadRecords(PrioritiesGroup(), &settings);
     metrics = ReadRecords(MetricsGroup(), &settings);
+    turn = ReadTurn(&settings);
     Note();
     return true;
 }
@@ -150,6 +211,7 @@ void CPriorityRecords::Note()
     m_savedMetrics = metrics;
     m_savedConnected = connected;
     m_savedTold = told;
+    m_savedTurn = turn;
     m_isConnectedSaved = isConnectedKnown;
 }
 
@@ -157,7 +219,7 @@ bool CPriorityRecords::Save()
 {
     if (m_file.isEmpty() ||
         (priorities == m_savedPriorities && metrics == m_savedMetrics && connected == m_savedConnected &&
-         told == m_savedTold && isConnectedKnown == m_isConnectedSaved)) {
+         told == m_savedTold && turn == m_savedTurn && isConnectedKnown == m_isConnectedSaved)) {
         return true;
     }
     QSettings settings(m_file, QSettings::IniFormat);
@@ -167,6 +229,7 @@ bool CPriorityRecords::Save()
     WriteUuids(told, ToldKey(), &settings);
     WriteRecords(priorities, PrioritiesGroup(), &settings);
     WriteRecords(metrics, MetricsGroup(), &settings);
+    WriteTurn(turn, &settings);
     settings.sync();
     m_isUnsaved = settings.status() != QSettings::NoError;
     if (m_isUnsaved) {

@@ -1,6 +1,8 @@
 #ifndef PRIORITYRECORDS_H
 #define PRIORITYRECORDS_H
 
+#include "PriorityTurn.h"
+
 #include <QList>
 #include <QLockFile>
 #include <QMap>
@@ -26,8 +28,9 @@ struct PriorityRecord {
 
 /**
  * What has to outlive the program for it to tell its own work from that of others: the priorities and route
- * metrics that it set, the profiles that it has known as connected, and those that it has told of. Profiles
- * are named by their uuid, connections by NetworkManager's number; there is nothing else in the file.
+ * metrics that it set, the profiles that it has known as connected, those that it has told of, and what
+ * somebody else has set against the list. Profiles are named by their uuid, connections by NetworkManager's
+ * number, and the list by a hash; there is nothing else in the file.
  *
  * All programs of a user share the file. Who works with it has it alone, from Open to Close, which is to
  * include what is done to NetworkManager: another one would take our priorities for somebody's own.
@@ -55,6 +58,8 @@ public:
     /** Profiles of which the user has been told that they keep the list from taking full effect. */
     QSet<QString> told;
 
+    PriorityTurn turn;
+
     /** Writes the file if anything has changed; false when it can't be written. */
     bool Save();
 
@@ -69,6 +74,7 @@ private:
     QMap<QString, PriorityRecord> m_savedMetrics;
     QSet<QString> m_savedConnected;
     QSet<QString> m_savedTold;
+    PriorityTurn m_savedTurn;
     bool m_isConnectedSaved = false;
     /** What is known here is more than the file has, as it can't be written. */
     bool m_isUnsaved = false;

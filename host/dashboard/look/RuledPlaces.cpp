@@ -74,6 +74,8 @@ QString RuledPlaces::Reason(int obstacle)
     case ObstacleNotAllowed:
     case ObstaclePassword:
         return DashboardText("IDS_RULED_NOT_ALLOWED");
+    case ObstacleOtherList:
+        return DashboardText("IDS_RULED_OTHER_LIST");
     case ObstacleOwnMetric:
         return DashboardText("IDS_RULED_OWN_METRIC");
     default:

@@ -67,6 +67,7 @@ const Word obstacles[] = {
     {ObstacleRefused, "NetworkManager refused the change"},
     {ObstacleNoAnswer, "NetworkManager did not answer"},
     {ObstacleOwnMetric, "it has a route metric that somebody has chosen"},
+    {ObstacleOtherList, "another list or program has set it again since"},
 };
 
 /** What scripts are told of a stage; null for one that is not known. */

@@ -121,6 +121,7 @@ void RuledPlacesTest::ObstacleHasItsWords_data()
     QTest::newRow("password") << int(ObstaclePassword) << "Only an administrator";
     QTest::newRow("refused") << int(ObstacleRefused) << "NetworkManager did not take";
     QTest::newRow("no answer") << int(ObstacleNoAnswer) << "NetworkManager did not take";
+    QTest::newRow("other list") << int(ObstacleOtherList) << "Somebody else";
     QTest::newRow("route metric") << int(ObstacleOwnMetric) << "Somebody has chosen a route metric";
     QTest::newRow("one of later") << 99 << "NetworkManager did not take";
 }
