@@ -11,6 +11,8 @@
 #include <QMutexLocker>
 #include <QUuid>
 
+#include <limits>
+
 namespace
 {
 
@@ -36,6 +38,7 @@ NMVariantMapMap SettingsIn(const QDBusMessage &call)
     return qdbus_cast<NMVariantMapMap>(call.arguments().at(0).value<QDBusArgument>());
 }
 
+const int everyCall = std::numeric_limits<int>::max();
 const char security[] = "802-11-wireless-security";
 const unsigned int disconnected = 30;
 const unsigned int failed = 120;
@@ -85,7 +88,7 @@ NMVariantMapMap KeysOf(const NMVariantMapMap &settings)
 
 FakeNetworkManager::FakeNetworkManager()
     : m_connection(QDBusConnection::connectToBus(QDBusConnection::SystemBus, "FakeNetworkManager")),
-      m_count(0)
+      m_mostCalls(everyCall), m_count(0)
 {
     qDBusRegisterMetaType<NMVariantMapMap>();
     qDBusRegisterMetaType<ManagedObjects>();
@@ -520,10 +523,19 @@ void FakeNetworkManager::Behave()
 {
     const QMutexLocker locker(&m_mutex);
     m_misbehaviour.clear();
+    m_mostCalls = everyCall;
     for (const QDBusMessage &call : std::as_const(m_unanswered)) {
         m_connection.send(Answer(call));
     }
     m_unanswered.clear();
+}
+
+void FakeNetworkManager::TakeOnly(int calls, bool isLastAnswered)
+{
+    const QMutexLocker locker(&m_mutex);
+    m_calls.clear();
+    m_mostCalls = calls;
+    m_isLastAnswered = isLastAnswered;
 }
 
 void FakeNetworkManager::Hold(const QString &method)
@@ -570,6 +582,9 @@ bool FakeNetworkManager::handleMessage(const QDBusMessage &message, const QDBusC
     const QMutexLocker locker(&m_mutex);
     const QString method = message.member();
     m_calls.append(method);
+    if (m_calls.size() > m_mostCalls) {
+        return true;
+    }
     const QString names[] = {QString(), method, method + message.path()};
     for (const QString &key : names) {
         if (m_misbehaviour.contains(key)) {
@@ -584,6 +599,9 @@ bool FakeNetworkManager::handleMessage(const QDBusMessage &message, const QDBusC
         }
     }
     const QDBusMessage answer = Answer(message);
+    if (m_calls.size() == m_mostCalls && !m_isLastAnswered) {
+        return true;
+    }
     if (method == m_held) {
         m_heldAnswers.append(answer);
         return true;

@@ -84,6 +84,10 @@ public:
     /** From now on as it should, with the answers that it has not given first. */
     void Behave();
 
+    /** Takes that many calls from now on, until Behave: later ones are counted and left. The last one that is
+     * taken is done, and perhaps not answered. */
+    void TakeOnly(int calls, bool isLastAnswered);
+
     /** Keeps the answers to that method, as they are now, until Release; to none from Hold(QString()) on. */
     void Hold(const QString &method);
     void Release();
@@ -149,6 +153,8 @@ private:
     QMap<QString, QString> m_rights;
     QHash<QString, Misbehaviour> m_misbehaviour;
     QStringList m_calls;
+    int m_mostCalls;
+    bool m_isLastAnswered = true;
     QString m_leaving;
     QString m_held;
     QList<QDBusMessage> m_heldAnswers;
