@@ -127,7 +127,8 @@ Facts Positions()
                   Names("GetConnectionState GetActiveConnections GetProfiles GetVisibleNetworks "
                         "LookForNetworks ConnectProfile ConnectNetwork Disconnect GetAttempt CancelAttempt "
                         "(end)"));
-    AddOperations(&facts, "IOrderPlugin", first, Names("Apply GetOutcome GetStanding SetConnectsByItself (end)"));
+    AddOperations(&facts, "IOrderPlugin", first,
+                  Names("Apply GetOutcome GetStanding SetConnectsByItself (end)"));
     AddOperations(&facts, "IPluginContainer", first, Names("GetPluginObject (end)"));
     return facts;
 }
