@@ -120,6 +120,8 @@ QWidget *RuledDialog::CreateRow(const Row &row)
         QFont font = title->font();
         font.setBold(true);
         title->setFont(font);
+        // Above its reason, in whichever direction it reads itself.
+        title->setAlignment((isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute);
         title->SetFullText(row.title);
         texts->addWidget(title);
     }
