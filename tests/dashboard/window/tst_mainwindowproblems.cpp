@@ -1,5 +1,6 @@
 #include "FakeConnections.h"
 #include "FakePriority.h"
+#include "Lists.h"
 
 #include <DashboardLanguage.h>
 #include <FakeWLAN.h>
@@ -64,6 +65,7 @@ private slots:
     void SourceOfTheNetworksIsTold_data();
     void SourceOfTheNetworksIsTold();
     void SourceThatIsGoneIsNotSaidToDoAnything();
+    void NoteCountsTheNetworksThatFollowTheList();
     void DamagedLanguageFileIsNamedAndTheOthersWork();
     void ConnectTellsWhyItCannotBeUsed_data();
     void ConnectTellsWhyItCannotBeUsed();
@@ -210,6 +212,33 @@ void MainWindowProblemsTest::SourceThatIsGoneIsNotSaidToDoAnything()
     connections.told.state.source = ConnectionState::SourceKnown;
     window.Refresh();
     QVERIFY(!note->text().isEmpty());
+    HostControl::SetPluginContainer(nullptr);
+}
+
+void MainWindowProblemsTest::NoteCountsTheNetworksThatFollowTheList()
+{
+    QList<KnownPlugin> known = PluginHost::KnownPlugins(WlanNetworkManager);
+    known[0].folder = "Absent";
+    known[1].folder = "Working";
+    TraceLog log(m_directory.FilePath("dashboard.log"));
+    PluginHost plugins(BUILD_DIRECTORY "/tests/fixtures", known);
+    plugins.Load();
+    FakePriority priority;
+    priority.list = Listed("Home, Office, Phone/2");
+    FakeConnections connections;
+    connections.told.profiles << SavedProfile("Home") << SavedProfile("Office");
+    connections.standing.stage = OrderOutcome::StageOrderDone;
+    FixedContainer list(nullptr, &priority);
+    WithConnections container(&list, &connections);
+    HostControl::SetPluginContainer(&container);
+    DashboardLanguage language(nullptr);
+    MainWindow window(&plugins, &language, &log);
+    window.show();
+    const QLabel *note = window.findChild<QLabel *>("noteLabel");
+    QCOMPARE(note->text(), QString("NetworkManager follows your list for 2 of 3 networks."));
+    connections.told.profiles << SavedProfile("Phone", ConnectionProfile::UsePossible, "2");
+    window.Refresh();
+    QVERIFY2(note->text().startsWith("These are this computer"), qPrintable(note->text()));
     HostControl::SetPluginContainer(nullptr);
 }
 
