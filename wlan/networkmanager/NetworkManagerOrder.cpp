@@ -13,15 +13,6 @@ namespace
 const int pauseMilliseconds = 600;
 const int mostTries = 20;
 
-OrderKept KeptOf(const NetworkProfile &profile, int obstacle)
-{
-    OrderKept kept;
-    kept.name = profile.name;
-    kept.obstacle = obstacle;
-    kept.profileId = profile.path;
-    return kept;
-}
-
 bool IsSame(const OrderKept &left, const OrderKept &right)
 {
     return left.profileId == right.profileId && left.name == right.name && left.obstacle == right.obstacle;
@@ -134,7 +125,7 @@ void CNetworkManagerOrder::WriteWish()
     if (profile == picture.profiles.constEnd()) {
         NetworkProfile gone;
         gone.path = wish.profileId;
-        EndWish(OrderOutcome::StageOrderDone, {KeptOf(gone, ObstacleNotKnown)});
+        EndWish(OrderOutcome::StageOrderDone, {CPriorityWriter::KeptOf(gone, ObstacleNotKnown)});
     } else if (profile->connectsByItself == wish.isOn) {
         EndWish(OrderOutcome::StageOrderDone, QList<OrderKept>());
     } else {
@@ -152,7 +143,8 @@ void CNetworkManagerOrder::TakeWish()
     } else if (result == NetworkManagerResultChangedMeanwhile && m_wishes.constFirst().tries < mostTries) {
         m_pause.start(pauseMilliseconds);
     } else {
-        EndWish(OrderOutcome::StageOrderDone, {KeptOf(profile, CPriorityWriter::ObstacleOf(result))});
+        EndWish(OrderOutcome::StageOrderDone,
+                {CPriorityWriter::KeptOf(profile, CPriorityWriter::ObstacleOf(result))});
     }
 }
 

@@ -395,11 +395,7 @@ void CPriorityKeeper::TakeMetrics()
 
 void CPriorityKeeper::Keep(const NetworkProfile &profile, int obstacle)
 {
-    OrderKept kept;
-    kept.name = profile.name;
-    kept.profileId = profile.path;
-    kept.obstacle = obstacle;
-    m_outcome.kept.append(kept);
+    m_outcome.kept.append(CPriorityWriter::KeptOf(profile, obstacle));
 }
 
 /** Nothing could be compared. */

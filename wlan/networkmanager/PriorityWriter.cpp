@@ -4,8 +4,6 @@
 #include "NetworkManagerClient.h"
 #include "ProfileUpdate.h"
 
-#include <OrderRecords.h>
-
 #include <QCoreApplication>
 #include <QDBusArgument>
 #include <QEvent>
@@ -74,6 +72,15 @@ int CPriorityWriter::ObstacleOf(NetworkManagerResult result)
     default:
         return ObstacleRefused;
     }
+}
+
+OrderKept CPriorityWriter::KeptOf(const NetworkProfile &profile, int obstacle)
+{
+    OrderKept kept;
+    kept.name = profile.name;
+    kept.obstacle = obstacle;
+    kept.profileId = profile.path;
+    return kept;
 }
 
 void CPriorityWriter::Start(const QList<ProfileValue> &values)

@@ -4,6 +4,8 @@
 #include "NetworkManagerResult.h"
 #include "NetworkProfile.h"
 
+#include <OrderRecords.h>
+
 #include <QDBusMessage>
 #include <QElapsedTimer>
 #include <QHash>
@@ -56,6 +58,8 @@ public:
 
     /** The OrderObstacle that a result which is no success stands for. */
     static int ObstacleOf(NetworkManagerResult result);
+
+    static OrderKept KeptOf(const NetworkProfile &profile, int obstacle);
 
 signals:
     void Finished();
