@@ -177,6 +177,17 @@ ListKeeper::Obstacle ListKeeper::ChangeObstacle() const
     return IsHistoryUnusable() ? HistoryProblem() : NoObstacle;
 }
 
+ListKeeper::Obstacle ListKeeper::EditObstacle() const
+{
+    if (m_reading.status == PriorityNoPlugin) {
+        return ListNotOffered;
+    }
+    if (IsDamaged()) {
+        return ListDamaged;
+    }
+    return IsWhole() ? NoObstacle : ListNotOpened;
+}
+
 ListKeeper::Obstacle ListKeeper::UndoObstacle() const
 {
     const Obstacle obstacle = ChangeObstacle();
@@ -239,6 +250,25 @@ ListKeeper::Obstacle ListKeeper::Replace(const QList<PriorityList> &entries)
         return obstacle;
     }
     return Change(ListEntries::Storable(entries), QDateTime());
+}
+
+ListKeeper::Obstacle ListKeeper::Edit(const ListChange &change)
+{
+    const Session session(this, nullptr);
+    const Obstacle obstacle = m_isHeldByOther ? ListBusy : EditObstacle();
+    if (obstacle != NoObstacle) {
+        return obstacle;
+    }
+    const QList<PriorityList> entries = ListEntries::Storable(change(m_entries));
+    if (ListEntries::IsSame(m_entries, entries)) {
+        return NoObstacle;
+    }
+    // If the program dies now, its next start finds the change in the list.
+    const Obstacle problem = Write(entries);
+    if (session.IsUsable()) {
+        RecordIfNew();
+    }
+    return problem;
 }
 
 ListKeeper::Obstacle ListKeeper::Change(const QList<PriorityList> &entries, const QDateTime &backTo)

@@ -8,6 +8,8 @@
 #include <QObject>
 #include <QString>
 
+#include <functional>
+
 /**
  * Keeps the history of the priority list and takes the list back to its earlier states.
  *
@@ -33,6 +35,7 @@ public:
         NoObstacle,
         ListNotOffered, /**< There is no priority plug-in. */
         ListNotOpened,
+        ListDamaged,    /**< Only a part of it can be read. */
         ListBusy,       /**< Another program is working with it. */
         ListNotWritten, /**< The new list could not be put in its place. */
         ListNotKept,    /**< It is damaged and could not be copied. */
@@ -68,6 +71,7 @@ public:
     Obstacle UndoObstacle() const;
     Obstacle RedoObstacle() const;
     Obstacle ChangeObstacle() const;
+    Obstacle EditObstacle() const;
 
     Obstacle Undo();
     Obstacle Redo();
@@ -81,6 +85,16 @@ public:
 
     /** Makes entries the list. */
     Obstacle Replace(const QList<PriorityList> &entries);
+
+    /** What is made of the list; it may be called with another one than LastReading has. */
+    typedef std::function<QList<PriorityList>(const QList<PriorityList> &)> ListChange;
+
+    /**
+     * Makes of the list what change makes of it, while no other program can change it. In the history that is
+     * what a change on the page with the list is: moves of one entry that follow each other are joined. A
+     * list that can't be read to its end is not edited. A history that can't be used is no obstacle.
+     */
+    Obstacle Edit(const ListChange &change);
 
     /** Whether the list can be read up to some place only. */
     bool IsDamaged() const { return m_reading.status == PriorityDamaged; }

@@ -17,6 +17,8 @@ QString ListKeeperText::Reason(const ListKeeper &keeper, ListKeeper::Obstacle ob
         return DashboardText("IDS_UNDO_NO_PLUGIN");
     case ListKeeper::ListNotOpened:
         return DashboardText("IDS_LIST_NOT_OPENED");
+    case ListKeeper::ListDamaged:
+        return DashboardText("IDS_LIST_DAMAGED");
     case ListKeeper::ListBusy:
         return DashboardText("IDS_LIST_BUSY");
     case ListKeeper::ListNotWritten:

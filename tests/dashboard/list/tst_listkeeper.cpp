@@ -5,6 +5,7 @@
 #include <DirectoryLock.h>
 #include <HostControl.h>
 #include <IPriorityPlugin.h>
+#include <ListEdit.h>
 #include <ListKeeper.h>
 #include <ListKeeperText.h>
 #include <OrderFile.h>
@@ -58,6 +59,10 @@ private slots:
     void ClockThatWasWrongLosesNothing();
     void RestoreOfAStateNoLongerKeptIsTold();
     void ReplaceIsAChangeThatCanBeUndone();
+    void EditIsMadeOfTheListAsItIsThen();
+    void EditsThatMoveOneEntryAreOneChange();
+    void EditNeedsNoHistory();
+    void NothingEditsAListThatCannotBeReadToItsEnd();
     void EverybodyIsToldOfAnUndo();
     void RemovedFileIsAnEmptyListAndComesBack();
     void DamagedListIsNoStateAndUndoRepairsIt();
@@ -483,6 +488,55 @@ void ListKeeperTest::ReplaceIsAChangeThatCanBeUndone()
     QCOMPARE(Stored(), QString("A"));
 }
 
+void ListKeeperTest::EditIsMadeOfTheListAsItIsThen()
+{
+    WriteList("A, B");
+    m_keeper->Follow();
+    WriteList("A, B, C");
+    const auto moveLast = [](const QList<PriorityList> &list) {
+        return ListEdit::Moved(list, {static_cast<int>(list.size()) - 1}, 0);
+    };
+    QCOMPARE(m_keeper->Edit(moveLast), ListKeeper::NoObstacle);
+    QCOMPARE(Stored(), QString("C, A, B"));
+    QCOMPARE(History(), QString(" | A, B | A, B, C | [C, A, B]"));
+}
+
+void ListKeeperTest::EditsThatMoveOneEntryAreOneChange()
+{
+    WriteList("A, B, C, D");
+    m_keeper->Follow();
+    for (int place = 3; place > 0; --place) {
+        const auto moveUp = [place](const QList<PriorityList> &list) {
+            return ListEdit::Moved(list, {place}, place - 1);
+        };
+        QCOMPARE(m_keeper->Edit(moveUp), ListKeeper::NoObstacle);
+    }
+    QCOMPARE(History(), QString(" | A, B, C, D | [D, A, B, C]"));
+}
+
+void ListKeeperTest::EditNeedsNoHistory()
+{
+    WriteList("A, B");
+    m_world.Write("history/states.xml", "damaged");
+    StartAnew();
+    const auto removeFirst = [](const QList<PriorityList> &list) {
+        return ListEdit::Removed(list, {0});
+    };
+    QCOMPARE(m_keeper->Edit(removeFirst), ListKeeper::NoObstacle);
+    QCOMPARE(Stored(), QString("B"));
+    QCOMPARE(m_world.Read("history/states.xml"), QByteArray("damaged"));
+}
+
+void ListKeeperTest::NothingEditsAListThatCannotBeReadToItsEnd()
+{
+    const QByteArray damaged = WriteDamaged("A, B, C");
+    const auto empty = [](const QList<PriorityList> &) {
+        return QList<PriorityList>();
+    };
+    QCOMPARE(m_keeper->Edit(empty), ListKeeper::ListDamaged);
+    QCOMPARE(ListBytes(), damaged);
+}
+
 void ListKeeperTest::EverybodyIsToldOfAnUndo()
 {
     AddTop("A");
@@ -731,6 +785,7 @@ void ListKeeperTest::WithoutThePluginNothingCanBeDone()
     QCOMPARE(m_keeper->ChangeObstacle(), reason);
     QCOMPARE(m_keeper->Undo(), reason);
     QCOMPARE(m_keeper->Replace(Listed("Z")), reason);
+    QCOMPARE(m_keeper->EditObstacle(), reason);
     QCOMPARE(ListBytes(), before);
     QVERIFY(ListKeeperText::LastChange(*m_keeper).isEmpty());
 }

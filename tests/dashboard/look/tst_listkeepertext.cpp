@@ -35,6 +35,7 @@ void ListKeeperTextTest::ReasonSaysWhatIsInTheWay_data()
     };
     add(ListKeeper::ListNotOffered, "The plug-in that keeps the list is not available");
     add(ListKeeper::ListNotOpened, "be opened");
+    add(ListKeeper::ListDamaged, "Only the networks before the damaged part");
     add(ListKeeper::ListBusy, "Another program is working with the list");
     add(ListKeeper::ListNotWritten, "cannot be written to /data/Priority.xml");
     add(ListKeeper::ListNotKept, "/data/Priority.xml cannot be backed up");

@@ -1,0 +1,30 @@
+#ifndef LISTEDIT_H
+#define LISTEDIT_H
+
+#include <PriorityList.h>
+
+#include <QList>
+
+/** What becomes of a list when somebody edits it. Places are counted from 0. */
+namespace ListEdit
+{
+
+/** Where the entry stands first; -1 when it isn't there. */
+int PlaceOf(const PriorityList &entry, const QList<PriorityList> &list);
+
+/**
+ * The entries at places, which rise, together and in their order before the one that stands at before now;
+ * at the end when none does.
+ */
+QList<PriorityList> Moved(const QList<PriorityList> &list, const QList<int> &places, int before);
+
+/** Without the entries at places, which rise. */
+QList<PriorityList> Removed(const QList<PriorityList> &list, const QList<int> &places);
+
+/** With those of the entries that it doesn't have before the one that stands at before; at the end when none
+ * does. */
+QList<PriorityList> Added(const QList<PriorityList> &list, const QList<PriorityList> &entries, int before);
+
+} // namespace ListEdit
+
+#endif

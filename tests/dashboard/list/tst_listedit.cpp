@@ -1,0 +1,84 @@
+#include "Lists.h"
+
+#include <ListEdit.h>
+
+#include <QtTest>
+
+class ListEditTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void EntriesAreMoved_data();
+    void EntriesAreMoved();
+    void EntriesAreRemoved();
+    void EntriesAreAdded_data();
+    void EntriesAreAdded();
+    void PlaceTellsNameAndType();
+};
+
+void ListEditTest::EntriesAreMoved_data()
+{
+    QTest::addColumn<QList<int>>("places");
+    QTest::addColumn<int>("before");
+    QTest::addColumn<QString>("moved");
+    const auto add = [](const char *name, const QList<int> &places, int before, const char *moved) {
+        QTest::newRow(name) << places << before << QString(moved);
+    };
+    add("to the top", {3}, 0, "D, A, B, C");
+    add("to the end", {0}, 4, "B, C, D, A");
+    add("up", {2}, 1, "A, C, B, D");
+    add("down", {1}, 3, "A, C, B, D");
+    add("before itself", {1}, 1, "A, B, C, D");
+    add("behind itself", {1}, 2, "A, B, C, D");
+    add("several come together", {0, 3}, 2, "B, A, D, C");
+    add("beyond the end", {1}, 9, "A, C, D, B");
+    add("before the top", {1}, -1, "B, A, C, D");
+    add("all", {0, 1, 2, 3}, 2, "A, B, C, D");
+}
+
+void ListEditTest::EntriesAreMoved()
+{
+    QFETCH(QList<int>, places);
+    QFETCH(int, before);
+    QFETCH(QString, moved);
+    QCOMPARE(AsText(ListEdit::Moved(Listed("A, B, C, D"), places, before)), moved);
+}
+
+void ListEditTest::EntriesAreRemoved()
+{
+    QCOMPARE(AsText(ListEdit::Removed(Listed("A, B, A, C"), {0, 3})), QString("B, A"));
+}
+
+void ListEditTest::EntriesAreAdded_data()
+{
+    QTest::addColumn<QString>("entries");
+    QTest::addColumn<int>("before");
+    QTest::addColumn<QString>("added");
+    const auto add = [](const char *name, const char *entries, int before, const char *added) {
+        QTest::newRow(name) << QString(entries) << before << QString(added);
+    };
+    add("in between", "C, D", 1, "A, C, D, B");
+    add("beyond the end", "C", 9, "A, B, C");
+    add("listed already", "B, C", 0, "C, A, B");
+    add("twice", "C, C", 2, "A, B, C");
+    add("of another type", "B/2", 2, "A, B, B/2");
+}
+
+void ListEditTest::EntriesAreAdded()
+{
+    QFETCH(QString, entries);
+    QFETCH(int, before);
+    QFETCH(QString, added);
+    QCOMPARE(AsText(ListEdit::Added(Listed("A, B"), Listed(entries), before)), added);
+}
+
+void ListEditTest::PlaceTellsNameAndType()
+{
+    const QList<PriorityList> list = Listed("A, B/2, B, B");
+    QCOMPARE(ListEdit::PlaceOf(list.at(2), list), 2);
+    QCOMPARE(ListEdit::PlaceOf(Listed("A/2").first(), list), -1);
+}
+
+QTEST_GUILESS_MAIN(ListEditTest)
+#include "tst_listedit.moc"
