@@ -27,6 +27,11 @@ QString FollowingKey()
     return QLatin1String("following");
 }
 
+QString SavingKey()
+{
+    return QLatin1String("savingData");
+}
+
 QString Word(const QString &key)
 {
     const QString path = ListRules::FilePath();
@@ -86,4 +91,14 @@ bool ListRules::IsFollowing()
 bool ListRules::SetFollowing(bool isFollowing)
 {
     return SetWord(FollowingKey(), isFollowing ? yes : no);
+}
+
+bool ListRules::IsSavingData()
+{
+    return Word(SavingKey()) == QLatin1String(yes);
+}
+
+bool ListRules::SetSavingData(bool isSaving)
+{
+    return SetWord(SavingKey(), isSaving ? yes : no);
 }

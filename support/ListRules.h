@@ -33,6 +33,14 @@ bool IsFollowing();
 /** False when it can't be kept; then it is as it was. */
 bool SetFollowing(bool isFollowing);
 
+/** Whether mobile broadband that stands below all Wi-Fi is connected only while the internet is reached by
+ * nothing else; false where nothing, or nothing that is known, was chosen. It counts only while the list
+ * rules. */
+bool IsSavingData();
+
+/** False when it can't be kept; then it is as it was. */
+bool SetSavingData(bool isSaving);
+
 /** Of the file; empty when there is no place for it. */
 QString FilePath();
 

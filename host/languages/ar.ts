@@ -398,6 +398,14 @@
         <translation>ما إن يمكن استخدام شبكة أعلى في قائمتك. لا تُترك شبكة وصلتها بنفسك، ولا يحدث تبديل أثناء استخدام VPN.</translation>
     </message>
     <message>
+        <source>IDS_RULES_SAVING</source>
+        <translation>شبكة هاتف محمول عند غياب غيرها فقط</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_SAVING_HINT</source>
+        <translation>يوفّر البيانات. تُوصَل شبكة هاتف محمول واقعة تحت كل شبكات Wi-Fi في قائمتك بعد نصف دقيقة دون اتصال آخر، وتُقطع بعد دقيقة من وجود غيره.</translation>
+    </message>
+    <message>
         <source>IDS_GENERAL_PLUGINS</source>
         <translation>الملحقات</translation>
     </message>

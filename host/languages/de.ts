@@ -398,6 +398,14 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
         <translation>Sobald ein Netzwerk weiter oben in Ihrer Liste verwendet werden kann. Nicht weg von einem Netzwerk, das Sie von Hand verbunden haben, und nicht während einer VPN-Verbindung.</translation>
     </message>
     <message>
+        <source>IDS_RULES_SAVING</source>
+        <translation>Mobiles Breitband nur, wenn nichts anderes geht</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_SAVING_HINT</source>
+        <translation>Spart Daten. Mobiles Breitband, das unter allen WLAN-Netzwerken Ihrer Liste steht, wird nach einer halben Minute ohne andere Verbindung verbunden und nach einer Minute mit einer anderen getrennt.</translation>
+    </message>
+    <message>
         <source>IDS_GENERAL_PLUGINS</source>
         <translation>Plugins</translation>
     </message>

@@ -437,6 +437,16 @@ You can use letters, digits and these symbols:
         <translation>As soon as a network higher in your list can be used. Not away from one that you connected by hand, and not during a VPN.</translation>
     </message>
     <message>
+        <source>IDS_RULES_SAVING</source>
+        <extracomment>Box to tick: mobile broadband is connected only while nothing else is</extracomment>
+        <translation>Mobile broadband only when nothing else works</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_SAVING_HINT</source>
+        <extracomment>Tool tip of that box</extracomment>
+        <translation>Saves data. Mobile broadband below all Wi-Fi networks of your list is connected after half a minute without another connection, and ended after a minute with one.</translation>
+    </message>
+    <message>
         <source>IDS_GENERAL_PLUGINS</source>
         <translation>Plug-ins</translation>
     </message>

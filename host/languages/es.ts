@@ -398,6 +398,14 @@ Puede usar letras, números y estos símbolos:
         <translation>En cuanto se pueda usar una red más alta de su lista. No se deja una red conectada a mano, ni se cambia durante una VPN.</translation>
     </message>
     <message>
+        <source>IDS_RULES_SAVING</source>
+        <translation>Banda ancha móvil solo si no hay otra conexión</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_SAVING_HINT</source>
+        <translation>Ahorra datos. La banda ancha móvil que está por debajo de todas las redes Wi-Fi de su lista se conecta tras medio minuto sin otra conexión y se desconecta tras un minuto con otra.</translation>
+    </message>
+    <message>
         <source>IDS_GENERAL_PLUGINS</source>
         <translation>Complementos</translation>
     </message>

@@ -398,6 +398,14 @@ Vous pouvez utiliser des lettres, des chiffres et les symboles suivants&#xa0;:
         <translation>Dès qu’un réseau plus haut dans votre liste peut être utilisé. Sans quitter un réseau connecté à la main, ni pendant un VPN.</translation>
     </message>
     <message>
+        <source>IDS_RULES_SAVING</source>
+        <translation>Haut débit mobile seulement à défaut d’autre</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_SAVING_HINT</source>
+        <translation>Économise les données. Le haut débit mobile placé sous tous les réseaux Wi-Fi de votre liste est connecté après une demi-minute sans autre connexion, et déconnecté après une minute avec une autre.</translation>
+    </message>
+    <message>
         <source>IDS_GENERAL_PLUGINS</source>
         <translation>Modules</translation>
     </message>

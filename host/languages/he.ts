@@ -398,6 +398,14 @@
         <translation>ברגע שאפשר להשתמש ברשת גבוהה יותר ברשימה שלך. לא עוזבים רשת שחיברת ידנית, ולא מחליפים בזמן VPN.</translation>
     </message>
     <message>
+        <source>IDS_RULES_SAVING</source>
+        <translation>פס רחב נייד רק כשאין חיבור אחר</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_SAVING_HINT</source>
+        <translation>חוסך נתונים. פס רחב נייד שנמצא מתחת לכל רשתות ה-Wi-Fi ברשימה שלך מתחבר אחרי חצי דקה בלי חיבור אחר, ומתנתק אחרי דקה שבה יש חיבור אחר.</translation>
+    </message>
+    <message>
         <source>IDS_GENERAL_PLUGINS</source>
         <translation>תוספים</translation>
     </message>

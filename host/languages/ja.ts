@@ -398,6 +398,14 @@
         <translation>リストでより上のネットワークが使用できるようになったときに切り替えます。手動で接続したネットワークからは切り替えません。VPN の使用中も切り替えません。</translation>
     </message>
     <message>
+        <source>IDS_RULES_SAVING</source>
+        <translation>モバイルブロードバンドはほかに接続がないときだけ</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_SAVING_HINT</source>
+        <translation>データ通信量を節約します。リストのすべての Wi-Fi ネットワークより下にあるモバイルブロードバンドは、ほかのネットワークへの接続が 30 秒間ないと接続され、1 分間続くと切断されます。</translation>
+    </message>
+    <message>
         <source>IDS_GENERAL_PLUGINS</source>
         <translation>プラグイン</translation>
     </message>

@@ -398,6 +398,14 @@ Você pode usar letras, números e estes símbolos:
         <translation>Assim que uma rede mais acima na sua lista puder ser usada. Não sai de uma rede conectada à mão, nem durante uma VPN.</translation>
     </message>
     <message>
+        <source>IDS_RULES_SAVING</source>
+        <translation>Banda larga móvel só se não houver outra conexão</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_SAVING_HINT</source>
+        <translation>Economiza dados. A banda larga móvel abaixo de todas as redes Wi-Fi da sua lista é conectada após meio minuto sem outra conexão e desconectada após um minuto com outra.</translation>
+    </message>
+    <message>
         <source>IDS_GENERAL_PLUGINS</source>
         <translation>Plug-ins</translation>
     </message>

@@ -398,6 +398,14 @@
         <translation>Как только можно использовать сеть выше в вашем списке. Сеть, подключённая вручную, не сменяется, и во время VPN переключений нет.</translation>
     </message>
     <message>
+        <source>IDS_RULES_SAVING</source>
+        <translation>Мобильная сеть, только если нет другой</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_SAVING_HINT</source>
+        <translation>Экономит трафик. Мобильная сеть, стоящая в списке ниже всех сетей Wi-Fi, подключается через полминуты без другого соединения и отключается, когда другое работает минуту.</translation>
+    </message>
+    <message>
         <source>IDS_GENERAL_PLUGINS</source>
         <translation>Модули</translation>
     </message>

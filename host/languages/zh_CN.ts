@@ -398,6 +398,14 @@
         <translation>列表中更靠前的网络可用时立即切换。不会离开您手动连接的网络，也不会在使用 VPN 时切换。</translation>
     </message>
     <message>
+        <source>IDS_RULES_SAVING</source>
+        <translation>仅在没有其他连接时使用移动宽带</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_SAVING_HINT</source>
+        <translation>节省流量。列表中位于所有 Wi-Fi 网络之下的移动宽带，在半分钟没有其他连接后接通，在其他连接持续一分钟后断开。</translation>
+    </message>
+    <message>
         <source>IDS_GENERAL_PLUGINS</source>
         <translation>插件</translation>
     </message>

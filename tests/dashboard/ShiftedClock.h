@@ -9,6 +9,9 @@ namespace ShiftedClock
 /** From now on the clock shows so many seconds more than the system's; of later calls the last one counts. */
 void Shift(long seconds);
 
+/** Has that much time pass for clocks that are never put, timers included. */
+void Pass(long seconds);
+
 /** Puts the clock to so many seconds after tomorrow's noon, far from the end of a day. */
 void ShiftToNoon(long seconds);
 

@@ -1,8 +1,6 @@
+#include "HandedOutPlugin.h"
 #include "LoadedWLAN.h"
 #include "NetworkManagerTest.h"
-
-#include <LoadedPlugin.h>
-#include <StandInHost.h>
 
 #include <QDBusObjectPath>
 #include <QLockFile>
@@ -16,7 +14,6 @@ const unsigned int supplicantTimeout = 11;
 const char follow[] = "[General]\nfollowing=yes\n";
 const char deviceWireless[] = "org.freedesktop.NetworkManager.Device.Wireless";
 const char activeConnection[] = "org.freedesktop.NetworkManager.Connection.Active";
-const char priorityClass[] = "D78C8E0F-7A3F-4f51-87E3-753F0F7F0E05";
 
 } // namespace
 
@@ -47,8 +44,7 @@ private:
     /** Gives time to whatever might still come. */
     static void Settle() { QTest::qWait(300); }
 
-    LoadedPlugin m_plugin;
-    FakeContainer m_container;
+    HandedOutPlugin m_plugin;
     QString m_device;
     QString m_low;
     qlonglong m_scan = 0;
@@ -67,11 +63,7 @@ void tst_networkmanagerfollowing::SetList(const char *first, const char *second)
 void tst_networkmanagerfollowing::Begin(const char *rules, const char *first, const char *second)
 {
     LoadedWLAN::Root()->OnDestroy();
-    m_plugin.Plugin()->Init();
-    QObject *service = nullptr;
-    QVERIFY(m_plugin.Plugin()->QueryInterface(4103, &service));
-    m_container.objects[qMakePair(QString(priorityClass), 4103)] = service;
-    StandInHost::container = &m_container;
+    m_plugin.HandOut();
     Directory().Write("rules.ini", rules);
     SetList(first, second);
     m_device = Fake().AddDevice();

@@ -1,8 +1,7 @@
+#include "HandedOutPlugin.h"
 #include "LoadedWLAN.h"
 #include "NetworkManagerTest.h"
 
-#include <LoadedPlugin.h>
-#include <StandInHost.h>
 #include <TraceCapture.h>
 
 #include <QDBusObjectPath>
@@ -13,7 +12,6 @@ namespace
 
 const unsigned int activated = 2;
 const unsigned int deactivated = 4;
-const char priorityClass[] = "D78C8E0F-7A3F-4f51-87E3-753F0F7F0E05";
 const QList<int> none{-1, -1};
 /** What the first of two gets. */
 const QList<int> first{374, 374};
@@ -55,8 +53,7 @@ private:
     /** Gives time to whatever might still come. */
     static void Settle() { QTest::qWait(600); }
 
-    LoadedPlugin m_plugin;
-    FakeContainer m_container;
+    HandedOutPlugin m_plugin;
     QString m_wifi;
     QString m_modem;
     QString m_wifiConnection;
@@ -77,11 +74,7 @@ void tst_networkmanagermetrics::SetList(const QString &names)
 void tst_networkmanagermetrics::Begin(const char *list)
 {
     LoadedWLAN::Root()->OnDestroy();
-    m_plugin.Plugin()->Init();
-    QObject *service = nullptr;
-    QVERIFY(m_plugin.Plugin()->QueryInterface(4103, &service));
-    m_container.objects[qMakePair(QString(priorityClass), 4103)] = service;
-    StandInHost::container = &m_container;
+    m_plugin.HandOut();
     // What is connected at the start is not new.
     Directory().Write("NetworkManager.ini", "");
     SetList(list);

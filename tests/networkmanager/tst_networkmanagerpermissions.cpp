@@ -1,9 +1,9 @@
+#include "HandedOutPlugin.h"
 #include "LoadedWLAN.h"
 #include "Namespace.h"
 #include "NetworkManagerDaemon.h"
 #include "PrivateBus.h"
 
-#include <LoadedPlugin.h>
 #include <NetworkManagerResult.h>
 #include <StandInHost.h>
 #include <TemporaryDirectory.h>
@@ -22,7 +22,6 @@ namespace
 {
 
 const uid_t nobody = 65534;
-const char priorityClass[] = "D78C8E0F-7A3F-4f51-87E3-753F0F7F0E05";
 
 QString whyNoNamespace;
 
@@ -57,8 +56,7 @@ private:
     QScopedPointer<TemporaryDirectory> m_user;
     QScopedPointer<PrivateBus> m_bus;
     QScopedPointer<NetworkManagerDaemon> m_daemon;
-    LoadedPlugin m_priority;
-    FakeContainer m_container;
+    HandedOutPlugin m_priority;
 };
 
 void tst_networkmanagerpermissions::initTestCase()
@@ -85,11 +83,7 @@ void tst_networkmanagerpermissions::initTestCase()
     QVERIFY(QFile::setPermissions(m_user->Path(), QFile::Permissions(0x7777)));
     StandInHost::Reset(m_user->Path());
     QVERIFY(LoadedWLAN::RootObject());
-    QVERIFY(m_priority.Plugin()->Init());
-    QObject *service = nullptr;
-    QVERIFY(m_priority.Plugin()->QueryInterface(4103, &service));
-    m_container.objects[qMakePair(QString(priorityClass), 4103)] = service;
-    StandInHost::container = &m_container;
+    m_priority.HandOut();
 }
 
 void tst_networkmanagerpermissions::cleanupTestCase()

@@ -1,7 +1,7 @@
+#include "HandedOutPlugin.h"
 #include "LoadedWLAN.h"
 #include "NetworkManagerTest.h"
 
-#include <LoadedPlugin.h>
 #include <StandInHost.h>
 #include <TraceCapture.h>
 
@@ -142,18 +142,13 @@ private:
     /** Gives time to whatever might still come. */
     static void Settle() { QTest::qWait(600); }
 
-    LoadedPlugin m_plugin;
-    FakeContainer m_container;
+    HandedOutPlugin m_plugin;
 };
 
 void tst_networkmanagerpriorities::Begin(const QString &entries)
 {
     LoadedWLAN::Root()->OnDestroy();
-    m_plugin.Plugin()->Init();
-    QObject *service = nullptr;
-    QVERIFY(m_plugin.Plugin()->QueryInterface(4103, &service));
-    m_container.objects[qMakePair(QString(priorityClass), 4103)] = service;
-    StandInHost::container = &m_container;
+    m_plugin.HandOut();
     SetList(entries);
     Fake().ForgetCalls();
     QVERIFY(LoadedWLAN::Root()->Init());
@@ -1020,7 +1015,7 @@ void tst_networkmanagerpriorities::MissingPriorityPluginChangesNothing()
 {
     const QString a = Fake().AddProfile("A");
     Begin("A");
-    m_container.objects.clear();
+    m_plugin.container.objects.clear();
     SetList("B");
     Settle();
     StandInHost::container = nullptr;
@@ -1051,7 +1046,7 @@ void tst_networkmanagerpriorities::PriorityPluginThatWasTakenDownChangesNothing(
     const QString a = Fake().AddProfile("A");
     Begin("A");
     TakenDown takenDown;
-    m_container.objects[qMakePair(QString(priorityClass), 4103)] = &takenDown;
+    m_plugin.container.objects[qMakePair(QString(priorityClass), 4103)] = &takenDown;
     SetList("B A");
     Settle();
     QCOMPARE(Fake().PriorityOf(a), alone);

@@ -1,9 +1,9 @@
 #include "FakeNetworkManager.h"
+#include "HandedOutPlugin.h"
 #include "LoadedWLAN.h"
 #include "MockNetworkManager.h"
 #include "PrivateBus.h"
 
-#include <LoadedPlugin.h>
 #include <NetworkManagerResult.h>
 #include <StandInHost.h>
 #include <TemporaryDirectory.h>
@@ -19,7 +19,6 @@ const char objects[] = "/org/freedesktop";
 const char accessPoint[] = "org.freedesktop.NetworkManager.AccessPoint";
 const char wirelessDevice[] = "org.freedesktop.NetworkManager.Device.Wireless";
 const char activeConnection[] = "org.freedesktop.NetworkManager.Connection.Active";
-const char priorityClass[] = "D78C8E0F-7A3F-4f51-87E3-753F0F7F0E05";
 
 // As NetworkManager's interface has them.
 const unsigned int privacy = 0x1;
@@ -99,8 +98,7 @@ private:
     PrivateBus m_bus;
     QScopedPointer<TemporaryDirectory> m_directory;
     QScopedPointer<MockNetworkManager> m_mock;
-    LoadedPlugin m_priority;
-    FakeContainer m_container;
+    HandedOutPlugin m_priority;
 };
 
 void tst_networkmanagertemplate::initTestCase()
@@ -132,11 +130,7 @@ void tst_networkmanagertemplate::cleanup()
 void tst_networkmanagertemplate::BeginWithList()
 {
     LoadedWLAN::Root()->OnDestroy();
-    m_priority.Plugin()->Init();
-    QObject *service = nullptr;
-    QVERIFY(m_priority.Plugin()->QueryInterface(4103, &service));
-    m_container.objects[qMakePair(QString(priorityClass), 4103)] = service;
-    StandInHost::container = &m_container;
+    m_priority.HandOut();
     const int before = ComparisonCount();
     QVERIFY(LoadedWLAN::Root()->Init());
     QTRY_VERIFY(ComparisonCount() > before);

@@ -70,9 +70,14 @@ int CConnectAttempts::Connect(const QString &name, const QString &profile, const
     Attempt attempt;
     attempt.told.name = name;
     attempt.told.profileId = profile;
+    return Begin(attempt, ActivationOf(profile, device));
+}
+
+QDBusMessage CConnectAttempts::ActivationOf(const QString &profile, const QString &device)
+{
     QDBusMessage call = ManagerCall("ActivateConnection");
     call << PathArgument(profile) << PathArgument(device) << PathArgument(QString());
-    return Begin(attempt, call);
+    return call;
 }
 
 int CConnectAttempts::ConnectNew(const NMVariantMapMap &settings, const QString &device,

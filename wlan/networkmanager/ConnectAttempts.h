@@ -26,6 +26,11 @@ public:
     /** @param client   outlives this, as picture does. */
     CConnectAttempts(CNetworkManagerClient *client, CLivePicture *picture, QObject *parent);
 
+    /** The call that connects a profile, both by their paths; an empty one leaves the choice to
+     * NetworkManager.
+     */
+    static QDBusMessage ActivationOf(const QString &profile, const QString &device);
+
     /** All by their paths; an empty one leaves the choice to NetworkManager. The number of the order. */
     int Connect(const QString &name, const QString &profile, const QString &device);
 

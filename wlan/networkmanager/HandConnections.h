@@ -13,7 +13,8 @@
 namespace HandConnections
 {
 
-/** Does nothing while the list is not followed: who has it followed later wants it from then on. */
+/** Does nothing while the list is not followed and no data is saved: who chooses that later wants it from
+ * then on. */
 void Note(const QString &connection);
 
 QSet<QString> Known();

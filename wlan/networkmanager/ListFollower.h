@@ -2,7 +2,8 @@
 #define LISTFOLLOWER_H
 
 #include "ConnectAttempts.h"
-#include "FollowRules.h"
+#include "FallbackRules.h"
+#include "StartRecord.h"
 
 #include <FileWatcher.h>
 
@@ -17,10 +18,15 @@ class CLivePicture;
 class CNetworkManagerClient;
 
 /**
- * Follows the list while the user wants that: switches to an entry above the one in use when FollowRules says
- * so. Of several programs of one user one does, the others wait for its end.
+ * Does what the list asks for while time passes, as far as the user wants it: switches to an entry above the
+ * one in use when FollowRules says so, and connects and ends mobile broadband as FallbackRules says. Of
+ * several programs of one user one does, the others wait for its end.
  *
- * While the list is not followed, nothing is looked at, no timer runs and NetworkManager is asked nothing.
+ * While neither is wanted, nothing is looked at, no timer runs and NetworkManager is asked nothing.
+ *
+ * NetworkManager doesn't connect by itself what was ended. So all that was ended and has not been connected
+ * since is connected again when nobody saves data any more: when the user has switched it off, at the end of
+ * the program, or at the beginning of the next one where there was no time for it.
  */
 class CListFollower : public QObject
 {
@@ -32,6 +38,7 @@ public:
      * @param picture  as well.
      */
     CListFollower(CNetworkManagerClient *client, CLivePicture *picture, QObject *parent);
+    ~CListFollower() override;
 
 private:
     Q_DISABLE_COPY(CListFollower)
@@ -46,18 +53,33 @@ private:
         FileWatcher listFile;
         QList<PriorityList> list;
         bool isListDue = true;
+        bool isFollowing = false;
         FollowHistory history;
+        bool isSaving = false;
+        FallbackHistory fallback;
+        /** Of what is to be connected again, as it is kept. */
+        QStringList ended;
         bool isOnBattery = false;
     };
+
+    enum Patience { WithoutWaiting, UntilAnswered };
 
     void TakeRules();
     void Begin();
     void End();
     void Step();
+    qint64 FollowList(const FollowView &view, qint64 now);
+    qint64 SaveData(const FollowView &view, qint64 now);
+    int Connect(const QString &profile, const QString &device, const FollowView &view);
+    void NoteEnded(const FollowView &view, const FallbackStep &step);
+    void HandBackLeft();
+    void HandBack(Patience patience);
     bool HasTurn();
     void ReadList();
 
+    CNetworkManagerClient *const m_client;
     CLivePicture *const m_picture;
+    const StartRecord m_ended;
     CConnectAttempts m_attempts;
     FileWatcher m_rules;
     std::unique_ptr<Turn> m_turn;

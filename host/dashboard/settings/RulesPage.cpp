@@ -60,6 +60,9 @@ bool RulesPage::Show(QWidget *place)
     m_wasFollowing = ListRules::IsFollowing();
     m_followingBox = AddBox("followingBox", m_wasFollowing, layout);
     connect(m_followingBox, &QCheckBox::clicked, this, &RulesPage::ChooseFollowing);
+    m_wasSaving = ListRules::IsSavingData();
+    m_savingBox = AddBox("savingBox", m_wasSaving, layout);
+    connect(m_savingBox, &QCheckBox::clicked, this, &RulesPage::ChooseSaving);
     EnableBoxes();
     layout->addStretch();
 
@@ -91,6 +94,9 @@ void RulesPage::Close(Answer answer)
         if (ListRules::IsFollowing() != m_wasFollowing) {
             ListRules::SetFollowing(m_wasFollowing);
         }
+        if (ListRules::IsSavingData() != m_wasSaving) {
+            ListRules::SetSavingData(m_wasSaving);
+        }
     }
     delete m_page.data();
 }
@@ -116,6 +122,8 @@ void RulesPage::Retranslate()
     m_keepingBox->setToolTip(DashboardText("IDS_RULES_KEEPING_HINT"));
     m_followingBox->setText(DashboardText("IDS_RULES_FOLLOWING"));
     m_followingBox->setToolTip(DashboardText("IDS_RULES_FOLLOWING_HINT"));
+    m_savingBox->setText(DashboardText("IDS_RULES_SAVING"));
+    m_savingBox->setToolTip(DashboardText("IDS_RULES_SAVING_HINT"));
 }
 
 void RulesPage::ChooseNewNetworks(int index)
@@ -141,6 +149,7 @@ void RulesPage::EnableBoxes()
 {
     m_keepingBox->setEnabled(m_rulingBox->isChecked());
     m_followingBox->setEnabled(m_rulingBox->isChecked());
+    m_savingBox->setEnabled(m_rulingBox->isChecked());
 }
 
 void RulesPage::ChooseKeeping(bool isKeeping)
@@ -157,5 +166,14 @@ void RulesPage::ChooseFollowing(bool isFollowing)
         qWarning("whether the list is followed can't be kept in %s",
                  UserData::Directory().toLocal8Bit().constData());
         m_followingBox->setChecked(!isFollowing);
+    }
+}
+
+void RulesPage::ChooseSaving(bool isSaving)
+{
+    if (!ListRules::SetSavingData(isSaving)) {
+        qWarning("whether data is saved can't be kept in %s",
+                 UserData::Directory().toLocal8Bit().constData());
+        m_savingBox->setChecked(!isSaving);
     }
 }

@@ -450,6 +450,8 @@ void SettingsDialogTest::RuleIsKeptUnlessCancelled_data()
                                             << "ruling" << isOk;
         QTest::addRow("following, %s", answer) << "followingBox"
                                                << "following" << isOk;
+        QTest::addRow("saving data, %s", answer) << "savingBox"
+                                                 << "savingData" << isOk;
     }
 }
 
@@ -460,7 +462,7 @@ void SettingsDialogTest::RuleIsKeptUnlessCancelled()
     QFETCH(bool, isOk);
     FakeConnections connections;
     const WithRules rules(&connections);
-    QVERIFY(ListRules::SetRuling(true) && ListRules::SetFollowing(true));
+    QVERIFY(ListRules::SetRuling(true) && ListRules::SetFollowing(true) && ListRules::SetSavingData(true));
     SettingsDialog dialog(nullptr);
     dialog.AddPage(new RulesPage(NoAgent()));
     dialog.SelectPage(0);
@@ -530,6 +532,7 @@ void SettingsDialogTest::WhatNeedsTheRuleIsOffWithoutIt()
     QTest::keyClick(dialog.findChild<QCheckBox *>("rulingBox"), Qt::Key_Space);
     QVERIFY(!dialog.findChild<QCheckBox *>("keepingBox")->isEnabled());
     QVERIFY(!dialog.findChild<QCheckBox *>("followingBox")->isEnabled());
+    QVERIFY(!dialog.findChild<QCheckBox *>("savingBox")->isEnabled());
 }
 
 void SettingsDialogTest::RuleIsOfferedWhereTheListCanRule()
