@@ -17,6 +17,7 @@ const char managerInterface[] = "org.freedesktop.NetworkManager";
 const char settingsPath[] = "/org/freedesktop/NetworkManager/Settings";
 const char settingsInterface[] = "org.freedesktop.NetworkManager.Settings";
 const char profileInterface[] = "org.freedesktop.NetworkManager.Settings.Connection";
+const char wirelessInterface[] = "org.freedesktop.NetworkManager.Device.Wireless";
 const char mockInterface[] = "org.freedesktop.DBus.Mock";
 
 const int disconnected = 30;
@@ -84,12 +85,20 @@ bool MockNetworkManager::Start()
         m_whyNot = "python3-dbusmock's NetworkManager does not come up";
         return false;
     }
+    // As a desktop session has it.
+    AddMethod(managerPath, managerInterface, "GetPermissions", "", "a{ss}",
+              "ret = {'org.freedesktop.NetworkManager.network-control': 'yes'}");
     return true;
 }
 
 QString MockNetworkManager::AddWifiDevice(const QString &name)
 {
-    return Control("AddWiFiDevice", QList<QVariant>() << name << name << disconnected).toString();
+    const QString path =
+        Control("AddWiFiDevice", QList<QVariant>() << name << name << disconnected).toString();
+    Ask(path, mockInterface, "AddProperty",
+        QList<QVariant>() << wirelessInterface << "LastScan"
+                          << QVariant::fromValue(QDBusVariant(qlonglong(-1))));
+    return path;
 }
 
 QString MockNetworkManager::AddModem(const QString &name)

@@ -29,7 +29,7 @@ public:
     bool Start();
     QString WhyNot() const { return m_whyNot; }
 
-    /** The new object's path. */
+    /** The new object's path. A Wi-Fi device hasn't looked for networks yet. */
     QString AddWifiDevice(const QString &name);
     QString AddModem(const QString &name);
     /** @param security  flags that it has for both kinds of WPA. */

@@ -12,6 +12,8 @@
 #include <QScopedPointer>
 #include <QtTest>
 
+#include <algorithm>
+
 namespace
 {
 
@@ -84,6 +86,7 @@ private slots:
 
     void OrderOfTheListTakesEffect();
     void ConnectionIsAddedWhenItIsMadeAndNotBefore();
+    void ListIsFollowed();
 
 private:
     MockNetworkManager &Mock() { return *m_mock; }
@@ -426,6 +429,31 @@ void tst_networkmanagertemplate::ConnectionIsAddedWhenItIsMadeAndNotBefore()
     Mock().SetProperty(connection, activeConnection, "State", activated);
     QTRY_COMPARE(Listed(), QStringList() << "X/1"
                                          << "A/1");
+}
+
+void tst_networkmanagertemplate::ListIsFollowed()
+{
+    m_directory->Write("rules.ini", "[General]\nfollowing=yes\n");
+    m_directory->Write("Priority.xml", "<zeltdoc><item name=\"Top\" type=\"1\"/>"
+                                       "<item name=\"Low\" type=\"1\"/></zeltdoc>");
+    const QString device = Mock().AddWifiDevice("wlan0");
+    const QString profile = Mock().AddProfile(FakeNetworkManager::Settings("Low"));
+    Mock().AddProfile(FakeNetworkManager::Settings("Top"));
+    Mock().AddAccessPoint(device, "Low", 70);
+    Mock().AddAccessPoint(device, "Top", 70);
+    Mock().AddActiveConnection(device, profile, activated);
+    BeginWithList();
+    for (qlonglong scan = 1; scan <= 2; ++scan) {
+        QCOMPARE(LoadedWLAN::Active().size(), 1);
+        Mock().SetProperty(device, wirelessDevice, "LastScan", scan);
+        Settle();
+    }
+    const auto isConnected = [](const QString &name) {
+        const QList<ActiveConnection> active = LoadedWLAN::Active();
+        return std::any_of(active.constBegin(), active.constEnd(),
+                           [&name](const ActiveConnection &one) { return one.name == name; });
+    };
+    QTRY_VERIFY(isConnected("Top"));
 }
 
 QTEST_MAIN(tst_networkmanagertemplate)
