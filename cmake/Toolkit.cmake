@@ -1,5 +1,5 @@
 # Qt behind one set of names, so that no other file names its generation: the targets PriorityQtCore,
-# PriorityQtWidgets and PriorityQtTest, the function priority_compile_languages with its PRIORITY_LANGUAGE_COMPILER, and
+# PriorityQtWidgets, PriorityQtTest and, but for 4, PriorityQtDBus, the function priority_compile_languages with its PRIORITY_LANGUAGE_COMPILER, and
 # PRIORITY_INNER_CXX_STANDARD.
 
 set(PRIORITY_QT "" CACHE STRING

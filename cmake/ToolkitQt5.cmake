@@ -1,9 +1,11 @@
 set(PRIORITY_INNER_CXX_STANDARD 11)
 
-find_package(Qt5 5.15 REQUIRED COMPONENTS Core Gui Widgets Test LinguistTools)
+find_package(Qt5 5.15 REQUIRED COMPONENTS Core DBus Gui Widgets Test LinguistTools)
 target_link_libraries(PriorityQtCore INTERFACE Qt5::Core)
 target_link_libraries(PriorityQtWidgets INTERFACE Qt5::Gui Qt5::Widgets)
 target_link_libraries(PriorityQtTest INTERFACE Qt5::Test)
+add_library(PriorityQtDBus INTERFACE)
+target_link_libraries(PriorityQtDBus INTERFACE Qt5::DBus)
 
 set(PRIORITY_LANGUAGE_COMPILER "$<TARGET_FILE:Qt5::lrelease>")
 

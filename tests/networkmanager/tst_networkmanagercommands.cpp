@@ -1,3 +1,4 @@
+#include "ChildProcess.h"
 #include "FakeNetworkManager.h"
 #include "PrivateBus.h"
 
@@ -36,6 +37,7 @@ private slots:
     void ChangeOfTheListTakesEffect();
     void AgentKeepsTheOrderUntilItIsEnded_data();
     void AgentKeepsTheOrderUntilItIsEnded();
+    void AgentEndsWithItsSession();
     void AgentWaitsForNetworkManager();
     void ProfileThatIsRenamedKeepsItsPlace_data();
     void ProfileThatIsRenamedKeepsItsPlace();
@@ -246,6 +248,25 @@ void tst_networkmanagercommands::AgentKeepsTheOrderUntilItIsEnded()
     QCOMPARE(outcome.err + outcome.out, QString());
     QCOMPARE(outcome.status, 0);
     QVERIFY(m_fake->PriorityOf(coffee) > m_fake->PriorityOf(home));
+}
+
+void tst_networkmanagercommands::AgentEndsWithItsSession()
+{
+    ChildProcess session;
+    const QString log = m_bus.Path("session.log");
+    QVERIFY(session.Begin(ChildProcess::Find("dbus-daemon"),
+                          {"--session", "--nofork", "--address=unix:path=" + m_bus.Path("session")}, log));
+    QTRY_VERIFY(QFile::exists(m_bus.Path("session")));
+    QProcess agent;
+    ChangeEnvironment(&agent, Environment() << "DBUS_SESSION_BUS_ADDRESS=unix:path=" + m_bus.Path("session"));
+    agent.start(BUILD_DIRECTORY "/bin/priority-dashboard", {"--agent"});
+    const QString home = AddProfile("Home", "HomeNet");
+    QVERIFY(m_fake->Appear());
+    QTRY_VERIFY_WITH_TIMEOUT(m_fake->PriorityOf(home) > 0, 30000);
+    session.Kill();
+    const Outcome outcome = OutcomeOf(&agent);
+    QCOMPARE(outcome.err + outcome.out, QString());
+    QCOMPARE(outcome.status, 0);
 }
 
 void tst_networkmanagercommands::AgentWaitsForNetworkManager()

@@ -9,6 +9,7 @@
 #include <UserData.h>
 
 #include <QCoreApplication>
+#include <QDBusConnection>
 #include <QLockFile>
 #include <QSocketNotifier>
 
@@ -44,6 +45,18 @@ bool CatchSignals()
     return true;
 }
 
+/** Not every session sends a signal at its end. Its bus goes with it. */
+void EndWithTheSession()
+{
+    // Without an address D-Bus might start a bus for the question.
+    if (qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS")) {
+        QDBusConnection::sessionBus().connect(QString(), QLatin1String("/org/freedesktop/DBus/Local"),
+                                              QLatin1String("org.freedesktop.DBus.Local"),
+                                              QLatin1String("Disconnected"), QCoreApplication::instance(),
+                                              SLOT(quit()));
+    }
+}
+
 } // namespace
 
 CommandStatus Agent::Run(const Arguments &arguments, const QString &libraryPath)
@@ -70,6 +83,7 @@ CommandStatus Agent::Run(const Arguments &arguments, const QString &libraryPath)
     if (!CatchSignals()) {
         return CommandAnswer::Fail(CommandNotWritten, QLatin1String("no pipe can be made"));
     }
+    EndWithTheSession();
     PluginList list;
     ListKeeper keeper(UserData::Directory(), &list, nullptr);
     const ProfileNames names(UserData::FilePath(ProfileNames::FileName()), &keeper, nullptr);
