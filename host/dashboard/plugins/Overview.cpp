@@ -2,17 +2,24 @@
 
 #include "PluginObjects.h"
 
+#include <QHash>
 #include <QPair>
 #include <QSet>
+
+#include <utility>
 
 namespace
 {
 
+bool IsKnownType(const PriorityList &entry)
+{
+    return entry.type == QLatin1String("1") || entry.type == QLatin1String("2");
+}
+
 /** Of a connection or profile. An entry of another type is not known to the connection manager. */
 template <class Record> bool IsOf(const PriorityList &entry, const Record &record)
 {
-    const bool isListed = entry.type == QLatin1String("1") || entry.type == QLatin1String("2");
-    return isListed && record.type == entry.type && record.name == entry.name;
+    return IsKnownType(entry) && record.type == entry.type && record.name == entry.name;
 }
 
 const ActiveConnection *ConnectionOf(const PriorityList &entry, const QList<ActiveConnection> &active)
@@ -41,13 +48,18 @@ int RankOf(const ConnectionProfile &profile, const QString &activeId)
     }
 }
 
-ConnectionProfile ProfileOf(const PriorityList &entry, const QString &activeId,
-                            const QList<ConnectionProfile> &profiles)
+/** Profiles by their names and types, so that a long list takes no longer an entry than a short one. */
+typedef QHash<QPair<QString, QString>, QList<const ConnectionProfile *>> ProfilesByKey;
+
+ConnectionProfile ProfileOf(const PriorityList &entry, const QString &activeId, const ProfilesByKey &profiles)
 {
     const ConnectionProfile *best = nullptr;
-    for (const ConnectionProfile &profile : profiles) {
-        if (IsOf(entry, profile) && (!best || RankOf(profile, activeId) < RankOf(*best, activeId))) {
-            best = &profile;
+    const QList<const ConnectionProfile *> known = IsKnownType(entry)
+                                                       ? profiles.value(qMakePair(entry.name, entry.type))
+                                                       : QList<const ConnectionProfile *>();
+    for (const ConnectionProfile *profile : known) {
+        if (!best || RankOf(*profile, activeId) < RankOf(*best, activeId)) {
+            best = profile;
         }
     }
     return best ? *best : ConnectionProfile();
@@ -81,6 +93,10 @@ Overview Overview::Make(int status, const QList<PriorityList> &list, const Conne
         overview.connections.profiles.clear();
         overview.connections.networks.clear();
     }
+    ProfilesByKey profiles;
+    for (const ConnectionProfile &profile : std::as_const(overview.connections.profiles)) {
+        profiles[qMakePair(profile.name, profile.type)].append(&profile);
+    }
     QSet<QPair<QString, QString>> seen;
     for (const PriorityList &listed : list) {
         Entry entry;
@@ -89,13 +105,15 @@ Overview Overview::Make(int status, const QList<PriorityList> &list, const Conne
         entry.isRepeated = seen.contains(key);
         seen.insert(key);
         const ActiveConnection *connection = ConnectionOf(listed, overview.connections.active);
-        entry.profile =
-            ProfileOf(listed, connection ? connection->profileId : QString(), overview.connections.profiles);
+        entry.profile = ProfileOf(listed, connection ? connection->profileId : QString(), profiles);
         entry.signal = entry.profile.signal;
         if (connection && !entry.isRepeated) {
             entry.stage = connection->stage;
             entry.isInUse = connection->carriesTraffic;
             entry.signal = connection->signal;
+        }
+        if (overview.m_choice < 0 && entry.CanBeUsed()) {
+            overview.m_choice = static_cast<int>(overview.entries.size());
         }
         overview.entries.append(entry);
     }
@@ -119,12 +137,7 @@ const Overview::Entry *Overview::InUse() const
 
 const Overview::Entry *Overview::Choice() const
 {
-    for (const Entry &entry : entries) {
-        if (entry.CanBeUsed()) {
-            return &entry;
-        }
-    }
-    return nullptr;
+    return m_choice < 0 ? nullptr : &entries.at(m_choice);
 }
 
 const ActiveConnection *Overview::ComingUp() const

@@ -55,6 +55,10 @@ struct Overview {
 
     /** Whether an order can put Choice() in the place of what is in use, and the user may give it. */
     bool CanSwitch() const;
+
+private:
+    /** The place of Choice(); -1 when there is none. */
+    int m_choice = -1;
 };
 
 #endif

@@ -147,11 +147,29 @@ void TracePanel::EndSearch()
 
 void TracePanel::Append(const QStringList &lines)
 {
-    if (!lines.isEmpty()) {
-        m_text->appendPlainText(lines.join(QLatin1String("\n")));
-        if (!m_search->text().isEmpty()) {
-            m_countTimer->start();
-        }
+    m_waiting += lines;
+    if (isVisible()) {
+        TakeWaiting();
+    } else if (m_waiting.size() > TraceLog::LineLimit) {
+        m_waiting = m_waiting.mid(m_waiting.size() - TraceLog::LineLimit);
+    }
+}
+
+void TracePanel::showEvent(QShowEvent *event)
+{
+    TakeWaiting();
+    QDockWidget::showEvent(event);
+}
+
+void TracePanel::TakeWaiting()
+{
+    if (m_waiting.isEmpty()) {
+        return;
+    }
+    m_text->appendPlainText(m_waiting.join(QLatin1String("\n")));
+    m_waiting.clear();
+    if (!m_search->text().isEmpty()) {
+        m_countTimer->start();
     }
 }
 

@@ -25,6 +25,8 @@ public:
     /** Return finds the next place in the search field, with Shift the one before; Escape ends the search. */
     bool eventFilter(QObject *watched, QEvent *event) override;
 
+    void showEvent(QShowEvent *event) override;
+
 public slots:
     /** Shows the panel and lets the user type what to look for. */
     void StartSearch();
@@ -38,11 +40,14 @@ private slots:
 
 private:
     QWidget *CreateSearchRow();
+    void TakeWaiting();
     /** Goes to a place in that direction, around the ends; the search begins where the text cursor is. */
     void Find(bool backward);
     void EndSearch();
 
     QPlainTextEdit *m_text;
+    /** Lines that came while nobody saw the panel: laying them out takes longer than what they tell of. */
+    QStringList m_waiting;
     TraceHighlighter *m_highlighter;
     QLineEdit *m_search;
     QToolButton *m_previous;

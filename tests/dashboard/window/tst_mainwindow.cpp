@@ -504,9 +504,15 @@ void MainWindowTest::TraceIsShownOnDemand()
 
 void MainWindowTest::TraceShowsLines()
 {
-    qDebug("a line for the panel");
     QPlainTextEdit *text = m_window->findChild<QPlainTextEdit *>("traceText");
-    QVERIFY(Eventually([text]() { return text->toPlainText().contains("a line for the panel"); }));
+    const auto isShown = [text](const char *line) {
+        return Eventually([text, line]() { return text->toPlainText().contains(line); });
+    };
+    qDebug("before anybody looks");
+    m_window->findChild<QDockWidget *>("tracePanel")->toggleViewAction()->trigger();
+    QVERIFY(isShown("before anybody looks"));
+    qDebug("while somebody looks");
+    QVERIFY(isShown("while somebody looks"));
     QVERIFY(text->isReadOnly());
     QVERIFY(text->maximumBlockCount() > 0);
 }
