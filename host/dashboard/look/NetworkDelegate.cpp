@@ -89,8 +89,7 @@ void NetworkDelegate::PaintGround(QPainter *painter, const QStyleOptionViewItem 
     } else if (option.state & QStyle::State_Selected) {
         painter->fillRect(row, tones.selected);
     }
-    painter->setPen(tones.separator);
-    painter->drawLine(row.bottomLeft(), row.bottomRight());
+    painter->fillRect(QRect(row.left(), row.bottom(), row.width(), 1), tones.separator);
     if (option.state & QStyle::State_HasFocus) {
         painter->setPen(QPen(tones.accent, 2));
         painter->setBrush(Qt::NoBrush);

@@ -45,7 +45,10 @@ bool LibraryFile::IsCut(const QString &path)
 QString LibraryFile::OtherQt(const QString &path)
 {
     const int version = QPluginLoader(path).metaData().value(QLatin1String("version")).toInt();
-    if (version >> 16 != 0 && version >> 16 != QT_VERSION_MAJOR) {
+    if (version >> 16 == QT_VERSION_MAJOR) {
+        return QString();
+    }
+    if (version >> 16 != 0) {
         return QString::fromLatin1("%1.%2").arg(version >> 16).arg((version >> 8) & 0xff);
     }
     // Metadata of some other Qt can't be read, and a library may have none: so the libraries that it needs.
