@@ -56,6 +56,17 @@ void FakeConnections::CancelAttempt(int number)
     cancelled.append(number);
 }
 
+void FakeConnections::GetProfileDetails(const QString &profileId, ProfileDetails *result)
+{
+    *result = details.value(profileId);
+}
+
+int FakeConnections::Forget(const QString &profileId, const QString &lastingId)
+{
+    forgotten.append(profileId + '/' + lastingId);
+    return answer;
+}
+
 int FakeConnections::SetConnectsByItself(const QString &profileId, bool isOn)
 {
     wished.append(isOn ? profileId : '-' + profileId);

@@ -71,6 +71,7 @@ private slots:
     void ProfilesOutsideTheListAreLeftAlone();
     void EntryThatLeavesGetsItsFormerPriority();
     void WhatAnotherProgramOfTheUserHasDoneIsSetBackToo();
+    void NothingStaysKnownOfAForgottenProfile();
     void ProgramsOfOneUserWorkInTurns();
     void ForeignPriorityIsNotSetBack();
     void ForeignPriorityAgainstTheListIsSetRightOnce_data();
@@ -552,6 +553,20 @@ void tst_networkmanagerpriorities::WhatAnotherProgramOfTheUserHasDoneIsSetBackTo
     QCOMPARE(Fake().PriorityOf(a), 999);
     SetList("B");
     QTRY_COMPARE(Fake().PriorityOf(a), 12);
+}
+
+void tst_networkmanagerpriorities::NothingStaysKnownOfAForgottenProfile()
+{
+    const NMVariantMapMap settings = Fake().SettingsOf(AddProfile("A", 12));
+    AddProfile("B", 13);
+    Begin("A B");
+    const ConnectionProfile profile = LoadedWLAN::ConnectionProfileNamed("A");
+    QVERIFY(Directory().Read("NetworkManager.ini").contains(profile.lastingId.toLatin1()));
+    LoadedWLAN::Connections()->Forget(profile.id, profile.lastingId);
+    QTRY_VERIFY(!Directory().Read("NetworkManager.ini").contains(profile.lastingId.toLatin1()));
+    QVERIFY(Directory()
+                .Read("NetworkManager.ini")
+                .contains(LoadedWLAN::ConnectionProfileNamed("B").lastingId.toLatin1()));
 }
 
 void tst_networkmanagerpriorities::ProgramsOfOneUserWorkInTurns()
