@@ -43,6 +43,8 @@ public:
     /** NetworkManager, known, and the user may connect, unless a test tells otherwise. */
     Connections told;
     ConnectAttempt attempt;
+    /** Where they are not all the same: by their numbers. */
+    QMap<int, ConnectAttempt> attempts;
     OrderOutcome outcome;
     OrderOutcome standing;
     /** The profiles that were to connect by themselves, or, with a minus before, not to. */
