@@ -81,6 +81,7 @@ void DetailsDialog::Show(const Overview &overview)
     findChild<QScrollArea *>(QLatin1String("detailsArea"))->setAccessibleName(windowTitle());
     m_closeButton->setText(DashboardText("IDS_CLOSE"));
     m_name->setText(m_entry.name);
+    m_name->setAlignment(DialogParts::Beginning(this));
     ShowPlace(overview);
     ShowProfiles(overview.connections.ProfilesOf(m_entry));
 }

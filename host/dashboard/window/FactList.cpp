@@ -1,6 +1,7 @@
 #include "FactList.h"
 
 #include <DashboardText.h>
+#include <DialogParts.h>
 #include <WrappedLabel.h>
 
 #include <QGridLayout>
@@ -29,6 +30,7 @@ void FactList::Tell(const char *captionId, const QString &value)
     const Row &row = m_rows[key];
     row.caption->setText(DashboardText(captionId));
     row.value->setText(value);
+    row.value->setAlignment(DialogParts::Beginning(this) | Qt::AlignTop);
     row.value->setAccessibleName(row.caption->text() + QLatin1Char(' ') + value);
     row.caption->setVisible(!value.isEmpty());
     row.value->setVisible(!value.isEmpty());

@@ -121,8 +121,7 @@ QWidget *RuledDialog::CreateRow(const Row &row)
         QFont font = title->font();
         font.setBold(true);
         title->setFont(font);
-        // Above its reason, in whichever direction it reads itself.
-        title->setAlignment((isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute);
+        title->setAlignment(DialogParts::Beginning(this));
         title->SetFullText(row.title);
         texts->addWidget(title);
     }
