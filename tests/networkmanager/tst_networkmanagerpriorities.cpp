@@ -557,16 +557,20 @@ void tst_networkmanagerpriorities::WhatAnotherProgramOfTheUserHasDoneIsSetBackTo
 
 void tst_networkmanagerpriorities::NothingStaysKnownOfAForgottenProfile()
 {
-    const NMVariantMapMap settings = Fake().SettingsOf(AddProfile("A", 12));
-    AddProfile("B", 13);
+    const QString b = AddProfile("B", 0);
+    AddProfile("A", 0);
     Begin("A B");
-    const ConnectionProfile profile = LoadedWLAN::ConnectionProfileNamed("A");
-    QVERIFY(Directory().Read("NetworkManager.ini").contains(profile.lastingId.toLatin1()));
-    LoadedWLAN::Connections()->Forget(profile.id, profile.lastingId);
-    QTRY_VERIFY(!Directory().Read("NetworkManager.ini").contains(profile.lastingId.toLatin1()));
-    QVERIFY(Directory()
-                .Read("NetworkManager.ini")
-                .contains(LoadedWLAN::ConnectionProfileNamed("B").lastingId.toLatin1()));
+    QTRY_VERIFY(Fake().PriorityOf(b) > 0);
+    WaitUntilNothingIsAsked();
+    const QByteArray records = Directory().Read("NetworkManager.ini");
+    const ConnectionProfile a = LoadedWLAN::ConnectionProfileNamed("A");
+    const QByteArray uuid = a.lastingId.toLatin1();
+    // What it had before, and what the list has left.
+    QCOMPARE(records.count(uuid), 2);
+    LoadedWLAN::Connections()->Forget(a.id, a.lastingId);
+    QTRY_VERIFY(!Directory().Read("NetworkManager.ini").contains(uuid));
+    const QByteArray other = LoadedWLAN::ConnectionProfileNamed("B").lastingId.toLatin1();
+    QVERIFY(Directory().Read("NetworkManager.ini").contains(other));
 }
 
 void tst_networkmanagerpriorities::ProgramsOfOneUserWorkInTurns()

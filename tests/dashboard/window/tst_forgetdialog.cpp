@@ -242,6 +242,7 @@ void ForgetDialogTest::WhoClosesTheDialogIsToldOfAFailure()
     Open();
     Button("forgetButton")->click();
     QTest::keyClick(Dialog(), Qt::Key_Escape);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(Dialog() && !Dialog()->isVisible());
     Tell(StageFailed, FailureNotAllowed);
     QVERIFY(Dialog()->isVisible());
