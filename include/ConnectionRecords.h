@@ -21,7 +21,7 @@
  * "2" mobile broadband; "0" is any other kind, which the list has no entries for.
  */
 
-/** How far a connection is, or an order to connect or to disconnect. */
+/** How far a connection is, or an order to connect, to disconnect or to forget. */
 enum ConnectionStage {
     StageNotKnown = 0,
     StagePreparing = 1,
@@ -34,7 +34,12 @@ enum ConnectionStage {
 
     StageDisconnected = 6,
     StageFailed = 7,
-    StageCancelled = 8
+    StageCancelled = 8,
+
+    // Of an order to forget a profile: it is under way, and the profile is gone.
+
+    StageForgetting = 9,
+    StageForgotten = 10
 };
 
 /** Why a connection did not come up. */
@@ -206,19 +211,55 @@ struct VisibleNetwork {
     bool isInUse = false;
 };
 
-/** What became of an order to connect or to disconnect. */
+/** What became of an order to connect, to disconnect or to forget. */
 struct ConnectAttempt {
     /** Of the profile, or of the network while there is no profile. */
     QString name;
     /** Empty until there is one. */
     QString profileId;
-    /** A ConnectionStage; StageNotKnown: there is no such order. StageConnected and later are the end of it.
-     */
+    /** A ConnectionStage; StageNotKnown: there is no such order. It has come to its end with StageConnected,
+     * StageDisconnected, StageFailed, StageCancelled and StageForgotten. */
     int stage = StageNotKnown;
     /** With StageFailed: how far it had come. */
     int failedStage = StageNotKnown;
     /** A ConnectionFailure. With StageFailed: why; with StageConnected: FailureNone or FailureNotStored. */
     int failure = FailureNone;
+};
+
+/** What is told of a profile to somebody who looks at it alone. */
+struct ProfileDetails {
+    enum Metered {
+        MeteredNotKnown = 0,
+        MeteredYes = 1,
+        MeteredNo = 2,
+        /** Nobody has said so; the connection manager takes it from the connection that there is now. */
+        MeteredGuessedYes = 3,
+        MeteredGuessedNo = 4
+    };
+    enum Change {
+        ChangeNotKnown = 0,
+        ChangeAllowed = 1,
+        /** After a password, which the connection manager asks for. */
+        ChangeAfterPassword = 2,
+        /** Not even with a password, or it is not for anybody to change. */
+        ChangeNotAllowed = 3
+    };
+
+    /** The ConnectionProfile::id; empty: there is no such profile now. */
+    QString id;
+    /** The only device that it may use, such as "wlan0"; empty: any one of its kind. */
+    QString boundDevice;
+    /** A Metered: whether what goes through it is counted or paid for. */
+    int metered = MeteredNotKnown;
+    /** A Change: whether this user may change it, or have it forgotten. */
+    int change = ChangeNotKnown;
+    /** The names of those who may use it; empty with areUsersKnown: all users of this computer. */
+    QStringList users;
+    /** The connection manager's own number, as in OrderChange; it says something with isPriorityKnown alone.
+     */
+    int priority = 0;
+    bool areUsersKnown = false;
+    bool isPriorityKnown = false;
 };
 
 #endif

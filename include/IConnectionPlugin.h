@@ -35,7 +35,7 @@
  * While ConnectionState::source is not SourceKnown the lists are empty: that is "not known", never "none".
  *
  * The table is binary contract. Counted from one over all its entries, of which the destructor takes the
- * first two, the operations stand at 3 to 12.
+ * first two, the operations stand at 3 to 14.
  */
 class IConnectionPlugin
 {
@@ -112,6 +112,31 @@ public:
      * first. Any other number does nothing.
      */
     virtual void CancelAttempt(int attempt) = 0;
+
+    /**
+     * 13: what GetProfiles does not tell of a profile.
+     *
+     * @param details  belongs to the caller and is replaced, with an empty id when there is no such profile
+     * or the connection manager is not known now; null does nothing.
+     */
+    virtual void GetProfileDetails(const QString &profileId, ProfileDetails *details) = 0;
+
+    /**
+     * 14: begins to delete a profile, with the key that it keeps. Its connection ends with it, no other
+     * profile is changed, and nothing brings it back. The user has been asked before. Where the connection
+     * manager wants a password, it asks for that. It can't be cancelled.
+     *
+     * GetAttempt tells how far it is: StageForgetting, then StageForgotten, or StageFailed with the profile
+     * still there, FailureNotAllowed when the password was not given. With FailureSource nobody knows what
+     * has become of it; GetProfiles tells it in time. Who waits for its end is connected to
+     * OnConnectionsChanged meanwhile.
+     *
+     * @param profileId  a ConnectionProfile::id.
+     * @param lastingId  the lastingId of the same record, empty or not. The profile is deleted only if it is
+     *                   still the one that has it, otherwise the answer is RefusedUnknown.
+     * @return as ConnectProfile; RefusedNotAllowed where ProfileDetails::change is ChangeNotAllowed.
+     */
+    virtual int Forget(const QString &profileId, const QString &lastingId) = 0;
 };
 
 Q_DECLARE_INTERFACE(IConnectionPlugin, "com.torvik.netquillforge.plugin.IConnectionPlugin")

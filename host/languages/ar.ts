@@ -1030,6 +1030,166 @@
         <translation>بعد عدة محاولات فاشلة ينتظر ‪NetworkManager‬ خمس دقائق قبل أن يحاول من جديد.</translation>
     </message>
     <message>
+        <source>IDS_DETAILS_ACTION</source>
+        <translation>ا&amp;لتفاصيل…</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_TITLE</source>
+        <translation>التفاصيل</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_PLACE</source>
+        <translation>الموضع في قائمتك:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_PLACE_OF</source>
+        <translation>&#x200f;%1 من %2</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_NOT_LISTED</source>
+        <translation>ليست في قائمتك</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_STATE</source>
+        <translation>الحالة:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_PROFILE</source>
+        <translation>ملف التعريف %1 من %2</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_SECURITY</source>
+        <translation>الأمن:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_DEVICE</source>
+        <translation>المحوّل أو المودم:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_ONLY_DEVICE</source>
+        <translation>فقط %1</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_ANY_DEVICE</source>
+        <translation>أيّ واحد</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_DEVICE_NOW</source>
+        <translation>أيّ واحد، والآن %1</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_LAST_USED</source>
+        <translation>آخر استخدام:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_PRIORITY</source>
+        <translation>الأولوية لدى &#x202a;NetworkManager&#x202c;:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_METERED</source>
+        <translation>اتصال محدود الاستخدام:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_YES</source>
+        <translation>نعم</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_NO</source>
+        <translation>لا</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_PROBABLY_YES</source>
+        <translation>نعم على الأرجح</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_PROBABLY_NO</source>
+        <translation>لا على الأرجح</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_USERS</source>
+        <translation>من يمكنه استخدامها:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_ALL_USERS</source>
+        <translation>كل مستخدمي هذا الحاسوب</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_BY_ITSELF</source>
+        <translation>يتم الاتصال بها تلقائيًا</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_NOT_TURNED_OFF</source>
+        <translation>لا يزال الاتصال بالشبكة %1 يتم تلقائيًا.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_ACTION</source>
+        <translation>نسيان ال&amp;شبكة…</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_HINT</source>
+        <translation>تخرج الشبكة مع مفتاحها من هذا الحاسوب.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_NOT_KNOWN</source>
+        <translation>لا يُعرف الآن أي شبكة محفوظة.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_NOT_SAVED</source>
+        <translation>هي غير محفوظة هنا، لذلك لا حاجة إلى نسيانها. يمكن إزالتها من القائمة.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_WINDOW</source>
+        <translation>نسيان الشبكة</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_TITLE</source>
+        <translation>هل تريد نسيان %1؟</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_BUTTON</source>
+        <translation>نسيان</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_IN_USE</source>
+        <translation>الاتصال بها قائم الآن وسينتهي.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_TEXT</source>
+        <translation>سيتم نسيانها مع مفتاحها في هذا الحاسوب، وستخرج من قائمتك.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_SEVERAL</source>
+        <translation>سيتم نسيان كل ملفات التعريف بهذا الاسم (%1) مع مفاتيحها في هذا الحاسوب، وستخرج من قائمتك.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_FOR_GOOD</source>
+        <translation>يمكن استرجاع موضعها، أما مفتاحها فلا.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNDER_WAY</source>
+        <translation>جارٍ نسيانها.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_DONE</source>
+        <translation>تم نسيان %1. يمكن استرجاع موضعها في القائمة، أما مفتاحها فلا.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_FAILED</source>
+        <translation>لم يتم نسيان %1، وهي باقية في قائمتك.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_SOME</source>
+        <translation>ملفات التعريف التي تم نسيانها: %1 من %2.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_NO_ANSWER</source>
+        <translation>لم ترد إجابة، لذلك لا يُعرف هل تم نسيان %1. هي باقية في قائمتك.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_STAYS</source>
+        <translation>تم نسيان %1، لكنها باقية في قائمتك.</translation>
+    </message>
+    <message>
         <source>IDS_RULED_NOT_TURNED_ON</source>
         <translation>لا يتم الاتصال بالشبكة %1 تلقائيًا حتى الآن.</translation>
     </message>

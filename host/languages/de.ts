@@ -1031,6 +1031,166 @@ Erwartet: %3</translation>
         <translation>Nach mehreren Fehlschlägen wartet NetworkManager fünf Minuten, bevor er es erneut versucht.</translation>
     </message>
     <message>
+        <source>IDS_DETAILS_ACTION</source>
+        <translation>De&amp;tails&#xa0;…</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_TITLE</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_PLACE</source>
+        <translation>Platz in Ihrer Liste:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_PLACE_OF</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_NOT_LISTED</source>
+        <translation>Nicht in Ihrer Liste</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_STATE</source>
+        <translation>Zustand:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_PROFILE</source>
+        <translation>Profil %1 von %2</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_SECURITY</source>
+        <translation>Sicherheit:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_DEVICE</source>
+        <translation>Adapter oder Modem:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_ONLY_DEVICE</source>
+        <translation>Nur %1</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_ANY_DEVICE</source>
+        <translation>Beliebig</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_DEVICE_NOW</source>
+        <translation>Beliebig, zurzeit %1</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_LAST_USED</source>
+        <translation>Zuletzt verwendet:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_PRIORITY</source>
+        <translation>Priorität für NetworkManager:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_METERED</source>
+        <translation>Getaktete Verbindung:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_YES</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_NO</source>
+        <translation>Nein</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_PROBABLY_YES</source>
+        <translation>Vermutlich ja</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_PROBABLY_NO</source>
+        <translation>Vermutlich nein</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_USERS</source>
+        <translation>Wer es verwenden darf:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_ALL_USERS</source>
+        <translation>Alle Benutzer dieses Computers</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_BY_ITSELF</source>
+        <translation>Verbindet sich von selbst</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_NOT_TURNED_OFF</source>
+        <translation>%1 verbindet sich weiterhin von selbst.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_ACTION</source>
+        <translation>Netzwerk ver&amp;gessen&#xa0;…</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_HINT</source>
+        <translation>Nimmt das Netzwerk mit seinem Schlüssel von diesem Computer.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_NOT_KNOWN</source>
+        <translation>Zurzeit ist nicht bekannt, welche Netzwerke gespeichert sind.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_NOT_SAVED</source>
+        <translation>Es ist hier nicht gespeichert, daher gibt es nichts zu vergessen. Es lässt sich aus der Liste entfernen.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_WINDOW</source>
+        <translation>Netzwerk vergessen</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_TITLE</source>
+        <translation>%1 vergessen?</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_BUTTON</source>
+        <translation>Vergessen</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_IN_USE</source>
+        <translation>Sie sind damit verbunden; die Verbindung wird beendet.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_TEXT</source>
+        <translation>Es wird mit seinem Schlüssel auf diesem Computer vergessen und verlässt Ihre Liste.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_SEVERAL</source>
+        <translation>Auf diesem Computer werden alle Profile dieses Namens (%1) mit ihren Schlüsseln vergessen, und es verlässt Ihre Liste.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_FOR_GOOD</source>
+        <translation>Sein Platz lässt sich zurückholen, sein Schlüssel nicht.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNDER_WAY</source>
+        <translation>Es wird vergessen.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_DONE</source>
+        <translation>%1 vergessen. Der Platz in der Liste lässt sich zurückholen, der Schlüssel nicht.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_FAILED</source>
+        <translation>%1 wurde nicht vergessen und bleibt in Ihrer Liste.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_SOME</source>
+        <translation>Vergessene Profile: %1 von %2.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_NO_ANSWER</source>
+        <translation>Es kam keine Antwort, daher ist nicht bekannt, ob %1 vergessen ist. Es bleibt in Ihrer Liste.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_STAYS</source>
+        <translation>%1 ist vergessen, bleibt aber in Ihrer Liste.</translation>
+    </message>
+    <message>
         <source>IDS_RULED_NOT_TURNED_ON</source>
         <translation>%1 verbindet sich weiterhin nicht von selbst.</translation>
     </message>

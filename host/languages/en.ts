@@ -1106,6 +1106,205 @@ Expected: %3</translation>
         <translation>After several failures NetworkManager waits for five minutes before it tries again.</translation>
     </message>
     <message>
+        <source>IDS_DETAILS_ACTION</source>
+        <extracomment>Menu entry: all that is known of the network that is chosen</extracomment>
+        <translation>Det&amp;ails…</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_TITLE</source>
+        <extracomment>Title of the dialog behind it</extracomment>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_PLACE</source>
+        <extracomment>Caption in that dialog; a place stands behind it</extracomment>
+        <translation>Place in your list:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_PLACE_OF</source>
+        <extracomment>%1: a place; %2: how many there are</extracomment>
+        <translation>%1 of %2</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_NOT_LISTED</source>
+        <extracomment>In the place of that</extracomment>
+        <translation>Not in your list</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_STATE</source>
+        <extracomment>Caption; such as In range stands behind it</extracomment>
+        <translation>State:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_PROFILE</source>
+        <extracomment>Heading, where several saved networks have one name; %1: which of them, %2: how many there are</extracomment>
+        <translation>Profile %1 of %2</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_SECURITY</source>
+        <extracomment>Caption; such as WPA2PSK stands behind it</extracomment>
+        <translation>Security:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_DEVICE</source>
+        <extracomment>Caption</extracomment>
+        <translation>Adapter or modem:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_ONLY_DEVICE</source>
+        <extracomment>Behind that: the only adapter that the network is for; %1: such as wlan0</extracomment>
+        <translation>Only %1</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_ANY_DEVICE</source>
+        <extracomment>Behind that: any adapter or modem</extracomment>
+        <translation>Any</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_DEVICE_NOW</source>
+        <extracomment>Behind that; %1: the adapter or modem that it has or would have now</extracomment>
+        <translation>Any, at present %1</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_LAST_USED</source>
+        <extracomment>Caption; date and time stand behind it</extracomment>
+        <translation>Last used:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_PRIORITY</source>
+        <extracomment>Caption; a number from -999 to 999 stands behind it</extracomment>
+        <translation>Priority for NetworkManager:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_METERED</source>
+        <extracomment>Caption; whether what goes through it is counted or paid for</extracomment>
+        <translation>Metered connection:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_YES</source>
+        <extracomment>Behind that</extracomment>
+        <translation>Yes</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_NO</source>
+        <extracomment>Behind that</extracomment>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_PROBABLY_YES</source>
+        <extracomment>Behind that: NetworkManager takes it to be so, nobody has said so</extracomment>
+        <translation>Probably yes</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_PROBABLY_NO</source>
+        <extracomment>The same</extracomment>
+        <translation>Probably no</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_USERS</source>
+        <extracomment>Caption; names of users, or the next text, stand behind it</extracomment>
+        <translation>Who may use it:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_ALL_USERS</source>
+        <translation>All users of this computer</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_BY_ITSELF</source>
+        <extracomment>Box to tick</extracomment>
+        <translation>Connects by itself</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_NOT_TURNED_OFF</source>
+        <extracomment>Below that box, when the mark was taken away in vain; %1: a network</extracomment>
+        <translation>%1 still connects by itself.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_ACTION</source>
+        <extracomment>Menu entry: takes the network off this computer, with its key</extracomment>
+        <translation>For&amp;get network…</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_HINT</source>
+        <extracomment>Tool tip of that entry</extracomment>
+        <translation>Takes the network off this computer, with its key.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_NOT_KNOWN</source>
+        <extracomment>The same, when it can’t be chosen</extracomment>
+        <translation>It is not known now which networks are saved.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_NOT_SAVED</source>
+        <extracomment>The same</extracomment>
+        <translation>It is not saved here, so there is nothing to forget. It can be removed from the list.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_WINDOW</source>
+        <extracomment>Title of the question</extracomment>
+        <translation>Forget network</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_TITLE</source>
+        <extracomment>First line of the question; %1: a network</extracomment>
+        <translation>Forget %1?</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_BUTTON</source>
+        <extracomment>Button</extracomment>
+        <translation>Forget</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_IN_USE</source>
+        <extracomment>In the question</extracomment>
+        <translation>You are connected to it; the connection will end.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_TEXT</source>
+        <extracomment>In the question</extracomment>
+        <translation>This computer will forget it with its key, and it will leave your list.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_SEVERAL</source>
+        <extracomment>In the place of that, where several saved networks have the name; %1: how many, two at least</extracomment>
+        <translation>This computer will forget all %1 profiles of that name with their keys, and it will leave your list.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_FOR_GOOD</source>
+        <extracomment>In the question, behind that</extracomment>
+        <translation>Its place can be brought back, its key can’t.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNDER_WAY</source>
+        <extracomment>In the dialog, once Forget was pressed</extracomment>
+        <translation>It is being forgotten.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_DONE</source>
+        <extracomment>At the foot of the main window; %1: a network</extracomment>
+        <translation>Forgot %1. Its place in the list can be brought back, its key can’t.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_FAILED</source>
+        <extracomment>In the dialog; a reason may follow. %1: a network</extracomment>
+        <translation>%1 was not forgotten. It stays in your list.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_SOME</source>
+        <extracomment>Behind that, where several saved networks have the name</extracomment>
+        <translation>Forgotten profiles: %1 of %2.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_NO_ANSWER</source>
+        <extracomment>In the dialog; %1: a network</extracomment>
+        <translation>There was no answer, so it is not known if %1 is forgotten. It stays in your list.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_STAYS</source>
+        <extracomment>In the dialog; a reason follows. %1: a network</extracomment>
+        <translation>%1 is forgotten, but stays in your list.</translation>
+    </message>
+    <message>
         <source>IDS_RULED_NOT_TURNED_ON</source>
         <extracomment>At the foot of the dialog, after Turn on; %1: a network</extracomment>
         <translation>%1 still does not connect by itself.</translation>

@@ -1031,6 +1031,166 @@ Esperado: %3</translation>
         <translation>Tras varios fallos, NetworkManager espera cinco minutos antes de volver a intentarlo.</translation>
     </message>
     <message>
+        <source>IDS_DETAILS_ACTION</source>
+        <translation>De&amp;talles…</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_TITLE</source>
+        <translation>Detalles</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_PLACE</source>
+        <translation>Puesto en su lista:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_PLACE_OF</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_NOT_LISTED</source>
+        <translation>No está en su lista</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_STATE</source>
+        <translation>Estado:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_PROFILE</source>
+        <translation>Perfil %1 de %2</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_SECURITY</source>
+        <translation>Seguridad:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_DEVICE</source>
+        <translation>Adaptador o módem:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_ONLY_DEVICE</source>
+        <translation>Solo %1</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_ANY_DEVICE</source>
+        <translation>Cualquiera</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_DEVICE_NOW</source>
+        <translation>Cualquiera; ahora, %1</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_LAST_USED</source>
+        <translation>Último uso:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_PRIORITY</source>
+        <translation>Prioridad para NetworkManager:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_METERED</source>
+        <translation>Conexión de uso medido:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_YES</source>
+        <translation>Sí</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_NO</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_PROBABLY_YES</source>
+        <translation>Probablemente sí</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_PROBABLY_NO</source>
+        <translation>Probablemente no</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_USERS</source>
+        <translation>Quién puede usarla:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_ALL_USERS</source>
+        <translation>Todos los usuarios de este equipo</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_BY_ITSELF</source>
+        <translation>Se conecta por sí sola</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_NOT_TURNED_OFF</source>
+        <translation>%1 sigue conectándose por sí sola.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_ACTION</source>
+        <translation>&amp;Olvidar red…</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_HINT</source>
+        <translation>Saca la red de este equipo, con su clave.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_NOT_KNOWN</source>
+        <translation>Ahora no se sabe qué redes hay guardadas.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_NOT_SAVED</source>
+        <translation>No está guardada aquí, así que no hay nada que olvidar. Se puede quitar de la lista.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_WINDOW</source>
+        <translation>Olvidar red</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_TITLE</source>
+        <translation>¿Olvidar %1?</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_BUTTON</source>
+        <translation>Olvidar</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_IN_USE</source>
+        <translation>Está conectado a ella; la conexión terminará.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_TEXT</source>
+        <translation>Este equipo la olvidará con su clave, y saldrá de su lista.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_SEVERAL</source>
+        <translation>Este equipo olvidará todos los perfiles con ese nombre (%1) y sus claves, y saldrá de su lista.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_FOR_GOOD</source>
+        <translation>Su puesto se puede recuperar; su clave, no.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNDER_WAY</source>
+        <translation>Se está olvidando.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_DONE</source>
+        <translation>%1 se ha olvidado. Su puesto en la lista se puede recuperar; su clave, no.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_FAILED</source>
+        <translation>%1 no se ha olvidado. Sigue en su lista.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_SOME</source>
+        <translation>Perfiles olvidados: %1 de %2.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_NO_ANSWER</source>
+        <translation>No hubo respuesta, así que no se sabe si %1 se ha olvidado. Sigue en su lista.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_STAYS</source>
+        <translation>%1 se ha olvidado, pero sigue en su lista.</translation>
+    </message>
+    <message>
         <source>IDS_RULED_NOT_TURNED_ON</source>
         <translation>%1 sigue sin conectarse por sí sola.</translation>
     </message>

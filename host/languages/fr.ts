@@ -1031,6 +1031,166 @@ Attendu&#xa0;: %3</translation>
         <translation>Après plusieurs échecs, NetworkManager attend cinq minutes avant de réessayer.</translation>
     </message>
     <message>
+        <source>IDS_DETAILS_ACTION</source>
+        <translation>Dét&amp;ails…</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_TITLE</source>
+        <translation>Détails</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_PLACE</source>
+        <translation>Rang dans votre liste&#xa0;:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_PLACE_OF</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_NOT_LISTED</source>
+        <translation>Pas dans votre liste</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_STATE</source>
+        <translation>État&#xa0;:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_PROFILE</source>
+        <translation>Profil %1 sur %2</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_SECURITY</source>
+        <translation>Sécurité&#xa0;:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_DEVICE</source>
+        <translation>Adaptateur ou modem&#xa0;:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_ONLY_DEVICE</source>
+        <translation>%1 seulement</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_ANY_DEVICE</source>
+        <translation>N’importe lequel</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_DEVICE_NOW</source>
+        <translation>N’importe lequel, actuellement %1</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_LAST_USED</source>
+        <translation>Dernière utilisation&#xa0;:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_PRIORITY</source>
+        <translation>Priorité pour NetworkManager&#xa0;:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_METERED</source>
+        <translation>Connexion limitée&#xa0;:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_YES</source>
+        <translation>Oui</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_NO</source>
+        <translation>Non</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_PROBABLY_YES</source>
+        <translation>Probablement oui</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_PROBABLY_NO</source>
+        <translation>Probablement non</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_USERS</source>
+        <translation>Qui peut l’utiliser&#xa0;:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_ALL_USERS</source>
+        <translation>Tous les utilisateurs de cet ordinateur</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_BY_ITSELF</source>
+        <translation>Se connecte de lui-même</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_NOT_TURNED_OFF</source>
+        <translation>%1 se connecte toujours de lui-même.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_ACTION</source>
+        <translation>&amp;Oublier le réseau…</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_HINT</source>
+        <translation>Enlève le réseau de cet ordinateur, avec sa clé.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_NOT_KNOWN</source>
+        <translation>On ignore actuellement quels réseaux sont enregistrés.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_NOT_SAVED</source>
+        <translation>Il n’est pas enregistré ici&#x202f;; il n’y a donc rien à oublier. Il peut être retiré de la liste.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_WINDOW</source>
+        <translation>Oublier le réseau</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_TITLE</source>
+        <translation>Oublier %1&#xa0;?</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_BUTTON</source>
+        <translation>Oublier</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_IN_USE</source>
+        <translation>Vous y êtes connecté&#x202f;; la connexion prendra fin.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_TEXT</source>
+        <translation>Cet ordinateur l’oubliera avec sa clé, et il quittera votre liste.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_SEVERAL</source>
+        <translation>Cet ordinateur oubliera tous les profils de ce nom (%1) avec leurs clés, et il quittera votre liste.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_FOR_GOOD</source>
+        <translation>Son rang peut être récupéré, pas sa clé.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNDER_WAY</source>
+        <translation>Oubli en cours.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_DONE</source>
+        <translation>%1 oublié. Son rang dans la liste peut être récupéré, pas sa clé.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_FAILED</source>
+        <translation>%1 n’a pas été oublié et reste dans votre liste.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_SOME</source>
+        <translation>Profils oubliés&#xa0;: %1 sur %2.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_NO_ANSWER</source>
+        <translation>Il n’y a pas eu de réponse&#x202f;; on ne sait donc pas si %1 est oublié. Il reste dans votre liste.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_STAYS</source>
+        <translation>%1 est oublié, mais reste dans votre liste.</translation>
+    </message>
+    <message>
         <source>IDS_RULED_NOT_TURNED_ON</source>
         <translation>%1 ne se connecte toujours pas de lui-même.</translation>
     </message>

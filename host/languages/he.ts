@@ -1030,6 +1030,166 @@
         <translation>אחרי כמה כישלונות התוכנה ‪NetworkManager‬ ממתינה חמש דקות לפני שהיא מנסה שוב.</translation>
     </message>
     <message>
+        <source>IDS_DETAILS_ACTION</source>
+        <translation>&amp;פרטים…</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_TITLE</source>
+        <translation>פרטים</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_PLACE</source>
+        <translation>המקום ברשימה שלך:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_PLACE_OF</source>
+        <translation>&#x200f;%1 מתוך %2</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_NOT_LISTED</source>
+        <translation>לא ברשימה שלך</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_STATE</source>
+        <translation>מצב:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_PROFILE</source>
+        <translation>פרופיל %1 מתוך %2</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_SECURITY</source>
+        <translation>אבטחה:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_DEVICE</source>
+        <translation>מתאם או מודם:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_ONLY_DEVICE</source>
+        <translation>רק %1</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_ANY_DEVICE</source>
+        <translation>כלשהו</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_DEVICE_NOW</source>
+        <translation>כלשהו, כעת %1</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_LAST_USED</source>
+        <translation>שימוש אחרון:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_PRIORITY</source>
+        <translation>עדיפות עבור &#x202a;NetworkManager&#x202c;:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_METERED</source>
+        <translation>חיבור נמדד:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_YES</source>
+        <translation>כן</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_NO</source>
+        <translation>לא</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_PROBABLY_YES</source>
+        <translation>כנראה כן</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_PROBABLY_NO</source>
+        <translation>כנראה לא</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_USERS</source>
+        <translation>מי רשאי להשתמש בה:</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_ALL_USERS</source>
+        <translation>כל המשתמשים במחשב הזה</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_BY_ITSELF</source>
+        <translation>התחברות אליה מעצמה</translation>
+    </message>
+    <message>
+        <source>IDS_DETAILS_NOT_TURNED_OFF</source>
+        <translation>ההתחברות אל %1 עדיין אוטומטית.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_ACTION</source>
+        <translation>ש&amp;כחת הרשת…</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_HINT</source>
+        <translation>הרשת והמפתח שלה יוצאים מהמחשב הזה.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_NOT_KNOWN</source>
+        <translation>כעת לא ידוע איזו רשת שמורה.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_NOT_SAVED</source>
+        <translation>היא אינה שמורה כאן, ולכן אין צורך בשכחה. אפשר להסיר אותה מהרשימה.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_WINDOW</source>
+        <translation>שכחת הרשת</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_TITLE</source>
+        <translation>שכחת הרשת %1?</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_BUTTON</source>
+        <translation>שכחה</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_IN_USE</source>
+        <translation>קיים חיבור אליה, והחיבור יסתיים.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_TEXT</source>
+        <translation>המחשב הזה ישכח אותה עם המפתח שלה, והיא תצא מהרשימה שלך.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_SEVERAL</source>
+        <translation>המחשב הזה ישכח את כל הפרופילים בשם הזה (%1) עם כל מפתח שלהם, והיא תצא מהרשימה שלך.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_FOR_GOOD</source>
+        <translation>אפשר להחזיר את המקום שלה, אבל לא את המפתח.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNDER_WAY</source>
+        <translation>השכחה מתבצעת.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_DONE</source>
+        <translation>בוצעה שכחה של %1. אפשר להחזיר את המקום ברשימה, אבל לא את המפתח.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_FAILED</source>
+        <translation>לא בוצעה שכחה של %1, והיא נשארת ברשימה שלך.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_SOME</source>
+        <translation>פרופילים שנשכחו: %1 מתוך %2.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_NO_ANSWER</source>
+        <translation>לא התקבלה תשובה, ולכן לא ידוע אם בוצעה שכחה של %1. היא נשארת ברשימה שלך.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_STAYS</source>
+        <translation>בוצעה שכחה של %1, אבל היא נשארת ברשימה שלך.</translation>
+    </message>
+    <message>
         <source>IDS_RULED_NOT_TURNED_ON</source>
         <translation>עדיין אין התחברות אוטומטית אל %1.</translation>
     </message>

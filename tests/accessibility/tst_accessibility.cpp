@@ -471,7 +471,8 @@ void TestAccessibility::menuItemsTellTheirState()
         }
     });
     QCOMPARE(told.join(", "), QString::fromUtf8("Undo off, Redo off, Earlier lists… on, Import list… on, "
-                                                "Export list… on, Settings… on"));
+                                                "Export list… on, Details… off, Forget network… off, "
+                                                "Settings… on"));
 }
 
 QTEST_MAIN(TestAccessibility)

@@ -126,7 +126,7 @@ Facts Positions()
     AddOperations(&facts, "IConnectionPlugin", first,
                   Names("GetConnectionState GetActiveConnections GetProfiles GetVisibleNetworks "
                         "LookForNetworks ConnectProfile ConnectNetwork Disconnect GetAttempt CancelAttempt "
-                        "(end)"));
+                        "GetProfileDetails Forget (end)"));
     AddOperations(&facts, "IOrderPlugin", first,
                   Names("Apply GetOutcome GetStanding SetConnectsByItself (end)"));
     AddOperations(&facts, "IPluginContainer", first, Names("GetPluginObject (end)"));
@@ -157,6 +157,8 @@ const Shape shapes[] = {
      "TTTTTTnnnwwbbT"},
     {"VisibleNetwork", "id name security protection signal profileIds isInUse", "TTTnnTb"},
     {"ConnectAttempt", "name profileId stage failedStage failure", "TTnnn"},
+    {"ProfileDetails", "id boundDevice metered change users priority areUsersKnown isPriorityKnown",
+     "TTnnTnbb"},
     {"OrderChange", "name before after", "Tnn"},
     {"OrderKept", "name obstacle profileId", "TnT"},
     {"OrderOutcome", "stage failure changes kept", "nnTT"},
@@ -199,6 +201,8 @@ const Number numbers[] = {
     {"StageDisconnected", 6},
     {"StageFailed", 7},
     {"StageCancelled", 8},
+    {"StageForgetting", 9},
+    {"StageForgotten", 10},
     {"FailureNone", 0},
     {"FailureOther", 1},
     {"FailureWrongKey", 2},
@@ -242,6 +246,15 @@ const Number numbers[] = {
     {"ProtectionKey", 2},
     {"ProtectionWeakKey", 3},
     {"ProtectionAccount", 4},
+    {"MeteredNotKnown", 0},
+    {"MeteredYes", 1},
+    {"MeteredNo", 2},
+    {"MeteredGuessedYes", 3},
+    {"MeteredGuessedNo", 4},
+    {"ChangeNotKnown", 0},
+    {"ChangeAllowed", 1},
+    {"ChangeAfterPassword", 2},
+    {"ChangeNotAllowed", 3},
     {"RefusedUnknown", -1},
     {"RefusedSource", -2},
     {"RefusedNotAllowed", -3},

@@ -46,14 +46,25 @@ int FakeConnections::Disconnect(const QString &connectionId)
     return answer;
 }
 
-void FakeConnections::GetAttempt(int, ConnectAttempt *result)
+void FakeConnections::GetAttempt(int number, ConnectAttempt *result)
 {
-    *result = attempt;
+    *result = attempts.value(number, attempt);
 }
 
 void FakeConnections::CancelAttempt(int number)
 {
     cancelled.append(number);
+}
+
+void FakeConnections::GetProfileDetails(const QString &profileId, ProfileDetails *result)
+{
+    *result = details.value(profileId);
+}
+
+int FakeConnections::Forget(const QString &profileId, const QString &lastingId)
+{
+    forgotten.append(profileId + '/' + lastingId);
+    return answer > 0 ? static_cast<int>(forgotten.size()) : answer;
 }
 
 int FakeConnections::SetConnectsByItself(const QString &profileId, bool isOn)

@@ -6,6 +6,7 @@
 #include <IOrderPlugin.h>
 #include <IPluginContainer.h>
 
+#include <QMap>
 #include <QStringList>
 
 /** Connections as they are told, behind the real interface; orders are recorded. */
@@ -27,6 +28,8 @@ public:
     int Disconnect(const QString &connectionId) override;
     void GetAttempt(int attempt, ConnectAttempt *result) override;
     void CancelAttempt(int attempt) override;
+    void GetProfileDetails(const QString &profileId, ProfileDetails *result) override;
+    int Forget(const QString &profileId, const QString &lastingId) override;
     int Apply() override { return 0; }
     void GetOutcome(int, OrderOutcome *result) override { *result = outcome; }
     void GetStanding(OrderOutcome *result) override { *result = standing; }
@@ -40,6 +43,8 @@ public:
     /** NetworkManager, known, and the user may connect, unless a test tells otherwise. */
     Connections told;
     ConnectAttempt attempt;
+    /** Where they are not all the same: by their numbers. */
+    QMap<int, ConnectAttempt> attempts;
     OrderOutcome outcome;
     OrderOutcome standing;
     /** The profiles that were to connect by themselves, or, with a minus before, not to. */
@@ -52,6 +57,10 @@ public:
     QList<int> cancelled;
     /** The connections that were ordered to be ended. */
     QStringList ended;
+    /** By the ids of the profiles. */
+    QMap<QString, ProfileDetails> details;
+    /** The profiles that were to be forgotten, "id/lastingId" each. */
+    QStringList forgotten;
     int reads = 0;
     int looks = 0;
 

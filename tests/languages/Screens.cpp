@@ -20,6 +20,7 @@
 #include <UserNotice.h>
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
 #include <QDir>
@@ -48,8 +49,8 @@ const char *const userDirectory = "priority-dashboard";
 const char *const values[] = {longName, "Home", "Office", "Café", "شبكة المنزل", "Company", "Old printer",
                               "Mobile broadband", "Neighbour", "Library", "Workshop", "Campus", "WPA2PSK",
                               "WPAPSK", "WPA2(EAP)", "WPA(EAP)", "IEEE 802.1X", "open", "Shop", "shared",
-                              "none", "WEP", "CCMP", "TKIP", "AUTO", "SIM", "AKA", "NetworkManager",
-                              "Guest house at the upper end of the long road",
+                              "none", "WEP", "CCMP", "TKIP", "AUTO", "SIM", "AKA", "NetworkManager", "wlan0",
+                              "anna", "Guest house at the upper end of the long road",
                               // The month of the states that are kept, in the words of Qt.
                               "Mar"};
 
@@ -181,6 +182,31 @@ void FillWithoutEffect(QList<PriorityList> *list, FakeConnections *connections)
     }
 }
 
+/** Profiles of one name, of which all is known. */
+void FillWithProfiles(int count, FakeConnections *connections)
+{
+    const int metered[] = {ProfileDetails::MeteredYes, ProfileDetails::MeteredNo,
+                           ProfileDetails::MeteredGuessedYes, ProfileDetails::MeteredGuessedNo};
+    for (int i = 0; i < count; ++i) {
+        ConnectionProfile profile = SavedProfile(QLatin1String("Home"));
+        profile.id += i == 0 ? QString() : QString::number(i);
+        profile.security = QLatin1String(i == 1 ? "open" : "WPA2PSK");
+        profile.device = QLatin1String(i == 2 ? "" : "wlan0");
+        // In the same month as the states that are kept.
+        profile.lastConnected = 1773565200;
+        profile.signal = 64;
+        ProfileDetails &details = connections->details[profile.id];
+        details.id = profile.id;
+        details.boundDevice = QLatin1String(i == 1 ? "wlan0" : "");
+        details.metered = metered[i];
+        details.isPriorityKnown = true;
+        details.priority = 500;
+        details.areUsersKnown = true;
+        details.users = i == 1 ? QStringList(QLatin1String("anna")) : QStringList();
+        connections->told.profiles.append(profile);
+    }
+}
+
 /** Hands out everything but the Wi-Fi plug-in. */
 class WithoutWlan : public IPluginContainer
 {
@@ -235,6 +261,21 @@ const Screens::Screen Screens::screens[] = {
     {"what the list rules", &Screens::ShowConnections, "ruled"},
     {"what the list rules, places without effect", &Screens::ShowConnections, "ruled, without effect"},
     {"what the list rules, not turned on", &Screens::ShowConnections, "ruled, not turned on"},
+    {"details", &Screens::ShowDetails, ""},
+    {"details, several profiles", &Screens::ShowDetails, "several"},
+    {"details, of what is not listed", &Screens::ShowDetails, "not listed"},
+    {"details, not turned off", &Screens::ShowDetails, "not turned off"},
+    {"question, forget", &Screens::ShowForgetting, ""},
+    {"question, forget several in use", &Screens::ShowForgetting, "several"},
+    {"forgetting", &Screens::ShowForgetting, "under way"},
+    {"list, forgotten", &Screens::ShowForgetting, "done"},
+    {"not forgotten, not allowed", &Screens::ShowForgetting, "failed"},
+    {"not forgotten, several", &Screens::ShowForgetting, "some"},
+    {"not forgotten, no answer", &Screens::ShowForgetting, "no answer"},
+    {"forgotten, list not written", &Screens::ShowForgetting, "stays"},
+    {"Edit menu, network saved", &Screens::ShowForgetting, "menu"},
+    {"Edit menu, network not saved", &Screens::ShowForgetting, "menu, not saved"},
+    {"Edit menu, networks not known", &Screens::ShowForgetting, "menu, not known"},
     {"list, plug-in missing while connected", &Screens::ShowConnections, "no list"},
     {"list, not handed out", &Screens::ShowListNotHandedOut, "QueryNull"},
     {"list, damaged", &Screens::ShowListFile, damagedList},
@@ -603,6 +644,71 @@ void Screens::ShowConnections(const char *what)
         m_window->Refresh();
     }
     Visit();
+    m_window.reset();
+    HostControl::SetPluginContainer(m_plugins.data());
+}
+
+void Screens::ShowDetails(const char *what)
+{
+    const QByteArray shown(what);
+    FakeConnections connections;
+    FillWithProfiles(shown == "several" ? 4 : 1, &connections);
+    WriteUserFile(QLatin1String("Priority.xml"), OrderFile::Document(Listed(QLatin1String("Home, Office"))));
+    WithConnections container(m_plugins.data(), &connections);
+    HostControl::SetPluginContainer(&container);
+    OpenWindow(m_plugins.data());
+    Child<QListWidget>("overviewList")->setCurrentRow(0);
+    Trigger("detailsAction");
+    if (shown == "not listed") {
+        WriteUserFile(QLatin1String("Priority.xml"), OrderFile::Document(Listed(QLatin1String("Office"))));
+        m_window->Refresh();
+    } else if (shown == "not turned off") {
+        Child<QCheckBox>("byItselfBox")->click();
+        connections.outcome.stage = OrderOutcome::StageOrderFailed;
+        m_window->Refresh();
+    }
+    Visit();
+    m_window.reset();
+    HostControl::SetPluginContainer(m_plugins.data());
+}
+
+void Screens::ShowForgetting(const char *what)
+{
+    const QByteArray shown(what);
+    FakeConnections connections;
+    FillWithProfiles(shown == "several" || shown == "some" ? 2 : 1, &connections);
+    if (shown == "several") {
+        connections.told.active << ConnectionOf(QLatin1String("Home"), StageConnected, true);
+    } else if (shown == "menu, not saved") {
+        connections.told.profiles.clear();
+    } else if (shown == "menu, not known") {
+        connections.told.state.source = ConnectionState::SourceNotKnown;
+    }
+    WriteUserFile(QLatin1String("Priority.xml"), OrderFile::Document(Listed(QLatin1String("Home, Office"))));
+    WithConnections container(m_plugins.data(), &connections);
+    HostControl::SetPluginContainer(&container);
+    OpenWindow(m_plugins.data());
+    Child<QListWidget>("overviewList")->setCurrentRow(0);
+    if (shown.startsWith("menu")) {
+        Child<QMenu>("editMenu")->popup(m_window->pos());
+    } else {
+        Trigger("forgetAction");
+    }
+    if (shown == "stays") {
+        QDir().mkdir(PrivateFile::TemporaryPath(UserPath(QLatin1String("Priority.xml"))));
+    }
+    connections.attempt.stage = shown == "under way"                  ? StageForgetting
+                                : shown == "done" || shown == "stays" ? StageForgotten
+                                                                      : StageFailed;
+    connections.attempt.failure = shown == "no answer" ? FailureSource : FailureNotAllowed;
+    connections.attempts[2].stage = StageForgotten;
+    if (!shown.isEmpty() && shown != "several" && !shown.startsWith("menu")) {
+        Click("forgetButton");
+    }
+    Visit();
+    if (shown.startsWith("menu")) {
+        Child<QMenu>("editMenu")->close();
+    }
     m_window.reset();
     HostControl::SetPluginContainer(m_plugins.data());
 }

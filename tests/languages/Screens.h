@@ -61,6 +61,8 @@ private:
     void ShowUnopenedList(const char *);
     void ShowRangeUnknown(const char *listFile);
     void ShowConnections(const char *what);
+    void ShowDetails(const char *what);
+    void ShowForgetting(const char *what);
     void ShowListNotHandedOut(const char *folder);
     void ShowTrace(const char *);
     void ShowTraceSearch(const char *text);

@@ -701,6 +701,10 @@ QDBusMessage FakeNetworkManager::AnswerOfProfile(const QDBusMessage &call)
     if (m_settings.contains(path) && call.member() == "GetSettings") {
         return call.createReply(QVariant::fromValue(WithoutKeys(m_settings.value(path))));
     }
+    if (m_settings.contains(path) && call.member() == "Delete") {
+        TakeAway(path);
+        return call.createReply();
+    }
     const QVariant version = VersionOf(path);
     if (m_settings.contains(path) && call.member() == "GetSecrets") {
         if (version.isValid()) {

@@ -5,6 +5,8 @@
 
 #include <NetworkManagerResult.h>
 
+#include <IConnectionPlugin.h>
+#include <IOrderPlugin.h>
 #include <IPriorityPlugin.h>
 #include <IWLANUIPlugin.h>
 #include <PluginObjects.h>
@@ -94,6 +96,8 @@ private slots:
     void ProfileMadeInTheDialogAppearsInNmcli();
     void EntriesWithoutAProfileTakeNoPriority();
     void NothingButThePriorityIsWritten();
+    void ForgottenProfileIsGoneAndNoOtherIsTouched();
+    void NothingButConnectingByItselfIsWritten();
     void KeyThatTheDesktopKeepsStaysThere();
     void EditsOfAnotherProgramSurviveChangesOfTheList();
     void KilledNetworkManagerIsToldAndTheNextOneUsed();
@@ -112,6 +116,7 @@ private slots:
 private:
     void SetList(const QStringList &names) { m_dashboard->SetList(names); }
     static IWLANUIPlugin *Wlan() { return PluginObjects::Wlan(); }
+    static ConnectionProfile ProfileNamed(const QString &name);
     /** -1 when they can't be told. */
     static int RememberedCount();
     template <typename Widget> Widget *Find(const char *name) { return m_dashboard->Find<Widget>(name); }
@@ -171,6 +176,16 @@ int tst_networkmanagerdaemon::RememberedCount()
 {
     QList<RememberedList> list;
     return Wlan()->GetRememberedList(&list) == 0 ? list.size() : -1;
+}
+
+/** Empty fields when there is none. */
+ConnectionProfile tst_networkmanagerdaemon::ProfileNamed(const QString &name)
+{
+    QList<ConnectionProfile> profiles;
+    PluginObjects::Connecting()->GetProfiles(&profiles);
+    const auto found = std::find_if(profiles.constBegin(), profiles.constEnd(),
+                                    [&](const ConnectionProfile &one) { return one.name == name; });
+    return found == profiles.constEnd() ? ConnectionProfile() : *found;
 }
 
 QStringList tst_networkmanagerdaemon::Order()
@@ -347,6 +362,38 @@ void tst_networkmanagerdaemon::NothingButThePriorityIsWritten()
     QCOMPARE(OtherLines(m_daemon->Keyfile("A")), OtherLines(before));
     SetList(QStringList());
     QTRY_COMPARE(NetworkManagerDaemon::Priorities(), QStringList("A:0"));
+    QCOMPARE(m_daemon->Keyfile("A"), before);
+}
+
+void tst_networkmanagerdaemon::ForgottenProfileIsGoneAndNoOtherIsTouched()
+{
+    const QStringList key = QString("wifi-sec.key-mgmt|wpa-psk|wifi-sec.psk|open sesame").split('|');
+    QVERIFY(NetworkManagerDaemon::Add("A", key));
+    QVERIFY(NetworkManagerDaemon::Add("Other", key));
+    const QByteArray before = m_daemon->Keyfile("Other");
+    QTRY_VERIFY(!ProfileNamed("A").id.isEmpty());
+    IConnectionPlugin *connections = PluginObjects::Connecting();
+    const int number = connections->Forget(ProfileNamed("A").id, ProfileNamed("A").lastingId);
+    ConnectAttempt attempt;
+    QTRY_COMPARE((connections->GetAttempt(number, &attempt), attempt.stage), int(StageForgotten));
+    QVERIFY(ProfileNamed("A").id.isEmpty());
+    QCOMPARE(m_daemon->Keyfiles().size(), 1);
+    QCOMPARE(m_daemon->Keyfile("Other"), before);
+}
+
+void tst_networkmanagerdaemon::NothingButConnectingByItselfIsWritten()
+{
+    QVERIFY(NetworkManagerDaemon::Add(
+        "A",
+        QString("wifi-sec.key-mgmt|wpa-psk|wifi-sec.psk|open sesame|connection.metered|yes").split('|')));
+    const QByteArray before = m_daemon->Keyfile("A");
+    for (const bool isOn : {false, true}) {
+        QTRY_COMPARE(ProfileNamed("A").connectsByItself, !isOn);
+        PluginObjects::Ordering()->SetConnectsByItself(ProfileNamed("A").id, isOn);
+        QTRY_COMPARE(ProfileNamed("A").connectsByItself, isOn);
+        QByteArray now = m_daemon->Keyfile("A");
+        QCOMPARE(now.replace("autoconnect=false\n", ""), before);
+    }
     QCOMPARE(m_daemon->Keyfile("A"), before);
 }
 

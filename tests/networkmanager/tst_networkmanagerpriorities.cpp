@@ -71,6 +71,7 @@ private slots:
     void ProfilesOutsideTheListAreLeftAlone();
     void EntryThatLeavesGetsItsFormerPriority();
     void WhatAnotherProgramOfTheUserHasDoneIsSetBackToo();
+    void NothingStaysKnownOfAForgottenProfile();
     void ProgramsOfOneUserWorkInTurns();
     void ForeignPriorityIsNotSetBack();
     void ForeignPriorityAgainstTheListIsSetRightOnce_data();
@@ -547,6 +548,24 @@ void tst_networkmanagerpriorities::WhatAnotherProgramOfTheUserHasDoneIsSetBackTo
     QCOMPARE(Fake().PriorityOf(a), 999);
     SetList("B");
     QTRY_COMPARE(Fake().PriorityOf(a), 12);
+}
+
+void tst_networkmanagerpriorities::NothingStaysKnownOfAForgottenProfile()
+{
+    const QString b = AddProfile("B", 0);
+    AddProfile("A", 0);
+    Begin("A B");
+    QTRY_VERIFY(Fake().PriorityOf(b) > 0);
+    WaitUntilNothingIsAsked();
+    const QByteArray records = Directory().Read("NetworkManager.ini");
+    const ConnectionProfile a = LoadedWLAN::ConnectionProfileNamed("A");
+    const QByteArray uuid = a.lastingId.toLatin1();
+    // What it had before, and what the list has left.
+    QCOMPARE(records.count(uuid), 2);
+    LoadedWLAN::Connections()->Forget(a.id, a.lastingId);
+    QTRY_VERIFY(!Directory().Read("NetworkManager.ini").contains(uuid));
+    const QByteArray other = LoadedWLAN::ConnectionProfileNamed("B").lastingId.toLatin1();
+    QVERIFY(Directory().Read("NetworkManager.ini").contains(other));
 }
 
 void tst_networkmanagerpriorities::ProgramsOfOneUserWorkInTurns()

@@ -69,6 +69,9 @@ private slots:
     void WrongKeyLeavesNoProfile();
     void OrderIsRefused();
     void KnownNetworkIsJoinedByItsProfile();
+    void ForgottenProfileIsGoneAlone();
+    void ReadOnlyProfileIsNotForgotten();
+    void ProfileIsForgottenByAllOfItsId();
 
 private:
     QObject *Service() const;
@@ -360,6 +363,38 @@ void StoredConnectionsTest::KnownNetworkIsJoinedByItsProfile()
 {
     const int attempt = Connections()->ConnectNetwork("OfficeNet", QString());
     QCOMPARE(Attempt(attempt).profileId, QString("1 Office"));
+}
+
+void StoredConnectionsTest::ForgottenProfileIsGoneAlone()
+{
+    const QList<ConnectionProfile> before = Profiles();
+    const int connecting = Connections()->ConnectProfile("1 Office");
+    const int number = Connections()->Forget("1 Office", QString());
+    QCOMPARE(Attempt(number).stage, int(StageForgotten));
+    QCOMPARE(Attempt(connecting).stage, int(StageCancelled));
+    QVERIFY(Active().isEmpty());
+    QCOMPARE(Profiles().size(), before.size() - 1);
+    QVERIFY(!ProfilesFile().contains("profileName=\"Office\""));
+    QCOMPARE(Connections()->Forget("1 Office", QString()), int(IConnectionPlugin::RefusedUnknown));
+}
+
+void StoredConnectionsTest::ReadOnlyProfileIsNotForgotten()
+{
+    QByteArray readOnly = ProfilesFile();
+    StoredFixture::Write(m_files->ProfilesPath(),
+                         readOnly.replace("profileName='Office'", "profileName='Office' readOnly='true'"));
+    ProfileDetails details;
+    Connections()->GetProfileDetails("1 Office", &details);
+    QCOMPARE(details.change, int(ProfileDetails::ChangeNotAllowed));
+    QCOMPARE(Connections()->Forget("1 Office", QString()), int(IConnectionPlugin::RefusedNotAllowed));
+    QCOMPARE(ProfilesFile(), readOnly);
+}
+
+void StoredConnectionsTest::ProfileIsForgottenByAllOfItsId()
+{
+    const QByteArray before = ProfilesFile();
+    QCOMPARE(Connections()->Forget("1 Office", "another one"), int(IConnectionPlugin::RefusedUnknown));
+    QCOMPARE(ProfilesFile(), before);
 }
 
 QTEST_GUILESS_MAIN(StoredConnectionsTest)

@@ -11,6 +11,8 @@
 #include <QDBusObjectPath>
 #include <QDBusPendingCallWatcher>
 
+#include <algorithm>
+
 namespace
 {
 
@@ -106,11 +108,23 @@ int CConnectAttempts::Disconnect(const ActiveConnection &connection)
     return Begin(attempt, call);
 }
 
+int CConnectAttempts::Forget(const ConnectionProfile &profile)
+{
+    Attempt attempt;
+    attempt.told.name = profile.name;
+    attempt.told.profileId = profile.id;
+    attempt.told.stage = StageForgetting;
+    attempt.isToForget = true;
+    attempt.lastingId = profile.lastingId;
+    return Begin(attempt, CNetworkManagerClient::Call(profile.id, CNetworkManagerClient::ProfileInterface(),
+                                                      QLatin1String("Delete")));
+}
+
 int CConnectAttempts::Begin(const Attempt &attempt, const QDBusMessage &call)
 {
     const int number = static_cast<int>(m_attempts.size()) + 1;
     m_attempts.insert(number, attempt);
-    if (!attempt.isToEnd) {
+    if (attempt.told.stage == StageNotKnown) {
         m_attempts[number].told.stage = StagePreparing;
     }
     Send(number, call);
@@ -132,7 +146,8 @@ void CConnectAttempts::Cancel(int number)
         return;
     }
     Attempt &attempt = m_attempts[number];
-    if (!IsUnderWay(attempt) || attempt.isToEnd || attempt.isCancelled || attempt.isBeingStored) {
+    if (!IsUnderWay(attempt) || attempt.isToEnd || attempt.isToForget || attempt.isCancelled ||
+        attempt.isBeingStored) {
         return;
     }
     attempt.isCancelled = true;
@@ -163,11 +178,13 @@ void CConnectAttempts::TakeReply(QDBusPendingCallWatcher *watcher)
     const char *signature = attempt.isNew ? "ooa{sv}" : "o";
     if (attempt.isBeingStored) {
         signature = ProfileUpdate::signature;
-    } else if (attempt.isToEnd) {
+    } else if (attempt.isToEnd || attempt.isToForget) {
         signature = "";
     }
     const NetworkManagerResult result = ResultOf(reply, signature);
-    if (attempt.isBeingStored) {
+    if (attempt.isToForget) {
+        TakeForgetting(number, result);
+    } else if (attempt.isBeingStored) {
         End(number, StageConnected, result == NetworkManagerResultSuccess ? FailureNone : FailureNotStored);
     } else if (result != NetworkManagerResultSuccess) {
         m_client->Note(result);
@@ -177,6 +194,28 @@ void CConnectAttempts::TakeReply(QDBusPendingCallWatcher *watcher)
         Follow(number);
     } else {
         TakeConnection(number, reply);
+    }
+}
+
+/** A call that is not answered does not tell of NetworkManager: somebody may still be asked for a password.
+ */
+void CConnectAttempts::TakeForgetting(int number, NetworkManagerResult result)
+{
+    const Attempt attempt = m_attempts.value(number);
+    // NetworkManager tells that a profile is gone before it answers. Somebody else may have deleted it, too.
+    const ConnectionPicture &picture = m_picture->Now();
+    const bool isThere = std::any_of(
+        picture.profiles.constBegin(), picture.profiles.constEnd(),
+        [&attempt](const NetworkProfile &profile) { return profile.path == attempt.told.profileId; });
+    if (!IsUnderWay(m_attempts.value(number))) {
+        return;
+    }
+    if (result == NetworkManagerResultSuccess ||
+        (picture.source == ConnectionState::SourceKnown && !isThere)) {
+        emit Forgotten(attempt.lastingId);
+        End(number, StageForgotten, FailureNone);
+    } else {
+        End(number, StageFailed, FailureOf(result));
     }
 }
 
@@ -330,5 +369,6 @@ QList<int> CConnectAttempts::NumbersUnderWay() const
 bool CConnectAttempts::IsUnderWay(const Attempt &attempt)
 {
     const int stage = attempt.told.stage;
-    return stage != StageNotKnown && stage != StageConnected && stage < StageDisconnected;
+    return stage == StageForgetting ||
+           (stage != StageNotKnown && stage != StageConnected && stage < StageDisconnected);
 }

@@ -17,7 +17,7 @@ class CNetworkManagerClient;
 class QDBusMessage;
 class QDBusPendingCallWatcher;
 
-/** The orders to connect and to disconnect, from their beginning to what they came to. */
+/** The orders to connect, to disconnect and to forget, from their beginning to what they came to. */
 class CConnectAttempts : public QObject
 {
     Q_OBJECT
@@ -42,6 +42,8 @@ public:
 
     int Disconnect(const ActiveConnection &connection);
 
+    int Forget(const ConnectionProfile &profile);
+
     /** Of an unknown number: nothing known. */
     ConnectAttempt Result(int number) const { return m_attempts.value(number).told; }
 
@@ -52,6 +54,9 @@ signals:
 
     /** NetworkManager has taken an order to connect, and made this connection for it. */
     void Taken(const QString &connection);
+
+    /** A profile is gone as it was ordered. */
+    void Forgotten(const QString &lastingId);
 
 private slots:
     void TakeReply(QDBusPendingCallWatcher *watcher);
@@ -68,6 +73,8 @@ private:
         QString connection;
         bool isNew = false;
         bool isToEnd = false;
+        bool isToForget = false;
+        QString lastingId;
         bool isCancelled = false;
         bool isBeingStored = false;
     };
@@ -81,6 +88,7 @@ private:
     void Send(int number, const QDBusMessage &call);
     void TakeConnection(int number, const QDBusMessage &reply);
     void TakeEnding(int number);
+    void TakeForgetting(int number, NetworkManagerResult result);
     void TakeRefusal(int number, NetworkManagerResult result);
     void Follow(int number);
     void Store(int number);

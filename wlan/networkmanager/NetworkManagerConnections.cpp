@@ -1,5 +1,6 @@
 #include "NetworkManagerConnections.h"
 
+#include "DetailsOfProfile.h"
 #include "HandConnections.h"
 #include "LivePicture.h"
 #include "NetworkManagerClient.h"
@@ -54,6 +55,7 @@ CNetworkManagerConnections::CNetworkManagerConnections(CNetworkManagerClient *cl
     connect(m_picture, SIGNAL(AboutToAskForSign()), this, SLOT(LookWhoWatches()));
     connect(&m_attempts, SIGNAL(Changed()), this, SLOT(TellSoon()));
     connect(&m_attempts, &CConnectAttempts::Taken, this, &HandConnections::Note);
+    connect(&m_attempts, &CConnectAttempts::Forgotten, this, &CNetworkManagerConnections::ProfileForgotten);
     connect(client, &CNetworkManagerClient::Vanished, this, &HandConnections::Forget);
 }
 
@@ -221,4 +223,26 @@ void CNetworkManagerConnections::GetAttempt(int attempt, ConnectAttempt *result)
 void CNetworkManagerConnections::CancelAttempt(int attempt)
 {
     m_attempts.Cancel(attempt);
+}
+
+void CNetworkManagerConnections::GetProfileDetails(const QString &profileId, ProfileDetails *details)
+{
+    if (details) {
+        *details = DetailsOfProfile::Find(m_picture->Now(), profileId);
+    }
+}
+
+int CNetworkManagerConnections::Forget(const QString &profileId, const QString &lastingId)
+{
+    if (m_picture->Records().state.source != ConnectionState::SourceKnown) {
+        return RefusedSource;
+    }
+    const ConnectionProfile *found = Find(m_picture->Records().profiles, profileId);
+    // Paths begin anew with another NetworkManager, and may then be those of other profiles.
+    if (!found || found->lastingId != lastingId) {
+        return RefusedUnknown;
+    }
+    const ConnectionProfile profile = *found;
+    const int change = DetailsOfProfile::Find(m_picture->Now(), profileId).change;
+    return change == ProfileDetails::ChangeNotAllowed ? int(RefusedNotAllowed) : m_attempts.Forget(profile);
 }

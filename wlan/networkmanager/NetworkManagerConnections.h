@@ -32,10 +32,15 @@ public:
     int Disconnect(const QString &connectionId) override;
     void GetAttempt(int attempt, ConnectAttempt *result) override;
     void CancelAttempt(int attempt) override;
+    void GetProfileDetails(const QString &profileId, ProfileDetails *details) override;
+    int Forget(const QString &profileId, const QString &lastingId) override;
 
 signals:
     void OnConnectionsChanged();
     void OnProfilesChanged();
+
+    /** By an order of this program. */
+    void ProfileForgotten(const QString &lastingId);
 
 protected:
     void connectNotify(const QMetaMethod &signal) override;

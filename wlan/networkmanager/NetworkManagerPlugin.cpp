@@ -54,6 +54,7 @@ bool CNetworkManagerPlugin::Init()
     connect(m_service, &CNetworkManagerWLANService::ProfileEnded, this, &CNetworkManagerPlugin::NoteFailure);
     m_connections = new CNetworkManagerConnections(m_client, m_picture, nullptr);
     m_keeper = new CPriorityKeeper(m_client, m_picture, UserData::Directory(), nullptr);
+    connect(m_connections, &CNetworkManagerConnections::ProfileForgotten, m_keeper, &CPriorityKeeper::Forget);
     m_order = new CNetworkManagerOrder(m_client, m_picture, m_keeper, nullptr);
     m_follower = new CListFollower(m_client, m_picture, nullptr);
     return true;

@@ -77,6 +77,7 @@ NetworkDevice ReadDevice(const QString &path, const NMVariantMapMap &interfaces)
     device.state = Number(common, "State", NM_DEVICE_STATE_DISCONNECTED);
     device.reason = Number(common, "StateReason");
     device.activeConnection = Path(common, "ActiveConnection");
+    device.metered = Number(common, "Metered");
     if (interfaces.contains(CNetworkManagerClient::WirelessDeviceInterface())) {
         ReadWifi(interfaces.value(CNetworkManagerClient::WirelessDeviceInterface()), common, &device);
     } else if (interfaces.contains(CNetworkManagerClient::ModemInterface())) {

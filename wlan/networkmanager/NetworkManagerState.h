@@ -51,6 +51,8 @@ struct NetworkDevice {
     QString activeConnection;
     /** Of a modem. */
     QString modemId;
+    /** Whether what goes through it is paid for, as NetworkManager takes it; 0: not known. */
+    unsigned int metered = 0;
 
     bool IsManaged() const;
     /** NetworkManager could connect it. */

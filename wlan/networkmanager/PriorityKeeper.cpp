@@ -96,6 +96,21 @@ void CPriorityKeeper::Trigger()
     }
 }
 
+void CPriorityKeeper::Forget(const QString &uuid)
+{
+    m_forgotten.insert(uuid);
+    Trigger();
+}
+
+void CPriorityKeeper::DropForgotten()
+{
+    for (const QString &uuid : std::as_const(m_forgotten)) {
+        m_records.Forget(uuid);
+    }
+    m_forgotten.clear();
+    SaveRecords();
+}
+
 void CPriorityKeeper::BeginTurn()
 {
     m_isTurnNew = true;
@@ -159,6 +174,7 @@ void CPriorityKeeper::Compare()
         End();
         return;
     }
+    DropForgotten();
     emit Begun();
     IPriorityPlugin *priority = Priority();
     QList<PriorityList> list;

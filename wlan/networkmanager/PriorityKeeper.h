@@ -50,6 +50,9 @@ public slots:
     /** Has the two compared soon. */
     void Trigger();
 
+    /** Has all that is known of a profile forgotten, which is gone for good. */
+    void Forget(const QString &uuid);
+
 signals:
     /** A comparison begins. It ends with Ended, perhaps before this call is over. */
     void Begun();
@@ -69,6 +72,7 @@ private:
     Q_DISABLE_COPY(CPriorityKeeper)
 
     void Compare();
+    void DropForgotten();
     bool ReadList(IPriorityPlugin *priority, QList<PriorityList> *list);
     bool AddFirstConnections(IPriorityPlugin *priority, const ConnectionPicture &picture,
                              const QList<PriorityList> &list);
@@ -102,6 +106,8 @@ private:
     /** What this comparison leaves, and of which list; see PriorityTurn. */
     QMap<QString, int> m_left;
     QString m_list;
+    /** Profiles, by their uuids, that the records are still to lose. */
+    QSet<QString> m_forgotten;
     bool m_isTurnNew;
     /** For the picture to be complete. */
     bool m_isWaiting;

@@ -215,6 +215,16 @@ void CPriorityRecords::Note()
     m_isConnectedSaved = isConnectedKnown;
 }
 
+void CPriorityRecords::Forget(const QString &uuid)
+{
+    priorities.remove(uuid);
+    connected.remove(uuid);
+    told.remove(uuid);
+    turn.left.remove(uuid);
+    turn.before.remove(uuid);
+    turn.yielded.remove(uuid);
+}
+
 bool CPriorityRecords::Save()
 {
     if (m_file.isEmpty() ||

@@ -60,6 +60,9 @@ public:
 
     PriorityTurn turn;
 
+    /** Loses all that is known of a profile: one that is made again with its uuid is another one. */
+    void Forget(const QString &uuid);
+
     /** Writes the file if anything has changed; false when it can't be written. */
     bool Save();
 

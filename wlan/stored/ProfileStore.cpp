@@ -206,6 +206,37 @@ public:
         return Write(profiles);
     }
 
+    WLANResult Remove(const QString &type, const QString &name)
+    {
+        if (m_directory.isEmpty()) {
+            return ComplainOfDirectory();
+        }
+        const DirectoryLock lock(m_directory, DirectoryLock::Changing);
+        if (lock.IsRefused()) {
+            return ComplainOfLock();
+        }
+        QList<StoredProfile> profiles;
+        const WLANResult result = ReadOrMakeLocked(&profiles);
+        if (result != WLANResultSuccess) {
+            return result;
+        }
+        QList<int> places;
+        for (int i = 0; i < profiles.size(); ++i) {
+            if (profiles.at(i).type == type && profiles.at(i).profile.profileName == name) {
+                places.append(i);
+            }
+        }
+        if (places.isEmpty()) {
+            return WLANResultUnknownName;
+        }
+        if (places.size() > 1) {
+            return Complain(WLANResultSeveralProfiles,
+                            QLatin1String("several profiles have that name, none of them is removed"));
+        }
+        profiles.removeAt(places.constFirst());
+        return Write(profiles);
+    }
+
 private:
     Q_DISABLE_COPY(ProfileFile)
 
@@ -332,6 +363,15 @@ WLANResult CProfileStore::Store(const WLANProfile &profile, QString *better)
             ? file.Complain(WLANResultEmptyName, QLatin1String("a profile without a name is not stored"))
             : file.Store(profile, better);
     // A refused change is told every time: it is an answer to somebody.
+    m_complaints.Forget();
+    m_complaints.Tell(file.Complaints());
+    return result;
+}
+
+WLANResult CProfileStore::Remove(const QString &type, const QString &name)
+{
+    ProfileFile file;
+    const WLANResult result = file.Remove(type, name);
     m_complaints.Forget();
     m_complaints.Tell(file.Complaints());
     return result;

@@ -37,6 +37,9 @@ public:
      */
     WLANResult Store(const WLANProfile &profile, QString *better);
 
+    /** Removes the profile of that kind and name; its key is not in the file any more. */
+    WLANResult Remove(const QString &type, const QString &name);
+
 private:
     CComplaintLog m_complaints{"WLANStored"};
 };

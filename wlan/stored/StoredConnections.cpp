@@ -96,6 +96,12 @@ bool IsComingUp(int stage)
     return stage >= StagePreparing && stage < StageConnected;
 }
 
+int ChangeOf(const StoredProfile &stored)
+{
+    return stored.profile.readOnly == QLatin1String("true") ? ProfileDetails::ChangeNotAllowed
+                                                            : ProfileDetails::ChangeAllowed;
+}
+
 bool IsUpBefore(const ActiveConnection &left, const ActiveConnection &right)
 {
     return left.stage == StageConnected && right.stage != StageConnected;
@@ -420,4 +426,65 @@ void CStoredConnections::CancelAttempt(int attempt)
         m_active.remove(m_orders.value(attempt).type);
         Change();
     }
+}
+
+const StoredProfile *CStoredConnections::Find(const Files &files, const QString &profileId) const
+{
+    for (const StoredProfile &stored : files.profiles) {
+        if (IdOf(stored) == profileId) {
+            return &stored;
+        }
+    }
+    return nullptr;
+}
+
+void CStoredConnections::GetProfileDetails(const QString &profileId, ProfileDetails *details)
+{
+    if (!details) {
+        return;
+    }
+    *details = ProfileDetails();
+    const Files files = Read();
+    if (const StoredProfile *stored = Find(files, profileId)) {
+        details->id = profileId;
+        details->change = ChangeOf(*stored);
+    }
+}
+
+int CStoredConnections::Forget(const QString &profileId, const QString &lastingId)
+{
+    const Files files = Read();
+    if (!files.areRead) {
+        return RefusedSource;
+    }
+    const StoredProfile *stored = Find(files, profileId);
+    if (!stored || !lastingId.isEmpty()) {
+        return RefusedUnknown;
+    }
+    if (ChangeOf(*stored) == ProfileDetails::ChangeNotAllowed) {
+        return RefusedNotAllowed;
+    }
+    Order order;
+    order.told.name = stored->profile.profileName;
+    order.told.profileId = profileId;
+    order.told.stage = StageForgotten;
+    if (m_profiles.Remove(stored->type, stored->profile.profileName) != WLANResultSuccess) {
+        order.told.stage = StageFailed;
+        order.told.failedStage = StageForgetting;
+        order.told.failure = FailureOther;
+    } else {
+        const QList<QString> types = m_active.keys();
+        for (const QString &type : types) {
+            const int active = m_active.value(type);
+            if (m_orders.value(active).told.profileId == profileId) {
+                CancelAttempt(active);
+                m_active.remove(type);
+            }
+        }
+        m_failures.remove(profileId);
+    }
+    const int number = static_cast<int>(m_orders.size()) + 1;
+    m_orders.insert(number, order);
+    Change();
+    return number;
 }

@@ -39,6 +39,10 @@ public:
     int Disconnect(const QString &connectionId) override;
     void GetAttempt(int attempt, ConnectAttempt *result) override;
     void CancelAttempt(int attempt) override;
+    void GetProfileDetails(const QString &profileId, ProfileDetails *details) override;
+
+    /** Has come to its end when it answers. */
+    int Forget(const QString &profileId, const QString &lastingId) override;
 
 signals:
     void OnConnectionsChanged();
@@ -69,6 +73,7 @@ private:
     };
 
     Files Read();
+    const StoredProfile *Find(const Files &files, const QString &profileId) const;
     int Begin(const Order &order);
     void Move(Order *order);
     void Change();

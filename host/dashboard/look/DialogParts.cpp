@@ -51,6 +51,11 @@ QFont DialogParts::Scaled(const QFont &font, qreal factor)
     return scaled;
 }
 
+Qt::Alignment DialogParts::Beginning(const QWidget *widget)
+{
+    return (widget->isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute;
+}
+
 QLabel *DialogParts::Label(const char *name)
 {
     return new WrappedLabel(name);

@@ -20,6 +20,9 @@ int ForFont(int pixels);
 /** A font of another size; one whose size is given in pixels stays as it is. */
 QFont Scaled(const QFont &font, qreal factor);
 
+/** Where lines begin in a widget, for a text that stays there in whichever direction it reads itself. */
+Qt::Alignment Beginning(const QWidget *widget);
+
 /** Plain text over as many lines as it needs. */
 QLabel *Label(const char *name);
 

@@ -58,3 +58,14 @@ bool Connections::IsComingUp(int stage)
 {
     return stage == StagePreparing || stage == StageAuthenticating || stage == StageGettingAddress;
 }
+
+QList<ConnectionProfile> Connections::ProfilesOf(const PriorityList &entry) const
+{
+    QList<ConnectionProfile> found;
+    for (const ConnectionProfile &profile : profiles) {
+        if (profile.type == entry.type && profile.name == entry.name) {
+            found.append(profile);
+        }
+    }
+    return found;
+}

@@ -31,6 +31,9 @@ struct Connections {
 
     static bool IsComingUp(int stage);
 
+    /** The profiles that the entry means. */
+    QList<ConnectionProfile> ProfilesOf(const PriorityList &entry) const;
+
     /** The entries that mean the profiles, in the order of these, each once. */
     QList<PriorityList> Remembered() const;
 };

@@ -16,6 +16,7 @@
 #include <OrdinaryFile.h>
 #include <PrivateFile.h>
 
+#include <QAccessible>
 #include <QAction>
 #include <QDir>
 #include <QFileDialog>
@@ -126,7 +127,19 @@ void ListActions::Update()
     m_export->setEnabled(exportObstacle.isNull());
     SetHelp(m_export, exportObstacle.isNull() ? DashboardText("IDS_EXPORT_HINT") : exportObstacle);
     if (m_lastChange) {
-        m_lastChange->SetFullText(ListKeeperText::LastChange(*m_keeper));
+        const QString lastChange = ListKeeperText::LastChange(*m_keeper);
+        m_lastChange->SetFullText(m_told.isEmpty() || m_toldOf != lastChange ? lastChange : m_told);
+    }
+}
+
+void ListActions::Tell(const QString &text)
+{
+    m_told = text;
+    m_toldOf = ListKeeperText::LastChange(*m_keeper);
+    Update();
+    if (m_lastChange) {
+        QAccessibleEvent event(m_lastChange, QAccessible::Alert);
+        QAccessible::updateAccessibility(&event);
     }
 }
 

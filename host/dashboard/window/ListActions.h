@@ -42,6 +42,9 @@ public:
 
     void Retranslate();
 
+    /** Says at the foot what was done, more than the change of the list, until the list changes again. */
+    void Tell(const QString &text);
+
 public slots:
     void Update();
     void Undo();
@@ -71,6 +74,9 @@ private:
     /** Makes the networks that this computer remembers the list, in the order in which they are used. */
     QAction *m_takeOver;
     QPointer<ElidedLabel> m_lastChange;
+    QString m_told;
+    /** The last change when it was told. */
+    QString m_toldOf;
     QPointer<RestoreDialog> m_restoreDialog;
     QPointer<ImportDialog> m_importDialog;
 };

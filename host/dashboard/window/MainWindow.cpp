@@ -5,6 +5,7 @@
 #include "ListActions.h"
 #include "ListGuard.h"
 #include "MessagePage.h"
+#include "NetworkActions.h"
 #include "RuledDialog.h"
 #include "WindowProblems.h"
 
@@ -91,8 +92,8 @@ MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLo
     : m_plugins(plugins), m_language(language), m_languageProblems(HostControl::LanguageProblems()),
       m_watcher(UserData::FilePath(QLatin1String("Priority.xml")), nullptr),
       m_keeper(new ListKeeper(UserData::Directory(), &m_source, this)),
-      m_listActions(new ListActions(m_keeper, this)), m_guard(new ListGuard(m_keeper, this)),
-      m_refreshTimer(new QTimer(this))
+      m_listActions(new ListActions(m_keeper, this)), m_networkActions(new NetworkActions(m_keeper, this)),
+      m_guard(new ListGuard(m_keeper, this)), m_refreshTimer(new QTimer(this))
 {
     setObjectName(QLatin1String("mainWindow"));
     new AccessibleRows(this);
@@ -124,6 +125,8 @@ MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLo
     // Not at a single click, which is what some desktops take for opening.
     connect(m_list, &QListWidget::itemDoubleClicked, this, &MainWindow::ConnectEntry);
     m_list->installEventFilter(this);
+    connect(m_list, &QListWidget::currentRowChanged, this,
+            [this](int row) { m_networkActions->Choose(m_overview, row); });
     m_body = new QStackedWidget;
     m_body->setObjectName(QLatin1String("body"));
     m_body->addWidget(m_list);
@@ -188,6 +191,9 @@ void MainWindow::CreateMenus()
     m_quitAction->setShortcut(QKeySequence(QLatin1String("Ctrl+Q")));
     m_listActions->FillMenu(m_editMenu);
     m_editMenu->addSeparator();
+    m_networkActions->FillMenu(m_editMenu);
+    m_editMenu->addSeparator();
+    connect(m_networkActions, &NetworkActions::Told, m_listActions, &ListActions::Tell);
     m_settingsAction = m_editMenu->addAction(QString(), this, SLOT(OpenSettings()));
     m_settingsAction->setObjectName(QLatin1String("settingsAction"));
     m_settingsAction->setShortcut(QKeySequence(QLatin1String("Ctrl+,")));
@@ -340,6 +346,8 @@ void MainWindow::Show()
     ShowList();
     ShowRuled();
     ShowNote();
+    m_networkActions->Choose(m_overview, m_list->currentRow());
+    m_networkActions->Show(m_overview);
 }
 
 void MainWindow::ShowRuled()
@@ -461,9 +469,13 @@ void MainWindow::resizeEvent(QResizeEvent *event)
 bool MainWindow::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == m_list && event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent *>(event)->key();
-        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-            ConnectEntry();
+        const QKeyEvent *press = static_cast<QKeyEvent *>(event);
+        if (press->key() == Qt::Key_Return || press->key() == Qt::Key_Enter) {
+            if (press->modifiers() & Qt::ControlModifier) {
+                ConnectEntry();
+            } else {
+                m_networkActions->OpenDetails();
+            }
             return true;
         }
     }

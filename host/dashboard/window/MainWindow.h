@@ -20,6 +20,7 @@ class ListActions;
 class ListGuard;
 class ListKeeper;
 class MessagePage;
+class NetworkActions;
 class PluginHost;
 struct KnownPlugin;
 class QAction;
@@ -102,6 +103,7 @@ private:
     PluginList m_source;
     ListKeeper *m_keeper;
     ListActions *m_listActions;
+    NetworkActions *m_networkActions;
     ListGuard *m_guard;
     QTimer *m_refreshTimer;
     bool m_isRefreshing = false;

@@ -3,10 +3,7 @@
 #include <DashboardText.h>
 #include <DialogParts.h>
 #include <ElidedLabel.h>
-#include <IOrderPlugin.h>
 #include <ListChangeText.h>
-#include <OverviewText.h>
-#include <PluginObjects.h>
 #include <TextButton.h>
 #include <WrappedLabel.h>
 
@@ -94,7 +91,11 @@ void RuledDialog::Show(const QList<PlaceWithoutEffect> &places, bool isForThisWi
         shown += row.title + QLatin1Char('\n') + row.reason + QLatin1Char('\n') + row.button +
                  row.place.profileId + QLatin1Char('\n');
     }
-    ShowOutcome();
+    QString problem;
+    if (m_order.TakeEnd(&problem)) {
+        m_problem->setText(problem);
+        m_problem->setVisible(!problem.isEmpty());
+    }
     // A button that has the focus keeps it while nothing has changed.
     if (shown == m_shown) {
         return;
@@ -120,8 +121,7 @@ QWidget *RuledDialog::CreateRow(const Row &row)
         QFont font = title->font();
         font.setBold(true);
         title->setFont(font);
-        // Above its reason, in whichever direction it reads itself.
-        title->setAlignment((isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute);
+        title->setAlignment(DialogParts::Beginning(this));
         title->SetFullText(row.title);
         texts->addWidget(title);
     }
@@ -151,35 +151,11 @@ QWidget *RuledDialog::CreateRow(const Row &row)
 void RuledDialog::Help(const PlaceWithoutEffect &place)
 {
     m_problem->hide();
-    IOrderPlugin *plugin = PluginObjects::Ordering();
     if (place.remedy == PlaceWithoutEffect::Connect) {
         emit ConnectWanted(place.entry.name, place.profileId);
     } else if (place.remedy == PlaceWithoutEffect::NoRemedy) {
         emit SettingsWanted();
-    } else if (plugin) {
-        m_name = place.entry.name;
-        m_order = plugin->SetConnectsByItself(place.profileId, true);
-    }
-}
-
-void RuledDialog::ShowOutcome()
-{
-    IOrderPlugin *plugin = PluginObjects::Ordering();
-    OrderOutcome outcome;
-    if (plugin && m_order > 0) {
-        plugin->GetOutcome(m_order, &outcome);
-    }
-    if (outcome.stage != OrderOutcome::StageOrderDone && outcome.stage != OrderOutcome::StageOrderFailed) {
-        return;
-    }
-    m_order = 0;
-    const bool isFailed = outcome.stage == OrderOutcome::StageOrderFailed;
-    if (isFailed || !outcome.kept.isEmpty()) {
-        const bool isAllowed = isFailed || (outcome.kept.constFirst().obstacle != ObstacleNotAllowed &&
-                                            outcome.kept.constFirst().obstacle != ObstaclePassword);
-        m_problem->setText(
-            OverviewText::NotDone("IDS_RULED_NOT_TURNED_ON", m_name,
-                                  isAllowed ? QString() : OverviewText::Failure(FailureNotAllowed)));
-        m_problem->show();
+    } else {
+        m_order.Give(place.entry.name, place.profileId, true);
     }
 }

@@ -1,6 +1,8 @@
 #ifndef RULEDDIALOG_H
 #define RULEDDIALOG_H
 
+#include "ByItselfOrder.h"
+
 #include <RuledPlaces.h>
 
 #include <QDialog>
@@ -38,8 +40,6 @@ private:
 
     QWidget *CreateRow(const Row &row);
     void Help(const PlaceWithoutEffect &place);
-    /** What has become of the wish that a profile connects by itself. */
-    void ShowOutcome();
 
     QLabel *m_text;
     QScrollArea *m_area;
@@ -47,9 +47,7 @@ private:
     QPushButton *m_closeButton;
     /** As they are shown. */
     QString m_shown;
-    /** The network that is to connect by itself, and the order for that; 0: none is open. */
-    QString m_name;
-    int m_order = 0;
+    ByItselfOrder m_order;
 };
 
 #endif

@@ -219,6 +219,9 @@ void TellConnectionInterface()
     connections.Add<int(const QString &)>("Disconnect", &IConnectionPlugin::Disconnect);
     connections.Add<void(int, ConnectAttempt *)>("GetAttempt", &IConnectionPlugin::GetAttempt);
     connections.Add<void(int)>("CancelAttempt", &IConnectionPlugin::CancelAttempt);
+    connections.Add<void(const QString &, ProfileDetails *)>("GetProfileDetails",
+                                                             &IConnectionPlugin::GetProfileDetails);
+    connections.Add<int(const QString &, const QString &)>("Forget", &IConnectionPlugin::Forget);
     connections.AddEnd();
 }
 
@@ -354,6 +357,16 @@ void TellConnectionRecords()
     attempt.Add<int>("stage", &ConnectAttempt::stage);
     attempt.Add<int>("failedStage", &ConnectAttempt::failedStage);
     attempt.Add<int>("failure", &ConnectAttempt::failure);
+
+    const Fields<ProfileDetails> details("ProfileDetails");
+    details.Add<QString>("id", &ProfileDetails::id);
+    details.Add<QString>("boundDevice", &ProfileDetails::boundDevice);
+    details.Add<int>("metered", &ProfileDetails::metered);
+    details.Add<int>("change", &ProfileDetails::change);
+    details.Add<QStringList>("users", &ProfileDetails::users);
+    details.Add<int>("priority", &ProfileDetails::priority);
+    details.Add<bool>("areUsersKnown", &ProfileDetails::areUsersKnown);
+    details.Add<bool>("isPriorityKnown", &ProfileDetails::isPriorityKnown);
 }
 
 void TellOrderRecords()
@@ -394,6 +407,19 @@ void TellOrderWords()
     TellWord("FailureOrderList", OrderOutcome::FailureOrderList);
 }
 
+void TellProfileWords()
+{
+    TellWord("MeteredNotKnown", ProfileDetails::MeteredNotKnown);
+    TellWord("MeteredYes", ProfileDetails::MeteredYes);
+    TellWord("MeteredNo", ProfileDetails::MeteredNo);
+    TellWord("MeteredGuessedYes", ProfileDetails::MeteredGuessedYes);
+    TellWord("MeteredGuessedNo", ProfileDetails::MeteredGuessedNo);
+    TellWord("ChangeNotKnown", ProfileDetails::ChangeNotKnown);
+    TellWord("ChangeAllowed", ProfileDetails::ChangeAllowed);
+    TellWord("ChangeAfterPassword", ProfileDetails::ChangeAfterPassword);
+    TellWord("ChangeNotAllowed", ProfileDetails::ChangeNotAllowed);
+}
+
 void TellConnectionWords()
 {
     TellWord("StageNotKnown", StageNotKnown);
@@ -405,6 +431,8 @@ void TellConnectionWords()
     TellWord("StageDisconnected", StageDisconnected);
     TellWord("StageFailed", StageFailed);
     TellWord("StageCancelled", StageCancelled);
+    TellWord("StageForgetting", StageForgetting);
+    TellWord("StageForgotten", StageForgotten);
     TellWord("FailureNone", FailureNone);
     TellWord("FailureOther", FailureOther);
     TellWord("FailureWrongKey", FailureWrongKey);
@@ -483,6 +511,7 @@ extern "C" Q_DECL_EXPORT const char *boundary_contracts()
     TellOrderRecords();
     TellOrderWords();
     TellConnectionWords();
+    TellProfileWords();
     TellIdentifiers();
     return facts.constData();
 }

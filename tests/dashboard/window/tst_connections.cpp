@@ -248,7 +248,7 @@ void ConnectionsTest::EntryIsConnected()
     } else {
         m_world->List()->setCurrentRow(0);
         m_world->List()->setFocus();
-        QTest::keyClick(m_world->List(), Qt::Key(key));
+        QTest::keyClick(m_world->List(), Qt::Key(key), Qt::ControlModifier);
     }
     QCOMPARE(m_world->connections->ordered, QStringList("1Home"));
 }
