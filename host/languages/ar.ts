@@ -1054,6 +1054,46 @@
         <translation>&amp;تصدير القائمة…</translation>
     </message>
     <message>
+        <source>IDS_EDIT_CONNECT</source>
+        <translation>ات&amp;صال</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_UP</source>
+        <translation>&amp;نقل إلى أعلى</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_DOWN</source>
+        <translation>نقل إلى أس&amp;فل</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_TOP</source>
+        <translation>نقل إلى أ&amp;ول القائمة</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_END</source>
+        <translation>نقل إلى آ&amp;خر القائمة</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_REMOVE</source>
+        <translation>إ&amp;زالة من القائمة</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_NONE</source>
+        <translation>اختر أولًا شبكة من القائمة.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_IN_PLACE</source>
+        <translation>هي هناك أصلًا.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_GONE</source>
+        <translation>غيّر برنامج آخر قائمتك. لم تعد %1 فيها.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_PLACE</source>
+        <translation>&#x200f;%1: الموضع %2 من %3</translation>
+    </message>
+    <message>
         <source>IDS_BUTTON_UNDO</source>
         <translation>تراجع</translation>
     </message>

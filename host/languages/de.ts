@@ -1055,6 +1055,46 @@ Erwartet: %3</translation>
         <translation>Liste &amp;exportieren&#xa0;…</translation>
     </message>
     <message>
+        <source>IDS_EDIT_CONNECT</source>
+        <translation>&amp;Verbinden</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_UP</source>
+        <translation>Nach &amp;oben verschieben</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_DOWN</source>
+        <translation>Nach &amp;unten verschieben</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_TOP</source>
+        <translation>An den &amp;Anfang verschieben</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_END</source>
+        <translation>Ans En&amp;de verschieben</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_REMOVE</source>
+        <translation>Aus der Liste entfer&amp;nen</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_NONE</source>
+        <translation>Wählen Sie zuerst ein Netzwerk in der Liste aus.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_IN_PLACE</source>
+        <translation>Es steht schon dort.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_GONE</source>
+        <translation>Ein anderes Programm hat Ihre Liste geändert. %1 steht nicht mehr darin.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_PLACE</source>
+        <translation>%1: Platz %2 von %3</translation>
+    </message>
+    <message>
         <source>IDS_BUTTON_UNDO</source>
         <translation>Rückgängig</translation>
     </message>

@@ -1129,6 +1129,52 @@ Expected: %3</translation>
         <translation>&amp;Export list…</translation>
     </message>
     <message>
+        <source>IDS_EDIT_CONNECT</source>
+        <extracomment>In the menu of a network of the list: connects it now</extracomment>
+        <translation>&amp;Connect</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_UP</source>
+        <extracomment>In the Edit menu and in the menu of a network of the list, as the next four</extracomment>
+        <translation>Move u&amp;p</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_DOWN</source>
+        <translation>Move &amp;down</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_TOP</source>
+        <translation>Move to &amp;top</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_END</source>
+        <translation>Move to e&amp;nd</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_REMOVE</source>
+        <translation>Remove &amp;from list</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_NONE</source>
+        <extracomment>Why a network can't be moved or removed: none is chosen</extracomment>
+        <translation>Choose a network in the list first.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_IN_PLACE</source>
+        <extracomment>Why a network can't be moved up, down, to the top or to the end</extracomment>
+        <translation>It stands there already.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_GONE</source>
+        <extracomment>What was to be moved or removed has gone meanwhile; %1: one or more networks</extracomment>
+        <translation>Another program has changed your list. %1 is no longer in it.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_PLACE</source>
+        <extracomment>Told by screen readers; %1: what was done, such as "Moved Café up"; %2: its place then; %3: how many networks there are</extracomment>
+        <translation>%1: place %2 of %3</translation>
+    </message>
+    <message>
         <source>IDS_BUTTON_UNDO</source>
         <translation>Undo</translation>
     </message>

@@ -1055,6 +1055,46 @@ Esperado: %3</translation>
         <translation>E&amp;xportar lista…</translation>
     </message>
     <message>
+        <source>IDS_EDIT_CONNECT</source>
+        <translation>Co&amp;nectar</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_UP</source>
+        <translation>&amp;Subir</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_DOWN</source>
+        <translation>&amp;Bajar</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_TOP</source>
+        <translation>Mover al &amp;principio</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_END</source>
+        <translation>Mover al &amp;final</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_REMOVE</source>
+        <translation>&amp;Quitar de la lista</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_NONE</source>
+        <translation>Elija antes una red de la lista.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_IN_PLACE</source>
+        <translation>Ya está ahí.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_GONE</source>
+        <translation>Otro programa ha cambiado su lista. %1 ya no está en ella.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_PLACE</source>
+        <translation>%1: puesto %2 de %3</translation>
+    </message>
+    <message>
         <source>IDS_BUTTON_UNDO</source>
         <translation>Deshacer</translation>
     </message>

@@ -1055,6 +1055,46 @@ Attendu&#xa0;: %3</translation>
         <translation>E&amp;xporter la liste…</translation>
     </message>
     <message>
+        <source>IDS_EDIT_CONNECT</source>
+        <translation>Se &amp;connecter</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_UP</source>
+        <translation>&amp;Monter</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_DOWN</source>
+        <translation>&amp;Descendre</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_TOP</source>
+        <translation>Placer en &amp;tête</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_END</source>
+        <translation>Placer à la &amp;fin</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_REMOVE</source>
+        <translation>Retirer de la li&amp;ste</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_NONE</source>
+        <translation>Choisissez d’abord un réseau dans la liste.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_IN_PLACE</source>
+        <translation>Il y est déjà.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_GONE</source>
+        <translation>Un autre programme a modifié votre liste. %1 n’y est plus.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_PLACE</source>
+        <translation>%1&#xa0;: rang %2 sur %3</translation>
+    </message>
+    <message>
         <source>IDS_BUTTON_UNDO</source>
         <translation>Annuler l’action</translation>
     </message>

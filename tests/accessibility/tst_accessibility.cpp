@@ -470,8 +470,11 @@ void TestAccessibility::menuItemsTellTheirState()
             }
         }
     });
-    QCOMPARE(told.join(", "), QString::fromUtf8("Undo off, Redo off, Earlier lists… on, Import list… on, "
-                                                "Export list… on, Settings… on"));
+    QCOMPARE(
+        told.join(", "),
+        QString::fromUtf8("Undo off, Redo off, Earlier lists… on, Import list… on, "
+                          "Export list… on, Move up off, Move down off, Move to top off, Move to end off, "
+                          "Remove from list off, Settings… on"));
 }
 
 QTEST_MAIN(TestAccessibility)

@@ -66,6 +66,9 @@ private:
     void ShowTraceSearch(const char *text);
     void ShowMenu(const char *menu);
     void ShowEditMenu(const char *listFile);
+    void ShowMoved(const char *);
+    void ShowEntryMenu(const char *);
+    void ShowGoneNetwork(const char *);
     void ShowTwoMessages(const char *listFile);
     void ShowBroken(const char *folder);
     void ShowBrokenSettings(const char *folder);
@@ -106,6 +109,7 @@ private:
     void ShowExportNotice(const char *);
 
     void OpenWindow(PluginHost *plugins);
+    void OpenListAt(int row);
     void OpenPage();
     void OpenNewDialog(const char *method);
     void OpenDamageQuestion(const char *history);

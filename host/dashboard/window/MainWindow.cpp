@@ -1,10 +1,12 @@
 #include "MainWindow.h"
 
 #include "ConnectDialog.h"
+#include "EntryActions.h"
 #include "HeadArea.h"
 #include "ListActions.h"
 #include "ListGuard.h"
 #include "MessagePage.h"
+#include "NetworkList.h"
 #include "RuledDialog.h"
 #include "WindowProblems.h"
 
@@ -24,7 +26,6 @@
 #include <Installation.h>
 #include <ListKeeper.h>
 #include <ListRules.h>
-#include <NetworkDelegate.h>
 #include <OverviewText.h>
 #include <PluginHost.h>
 #include <PluginObjects.h>
@@ -41,13 +42,10 @@
 #include <QActionGroup>
 #include <QApplication>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
-#include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
-#include <QScrollBar>
 #include <QStackedWidget>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -56,6 +54,7 @@ namespace
 {
 
 const int widestContent = 960;
+const int lowHeight = 460;
 const qreal shareOfScreen = 0.9;
 
 QString GeometryKey()
@@ -92,6 +91,7 @@ MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLo
       m_watcher(UserData::FilePath(QLatin1String("Priority.xml")), nullptr),
       m_keeper(new ListKeeper(UserData::Directory(), &m_source, this)),
       m_listActions(new ListActions(m_keeper, this)), m_guard(new ListGuard(m_keeper, this)),
+      m_list(new NetworkList), m_entryActions(new EntryActions(m_keeper, m_list, this)),
       m_refreshTimer(new QTimer(this))
 {
     setObjectName(QLatin1String("mainWindow"));
@@ -114,16 +114,8 @@ MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLo
     m_listHeader = CreateListHeader();
     layout->addWidget(m_listHeader);
 
-    m_list = new QListWidget;
-    m_list->setObjectName(QLatin1String("overviewList"));
-    m_list->setItemDelegate(new NetworkDelegate(m_list));
-    m_list->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_list->setUniformItemSizes(true);
-    // Not at a single click, which is what some desktops take for opening.
-    connect(m_list, &QListWidget::itemDoubleClicked, this, &MainWindow::ConnectEntry);
-    m_list->installEventFilter(this);
+    m_listTools = m_entryActions->CreateButtons();
+    layout->addWidget(m_listTools);
     m_body = new QStackedWidget;
     m_body->setObjectName(QLatin1String("body"));
     m_body->addWidget(m_list);
@@ -143,6 +135,10 @@ MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLo
     connect(m_refreshTimer, SIGNAL(timeout()), this, SLOT(Show()));
     new ProfileNames(UserData::FilePath(ProfileNames::FileName()), m_keeper, this);
     connect(m_keeper, SIGNAL(Changed()), this, SLOT(FollowHistory()));
+    connect(m_listActions, &ListActions::Stepped, this, [this](const PriorityList &entry) {
+        m_list->Select({ListedEntry{entry, 0}});
+    });
+    connect(m_entryActions, &EntryActions::ConnectWanted, this, &MainWindow::Connect);
     connect(m_language, SIGNAL(Switched()), this, SLOT(FollowLanguage()));
 
     setMinimumSize(DialogParts::ForFont(360), DialogParts::ForFont(280));
@@ -187,6 +183,8 @@ void MainWindow::CreateMenus()
     m_quitAction = m_networkMenu->addAction(QString(), this, SLOT(close()));
     m_quitAction->setShortcut(QKeySequence(QLatin1String("Ctrl+Q")));
     m_listActions->FillMenu(m_editMenu);
+    m_editMenu->addSeparator();
+    m_entryActions->FillMenu(m_editMenu);
     m_editMenu->addSeparator();
     m_settingsAction = m_editMenu->addAction(QString(), this, SLOT(OpenSettings()));
     m_settingsAction->setObjectName(QLatin1String("settingsAction"));
@@ -293,6 +291,7 @@ void MainWindow::Retranslate()
     m_list->setAccessibleName(DashboardText("IDS_PLUGIN_PRIORITY"));
     m_repairAction->setText(DashboardText("IDS_BUTTON_REPAIR"));
     m_listActions->Retranslate();
+    m_entryActions->Retranslate();
     m_guard->Retranslate();
     m_trace->Retranslate();
     m_trace->toggleViewAction()->setText(DashboardText("IDS_ACTION_TRACE"));
@@ -368,10 +367,7 @@ void MainWindow::OpenRuled()
     if (!m_ruled) {
         m_ruled = new RuledDialog(this);
         m_ruled->setModal(true);
-        connect(m_ruled, &RuledDialog::ConnectWanted, this, [this](const QString &name, const QString &id) {
-            m_order.Connect(name, id);
-            Refresh();
-        });
+        connect(m_ruled, &RuledDialog::ConnectWanted, this, &MainWindow::Connect);
         connect(m_ruled, &RuledDialog::SettingsWanted, this, [this] {
             m_ruled->close();
             OpenSettings();
@@ -446,7 +442,7 @@ void MainWindow::resizeEvent(QResizeEvent *event)
 {
     QMainWindow::resizeEvent(event);
     // What is in use and the list itself are seen last of all.
-    const bool isLow = height() < DialogParts::ForFont(460);
+    const bool isLow = height() < DialogParts::ForFont(lowHeight);
     const int margin = isLow ? 8 : 16;
     // What belongs together stays together, however wide the window is.
     const int side = qMax(margin, (width() - DialogParts::ForFont(widestContent)) / 2);
@@ -455,19 +451,13 @@ void MainWindow::resizeEvent(QResizeEvent *event)
     m_head->SetBrief(isLow);
     m_listHeader->setVisible(!isLow);
     m_listBar->setVisible(!isLow);
+    ShowTools();
     m_banner->SetBrief(height() < DialogParts::ForFont(360));
 }
 
-bool MainWindow::eventFilter(QObject *watched, QEvent *event)
+void MainWindow::ShowTools()
 {
-    if (watched == m_list && event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent *>(event)->key();
-        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-            ConnectEntry();
-            return true;
-        }
-    }
-    return QMainWindow::eventFilter(watched, event);
+    m_listTools->setVisible(height() >= DialogParts::ForFont(lowHeight) && !m_overview.entries.isEmpty());
 }
 
 void MainWindow::changeEvent(QEvent *event)
@@ -493,22 +483,14 @@ void MainWindow::hideEvent(QHideEvent *event)
 void MainWindow::Switch()
 {
     if (const Overview::Entry *choice = m_overview.Choice()) {
-        m_order.Connect(choice->entry.name, choice->profile.id);
-        Refresh();
+        Connect(choice->entry.name, choice->profile.id);
     }
 }
 
-void MainWindow::ConnectEntry()
+void MainWindow::Connect(const QString &name, const QString &profileId)
 {
-    const int place = m_list->currentRow();
-    if (place < 0 || place >= m_overview.entries.size() || !m_overview.connections.AreKnown()) {
-        return;
-    }
-    const Overview::Entry &entry = m_overview.entries.at(place);
-    if (!entry.isRepeated && (entry.stage == StageNotKnown || entry.stage == StageDisconnecting)) {
-        m_order.Connect(entry.entry.name, entry.profile.id);
-        Refresh();
-    }
+    m_order.Connect(name, profileId);
+    Refresh();
 }
 
 /** What is in use, or coming up to be: Wi-Fi or mobile broadband; else null. */
@@ -557,26 +539,16 @@ void MainWindow::ShowProblems()
     m_banner->Show(problems);
 }
 
-/** Counted from 0; -1: nothing that is listed is in use. */
-int MainWindow::PlaceInUse() const
-{
-    for (int i = 0; i < m_overview.entries.size(); ++i) {
-        if (m_overview.entries.at(i).isInUse) {
-            return i;
-        }
-    }
-    return -1;
-}
-
 void MainWindow::ShowList()
 {
+    m_list->Show(m_overview);
+    m_entryActions->Show(m_overview);
+    ShowTools();
     if (m_overview.status < 0) {
         ShowNoList();
-    } else if (!m_overview.entries.isEmpty()) {
-        ShowEntries();
-    } else if (m_overview.IsListWhole()) {
+    } else if (m_overview.entries.isEmpty() && m_overview.IsListWhole()) {
         ShowEmptyList();
-    } else {
+    } else if (m_overview.entries.isEmpty()) {
         m_message->Show(DashboardText("IDS_NO_LIST_TITLE"), DashboardText("IDS_EMPTY_UNREADABLE"),
                         QList<QAction *>());
     }
@@ -614,32 +586,6 @@ void MainWindow::ShowEmptyList()
         m_message->Show(DashboardText("IDS_FIRST_TITLE"), DashboardText("IDS_FIRST_CONNECT"),
                         {m_connectAction, m_listActions->ImportAction()});
     }
-}
-
-void MainWindow::ShowEntries()
-{
-    const int scrolledTo = m_list->verticalScrollBar()->value();
-    const int current = m_list->count() == 0 ? PlaceInUse() : m_list->currentRow();
-    m_list->clear();
-    for (int i = 0; i < m_overview.entries.size(); ++i) {
-        const Overview::Entry &entry = m_overview.entries.at(i);
-        QListWidgetItem *item = new QListWidgetItem(entry.entry.name, m_list);
-        const QString state = OverviewText::State(m_overview, i);
-        const QString reason = OverviewText::Reason(m_overview, i);
-        item->setData(NetworkDelegate::DetailTextRole, OverviewText::Detail(m_overview, i));
-        item->setData(NetworkDelegate::StateTextRole, state);
-        item->setData(NetworkDelegate::MarkRole, OverviewText::Mark(m_overview, i));
-        item->setData(NetworkDelegate::KindRole, entry.IsWifi() ? Glyphs::Wifi : Glyphs::Mobile);
-        item->setData(NetworkDelegate::ReachRole, OverviewText::Reach(m_overview, i));
-        item->setData(NetworkDelegate::SignalRole, entry.signal);
-        item->setToolTip(reason.toHtmlEscaped());
-        item->setData(Qt::AccessibleDescriptionRole, reason);
-        item->setData(
-            Qt::AccessibleTextRole,
-            QString::fromLatin1("%1, %2, %3").arg(entry.entry.name, OverviewText::Kind(entry), state));
-    }
-    m_list->setCurrentRow(qMin(current, m_list->count() - 1));
-    m_list->verticalScrollBar()->setValue(scrolledTo);
 }
 
 void MainWindow::OpenLanguageMenu()

@@ -15,17 +15,18 @@
 class Banner;
 class ConnectDialog;
 class DashboardLanguage;
+class EntryActions;
 class HeadArea;
 class ListActions;
 class ListGuard;
 class ListKeeper;
 class MessagePage;
+class NetworkList;
 class PluginHost;
 struct KnownPlugin;
 class QAction;
 class QActionGroup;
 class QLabel;
-class QListWidget;
 class QMenu;
 class QStackedWidget;
 class QTimer;
@@ -57,7 +58,6 @@ public slots:
 protected:
     void closeEvent(QCloseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
-    bool eventFilter(QObject *watched, QEvent *event) override;
     void changeEvent(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
@@ -68,7 +68,7 @@ private slots:
     void FollowHistory();
     void Show();
     void Switch();
-    void ConnectEntry();
+    void Connect(const QString &name, const QString &profileId);
     void Disconnect();
     void OpenLanguageMenu();
     void ChooseLanguage(QAction *action);
@@ -86,9 +86,8 @@ private:
     const ActiveConnection *Disconnectable() const;
     void ShowHead();
     void ShowProblems();
-    int PlaceInUse() const;
     void ShowList();
-    void ShowEntries();
+    void ShowTools();
     void ShowNoList();
     void ShowEmptyList();
     void ShowNote();
@@ -103,6 +102,8 @@ private:
     ListKeeper *m_keeper;
     ListActions *m_listActions;
     ListGuard *m_guard;
+    NetworkList *m_list;
+    EntryActions *m_entryActions;
     QTimer *m_refreshTimer;
     bool m_isRefreshing = false;
     bool m_isWatching = false;
@@ -134,13 +135,13 @@ private:
     HeadArea *m_head;
     Banner *m_banner;
     QWidget *m_listHeader;
+    QWidget *m_listTools;
     QWidget *m_listBar;
     QLabel *m_listTitle;
     QLabel *m_note;
     TextButton *m_ruledButton;
     TextButton *m_settingsButton;
     QStackedWidget *m_body;
-    QListWidget *m_list;
     MessagePage *m_message;
 };
 

@@ -193,7 +193,11 @@ void ListActionsTest::MenuHasEverything()
     QCOMPARE(texts, QStringList() << "&Undo"
                                   << "&Redo" << QString::fromUtf8("Earlier &lists…") << QString()
                                   << QString::fromUtf8("&Import list…") << QString::fromUtf8("&Export list…")
-                                  << QString() << QString::fromUtf8("&Settings…"));
+                                  << QString() << "Move u&p"
+                                  << "Move &down"
+                                  << "Move to &top"
+                                  << "Move to e&nd" << QString() << "Remove &from list" << QString()
+                                  << QString::fromUtf8("&Settings…"));
     PluginWorld::AddTop("Home");
     Action("undoAction")->trigger();
     QCOMPARE(PluginWorld::Stored(), QString());
