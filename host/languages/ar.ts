@@ -1094,6 +1094,22 @@
         <translation>&#x200f;%1: الموضع %2 من %3</translation>
     </message>
     <message>
+        <source>IDS_FIND_ACTION</source>
+        <translation>ال&amp;بحث عن شبكة</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_NONE</source>
+        <translation>لا توجد شبكة في اسمها «%1».</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_CLEAR</source>
+        <translation>مسح البحث</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_MOVES</source>
+        <translation>امسح البحث لنقل الشبكات إلى أعلى أو أسفل.</translation>
+    </message>
+    <message>
         <source>IDS_BUTTON_UNDO</source>
         <translation>تراجع</translation>
     </message>

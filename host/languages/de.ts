@@ -1095,6 +1095,22 @@ Erwartet: %3</translation>
         <translation>%1: Platz %2 von %3</translation>
     </message>
     <message>
+        <source>IDS_FIND_ACTION</source>
+        <translation>Netzwerk &amp;suchen</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_NONE</source>
+        <translation>Kein Netzwerk hat „%1“ im Namen.</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_CLEAR</source>
+        <translation>Suche beenden</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_MOVES</source>
+        <translation>Beenden Sie die Suche, um Netzwerke nach oben oder unten zu verschieben.</translation>
+    </message>
+    <message>
         <source>IDS_BUTTON_UNDO</source>
         <translation>Rückgängig</translation>
     </message>

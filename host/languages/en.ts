@@ -1175,6 +1175,26 @@ Expected: %3</translation>
         <translation>%1: place %2 of %3</translation>
     </message>
     <message>
+        <source>IDS_FIND_ACTION</source>
+        <extracomment>In the Edit menu: goes to the field that finds networks of the list by their names</extracomment>
+        <translation>Find a net&amp;work</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_NONE</source>
+        <extracomment>In place of the list; %1: what is looked for</extracomment>
+        <translation>No network has “%1” in its name.</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_CLEAR</source>
+        <extracomment>Button below that: shows all networks again</extracomment>
+        <translation>Clear search</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_MOVES</source>
+        <extracomment>Why a network can't be moved up or down while networks are looked for</extracomment>
+        <translation>Clear the search to move networks up or down.</translation>
+    </message>
+    <message>
         <source>IDS_BUTTON_UNDO</source>
         <translation>Undo</translation>
     </message>

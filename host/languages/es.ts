@@ -1095,6 +1095,22 @@ Esperado: %3</translation>
         <translation>%1: puesto %2 de %3</translation>
     </message>
     <message>
+        <source>IDS_FIND_ACTION</source>
+        <translation>B&amp;uscar una red</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_NONE</source>
+        <translation>Ninguna red tiene «%1» en su nombre.</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_CLEAR</source>
+        <translation>Terminar la búsqueda</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_MOVES</source>
+        <translation>Termine la búsqueda para subir o bajar redes.</translation>
+    </message>
+    <message>
         <source>IDS_BUTTON_UNDO</source>
         <translation>Deshacer</translation>
     </message>

@@ -1095,6 +1095,22 @@ Attendu&#xa0;: %3</translation>
         <translation>%1&#xa0;: rang %2 sur %3</translation>
     </message>
     <message>
+        <source>IDS_FIND_ACTION</source>
+        <translation>Rec&amp;hercher un réseau</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_NONE</source>
+        <translation>Aucun réseau n’a «&#xa0;%1&#xa0;» dans son nom.</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_CLEAR</source>
+        <translation>Effacer la recherche</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_MOVES</source>
+        <translation>Effacez la recherche pour monter ou descendre des réseaux.</translation>
+    </message>
+    <message>
         <source>IDS_BUTTON_UNDO</source>
         <translation>Annuler l’action</translation>
     </message>

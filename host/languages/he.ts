@@ -1094,6 +1094,22 @@
         <translation>&#x200f;%1: מקום %2 מתוך %3</translation>
     </message>
     <message>
+        <source>IDS_FIND_ACTION</source>
+        <translation>חי&amp;פוש רשת</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_NONE</source>
+        <translation>אין רשת ש„%1” בשמה.</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_CLEAR</source>
+        <translation>ניקוי החיפוש</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_MOVES</source>
+        <translation>כדי להעביר רשתות למעלה או למטה יש לנקות את החיפוש.</translation>
+    </message>
+    <message>
         <source>IDS_BUTTON_UNDO</source>
         <translation>ביטול פעולה</translation>
     </message>

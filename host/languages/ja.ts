@@ -1095,6 +1095,22 @@
         <translation>%1: %3 個中の順位 %2</translation>
     </message>
     <message>
+        <source>IDS_FIND_ACTION</source>
+        <translation>ネットワークを探す(&amp;W)</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_NONE</source>
+        <translation>名前に「%1」を含むネットワークはありません。</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_CLEAR</source>
+        <translation>検索をやめる</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_MOVES</source>
+        <translation>ネットワークを上下に移動するには、検索をやめてください。</translation>
+    </message>
+    <message>
         <source>IDS_BUTTON_UNDO</source>
         <translation>元に戻す</translation>
     </message>

@@ -1095,6 +1095,22 @@ Esperado: %3</translation>
         <translation>%1: posição %2 de %3</translation>
     </message>
     <message>
+        <source>IDS_FIND_ACTION</source>
+        <translation>&amp;Buscar uma rede</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_NONE</source>
+        <translation>Nenhuma rede tem “%1” no nome.</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_CLEAR</source>
+        <translation>Limpar a busca</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_MOVES</source>
+        <translation>Limpe a busca para subir ou descer redes.</translation>
+    </message>
+    <message>
         <source>IDS_BUTTON_UNDO</source>
         <translation>Desfazer</translation>
     </message>

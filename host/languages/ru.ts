@@ -1095,6 +1095,22 @@
         <translation>%1: место %2 из %3</translation>
     </message>
     <message>
+        <source>IDS_FIND_ACTION</source>
+        <translation>Найти с&amp;еть</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_NONE</source>
+        <translation>Ни у одной сети нет «%1» в имени.</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_CLEAR</source>
+        <translation>Сбросить поиск</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_MOVES</source>
+        <translation>Чтобы перемещать сети вверх и вниз, сбросьте поиск.</translation>
+    </message>
+    <message>
         <source>IDS_BUTTON_UNDO</source>
         <translation>Отменить</translation>
     </message>

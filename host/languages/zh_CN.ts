@@ -1095,6 +1095,22 @@
         <translation>%1：位置 %2（共 %3 个）</translation>
     </message>
     <message>
+        <source>IDS_FIND_ACTION</source>
+        <translation>查找网络(&amp;W)</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_NONE</source>
+        <translation>没有名称包含“%1”的网络。</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_CLEAR</source>
+        <translation>清除查找</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_MOVES</source>
+        <translation>要上移或下移网络，请先清除查找。</translation>
+    </message>
+    <message>
         <source>IDS_BUTTON_UNDO</source>
         <translation>撤销</translation>
     </message>

@@ -284,6 +284,8 @@ const Screens::Screen Screens::screens[] = {
     {"trace, something found", &Screens::ShowTraceSearch, "e"},
     {"trace, nothing found", &Screens::ShowTraceSearch, "no line has this"},
     {"list, one moved", &Screens::ShowMoved, nullptr},
+    {"list, something found", &Screens::ShowFind, "o"},
+    {"list, nothing found", &Screens::ShowFind, "no network has this"},
     {"menu of a network", &Screens::ShowEntryMenu, nullptr},
     {"notice, network no longer in the list", &Screens::ShowGoneNetwork, nullptr},
     {"Network menu", &Screens::ShowMenu, "networkMenu"},
@@ -665,6 +667,14 @@ void Screens::ShowMoved(const char *)
 {
     OpenListAt(0);
     Trigger("moveDownAction");
+    Visit();
+}
+
+void Screens::ShowFind(const char *typed)
+{
+    OpenListAt(0);
+    Trigger("findAction");
+    QTest::keyClicks(Child<QLineEdit>("findEdit"), QLatin1String(typed));
     Visit();
 }
 

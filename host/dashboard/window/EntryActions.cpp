@@ -63,10 +63,10 @@ EntryActions::EntryActions(ListKeeper *keeper, NetworkList *list, QWidget *windo
     : QObject(window), m_keeper(keeper), m_list(list), m_menu(new QMenu(window)),
       m_connect(CreateAction("entryConnectAction", QKeySequence())), m_remove(nullptr)
 {
-    AddMove("moveUpAction", "Alt+Up", Higher);
-    AddMove("moveDownAction", "Alt+Down", Lower);
-    AddMove("moveTopAction", "Alt+Home", Top);
-    AddMove("moveEndAction", "Alt+End", End);
+    AddMove("moveUpAction", "Alt+Up", Higher, true);
+    AddMove("moveDownAction", "Alt+Down", Lower, true);
+    AddMove("moveTopAction", "Alt+Home", Top, false);
+    AddMove("moveEndAction", "Alt+End", End, false);
     m_remove = CreateAction("removeAction", QKeySequence(Qt::Key_Delete));
     m_menu->setObjectName(QLatin1String("entryMenu"));
     m_menu->addAction(m_connect);
@@ -94,11 +94,11 @@ QAction *EntryActions::CreateAction(const char *name, const QKeySequence &key)
     return action;
 }
 
-void EntryActions::AddMove(const char *name, const char *key, const Goal &goal)
+void EntryActions::AddMove(const char *name, const char *key, const Goal &goal, bool needsNeighbours)
 {
     QAction *action = CreateAction(name, QKeySequence(QLatin1String(key)));
     connect(action, &QAction::triggered, this, [this, goal] { Move(goal); });
-    m_moves.append(MoveAction{action, goal});
+    m_moves.append(MoveAction{action, goal, needsNeighbours});
 }
 
 void EntryActions::FillMenu(QMenu *menu)
@@ -164,7 +164,7 @@ QString EntryActions::SelectionObstacle() const
     return obstacle.isNull() && isNone ? DashboardText("IDS_EDIT_NONE") : obstacle;
 }
 
-QString EntryActions::MoveObstacle(const Goal &goal) const
+QString EntryActions::MoveObstacle(const MoveAction &move) const
 {
     const QString obstacle = SelectionObstacle();
     const QList<PriorityList> list = m_keeper->Entries();
@@ -172,7 +172,10 @@ QString EntryActions::MoveObstacle(const Goal &goal) const
     if (!obstacle.isNull() || places.isEmpty()) {
         return obstacle;
     }
-    const bool isThere = ListEntries::IsSame(ListEdit::Moved(list, places, goal(places, list)), list);
+    if (move.needsNeighbours && m_list->IsSearched()) {
+        return DashboardText("IDS_FIND_MOVES");
+    }
+    const bool isThere = ListEntries::IsSame(ListEdit::Moved(list, places, move.goal(places, list)), list);
     return isThere ? DashboardText("IDS_EDIT_IN_PLACE") : QString();
 }
 
@@ -189,11 +192,11 @@ bool EntryActions::CanConnect() const
 void EntryActions::Update()
 {
     for (const MoveAction &move : std::as_const(m_moves)) {
-        SetHelp(move.action, MoveObstacle(move.goal));
+        SetHelp(move.action, MoveObstacle(move));
     }
     SetHelp(m_remove, SelectionObstacle());
     m_connect->setEnabled(CanConnect());
-    m_list->SetDraggable(m_keeper->EditObstacle() == ListKeeper::NoObstacle);
+    m_list->SetDraggable(m_keeper->EditObstacle() == ListKeeper::NoObstacle && !m_list->IsSearched());
 }
 
 void EntryActions::OpenMenu(const QPoint &place)

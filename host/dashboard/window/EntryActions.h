@@ -56,10 +56,12 @@ private:
     struct MoveAction {
         QAction *action;
         Goal goal;
+        /** Where it goes depends on its neighbours, and these may be hidden. */
+        bool needsNeighbours;
     };
 
     QAction *CreateAction(const char *name, const QKeySequence &key);
-    void AddMove(const char *name, const char *key, const Goal &goal);
+    void AddMove(const char *name, const char *key, const Goal &goal, bool needsNeighbours);
     void OpenMenu(const QPoint &place);
     void Connect();
     void Move(const Goal &goal);
@@ -68,7 +70,7 @@ private:
     void Edit(const QList<ListedEntry> &entries, bool isMoveOfOne, const Change &change);
     void Announce(const ListState &before, const ListState &after);
     bool CanConnect() const;
-    QString MoveObstacle(const Goal &goal) const;
+    QString MoveObstacle(const MoveAction &move) const;
     QString SelectionObstacle() const;
     static void SetHelp(QAction *action, const QString &obstacle);
 

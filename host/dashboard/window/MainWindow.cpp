@@ -7,6 +7,7 @@
 #include "ListGuard.h"
 #include "MessagePage.h"
 #include "NetworkList.h"
+#include "NetworkSearch.h"
 #include "RuledDialog.h"
 #include "WindowProblems.h"
 
@@ -92,7 +93,7 @@ MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLo
       m_keeper(new ListKeeper(UserData::Directory(), &m_source, this)),
       m_listActions(new ListActions(m_keeper, this)), m_guard(new ListGuard(m_keeper, this)),
       m_list(new NetworkList), m_entryActions(new EntryActions(m_keeper, m_list, this)),
-      m_refreshTimer(new QTimer(this))
+      m_find(new NetworkSearch(m_list)), m_refreshTimer(new QTimer(this))
 {
     setObjectName(QLatin1String("mainWindow"));
     new AccessibleRows(this);
@@ -114,7 +115,7 @@ MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLo
     m_listHeader = CreateListHeader();
     layout->addWidget(m_listHeader);
 
-    m_listTools = m_entryActions->CreateButtons();
+    m_listTools = CreateListTools();
     layout->addWidget(m_listTools);
     m_body = new QStackedWidget;
     m_body->setObjectName(QLatin1String("body"));
@@ -186,6 +187,7 @@ void MainWindow::CreateMenus()
     m_editMenu->addSeparator();
     m_entryActions->FillMenu(m_editMenu);
     m_editMenu->addSeparator();
+    m_editMenu->addAction(m_find->StartAction());
     m_settingsAction = m_editMenu->addAction(QString(), this, SLOT(OpenSettings()));
     m_settingsAction->setObjectName(QLatin1String("settingsAction"));
     m_settingsAction->setShortcut(QKeySequence(QLatin1String("Ctrl+,")));
@@ -196,7 +198,7 @@ void MainWindow::CreateMenus()
     m_viewMenu->addAction(m_trace->toggleViewAction());
     m_searchAction = m_viewMenu->addAction(QString(), m_trace, SLOT(StartSearch()));
     m_searchAction->setObjectName(QLatin1String("traceSearchAction"));
-    m_searchAction->setShortcut(QKeySequence(QLatin1String("Ctrl+F")));
+    m_searchAction->setShortcut(QKeySequence(QLatin1String("Ctrl+Shift+F")));
     CreateAppearanceActions();
     m_refreshAction = m_viewMenu->addAction(QString(), this, SLOT(LookAgain()));
     m_refreshAction->setObjectName(QLatin1String("refreshAction"));
@@ -265,6 +267,20 @@ QWidget *MainWindow::CreateListHeader()
     return header;
 }
 
+QWidget *MainWindow::CreateListTools()
+{
+    connect(m_find, &NetworkSearch::Changed, this, &MainWindow::Show);
+    connect(m_list, &NetworkList::Left, m_find->ClearAction(), &QAction::trigger);
+    QWidget *tools = new QWidget;
+    tools->setObjectName(QLatin1String("listTools"));
+    QHBoxLayout *layout = new QHBoxLayout(tools);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(12);
+    layout->addWidget(m_entryActions->CreateButtons(), 1);
+    layout->addWidget(m_find, 1);
+    return tools;
+}
+
 void MainWindow::FollowLanguage()
 {
     // The plug-ins first: what this window shows has texts of theirs.
@@ -292,6 +308,7 @@ void MainWindow::Retranslate()
     m_repairAction->setText(DashboardText("IDS_BUTTON_REPAIR"));
     m_listActions->Retranslate();
     m_entryActions->Retranslate();
+    m_find->Retranslate();
     m_guard->Retranslate();
     m_trace->Retranslate();
     m_trace->toggleViewAction()->setText(DashboardText("IDS_ACTION_TRACE"));
@@ -457,7 +474,10 @@ void MainWindow::resizeEvent(QResizeEvent *event)
 
 void MainWindow::ShowTools()
 {
-    m_listTools->setVisible(height() >= DialogParts::ForFont(lowHeight) && !m_overview.entries.isEmpty());
+    const bool hasRoom = height() >= DialogParts::ForFont(lowHeight) || m_find->IsWanted();
+    m_find->Follow();
+    m_find->StartAction()->setEnabled(!m_overview.entries.isEmpty());
+    m_listTools->setVisible(hasRoom && !m_overview.entries.isEmpty());
 }
 
 void MainWindow::changeEvent(QEvent *event)
@@ -548,15 +568,24 @@ void MainWindow::ShowList()
         ShowNoList();
     } else if (m_overview.entries.isEmpty() && m_overview.IsListWhole()) {
         ShowEmptyList();
+    } else if (m_list->HasFoundNothing()) {
+        ShowNothingFound();
     } else if (m_overview.entries.isEmpty()) {
         m_message->Show(DashboardText("IDS_NO_LIST_TITLE"), DashboardText("IDS_EMPTY_UNREADABLE"),
                         QList<QAction *>());
     }
-    m_body->setCurrentWidget(m_overview.entries.isEmpty() ? static_cast<QWidget *>(m_message) : m_list);
+    const bool isListShown = !m_overview.entries.isEmpty() && !m_list->HasFoundNothing();
+    m_body->setCurrentWidget(isListShown ? static_cast<QWidget *>(m_list) : m_message);
     if (focusWidget() == m_message) {
         // There is nothing on it to work with; the settings may help.
         m_settingsButton->setFocus();
     }
+}
+
+void MainWindow::ShowNothingFound()
+{
+    m_message->Show(DashboardText("IDS_FIND_NONE").arg(OverviewText::Name(m_find->text())), QString(),
+                    {m_find->ClearAction()});
 }
 
 void MainWindow::ShowNoList()

@@ -22,6 +22,7 @@ class ListGuard;
 class ListKeeper;
 class MessagePage;
 class NetworkList;
+class NetworkSearch;
 class PluginHost;
 struct KnownPlugin;
 class QAction;
@@ -83,10 +84,12 @@ private:
     void CreateLanguageActions();
     void Watch();
     QWidget *CreateListHeader();
+    QWidget *CreateListTools();
     const ActiveConnection *Disconnectable() const;
     void ShowHead();
     void ShowProblems();
     void ShowList();
+    void ShowNothingFound();
     void ShowTools();
     void ShowNoList();
     void ShowEmptyList();
@@ -104,6 +107,7 @@ private:
     ListGuard *m_guard;
     NetworkList *m_list;
     EntryActions *m_entryActions;
+    NetworkSearch *m_find;
     QTimer *m_refreshTimer;
     bool m_isRefreshing = false;
     bool m_isWatching = false;

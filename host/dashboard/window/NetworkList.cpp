@@ -6,6 +6,7 @@
 #include <NetworkDelegate.h>
 #include <Overview.h>
 #include <OverviewText.h>
+#include <Searchable.h>
 
 #include <QAccessible>
 #include <QContextMenuEvent>
@@ -85,6 +86,7 @@ void NetworkList::Show(const Overview &overview)
             Choose(selected, current, formerRow);
             Keep(sight);
         }
+        ShowFound();
     }
     emit itemSelectionChanged();
 }
@@ -182,6 +184,8 @@ void NetworkList::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         emit ConnectWanted();
+    } else if (event->key() == Qt::Key_Escape) {
+        emit Left();
     } else if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
         AskForMenu();
     } else {
@@ -195,6 +199,40 @@ void NetworkList::contextMenuEvent(QContextMenuEvent *event)
         emit MenuWanted(event->globalPos());
     } else {
         AskForMenu();
+    }
+}
+
+void NetworkList::Find(const QString &text)
+{
+    m_wanted = Searchable(text);
+    ShowFound();
+    emit itemSelectionChanged();
+}
+
+bool NetworkList::HasFoundNothing() const
+{
+    for (int i = 0; i < count(); ++i) {
+        if (!item(i)->isHidden()) {
+            return false;
+        }
+    }
+    return IsSearched();
+}
+
+void NetworkList::ShowFound()
+{
+    QListWidgetItem *first = nullptr;
+    for (int i = 0; i < count(); ++i) {
+        const bool isFound = Searchable(item(i)->text()).contains(m_wanted);
+        item(i)->setHidden(!isFound);
+        if (!isFound) {
+            item(i)->setSelected(false);
+        } else if (!first) {
+            first = item(i);
+        }
+    }
+    if (currentItem() && currentItem()->isHidden()) {
+        setCurrentItem(first);
     }
 }
 

@@ -34,6 +34,14 @@ public:
     /** Selects those entries that are shown, and nothing else; without any it changes nothing. */
     void Select(const QList<ListedEntry> &entries);
 
+    /** Shows those networks only that have text in their names; without text all. What is hidden is not
+     * selected. */
+    void Find(const QString &text);
+    bool IsSearched() const { return !m_wanted.isEmpty(); }
+
+    /** Whether every network is hidden. */
+    bool HasFoundNothing() const;
+
     /** Has screen readers tell what was done. */
     void Announce(const QString &what);
 
@@ -46,6 +54,9 @@ signals:
 
     /** A menu for what is selected is wanted, at that place of the screen. */
     void MenuWanted(const QPoint &place);
+
+    /** Escape was pressed. */
+    void Left();
 
     /** What is selected was dropped before the entry of that row; the count of rows is the end. */
     void Dropped(int row);
@@ -68,9 +79,11 @@ private:
     void Choose(const QList<ListedEntry> &selected, const ListedEntry &current, int formerRow);
     int RowOf(const ListedEntry &entry) const { return static_cast<int>(m_rows.indexOf(entry)); }
     void AskForMenu();
+    void ShowFound();
 
     QList<ListedEntry> m_rows;
     RowDrag *m_drag;
+    QString m_wanted;
 };
 
 #endif

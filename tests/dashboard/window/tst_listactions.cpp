@@ -197,7 +197,7 @@ void ListActionsTest::MenuHasEverything()
                                   << "Move &down"
                                   << "Move to &top"
                                   << "Move to e&nd" << QString() << "Remove &from list" << QString()
-                                  << QString::fromUtf8("&Settings…"));
+                                  << "Find a net&work" << QString::fromUtf8("&Settings…"));
     PluginWorld::AddTop("Home");
     Action("undoAction")->trigger();
     QCOMPARE(PluginWorld::Stored(), QString());

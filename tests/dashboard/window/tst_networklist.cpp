@@ -14,7 +14,9 @@
 #include <QAction>
 #include <QContextMenuEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QToolButton>
 #include <QtTest>
@@ -49,6 +51,14 @@ private slots:
     void NetworkThatIsGoneIsTold();
     void EmptyNameIsShown();
     void LettersFindNames();
+    void SearchIsThereFromTwelveNetworksOn();
+    void SearchFindsPartsOfNames_data();
+    void SearchFindsPartsOfNames();
+    void SearchThatFindsNothingCanBeCleared();
+    void EscapeClearsTheSearch();
+    void HiddenNetworksAreNotSelected();
+    void SearchedListMovesToItsEndsOnly();
+    void LowWindowHasTheSearchOnDemand();
     void ButtonsMove();
     void ButtonsFitTheSmallestWidth();
     void MenuConnectsFirst();
@@ -64,6 +74,7 @@ private slots:
 private:
     void Fill(const QString &list);
     NetworkList *List() const { return m_window->findChild<NetworkList *>(); }
+    QLineEdit *Search() const { return m_window->findChild<QLineEdit *>("findEdit"); }
     QAction *Action(const char *name) const { return m_window->findChild<QAction *>(QLatin1String(name)); }
     QString Selected() const;
     void Click(int row, Qt::KeyboardModifiers keys = Qt::NoModifier) const;
@@ -347,6 +358,102 @@ void NetworkListTest::LettersFindNames()
     Click(0);
     QTest::keyClicks(List(), "OFFS");
     QCOMPARE(List()->currentItem()->text(), QString("offshore"));
+}
+
+void NetworkListTest::SearchIsThereFromTwelveNetworksOn()
+{
+    Fill(Numbers(1, 11));
+    QVERIFY(!Search()->isVisible());
+    Fill(Numbers(1, 12));
+    QVERIFY(Search()->isVisible());
+}
+
+void NetworkListTest::SearchFindsPartsOfNames_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("found");
+    QTest::newRow("a part") << "ffic"
+                            << "Office";
+    QTest::newRow("another case") << "OFF"
+                                  << "Office, offshore";
+    QTest::newRow("without the accent") << "cafe" << QString::fromUtf8("Café");
+    QTest::newRow("nothing typed") << "" << QString::fromUtf8("Home, Office, Café, offshore");
+}
+
+void NetworkListTest::SearchFindsPartsOfNames()
+{
+    QFETCH(QString, typed);
+    Fill(QString::fromUtf8("Home, Office, Café, offshore"));
+    QTest::keyClick(m_window.data(), Qt::Key_F, Qt::ControlModifier);
+    QCOMPARE(m_window->focusWidget(), Search());
+    QTest::keyClicks(Search(), typed);
+    QStringList found;
+    for (int i = 0; i < List()->count(); ++i) {
+        if (!List()->item(i)->isHidden()) {
+            found.append(List()->item(i)->text());
+        }
+    }
+    QTEST(found.join(", "), "found");
+}
+
+void NetworkListTest::SearchThatFindsNothingCanBeCleared()
+{
+    Action("findAction")->trigger();
+    QTest::keyClicks(Search(), "zz");
+    QVERIFY(!List()->isVisible());
+    QCOMPARE(Plain(m_window->findChild<QLabel *>("messageTitle")->text()),
+             QString::fromUtf8("No network has “zz” in its name."));
+    QTest::mouseClick(m_window->findChild<QPushButton *>("message_clearFindAction"), Qt::LeftButton);
+    QVERIFY(List()->isVisible());
+    QVERIFY(Search()->text().isEmpty());
+}
+
+void NetworkListTest::EscapeClearsTheSearch()
+{
+    Action("findAction")->trigger();
+    QTest::keyClicks(Search(), "B");
+    QTest::keyClick(Search(), Qt::Key_Down);
+    QCOMPARE(m_window->focusWidget(), List());
+    Press(Qt::Key_Escape);
+    QVERIFY(!List()->item(0)->isHidden());
+    QVERIFY(!Search()->isVisible());
+}
+
+void NetworkListTest::HiddenNetworksAreNotSelected()
+{
+    Click(0);
+    Click(1, Qt::ControlModifier);
+    Action("findAction")->trigger();
+    QTest::keyClicks(Search(), "B");
+    QCOMPARE(Selected(), QString("B"));
+    Action("removeAction")->trigger();
+    QCOMPARE(PluginWorld::Stored(), QString("A, C, D"));
+}
+
+void NetworkListTest::SearchedListMovesToItsEndsOnly()
+{
+    Action("findAction")->trigger();
+    QTest::keyClicks(Search(), "C");
+    Click(2);
+    QVERIFY(!Action("moveUpAction")->isEnabled() && !Action("moveDownAction")->isEnabled());
+    QCOMPARE(Action("moveUpAction")->whatsThis(), QString("Clear the search to move networks up or down."));
+    DragTo(2, 0);
+    Drop(0);
+    QCOMPARE(PluginWorld::Stored(), QString("A, B, C, D"));
+    Action("moveTopAction")->trigger();
+    QCOMPARE(PluginWorld::Stored(), QString("C, A, B, D"));
+    QCOMPARE(Selected(), QString("C"));
+}
+
+void NetworkListTest::LowWindowHasTheSearchOnDemand()
+{
+    m_window->resize(1, 1);
+    QTRY_VERIFY(!m_window->findChild<QWidget *>("listTools")->isVisible());
+    QTest::keyClick(m_window.data(), Qt::Key_F, Qt::ControlModifier);
+    QVERIFY(Search()->isVisible());
+    QCOMPARE(m_window->size(), m_window->minimumSize());
+    QTest::keyClick(Search(), Qt::Key_Escape);
+    QVERIFY(!m_window->findChild<QWidget *>("listTools")->isVisible());
 }
 
 void NetworkListTest::ButtonsMove()
