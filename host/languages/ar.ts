@@ -1078,6 +1078,26 @@
         <translation>إ&amp;زالة من القائمة</translation>
     </message>
     <message>
+        <source>IDS_UNLISTED_ADD</source>
+        <translation>إضافة إلى ال&amp;قائمة</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_TITLE</source>
+        <translation>ليست في قائمتك (%1)</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_HINT</source>
+        <translation>انقر أو اضغط Enter لإظهار هذه الشبكات أو إخفائها.</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_SAVED</source>
+        <translation>&#x200f;%1 · محفوظة</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_NONE</source>
+        <translation>اختر أولًا شبكة ليست في قائمتك.</translation>
+    </message>
+    <message>
         <source>IDS_EDIT_NONE</source>
         <translation>اختر أولًا شبكة من القائمة.</translation>
     </message>

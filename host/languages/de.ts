@@ -1079,6 +1079,26 @@ Erwartet: %3</translation>
         <translation>Aus der Liste entfer&amp;nen</translation>
     </message>
     <message>
+        <source>IDS_UNLISTED_ADD</source>
+        <translation>Zur Liste hinzufü&amp;gen</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_TITLE</source>
+        <translation>Nicht in Ihrer Liste (%1)</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_HINT</source>
+        <translation>Klicken Sie oder drücken Sie die Eingabetaste, um diese Netzwerke ein- oder auszublenden.</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_SAVED</source>
+        <translation>%1 · Gespeichert</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_NONE</source>
+        <translation>Wählen Sie zuerst ein Netzwerk aus, das nicht in Ihrer Liste steht.</translation>
+    </message>
+    <message>
         <source>IDS_EDIT_NONE</source>
         <translation>Wählen Sie zuerst ein Netzwerk in der Liste aus.</translation>
     </message>

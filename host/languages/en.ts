@@ -1155,6 +1155,31 @@ Expected: %3</translation>
         <translation>Remove &amp;from list</translation>
     </message>
     <message>
+        <source>IDS_UNLISTED_ADD</source>
+        <extracomment>In the Edit menu and in the menu of a saved network that is not in the list</extracomment>
+        <translation>&amp;Add to list</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_TITLE</source>
+        <extracomment>Above the saved networks that are not in the list; %1: how many</extracomment>
+        <translation>Not in your list (%1)</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_HINT</source>
+        <extracomment>Tool tip of that line</extracomment>
+        <translation>Click, or press Enter, to show or hide these networks.</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_SAVED</source>
+        <extracomment>Below the name of a network that is not in the list; %1: Wi-Fi or mobile broadband</extracomment>
+        <translation>%1 · Saved</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_NONE</source>
+        <extracomment>Why no network can be added: none is chosen</extracomment>
+        <translation>Choose a network that is not in your list first.</translation>
+    </message>
+    <message>
         <source>IDS_EDIT_NONE</source>
         <extracomment>Why a network can't be moved or removed: none is chosen</extracomment>
         <translation>Choose a network in the list first.</translation>

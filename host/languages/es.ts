@@ -1079,6 +1079,26 @@ Esperado: %3</translation>
         <translation>&amp;Quitar de la lista</translation>
     </message>
     <message>
+        <source>IDS_UNLISTED_ADD</source>
+        <translation>&amp;Añadir a la lista</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_TITLE</source>
+        <translation>Fuera de su lista (%1)</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_HINT</source>
+        <translation>Haga clic o pulse Intro para mostrar u ocultar estas redes.</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_SAVED</source>
+        <translation>%1 · Guardada</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_NONE</source>
+        <translation>Elija antes una red que no esté en su lista.</translation>
+    </message>
+    <message>
         <source>IDS_EDIT_NONE</source>
         <translation>Elija antes una red de la lista.</translation>
     </message>

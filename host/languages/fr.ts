@@ -1079,6 +1079,26 @@ Attendu&#xa0;: %3</translation>
         <translation>Retirer de la li&amp;ste</translation>
     </message>
     <message>
+        <source>IDS_UNLISTED_ADD</source>
+        <translation>&amp;Ajouter à la liste</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_TITLE</source>
+        <translation>Hors de votre liste (%1)</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_HINT</source>
+        <translation>Cliquez, ou appuyez sur Retour, pour afficher ou masquer ces réseaux.</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_SAVED</source>
+        <translation>%1 · Enregistré</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_NONE</source>
+        <translation>Choisissez d’abord un réseau qui n’est pas dans votre liste.</translation>
+    </message>
+    <message>
         <source>IDS_EDIT_NONE</source>
         <translation>Choisissez d’abord un réseau dans la liste.</translation>
     </message>

@@ -1078,6 +1078,26 @@
         <translation>הסרה &amp;מהרשימה</translation>
     </message>
     <message>
+        <source>IDS_UNLISTED_ADD</source>
+        <translation>ה&amp;וספה לרשימה</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_TITLE</source>
+        <translation>לא ברשימה שלך (%1)</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_HINT</source>
+        <translation>לחיצה או Enter מציגים או מסתירים את הרשתות האלה.</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_SAVED</source>
+        <translation>&#x200f;%1 · שמורה</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_NONE</source>
+        <translation>יש לבחור תחילה רשת שאינה ברשימה שלך.</translation>
+    </message>
+    <message>
         <source>IDS_EDIT_NONE</source>
         <translation>יש לבחור תחילה רשת ברשימה.</translation>
     </message>

@@ -1079,6 +1079,26 @@
         <translation>リストから削除(&amp;F)</translation>
     </message>
     <message>
+        <source>IDS_UNLISTED_ADD</source>
+        <translation>リストに追加(&amp;A)</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_TITLE</source>
+        <translation>リストにないもの (%1)</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_HINT</source>
+        <translation>クリックするか Enter キーを押すと、これらのネットワークの表示と非表示を切り替えます。</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_SAVED</source>
+        <translation>%1 · 登録済み</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_NONE</source>
+        <translation>先に、リストにないネットワークを選択してください。</translation>
+    </message>
+    <message>
         <source>IDS_EDIT_NONE</source>
         <translation>先にリストでネットワークを選択してください。</translation>
     </message>

@@ -1079,6 +1079,26 @@ Esperado: %3</translation>
         <translation>Remo&amp;ver da lista</translation>
     </message>
     <message>
+        <source>IDS_UNLISTED_ADD</source>
+        <translation>&amp;Adicionar à lista</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_TITLE</source>
+        <translation>Fora da sua lista (%1)</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_HINT</source>
+        <translation>Clique ou pressione Enter para mostrar ou ocultar essas redes.</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_SAVED</source>
+        <translation>%1 · Salva</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_NONE</source>
+        <translation>Escolha antes uma rede que não esteja na sua lista.</translation>
+    </message>
+    <message>
         <source>IDS_EDIT_NONE</source>
         <translation>Escolha antes uma rede da lista.</translation>
     </message>

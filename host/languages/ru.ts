@@ -1079,6 +1079,26 @@
         <translation>&amp;Убрать из списка</translation>
     </message>
     <message>
+        <source>IDS_UNLISTED_ADD</source>
+        <translation>&amp;Добавить в список</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_TITLE</source>
+        <translation>Не в вашем списке (%1)</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_HINT</source>
+        <translation>Щёлкните или нажмите Enter, чтобы показать или скрыть эти сети.</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_SAVED</source>
+        <translation>%1 · Сохранена</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_NONE</source>
+        <translation>Сначала выберите сеть, которой нет в вашем списке.</translation>
+    </message>
+    <message>
         <source>IDS_EDIT_NONE</source>
         <translation>Сначала выберите сеть в списке.</translation>
     </message>

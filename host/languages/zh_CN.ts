@@ -1079,6 +1079,26 @@
         <translation>从列表中移除(&amp;F)</translation>
     </message>
     <message>
+        <source>IDS_UNLISTED_ADD</source>
+        <translation>添加到列表(&amp;A)</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_TITLE</source>
+        <translation>不在您的列表中（%1）</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_HINT</source>
+        <translation>单击或按 Enter 键可显示或隐藏这些网络。</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_SAVED</source>
+        <translation>%1 · 已保存</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_NONE</source>
+        <translation>请先选择一个不在您的列表中的网络。</translation>
+    </message>
+    <message>
         <source>IDS_EDIT_NONE</source>
         <translation>请先在列表中选择一个网络。</translation>
     </message>

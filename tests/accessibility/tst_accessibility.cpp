@@ -474,7 +474,7 @@ void TestAccessibility::menuItemsTellTheirState()
         told.join(", "),
         QString::fromUtf8("Undo off, Redo off, Earlier lists… on, Import list… on, "
                           "Export list… on, Move up off, Move down off, Move to top off, Move to end off, "
-                          "Remove from list off, Find a network off, Settings… on"));
+                          "Remove from list off, Add to list off, Find a network off, Settings… on"));
 }
 
 QTEST_MAIN(TestAccessibility)

@@ -61,13 +61,14 @@ int End(const QList<int> &, const QList<PriorityList> &list)
 
 EntryActions::EntryActions(ListKeeper *keeper, NetworkList *list, QWidget *window)
     : QObject(window), m_keeper(keeper), m_list(list), m_menu(new QMenu(window)),
-      m_connect(CreateAction("entryConnectAction", QKeySequence())), m_remove(nullptr)
+      m_connect(CreateAction("entryConnectAction", QKeySequence()))
 {
     AddMove("moveUpAction", "Alt+Up", Higher, true);
     AddMove("moveDownAction", "Alt+Down", Lower, true);
     AddMove("moveTopAction", "Alt+Home", Top, false);
     AddMove("moveEndAction", "Alt+End", End, false);
     m_remove = CreateAction("removeAction", QKeySequence(Qt::Key_Delete));
+    m_add = CreateAction("addAction", QKeySequence());
     m_menu->setObjectName(QLatin1String("entryMenu"));
     m_menu->addAction(m_connect);
     m_menu->setDefaultAction(m_connect);
@@ -75,6 +76,7 @@ EntryActions::EntryActions(ListKeeper *keeper, NetworkList *list, QWidget *windo
     FillMenu(m_menu);
     connect(m_connect, &QAction::triggered, this, &EntryActions::Connect);
     connect(m_remove, &QAction::triggered, this, &EntryActions::Remove);
+    connect(m_add, &QAction::triggered, this, &EntryActions::Add);
     connect(m_list, &NetworkList::ConnectWanted, m_connect, &QAction::trigger);
     connect(m_list, &NetworkList::MenuWanted, this, &EntryActions::OpenMenu);
     connect(m_list, &NetworkList::Dropped, this, &EntryActions::Drop);
@@ -97,7 +99,7 @@ QAction *EntryActions::CreateAction(const char *name, const QKeySequence &key)
 void EntryActions::AddMove(const char *name, const char *key, const Goal &goal, bool needsNeighbours)
 {
     QAction *action = CreateAction(name, QKeySequence(QLatin1String(key)));
-    connect(action, &QAction::triggered, this, [this, goal] { Move(goal); });
+    connect(action, &QAction::triggered, this, [this, goal] { Place(m_list->Selected(), {}, goal); });
     m_moves.append(MoveAction{action, goal, needsNeighbours});
 }
 
@@ -109,6 +111,7 @@ void EntryActions::FillMenu(QMenu *menu)
     }
     menu->addSeparator();
     menu->addAction(m_remove);
+    menu->addAction(m_add);
 }
 
 QWidget *EntryActions::CreateButtons()
@@ -138,6 +141,7 @@ void EntryActions::Retranslate()
     }
     m_connect->setText(DashboardText("IDS_EDIT_CONNECT"));
     m_remove->setText(DashboardText("IDS_EDIT_REMOVE"));
+    m_add->setText(DashboardText("IDS_UNLISTED_ADD"));
     m_list->setAccessibleDescription(QString());
     Update();
 }
@@ -181,12 +185,9 @@ QString EntryActions::MoveObstacle(const MoveAction &move) const
 
 bool EntryActions::CanConnect() const
 {
-    const int place = m_list->CurrentPlace();
-    if (place < 0 || place >= m_overview.entries.size() || !m_overview.connections.AreKnown()) {
-        return false;
-    }
-    const Overview::Entry &entry = m_overview.entries.at(place);
-    return !entry.isRepeated && (entry.stage == StageNotKnown || entry.stage == StageDisconnecting);
+    const Overview::Entry *entry = m_list->Current(m_overview);
+    return entry && m_overview.connections.AreKnown() && !entry->isRepeated &&
+           (entry->stage == StageNotKnown || entry->stage == StageDisconnecting);
 }
 
 void EntryActions::Update()
@@ -195,6 +196,9 @@ void EntryActions::Update()
         SetHelp(move.action, MoveObstacle(move));
     }
     SetHelp(m_remove, SelectionObstacle());
+    const QString obstacle = ListKeeperText::Reason(*m_keeper, m_keeper->EditObstacle());
+    const bool isNone = m_list->SelectedUnlisted().isEmpty();
+    SetHelp(m_add, obstacle.isNull() && isNone ? DashboardText("IDS_UNLISTED_NONE") : obstacle);
     m_connect->setEnabled(CanConnect());
     m_list->SetDraggable(m_keeper->EditObstacle() == ListKeeper::NoObstacle && !m_list->IsSearched());
 }
@@ -207,26 +211,35 @@ void EntryActions::OpenMenu(const QPoint &place)
 void EntryActions::Connect()
 {
     if (CanConnect()) {
-        const Overview::Entry &entry = m_overview.entries.at(m_list->CurrentPlace());
-        emit ConnectWanted(entry.entry.name, entry.profile.id);
+        const Overview::Entry *entry = m_list->Current(m_overview);
+        emit ConnectWanted(entry->entry.name, entry->profile.id);
     }
 }
 
-void EntryActions::Move(const Goal &goal)
+void EntryActions::Place(const QList<ListedEntry> &entries, const QList<PriorityList> &unlisted,
+                         const Goal &goal)
 {
-    const QList<ListedEntry> entries = m_list->Selected();
-    QList<ListedEntry> moved;
-    Edit(entries, entries.size() == 1, [&](const QList<int> &places, const QList<PriorityList> &list) {
+    QList<ListedEntry> placed;
+    const bool isMoveOfOne = entries.size() == 1 && unlisted.isEmpty();
+    Edit(entries, isMoveOfOne, [&](const QList<int> &places, const QList<PriorityList> &list) {
         const int before = goal(places, list);
         if (before < 0) {
             return list;
         }
-        const QList<PriorityList> changed = ListEdit::Moved(list, places, before);
         const int first = ListEdit::PlaceOfMoved(places, before, static_cast<int>(list.size()));
-        moved = ListEdit::Numbered(changed).mid(first, places.size());
+        const int behind = first + static_cast<int>(places.size());
+        const QList<PriorityList> changed =
+            ListEdit::Added(ListEdit::Moved(list, places, before), unlisted, behind);
+        const auto added = changed.size() - list.size();
+        placed = ListEdit::Numbered(changed).mid(first, places.size() + added);
         return changed;
     });
-    m_list->Select(moved);
+    m_list->Select(placed);
+}
+
+void EntryActions::Add()
+{
+    Place({}, m_list->SelectedUnlisted(), End);
 }
 
 void EntryActions::Remove()
@@ -239,12 +252,13 @@ void EntryActions::Remove()
 /** The list may be another one by now: the network that stood at that row tells the place. */
 void EntryActions::Drop(int row)
 {
-    const QList<ListedEntry> rows = m_list->Rows();
+    const QList<ListedEntry> rows = m_list->Listed();
     const bool isEnd = row >= rows.size();
     const ListedEntry target = rows.value(row);
-    Move([isEnd, target](const QList<int> &, const QList<PriorityList> &list) {
+    const Goal goal = [isEnd, target](const QList<int> &, const QList<PriorityList> &list) {
         return isEnd ? static_cast<int>(list.size()) : ListEdit::PlaceOf(target, list);
-    });
+    };
+    Place(m_list->Selected(), m_list->SelectedUnlisted(), goal);
 }
 
 void EntryActions::Edit(const QList<ListedEntry> &entries, bool isMoveOfOne, const Change &change)
@@ -257,7 +271,8 @@ void EntryActions::Edit(const QList<ListedEntry> &entries, bool isMoveOfOne, con
             const QList<int> places = ListEdit::PlacesOf(entries, list);
             missing = MissingIn(list, entries);
             before.entries = list;
-            after.entries = places.isEmpty() ? list : change(places, list);
+            const bool isGone = places.isEmpty() && !entries.isEmpty();
+            after.entries = isGone ? list : change(places, list);
             return after.entries;
         },
         isMoveOfOne ? &entries.first().entry : nullptr);

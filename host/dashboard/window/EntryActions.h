@@ -64,7 +64,9 @@ private:
     void AddMove(const char *name, const char *key, const Goal &goal, bool needsNeighbours);
     void OpenMenu(const QPoint &place);
     void Connect();
-    void Move(const Goal &goal);
+    /** Puts what is in the list, and behind it what is not, to that goal. */
+    void Place(const QList<ListedEntry> &entries, const QList<PriorityList> &unlisted, const Goal &goal);
+    void Add();
     void Drop(int row);
     void Remove();
     void Edit(const QList<ListedEntry> &entries, bool isMoveOfOne, const Change &change);
@@ -80,7 +82,8 @@ private:
     QMenu *m_menu;
     QAction *m_connect;
     QList<MoveAction> m_moves;
-    QAction *m_remove;
+    QAction *m_remove = nullptr;
+    QAction *m_add = nullptr;
 };
 
 #endif

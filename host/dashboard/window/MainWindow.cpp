@@ -270,6 +270,7 @@ QWidget *MainWindow::CreateListHeader()
 QWidget *MainWindow::CreateListTools()
 {
     connect(m_find, &NetworkSearch::Changed, this, &MainWindow::Show);
+    connect(m_list, &NetworkList::Folded, this, &MainWindow::Show);
     connect(m_list, &NetworkList::Left, m_find->ClearAction(), &QAction::trigger);
     QWidget *tools = new QWidget;
     tools->setObjectName(QLatin1String("listTools"));

@@ -4,9 +4,9 @@
 
 #include <DashboardText.h>
 #include <NetworkDelegate.h>
-#include <Overview.h>
 #include <OverviewText.h>
 #include <Searchable.h>
+#include <Settings.h>
 
 #include <QAccessible>
 #include <QContextMenuEvent>
@@ -27,6 +27,15 @@ int RowInUse(const Overview &overview)
     return -1;
 }
 
+// In the place of a repetition, which is told of networks of the list only.
+const int notListed = -1;
+const int header = -2;
+
+QString FoldedKey()
+{
+    return QLatin1String("list/unlistedFolded");
+}
+
 /** What is on the row; a name of nothing but blanks would leave it empty. */
 QString Caption(const PriorityList &entry)
 {
@@ -36,16 +45,20 @@ QString Caption(const PriorityList &entry)
 
 } // namespace
 
-NetworkList::NetworkList() : m_drag(new RowDrag(this))
+NetworkList::NetworkList() : m_isFolded(Settings::Read(FoldedKey()).toBool()), m_drag(new RowDrag(this))
 {
     setObjectName(QLatin1String("overviewList"));
     setItemDelegate(new NetworkDelegate(this));
     setSelectionMode(QAbstractItemView::ExtendedSelection);
     setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setUniformItemSizes(true);
     // Not at a single click, which is what some desktops take for opening.
     connect(this, &QListWidget::itemDoubleClicked, this, &NetworkList::ConnectWanted);
+    connect(this, &QListWidget::itemClicked, this, [this](const QListWidgetItem *clicked) {
+        if (IsHeader(row(clicked))) {
+            Fold();
+        }
+    });
     connect(m_drag, &RowDrag::Dropped, this, &NetworkList::Dropped);
 }
 
@@ -54,23 +67,40 @@ void NetworkList::SetDraggable(bool isOn)
     m_drag->SetOn(isOn);
 }
 
-void NetworkList::Show(const Overview &overview)
+QList<ListedEntry> NetworkList::RowsOf(const Overview &overview) const
 {
-    const bool isFirst = m_rows.isEmpty();
-    const QList<ListedEntry> selected = Selected();
-    const int formerRow = currentRow();
-    const ListedEntry current = m_rows.value(formerRow);
-    const Sight sight = InSight();
     QList<PriorityList> entries;
     for (const Overview::Entry &entry : overview.entries) {
         entries.append(entry.entry);
     }
-    const QList<ListedEntry> rows = ListEdit::Numbered(entries);
+    QList<ListedEntry> rows = ListEdit::Numbered(entries);
+    // Of a list that can't be read in full nobody knows what is not in it.
+    if (rows.isEmpty() || overview.unlisted.isEmpty() || !overview.IsListWhole()) {
+        return rows;
+    }
+    rows.append(ListedEntry{PriorityList(), header});
+    // A search is for all that is there.
+    for (int i = 0; i < overview.unlisted.size() && (!m_isFolded || IsSearched()); ++i) {
+        rows.append(ListedEntry{overview.unlisted.at(i).entry, notListed});
+    }
+    return rows;
+}
+
+void NetworkList::Show(const Overview &overview)
+{
+    const bool isFirst = m_rows.isEmpty();
+    const QList<ListedEntry> selected = Selected() + SelectedRows(notListed);
+    const int formerRow = currentRow();
+    const ListedEntry current = m_rows.value(formerRow);
+    const Sight sight = InSight();
+    const QList<ListedEntry> rows = RowsOf(overview);
     const bool isSame = rows == m_rows;
     {
         // Whoever follows the selection is to see it with the networks that it belongs to.
         const QSignalBlocker blocker(this);
         m_rows = rows;
+        m_listed = static_cast<int>(overview.entries.size());
+        m_drag->SetEnd(m_listed);
         while (count() > m_rows.size()) {
             delete takeItem(count() - 1);
         }
@@ -93,38 +123,87 @@ void NetworkList::Show(const Overview &overview)
 
 void NetworkList::ShowRow(int row, const Overview &overview)
 {
-    const Overview::Entry &entry = overview.entries.at(row);
-    const QString state = OverviewText::State(overview, row);
-    const QString reason = OverviewText::Reason(overview, row);
+    item(row)->setData(NetworkDelegate::IsSectionRole, IsHeader(row));
+    item(row)->setData(NetworkDelegate::HasNoPlaceRole, row >= m_listed);
+    if (IsHeader(row)) {
+        ShowHeader(static_cast<int>(overview.unlisted.size()));
+        return;
+    }
+    if (row > m_listed) {
+        const Overview::Entry &entry = overview.unlisted.at(row - m_listed - 1);
+        ShowState(row, overview, entry, OverviewText::UnlistedDetail(entry), QString());
+    } else {
+        ShowState(row, overview, overview.entries.at(row), OverviewText::Detail(overview, row),
+                  OverviewText::Reason(overview, row));
+    }
+}
+
+void NetworkList::ShowHeader(int count)
+{
+    QListWidgetItem *shown = item(m_listed);
+    const QString hint = DashboardText("IDS_UNLISTED_HINT");
+    shown->setText(DashboardText("IDS_UNLISTED_TITLE").arg(DashboardNumber(count)));
+    shown->setData(NetworkDelegate::FoldRole,
+                   m_isFolded && !IsSearched() ? NetworkDelegate::Folded : NetworkDelegate::Open);
+    shown->setToolTip(hint);
+    shown->setData(Qt::AccessibleTextRole, shown->text());
+    shown->setData(Qt::AccessibleDescriptionRole, hint);
+}
+
+void NetworkList::ShowState(int row, const Overview &overview, const Overview::Entry &entry,
+                            const QString &detail, const QString &reason)
+{
+    const QString state = OverviewText::State(overview, entry);
     const QString name = Caption(entry.entry);
     QListWidgetItem *shown = item(row);
     shown->setText(name);
-    shown->setData(NetworkDelegate::DetailTextRole, OverviewText::Detail(overview, row));
+    shown->setData(NetworkDelegate::DetailTextRole, detail);
     shown->setData(NetworkDelegate::StateTextRole, state);
-    shown->setData(NetworkDelegate::MarkRole, OverviewText::Mark(overview, row));
+    shown->setData(NetworkDelegate::MarkRole, OverviewText::Mark(overview, entry));
     shown->setData(NetworkDelegate::KindRole, entry.IsWifi() ? Glyphs::Wifi : Glyphs::Mobile);
-    shown->setData(NetworkDelegate::ReachRole, OverviewText::Reach(overview, row));
+    shown->setData(NetworkDelegate::ReachRole, OverviewText::Reach(overview, entry));
     shown->setData(NetworkDelegate::SignalRole, entry.signal);
     shown->setToolTip(reason.toHtmlEscaped());
     shown->setData(Qt::AccessibleDescriptionRole, reason);
-    shown->setData(Qt::AccessibleTextRole,
-                   QString::fromLatin1("%1, %2, %3").arg(name, OverviewText::Kind(entry), state));
+    const QString kind = row < m_listed ? OverviewText::Kind(entry) : detail;
+    shown->setData(Qt::AccessibleTextRole, QString::fromLatin1("%1, %2, %3").arg(name, kind, state));
 }
 
-QList<ListedEntry> NetworkList::Selected() const
+QList<ListedEntry> NetworkList::SelectedRows(int repetition) const
 {
     QList<ListedEntry> entries;
     for (int i = 0; i < m_rows.size(); ++i) {
-        if (item(i)->isSelected()) {
+        const bool isOf = repetition < 0 ? m_rows.at(i).repetition == repetition : i < m_listed;
+        if (isOf && item(i)->isSelected()) {
             entries.append(m_rows.at(i));
         }
     }
     return entries;
 }
 
-int NetworkList::CurrentPlace() const
+QList<ListedEntry> NetworkList::Selected() const
 {
-    return currentRow();
+    return SelectedRows(0);
+}
+
+QList<PriorityList> NetworkList::SelectedUnlisted() const
+{
+    QList<PriorityList> entries;
+    const QList<ListedEntry> rows = SelectedRows(notListed);
+    for (const ListedEntry &row : rows) {
+        entries.append(row.entry);
+    }
+    return entries;
+}
+
+const Overview::Entry *NetworkList::Current(const Overview &overview) const
+{
+    const int row = currentRow();
+    const int unlisted = row - m_listed - 1;
+    if (row >= 0 && row < m_listed && row < overview.entries.size()) {
+        return &overview.entries.at(row);
+    }
+    return row > m_listed && unlisted < overview.unlisted.size() ? &overview.unlisted.at(unlisted) : nullptr;
 }
 
 void NetworkList::Select(const QList<ListedEntry> &entries)
@@ -147,7 +226,7 @@ void NetworkList::Choose(const QList<ListedEntry> &selected, const ListedEntry &
     }
     // Where the current one has gone, what stands in its place is nearest to it.
     const int kept = RowOf(current);
-    const int row = formerRow < 0 || kept >= 0 ? kept : qMin(formerRow, count() - 1);
+    const int row = formerRow < 0 || kept >= 0 ? kept : qMin(formerRow, m_listed - 1);
     const QModelIndex index = indexFromItem(item(row));
     selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
     if (rows.isEmpty() && !selected.isEmpty() && index.isValid()) {
@@ -180,8 +259,32 @@ void NetworkList::Keep(const Sight &sight)
     }
 }
 
+bool NetworkList::TakeHeaderKey(const QKeyEvent *event)
+{
+    const int key = event->key();
+    const bool isTaken =
+        IsHeader(currentRow()) && (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space);
+    if (isTaken) {
+        Fold();
+    }
+    return isTaken;
+}
+
+void NetworkList::Fold()
+{
+    m_isFolded = !m_isFolded;
+    Settings::Write(FoldedKey(), m_isFolded);
+    emit Folded();
+}
+
 void NetworkList::keyPressEvent(QKeyEvent *event)
 {
+    const bool isMove = event->modifiers() == Qt::AltModifier;
+    // Where what is selected can't be moved, the keys for that do nothing else.
+    if (isMove || TakeHeaderKey(event)) {
+        event->setAccepted(!isMove);
+        return;
+    }
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         emit ConnectWanted();
     } else if (event->key() == Qt::Key_Escape) {
@@ -222,14 +325,19 @@ bool NetworkList::HasFoundNothing() const
 void NetworkList::ShowFound()
 {
     QListWidgetItem *first = nullptr;
+    bool hasUnlisted = !IsSearched();
     for (int i = 0; i < count(); ++i) {
-        const bool isFound = Searchable(item(i)->text()).contains(m_wanted);
+        const bool isFound = !IsHeader(i) && Searchable(item(i)->text()).contains(m_wanted);
+        hasUnlisted = hasUnlisted || (isFound && i > m_listed);
         item(i)->setHidden(!isFound);
-        if (!isFound) {
+        if (!isFound && (IsSearched() || !IsHeader(i))) {
             item(i)->setSelected(false);
-        } else if (!first) {
+        } else if (!first && isFound) {
             first = item(i);
         }
+    }
+    if (m_listed < count()) {
+        item(m_listed)->setHidden(!hasUnlisted);
     }
     if (currentItem() && currentItem()->isHidden()) {
         setCurrentItem(first);

@@ -2,16 +2,17 @@
 #define NETWORKLIST_H
 
 #include <ListEdit.h>
+#include <Overview.h>
 
 #include <QList>
 #include <QListWidget>
 
-struct Overview;
 class RowDrag;
 
 /**
- * The networks of the list, one in each row. What is selected, the current row and what is in sight belong to
- * the networks and not to their rows: they stay with them wherever the list moves these.
+ * The networks of the list, one in each row, and below them, under a line that folds them, the saved ones
+ * that are not in the list. What is selected, the current row and what is in sight belong to the networks and
+ * not to their rows: they stay with them wherever the list moves these.
  */
 class NetworkList : public QListWidget
 {
@@ -22,14 +23,17 @@ public:
 
     void Show(const Overview &overview);
 
-    /** All that are shown, row by row. */
-    QList<ListedEntry> Rows() const { return m_rows; }
+    /** Those of the list, row by row. */
+    QList<ListedEntry> Listed() const { return m_rows.mid(0, m_listed); }
 
-    /** What is selected, in the order of the list. */
+    /** What is selected of the list, in its order. */
     QList<ListedEntry> Selected() const;
 
-    /** The place of the current network, counted from 0; -1 when there is none. */
-    int CurrentPlace() const;
+    /** What is selected of those that are not in the list. */
+    QList<PriorityList> SelectedUnlisted() const;
+
+    /** The current network, of what was shown; null when there is none. */
+    const Overview::Entry *Current(const Overview &overview) const;
 
     /** Selects those entries that are shown, and nothing else; without any it changes nothing. */
     void Select(const QList<ListedEntry> &entries);
@@ -55,6 +59,9 @@ signals:
     /** A menu for what is selected is wanted, at that place of the screen. */
     void MenuWanted(const QPoint &place);
 
+    /** The line was pressed that folds what is below it: show it all again. */
+    void Folded();
+
     /** Escape was pressed. */
     void Left();
 
@@ -76,12 +83,24 @@ private:
     Sight InSight() const;
     void Keep(const Sight &sight);
     void ShowRow(int row, const Overview &overview);
+    void ShowHeader(int count);
+    void ShowState(int row, const Overview &overview, const Overview::Entry &entry, const QString &detail,
+                   const QString &reason);
+    /** Of those that have it; any that is 0 or more: of the list. */
+    QList<ListedEntry> SelectedRows(int repetition) const;
+    QList<ListedEntry> RowsOf(const Overview &overview) const;
+    bool IsHeader(int row) const { return row == m_listed && row < count(); }
+    bool TakeHeaderKey(const QKeyEvent *event);
+    void Fold();
     void Choose(const QList<ListedEntry> &selected, const ListedEntry &current, int formerRow);
     int RowOf(const ListedEntry &entry) const { return static_cast<int>(m_rows.indexOf(entry)); }
     void AskForMenu();
     void ShowFound();
 
     QList<ListedEntry> m_rows;
+    /** How many of the rows are of the list. */
+    int m_listed = 0;
+    bool m_isFolded;
     RowDrag *m_drag;
     QString m_wanted;
 };

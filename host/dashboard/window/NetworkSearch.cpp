@@ -20,7 +20,6 @@ NetworkSearch::NetworkSearch(NetworkList *list)
     : m_list(list), m_start(new QAction(this)), m_clear(new QAction(this))
 {
     setObjectName(QLatin1String("findEdit"));
-    setClearButtonEnabled(true);
     setMaximumWidth(DialogParts::ForFont(widest));
     hide();
     m_start->setObjectName(QLatin1String("findAction"));
@@ -33,7 +32,7 @@ NetworkSearch::NetworkSearch(NetworkList *list)
 
 void NetworkSearch::Follow()
 {
-    setVisible(IsWanted() || m_list->Rows().size() >= searchableCount);
+    setVisible(IsWanted() || m_list->Listed().size() >= searchableCount);
 }
 
 void NetworkSearch::Retranslate()

@@ -25,6 +25,8 @@ const qreal lifted = 0.85;
 class RowDrag::Mark : public QWidget
 {
 public:
+    static const int noLine = -1000;
+
     Mark(QAbstractScrollArea *list, const QRect &row, const QPoint &taken)
         : QWidget(list), m_list(list), m_row(list->viewport()->grab(row)), m_grip(taken.y() - row.top())
     {
@@ -48,7 +50,10 @@ protected:
         painter.setOpacity(lifted);
         painter.drawPixmap(0, m_pointer - m_grip, m_row);
         painter.setOpacity(1);
-        painter.fillRect(0, qBound(0, m_line - 1, height() - 2), width(), 2, Tones::OfApplication().accent);
+        if (m_line != noLine) {
+            painter.fillRect(0, qBound(0, m_line - 1, height() - 2), width(), 2,
+                             Tones::OfApplication().accent);
+        }
     }
 
 private:
@@ -141,7 +146,7 @@ bool RowDrag::Release(const QMouseEvent *event)
         m_isPressed = false;
         End();
     }
-    if (isDropped) {
+    if (isDropped && row >= 0) {
         emit Dropped(row);
     }
     return wasTaken;
@@ -149,7 +154,8 @@ bool RowDrag::Release(const QMouseEvent *event)
 
 void RowDrag::Begin()
 {
-    const QListWidgetItem *taken = m_list->itemAt(m_pressedAt);
+    QListWidgetItem *taken = m_list->itemAt(m_pressedAt);
+    m_isFromBehind = taken && m_list->row(taken) > EndOfRows();
     if (taken && taken->isSelected()) {
         m_mark = new Mark(m_list, m_list->visualItemRect(taken), m_pressedAt);
         m_list->viewport()->setCursor(Qt::ClosedHandCursor);
@@ -160,8 +166,9 @@ void RowDrag::Begin()
 void RowDrag::Follow()
 {
     const int row = RowAt(m_place);
-    const QRect area = m_list->visualItemRect(m_list->item(qMin(row, m_list->count() - 1)));
-    m_mark->Show(row < m_list->count() ? area.top() : area.bottom() + 1, m_place.y());
+    const QRect area = m_list->visualItemRect(m_list->item(qMin(qMax(row, 0), m_list->count() - 1)));
+    const int line = row < m_list->count() ? area.top() : area.bottom() + 1;
+    m_mark->Show(row < 0 ? Mark::noLine : line, m_place.y());
 }
 
 void RowDrag::Scroll()
@@ -190,7 +197,6 @@ int RowDrag::EndOfRows() const
     return m_end < 0 ? m_list->count() : qMin(m_end, m_list->count());
 }
 
-/** The row before which the place is. */
 int RowDrag::RowAt(const QPoint &place) const
 {
     for (int i = 0; i < EndOfRows(); ++i) {
@@ -198,5 +204,7 @@ int RowDrag::RowAt(const QPoint &place) const
             return i;
         }
     }
-    return EndOfRows();
+    const int end = EndOfRows();
+    const QListWidgetItem *behind = m_list->item(end);
+    return m_isFromBehind && behind && place.y() > m_list->visualItemRect(behind).bottom() ? -1 : end;
 }

@@ -26,7 +26,8 @@ public:
     /** A drag that is under way ends without a drop when it is turned off. */
     void SetOn(bool isOn);
 
-    /** Rows from that one on are no places to drop at; -1: all are. */
+    /** Before rows behind that one nothing can be dropped; -1: all are places to drop at. A row from behind
+     * there is dropped at the end only by letting go above it. */
     void SetEnd(int row) { m_end = row; }
 
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -47,6 +48,7 @@ private:
     void Follow();
     void Scroll();
     void End();
+    /** The row before which the place is; -1: it is no place to drop at. */
     int RowAt(const QPoint &place) const;
     int EndOfRows() const;
 
@@ -57,6 +59,7 @@ private:
     bool m_isPressed = false;
     /** The drag has ended, and the button may still be down. */
     bool m_isOver = false;
+    bool m_isFromBehind = false;
     int m_end = -1;
     QPoint m_pressedAt;
     QPoint m_place;

@@ -5,6 +5,7 @@
 #include <DashboardLanguage.h>
 #include <ListEntries.h>
 #include <MainWindow.h>
+#include <NetworkDelegate.h>
 #include <NetworkList.h>
 #include <OrderFile.h>
 #include <TraceLog.h>
@@ -61,6 +62,14 @@ private slots:
     void LowWindowHasTheSearchOnDemand();
     void ButtonsMove();
     void ButtonsFitTheSmallestWidth();
+    void SavedNetworksStandBelowTheList();
+    void FoldedNetworksStayFolded_data();
+    void FoldedNetworksStayFolded();
+    void SavedNetworkIsAddedAtTheEnd();
+    void SavedNetworkIsDraggedToItsPlace();
+    void SavedNetworkIsNotDraggedAmongTheOthers();
+    void DamagedListTellsOfNoOthers();
+    void SearchFindsFoldedNetworks();
     void MenuConnectsFirst();
     void MenuOpensWithoutTheMouse_data();
     void MenuOpensWithoutTheMouse();
@@ -388,7 +397,7 @@ void NetworkListTest::SearchFindsPartsOfNames()
     QCOMPARE(m_window->focusWidget(), Search());
     QTest::keyClicks(Search(), typed);
     QStringList found;
-    for (int i = 0; i < List()->count(); ++i) {
+    for (int i = 0; i < List()->Listed().size(); ++i) {
         if (!List()->item(i)->isHidden()) {
             found.append(List()->item(i)->text());
         }
@@ -476,6 +485,100 @@ void NetworkListTest::ButtonsFitTheSmallestWidth()
     QCOMPARE(m_window->width(), m_window->minimumWidth());
     const QWidget *last = m_window->findChild<QWidget *>("removeButton");
     QTRY_VERIFY(last->visibleRegion().boundingRect() == last->rect());
+}
+
+void NetworkListTest::SavedNetworksStandBelowTheList()
+{
+    Fill("Office, Home");
+    QCOMPARE(List()->item(2)->text(), QString("Not in your list (5)"));
+    QCOMPARE(List()->count(), 8);
+    QCOMPARE(List()->Listed().size(), 2);
+    QVERIFY(List()->item(3)->data(NetworkDelegate::DetailTextRole).toString().contains("Saved"));
+    for (int i = 3; i < List()->count(); ++i) {
+        QVERIFY(List()->item(i)->text() != "Office" && List()->item(i)->text() != "Home");
+    }
+}
+
+void NetworkListTest::FoldedNetworksStayFolded_data()
+{
+    QTest::addColumn<bool>("byKey");
+    QTest::newRow("click") << false;
+    QTest::newRow("Enter") << true;
+}
+
+void NetworkListTest::FoldedNetworksStayFolded()
+{
+    QFETCH(bool, byKey);
+    const int all = List()->count();
+    const auto fold = [this, byKey] {
+        if (byKey) {
+            List()->setCurrentRow(4);
+            Press(Qt::Key_Return);
+        } else {
+            Click(4);
+        }
+    };
+    fold();
+    QCOMPARE(List()->count(), 5);
+    m_window.reset(new MainWindow(m_world.Plugins(), m_language.data(), m_log.data()));
+    m_window->show();
+    QCOMPARE(List()->count(), 5);
+    fold();
+    QCOMPARE(List()->count(), all);
+}
+
+void NetworkListTest::SavedNetworkIsAddedAtTheEnd()
+{
+    Fill("Office, A");
+    QVERIFY(!Action("addAction")->isEnabled());
+    QCOMPARE(List()->item(3)->text(), QString("Home"));
+    Click(3);
+    QVERIFY(!Action("removeAction")->isEnabled());
+    Action("addAction")->trigger();
+    QCOMPARE(PluginWorld::Stored(), QString("Office, A, Home"));
+    QCOMPARE(Selected(), QString("Home"));
+    Action("undoAction")->trigger();
+    QCOMPARE(PluginWorld::Stored(), QString("Office, A"));
+}
+
+void NetworkListTest::SavedNetworkIsDraggedToItsPlace()
+{
+    Fill("Office, A");
+    Click(3);
+    DragTo(3, UpperEdge(1) + 3);
+    Drop(UpperEdge(1) + 3);
+    QCOMPARE(PluginWorld::Stored(), QString("Office, Home, A"));
+    QCOMPARE(Selected(), QString("Home"));
+}
+
+void NetworkListTest::SavedNetworkIsNotDraggedAmongTheOthers()
+{
+    Fill("Office, A");
+    Click(3);
+    DragTo(3, UpperEdge(4) + 30);
+    Drop(UpperEdge(4) + 30);
+    QCOMPARE(PluginWorld::Stored(), QString("Office, A"));
+}
+
+void NetworkListTest::DamagedListTellsOfNoOthers()
+{
+    m_world.Write("Priority.xml", "<z><item name='A' type='1'/><item");
+    m_window->Refresh();
+    QCOMPARE(List()->count(), 1);
+}
+
+void NetworkListTest::SearchFindsFoldedNetworks()
+{
+    Fill("Office, A");
+    Click(2);
+    Action("findAction")->trigger();
+    QTest::keyClicks(Search(), "hom");
+    QVERIFY(List()->item(0)->isHidden() && !List()->item(2)->isHidden());
+    QCOMPARE(List()->item(3)->text(), QString("Home"));
+    QVERIFY(!List()->item(3)->isHidden() && List()->item(4)->isHidden());
+    QTest::keyClick(Search(), Qt::Key_Escape);
+    QCOMPARE(List()->count(), 3);
+    Click(2);
 }
 
 void NetworkListTest::MenuConnectsFirst()
