@@ -1222,6 +1222,82 @@
         <translation>&amp;تصدير القائمة…</translation>
     </message>
     <message>
+        <source>IDS_EDIT_CONNECT</source>
+        <translation>ات&amp;صال</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_UP</source>
+        <translation>&amp;نقل إلى أعلى</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_DOWN</source>
+        <translation>نقل إلى أس&amp;فل</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_TOP</source>
+        <translation>نقل إلى أ&amp;ول القائمة</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_END</source>
+        <translation>نقل إلى آ&amp;خر القائمة</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_REMOVE</source>
+        <translation>إ&amp;زالة من القائمة</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_ADD</source>
+        <translation>إضافة إلى ال&amp;قائمة</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_TITLE</source>
+        <translation>ليست في قائمتك (%1)</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_HINT</source>
+        <translation>انقر أو اضغط Enter لإظهار هذه الشبكات أو إخفائها.</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_SAVED</source>
+        <translation>&#x200f;%1 · محفوظة</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_NONE</source>
+        <translation>اختر أولًا شبكة ليست في قائمتك.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_NONE</source>
+        <translation>اختر أولًا شبكة من القائمة.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_IN_PLACE</source>
+        <translation>هي هناك أصلًا.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_GONE</source>
+        <translation>غيّر برنامج آخر قائمتك. لم تعد %1 فيها.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_PLACE</source>
+        <translation>&#x200f;%1: الموضع %2 من %3</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_ACTION</source>
+        <translation>ال&amp;بحث عن شبكة</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_NONE</source>
+        <translation>لا توجد شبكة في اسمها «%1».</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_CLEAR</source>
+        <translation>مسح البحث</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_MOVES</source>
+        <translation>امسح البحث لنقل الشبكات إلى أعلى أو أسفل.</translation>
+    </message>
+    <message>
         <source>IDS_BUTTON_UNDO</source>
         <translation>تراجع</translation>
     </message>

@@ -1223,6 +1223,82 @@ Erwartet: %3</translation>
         <translation>Liste &amp;exportieren&#xa0;…</translation>
     </message>
     <message>
+        <source>IDS_EDIT_CONNECT</source>
+        <translation>&amp;Verbinden</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_UP</source>
+        <translation>Nach &amp;oben verschieben</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_DOWN</source>
+        <translation>Nach &amp;unten verschieben</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_TOP</source>
+        <translation>An den &amp;Anfang verschieben</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_END</source>
+        <translation>Ans En&amp;de verschieben</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_REMOVE</source>
+        <translation>Aus der Liste entfer&amp;nen</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_ADD</source>
+        <translation>Zur Liste hinzufü&amp;gen</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_TITLE</source>
+        <translation>Nicht in Ihrer Liste (%1)</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_HINT</source>
+        <translation>Klicken Sie oder drücken Sie die Eingabetaste, um diese Netzwerke ein- oder auszublenden.</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_SAVED</source>
+        <translation>%1 · Gespeichert</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_NONE</source>
+        <translation>Wählen Sie zuerst ein Netzwerk aus, das nicht in Ihrer Liste steht.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_NONE</source>
+        <translation>Wählen Sie zuerst ein Netzwerk in der Liste aus.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_IN_PLACE</source>
+        <translation>Es steht schon dort.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_GONE</source>
+        <translation>Ein anderes Programm hat Ihre Liste geändert. %1 steht nicht mehr darin.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_PLACE</source>
+        <translation>%1: Platz %2 von %3</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_ACTION</source>
+        <translation>Netzwerk &amp;suchen</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_NONE</source>
+        <translation>Kein Netzwerk hat „%1“ im Namen.</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_CLEAR</source>
+        <translation>Suche beenden</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_MOVES</source>
+        <translation>Beenden Sie die Suche, um Netzwerke nach oben oder unten zu verschieben.</translation>
+    </message>
+    <message>
         <source>IDS_BUTTON_UNDO</source>
         <translation>Rückgängig</translation>
     </message>

@@ -1338,6 +1338,97 @@ Expected: %3</translation>
         <translation>&amp;Export list…</translation>
     </message>
     <message>
+        <source>IDS_EDIT_CONNECT</source>
+        <extracomment>In the menu of a network of the list: connects it now</extracomment>
+        <translation>&amp;Connect</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_UP</source>
+        <extracomment>In the Edit menu and in the menu of a network of the list, as the next four</extracomment>
+        <translation>Move u&amp;p</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_DOWN</source>
+        <translation>Move &amp;down</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_TOP</source>
+        <translation>Move to &amp;top</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_END</source>
+        <translation>Move to e&amp;nd</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_REMOVE</source>
+        <translation>Remove &amp;from list</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_ADD</source>
+        <extracomment>In the Edit menu and in the menu of a saved network that is not in the list</extracomment>
+        <translation>&amp;Add to list</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_TITLE</source>
+        <extracomment>Above the saved networks that are not in the list; %1: how many</extracomment>
+        <translation>Not in your list (%1)</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_HINT</source>
+        <extracomment>Tool tip of that line</extracomment>
+        <translation>Click, or press Enter, to show or hide these networks.</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_SAVED</source>
+        <extracomment>Below the name of a network that is not in the list; %1: Wi-Fi or mobile broadband</extracomment>
+        <translation>%1 · Saved</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_NONE</source>
+        <extracomment>Why no network can be added: none is chosen</extracomment>
+        <translation>Choose a network that is not in your list first.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_NONE</source>
+        <extracomment>Why a network can't be moved or removed: none is chosen</extracomment>
+        <translation>Choose a network in the list first.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_IN_PLACE</source>
+        <extracomment>Why a network can't be moved up, down, to the top or to the end</extracomment>
+        <translation>It stands there already.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_GONE</source>
+        <extracomment>What was to be moved or removed has gone meanwhile; %1: one or more networks</extracomment>
+        <translation>Another program has changed your list. %1 is no longer in it.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_PLACE</source>
+        <extracomment>Told by screen readers; %1: what was done, such as "Moved Café up"; %2: its place then; %3: how many networks there are</extracomment>
+        <translation>%1: place %2 of %3</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_ACTION</source>
+        <extracomment>In the Edit menu: goes to the field that finds networks of the list by their names</extracomment>
+        <translation>Find a net&amp;work</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_NONE</source>
+        <extracomment>In place of the list; %1: what is looked for</extracomment>
+        <translation>No network has “%1” in its name.</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_CLEAR</source>
+        <extracomment>Button below that: shows all networks again</extracomment>
+        <translation>Clear search</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_MOVES</source>
+        <extracomment>Why a network can't be moved up or down while networks are looked for</extracomment>
+        <translation>Clear the search to move networks up or down.</translation>
+    </message>
+    <message>
         <source>IDS_BUTTON_UNDO</source>
         <translation>Undo</translation>
     </message>

@@ -1223,6 +1223,82 @@ Esperado: %3</translation>
         <translation>E&amp;xportar lista…</translation>
     </message>
     <message>
+        <source>IDS_EDIT_CONNECT</source>
+        <translation>Co&amp;nectar</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_UP</source>
+        <translation>&amp;Subir</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_DOWN</source>
+        <translation>&amp;Bajar</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_TOP</source>
+        <translation>Mover al &amp;principio</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_END</source>
+        <translation>Mover al &amp;final</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_REMOVE</source>
+        <translation>&amp;Quitar de la lista</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_ADD</source>
+        <translation>&amp;Añadir a la lista</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_TITLE</source>
+        <translation>Fuera de su lista (%1)</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_HINT</source>
+        <translation>Haga clic o pulse Intro para mostrar u ocultar estas redes.</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_SAVED</source>
+        <translation>%1 · Guardada</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_NONE</source>
+        <translation>Elija antes una red que no esté en su lista.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_NONE</source>
+        <translation>Elija antes una red de la lista.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_IN_PLACE</source>
+        <translation>Ya está ahí.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_GONE</source>
+        <translation>Otro programa ha cambiado su lista. %1 ya no está en ella.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_PLACE</source>
+        <translation>%1: puesto %2 de %3</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_ACTION</source>
+        <translation>B&amp;uscar una red</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_NONE</source>
+        <translation>Ninguna red tiene «%1» en su nombre.</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_CLEAR</source>
+        <translation>Terminar la búsqueda</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_MOVES</source>
+        <translation>Termine la búsqueda para subir o bajar redes.</translation>
+    </message>
+    <message>
         <source>IDS_BUTTON_UNDO</source>
         <translation>Deshacer</translation>
     </message>

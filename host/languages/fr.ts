@@ -1223,6 +1223,82 @@ Attendu&#xa0;: %3</translation>
         <translation>E&amp;xporter la liste…</translation>
     </message>
     <message>
+        <source>IDS_EDIT_CONNECT</source>
+        <translation>Se &amp;connecter</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_UP</source>
+        <translation>&amp;Monter</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_DOWN</source>
+        <translation>&amp;Descendre</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_TOP</source>
+        <translation>Placer en &amp;tête</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_END</source>
+        <translation>Placer à la &amp;fin</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_REMOVE</source>
+        <translation>Retirer de la li&amp;ste</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_ADD</source>
+        <translation>&amp;Ajouter à la liste</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_TITLE</source>
+        <translation>Hors de votre liste (%1)</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_HINT</source>
+        <translation>Cliquez, ou appuyez sur Retour, pour afficher ou masquer ces réseaux.</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_SAVED</source>
+        <translation>%1 · Enregistré</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_NONE</source>
+        <translation>Choisissez d’abord un réseau qui n’est pas dans votre liste.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_NONE</source>
+        <translation>Choisissez d’abord un réseau dans la liste.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_IN_PLACE</source>
+        <translation>Il y est déjà.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_GONE</source>
+        <translation>Un autre programme a modifié votre liste. %1 n’y est plus.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_PLACE</source>
+        <translation>%1&#xa0;: rang %2 sur %3</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_ACTION</source>
+        <translation>Rec&amp;hercher un réseau</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_NONE</source>
+        <translation>Aucun réseau n’a «&#xa0;%1&#xa0;» dans son nom.</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_CLEAR</source>
+        <translation>Effacer la recherche</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_MOVES</source>
+        <translation>Effacez la recherche pour monter ou descendre des réseaux.</translation>
+    </message>
+    <message>
         <source>IDS_BUTTON_UNDO</source>
         <translation>Annuler l’action</translation>
     </message>

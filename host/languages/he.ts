@@ -1222,6 +1222,82 @@
         <translation>יי&amp;צוא הרשימה…</translation>
     </message>
     <message>
+        <source>IDS_EDIT_CONNECT</source>
+        <translation>הת&amp;חברות</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_UP</source>
+        <translation>העברה למ&amp;עלה</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_DOWN</source>
+        <translation>העברה למ&amp;טה</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_TOP</source>
+        <translation>העברה לרא&amp;ש הרשימה</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_END</source>
+        <translation>העברה ל&amp;סוף הרשימה</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_REMOVE</source>
+        <translation>הסרה &amp;מהרשימה</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_ADD</source>
+        <translation>ה&amp;וספה לרשימה</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_TITLE</source>
+        <translation>לא ברשימה שלך (%1)</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_HINT</source>
+        <translation>לחיצה או Enter מציגים או מסתירים את הרשתות האלה.</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_SAVED</source>
+        <translation>&#x200f;%1 · שמורה</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_NONE</source>
+        <translation>יש לבחור תחילה רשת שאינה ברשימה שלך.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_NONE</source>
+        <translation>יש לבחור תחילה רשת ברשימה.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_IN_PLACE</source>
+        <translation>היא כבר נמצאת שם.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_GONE</source>
+        <translation>תוכנה אחרת שינתה את הרשימה שלך. %1 כבר אינה ברשימה.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_PLACE</source>
+        <translation>&#x200f;%1: מקום %2 מתוך %3</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_ACTION</source>
+        <translation>חי&amp;פוש רשת</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_NONE</source>
+        <translation>אין רשת ש„%1” בשמה.</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_CLEAR</source>
+        <translation>ניקוי החיפוש</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_MOVES</source>
+        <translation>כדי להעביר רשתות למעלה או למטה יש לנקות את החיפוש.</translation>
+    </message>
+    <message>
         <source>IDS_BUTTON_UNDO</source>
         <translation>ביטול פעולה</translation>
     </message>

@@ -1223,6 +1223,82 @@
         <translation>リストのエクスポート(&amp;E)…</translation>
     </message>
     <message>
+        <source>IDS_EDIT_CONNECT</source>
+        <translation>接続(&amp;C)</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_UP</source>
+        <translation>上へ移動(&amp;P)</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_DOWN</source>
+        <translation>下へ移動(&amp;D)</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_TOP</source>
+        <translation>先頭へ移動(&amp;T)</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_END</source>
+        <translation>末尾へ移動(&amp;N)</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_REMOVE</source>
+        <translation>リストから削除(&amp;F)</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_ADD</source>
+        <translation>リストに追加(&amp;A)</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_TITLE</source>
+        <translation>リストにないもの (%1)</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_HINT</source>
+        <translation>クリックするか Enter キーを押すと、これらのネットワークの表示と非表示を切り替えます。</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_SAVED</source>
+        <translation>%1 · 登録済み</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_NONE</source>
+        <translation>先に、リストにないネットワークを選択してください。</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_NONE</source>
+        <translation>先にリストでネットワークを選択してください。</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_IN_PLACE</source>
+        <translation>すでにその順位にあります。</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_GONE</source>
+        <translation>ほかのプログラムがリストを変更しました。%1 はもうリストにありません。</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_PLACE</source>
+        <translation>%1: %3 個中の順位 %2</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_ACTION</source>
+        <translation>ネットワークを探す(&amp;W)</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_NONE</source>
+        <translation>名前に「%1」を含むネットワークはありません。</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_CLEAR</source>
+        <translation>検索をやめる</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_MOVES</source>
+        <translation>ネットワークを上下に移動するには、検索をやめてください。</translation>
+    </message>
+    <message>
         <source>IDS_BUTTON_UNDO</source>
         <translation>元に戻す</translation>
     </message>

@@ -1223,6 +1223,82 @@
         <translation>&amp;Экспортировать список…</translation>
     </message>
     <message>
+        <source>IDS_EDIT_CONNECT</source>
+        <translation>Подкл&amp;ючиться</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_UP</source>
+        <translation>Переместить &amp;вверх</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_DOWN</source>
+        <translation>Переместить вни&amp;з</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_TOP</source>
+        <translation>Переместить в на&amp;чало</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_END</source>
+        <translation>Переместить в &amp;конец</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_REMOVE</source>
+        <translation>&amp;Убрать из списка</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_ADD</source>
+        <translation>&amp;Добавить в список</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_TITLE</source>
+        <translation>Не в вашем списке (%1)</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_HINT</source>
+        <translation>Щёлкните или нажмите Enter, чтобы показать или скрыть эти сети.</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_SAVED</source>
+        <translation>%1 · Сохранена</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_NONE</source>
+        <translation>Сначала выберите сеть, которой нет в вашем списке.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_NONE</source>
+        <translation>Сначала выберите сеть в списке.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_IN_PLACE</source>
+        <translation>Она уже стоит там.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_GONE</source>
+        <translation>Другая программа изменила ваш список. В нём больше нет: %1.</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_PLACE</source>
+        <translation>%1: место %2 из %3</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_ACTION</source>
+        <translation>Найти с&amp;еть</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_NONE</source>
+        <translation>Ни у одной сети нет «%1» в имени.</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_CLEAR</source>
+        <translation>Сбросить поиск</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_MOVES</source>
+        <translation>Чтобы перемещать сети вверх и вниз, сбросьте поиск.</translation>
+    </message>
+    <message>
         <source>IDS_BUTTON_UNDO</source>
         <translation>Отменить</translation>
     </message>

@@ -1223,6 +1223,82 @@
         <translation>导出列表(&amp;E)…</translation>
     </message>
     <message>
+        <source>IDS_EDIT_CONNECT</source>
+        <translation>连接(&amp;C)</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_UP</source>
+        <translation>上移(&amp;P)</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_DOWN</source>
+        <translation>下移(&amp;D)</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_TOP</source>
+        <translation>移到顶部(&amp;T)</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_END</source>
+        <translation>移到末尾(&amp;N)</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_REMOVE</source>
+        <translation>从列表中移除(&amp;F)</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_ADD</source>
+        <translation>添加到列表(&amp;A)</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_TITLE</source>
+        <translation>不在您的列表中（%1）</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_HINT</source>
+        <translation>单击或按 Enter 键可显示或隐藏这些网络。</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_SAVED</source>
+        <translation>%1 · 已保存</translation>
+    </message>
+    <message>
+        <source>IDS_UNLISTED_NONE</source>
+        <translation>请先选择一个不在您的列表中的网络。</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_NONE</source>
+        <translation>请先在列表中选择一个网络。</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_IN_PLACE</source>
+        <translation>它已在那个位置。</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_GONE</source>
+        <translation>另一个程序更改了您的列表。%1 已不在其中。</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_PLACE</source>
+        <translation>%1：位置 %2（共 %3 个）</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_ACTION</source>
+        <translation>查找网络(&amp;W)</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_NONE</source>
+        <translation>没有名称包含“%1”的网络。</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_CLEAR</source>
+        <translation>清除查找</translation>
+    </message>
+    <message>
+        <source>IDS_FIND_MOVES</source>
+        <translation>要上移或下移网络，请先清除查找。</translation>
+    </message>
+    <message>
         <source>IDS_BUTTON_UNDO</source>
         <translation>撤销</translation>
     </message>

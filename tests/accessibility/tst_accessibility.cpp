@@ -470,9 +470,12 @@ void TestAccessibility::menuItemsTellTheirState()
             }
         }
     });
-    QCOMPARE(told.join(", "), QString::fromUtf8("Undo off, Redo off, Earlier lists… on, Import list… on, "
-                                                "Export list… on, Details… off, Forget network… off, "
-                                                "Settings… on"));
+    QCOMPARE(
+        told.join(", "),
+        QString::fromUtf8("Undo off, Redo off, Earlier lists… on, Import list… on, "
+                          "Export list… on, Move up off, Move down off, Move to top off, Move to end off, "
+                          "Remove from list off, Add to list off, Details… off, Forget network… off, "
+                          "Find a network off, Settings… on"));
 }
 
 QTEST_MAIN(TestAccessibility)

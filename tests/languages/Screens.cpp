@@ -324,6 +324,11 @@ const Screens::Screen Screens::screens[] = {
     {"trace", &Screens::ShowTrace, nullptr},
     {"trace, something found", &Screens::ShowTraceSearch, "e"},
     {"trace, nothing found", &Screens::ShowTraceSearch, "no line has this"},
+    {"list, one moved", &Screens::ShowMoved, nullptr},
+    {"list, something found", &Screens::ShowFind, "o"},
+    {"list, nothing found", &Screens::ShowFind, "no network has this"},
+    {"menu of a network", &Screens::ShowEntryMenu, nullptr},
+    {"notice, network no longer in the list", &Screens::ShowGoneNetwork, nullptr},
     {"Network menu", &Screens::ShowMenu, "networkMenu"},
     {"Edit menu", &Screens::ShowMenu, "editMenu"},
     {"Edit menu, to be undone and redone", &Screens::ShowEditMenu, nullptr},
@@ -755,6 +760,44 @@ void Screens::ShowMenu(const char *menu)
     Child<QMenu>(menu)->popup(m_window->pos());
     Visit();
     Child<QMenu>(menu)->close();
+}
+
+void Screens::OpenListAt(int row)
+{
+    Fill();
+    OpenWindow(m_plugins.data());
+    Child<QListWidget>("overviewList")->setCurrentRow(row);
+}
+
+void Screens::ShowMoved(const char *)
+{
+    OpenListAt(0);
+    Trigger("moveDownAction");
+    Visit();
+}
+
+void Screens::ShowFind(const char *typed)
+{
+    OpenListAt(0);
+    Trigger("findAction");
+    QTest::keyClicks(Child<QLineEdit>("findEdit"), QLatin1String(typed));
+    Visit();
+}
+
+void Screens::ShowEntryMenu(const char *)
+{
+    OpenListAt(0);
+    QTest::keyClick(Child<QListWidget>("overviewList"), Qt::Key_F10, Qt::ShiftModifier);
+    Visit();
+    Child<QMenu>("entryMenu")->close();
+}
+
+void Screens::ShowGoneNetwork(const char *)
+{
+    OpenListAt(0);
+    WriteUserFile(QLatin1String("Priority.xml"), OrderFile::Document(Listed("Home/2, Office")));
+    QTimer::singleShot(0, this, SLOT(VisitMessage()));
+    Trigger("removeAction");
 }
 
 void Screens::ShowBroken(const char *folder)

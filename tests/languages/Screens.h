@@ -68,6 +68,10 @@ private:
     void ShowTraceSearch(const char *text);
     void ShowMenu(const char *menu);
     void ShowEditMenu(const char *listFile);
+    void ShowMoved(const char *);
+    void ShowEntryMenu(const char *);
+    void ShowFind(const char *typed);
+    void ShowGoneNetwork(const char *);
     void ShowTwoMessages(const char *listFile);
     void ShowBroken(const char *folder);
     void ShowBrokenSettings(const char *folder);
@@ -108,6 +112,7 @@ private:
     void ShowExportNotice(const char *);
 
     void OpenWindow(PluginHost *plugins);
+    void OpenListAt(int row);
     void OpenPage();
     void OpenNewDialog(const char *method);
     void OpenDamageQuestion(const char *history);

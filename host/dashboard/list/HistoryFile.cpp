@@ -1,7 +1,7 @@
 #include "HistoryFile.h"
 
 #include "DamagedFile.h"
-#include "ListEntries.h"
+#include "ListEdit.h"
 #include <StrictXmlReader.h>
 
 #include <PrivateFile.h>
@@ -36,6 +36,7 @@ public:
 
     const QList<PriorityList> &Entries() const { return m_entries; }
     QByteArray Order(int state) const { return m_orders.at(state); }
+    int Place(const PriorityList &entry) const { return m_places.value(qMakePair(entry.name, entry.type)); }
 
 private:
     void AddOrder(const QList<PriorityList> &entries)
@@ -131,6 +132,13 @@ void ReadState(StrictXmlReader *reader, const QList<PriorityList> &table, QList<
             reader->Refuse(FileFault::WrongValue, QLatin1String("order"));
         } else {
             state.entries.append(table.at(place));
+        }
+    }
+    if (reader->Has("moved")) {
+        const int place = PlaceIn(reader->Value("moved"), table.size());
+        state.moved = place < 0 ? -1 : ListEdit::PlaceOf(table.at(place), state.entries);
+        if (state.moved < 0) {
+            reader->Refuse(FileFault::WrongValue, QLatin1String("moved"));
         }
     }
     if (states->size() == ListHistory::Most) {
@@ -278,6 +286,10 @@ QByteArray HistoryFile::Document(const ListHistory &history)
         }
         if (state.isPassedBy) {
             writer.writeAttribute(QLatin1String("passed"), QLatin1String(passedBy));
+        }
+        if (state.moved >= 0) {
+            writer.writeAttribute(QLatin1String("moved"),
+                                  QString::number(table.Place(state.entries.at(state.moved))));
         }
         writer.writeAttribute(QLatin1String("order"), QString::fromLatin1(table.Order(i)));
     }

@@ -11,7 +11,7 @@
  * The file with the record of the priority list: "states.xml" in the directory "history" of the user data
  * directory, both for the owner only.
  *
- *     <listhistory version="2" current="3">
+ *     <listhistory version="2" current="4">
  *         <entries>
  *             <item name="Café" type="1"/>
  *             <item name="Office" type="1"/>
@@ -21,14 +21,16 @@
  *             <state time="2026-03-01T09:05:00Z" order="1 0" passed="true"/>
  *             <state time="2026-03-01T09:10:00Z" back="2026-03-01T09:00:00Z" order="0"/>
  *             <state time="2026-03-01T09:12:00Z" order="0 1"/>
+ *             <state time="2026-03-01T09:14:00Z" moved="1" order="1 0"/>
  *         </states>
  *     </listhistory>
  *
  * Every entry that is in any state stands in it once; a state tells the order by the entries' places, counted
  * from 0. The states stand oldest first; "current" is the place of the one in force. "back" is the time of
- * the state that was gone back to, and "passed" marks what Undo and Redo pass by. A list that an undo or a
+ * the state that was gone back to, and "passed" marks what Undo and Redo pass by; "moved" is the entry that
+ * was moved, where that was told: its place among the entries, and the state has it. A list that an undo or a
  * redo has brought into force has "since", the time of that. While the list is being taken to another state,
- * "target" is the place of that one. Version 1 had neither "back" nor "passed" nor "since", and is read.
+ * "target" is the place of that one. Version 1 had none of these but the last, and is read.
  *
  * The file is written anew beside and then takes the earlier one's place, so that it can be read whenever a
  * program dies.

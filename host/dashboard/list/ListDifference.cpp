@@ -121,12 +121,12 @@ ListDifference ListDifference::Between(const QList<PriorityList> &before, const 
     return difference;
 }
 
-QList<PriorityList> ListDifference::OnlyMoved(const QList<PriorityList> &before,
-                                              const QList<PriorityList> &after)
+QList<ListDifference::Move> ListDifference::OnlyMoves(const QList<PriorityList> &before,
+                                                      const QList<PriorityList> &after)
 {
-    QList<PriorityList> moved;
+    QList<Move> moves;
     if (before.size() != after.size()) {
-        return moved;
+        return moves;
     }
     int first = 0;
     int last = before.size() - 1;
@@ -137,16 +137,31 @@ QList<PriorityList> ListDifference::OnlyMoved(const QList<PriorityList> &before,
         --last;
     }
     if (first >= last) {
-        return moved;
+        return moves;
     }
     const int others = last - first;
+    const auto add = [&](int from, int to) {
+        moves.append(
+            Move{from, to, to < from ? Up : Down, others, to == 0, to == static_cast<int>(after.size()) - 1});
+    };
     if (ListEntries::IsSame(before.at(last), after.at(first)) &&
         ListEntries::IsSame(before.mid(first, others), after.mid(first + 1, others))) {
-        moved.append(before.at(last));
+        add(last, first);
     }
     if (ListEntries::IsSame(before.at(first), after.at(last)) &&
         ListEntries::IsSame(before.mid(first + 1, others), after.mid(first, others))) {
-        moved.append(before.at(first));
+        add(first, last);
+    }
+    return moves;
+}
+
+QList<PriorityList> ListDifference::OnlyMoved(const QList<PriorityList> &before,
+                                              const QList<PriorityList> &after)
+{
+    QList<PriorityList> moved;
+    const QList<Move> moves = OnlyMoves(before, after);
+    for (const Move &move : moves) {
+        moved.append(after.at(move.to));
     }
     return moved;
 }

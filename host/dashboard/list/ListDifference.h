@@ -33,6 +33,10 @@ struct ListDifference {
 
     static ListDifference Between(const QList<PriorityList> &before, const QList<PriorityList> &after);
 
+    /** The moves of one entry alone that lead from one list to the other: one, or two when neighbours have
+     * changed places. None when it takes more, or nothing. */
+    static QList<Move> OnlyMoves(const QList<PriorityList> &before, const QList<PriorityList> &after);
+
     /** The entries of which one alone has been moved: one, or two when neighbours have changed places. None
      * when it takes more, or nothing, to get from one list to the other. */
     static QList<PriorityList> OnlyMoved(const QList<PriorityList> &before, const QList<PriorityList> &after);

@@ -2,7 +2,15 @@
 
 #include "ListEntries.h"
 
+#include <QHash>
+#include <QPair>
+
 #include <algorithm>
+
+bool operator==(const ListedEntry &left, const ListedEntry &right)
+{
+    return ListEntries::IsSame(left.entry, right.entry) && left.repetition == right.repetition;
+}
 
 int ListEdit::PlaceOf(const PriorityList &entry, const QList<PriorityList> &list)
 {
@@ -14,16 +22,58 @@ int ListEdit::PlaceOf(const PriorityList &entry, const QList<PriorityList> &list
     return -1;
 }
 
+int ListEdit::PlaceOf(const ListedEntry &entry, const QList<PriorityList> &list)
+{
+    int repetition = 0;
+    for (int i = 0; i < list.size(); ++i) {
+        if (ListEntries::IsSame(list.at(i), entry.entry) && repetition++ == entry.repetition) {
+            return i;
+        }
+    }
+    return -1;
+}
+
+QList<int> ListEdit::PlacesOf(const QList<ListedEntry> &entries, const QList<PriorityList> &list)
+{
+    QList<int> places;
+    for (const ListedEntry &entry : entries) {
+        const int place = PlaceOf(entry, list);
+        if (place >= 0) {
+            places.append(place);
+        }
+    }
+    std::sort(places.begin(), places.end());
+    return places;
+}
+
+QList<ListedEntry> ListEdit::Numbered(const QList<PriorityList> &list)
+{
+    QHash<QPair<QString, QString>, int> seen;
+    QList<ListedEntry> entries;
+    for (const PriorityList &entry : list) {
+        ListedEntry listed;
+        listed.entry = entry;
+        listed.repetition = seen[qMakePair(entry.name, entry.type)]++;
+        entries.append(listed);
+    }
+    return entries;
+}
+
+int ListEdit::PlaceOfMoved(const QList<int> &places, int before, int size)
+{
+    const auto above = std::lower_bound(places.constBegin(), places.constEnd(), before);
+    const int place = before - static_cast<int>(above - places.constBegin());
+    return qBound(0, place, size - static_cast<int>(places.size()));
+}
+
 QList<PriorityList> ListEdit::Moved(const QList<PriorityList> &list, const QList<int> &places, int before)
 {
     QList<PriorityList> moved;
-    int place = before;
     for (const int from : places) {
         moved.append(list.at(from));
-        place -= from < before ? 1 : 0;
     }
-    QList<PriorityList> others = Removed(list, places);
-    place = qBound(0, place, static_cast<int>(others.size()));
+    const QList<PriorityList> others = Removed(list, places);
+    const int place = PlaceOfMoved(places, before, static_cast<int>(list.size()));
     return others.mid(0, place) + moved + others.mid(place);
 }
 

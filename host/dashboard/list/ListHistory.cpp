@@ -1,6 +1,5 @@
 #include "ListHistory.h"
 
-#include "ListDifference.h"
 #include "ListEntries.h"
 
 namespace
@@ -16,6 +15,16 @@ QDate LocalDay(const ListState &state)
     return state.time.toLocalTime().date();
 }
 
+QList<PriorityList> MovedEntries(const ListState &from, const ListState &to)
+{
+    QList<PriorityList> entries;
+    const QList<ListDifference::Move> moves = ListHistory::Moves(from, to);
+    for (const ListDifference::Move &move : moves) {
+        entries.append(to.entries.at(move.to));
+    }
+    return entries;
+}
+
 bool Contains(const QList<PriorityList> &list, const PriorityList &entry)
 {
     for (const PriorityList &one : list) {
@@ -27,29 +36,45 @@ bool Contains(const QList<PriorityList> &list, const PriorityList &entry)
 }
 
 /** Whether both steps can be moves of the same entry. */
-bool AreMovesOfOne(const QList<PriorityList> &first, const QList<PriorityList> &second,
-                   const QList<PriorityList> &last)
+bool AreMovesOfOne(const ListState &first, const ListState &second, const ListState &last)
 {
-    const QList<PriorityList> moved = ListDifference::OnlyMoved(second, last);
-    if (ListEntries::IsSame(first, last)) {
-        return !moved.isEmpty();
-    }
+    const QList<PriorityList> moved = MovedEntries(second, last);
     // What moves the entry from the second to the last, and from the first to the last, has moved it between
     // the first two as well.
-    const QList<PriorityList> movedInAll = ListDifference::OnlyMoved(first, last);
+    const bool isBack = ListEntries::IsSame(first.entries, last.entries);
+    const QList<PriorityList> movedBefore =
+        isBack ? MovedEntries(first, second) : ListDifference::OnlyMoved(first.entries, last.entries);
     for (const PriorityList &entry : moved) {
-        if (Contains(movedInAll, entry)) {
+        const bool isOther =
+            second.moved >= 0 && !ListEntries::IsSame(second.entries.at(second.moved), entry);
+        if (Contains(movedBefore, entry) && !isOther) {
             return true;
         }
     }
     return false;
 }
 
+/** The place of the entry that both steps have moved; -1 when nobody has told which that is. */
+int MovedByBoth(const ListState &second, const ListState &last)
+{
+    if (last.moved >= 0 || second.moved < 0) {
+        return last.moved;
+    }
+    const PriorityList &moved = second.entries.at(second.moved);
+    for (int i = 0; i < last.entries.size(); ++i) {
+        if (ListEntries::IsSame(last.entries.at(i), moved)) {
+            return i;
+        }
+    }
+    return -1;
+}
+
 } // namespace
 
 bool operator==(const ListState &left, const ListState &right)
 {
-    return IsSameList(left, right) && left.backTo == right.backTo && left.isPassedBy == right.isPassedBy;
+    return IsSameList(left, right) && left.backTo == right.backTo && left.isPassedBy == right.isPassedBy &&
+           left.moved == right.moved;
 }
 
 ListHistory::ListHistory(const QList<ListState> &states, int position, const QDateTime &since)
@@ -99,6 +124,18 @@ int ListHistory::RedoPlace() const
     return place < m_states.size() ? place : -1;
 }
 
+QList<ListDifference::Move> ListHistory::Moves(const ListState &from, const ListState &to)
+{
+    const QList<ListDifference::Move> moves = ListDifference::OnlyMoves(from.entries, to.entries);
+    QList<ListDifference::Move> told;
+    for (const ListDifference::Move &move : moves) {
+        if (to.moved >= 0 && ListEntries::IsSame(to.entries.at(to.moved), to.entries.at(move.to))) {
+            told.append(move);
+        }
+    }
+    return told.isEmpty() ? moves : told;
+}
+
 void ListHistory::Record(const ListState &state)
 {
     if (RedoPlace() >= 0) {
@@ -116,6 +153,7 @@ void ListHistory::RecordReturn(const QDateTime &time)
     ListState back = m_states.at(m_position);
     back.backTo = back.time;
     back.time = time;
+    back.moved = -1;
     // It stands for the state that was gone back to as well.
     for (int i = m_position; i < m_states.size(); ++i) {
         m_states[i].isPassedBy = true;
@@ -151,7 +189,9 @@ void ListHistory::RecordJoined(const ListState &state, const QDateTime &opened)
         m_position = before;
         m_cameBack = state.time;
     } else {
+        const int moved = MovedByBoth(m_states.last(), state);
         m_states.last() = state;
+        m_states.last().moved = moved;
     }
     m_target = -1;
 }
@@ -166,8 +206,7 @@ bool ListHistory::IsJoined(const ListState &state, const QDateTime &opened) cons
     const qint64 seconds = newest.time.secsTo(state.time);
     const bool isOfSameOpening = opened.isValid() && newest.time >= opened;
     return !newest.backTo.isValid() && seconds >= 0 && (seconds <= JoinedSeconds || isOfSameOpening) &&
-           LocalDay(newest) == LocalDay(state) &&
-           AreMovesOfOne(m_states.at(last - 1).entries, newest.entries, state.entries);
+           LocalDay(newest) == LocalDay(state) && AreMovesOfOne(m_states.at(last - 1), newest, state);
 }
 
 bool ListHistory::CanBeInForce(int place) const

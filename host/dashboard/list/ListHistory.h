@@ -1,6 +1,8 @@
 #ifndef LISTHISTORY_H
 #define LISTHISTORY_H
 
+#include "ListDifference.h"
+
 #include <PriorityList.h>
 
 #include <QDateTime>
@@ -15,6 +17,9 @@ struct ListState {
     QDateTime backTo;
     /** Whether Undo and Redo pass it by. */
     bool isPassedBy = false;
+    /** The place of the entry that was moved to make it so; -1 for any other change, and where nobody has
+     * told which one of two neighbours it was. */
+    int moved = -1;
 };
 
 bool operator==(const ListState &left, const ListState &right);
@@ -29,8 +34,9 @@ bool operator==(const ListState &left, const ListState &right);
  *   Undo and Redo pass it by.
  * - Moves of one entry that follow each other are one state, which has the time of the last of them: within
  *   the same opening of the page, or not more than JoinedSeconds apart, and on one day. Who made them makes
- *   no difference. Two neighbours that have changed places may both have been moved: such a step belongs to
- *   the moves of either. Moves that take the entry back to where it was leave no state.
+ *   no difference. Two neighbours that have changed places may both have been moved: where nobody has told
+ *   which, such a step belongs to the moves of either. Moves that take the entry back to where it was leave
+ * no state.
  * - The last Recent states are kept, and besides them the last state of each of the latest Days days on which
  *   there was a change, as the states' times tell in the local time. Whatever the clock shows now makes no
  *   difference, so that nothing goes because it was wrong for a while.
@@ -71,6 +77,10 @@ public:
     // Places of the states that Undo and Redo lead to; -1 when they lead nowhere.
     int UndoPlace() const;
     int RedoPlace() const;
+
+    /** The moves of one entry alone that can have led from one state to a later one: one, or two where nobody
+     * has told which of two neighbours was moved. */
+    static QList<ListDifference::Move> Moves(const ListState &from, const ListState &to);
 
     /** A new state, which is then in force. */
     void Record(const ListState &state);

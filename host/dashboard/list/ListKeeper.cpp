@@ -1,6 +1,7 @@
 #include "ListKeeper.h"
 
 #include "DamagedFile.h"
+#include "ListEdit.h"
 #include "ListEntries.h"
 #include "ListSource.h"
 #include "OrderFile.h"
@@ -134,12 +135,13 @@ bool ListKeeper::IsListNew() const
     return IsWhole() && (m_history.IsEmpty() || !ListEntries::IsSame(m_entries, m_history.Entries()));
 }
 
-void ListKeeper::RecordIfNew()
+void ListKeeper::RecordIfNew(const PriorityList *moved)
 {
     if (IsListNew()) {
         ListState state;
         state.time = TimeOfChange();
         state.entries = m_entries;
+        state.moved = moved ? ListEdit::PlaceOf(*moved, m_entries) : -1;
         m_history.RecordJoined(state, m_opened);
         m_file.Save(&m_history);
     }
@@ -252,7 +254,7 @@ ListKeeper::Obstacle ListKeeper::Replace(const QList<PriorityList> &entries)
     return Change(ListEntries::Storable(entries), QDateTime());
 }
 
-ListKeeper::Obstacle ListKeeper::Edit(const ListChange &change)
+ListKeeper::Obstacle ListKeeper::Edit(const ListChange &change, const PriorityList *moved)
 {
     const Session session(this, nullptr);
     const Obstacle obstacle = m_isHeldByOther ? ListBusy : EditObstacle();
@@ -266,7 +268,7 @@ ListKeeper::Obstacle ListKeeper::Edit(const ListChange &change)
     // If the program dies now, its next start finds the change in the list.
     const Obstacle problem = Write(entries);
     if (session.IsUsable()) {
-        RecordIfNew();
+        RecordIfNew(problem == NoObstacle ? moved : nullptr);
     }
     return problem;
 }

@@ -93,8 +93,10 @@ public:
      * Makes of the list what change makes of it, while no other program can change it. In the history that is
      * what a change on the page with the list is: moves of one entry that follow each other are joined. A
      * list that can't be read to its end is not edited. A history that can't be used is no obstacle.
+     *
+     * @param moved  the entry that the change moves; null when it does something else.
      */
-    Obstacle Edit(const ListChange &change);
+    Obstacle Edit(const ListChange &change, const PriorityList *moved = nullptr);
 
     /** Whether the list can be read up to some place only. */
     bool IsDamaged() const { return m_reading.status == PriorityDamaged; }
@@ -143,7 +145,7 @@ private:
 
     void ReadList();
     void Take(const ListReading &reading);
-    void RecordIfNew();
+    void RecordIfNew(const PriorityList *moved = nullptr);
     QDateTime TimeOfChange() const;
     /** Makes entries, which a file can carry, the list; backTo is as ListState's. */
     Obstacle Change(const QList<PriorityList> &entries, const QDateTime &backTo);

@@ -68,9 +68,14 @@ bool IsReplacement(const ListDifference &difference, const QList<PriorityList> &
            before.at(difference.removed.first()).type == after.at(difference.added.first()).type;
 }
 
+/** @param told  the only move, where it is known which entry was moved; otherwise null. */
 QStringList PartsOf(const QList<PriorityList> &before, const QList<PriorityList> &after,
-                    const ChangeTexts &texts)
+                    const ChangeTexts &texts, const ListDifference::Move *told = nullptr)
 {
+    if (told) {
+        return QStringList(
+            DashboardText(MoveTextId(*told, texts)).arg(ListChangeText::Name(after.at(told->to))));
+    }
     const ListDifference difference = ListDifference::Between(before, after);
     if (difference.IsNone()) {
         return QStringList(DashboardText(texts.none));
@@ -117,7 +122,14 @@ QString ListChangeText::DescribeStep(const QList<ListState> &states, int from, i
     // With others in between, it stands for the change that had led to the list that was gone back to.
     return state.backTo.isValid() && from == to - 1
                ? DashboardText("IDS_CHANGE_WENT_BACK").arg(Moment(state.backTo))
-               : Describe(states.at(from).entries, state.entries);
+               : DescribeStep(states.at(from), state);
+}
+
+QString ListChangeText::DescribeStep(const ListState &from, const ListState &to)
+{
+    const QList<ListDifference::Move> moves = ListHistory::Moves(from, to);
+    return PartsOf(from.entries, to.entries, done, moves.size() == 1 ? &moves.first() : nullptr)
+        .join(QString::fromUtf8(" · "));
 }
 
 QString ListChangeText::Name(const PriorityList &entry)

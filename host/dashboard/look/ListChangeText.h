@@ -19,6 +19,9 @@ QString Describe(const QList<PriorityList> &before, const QList<PriorityList> &a
  */
 QString DescribeStep(const QList<ListState> &states, int from, int to);
 
+/** As Describe, and where the later state tells which entry was moved, it is told of that one. */
+QString DescribeStep(const ListState &from, const ListState &to);
+
 /** What will be done, in sentences, such as "3 networks will be added. Office will be removed." */
 QString Announce(const QList<PriorityList> &before, const QList<PriorityList> &after);
 

@@ -13,6 +13,7 @@ namespace
 const int margin = 8;
 const int glyphSize = 26;
 const int markSize = 12;
+const int foldSize = 10;
 const int listedRow = 52;
 const int otherRow = 44;
 
@@ -73,8 +74,35 @@ void NetworkDelegate::PaintSection(QPainter *painter, const QStyleOptionViewItem
     painter->setPen(tones.text);
     const Qt::Alignment leading =
         QStyle::visualAlignment(option.direction, Qt::AlignLeft | Qt::AlignVCenter) | Qt::AlignAbsolute;
-    painter->drawText(option.rect.adjusted(margin, 0, -margin, 0), static_cast<int>(leading),
+    const int fold = index.data(FoldRole).toInt();
+    const int room = fold == NoFold ? 0 : foldSize + margin;
+    const QRect text = option.rect.adjusted(margin + room, 0, -margin, 0);
+    painter->drawText(QStyle::visualRect(option.direction, option.rect, text), static_cast<int>(leading),
                       index.data(Qt::DisplayRole).toString());
+    if (fold != NoFold) {
+        const QRect place(option.rect.left() + margin, option.rect.center().y() - foldSize / 2, foldSize,
+                          foldSize);
+        const QRectF sign = QStyle::visualRect(option.direction, option.rect, place);
+        painter->save();
+        painter->translate(sign.center());
+        painter->rotate(fold == Open ? 90 : option.direction == Qt::RightToLeft ? 180 : 0);
+        const qreal half = foldSize / 2.0;
+        painter->setBrush(tones.text);
+        painter->setPen(Qt::NoPen);
+        painter->drawPolygon(QPolygonF()
+                             << QPointF(-half / 2, -half) << QPointF(half, 0) << QPointF(-half / 2, half));
+        painter->restore();
+    }
+    PaintFocus(painter, option, tones);
+}
+
+void NetworkDelegate::PaintFocus(QPainter *painter, const QStyleOptionViewItem &option, const Tones &tones)
+{
+    if (option.state & QStyle::State_HasFocus) {
+        painter->setPen(QPen(tones.accent, 2));
+        painter->setBrush(Qt::NoBrush);
+        painter->drawRoundedRect(option.rect.adjusted(2, 2, -2, -2), 4, 4);
+    }
 }
 
 void NetworkDelegate::PaintGround(QPainter *painter, const QStyleOptionViewItem &option, bool isInUse,
@@ -90,11 +118,7 @@ void NetworkDelegate::PaintGround(QPainter *painter, const QStyleOptionViewItem 
         painter->fillRect(row, tones.selected);
     }
     painter->fillRect(QRect(row.left(), row.bottom(), row.width(), 1), tones.separator);
-    if (option.state & QStyle::State_HasFocus) {
-        painter->setPen(QPen(tones.accent, 2));
-        painter->setBrush(Qt::NoBrush);
-        painter->drawRoundedRect(row.adjusted(2, 2, -2, -2), 4, 4);
-    }
+    PaintFocus(painter, option, tones);
 }
 
 QRect NetworkDelegate::PaintState(QPainter *painter, const QStyleOptionViewItem &option,
@@ -175,7 +199,7 @@ void NetworkDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
     PaintGround(painter, option, MarkOf(index) == Glyphs::MarkInUse, tones);
 
     const QRect glyph = GlyphArea(option);
-    if (m_places == WithPlaces) {
+    if (m_places == WithPlaces && !index.data(HasNoPlaceRole).toBool()) {
         const QRect place(row.left() + margin, row.top(), glyph.left() - row.left() - 2 * margin,
                           row.height());
         painter->setFont(SmallFont(option.font));

@@ -11,6 +11,8 @@ class NetworkDelegate : public QStyledItemDelegate
     Q_OBJECT
 
 public:
+    enum Fold { NoFold, Open, Folded };
+
     enum Places { WithPlaces, WithoutPlaces };
 
     /** What an item holds besides its text, which is the network's name, or what those below have in common.
@@ -22,7 +24,9 @@ public:
         MarkRole,                     /**< int, a Glyphs::Mark: what kind of state that is. */
         KindRole,                     /**< int, a Glyphs::Kind */
         ReachRole,                    /**< int, a Glyphs::Reach */
-        SignalRole                    /**< int, as Overview::Entry::signal. */
+        SignalRole,                   /**< int, as Overview::Entry::signal. */
+        HasNoPlaceRole,               /**< bool: it has none, though those above have. */
+        FoldRole                      /**< int, a Fold, of what those below have in common. */
     };
 
     explicit NetworkDelegate(QObject *parent, Places places = WithPlaces);
@@ -40,6 +44,7 @@ private:
                             const Tones &tones);
     static void PaintTexts(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index,
                            const QRect &area, const Tones &tones);
+    static void PaintFocus(QPainter *painter, const QStyleOptionViewItem &option, const Tones &tones);
     static void PaintSection(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index,
                              const Tones &tones);
 

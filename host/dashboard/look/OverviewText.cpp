@@ -340,23 +340,21 @@ QString OverviewText::Kind(const Overview::Entry &entry)
     return DashboardText(entry.IsWifi() ? "IDS_KIND_WIFI" : "IDS_KIND_MOBILE");
 }
 
-QString OverviewText::State(const Overview &overview, int place)
+QString OverviewText::State(const Overview &overview, const Overview::Entry &entry)
 {
-    const Overview::Entry &entry = overview.entries.at(place);
     const QString state = DashboardText(StateOf(overview, entry).id);
     const QString signal =
         entry.CanBeUsed() || entry.stage != StageNotKnown ? Signal(entry.signal) : QString();
     return signal.isEmpty() ? state : state + QString::fromUtf8(" · ") + signal;
 }
 
-Glyphs::Mark OverviewText::Mark(const Overview &overview, int place)
+Glyphs::Mark OverviewText::Mark(const Overview &overview, const Overview::Entry &entry)
 {
-    return StateOf(overview, overview.entries.at(place)).mark;
+    return StateOf(overview, entry).mark;
 }
 
-Glyphs::Reach OverviewText::Reach(const Overview &overview, int place)
+Glyphs::Reach OverviewText::Reach(const Overview &overview, const Overview::Entry &entry)
 {
-    const Overview::Entry &entry = overview.entries.at(place);
     if (entry.CanBeUsed() || entry.stage != StageNotKnown) {
         return Glyphs::InReach;
     }
@@ -378,6 +376,11 @@ QString OverviewText::Detail(const Overview &overview, int place)
         reason = &entry == overview.Choice() ? ChoiceReason(overview) : Reason(overview, place);
     }
     return reason.isEmpty() ? Kind(entry) : Kind(entry) + QString::fromUtf8(" · ") + reason;
+}
+
+QString OverviewText::UnlistedDetail(const Overview::Entry &entry)
+{
+    return DashboardText("IDS_UNLISTED_SAVED").arg(Kind(entry));
 }
 
 QString OverviewText::Reason(const Overview &overview, int place)

@@ -26,15 +26,18 @@ QString Explanation(const Overview &overview);
 
 // Of one entry: what it is, how it stands with it, and why it is used now or not.
 QString Kind(const Overview::Entry &entry);
-QString State(const Overview &overview, int place);
+QString State(const Overview &overview, const Overview::Entry &entry);
 QString Reason(const Overview &overview, int place);
 
 /** What stands below an entry's name: its kind, and what its state does not tell already. */
 QString Detail(const Overview &overview, int place);
 
+/** The same of a saved network that is not in the list. */
+QString UnlistedDetail(const Overview::Entry &entry);
+
 // How an entry's state is drawn.
-Glyphs::Mark Mark(const Overview &overview, int place);
-Glyphs::Reach Reach(const Overview &overview, int place);
+Glyphs::Mark Mark(const Overview &overview, const Overview::Entry &entry);
+Glyphs::Reach Reach(const Overview &overview, const Overview::Entry &entry);
 
 /** How far a network is that is coming up, a ConnectionStage; empty when it is not. */
 QString Stage(int stage);

@@ -65,6 +65,23 @@ ConnectionProfile ProfileOf(const PriorityList &entry, const QString &activeId, 
     return best ? *best : ConnectionProfile();
 }
 
+Overview::Entry EntryOf(const PriorityList &listed, const Connections &connections,
+                        const ProfilesByKey &profiles, bool isRepeated)
+{
+    Overview::Entry entry;
+    entry.entry = listed;
+    entry.isRepeated = isRepeated;
+    const ActiveConnection *connection = ConnectionOf(listed, connections.active);
+    entry.profile = ProfileOf(listed, connection ? connection->profileId : QString(), profiles);
+    entry.signal = entry.profile.signal;
+    if (connection && !isRepeated) {
+        entry.stage = connection->stage;
+        entry.isInUse = connection->carriesTraffic;
+        entry.signal = connection->signal;
+    }
+    return entry;
+}
+
 } // namespace
 
 bool Overview::Entry::IsWifi() const
@@ -99,23 +116,18 @@ Overview Overview::Make(int status, const QList<PriorityList> &list, const Conne
     }
     QSet<QPair<QString, QString>> seen;
     for (const PriorityList &listed : list) {
-        Entry entry;
-        entry.entry = listed;
         const QPair<QString, QString> key(listed.name, listed.type);
-        entry.isRepeated = seen.contains(key);
+        overview.entries.append(EntryOf(listed, overview.connections, profiles, seen.contains(key)));
         seen.insert(key);
-        const ActiveConnection *connection = ConnectionOf(listed, overview.connections.active);
-        entry.profile = ProfileOf(listed, connection ? connection->profileId : QString(), profiles);
-        entry.signal = entry.profile.signal;
-        if (connection && !entry.isRepeated) {
-            entry.stage = connection->stage;
-            entry.isInUse = connection->carriesTraffic;
-            entry.signal = connection->signal;
+        if (overview.m_choice < 0 && overview.entries.constLast().CanBeUsed()) {
+            overview.m_choice = static_cast<int>(overview.entries.size()) - 1;
         }
-        if (overview.m_choice < 0 && entry.CanBeUsed()) {
-            overview.m_choice = static_cast<int>(overview.entries.size());
+    }
+    const QList<PriorityList> remembered = overview.connections.Remembered();
+    for (const PriorityList &saved : remembered) {
+        if (!seen.contains(qMakePair(saved.name, saved.type))) {
+            overview.unlisted.append(EntryOf(saved, overview.connections, profiles, false));
         }
-        overview.entries.append(entry);
     }
     return overview;
 }

@@ -34,6 +34,8 @@ struct Overview {
     int status = -1;
     Connections connections;
     QList<Entry> entries;
+    /** The saved networks that the list doesn't have. */
+    QList<Entry> unlisted;
 
     /** From the list as it was read, and from what the Wi-Fi plug-in tells of connections now. */
     static Overview Of(const ListReading &list);

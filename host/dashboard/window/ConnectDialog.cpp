@@ -11,6 +11,7 @@
 #include <NetworkDelegate.h>
 #include <OverviewText.h>
 #include <PluginObjects.h>
+#include <Searchable.h>
 #include <Settings.h>
 #include <TextButton.h>
 
@@ -51,19 +52,6 @@ const int stageCount = StageGettingAddress;
 QString SizeKey()
 {
     return QLatin1String("connect/size");
-}
-
-/** The letters without case and accents. */
-QString Plain(const QString &text)
-{
-    QString plain;
-    const QString apart = text.normalized(QString::NormalizationForm_KD);
-    for (const QChar letter : apart) {
-        if (!letter.isMark()) {
-            plain.append(letter);
-        }
-    }
-    return plain.toCaseFolded();
 }
 
 const char *ProtectionText(int protection)
@@ -240,10 +228,10 @@ QString ConnectDialog::NoNetworks() const
 /** Those that are looked for and have a place in the priority list, or have none. */
 QList<VisibleNetwork> ConnectDialog::Section(bool isListed) const
 {
-    const QString wanted = Plain(m_search->text());
+    const QString wanted = Searchable(m_search->text());
     QList<VisibleNetwork> networks;
     for (const VisibleNetwork &network : m_told.networks) {
-        if ((PlaceOf(network) > 0) == isListed && Plain(network.name).contains(wanted)) {
+        if ((PlaceOf(network) > 0) == isListed && Searchable(network.name).contains(wanted)) {
             networks.append(network);
         }
     }

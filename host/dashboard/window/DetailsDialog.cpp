@@ -104,7 +104,7 @@ void DetailsDialog::ShowPlace(const Overview &overview)
     const int count = static_cast<int>(entries.size());
     const int place = ListEdit::PlaceOf(m_entry, entries);
     if (place >= 0) {
-        const QString state = OverviewText::State(overview, place);
+        const QString state = OverviewText::State(overview, overview.entries.at(place));
         const QString reason = OverviewText::Reason(overview, place);
         m_facts->Tell(
             "IDS_DETAILS_PLACE",
@@ -117,7 +117,7 @@ void DetailsDialog::ShowPlace(const Overview &overview)
     const Overview withIt = Overview::Make(overview.status, entries, overview.connections);
     m_facts->Tell("IDS_DETAILS_PLACE",
                   overview.IsListWhole() ? DashboardText("IDS_DETAILS_NOT_LISTED") : QString());
-    m_facts->Tell("IDS_DETAILS_STATE", OverviewText::State(withIt, count));
+    m_facts->Tell("IDS_DETAILS_STATE", OverviewText::State(withIt, withIt.entries.at(count)));
 }
 
 /** What can be pressed stays where it is: the connection manager's own order changes with what is pressed. */

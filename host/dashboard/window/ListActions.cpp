@@ -145,12 +145,34 @@ void ListActions::Tell(const QString &text)
 
 void ListActions::Undo()
 {
-    DialogParts::Tell(ListKeeperText::Reason(*m_keeper, m_keeper->Undo()));
+    Step(&ListKeeper::Undo);
 }
 
 void ListActions::Redo()
 {
-    DialogParts::Tell(ListKeeperText::Reason(*m_keeper, m_keeper->Redo()));
+    Step(&ListKeeper::Redo);
+}
+
+void ListActions::Step(ListKeeper::Obstacle (ListKeeper::*step)())
+{
+    const int from = m_keeper->History().Position();
+    const ListKeeper::Obstacle problem = (m_keeper->*step)();
+    if (problem != ListKeeper::NoObstacle) {
+        DialogParts::Tell(ListKeeperText::Reason(*m_keeper, problem));
+        return;
+    }
+    const ListHistory &history = m_keeper->History();
+    const ListState earlier = history.States().value(qMin(from, history.Position()));
+    const ListState later = history.States().value(qMax(from, history.Position()));
+    const QList<ListDifference::Move> moves = ListHistory::Moves(earlier, later);
+    const QList<PriorityList> now = history.Entries();
+    const ListState &left = history.Position() < from ? later : earlier;
+    const QList<int> added = ListDifference::Between(left.entries, now).added;
+    if (moves.size() == 1) {
+        emit Stepped(later.entries.at(moves.first().to));
+    } else if (moves.isEmpty() && added.size() == 1) {
+        emit Stepped(now.at(added.first()));
+    }
 }
 
 void ListActions::OpenRestore()

@@ -1,6 +1,8 @@
 #ifndef LISTACTIONS_H
 #define LISTACTIONS_H
 
+#include <ListKeeper.h>
+
 #include <QList>
 #include <QObject>
 #include <QPointer>
@@ -9,7 +11,6 @@ class ActionButton;
 class ElidedLabel;
 class ExtendDialog;
 class ImportDialog;
-class ListKeeper;
 class QAction;
 class QFileDialog;
 class QMenu;
@@ -54,12 +55,17 @@ public slots:
     void OpenTakeOver();
     void OpenExport();
 
+signals:
+    /** Undo or Redo has moved this entry alone, or put it into the list. */
+    void Stepped(const PriorityList &entry);
+
 private slots:
     void Import(const QString &path);
     void Export(const QString &path);
 
 private:
     QAction *CreateAction(const char *name, const char *slot);
+    void Step(ListKeeper::Obstacle (ListKeeper::*step)());
     void SetHelp(QAction *action, const QString &help);
     void Open(ImportDialog *dialog);
     QFileDialog *CreateFileDialog(const char *name, const char *titleId);

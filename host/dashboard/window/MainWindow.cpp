@@ -1,11 +1,14 @@
 #include "MainWindow.h"
 
 #include "ConnectDialog.h"
+#include "EntryActions.h"
 #include "HeadArea.h"
 #include "ListActions.h"
 #include "ListGuard.h"
 #include "MessagePage.h"
 #include "NetworkActions.h"
+#include "NetworkList.h"
+#include "NetworkSearch.h"
 #include "RuledDialog.h"
 #include "WindowProblems.h"
 
@@ -25,7 +28,6 @@
 #include <Installation.h>
 #include <ListKeeper.h>
 #include <ListRules.h>
-#include <NetworkDelegate.h>
 #include <OverviewText.h>
 #include <PluginHost.h>
 #include <PluginObjects.h>
@@ -42,13 +44,10 @@
 #include <QActionGroup>
 #include <QApplication>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
-#include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
-#include <QScrollBar>
 #include <QStackedWidget>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -57,6 +56,7 @@ namespace
 {
 
 const int widestContent = 960;
+const int lowHeight = 460;
 const qreal shareOfScreen = 0.9;
 
 QString GeometryKey()
@@ -93,7 +93,9 @@ MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLo
       m_watcher(UserData::FilePath(QLatin1String("Priority.xml")), nullptr),
       m_keeper(new ListKeeper(UserData::Directory(), &m_source, this)),
       m_listActions(new ListActions(m_keeper, this)), m_networkActions(new NetworkActions(m_keeper, this)),
-      m_guard(new ListGuard(m_keeper, this)), m_refreshTimer(new QTimer(this))
+      m_guard(new ListGuard(m_keeper, this)), m_list(new NetworkList),
+      m_entryActions(new EntryActions(m_keeper, m_list, this)), m_find(new NetworkSearch(m_list)),
+      m_refreshTimer(new QTimer(this))
 {
     setObjectName(QLatin1String("mainWindow"));
     new AccessibleRows(this);
@@ -115,18 +117,8 @@ MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLo
     m_listHeader = CreateListHeader();
     layout->addWidget(m_listHeader);
 
-    m_list = new QListWidget;
-    m_list->setObjectName(QLatin1String("overviewList"));
-    m_list->setItemDelegate(new NetworkDelegate(m_list));
-    m_list->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_list->setUniformItemSizes(true);
-    // Not at a single click, which is what some desktops take for opening.
-    connect(m_list, &QListWidget::itemDoubleClicked, this, &MainWindow::ConnectEntry);
-    m_list->installEventFilter(this);
-    connect(m_list, &QListWidget::currentRowChanged, this,
-            [this](int row) { m_networkActions->Choose(m_overview, row); });
+    m_listTools = CreateListTools();
+    layout->addWidget(m_listTools);
     m_body = new QStackedWidget;
     m_body->setObjectName(QLatin1String("body"));
     m_body->addWidget(m_list);
@@ -146,6 +138,10 @@ MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLo
     connect(m_refreshTimer, SIGNAL(timeout()), this, SLOT(Show()));
     new ProfileNames(UserData::FilePath(ProfileNames::FileName()), m_keeper, this);
     connect(m_keeper, SIGNAL(Changed()), this, SLOT(FollowHistory()));
+    connect(m_listActions, &ListActions::Stepped, this, [this](const PriorityList &entry) {
+        m_list->Select({ListedEntry{entry, 0}});
+    });
+    connect(m_entryActions, &EntryActions::ConnectWanted, this, &MainWindow::Connect);
     connect(m_language, SIGNAL(Switched()), this, SLOT(FollowLanguage()));
 
     setMinimumSize(DialogParts::ForFont(360), DialogParts::ForFont(280));
@@ -191,9 +187,14 @@ void MainWindow::CreateMenus()
     m_quitAction->setShortcut(QKeySequence(QLatin1String("Ctrl+Q")));
     m_listActions->FillMenu(m_editMenu);
     m_editMenu->addSeparator();
-    m_networkActions->FillMenu(m_editMenu);
+    m_entryActions->FillMenu(m_editMenu);
     m_editMenu->addSeparator();
-    connect(m_networkActions, &NetworkActions::Told, m_listActions, &ListActions::Tell);
+    for (QMenu *menu : {m_editMenu, m_entryActions->Menu()}) {
+        m_networkActions->FillMenu(menu);
+    }
+    m_list->addAction(m_networkActions->ForgetAction());
+    m_editMenu->addSeparator();
+    m_editMenu->addAction(m_find->StartAction());
     m_settingsAction = m_editMenu->addAction(QString(), this, SLOT(OpenSettings()));
     m_settingsAction->setObjectName(QLatin1String("settingsAction"));
     m_settingsAction->setShortcut(QKeySequence(QLatin1String("Ctrl+,")));
@@ -204,7 +205,7 @@ void MainWindow::CreateMenus()
     m_viewMenu->addAction(m_trace->toggleViewAction());
     m_searchAction = m_viewMenu->addAction(QString(), m_trace, SLOT(StartSearch()));
     m_searchAction->setObjectName(QLatin1String("traceSearchAction"));
-    m_searchAction->setShortcut(QKeySequence(QLatin1String("Ctrl+F")));
+    m_searchAction->setShortcut(QKeySequence(QLatin1String("Ctrl+Shift+F")));
     CreateAppearanceActions();
     m_refreshAction = m_viewMenu->addAction(QString(), this, SLOT(LookAgain()));
     m_refreshAction->setObjectName(QLatin1String("refreshAction"));
@@ -273,6 +274,25 @@ QWidget *MainWindow::CreateListHeader()
     return header;
 }
 
+QWidget *MainWindow::CreateListTools()
+{
+    connect(m_find, &NetworkSearch::Changed, this, &MainWindow::Show);
+    connect(m_list, &NetworkList::Folded, this, &MainWindow::Show);
+    connect(m_list, &NetworkList::Left, m_find->ClearAction(), &QAction::trigger);
+    connect(m_list, &NetworkList::DetailsWanted, m_networkActions, &NetworkActions::OpenDetails);
+    connect(m_list, &NetworkList::currentRowChanged, this,
+            [this] { m_networkActions->Choose(m_overview, m_list->Current(m_overview)); });
+    connect(m_networkActions, &NetworkActions::Told, m_listActions, &ListActions::Tell);
+    QWidget *tools = new QWidget;
+    tools->setObjectName(QLatin1String("listTools"));
+    QHBoxLayout *layout = new QHBoxLayout(tools);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(12);
+    layout->addWidget(m_entryActions->CreateButtons(), 1);
+    layout->addWidget(m_find, 1);
+    return tools;
+}
+
 void MainWindow::FollowLanguage()
 {
     // The plug-ins first: what this window shows has texts of theirs.
@@ -299,6 +319,8 @@ void MainWindow::Retranslate()
     m_list->setAccessibleName(DashboardText("IDS_PLUGIN_PRIORITY"));
     m_repairAction->setText(DashboardText("IDS_BUTTON_REPAIR"));
     m_listActions->Retranslate();
+    m_entryActions->Retranslate();
+    m_find->Retranslate();
     m_guard->Retranslate();
     m_trace->Retranslate();
     m_trace->toggleViewAction()->setText(DashboardText("IDS_ACTION_TRACE"));
@@ -346,7 +368,7 @@ void MainWindow::Show()
     ShowList();
     ShowRuled();
     ShowNote();
-    m_networkActions->Choose(m_overview, m_list->currentRow());
+    m_networkActions->Choose(m_overview, m_list->Current(m_overview));
     m_networkActions->Show(m_overview);
 }
 
@@ -376,10 +398,7 @@ void MainWindow::OpenRuled()
     if (!m_ruled) {
         m_ruled = new RuledDialog(this);
         m_ruled->setModal(true);
-        connect(m_ruled, &RuledDialog::ConnectWanted, this, [this](const QString &name, const QString &id) {
-            m_order.Connect(name, id);
-            Refresh();
-        });
+        connect(m_ruled, &RuledDialog::ConnectWanted, this, &MainWindow::Connect);
         connect(m_ruled, &RuledDialog::SettingsWanted, this, [this] {
             m_ruled->close();
             OpenSettings();
@@ -454,7 +473,7 @@ void MainWindow::resizeEvent(QResizeEvent *event)
 {
     QMainWindow::resizeEvent(event);
     // What is in use and the list itself are seen last of all.
-    const bool isLow = height() < DialogParts::ForFont(460);
+    const bool isLow = height() < DialogParts::ForFont(lowHeight);
     const int margin = isLow ? 8 : 16;
     // What belongs together stays together, however wide the window is.
     const int side = qMax(margin, (width() - DialogParts::ForFont(widestContent)) / 2);
@@ -463,23 +482,16 @@ void MainWindow::resizeEvent(QResizeEvent *event)
     m_head->SetBrief(isLow);
     m_listHeader->setVisible(!isLow);
     m_listBar->setVisible(!isLow);
+    ShowTools();
     m_banner->SetBrief(height() < DialogParts::ForFont(360));
 }
 
-bool MainWindow::eventFilter(QObject *watched, QEvent *event)
+void MainWindow::ShowTools()
 {
-    if (watched == m_list && event->type() == QEvent::KeyPress) {
-        const QKeyEvent *press = static_cast<QKeyEvent *>(event);
-        if (press->key() == Qt::Key_Return || press->key() == Qt::Key_Enter) {
-            if (press->modifiers() & Qt::ControlModifier) {
-                ConnectEntry();
-            } else {
-                m_networkActions->OpenDetails();
-            }
-            return true;
-        }
-    }
-    return QMainWindow::eventFilter(watched, event);
+    const bool hasRoom = height() >= DialogParts::ForFont(lowHeight) || m_find->IsWanted();
+    m_find->Follow();
+    m_find->StartAction()->setEnabled(!m_overview.entries.isEmpty());
+    m_listTools->setVisible(hasRoom && !m_overview.entries.isEmpty());
 }
 
 void MainWindow::changeEvent(QEvent *event)
@@ -505,22 +517,14 @@ void MainWindow::hideEvent(QHideEvent *event)
 void MainWindow::Switch()
 {
     if (const Overview::Entry *choice = m_overview.Choice()) {
-        m_order.Connect(choice->entry.name, choice->profile.id);
-        Refresh();
+        Connect(choice->entry.name, choice->profile.id);
     }
 }
 
-void MainWindow::ConnectEntry()
+void MainWindow::Connect(const QString &name, const QString &profileId)
 {
-    const int place = m_list->currentRow();
-    if (place < 0 || place >= m_overview.entries.size() || !m_overview.connections.AreKnown()) {
-        return;
-    }
-    const Overview::Entry &entry = m_overview.entries.at(place);
-    if (!entry.isRepeated && (entry.stage == StageNotKnown || entry.stage == StageDisconnecting)) {
-        m_order.Connect(entry.entry.name, entry.profile.id);
-        Refresh();
-    }
+    m_order.Connect(name, profileId);
+    Refresh();
 }
 
 /** What is in use, or coming up to be: Wi-Fi or mobile broadband; else null. */
@@ -569,34 +573,33 @@ void MainWindow::ShowProblems()
     m_banner->Show(problems);
 }
 
-/** Counted from 0; -1: nothing that is listed is in use. */
-int MainWindow::PlaceInUse() const
-{
-    for (int i = 0; i < m_overview.entries.size(); ++i) {
-        if (m_overview.entries.at(i).isInUse) {
-            return i;
-        }
-    }
-    return -1;
-}
-
 void MainWindow::ShowList()
 {
+    m_list->Show(m_overview);
+    m_entryActions->Show(m_overview);
+    ShowTools();
     if (m_overview.status < 0) {
         ShowNoList();
-    } else if (!m_overview.entries.isEmpty()) {
-        ShowEntries();
-    } else if (m_overview.IsListWhole()) {
+    } else if (m_overview.entries.isEmpty() && m_overview.IsListWhole()) {
         ShowEmptyList();
-    } else {
+    } else if (m_list->HasFoundNothing()) {
+        ShowNothingFound();
+    } else if (m_overview.entries.isEmpty()) {
         m_message->Show(DashboardText("IDS_NO_LIST_TITLE"), DashboardText("IDS_EMPTY_UNREADABLE"),
                         QList<QAction *>());
     }
-    m_body->setCurrentWidget(m_overview.entries.isEmpty() ? static_cast<QWidget *>(m_message) : m_list);
+    const bool isListShown = !m_overview.entries.isEmpty() && !m_list->HasFoundNothing();
+    m_body->setCurrentWidget(isListShown ? static_cast<QWidget *>(m_list) : m_message);
     if (focusWidget() == m_message) {
         // There is nothing on it to work with; the settings may help.
         m_settingsButton->setFocus();
     }
+}
+
+void MainWindow::ShowNothingFound()
+{
+    m_message->Show(DashboardText("IDS_FIND_NONE").arg(OverviewText::Name(m_find->text())), QString(),
+                    {m_find->ClearAction()});
 }
 
 void MainWindow::ShowNoList()
@@ -626,32 +629,6 @@ void MainWindow::ShowEmptyList()
         m_message->Show(DashboardText("IDS_FIRST_TITLE"), DashboardText("IDS_FIRST_CONNECT"),
                         {m_connectAction, m_listActions->ImportAction()});
     }
-}
-
-void MainWindow::ShowEntries()
-{
-    const int scrolledTo = m_list->verticalScrollBar()->value();
-    const int current = m_list->count() == 0 ? PlaceInUse() : m_list->currentRow();
-    m_list->clear();
-    for (int i = 0; i < m_overview.entries.size(); ++i) {
-        const Overview::Entry &entry = m_overview.entries.at(i);
-        QListWidgetItem *item = new QListWidgetItem(entry.entry.name, m_list);
-        const QString state = OverviewText::State(m_overview, i);
-        const QString reason = OverviewText::Reason(m_overview, i);
-        item->setData(NetworkDelegate::DetailTextRole, OverviewText::Detail(m_overview, i));
-        item->setData(NetworkDelegate::StateTextRole, state);
-        item->setData(NetworkDelegate::MarkRole, OverviewText::Mark(m_overview, i));
-        item->setData(NetworkDelegate::KindRole, entry.IsWifi() ? Glyphs::Wifi : Glyphs::Mobile);
-        item->setData(NetworkDelegate::ReachRole, OverviewText::Reach(m_overview, i));
-        item->setData(NetworkDelegate::SignalRole, entry.signal);
-        item->setToolTip(reason.toHtmlEscaped());
-        item->setData(Qt::AccessibleDescriptionRole, reason);
-        item->setData(
-            Qt::AccessibleTextRole,
-            QString::fromLatin1("%1, %2, %3").arg(entry.entry.name, OverviewText::Kind(entry), state));
-    }
-    m_list->setCurrentRow(qMin(current, m_list->count() - 1));
-    m_list->verticalScrollBar()->setValue(scrolledTo);
 }
 
 void MainWindow::OpenLanguageMenu()

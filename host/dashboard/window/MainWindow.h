@@ -15,18 +15,20 @@
 class Banner;
 class ConnectDialog;
 class DashboardLanguage;
+class EntryActions;
 class HeadArea;
 class ListActions;
 class ListGuard;
 class ListKeeper;
 class MessagePage;
 class NetworkActions;
+class NetworkList;
+class NetworkSearch;
 class PluginHost;
 struct KnownPlugin;
 class QAction;
 class QActionGroup;
 class QLabel;
-class QListWidget;
 class QMenu;
 class QStackedWidget;
 class QTimer;
@@ -58,7 +60,6 @@ public slots:
 protected:
     void closeEvent(QCloseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
-    bool eventFilter(QObject *watched, QEvent *event) override;
     void changeEvent(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
@@ -69,7 +70,7 @@ private slots:
     void FollowHistory();
     void Show();
     void Switch();
-    void ConnectEntry();
+    void Connect(const QString &name, const QString &profileId);
     void Disconnect();
     void OpenLanguageMenu();
     void ChooseLanguage(QAction *action);
@@ -84,12 +85,13 @@ private:
     void CreateLanguageActions();
     void Watch();
     QWidget *CreateListHeader();
+    QWidget *CreateListTools();
     const ActiveConnection *Disconnectable() const;
     void ShowHead();
     void ShowProblems();
-    int PlaceInUse() const;
     void ShowList();
-    void ShowEntries();
+    void ShowNothingFound();
+    void ShowTools();
     void ShowNoList();
     void ShowEmptyList();
     void ShowNote();
@@ -105,6 +107,9 @@ private:
     ListActions *m_listActions;
     NetworkActions *m_networkActions;
     ListGuard *m_guard;
+    NetworkList *m_list;
+    EntryActions *m_entryActions;
+    NetworkSearch *m_find;
     QTimer *m_refreshTimer;
     bool m_isRefreshing = false;
     bool m_isWatching = false;
@@ -136,13 +141,13 @@ private:
     HeadArea *m_head;
     Banner *m_banner;
     QWidget *m_listHeader;
+    QWidget *m_listTools;
     QWidget *m_listBar;
     QLabel *m_listTitle;
     QLabel *m_note;
     TextButton *m_ruledButton;
     TextButton *m_settingsButton;
     QStackedWidget *m_body;
-    QListWidget *m_list;
     MessagePage *m_message;
 };
 

@@ -18,6 +18,8 @@ NetworkActions::NetworkActions(ListKeeper *keeper, QWidget *window)
       m_details(CreateAction("detailsAction", QKeySequence(Qt::Key_F9))),
       m_forget(CreateAction("forgetAction", QKeySequence(QLatin1String("Shift+Del"))))
 {
+    // The key cuts text elsewhere.
+    m_forget->setShortcutContext(Qt::WidgetShortcut);
     connect(m_details, &QAction::triggered, this, &NetworkActions::OpenDetails);
     connect(m_forget, &QAction::triggered, this, &NetworkActions::OpenForget);
 }
@@ -62,17 +64,16 @@ QString NetworkActions::ForgetObstacle() const
     return QString();
 }
 
-void NetworkActions::Choose(const Overview &overview, int place)
+void NetworkActions::Choose(const Overview &overview, const Overview::Entry *chosen)
 {
-    const bool isChosen = place >= 0 && place < overview.entries.size();
     m_overview = overview;
-    m_entry = isChosen ? overview.entries.at(place).entry : PriorityList();
-    const QString obstacle = isChosen ? ForgetObstacle() : QString();
+    m_entry = chosen ? chosen->entry : PriorityList();
+    const QString obstacle = chosen ? ForgetObstacle() : QString();
     const QString help = obstacle.isNull() ? DashboardText("IDS_FORGET_HINT") : obstacle;
     m_details->setText(DashboardText("IDS_DETAILS_ACTION"));
-    m_details->setEnabled(isChosen);
+    m_details->setEnabled(chosen);
     m_forget->setText(DashboardText("IDS_FORGET_ACTION"));
-    m_forget->setEnabled(isChosen && obstacle.isNull());
+    m_forget->setEnabled(chosen && obstacle.isNull());
     m_forget->setToolTip(help.toHtmlEscaped());
     m_forget->setWhatsThis(help);
 }

@@ -28,8 +28,8 @@ public:
     QAction *DetailsAction() const { return m_details; }
     QAction *ForgetAction() const { return m_forget; }
 
-    /** Of which entry of the overview they are, counted from 0; any other number: of none. */
-    void Choose(const Overview &overview, int place);
+    /** Of which network of the overview they are, in the list or not; null: of none. */
+    void Choose(const Overview &overview, const Overview::Entry *chosen);
 
     /** Has open dialogs follow, in the language of now. */
     void Show(const Overview &overview);

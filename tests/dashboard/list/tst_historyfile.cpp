@@ -153,7 +153,9 @@ void HistoryFileTest::HistoryOfTheFormerVersionIsRead()
 void HistoryFileTest::EveryMarkComesBack()
 {
     ListHistory history = Example();
-    history.Record(State(8, "Office"));
+    ListState moved = State(8, QString::fromUtf8("Shop, Café"));
+    moved.moved = 1;
+    history.Record(moved);
     history.GoTo(history.UndoPlace(), State(9, QString()).time);
     history.SetTarget(4);
     const QByteArray document = HistoryFile::Document(history);
@@ -164,6 +166,8 @@ void HistoryFileTest::EveryMarkComesBack()
              document.constData());
     QVERIFY2(document.contains("<state time=\"2026-03-01T09:07:00Z\" back=\"2026-03-01T09:05:00Z\" "
                                "order=\"0 1\"/>\n"),
+             document.constData());
+    QVERIFY2(document.contains("<state time=\"2026-03-01T09:08:00Z\" moved=\"0\" order=\"2 0\"/>\n"),
              document.constData());
     ListHistory parsed;
     QCOMPARE(HistoryFile::Parse(document, &parsed).kind, FileFault::None);
@@ -252,6 +256,12 @@ void HistoryFileTest::FaultIsNamedWithItsLineAndLeftAlone_data()
     QTest::newRow("passed by in another way")
         << QByteArray("09:06:00Z\"") << QByteArray("09:06:00Z\" passed=\"maybe\"")
         << QString::fromUtf8("Line 10: the attribute “passed”");
+    QTest::newRow("moved what is not in the list")
+        << QByteArray("09:00:00Z\"") << QByteArray("09:00:00Z\" moved=\"1\"")
+        << QString::fromUtf8("Line 8: the attribute “moved”");
+    QTest::newRow("moved what is behind the entries")
+        << QByteArray("09:00:00Z\"") << QByteArray("09:00:00Z\" moved=\"2\"")
+        << QString::fromUtf8("Line 8: the attribute “moved”");
     QTest::newRow("gone back to no time")
         << QByteArray("09:06:00Z\"") << QByteArray("09:06:00Z\" back=\"9:00\"")
         << QString::fromUtf8("Line 10: the attribute “back”");

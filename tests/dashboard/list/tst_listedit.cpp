@@ -15,6 +15,7 @@ private slots:
     void EntriesAreAdded_data();
     void EntriesAreAdded();
     void PlaceTellsNameAndType();
+    void EqualEntriesAreToldApart();
 };
 
 void ListEditTest::EntriesAreMoved_data()
@@ -42,7 +43,10 @@ void ListEditTest::EntriesAreMoved()
     QFETCH(QList<int>, places);
     QFETCH(int, before);
     QFETCH(QString, moved);
-    QCOMPARE(AsText(ListEdit::Moved(Listed("A, B, C, D"), places, before)), moved);
+    const QList<PriorityList> list = ListEdit::Moved(Listed("A, B, C, D"), places, before);
+    QCOMPARE(AsText(list), moved);
+    const QString first = QString("ABCD").at(places.first());
+    QCOMPARE(list.at(ListEdit::PlaceOfMoved(places, before, 4)).name, first);
 }
 
 void ListEditTest::EntriesAreRemoved()
@@ -78,6 +82,16 @@ void ListEditTest::PlaceTellsNameAndType()
     const QList<PriorityList> list = Listed("A, B/2, B, B");
     QCOMPARE(ListEdit::PlaceOf(list.at(2), list), 2);
     QCOMPARE(ListEdit::PlaceOf(Listed("A/2").first(), list), -1);
+}
+
+void ListEditTest::EqualEntriesAreToldApart()
+{
+    const QList<PriorityList> list = Listed("A, B, A");
+    const QList<ListedEntry> entries = ListEdit::Numbered(list);
+    QCOMPARE(ListEdit::PlaceOf(entries.at(0), list), 0);
+    QCOMPARE(ListEdit::PlaceOf(entries.at(2), list), 2);
+    QCOMPARE(ListEdit::PlacesOf({entries.at(2), entries.at(0)}, list), (QList<int>{0, 2}));
+    QCOMPARE(ListEdit::PlacesOf({entries.at(2)}, Listed("A, B")), QList<int>());
 }
 
 QTEST_GUILESS_MAIN(ListEditTest)

@@ -88,6 +88,8 @@ private slots:
     void MovesAreJoinedForTenSecondsOrAnOpening();
     void MovesThatTakeTheEntryBackLeaveNoState();
     void MoveAfterAnUndoIsNotJoined();
+    void MovesThatAreToldAreJoinedByTheirEntry_data();
+    void MovesThatAreToldAreJoinedByTheirEntry();
     void JoinedMovesHaveTheTimeOfTheLast();
     void OldestOfTooManyGoes();
     void LastListOfEachOfFourteenDaysIsKept();
@@ -350,6 +352,40 @@ void ListHistoryTest::MovesThatTakeTheEntryBackLeaveNoState()
     QCOMPARE(Told(history), QString("A | [A, B]"));
     QCOMPARE(history.Since(), Time(1, 9, 0, 2));
     QCOMPARE(history.RedoPlace(), -1);
+}
+
+void ListHistoryTest::MovesThatAreToldAreJoinedByTheirEntry_data()
+{
+    QTest::addColumn<int>("movedFirst");
+    QTest::addColumn<QString>("last");
+    QTest::addColumn<int>("movedLast");
+    QTest::addColumn<QString>("told");
+    QTest::addColumn<int>("moved");
+    QTest::newRow("both") << 1 << "B, C, A" << 2 << "A, B, C | [B, C, A]" << 2;
+    QTest::newRow("the first") << 1 << "B, C, A" << -1 << "A, B, C | [B, C, A]" << 2;
+    QTest::newRow("the last") << -1 << "B, C, A" << 2 << "A, B, C | [B, C, A]" << 2;
+    QTest::newRow("none") << -1 << "B, C, A" << -1 << "A, B, C | [B, C, A]" << -1;
+    QTest::newRow("two") << 0 << "B, C, A" << 2 << "A, B, C | B, A, C | [B, C, A]" << 2;
+    QTest::newRow("back") << 1 << "A, B, C" << 0 << "[A, B, C]" << -1;
+    QTest::newRow("back by the other") << 1 << "A, B, C" << 1 << "A, B, C | B, A, C | [A, B, C]" << 1;
+}
+
+void ListHistoryTest::MovesThatAreToldAreJoinedByTheirEntry()
+{
+    QFETCH(int, movedFirst);
+    QFETCH(QString, last);
+    QFETCH(int, movedLast);
+    QFETCH(int, moved);
+    ListHistory history;
+    history.RecordJoined(State("A, B, C"), QDateTime());
+    ListState state = State("B, A, C");
+    state.moved = movedFirst;
+    history.RecordJoined(state, QDateTime());
+    state = State(last);
+    state.moved = movedLast;
+    history.RecordJoined(state, QDateTime());
+    QTEST(Told(history), "told");
+    QCOMPARE(history.States().last().moved, moved);
 }
 
 void ListHistoryTest::MoveAfterAnUndoIsNotJoined()

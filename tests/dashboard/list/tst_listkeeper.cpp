@@ -61,6 +61,7 @@ private slots:
     void ReplaceIsAChangeThatCanBeUndone();
     void EditIsMadeOfTheListAsItIsThen();
     void EditsThatMoveOneEntryAreOneChange();
+    void EditThatTellsWhatItMovesIsKeptSo();
     void EditNeedsNoHistory();
     void NothingEditsAListThatCannotBeReadToItsEnd();
     void EverybodyIsToldOfAnUndo();
@@ -512,6 +513,18 @@ void ListKeeperTest::EditsThatMoveOneEntryAreOneChange()
         QCOMPARE(m_keeper->Edit(moveUp), ListKeeper::NoObstacle);
     }
     QCOMPARE(History(), QString(" | A, B, C, D | [D, A, B, C]"));
+}
+
+void ListKeeperTest::EditThatTellsWhatItMovesIsKeptSo()
+{
+    WriteList("A, B, C");
+    const auto moveFirstDown = [](const QList<PriorityList> &list) {
+        return ListEdit::Moved(list, {0}, 2);
+    };
+    const PriorityList moved = Listed("A").first();
+    QCOMPARE(m_keeper->Edit(moveFirstDown, &moved), ListKeeper::NoObstacle);
+    StartAnew();
+    QCOMPARE(m_keeper->History().States().last().moved, 1);
 }
 
 void ListKeeperTest::EditNeedsNoHistory()

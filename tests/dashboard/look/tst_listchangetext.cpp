@@ -17,6 +17,7 @@ private slots:
     void ChangesAreToldInWords();
     void NamesAreOneShortLine_data();
     void NamesAreOneShortLine();
+    void NeighbourThatWasMovedIsTold();
     void TextsFollowTheLanguage();
     void NumbersAreInTheDigitsOfTheDates();
     void SignsBetweenNamesAndSentencesAreTheLanguages_data();
@@ -104,6 +105,19 @@ void ListChangeTextTest::NamesAreOneShortLine()
     PriorityList entry;
     entry.name = name;
     QCOMPARE(Plain(ListChangeText::Name(entry)), shown);
+}
+
+void ListChangeTextTest::NeighbourThatWasMovedIsTold()
+{
+    ListState before;
+    before.entries = Listed("A, B");
+    ListState after;
+    after.entries = Listed("B, A");
+    after.moved = 1;
+    QCOMPARE(ListChangeText::DescribeStep(before, after), QString("Moved A down"));
+    // What was moved on the way to another list tells nothing of this step.
+    before.entries = Listed("A");
+    QCOMPARE(ListChangeText::DescribeStep(before, after), QString("Added B"));
 }
 
 void ListChangeTextTest::TextsFollowTheLanguage()

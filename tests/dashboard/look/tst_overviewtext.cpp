@@ -196,7 +196,7 @@ void OverviewTextTest::HeadTellsWhyNothingIsKnown()
     const Overview overview = Overview::Make(0, Listed("Home"), told);
     QTEST(OverviewText::Headline(overview), "headline");
     QCOMPARE(OverviewText::Explanation(overview), explanation);
-    QCOMPARE(OverviewText::State(overview, 0), QString("Not known if in range"));
+    QCOMPARE(OverviewText::State(overview, overview.entries.at(0)), QString("Not known if in range"));
     QCOMPARE(OverviewText::Reason(overview, 0), explanation);
 }
 
@@ -263,7 +263,7 @@ void OverviewTextTest::StateAndReasonFollowTheProfile()
         told.profiles << SavedProfile("X", use, type);
     }
     const Overview overview = Overview::Make(0, Listed("X/" + type), told);
-    QTEST(OverviewText::State(overview, 0), "state");
+    QTEST(OverviewText::State(overview, overview.entries.at(0)), "state");
     QTEST(OverviewText::Reason(overview, 0), "reason");
 }
 
@@ -288,7 +288,8 @@ void OverviewTextTest::StateFollowsTheConnection()
     told.profiles << SavedProfile("X");
     told.active << ConnectionOf("X", stage, carriesTraffic);
     told.active[0].signal = 64;
-    QTEST(OverviewText::State(Overview::Make(0, Listed("X"), told), 0), "state");
+    const Overview overview = Overview::Make(0, Listed("X"), told);
+    QTEST(OverviewText::State(overview, overview.entries.first()), "state");
 }
 
 void OverviewTextTest::StateFollowsTheLastTry_data()
@@ -315,8 +316,8 @@ void OverviewTextTest::StateFollowsTheLastTry()
     told.profiles[0].failure = failure;
     told.profiles[0].connectsByItself = connectsByItself;
     const Overview overview = Overview::Make(0, Listed("X"), told);
-    QTEST(OverviewText::State(overview, 0), "state");
-    QTEST(int(OverviewText::Mark(overview, 0)), "mark");
+    QTEST(OverviewText::State(overview, overview.entries.at(0)), "state");
+    QTEST(int(OverviewText::Mark(overview, overview.entries.at(0))), "mark");
 }
 
 void OverviewTextTest::DetailTellsWhatTheStateDoesNot_data()
@@ -357,9 +358,9 @@ void OverviewTextTest::DetailTellsWhatTheStateDoesNot()
     told.active << ConnectionOf("Cafe", StageConnected, true);
     const Overview overview =
         Overview::Make(0, Listed("Office, Attic, Home, Cafe, Library, Away, Home"), told);
-    QTEST(OverviewText::State(overview, place), "state");
+    QTEST(OverviewText::State(overview, overview.entries.at(place)), "state");
     QTEST(Plain(OverviewText::Detail(overview, place)), "detail");
-    QTEST(int(OverviewText::Reach(overview, place)), "reach");
+    QTEST(int(OverviewText::Reach(overview, overview.entries.at(place))), "reach");
 }
 
 void OverviewTextTest::FailureIsTold_data()
@@ -451,7 +452,7 @@ void OverviewTextTest::EntryThatIsListedTwiceIsToldSo()
     const Overview overview = Overview::Make(0, Listed("X, X"), told);
     QCOMPARE(OverviewText::Reason(overview, 1),
              QString("It stands higher in the list already, so this place has no effect."));
-    QCOMPARE(int(OverviewText::Mark(overview, 1)), int(Glyphs::MarkWarning));
+    QCOMPARE(int(OverviewText::Mark(overview, overview.entries.at(1))), int(Glyphs::MarkWarning));
 }
 
 void OverviewTextTest::LowerEntryNamesTheHigherOne()

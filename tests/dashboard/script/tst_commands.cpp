@@ -4,6 +4,7 @@
 #include <DashboardLanguage.h>
 #include <HostControl.h>
 #include <MainWindow.h>
+#include <NetworkList.h>
 #include <PluginHost.h>
 #include <TemporaryDirectory.h>
 #include <TraceLog.h>
@@ -914,14 +915,14 @@ void CommandsTest::WindowFollowsACommand()
     DashboardLanguage language(nullptr);
     MainWindow window(&plugins, &language, &log);
     window.show();
-    const QListWidget *list = window.findChild<QListWidget *>("overviewList");
-    QCOMPARE(list->count(), 1);
+    const NetworkList *list = window.findChild<NetworkList *>();
+    QCOMPARE(list->Listed().size(), 1);
 
     QCOMPARE(Run(QStringList() << "--add=Office"
                                << "--add-top=Campus")
                  .status,
              0);
-    QVERIFY(Eventually([list]() { return list->count() == 3; }));
+    QVERIFY(Eventually([list]() { return list->Listed().size() == 3; }));
     QCOMPARE(list->item(0)->text(), QString("Campus"));
     QCOMPARE(list->item(2)->text(), QString("Office"));
 }

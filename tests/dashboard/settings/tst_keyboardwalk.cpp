@@ -4,6 +4,7 @@
 #include <DashboardLanguage.h>
 #include <HostControl.h>
 #include <MainWindow.h>
+#include <NetworkList.h>
 #include <TextPattern.h>
 #include <TraceLog.h>
 #include <WindowActivation.h>
@@ -132,9 +133,9 @@ void KeyboardWalkTest::cleanupTestCase()
 QString KeyboardWalkTest::Seen() const
 {
     const QWidget *dialog = QApplication::activeModalWidget();
-    const QListWidget *list = m_window->findChild<QListWidget *>("overviewList");
+    const NetworkList *list = m_window->findChild<NetworkList *>();
     QStringList names;
-    for (int i = 0; list->isVisible() && i < list->count(); ++i) {
+    for (int i = 0; list->isVisible() && i < list->Listed().size(); ++i) {
         names.append(list->item(i)->text());
     }
     return QString("%1; %2; %3; %4")

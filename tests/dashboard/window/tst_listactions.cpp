@@ -8,6 +8,7 @@
 #include <HostControl.h>
 #include <IPriorityPlugin.h>
 #include <MainWindow.h>
+#include <NetworkList.h>
 #include <OrderFile.h>
 #include <PluginObjects.h>
 #include <TraceCapture.h>
@@ -99,9 +100,9 @@ private:
 
 QString ListActionsTest::Shown() const
 {
-    const QListWidget *list = m_window->findChild<QListWidget *>("overviewList");
+    const NetworkList *list = m_window->findChild<NetworkList *>();
     QStringList names;
-    for (int i = 0; list->isVisible() && i < list->count(); ++i) {
+    for (int i = 0; list->isVisible() && i < list->Listed().size(); ++i) {
         names.append(list->item(i)->text());
     }
     return names.join(", ");
@@ -193,7 +194,12 @@ void ListActionsTest::MenuHasEverything()
     QCOMPARE(texts, QStringList() << "&Undo"
                                   << "&Redo" << QString::fromUtf8("Earlier &lists…") << QString()
                                   << QString::fromUtf8("&Import list…") << QString::fromUtf8("&Export list…")
-                                  << QString() << QString::fromUtf8("&Settings…"));
+                                  << QString() << "Move u&p"
+                                  << "Move &down"
+                                  << "Move to &top"
+                                  << "Move to e&nd" << QString() << "Remove &from list"
+                                  << "&Add to list" << QString() << "Find a net&work"
+                                  << QString::fromUtf8("&Settings…"));
     PluginWorld::AddTop("Home");
     Action("undoAction")->trigger();
     QCOMPARE(PluginWorld::Stored(), QString());

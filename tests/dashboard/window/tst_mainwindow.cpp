@@ -6,6 +6,7 @@
 #include <HostControl.h>
 #include <MainWindow.h>
 #include <NetworkDelegate.h>
+#include <NetworkList.h>
 #include <PluginHost.h>
 #include <PluginObjects.h>
 #include <TemporaryDirectory.h>
@@ -100,7 +101,7 @@ private:
     {
         return m_window->findChild<QLabel *>(QLatin1String(name))->text();
     }
-    QListWidget *List() const { return m_window->findChild<QListWidget *>("overviewList"); }
+    NetworkList *List() const { return m_window->findChild<NetworkList *>(); }
     QStringList Names() const;
     QStringList States() const;
     QString ListPath() const { return m_directory->FilePath("priority-dashboard/Priority.xml"); }
@@ -116,7 +117,7 @@ private:
 QStringList MainWindowTest::Names() const
 {
     QStringList names;
-    for (int i = 0; i < List()->count(); ++i) {
+    for (int i = 0; i < List()->Listed().size(); ++i) {
         names.append(List()->item(i)->text());
     }
     return names;
@@ -125,7 +126,7 @@ QStringList MainWindowTest::Names() const
 QStringList MainWindowTest::States() const
 {
     QStringList states;
-    for (int i = 0; i < List()->count(); ++i) {
+    for (int i = 0; i < List()->Listed().size(); ++i) {
         states.append(List()->item(i)->data(NetworkDelegate::StateTextRole).toString());
     }
     return states;
@@ -533,7 +534,7 @@ void MainWindowTest::SmallestWindowShowsWhatIsInUseAndThreeEntries()
     QList<PriorityList> entries;
     entries << Entry("Home") << Entry("Office") << Entry("Mobile", "2") << Entry("Library");
     PluginObjects::Priority()->AddPriorityList(entries);
-    QTRY_COMPARE(List()->count(), 4);
+    QTRY_COMPARE(Names().size(), 4);
     const QSize before = m_window->size();
     m_window->resize(1, 1);
     QCOMPARE(m_window->size(), m_window->minimumSize());
