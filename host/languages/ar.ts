@@ -1138,6 +1138,10 @@
         <translation>هي غير محفوظة هنا، لذلك لا حاجة إلى نسيانها. يمكن إزالتها من القائمة.</translation>
     </message>
     <message>
+        <source>IDS_FORGET_NOT_LISTED</source>
+        <translation>ليست في قائمتك. أضفها أولاً، ثم يمكن نسيانها من هنا.</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_WINDOW</source>
         <translation>نسيان الشبكة</translation>
     </message>

@@ -1139,6 +1139,10 @@ Erwartet: %3</translation>
         <translation>Es ist hier nicht gespeichert, daher gibt es nichts zu vergessen. Es lässt sich aus der Liste entfernen.</translation>
     </message>
     <message>
+        <source>IDS_FORGET_NOT_LISTED</source>
+        <translation>Es ist nicht in Ihrer Liste. Fügen Sie es erst hinzu, dann kann es hier vergessen werden.</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_WINDOW</source>
         <translation>Netzwerk vergessen</translation>
     </message>

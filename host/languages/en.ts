@@ -1240,6 +1240,11 @@ Expected: %3</translation>
         <translation>It is not saved here, so there is nothing to forget. It can be removed from the list.</translation>
     </message>
     <message>
+        <source>IDS_FORGET_NOT_LISTED</source>
+        <extracomment>Why a saved network that is not in the list can't be forgotten here</extracomment>
+        <translation>It is not in your list. Add it to the list first, then it can be forgotten here.</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_WINDOW</source>
         <extracomment>Title of the question</extracomment>
         <translation>Forget network</translation>

@@ -1139,6 +1139,10 @@ Esperado: %3</translation>
         <translation>No está guardada aquí, así que no hay nada que olvidar. Se puede quitar de la lista.</translation>
     </message>
     <message>
+        <source>IDS_FORGET_NOT_LISTED</source>
+        <translation>No está en su lista. Añádala primero; después se puede olvidar aquí.</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_WINDOW</source>
         <translation>Olvidar red</translation>
     </message>

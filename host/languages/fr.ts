@@ -1139,6 +1139,10 @@ Attendu&#xa0;: %3</translation>
         <translation>Il n’est pas enregistré ici&#x202f;; il n’y a donc rien à oublier. Il peut être retiré de la liste.</translation>
     </message>
     <message>
+        <source>IDS_FORGET_NOT_LISTED</source>
+        <translation>Il n’est pas dans votre liste. Ajoutez-le d’abord, il pourra alors être oublié ici.</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_WINDOW</source>
         <translation>Oublier le réseau</translation>
     </message>

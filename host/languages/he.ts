@@ -1138,6 +1138,10 @@
         <translation>היא אינה שמורה כאן, ולכן אין צורך בשכחה. אפשר להסיר אותה מהרשימה.</translation>
     </message>
     <message>
+        <source>IDS_FORGET_NOT_LISTED</source>
+        <translation>היא לא ברשימה שלך. אפשר להוסיף אותה קודם, ואז לשכוח אותה כאן.</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_WINDOW</source>
         <translation>שכחת הרשת</translation>
     </message>

@@ -1139,6 +1139,10 @@
         <translation>ここでは未登録なので、破棄するものはありません。リストから削除できます。</translation>
     </message>
     <message>
+        <source>IDS_FORGET_NOT_LISTED</source>
+        <translation>リストにありません。まずリストに追加すると、ここで破棄できます。</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_WINDOW</source>
         <translation>ネットワークの破棄</translation>
     </message>

@@ -1139,6 +1139,10 @@ Esperado: %3</translation>
         <translation>Ela não está salva aqui, por isso não há nada a esquecer. Ela pode ser removida da lista.</translation>
     </message>
     <message>
+        <source>IDS_FORGET_NOT_LISTED</source>
+        <translation>Ela não está na sua lista. Adicione-a primeiro; depois ela pode ser esquecida aqui.</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_WINDOW</source>
         <translation>Esquecer rede</translation>
     </message>

@@ -1139,6 +1139,10 @@
         <translation>Она здесь не сохранена, поэтому забыть нечего. Её можно убрать из списка.</translation>
     </message>
     <message>
+        <source>IDS_FORGET_NOT_LISTED</source>
+        <translation>Её нет в вашем списке. Сначала добавьте её, тогда её можно будет забыть здесь.</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_WINDOW</source>
         <translation>Забыть сеть</translation>
     </message>

@@ -1139,6 +1139,10 @@
         <translation>它没有保存在此处，因此没有可忘记的内容。可以将它从列表中移除。</translation>
     </message>
     <message>
+        <source>IDS_FORGET_NOT_LISTED</source>
+        <translation>它不在您的列表中。请先添加，然后可以在此忘记它。</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_WINDOW</source>
         <translation>忘记网络</translation>
     </message>
