@@ -6,6 +6,7 @@
 #include <QPainterPath>
 #include <QStyleOptionToolButton>
 #include <QStylePainter>
+#include <QTransform>
 
 namespace
 {
@@ -13,22 +14,22 @@ namespace
 const int side = 30;
 
 /** In a square whose sides are 16 and whose middle is at 0, pointing up. */
-QPainterPath Drawing(bool isCross, bool hasBar)
+QPainterPath Drawing(ArrowButton::Shape shape)
 {
     QPainterPath path;
-    if (isCross) {
-        path.moveTo(-5, -5);
-        path.lineTo(5, 5);
-        path.moveTo(-5, 5);
-        path.lineTo(5, -5);
-        return path;
+    if (shape == ArrowButton::Cross || shape == ArrowButton::Plus) {
+        path.moveTo(-6, 0);
+        path.lineTo(6, 0);
+        path.moveTo(0, -6);
+        path.lineTo(0, 6);
+        return shape == ArrowButton::Plus ? path : QTransform().rotate(45).map(path);
     }
     path.moveTo(0, 7);
     path.lineTo(0, -5);
     path.moveTo(-5, 0);
     path.lineTo(0, -5);
     path.lineTo(5, 0);
-    if (hasBar) {
+    if (shape == ArrowButton::Top || shape == ArrowButton::End) {
         path.moveTo(-6, -8);
         path.lineTo(6, -8);
     }
@@ -65,5 +66,5 @@ void ArrowButton::paintEvent(QPaintEvent *)
     painter.setPen(
         QPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText), 1.8,
              Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.drawPath(Drawing(m_shape == Cross, m_shape == Top || m_shape == End));
+    painter.drawPath(Drawing(m_shape));
 }

@@ -11,7 +11,7 @@ class ArrowButton : public QToolButton
     Q_OBJECT
 
 public:
-    enum Shape { Up, Down, Top, End, Cross };
+    enum Shape { Up, Down, Top, End, Cross, Plus };
 
     /** @param action  not owned; outlives the button. */
     ArrowButton(const char *name, QAction *action, Shape shape);

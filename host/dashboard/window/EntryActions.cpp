@@ -130,6 +130,7 @@ QWidget *EntryActions::CreateButtons()
     }
     layout->addSpacing(8);
     layout->addWidget(new ArrowButton("removeButton", m_remove, ArrowButton::Cross));
+    layout->addWidget(new ArrowButton("addToListButton", m_add, ArrowButton::Plus));
     layout->addStretch();
     return buttons;
 }
@@ -164,14 +165,14 @@ void EntryActions::SetHelp(QAction *action, const QString &obstacle)
 
 QString EntryActions::SelectionObstacle() const
 {
-    const QString obstacle = ListKeeperText::Reason(*m_keeper, m_keeper->EditObstacle());
+    QString obstacle = ListKeeperText::Reason(*m_keeper, m_keeper->EditObstacle());
     const bool isNone = m_list->Selected().isEmpty();
     return obstacle.isNull() && isNone ? DashboardText("IDS_EDIT_NONE") : obstacle;
 }
 
 QString EntryActions::MoveObstacle(const MoveAction &move) const
 {
-    const QString obstacle = SelectionObstacle();
+    QString obstacle = SelectionObstacle();
     const QList<PriorityList> list = m_keeper->Entries();
     const QList<int> places = ListEdit::PlacesOf(m_list->Selected(), list);
     if (!obstacle.isNull() || places.isEmpty()) {
