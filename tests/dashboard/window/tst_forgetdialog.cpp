@@ -257,6 +257,8 @@ void ForgetDialogTest::WhatCannotBeForgottenIsNotOffered_data()
         << "It is not saved here, so there is nothing to forget. It can be removed from the list.";
     QTest::newRow("not allowed") << "You are not allowed to do that.";
     QTest::newRow("not known") << "It is not known now which networks are saved.";
+    QTest::newRow("not in the list")
+        << "It is not in your list. Add it to the list first, then it can be forgotten here.";
     QTest::newRow("list not to be opened") << QString();
 }
 
@@ -272,10 +274,15 @@ void ForgetDialogTest::WhatCannotBeForgottenIsNotOffered()
         m_world->connections->details["1Home"].change = ProfileDetails::ChangeNotAllowed;
     } else if (tag == "not known") {
         m_world->connections->told.state.source = ConnectionState::SourceNotKnown;
+    } else if (tag == "not in the list") {
+        m_world->priority->list.removeFirst();
     } else {
         m_world->priority->status = PriorityNotOpened;
     }
     m_world->AwaitReading([this] { m_world->window->Refresh(); });
+    if (tag == "not in the list") {
+        m_world->List()->setCurrentRow(m_world->List()->count() - 1);
+    }
     QVERIFY(!Action()->isEnabled());
     if (!reason.isEmpty()) {
         QCOMPARE(Action()->whatsThis(), reason);
