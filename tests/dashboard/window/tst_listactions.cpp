@@ -193,7 +193,9 @@ void ListActionsTest::MenuHasEverything()
     QCOMPARE(texts, QStringList() << "&Undo"
                                   << "&Redo" << QString::fromUtf8("Earlier &lists…") << QString()
                                   << QString::fromUtf8("&Import list…") << QString::fromUtf8("&Export list…")
-                                  << QString() << QString::fromUtf8("&Settings…"));
+                                  << QString() << QString::fromUtf8("Det&ails…")
+                                  << QString::fromUtf8("For&get network…") << QString()
+                                  << QString::fromUtf8("&Settings…"));
     PluginWorld::AddTop("Home");
     Action("undoAction")->trigger();
     QCOMPARE(PluginWorld::Stored(), QString());
