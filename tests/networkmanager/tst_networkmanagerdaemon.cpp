@@ -12,11 +12,13 @@
 #include <PluginObjects.h>
 #include <UserActions.h>
 
+#include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
 #include <QLabel>
+#include <QListWidget>
 #include <QProcess>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -97,6 +99,7 @@ private slots:
     void EntriesWithoutAProfileTakeNoPriority();
     void NothingButThePriorityIsWritten();
     void ForgottenProfileIsGoneAndNoOtherIsTouched();
+    void ForgetTakesANetworkOffTheComputerAndOutOfTheList();
     void NothingButConnectingByItselfIsWritten();
     void KeyThatTheDesktopKeepsStaysThere();
     void EditsOfAnotherProgramSurviveChangesOfTheList();
@@ -379,6 +382,25 @@ void tst_networkmanagerdaemon::ForgottenProfileIsGoneAndNoOtherIsTouched()
     QVERIFY(ProfileNamed("A").id.isEmpty());
     QCOMPARE(m_daemon->Keyfiles().size(), 1);
     QCOMPARE(m_daemon->Keyfile("Other"), before);
+}
+
+void tst_networkmanagerdaemon::ForgetTakesANetworkOffTheComputerAndOutOfTheList()
+{
+    QVERIFY(NetworkManagerDaemon::Add("A"));
+    QVERIFY(NetworkManagerDaemon::Add("Other"));
+    SetList({"A", "Other"});
+    QAction *forget = Find<QAction>("forgetAction");
+    QTRY_COMPARE(Find<QListWidget>("overviewList")->count(), 2);
+    Find<QListWidget>("overviewList")->setCurrentRow(0);
+    QTRY_VERIFY(forget->isEnabled());
+    forget->trigger();
+    QCOMPARE(m_dashboard->Click("forgetButton"), QString());
+    QTRY_COMPARE(Find<QListWidget>("overviewList")->count(), 1);
+    QVERIFY(!m_dashboard->User().Read("Priority.xml").contains("name=\"A\""));
+    QCOMPARE(m_daemon->Keyfiles().size(), 1);
+    Find<QAction>("undoAction")->trigger();
+    QTRY_COMPARE(Find<QListWidget>("overviewList")->count(), 2);
+    QVERIFY(ProfileNamed("A").id.isEmpty());
 }
 
 void tst_networkmanagerdaemon::NothingButConnectingByItselfIsWritten()
