@@ -331,20 +331,30 @@ void NetworkList::ShowFound()
     QListWidgetItem *first = nullptr;
     bool hasUnlisted = !IsSearched();
     for (int i = 0; i < count(); ++i) {
-        const bool isFound = !IsHeader(i) && Searchable(item(i)->text()).contains(m_wanted);
-        hasUnlisted = hasUnlisted || (isFound && i > m_listed);
-        item(i)->setHidden(!isFound);
-        if (!isFound && (IsSearched() || !IsHeader(i))) {
-            item(i)->setSelected(false);
-        } else if (!first && isFound) {
-            first = item(i);
+        if (IsHeader(i)) {
+            continue;
         }
+        const bool isFound = Searchable(item(i)->text()).contains(m_wanted);
+        SetShown(i, isFound);
+        hasUnlisted = hasUnlisted || (isFound && i > m_listed);
+        first = !first && isFound ? item(i) : first;
     }
-    if (m_listed < count()) {
-        item(m_listed)->setHidden(!hasUnlisted);
+    if (IsHeader(m_listed)) {
+        SetShown(m_listed, hasUnlisted);
     }
     if (currentItem() && currentItem()->isHidden()) {
         setCurrentItem(first);
+    }
+}
+
+/** Each call would lay the list out anew. */
+void NetworkList::SetShown(int row, bool isShown)
+{
+    if (item(row)->isHidden() == isShown) {
+        item(row)->setHidden(!isShown);
+    }
+    if (!isShown) {
+        item(row)->setSelected(false);
     }
 }
 

@@ -99,6 +99,7 @@ private:
     int RowOf(const ListedEntry &entry) const { return static_cast<int>(m_rows.indexOf(entry)); }
     void AskForMenu();
     void ShowFound();
+    void SetShown(int row, bool isShown);
 
     QList<ListedEntry> m_rows;
     /** How many of the rows are of the list. */

@@ -156,7 +156,7 @@ void RowDrag::Begin()
 {
     QListWidgetItem *taken = m_list->itemAt(m_pressedAt);
     m_isFromBehind = taken && m_list->row(taken) > EndOfRows();
-    if (taken && taken->isSelected()) {
+    if (taken && taken->isSelected() && m_list->row(taken) != m_end) {
         m_mark = new Mark(m_list, m_list->visualItemRect(taken), m_pressedAt);
         m_list->viewport()->setCursor(Qt::ClosedHandCursor);
         m_scrolling->start();

@@ -26,8 +26,8 @@ public:
     /** A drag that is under way ends without a drop when it is turned off. */
     void SetOn(bool isOn);
 
-    /** Before rows behind that one nothing can be dropped; -1: all are places to drop at. A row from behind
-     * there is dropped at the end only by letting go above it. */
+    /** That row can't be dragged, and before rows behind it nothing can be dropped; -1: all are places to
+     * drop at. A row from behind there is dropped at the end only by letting go above it. */
     void SetEnd(int row) { m_end = row; }
 
     bool eventFilter(QObject *watched, QEvent *event) override;
