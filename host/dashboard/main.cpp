@@ -114,6 +114,15 @@ QString PrepareHost(const Arguments &arguments)
     return QString();
 }
 
+void Open(MainWindow *window, const QString &part)
+{
+    if (part == QLatin1String("connect")) {
+        window->OpenConnect();
+    } else if (part == QLatin1String("settings")) {
+        window->OpenSettings();
+    }
+}
+
 int RunWindow(const Arguments &arguments, TraceLog *log)
 {
     if (UserData::Directory().isEmpty()) {
@@ -134,6 +143,7 @@ int RunWindow(const Arguments &arguments, TraceLog *log)
     MainWindow window(&plugins, &language, log);
     window.FitToScreen();
     window.show();
+    Open(&window, arguments.show);
     return QApplication::exec();
 }
 
@@ -174,6 +184,8 @@ int main(int argc, char **argv)
                                 : Refuse(problem, exitRefused);
     }
 
+    // The name of the installed desktop file: how desktops find the name and the icon of the window.
+    QGuiApplication::setDesktopFileName(QLatin1String("com.torvik.netquillforge.PriorityDashboard"));
     FollowScreenScale();
     // The log before Qt, which has things to say while it starts.
     TraceLog log(UserData::FilePath(QLatin1String("dashboard.log")));
