@@ -5,6 +5,7 @@
 #include <HostControl.h>
 #include <Installation.h>
 #include <MainWindow.h>
+#include <OneWindow.h>
 #include <PluginHost.h>
 #include <Terminal.h>
 #include <TraceLog.h>
@@ -14,6 +15,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QScopedPointer>
 #include <QStandardPaths>
 
 #include <clocale>
@@ -123,7 +125,19 @@ void Open(MainWindow *window, const QString &part)
     }
 }
 
-int RunWindow(const Arguments &arguments, TraceLog *log)
+/** What the window of this start would show; null when it is to have a window of its own in any case. */
+QString WindowKey(const Arguments &arguments)
+{
+    const QString data = QFileInfo(UserData::Directory()).canonicalFilePath();
+    if (arguments.isDemo || data.isEmpty()) {
+        return QString();
+    }
+    const QStringList parts = {data, LibraryPath(arguments), QString::number(arguments.ChosenWlan()),
+                               arguments.language};
+    return parts.join(QLatin1Char('\n'));
+}
+
+int RunWindow(const Arguments &arguments, TraceLog *log, const OneWindow *oneWindow)
 {
     if (UserData::Directory().isEmpty()) {
         TraceLog::Warn(QLatin1String("there is no directory for your data and none can be made; "
@@ -144,6 +158,15 @@ int RunWindow(const Arguments &arguments, TraceLog *log)
     window.FitToScreen();
     window.show();
     Open(&window, arguments.show);
+    if (oneWindow) {
+        QObject::connect(oneWindow, &OneWindow::StartedAgain, &window, [&window](const QStringList &later) {
+            OneWindow::Raise(&window);
+            // What is being done in a dialog comes first.
+            if (!QApplication::activeModalWidget()) {
+                Open(&window, Arguments::Parse(later).show);
+            }
+        });
+    }
     return QApplication::exec();
 }
 
@@ -197,5 +220,10 @@ int main(int argc, char **argv)
         return Refuse(problem, exitRefused);
     }
     StartLanguage(arguments);
-    return isForScripts ? Commands::Run(arguments, LibraryPath(arguments)) : RunWindow(arguments, &log);
+    if (isForScripts) {
+        return Commands::Run(arguments, LibraryPath(arguments));
+    }
+    const QString key = WindowKey(arguments);
+    const QScopedPointer<OneWindow> oneWindow(key.isNull() ? nullptr : new OneWindow(key));
+    return RunWindow(arguments, &log, oneWindow.data());
 }
