@@ -27,6 +27,11 @@ QString FollowingKey()
     return QLatin1String("following");
 }
 
+QString NotifyingKey()
+{
+    return QLatin1String("notify");
+}
+
 QString Word(const QString &key)
 {
     const QString path = ListRules::FilePath();
@@ -86,4 +91,14 @@ bool ListRules::IsFollowing()
 bool ListRules::SetFollowing(bool isFollowing)
 {
     return SetWord(FollowingKey(), isFollowing ? yes : no);
+}
+
+bool ListRules::IsNotifying()
+{
+    return Word(NotifyingKey()) == QLatin1String(yes);
+}
+
+bool ListRules::SetNotifying(bool isNotifying)
+{
+    return SetWord(NotifyingKey(), isNotifying ? yes : no);
 }

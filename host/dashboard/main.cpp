@@ -7,6 +7,7 @@
 #include <MainWindow.h>
 #include <OneWindow.h>
 #include <PluginHost.h>
+#include <SwitchNotice.h>
 #include <Terminal.h>
 #include <TraceLog.h>
 #include <UserData.h>
@@ -153,6 +154,7 @@ int RunWindow(const Arguments &arguments, TraceLog *log, const OneWindow *oneWin
             TraceLog::Warn(PluginHost::ProblemText(loaded.at(i)));
         }
     }
+    const SwitchNotice notice;
     DashboardLanguage language(nullptr);
     MainWindow window(&plugins, &language, log);
     window.FitToScreen();

@@ -398,6 +398,22 @@
         <translation>ما إن يمكن استخدام شبكة أعلى في قائمتك. لا تُترك شبكة وصلتها بنفسك، ولا يحدث تبديل أثناء استخدام VPN.</translation>
     </message>
     <message>
+        <source>IDS_RULES_NOTIFYING</source>
+        <translation>إعلامي عند التبديل</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_NOTIFYING_HINT</source>
+        <translation>بإشعار من سطح المكتب بعد كل تبديل.</translation>
+    </message>
+    <message>
+        <source>IDS_NOTIFY_SWITCHED</source>
+        <translation>تم التبديل إلى %1</translation>
+    </message>
+    <message>
+        <source>IDS_NOTIFY_HIGHER</source>
+        <translation>هي أعلى في قائمتك من %1.</translation>
+    </message>
+    <message>
         <source>IDS_GENERAL_PLUGINS</source>
         <translation>الملحقات</translation>
     </message>

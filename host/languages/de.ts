@@ -398,6 +398,22 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
         <translation>Sobald ein Netzwerk weiter oben in Ihrer Liste verwendet werden kann. Nicht weg von einem Netzwerk, das Sie von Hand verbunden haben, und nicht während einer VPN-Verbindung.</translation>
     </message>
     <message>
+        <source>IDS_RULES_NOTIFYING</source>
+        <translation>Bei jedem Wechsel benachrichtigen</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_NOTIFYING_HINT</source>
+        <translation>Als Benachrichtigung des Desktops, nach jedem Wechsel.</translation>
+    </message>
+    <message>
+        <source>IDS_NOTIFY_SWITCHED</source>
+        <translation>Zu %1 gewechselt</translation>
+    </message>
+    <message>
+        <source>IDS_NOTIFY_HIGHER</source>
+        <translation>Es steht in Ihrer Liste weiter oben als %1.</translation>
+    </message>
+    <message>
         <source>IDS_GENERAL_PLUGINS</source>
         <translation>Plugins</translation>
     </message>

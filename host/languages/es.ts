@@ -398,6 +398,22 @@ Puede usar letras, números y estos símbolos:
         <translation>En cuanto se pueda usar una red más alta de su lista. No se deja una red conectada a mano, ni se cambia durante una VPN.</translation>
     </message>
     <message>
+        <source>IDS_RULES_NOTIFYING</source>
+        <translation>Avisarme cuando cambie</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_NOTIFYING_HINT</source>
+        <translation>Con una notificación del escritorio, después de cada cambio.</translation>
+    </message>
+    <message>
+        <source>IDS_NOTIFY_SWITCHED</source>
+        <translation>Se ha cambiado a %1</translation>
+    </message>
+    <message>
+        <source>IDS_NOTIFY_HIGHER</source>
+        <translation>Está más arriba en su lista que %1.</translation>
+    </message>
+    <message>
         <source>IDS_GENERAL_PLUGINS</source>
         <translation>Complementos</translation>
     </message>

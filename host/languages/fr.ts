@@ -398,6 +398,22 @@ Vous pouvez utiliser des lettres, des chiffres et les symboles suivants&#xa0;:
         <translation>Dès qu’un réseau plus haut dans votre liste peut être utilisé. Sans quitter un réseau connecté à la main, ni pendant un VPN.</translation>
     </message>
     <message>
+        <source>IDS_RULES_NOTIFYING</source>
+        <translation>Me prévenir à chaque changement</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_NOTIFYING_HINT</source>
+        <translation>Par une notification du bureau, après chaque changement.</translation>
+    </message>
+    <message>
+        <source>IDS_NOTIFY_SWITCHED</source>
+        <translation>Passage à %1</translation>
+    </message>
+    <message>
+        <source>IDS_NOTIFY_HIGHER</source>
+        <translation>Il est plus haut dans votre liste que %1.</translation>
+    </message>
+    <message>
         <source>IDS_GENERAL_PLUGINS</source>
         <translation>Modules</translation>
     </message>

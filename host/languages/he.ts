@@ -398,6 +398,22 @@
         <translation>ברגע שאפשר להשתמש ברשת גבוהה יותר ברשימה שלך. לא עוזבים רשת שחיברת ידנית, ולא מחליפים בזמן VPN.</translation>
     </message>
     <message>
+        <source>IDS_RULES_NOTIFYING</source>
+        <translation>הודעה לי בעת מעבר</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_NOTIFYING_HINT</source>
+        <translation>בהתראה של שולחן העבודה, אחרי כל מעבר.</translation>
+    </message>
+    <message>
+        <source>IDS_NOTIFY_SWITCHED</source>
+        <translation>בוצע מעבר אל %1</translation>
+    </message>
+    <message>
+        <source>IDS_NOTIFY_HIGHER</source>
+        <translation>היא גבוהה יותר ברשימה שלך מ-%1.</translation>
+    </message>
+    <message>
         <source>IDS_GENERAL_PLUGINS</source>
         <translation>תוספים</translation>
     </message>

@@ -398,6 +398,22 @@
         <translation>リストでより上のネットワークが使用できるようになったときに切り替えます。手動で接続したネットワークからは切り替えません。VPN の使用中も切り替えません。</translation>
     </message>
     <message>
+        <source>IDS_RULES_NOTIFYING</source>
+        <translation>切り替えたときに通知する</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_NOTIFYING_HINT</source>
+        <translation>切り替えのたびに、デスクトップの通知でお知らせします。</translation>
+    </message>
+    <message>
+        <source>IDS_NOTIFY_SWITCHED</source>
+        <translation>%1 に切り替えました</translation>
+    </message>
+    <message>
+        <source>IDS_NOTIFY_HIGHER</source>
+        <translation>リストで %1 より上にあります。</translation>
+    </message>
+    <message>
         <source>IDS_GENERAL_PLUGINS</source>
         <translation>プラグイン</translation>
     </message>

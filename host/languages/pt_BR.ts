@@ -398,6 +398,22 @@ Você pode usar letras, números e estes símbolos:
         <translation>Assim que uma rede mais acima na sua lista puder ser usada. Não sai de uma rede conectada à mão, nem durante uma VPN.</translation>
     </message>
     <message>
+        <source>IDS_RULES_NOTIFYING</source>
+        <translation>Avisar quando mudar</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_NOTIFYING_HINT</source>
+        <translation>Com uma notificação da área de trabalho, depois de cada mudança.</translation>
+    </message>
+    <message>
+        <source>IDS_NOTIFY_SWITCHED</source>
+        <translation>Mudança para %1</translation>
+    </message>
+    <message>
+        <source>IDS_NOTIFY_HIGHER</source>
+        <translation>Ela está mais acima na sua lista que %1.</translation>
+    </message>
+    <message>
         <source>IDS_GENERAL_PLUGINS</source>
         <translation>Plug-ins</translation>
     </message>

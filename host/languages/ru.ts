@@ -398,6 +398,22 @@
         <translation>Как только можно использовать сеть выше в вашем списке. Сеть, подключённая вручную, не сменяется, и во время VPN переключений нет.</translation>
     </message>
     <message>
+        <source>IDS_RULES_NOTIFYING</source>
+        <translation>Сообщать о переключении</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_NOTIFYING_HINT</source>
+        <translation>Уведомлением рабочего стола, после каждого переключения.</translation>
+    </message>
+    <message>
+        <source>IDS_NOTIFY_SWITCHED</source>
+        <translation>Переключено на %1</translation>
+    </message>
+    <message>
+        <source>IDS_NOTIFY_HIGHER</source>
+        <translation>В вашем списке эта сеть выше, чем %1.</translation>
+    </message>
+    <message>
         <source>IDS_GENERAL_PLUGINS</source>
         <translation>Модули</translation>
     </message>

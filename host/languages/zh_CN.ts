@@ -398,6 +398,22 @@
         <translation>列表中更靠前的网络可用时立即切换。不会离开您手动连接的网络，也不会在使用 VPN 时切换。</translation>
     </message>
     <message>
+        <source>IDS_RULES_NOTIFYING</source>
+        <translation>切换时通知我</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_NOTIFYING_HINT</source>
+        <translation>每次切换后通过桌面通知告知。</translation>
+    </message>
+    <message>
+        <source>IDS_NOTIFY_SWITCHED</source>
+        <translation>已切换到 %1</translation>
+    </message>
+    <message>
+        <source>IDS_NOTIFY_HIGHER</source>
+        <translation>它在您的列表中比 %1 更靠前。</translation>
+    </message>
+    <message>
         <source>IDS_GENERAL_PLUGINS</source>
         <translation>插件</translation>
     </message>

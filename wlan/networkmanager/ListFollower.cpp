@@ -9,6 +9,8 @@
 #include <PluginSearch.h>
 #include <UserData.h>
 
+#include <utility>
+
 namespace
 {
 
@@ -105,6 +107,13 @@ void CListFollower::ReadList()
     m_turn->list = isRead ? list : QList<PriorityList>();
 }
 
+void CListFollower::TellSwitch(int stage)
+{
+    if (stage == StageConnected && !m_turn->former.isEmpty()) {
+        emit Switched(m_turn->name, std::exchange(m_turn->former, QString()));
+    }
+}
+
 void CListFollower::Step()
 {
     if (!m_turn || !HasTurn()) {
@@ -120,6 +129,7 @@ void CListFollower::Step()
     view.tryStage = m_attempts.Result(m_try).stage;
     const FollowStep step =
         FollowRules::Next(m_turn->list, view, m_clock.elapsed() / millisecondsPerSecond, m_turn->history);
+    TellSwitch(view.tryStage);
     m_turn->history = step.history;
     if (step.lookAgainIn == 0) {
         m_timer.stop();
@@ -130,10 +140,11 @@ void CListFollower::Step()
         m_picture->LookForNetworks();
     }
     if (!step.profile.isEmpty()) {
-        QString name;
+        m_turn->name.clear();
         for (const ConnectionProfile &profile : records.profiles) {
-            name = profile.id == step.profile ? profile.name : name;
+            m_turn->name = profile.id == step.profile ? profile.name : m_turn->name;
         }
-        m_try = m_attempts.Connect(name, step.profile, picture.state.DevicePath(step.device));
+        m_turn->former = step.inUse;
+        m_try = m_attempts.Connect(m_turn->name, step.profile, picture.state.DevicePath(step.device));
     }
 }

@@ -33,6 +33,10 @@ public:
      */
     CListFollower(CNetworkManagerClient *client, CLivePicture *picture, QObject *parent);
 
+signals:
+    /** A switch has come up. */
+    void Switched(const QString &name, const QString &former);
+
 private:
     Q_DISABLE_COPY(CListFollower)
 
@@ -48,6 +52,9 @@ private:
         bool isListDue = true;
         FollowHistory history;
         bool isOnBattery = false;
+        /** Of a switch that has not come up yet, the names of both networks; empty otherwise. */
+        QString name;
+        QString former;
     };
 
     void TakeRules();
@@ -56,6 +63,7 @@ private:
     void Step();
     bool HasTurn();
     void ReadList();
+    void TellSwitch(int stage);
 
     CLivePicture *const m_picture;
     CConnectAttempts m_attempts;

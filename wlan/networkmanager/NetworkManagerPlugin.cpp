@@ -56,6 +56,7 @@ bool CNetworkManagerPlugin::Init()
     m_keeper = new CPriorityKeeper(m_client, m_picture, UserData::Directory(), nullptr);
     m_order = new CNetworkManagerOrder(m_client, m_picture, m_keeper, nullptr);
     m_follower = new CListFollower(m_client, m_picture, nullptr);
+    connect(m_follower, &CListFollower::Switched, m_order, &CNetworkManagerOrder::OnSwitched);
     return true;
 }
 

@@ -60,6 +60,9 @@ bool RulesPage::Show(QWidget *place)
     m_wasFollowing = ListRules::IsFollowing();
     m_followingBox = AddBox("followingBox", m_wasFollowing, layout);
     connect(m_followingBox, &QCheckBox::clicked, this, &RulesPage::ChooseFollowing);
+    m_wasNotifying = ListRules::IsNotifying();
+    m_notifyingBox = AddBox("notifyingBox", m_wasNotifying, layout);
+    connect(m_notifyingBox, &QCheckBox::clicked, this, &RulesPage::ChooseNotifying);
     EnableBoxes();
     layout->addStretch();
 
@@ -91,6 +94,9 @@ void RulesPage::Close(Answer answer)
         if (ListRules::IsFollowing() != m_wasFollowing) {
             ListRules::SetFollowing(m_wasFollowing);
         }
+        if (ListRules::IsNotifying() != m_wasNotifying) {
+            ListRules::SetNotifying(m_wasNotifying);
+        }
     }
     delete m_page.data();
 }
@@ -116,6 +122,8 @@ void RulesPage::Retranslate()
     m_keepingBox->setToolTip(DashboardText("IDS_RULES_KEEPING_HINT"));
     m_followingBox->setText(DashboardText("IDS_RULES_FOLLOWING"));
     m_followingBox->setToolTip(DashboardText("IDS_RULES_FOLLOWING_HINT"));
+    m_notifyingBox->setText(DashboardText("IDS_RULES_NOTIFYING"));
+    m_notifyingBox->setToolTip(DashboardText("IDS_RULES_NOTIFYING_HINT"));
 }
 
 void RulesPage::ChooseNewNetworks(int index)
@@ -141,6 +149,7 @@ void RulesPage::EnableBoxes()
 {
     m_keepingBox->setEnabled(m_rulingBox->isChecked());
     m_followingBox->setEnabled(m_rulingBox->isChecked());
+    m_notifyingBox->setEnabled(m_rulingBox->isChecked() && m_followingBox->isChecked());
 }
 
 void RulesPage::ChooseKeeping(bool isKeeping)
@@ -157,5 +166,15 @@ void RulesPage::ChooseFollowing(bool isFollowing)
         qWarning("whether the list is followed can't be kept in %s",
                  UserData::Directory().toLocal8Bit().constData());
         m_followingBox->setChecked(!isFollowing);
+    }
+    EnableBoxes();
+}
+
+void RulesPage::ChooseNotifying(bool isNotifying)
+{
+    if (!ListRules::SetNotifying(isNotifying)) {
+        qWarning("whether switches are told of can't be kept in %s",
+                 UserData::Directory().toLocal8Bit().constData());
+        m_notifyingBox->setChecked(!isNotifying);
     }
 }

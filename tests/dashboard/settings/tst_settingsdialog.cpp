@@ -114,6 +114,7 @@ private slots:
     void AgentIsStartedWithTheSessionUnlessCancelled();
     void AgentThatCannotBeStartedIsShownSo();
     void WhatNeedsTheRuleIsOffWithoutIt();
+    void NoticesAreOfferedWhileTheListIsFollowed();
     void RuleIsOfferedWhereTheListCanRule();
     void GeneralPageTellsOfPlugins();
 
@@ -450,6 +451,8 @@ void SettingsDialogTest::RuleIsKeptUnlessCancelled_data()
                                             << "ruling" << isOk;
         QTest::addRow("following, %s", answer) << "followingBox"
                                                << "following" << isOk;
+        QTest::addRow("notifying, %s", answer) << "notifyingBox"
+                                               << "notify" << isOk;
     }
 }
 
@@ -460,7 +463,7 @@ void SettingsDialogTest::RuleIsKeptUnlessCancelled()
     QFETCH(bool, isOk);
     FakeConnections connections;
     const WithRules rules(&connections);
-    QVERIFY(ListRules::SetRuling(true) && ListRules::SetFollowing(true));
+    QVERIFY(ListRules::SetRuling(true) && ListRules::SetFollowing(true) && ListRules::SetNotifying(true));
     SettingsDialog dialog(nullptr);
     dialog.AddPage(new RulesPage(NoAgent()));
     dialog.SelectPage(0);
@@ -530,6 +533,23 @@ void SettingsDialogTest::WhatNeedsTheRuleIsOffWithoutIt()
     QTest::keyClick(dialog.findChild<QCheckBox *>("rulingBox"), Qt::Key_Space);
     QVERIFY(!dialog.findChild<QCheckBox *>("keepingBox")->isEnabled());
     QVERIFY(!dialog.findChild<QCheckBox *>("followingBox")->isEnabled());
+}
+
+void SettingsDialogTest::NoticesAreOfferedWhileTheListIsFollowed()
+{
+    FakeConnections connections;
+    const WithRules rules(&connections);
+    QVERIFY(ListRules::SetRuling(true) && ListRules::SetFollowing(false));
+    SettingsDialog dialog(nullptr);
+    dialog.AddPage(new RulesPage(NoAgent()));
+    dialog.SelectPage(0);
+    dialog.show();
+    const QCheckBox *notices = dialog.findChild<QCheckBox *>("notifyingBox");
+    QVERIFY(!notices->isEnabled());
+    QTest::keyClick(dialog.findChild<QCheckBox *>("followingBox"), Qt::Key_Space);
+    QVERIFY(notices->isEnabled());
+    QTest::keyClick(dialog.findChild<QCheckBox *>("rulingBox"), Qt::Key_Space);
+    QVERIFY(!notices->isEnabled());
 }
 
 void SettingsDialogTest::RuleIsOfferedWhereTheListCanRule()
