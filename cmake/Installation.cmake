@@ -102,14 +102,18 @@ endforeach()
 set(data_directory "${CMAKE_INSTALL_DATADIR}/priority-dashboard")
 install(DIRECTORY "${PRIORITY_LANGUAGE_DIRECTORY}" DESTINATION "${data_directory}" COMPONENT dashboard
     FILES_MATCHING PATTERN "*.qm")
-install(FILES "${PROJECT_SOURCE_DIR}/packaging/priority-dashboard.desktop"
+# Desktops know the program by this name, which main.cpp tells them as well.
+set(application_id com.torvik.netquillforge.PriorityDashboard)
+install(FILES "${PROJECT_SOURCE_DIR}/packaging/${application_id}.desktop"
     DESTINATION "${CMAKE_INSTALL_DATADIR}/applications" COMPONENT dashboard)
+install(FILES "${PROJECT_SOURCE_DIR}/packaging/${application_id}.metainfo.xml"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/metainfo" COMPONENT dashboard)
 set(icon_directory "${CMAKE_INSTALL_DATADIR}/icons/hicolor")
-install(FILES "${PROJECT_SOURCE_DIR}/packaging/priority-dashboard.svg"
+install(FILES "${PROJECT_SOURCE_DIR}/packaging/${application_id}.svg"
     DESTINATION "${icon_directory}/scalable/apps" COMPONENT dashboard)
 foreach(size 48 128)
-    install(FILES "${PROJECT_SOURCE_DIR}/packaging/priority-dashboard-${size}.png"
-        DESTINATION "${icon_directory}/${size}x${size}/apps" COMPONENT dashboard RENAME priority-dashboard.png)
+    install(FILES "${PROJECT_SOURCE_DIR}/packaging/${application_id}-${size}.png"
+        DESTINATION "${icon_directory}/${size}x${size}/apps" COMPONENT dashboard RENAME ${application_id}.png)
 endforeach()
 install(FILES "${PROJECT_SOURCE_DIR}/packaging/priority-dashboard.1"
     DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT dashboard)

@@ -24,6 +24,11 @@
  * and when what GetStanding tells has changed; from the event loop, never from inside an operation. Connect
  * to it by name.
  *
+ * It may have the signal OnSwitched(QString, QString) as well, emitted from the event loop when a switch that
+ * the list made by itself has come up: the names of the network that is in use since, and of the one before.
+ * Of several programs of one user it is emitted in the one that made the switch. A plug-in that switches by
+ * itself has it; the dashboard tells the user of it.
+ *
  * All calls come on the GUI thread, and none waits. Nothing is thrown across this interface.
  *
  * The table is binary contract. Counted from one over all its entries, of which the destructor takes the

@@ -32,6 +32,11 @@ QString SavingKey()
     return QLatin1String("savingData");
 }
 
+QString NotifyingKey()
+{
+    return QLatin1String("notify");
+}
+
 QString Word(const QString &key)
 {
     const QString path = ListRules::FilePath();
@@ -101,4 +106,14 @@ bool ListRules::IsSavingData()
 bool ListRules::SetSavingData(bool isSaving)
 {
     return SetWord(SavingKey(), isSaving ? yes : no);
+}
+
+bool ListRules::IsNotifying()
+{
+    return Word(NotifyingKey()) == QLatin1String(yes);
+}
+
+bool ListRules::SetNotifying(bool isNotifying)
+{
+    return SetWord(NotifyingKey(), isNotifying ? yes : no);
 }

@@ -33,6 +33,13 @@ bool IsFollowing();
 /** False when it can't be kept; then it is as it was. */
 bool SetFollowing(bool isFollowing);
 
+/** Whether the user is told of each such change; false where nothing, or nothing that is known, was chosen.
+ */
+bool IsNotifying();
+
+/** False when it can't be kept; then it is as it was. */
+bool SetNotifying(bool isNotifying);
+
 /** Whether mobile broadband that stands below all Wi-Fi is connected only while the internet is reached by
  * nothing else; false where nothing, or nothing that is known, was chosen. It counts only while the list
  * rules. */

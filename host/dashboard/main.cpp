@@ -5,7 +5,9 @@
 #include <HostControl.h>
 #include <Installation.h>
 #include <MainWindow.h>
+#include <OneWindow.h>
 #include <PluginHost.h>
+#include <SwitchNotice.h>
 #include <Terminal.h>
 #include <TraceLog.h>
 #include <UserData.h>
@@ -14,6 +16,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QScopedPointer>
 #include <QStandardPaths>
 
 #include <clocale>
@@ -114,7 +117,28 @@ QString PrepareHost(const Arguments &arguments)
     return QString();
 }
 
-int RunWindow(const Arguments &arguments, TraceLog *log)
+void Open(MainWindow *window, const QString &part)
+{
+    if (part == QLatin1String("connect")) {
+        window->OpenConnect();
+    } else if (part == QLatin1String("settings")) {
+        window->OpenSettings();
+    }
+}
+
+/** What the window of this start would show; null when it is to have a window of its own in any case. */
+QString WindowKey(const Arguments &arguments)
+{
+    const QString data = QFileInfo(UserData::Directory()).canonicalFilePath();
+    if (arguments.isDemo || data.isEmpty()) {
+        return QString();
+    }
+    const QStringList parts = {data, LibraryPath(arguments), QString::number(arguments.ChosenWlan()),
+                               arguments.language};
+    return parts.join(QLatin1Char('\n'));
+}
+
+int RunWindow(const Arguments &arguments, TraceLog *log, const OneWindow *oneWindow)
 {
     if (UserData::Directory().isEmpty()) {
         TraceLog::Warn(QLatin1String("there is no directory for your data and none can be made; "
@@ -130,10 +154,21 @@ int RunWindow(const Arguments &arguments, TraceLog *log)
             TraceLog::Warn(PluginHost::ProblemText(loaded.at(i)));
         }
     }
+    const SwitchNotice notice;
     DashboardLanguage language(nullptr);
     MainWindow window(&plugins, &language, log);
     window.FitToScreen();
     window.show();
+    Open(&window, arguments.show);
+    if (oneWindow) {
+        QObject::connect(oneWindow, &OneWindow::StartedAgain, &window, [&window](const QStringList &later) {
+            OneWindow::Raise(&window);
+            // What is being done in a dialog comes first.
+            if (!QApplication::activeModalWidget()) {
+                Open(&window, Arguments::Parse(later).show);
+            }
+        });
+    }
     return QApplication::exec();
 }
 
@@ -174,6 +209,8 @@ int main(int argc, char **argv)
                                 : Refuse(problem, exitRefused);
     }
 
+    // The name of the installed desktop file: how desktops find the name and the icon of the window.
+    QGuiApplication::setDesktopFileName(QLatin1String("com.torvik.netquillforge.PriorityDashboard"));
     FollowScreenScale();
     // The log before Qt, which has things to say while it starts.
     TraceLog log(UserData::FilePath(QLatin1String("dashboard.log")));
@@ -185,5 +222,10 @@ int main(int argc, char **argv)
         return Refuse(problem, exitRefused);
     }
     StartLanguage(arguments);
-    return isForScripts ? Commands::Run(arguments, LibraryPath(arguments)) : RunWindow(arguments, &log);
+    if (isForScripts) {
+        return Commands::Run(arguments, LibraryPath(arguments));
+    }
+    const QString key = WindowKey(arguments);
+    const QScopedPointer<OneWindow> oneWindow(key.isNull() ? nullptr : new OneWindow(key));
+    return RunWindow(arguments, &log, oneWindow.data());
 }

@@ -404,6 +404,20 @@
     <message>
         <source>IDS_RULES_SAVING_HINT</source>
         <translation>يوفّر البيانات. تُوصَل شبكة هاتف محمول واقعة تحت كل شبكات Wi-Fi في قائمتك بعد نصف دقيقة دون اتصال آخر، وتُقطع بعد دقيقة من وجود غيره.</translation>
+        <source>IDS_RULES_NOTIFYING</source>
+        <translation>إعلامي عند التبديل</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_NOTIFYING_HINT</source>
+        <translation>بإشعار من سطح المكتب بعد كل تبديل.</translation>
+    </message>
+    <message>
+        <source>IDS_NOTIFY_SWITCHED</source>
+        <translation>تم التبديل إلى %1</translation>
+    </message>
+    <message>
+        <source>IDS_NOTIFY_HIGHER</source>
+        <translation>هي أعلى في قائمتك من %1.</translation>
     </message>
     <message>
         <source>IDS_GENERAL_PLUGINS</source>

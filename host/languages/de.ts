@@ -404,6 +404,20 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
     <message>
         <source>IDS_RULES_SAVING_HINT</source>
         <translation>Spart Daten. Mobiles Breitband, das unter allen WLAN-Netzwerken Ihrer Liste steht, wird nach einer halben Minute ohne andere Verbindung verbunden und nach einer Minute mit einer anderen getrennt.</translation>
+        <source>IDS_RULES_NOTIFYING</source>
+        <translation>Bei jedem Wechsel benachrichtigen</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_NOTIFYING_HINT</source>
+        <translation>Als Benachrichtigung des Desktops, nach jedem Wechsel.</translation>
+    </message>
+    <message>
+        <source>IDS_NOTIFY_SWITCHED</source>
+        <translation>Zu %1 gewechselt</translation>
+    </message>
+    <message>
+        <source>IDS_NOTIFY_HIGHER</source>
+        <translation>Es steht in Ihrer Liste weiter oben als %1.</translation>
     </message>
     <message>
         <source>IDS_GENERAL_PLUGINS</source>

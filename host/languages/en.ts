@@ -445,6 +445,24 @@ You can use letters, digits and these symbols:
         <source>IDS_RULES_SAVING_HINT</source>
         <extracomment>Tool tip of that box</extracomment>
         <translation>Saves data. Mobile broadband below all Wi-Fi networks of your list is connected after half a minute without another connection, and ended after a minute with one.</translation>
+        <source>IDS_RULES_NOTIFYING</source>
+        <extracomment>Box to tick, below the one for switching to a higher network by itself</extracomment>
+        <translation>Tell me when it switches</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_NOTIFYING_HINT</source>
+        <extracomment>Tool tip of that box</extracomment>
+        <translation>As a notification of the desktop, each time.</translation>
+    </message>
+    <message>
+        <source>IDS_NOTIFY_SWITCHED</source>
+        <extracomment>Title of a notification of the desktop. %1: the name of a network</extracomment>
+        <translation>Switched to %1</translation>
+    </message>
+    <message>
+        <source>IDS_NOTIFY_HIGHER</source>
+        <extracomment>Text below that title. %1: the name of the network that was in use before</extracomment>
+        <translation>It is higher in your list than %1.</translation>
     </message>
     <message>
         <source>IDS_GENERAL_PLUGINS</source>

@@ -404,6 +404,20 @@ Puede usar letras, números y estos símbolos:
     <message>
         <source>IDS_RULES_SAVING_HINT</source>
         <translation>Ahorra datos. La banda ancha móvil que está por debajo de todas las redes Wi-Fi de su lista se conecta tras medio minuto sin otra conexión y se desconecta tras un minuto con otra.</translation>
+        <source>IDS_RULES_NOTIFYING</source>
+        <translation>Avisarme cuando cambie</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_NOTIFYING_HINT</source>
+        <translation>Con una notificación del escritorio, después de cada cambio.</translation>
+    </message>
+    <message>
+        <source>IDS_NOTIFY_SWITCHED</source>
+        <translation>Se ha cambiado a %1</translation>
+    </message>
+    <message>
+        <source>IDS_NOTIFY_HIGHER</source>
+        <translation>Está más arriba en su lista que %1.</translation>
     </message>
     <message>
         <source>IDS_GENERAL_PLUGINS</source>

@@ -404,6 +404,20 @@ Vous pouvez utiliser des lettres, des chiffres et les symboles suivants&#xa0;:
     <message>
         <source>IDS_RULES_SAVING_HINT</source>
         <translation>Économise les données. Le haut débit mobile placé sous tous les réseaux Wi-Fi de votre liste est connecté après une demi-minute sans autre connexion, et déconnecté après une minute avec une autre.</translation>
+        <source>IDS_RULES_NOTIFYING</source>
+        <translation>Me prévenir à chaque changement</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_NOTIFYING_HINT</source>
+        <translation>Par une notification du bureau, après chaque changement.</translation>
+    </message>
+    <message>
+        <source>IDS_NOTIFY_SWITCHED</source>
+        <translation>Passage à %1</translation>
+    </message>
+    <message>
+        <source>IDS_NOTIFY_HIGHER</source>
+        <translation>Il est plus haut dans votre liste que %1.</translation>
     </message>
     <message>
         <source>IDS_GENERAL_PLUGINS</source>

@@ -404,6 +404,20 @@
     <message>
         <source>IDS_RULES_SAVING_HINT</source>
         <translation>חוסך נתונים. פס רחב נייד שנמצא מתחת לכל רשתות ה-Wi-Fi ברשימה שלך מתחבר אחרי חצי דקה בלי חיבור אחר, ומתנתק אחרי דקה שבה יש חיבור אחר.</translation>
+        <source>IDS_RULES_NOTIFYING</source>
+        <translation>הודעה לי בעת מעבר</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_NOTIFYING_HINT</source>
+        <translation>בהתראה של שולחן העבודה, אחרי כל מעבר.</translation>
+    </message>
+    <message>
+        <source>IDS_NOTIFY_SWITCHED</source>
+        <translation>בוצע מעבר אל %1</translation>
+    </message>
+    <message>
+        <source>IDS_NOTIFY_HIGHER</source>
+        <translation>היא גבוהה יותר ברשימה שלך מ-%1.</translation>
     </message>
     <message>
         <source>IDS_GENERAL_PLUGINS</source>

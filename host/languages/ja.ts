@@ -404,6 +404,20 @@
     <message>
         <source>IDS_RULES_SAVING_HINT</source>
         <translation>データ通信量を節約します。リストのすべての Wi-Fi ネットワークより下にあるモバイルブロードバンドは、ほかのネットワークへの接続が 30 秒間ないと接続され、1 分間続くと切断されます。</translation>
+        <source>IDS_RULES_NOTIFYING</source>
+        <translation>切り替えたときに通知する</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_NOTIFYING_HINT</source>
+        <translation>切り替えのたびに、デスクトップの通知でお知らせします。</translation>
+    </message>
+    <message>
+        <source>IDS_NOTIFY_SWITCHED</source>
+        <translation>%1 に切り替えました</translation>
+    </message>
+    <message>
+        <source>IDS_NOTIFY_HIGHER</source>
+        <translation>リストで %1 より上にあります。</translation>
     </message>
     <message>
         <source>IDS_GENERAL_PLUGINS</source>

@@ -404,6 +404,20 @@ Você pode usar letras, números e estes símbolos:
     <message>
         <source>IDS_RULES_SAVING_HINT</source>
         <translation>Economiza dados. A banda larga móvel abaixo de todas as redes Wi-Fi da sua lista é conectada após meio minuto sem outra conexão e desconectada após um minuto com outra.</translation>
+        <source>IDS_RULES_NOTIFYING</source>
+        <translation>Avisar quando mudar</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_NOTIFYING_HINT</source>
+        <translation>Com uma notificação da área de trabalho, depois de cada mudança.</translation>
+    </message>
+    <message>
+        <source>IDS_NOTIFY_SWITCHED</source>
+        <translation>Mudança para %1</translation>
+    </message>
+    <message>
+        <source>IDS_NOTIFY_HIGHER</source>
+        <translation>Ela está mais acima na sua lista que %1.</translation>
     </message>
     <message>
         <source>IDS_GENERAL_PLUGINS</source>

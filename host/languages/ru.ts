@@ -404,6 +404,20 @@
     <message>
         <source>IDS_RULES_SAVING_HINT</source>
         <translation>Экономит трафик. Мобильная сеть, стоящая в списке ниже всех сетей Wi-Fi, подключается через полминуты без другого соединения и отключается, когда другое работает минуту.</translation>
+        <source>IDS_RULES_NOTIFYING</source>
+        <translation>Сообщать о переключении</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_NOTIFYING_HINT</source>
+        <translation>Уведомлением рабочего стола, после каждого переключения.</translation>
+    </message>
+    <message>
+        <source>IDS_NOTIFY_SWITCHED</source>
+        <translation>Переключено на %1</translation>
+    </message>
+    <message>
+        <source>IDS_NOTIFY_HIGHER</source>
+        <translation>В вашем списке эта сеть выше, чем %1.</translation>
     </message>
     <message>
         <source>IDS_GENERAL_PLUGINS</source>

@@ -404,6 +404,20 @@
     <message>
         <source>IDS_RULES_SAVING_HINT</source>
         <translation>节省流量。列表中位于所有 Wi-Fi 网络之下的移动宽带，在半分钟没有其他连接后接通，在其他连接持续一分钟后断开。</translation>
+        <source>IDS_RULES_NOTIFYING</source>
+        <translation>切换时通知我</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_NOTIFYING_HINT</source>
+        <translation>每次切换后通过桌面通知告知。</translation>
+    </message>
+    <message>
+        <source>IDS_NOTIFY_SWITCHED</source>
+        <translation>已切换到 %1</translation>
+    </message>
+    <message>
+        <source>IDS_NOTIFY_HIGHER</source>
+        <translation>它在您的列表中比 %1 更靠前。</translation>
     </message>
     <message>
         <source>IDS_GENERAL_PLUGINS</source>

@@ -68,6 +68,7 @@ signals:
     void OnConnectionsChanged();
     void OnProfilesChanged();
     void OnOrderChanged();
+    void OnSwitched(const QString &name, const QString &former);
 };
 
 /** A profile whose id is its type and name. */

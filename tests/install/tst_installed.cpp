@@ -223,16 +223,18 @@ void InstalledTest::componentsHaveTheirFiles_data()
     const QStringList siblings = hasNetworkManager
                                      ? QStringList(plugins + "WLANNetworkManager/libWLANNetworkManager.so")
                                      : QStringList();
+    const QString id = "com.torvik.netquillforge.PriorityDashboard";
     QTest::newRow("dashboard") << "dashboard"
                                << (QStringList() << "bin/priority-dashboard" << siblings
                                                  << plugins + "WLANStored/libWLANStored.so"
                                                  << "share/priority-dashboard/languages/ar.qm"
                                                  << "share/priority-dashboard/languages/en.qm"
                                                  << "share/priority-dashboard/languages/he.qm"
-                                                 << "share/applications/priority-dashboard.desktop"
-                                                 << "share/icons/hicolor/48x48/apps/priority-dashboard.png"
-                                                 << "share/icons/hicolor/128x128/apps/priority-dashboard.png"
-                                                 << "share/icons/hicolor/scalable/apps/priority-dashboard.svg"
+                                                 << "share/applications/" + id + ".desktop"
+                                                 << "share/metainfo/" + id + ".metainfo.xml"
+                                                 << "share/icons/hicolor/48x48/apps/" + id + ".png"
+                                                 << "share/icons/hicolor/128x128/apps/" + id + ".png"
+                                                 << "share/icons/hicolor/scalable/apps/" + id + ".svg"
                                                  << "share/man/man1/priority-dashboard.1");
 }
 

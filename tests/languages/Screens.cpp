@@ -17,6 +17,7 @@
 #include <PluginObjects.h>
 #include <PrivateFile.h>
 #include <Settings.h>
+#include <SwitchNotice.h>
 #include <UserNotice.h>
 
 #include <QApplication>
@@ -27,12 +28,14 @@
 #include <QDockWidget>
 #include <QFile>
 #include <QFont>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QTimer>
+#include <QVBoxLayout>
 #include <QtTest>
 
 namespace
@@ -357,6 +360,7 @@ const Screens::Screen Screens::screens[] = {
     {"settings, general page with NetworkManager", &Screens::ShowNetworkManagerSettings, "Working"},
     {"list, not ruling", &Screens::ShowRule, nullptr},
     {"settings, rules page with NetworkManager", &Screens::ShowRule, "settings"},
+    {"notice of a switch", &Screens::ShowSwitchNotice, nullptr},
     {"settings, priority page", &Screens::ShowPriorityPage, nullptr},
     {"add dialog", &Screens::ShowAddDialog, nullptr},
     {"new dialog, open", &Screens::ShowNewDialog, "open"},
@@ -873,6 +877,19 @@ void Screens::ShowRule(const char *where)
     Visit();
     m_window.reset();
     HostControl::SetPluginContainer(m_plugins.data());
+}
+
+/** Drawn by the desktop, for which a dialog stands in. */
+void Screens::ShowSwitchNotice(const char *)
+{
+    OpenWindow(m_plugins.data());
+    QDialog notice(m_window.data());
+    notice.setModal(true);
+    QVBoxLayout *layout = new QVBoxLayout(&notice);
+    layout->addWidget(new QLabel(SwitchNotice::Title(QLatin1String("Home"))));
+    layout->addWidget(new QLabel(SwitchNotice::Body(QString::fromUtf8("Café"))));
+    notice.show();
+    Visit();
 }
 
 void Screens::ShowGeneralPage(const char *)

@@ -79,6 +79,7 @@ private:
     void ShowNetworkManager(const char *folder);
     void ShowNetworkManagerSettings(const char *folder);
     void ShowRule(const char *where);
+    void ShowSwitchNotice(const char *);
     void ShowGeneralPage(const char *);
     void ShowRulesPage(const char *);
     void ShowPriorityPage(const char *);

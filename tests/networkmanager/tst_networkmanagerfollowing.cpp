@@ -27,6 +27,7 @@ private slots:
     void NothingIsAskedUnlessItIsWanted_data();
     void NothingIsAskedUnlessItIsWanted();
     void FollowingBeginsAndEndsWhenItIsChosen();
+    void SwitchThatCameUpIsToldOnce();
     void FailedTryIsNotRepeated();
     void NothingIsSwitchedDuringAVpn();
     void WhatAWindowOrderedStays();
@@ -130,15 +131,31 @@ void tst_networkmanagerfollowing::FollowingBeginsAndEndsWhenItIsChosen()
     QCOMPARE(Switches(), 1);
 }
 
+void tst_networkmanagerfollowing::SwitchThatCameUpIsToldOnce()
+{
+    Begin(follow);
+    const QSignalSpy told(LoadedWLAN::OrderService(), SIGNAL(OnSwitched(QString, QString)));
+    Scan();
+    QTRY_COMPARE(Switches(), 1);
+    QCOMPARE(told.size(), 0);
+    Fake().SetConnectionState(Fake().ConnectionPaths().constLast(), activated);
+    QTRY_COMPARE(told.size(), 1);
+    QCOMPARE(told.constFirst(), QVariantList({"Top", "Low"}));
+    Scan();
+    QCOMPARE(told.size(), 1);
+}
+
 void tst_networkmanagerfollowing::FailedTryIsNotRepeated()
 {
     Begin(follow);
     Scan();
     QTRY_COMPARE(Switches(), 1);
+    const QSignalSpy told(LoadedWLAN::OrderService(), SIGNAL(OnSwitched(QString, QString)));
     Fake().Fail(Fake().ConnectionPaths().constLast(), supplicantTimeout);
     Scan();
     Scan();
     QCOMPARE(Switches(), 1);
+    QCOMPARE(told.size(), 0);
 }
 
 void tst_networkmanagerfollowing::NothingIsSwitchedDuringAVpn()

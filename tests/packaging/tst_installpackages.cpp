@@ -170,6 +170,10 @@ void InstallPackagesTest::missingPackageIsNamed_data()
         << debian12 << "build-qt6"
         << "This system has no package libkf6networkmanagerqt-dev: the plug-in over "
            "NetworkManager will be left out.\n";
+    QTest::newRow("KDBusAddons") << "libkf6dbusaddons-dev"
+                                 << "build-qt6"
+                                 << "This system has no package libkf6dbusaddons-dev: each start of the "
+                                    "dashboard will have a window of its own.\n";
     QTest::newRow("any other")
         << "libpsl5t64\nlibpsl5"
         << "test"

@@ -258,6 +258,7 @@ void Switch(const QList<ConnectionProfile> &above, const ActiveConnection &inUse
             now >= history.blocks.value(entry).until && IsPlaceFor(profile, inUse, view)) {
             step->profile = profile.id;
             step->device = profile.device;
+            step->inUse = inUse.name;
             history.tried = profile.id;
             history.triedEntry = entry;
             history.triedIsUpSince = FollowHistory::never;

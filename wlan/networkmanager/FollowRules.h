@@ -68,6 +68,8 @@ struct FollowStep {
     /** To be connected by that device; empty when nothing is to be switched. */
     QString profile;
     QString device;
+    /** The name of the connection in use, of which it takes the place. */
+    QString inUse;
     /** The devices are to look for networks. */
     bool isScanDue = false;
     /** Seconds until time alone may change the answer; 0 when it won't. */

@@ -14,6 +14,7 @@
 #include <QDBusPendingCall>
 
 #include <algorithm>
+#include <utility>
 
 namespace
 {
@@ -152,6 +153,13 @@ void CListFollower::ReadList()
     m_turn->list = isRead ? list : QList<PriorityList>();
 }
 
+void CListFollower::TellSwitch(int stage)
+{
+    if (stage == StageConnected && !m_turn->former.isEmpty()) {
+        emit Switched(m_turn->name, std::exchange(m_turn->former, QString()));
+    }
+}
+
 void CListFollower::Step()
 {
     if (!m_turn || !HasTurn()) {
@@ -180,11 +188,15 @@ qint64 CListFollower::FollowList(const FollowView &view, qint64 now)
     FollowView ofTry = view;
     ofTry.tryStage = m_attempts.Result(m_try).stage;
     const FollowStep step = FollowRules::Next(m_turn->list, ofTry, now, m_turn->history);
+    TellSwitch(ofTry.tryStage);
     m_turn->history = step.history;
     if (step.isScanDue) {
         m_picture->LookForNetworks();
     }
     if (!step.profile.isEmpty()) {
+        const ConnectionProfile *profile = ProfileOf(step.profile, view.records.profiles);
+        m_turn->name = profile ? profile->name : QString();
+        m_turn->former = step.inUse;
         m_try = Connect(step.profile, step.device, view);
     }
     return step.lookAgainIn;

@@ -40,6 +40,10 @@ public:
     CListFollower(CNetworkManagerClient *client, CLivePicture *picture, QObject *parent);
     ~CListFollower() override;
 
+signals:
+    /** A switch has come up. */
+    void Switched(const QString &name, const QString &former);
+
 private:
     Q_DISABLE_COPY(CListFollower)
 
@@ -60,6 +64,9 @@ private:
         /** Of what is to be connected again, as it is kept. */
         QStringList ended;
         bool isOnBattery = false;
+        /** Of a switch that has not come up yet, the names of both networks; empty otherwise. */
+        QString name;
+        QString former;
     };
 
     enum Patience { WithoutWaiting, UntilAnswered };
@@ -76,6 +83,7 @@ private:
     void HandBack(Patience patience);
     bool HasTurn();
     void ReadList();
+    void TellSwitch(int stage);
 
     CNetworkManagerClient *const m_client;
     CLivePicture *const m_picture;

@@ -31,6 +31,7 @@ public:
 
 signals:
     void OnOrderChanged();
+    void OnSwitched(const QString &name, const QString &former);
 
 private slots:
     void Begin();

@@ -57,6 +57,7 @@ bool CNetworkManagerPlugin::Init()
     connect(m_connections, &CNetworkManagerConnections::ProfileForgotten, m_keeper, &CPriorityKeeper::Forget);
     m_order = new CNetworkManagerOrder(m_client, m_picture, m_keeper, nullptr);
     m_follower = new CListFollower(m_client, m_picture, nullptr);
+    connect(m_follower, &CListFollower::Switched, m_order, &CNetworkManagerOrder::OnSwitched);
     return true;
 }
 

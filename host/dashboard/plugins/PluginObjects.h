@@ -34,7 +34,8 @@ public:
     /** The object behind Connecting(), which has the signal OnConnectionsChanged(). */
     static QObject *ConnectionService();
 
-    /** The object behind Ordering(), which has the signal OnOrderChanged(). */
+    /** The object behind Ordering(), which has the signals OnOrderChanged() and, if it switches by
+     * itself, OnSwitched(QString, QString). */
     static QObject *OrderService();
 };
 

@@ -1,11 +1,14 @@
 #include "Agent.h"
 
+#include <DashboardLanguage.h>
 #include <FileWatcher.h>
+#include <HostControl.h>
 #include <ListKeeper.h>
 #include <PluginHost.h>
 #include <PluginList.h>
 #include <PluginObjects.h>
 #include <ProfileNames.h>
+#include <SwitchNotice.h>
 #include <UserData.h>
 
 #include <QCoreApplication>
@@ -84,6 +87,11 @@ CommandStatus Agent::Run(const Arguments &arguments, const QString &libraryPath)
         return CommandAnswer::Fail(CommandNotWritten, QLatin1String("no pipe can be made"));
     }
     EndWithTheSession();
+    // Its messages are for whoever starts it, its notices for the user.
+    DashboardLanguage::Apply(DashboardLanguage::Choose(arguments.language, DashboardLanguage::Stored(),
+                                                       DashboardLanguage::OfSystem(),
+                                                       HostControl::LanguageNames()));
+    const SwitchNotice notice;
     PluginList list;
     ListKeeper keeper(UserData::Directory(), &list, nullptr);
     const ProfileNames names(UserData::FilePath(ProfileNames::FileName()), &keeper, nullptr);

@@ -14,9 +14,8 @@ struct ValueOption {
 };
 
 const ValueOption valueOptions[] = {
-    {"--language", &Arguments::language},
-    {"--library-path", &Arguments::pluginLibraryPath},
-    {"--wait", &Arguments::wait},
+    {"--language", &Arguments::language}, {"--library-path", &Arguments::pluginLibraryPath},
+    {"--show", &Arguments::show},         {"--wait", &Arguments::wait},
     {"--wlan", &Arguments::wlan},
 };
 
@@ -140,6 +139,18 @@ Arguments Refused(const QString &problem)
     return refused;
 }
 
+/** Null when there is none. */
+QString ShowProblem(const Arguments &parsed)
+{
+    if (!parsed.show.isNull() && parsed.show != QLatin1String("connect") &&
+        parsed.show != QLatin1String("settings")) {
+        return QString::fromLatin1("--show is connect or settings, not \"%1\"; see --help").arg(parsed.show);
+    }
+    return parsed.show.isNull() || parsed.commands.isEmpty()
+               ? QString()
+               : QString::fromLatin1("--show opens a window, and commands open none; see --help");
+}
+
 } // namespace
 
 Arguments Arguments::Read(int count, const char *const *arguments)
@@ -227,6 +238,10 @@ Arguments Arguments::Parse(const QStringList &arguments)
     if (parsed.isDemo && !parsed.wlan.isNull()) {
         return Refused(QLatin1String("--demo has networks of its own: leave --wlan out; see --help"));
     }
+    const QString showProblem = ShowProblem(parsed);
+    if (!showProblem.isNull()) {
+        return Refused(showProblem);
+    }
     if (parsed.WaitSeconds() == 0) {
         return Refused(
             QString::fromLatin1("--wait is a number of seconds from 1 to 86400, not \"%1\"; see --help")
@@ -278,6 +293,7 @@ QString Arguments::HelpText()
         "                         networkmanager  this computer's own; the list decides which is joined\n"
         "                         stored          practice networks from a file; nothing real is touched\n"
         "                       networkmanager is the default\n"
+        "  --show PART          open connect, to connect to a network, or settings with the window\n"
         "  --demo               try the program: practice networks, and a list and settings of their\n"
         "                       own; nothing of yours is touched\n"
         "  --version            print the version\n"

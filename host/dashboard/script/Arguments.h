@@ -20,6 +20,7 @@ struct Arguments {
     QString language;
     QString pluginLibraryPath;
     QString wlan;
+    QString show; /**< What the window opens: "connect" or "settings". */
 
     /** Practice networks, in a directory of their own. */
     bool isDemo = false;

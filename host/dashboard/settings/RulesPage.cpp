@@ -60,6 +60,9 @@ bool RulesPage::Show(QWidget *place)
     m_wasFollowing = ListRules::IsFollowing();
     m_followingBox = AddBox("followingBox", m_wasFollowing, layout);
     connect(m_followingBox, &QCheckBox::clicked, this, &RulesPage::ChooseFollowing);
+    m_wasNotifying = ListRules::IsNotifying();
+    m_notifyingBox = AddBox("notifyingBox", m_wasNotifying, layout);
+    connect(m_notifyingBox, &QCheckBox::clicked, this, &RulesPage::ChooseNotifying);
     m_wasSaving = ListRules::IsSavingData();
     m_savingBox = AddBox("savingBox", m_wasSaving, layout);
     connect(m_savingBox, &QCheckBox::clicked, this, &RulesPage::ChooseSaving);
@@ -94,6 +97,9 @@ void RulesPage::Close(Answer answer)
         if (ListRules::IsFollowing() != m_wasFollowing) {
             ListRules::SetFollowing(m_wasFollowing);
         }
+        if (ListRules::IsNotifying() != m_wasNotifying) {
+            ListRules::SetNotifying(m_wasNotifying);
+        }
         if (ListRules::IsSavingData() != m_wasSaving) {
             ListRules::SetSavingData(m_wasSaving);
         }
@@ -122,6 +128,8 @@ void RulesPage::Retranslate()
     m_keepingBox->setToolTip(DashboardText("IDS_RULES_KEEPING_HINT"));
     m_followingBox->setText(DashboardText("IDS_RULES_FOLLOWING"));
     m_followingBox->setToolTip(DashboardText("IDS_RULES_FOLLOWING_HINT"));
+    m_notifyingBox->setText(DashboardText("IDS_RULES_NOTIFYING"));
+    m_notifyingBox->setToolTip(DashboardText("IDS_RULES_NOTIFYING_HINT"));
     m_savingBox->setText(DashboardText("IDS_RULES_SAVING"));
     m_savingBox->setToolTip(DashboardText("IDS_RULES_SAVING_HINT"));
 }
@@ -149,6 +157,7 @@ void RulesPage::EnableBoxes()
 {
     m_keepingBox->setEnabled(m_rulingBox->isChecked());
     m_followingBox->setEnabled(m_rulingBox->isChecked());
+    m_notifyingBox->setEnabled(m_rulingBox->isChecked() && m_followingBox->isChecked());
     m_savingBox->setEnabled(m_rulingBox->isChecked());
 }
 
@@ -166,6 +175,16 @@ void RulesPage::ChooseFollowing(bool isFollowing)
         qWarning("whether the list is followed can't be kept in %s",
                  UserData::Directory().toLocal8Bit().constData());
         m_followingBox->setChecked(!isFollowing);
+    }
+    EnableBoxes();
+}
+
+void RulesPage::ChooseNotifying(bool isNotifying)
+{
+    if (!ListRules::SetNotifying(isNotifying)) {
+        qWarning("whether switches are told of can't be kept in %s",
+                 UserData::Directory().toLocal8Bit().constData());
+        m_notifyingBox->setChecked(!isNotifying);
     }
 }
 

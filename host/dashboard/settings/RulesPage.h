@@ -33,6 +33,7 @@ private slots:
     void ChooseRuling(bool isRuling);
     void ChooseKeeping(bool isKeeping);
     void ChooseFollowing(bool isFollowing);
+    void ChooseNotifying(bool isNotifying);
     void ChooseSaving(bool isSaving);
 
 private:
@@ -49,6 +50,8 @@ private:
     QCheckBox *m_keepingBox = nullptr;
     bool m_wasFollowing = false;
     QCheckBox *m_followingBox = nullptr;
+    bool m_wasNotifying = false;
+    QCheckBox *m_notifyingBox = nullptr;
     bool m_wasSaving = false;
     QCheckBox *m_savingBox = nullptr;
 };

@@ -120,6 +120,9 @@ void ArgumentsTest::RefusalNamesWhatIsWrong_data()
     QTest::addColumn<QStringList>("given");
     QTest::addColumn<QString>("named");
     QTest::newRow("unknown") << (QStringList() << "--fast") << "--fast";
+    QTest::newRow("unknown part") << QStringList("--show=list") << "--show is connect or settings";
+    QTest::newRow("part of no window")
+        << QStringList({"--show=connect", "--list"}) << "--show opens a window";
     QTest::newRow("agent and more") << QStringList({"--agent", "--list"}) << "--agent";
     QTest::newRow("unknown with value") << (QStringList() << "--fast=1") << "--fast";
     QTest::newRow("unknown short") << (QStringList() << "-x") << "-x";
@@ -209,6 +212,7 @@ void ArgumentsTest::HelpNamesEveryOption_data()
     QTest::newRow("add") << "--add";
     QTest::newRow("add on top") << "--add-top";
     QTest::newRow("wlan") << "--wlan";
+    QTest::newRow("show") << "--show";
     QTest::newRow("version") << "--version";
     QTest::newRow("help") << "--help";
 }

@@ -114,6 +114,7 @@ private slots:
     void AgentIsStartedWithTheSessionUnlessCancelled();
     void AgentThatCannotBeStartedIsShownSo();
     void WhatNeedsTheRuleIsOffWithoutIt();
+    void NoticesAreOfferedWhileTheListIsFollowed();
     void RuleIsOfferedWhereTheListCanRule();
     void GeneralPageTellsOfPlugins();
 
@@ -452,6 +453,8 @@ void SettingsDialogTest::RuleIsKeptUnlessCancelled_data()
                                                << "following" << isOk;
         QTest::addRow("saving data, %s", answer) << "savingBox"
                                                  << "savingData" << isOk;
+        QTest::addRow("notifying, %s", answer) << "notifyingBox"
+                                               << "notify" << isOk;
     }
 }
 
@@ -462,7 +465,8 @@ void SettingsDialogTest::RuleIsKeptUnlessCancelled()
     QFETCH(bool, isOk);
     FakeConnections connections;
     const WithRules rules(&connections);
-    QVERIFY(ListRules::SetRuling(true) && ListRules::SetFollowing(true) && ListRules::SetSavingData(true));
+    QVERIFY(ListRules::SetRuling(true) && ListRules::SetFollowing(true) && ListRules::SetSavingData(true) &&
+            ListRules::SetNotifying(true));
     SettingsDialog dialog(nullptr);
     dialog.AddPage(new RulesPage(NoAgent()));
     dialog.SelectPage(0);
@@ -533,6 +537,23 @@ void SettingsDialogTest::WhatNeedsTheRuleIsOffWithoutIt()
     QVERIFY(!dialog.findChild<QCheckBox *>("keepingBox")->isEnabled());
     QVERIFY(!dialog.findChild<QCheckBox *>("followingBox")->isEnabled());
     QVERIFY(!dialog.findChild<QCheckBox *>("savingBox")->isEnabled());
+}
+
+void SettingsDialogTest::NoticesAreOfferedWhileTheListIsFollowed()
+{
+    FakeConnections connections;
+    const WithRules rules(&connections);
+    QVERIFY(ListRules::SetRuling(true) && ListRules::SetFollowing(false));
+    SettingsDialog dialog(nullptr);
+    dialog.AddPage(new RulesPage(NoAgent()));
+    dialog.SelectPage(0);
+    dialog.show();
+    const QCheckBox *notices = dialog.findChild<QCheckBox *>("notifyingBox");
+    QVERIFY(!notices->isEnabled());
+    QTest::keyClick(dialog.findChild<QCheckBox *>("followingBox"), Qt::Key_Space);
+    QVERIFY(notices->isEnabled());
+    QTest::keyClick(dialog.findChild<QCheckBox *>("rulingBox"), Qt::Key_Space);
+    QVERIFY(!notices->isEnabled());
 }
 
 void SettingsDialogTest::RuleIsOfferedWhereTheListCanRule()
