@@ -75,6 +75,7 @@ private:
     void ShowRule(const char *where);
     void ShowGeneralPage(const char *);
     void ShowRulesPage(const char *);
+    void ShowModule(const char *list);
     void ShowPriorityPage(const char *);
     void ShowAddDialog(const char *);
     void ShowNewDialog(const char *method);
