@@ -1,5 +1,6 @@
-# What is installed where, in three components: runtime (the plug-in and the host libraries), development (what other
-# teams build with) and dashboard (the reference host). Everything finds everything else relative to itself, so that an
+# What is installed where, in components: runtime (the plug-in and the host libraries), development (what other teams
+# build with), dashboard (the reference host) and kcm (the module for System Settings, installed in its own folder).
+# Everything finds everything else relative to itself, so that an
 # installation can be moved as a whole.
 
 include(CMakePackageConfigHelpers)

@@ -68,9 +68,16 @@ A dashboard that shows the ordered list of networks, which of them are in
 range and which one a connection manager would use now, and that lets the
 user edit the list in its settings dialog. It is where a developer of a
 plug-in sees it run.]])
+if(PRIORITY_HAS_SETTINGS_MODULE)
+    priority_package(kcm priority-plugin-kcm kde [[ordered list of networks in System Settings
+A module for the settings of the Plasma desktop. It shows the ordered list of
+networks of priority-dashboard and how it rules, and lets the user change
+both. The list, its history and its rules are those of the dashboard.]])
+endif()
 
 set(CPACK_COMPONENT_DEVELOPMENT_DEPENDS runtime)
 set(CPACK_COMPONENT_DASHBOARD_DEPENDS runtime)
+set(CPACK_COMPONENT_KCM_DEPENDS runtime dashboard)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${toolkit_development_${PRIORITY_QT}}")
 set(CPACK_DEBIAN_DASHBOARD_PACKAGE_RECOMMENDS hicolor-icon-theme)
 if(PRIORITY_HAS_NETWORKMANAGER)

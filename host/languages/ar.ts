@@ -844,6 +844,14 @@
         <translation>تقرير ما يجب فعله…</translation>
     </message>
     <message>
+        <source>IDS_MODULE_OPEN_ALREADY</source>
+        <translation>القائمة مفتوحة في نافذة أخرى من هذا البرنامج. أغلقها لعرض القائمة هنا.</translation>
+    </message>
+    <message>
+        <source>IDS_MODULE_OPEN_DASHBOARD</source>
+        <translation>فتح لوحة الشبكات</translation>
+    </message>
+    <message>
         <source>IDS_DAMAGE_TITLE</source>
         <translation>قائمتك تالفة</translation>
     </message>

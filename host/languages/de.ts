@@ -844,6 +844,14 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
         <translation>Entscheiden&#xa0;…</translation>
     </message>
     <message>
+        <source>IDS_MODULE_OPEN_ALREADY</source>
+        <translation>Die Liste ist in einem anderen Fenster dieses Programms geöffnet. Schließen Sie es, um die Liste hier zu sehen.</translation>
+    </message>
+    <message>
+        <source>IDS_MODULE_OPEN_DASHBOARD</source>
+        <translation>Dashboard öffnen</translation>
+    </message>
+    <message>
         <source>IDS_DAMAGE_TITLE</source>
         <translation>Ihre Liste ist beschädigt</translation>
     </message>

@@ -895,6 +895,16 @@ You can use letters, digits and these symbols:
         <translation>Decide what to do…</translation>
     </message>
     <message>
+        <source>IDS_MODULE_OPEN_ALREADY</source>
+        <extracomment>In the settings of the desktop, in place of the list</extracomment>
+        <translation>The list is open in another window of this program. Close that one to see the list here.</translation>
+    </message>
+    <message>
+        <source>IDS_MODULE_OPEN_DASHBOARD</source>
+        <extracomment>Button in the settings of the desktop; starts the program of the list</extracomment>
+        <translation>Open the dashboard</translation>
+    </message>
+    <message>
         <source>IDS_DAMAGE_TITLE</source>
         <translation>Your list is damaged</translation>
     </message>

@@ -844,6 +844,14 @@ Puede usar letras, números y estos símbolos:
         <translation>Decidir qué hacer…</translation>
     </message>
     <message>
+        <source>IDS_MODULE_OPEN_ALREADY</source>
+        <translation>La lista está abierta en otra ventana de este programa. Ciérrela para ver la lista aquí.</translation>
+    </message>
+    <message>
+        <source>IDS_MODULE_OPEN_DASHBOARD</source>
+        <translation>Abrir el panel de redes</translation>
+    </message>
+    <message>
         <source>IDS_DAMAGE_TITLE</source>
         <translation>Su lista está dañada</translation>
     </message>

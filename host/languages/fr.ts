@@ -844,6 +844,14 @@ Vous pouvez utiliser des lettres, des chiffres et les symboles suivants&#xa0;:
         <translation>Décider que faire…</translation>
     </message>
     <message>
+        <source>IDS_MODULE_OPEN_ALREADY</source>
+        <translation>La liste est ouverte dans une autre fenêtre de ce programme. Fermez-la pour voir la liste ici.</translation>
+    </message>
+    <message>
+        <source>IDS_MODULE_OPEN_DASHBOARD</source>
+        <translation>Ouvrir le tableau de bord réseau</translation>
+    </message>
+    <message>
         <source>IDS_DAMAGE_TITLE</source>
         <translation>Votre liste est endommagée</translation>
     </message>

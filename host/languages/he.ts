@@ -844,6 +844,14 @@
         <translation>החלטה מה לעשות…</translation>
     </message>
     <message>
+        <source>IDS_MODULE_OPEN_ALREADY</source>
+        <translation>הרשימה פתוחה בחלון אחר של תוכנית זו. סגרו אותו כדי לראות את הרשימה כאן.</translation>
+    </message>
+    <message>
+        <source>IDS_MODULE_OPEN_DASHBOARD</source>
+        <translation>פתיחת לוח הרשתות</translation>
+    </message>
+    <message>
         <source>IDS_DAMAGE_TITLE</source>
         <translation>הקובץ עם הרשימה שלך פגום</translation>
     </message>

@@ -844,6 +844,14 @@
         <translation>対処を選択…</translation>
     </message>
     <message>
+        <source>IDS_MODULE_OPEN_ALREADY</source>
+        <translation>リストはこのプログラムの別のウィンドウで開かれています。ここに表示するには、そのウィンドウを閉じてください。</translation>
+    </message>
+    <message>
+        <source>IDS_MODULE_OPEN_DASHBOARD</source>
+        <translation>ネットワークダッシュボードを開く</translation>
+    </message>
+    <message>
         <source>IDS_DAMAGE_TITLE</source>
         <translation>リストの破損</translation>
     </message>

@@ -844,6 +844,14 @@ Você pode usar letras, números e estes símbolos:
         <translation>Decidir o que fazer…</translation>
     </message>
     <message>
+        <source>IDS_MODULE_OPEN_ALREADY</source>
+        <translation>A lista está aberta em outra janela deste programa. Feche-a para ver a lista aqui.</translation>
+    </message>
+    <message>
+        <source>IDS_MODULE_OPEN_DASHBOARD</source>
+        <translation>Abrir o painel de redes</translation>
+    </message>
+    <message>
         <source>IDS_DAMAGE_TITLE</source>
         <translation>Sua lista está danificada</translation>
     </message>

@@ -844,6 +844,14 @@
         <translation>Решить, что делать…</translation>
     </message>
     <message>
+        <source>IDS_MODULE_OPEN_ALREADY</source>
+        <translation>Список открыт в другом окне этой программы. Закройте его, чтобы увидеть список здесь.</translation>
+    </message>
+    <message>
+        <source>IDS_MODULE_OPEN_DASHBOARD</source>
+        <translation>Открыть панель сетей</translation>
+    </message>
+    <message>
         <source>IDS_DAMAGE_TITLE</source>
         <translation>Ваш список повреждён</translation>
     </message>

@@ -844,6 +844,14 @@
         <translation>决定如何处理…</translation>
     </message>
     <message>
+        <source>IDS_MODULE_OPEN_ALREADY</source>
+        <translation>列表已在此程序的另一个窗口中打开。关闭该窗口后即可在此处查看列表。</translation>
+    </message>
+    <message>
+        <source>IDS_MODULE_OPEN_DASHBOARD</source>
+        <translation>打开网络面板</translation>
+    </message>
+    <message>
         <source>IDS_DAMAGE_TITLE</source>
         <translation>您的列表已损坏</translation>
     </message>

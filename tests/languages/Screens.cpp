@@ -10,10 +10,13 @@
 #include <IPriorityPlugin.h>
 #include <IWLANUIPlugin.h>
 #include <ListActions.h>
+#include <ListKeeper.h>
 #include <ListRules.h>
 #include <Lists.h>
 #include <MainWindow.h>
+#include <ModulePage.h>
 #include <OrderFile.h>
+#include <PluginList.h>
 #include <PluginObjects.h>
 #include <PrivateFile.h>
 #include <Settings.h>
@@ -355,6 +358,8 @@ const Screens::Screen Screens::screens[] = {
     {"settings, general page of missing plug-ins", &Screens::ShowBrokenGeneralPage, "Absent"},
     {"settings, general page", &Screens::ShowGeneralPage, nullptr},
     {"settings, rules page", &Screens::ShowRulesPage, nullptr},
+    {"module, list open already", &Screens::ShowModule, nullptr},
+    {"module, damaged list", &Screens::ShowModule, damagedList},
     {"list, NetworkManager", &Screens::ShowNetworkManager, "Working"},
     {"list, plug-in over NetworkManager broken", &Screens::ShowNetworkManager, "InitFails"},
     {"settings, general page with NetworkManager", &Screens::ShowNetworkManagerSettings, "Working"},
@@ -905,6 +910,25 @@ void Screens::ShowRulesPage(const char *)
     OpenWindow(m_plugins.data());
     Click("settingsButton");
     Child<QListWidget>("pageList")->setCurrentRow(1);
+    Visit();
+}
+
+void Screens::ShowModule(const char *list)
+{
+    if (list) {
+        WriteUserFile(QLatin1String("Priority.xml"), list);
+    } else {
+        Fill();
+    }
+    PluginList source;
+    ListKeeper keeper(UserPath(QString()), &source, nullptr);
+    ModulePage first(m_plugins.data(), &keeper, QString(), nullptr);
+    ModulePage second(m_plugins.data(), &keeper, QString(), nullptr);
+    first.Load();
+    ModulePage &shown = list ? first : second;
+    shown.Load();
+    shown.setWindowModality(Qt::ApplicationModal);
+    shown.show();
     Visit();
 }
 

@@ -82,6 +82,7 @@ private:
     void ShowSwitchNotice(const char *);
     void ShowGeneralPage(const char *);
     void ShowRulesPage(const char *);
+    void ShowModule(const char *list);
     void ShowPriorityPage(const char *);
     void ShowAddDialog(const char *);
     void ShowNewDialog(const char *method);

@@ -72,6 +72,7 @@ QList<Use> AllUses()
     return UsesIn(QLatin1String("src/PriorityPlugin"), QLatin1String("PriorityPlugin")) +
            UsesIn(QLatin1String("host/coreui"), QLatin1String("PriorityPlugin")) +
            UsesIn(QLatin1String("host/dashboard"), QLatin1String("Dashboard")) +
+           UsesIn(QLatin1String("host/kcm"), QLatin1String("Dashboard")) +
            UsesIn(QLatin1String("wlan"), QLatin1String("WLAN"));
 }
 

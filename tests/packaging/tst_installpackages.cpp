@@ -109,7 +109,7 @@ void InstallPackagesTest::systemGetsItsOwnPackages_data()
     QTest::addColumn<QString>("installed");
     QTest::addColumn<QString>("generation");
     QTest::newRow("Debian 12") << debian12 << "build"
-                               << "qtbase5-dev libkf5networkmanagerqt-dev"
+                               << "qtbase5-dev libkf5networkmanagerqt-dev libkf5kcmutils-dev"
                                << "5";
     QTest::newRow("Debian 13") << debian13 << "build"
                                << "qt6-base-dev libkf6networkmanagerqt-dev"
@@ -118,7 +118,7 @@ void InstallPackagesTest::systemGetsItsOwnPackages_data()
                                        << "qt6-base-dev"
                                        << "5";
     QTest::newRow("Qt 5 on Debian 13") << debian13 << "build-qt5"
-                                       << "qtbase5-dev libkf5networkmanagerqt-dev"
+                                       << "qtbase5-dev libkf5networkmanagerqt-dev libkf5kcmutils-dev"
                                        << "6";
     QTest::newRow("tests on Debian 12") << debian12 << "test"
                                         << "libcurl3-gnutls libpsl5"
@@ -131,7 +131,7 @@ void InstallPackagesTest::systemGetsItsOwnPackages_data()
                                          << "6";
     QTest::newRow("no NetworkManagerQt and no Qt 6") << QString(noNetworkManagerQt) + " qt6-base-dev"
                                                      << "build"
-                                                     << "qtbase5-dev"
+                                                     << "qtbase5-dev libkf5kcmutils-dev"
                                                      << "5";
 }
 
@@ -148,7 +148,7 @@ void InstallPackagesTest::systemGetsItsOwnPackages()
     QVERIFY2(Install(QStringList(group)) == 0, qPrintable(m_told));
     const QStringList ordered = QString(m_system->Read("installed")).split("\n");
     const QStringList others =
-        QString("qtbase5-dev libkf5networkmanagerqt-dev qt6-base-dev "
+        QString("qtbase5-dev libkf5networkmanagerqt-dev libkf5kcmutils-dev qt6-base-dev "
                 "libkf6networkmanagerqt-dev libcurl3-gnutls libcurl3t64-gnutls libpsl5 "
                 "libpsl5t64")
             .split(" ");

@@ -1,0 +1,227 @@
+#include <TemporaryDirectory.h>
+#include <TextPattern.h>
+
+#include <KCModule>
+#include <KCModuleLoader>
+#include <KPluginMetaData>
+
+#include <QApplication>
+#include <QDir>
+#include <QJsonObject>
+#include <QLabel>
+#include <QProcess>
+#include <QPushButton>
+#include <QStandardPaths>
+#include <QTableWidget>
+#include <QtTest>
+
+namespace
+{
+
+const char *const listFile = "priority-dashboard/Priority.xml";
+const char *const historyFile = "priority-dashboard/history/states.xml";
+const char *const damagedList = "<z><item name='Home' type='1'/><item";
+
+QString ModuleFile()
+{
+    return QLatin1String(BUILD_DIRECTORY "/kde/plasma/kcms/systemsettings_qwidgets/kcm_prioritylist.so");
+}
+
+QTableWidget *TableOf(const QWidget *module)
+{
+    return module->findChild<QTableWidget *>(QLatin1String("priorityTable"));
+}
+
+QString MessageOf(const QWidget *module)
+{
+    const QLabel *label = module->findChild<QLabel *>(QLatin1String("moduleMessage"));
+    return label->isVisible() ? label->text() : QString();
+}
+
+} // namespace
+
+/** The module of the desktop's settings, loaded as these do it. */
+class TestKcm : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void isFoundUnderNetwork();
+    void isNamedInEveryLanguage();
+    void moveIsInTheFile();
+    void moveIsInTheHistory();
+    void applyResetAndDefaultsKeepTheList();
+    void resetShowsTheListAsItIs();
+    void secondModuleTellsThatTheListIsOpen();
+    void damagedListIsNotOffered();
+    void listIsOfferedOnceItIsWhole();
+    void settingsShellShowsIt();
+    void endsWithAnOpenModule();
+
+private:
+    KCModule *Open() const;
+    void MoveSecondUp(QWidget *module) const;
+    QStringList Names() const;
+
+    TemporaryDirectory m_directory;
+};
+
+void TestKcm::initTestCase()
+{
+    qputenv("XDG_DATA_HOME", m_directory.Path().toLocal8Bit());
+    QVERIFY(QDir().mkpath(m_directory.FilePath(QLatin1String("priority-dashboard"))));
+}
+
+void TestKcm::init()
+{
+    m_directory.Write(listFile, "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<zeltdoc type=\"profile\">\n"
+                                "    <profile>\n        <item name=\"Home\" type=\"1\"/>\n"
+                                "        <item name=\"Office\" type=\"1\"/>\n"
+                                "        <item name=\"Mobile\" type=\"2\"/>\n    </profile>\n</zeltdoc>\n");
+}
+
+KCModule *TestKcm::Open() const
+{
+    KCModule *module = KCModuleLoader::loadModule(KPluginMetaData(ModuleFile()));
+    module->load();
+    module->show();
+    // It loads itself once more when it is shown.
+    QCoreApplication::processEvents();
+    return module;
+}
+
+void TestKcm::MoveSecondUp(QWidget *module) const
+{
+    QTableWidget *table = TableOf(module);
+    QVERIFY(table);
+    QTest::mouseClick(table->viewport(), Qt::LeftButton, Qt::NoModifier,
+                      table->visualRect(table->model()->index(1, 0)).center());
+    QTest::mouseClick(module->findChild<QPushButton *>(QLatin1String("upButton")), Qt::LeftButton);
+}
+
+QStringList TestKcm::Names() const
+{
+    return TextPattern::FindAll(QString::fromUtf8(m_directory.Read(listFile)),
+                                QLatin1String("name=\"([^\"]*)\""));
+}
+
+void TestKcm::isFoundUnderNetwork()
+{
+    const KPluginMetaData data(ModuleFile());
+    QCOMPARE(data.pluginId(), QString("kcm_prioritylist"));
+    QCOMPARE(data.rawData().value("X-KDE-System-Settings-Parent-Category").toString(), QString("network"));
+}
+
+void TestKcm::isNamedInEveryLanguage()
+{
+    const QJsonObject data = KPluginMetaData(ModuleFile()).rawData().value("KPlugin").toObject();
+    const QStringList files =
+        QDir(BUILD_DIRECTORY "/share/priority-dashboard/languages").entryList(QDir::Files);
+    QVERIFY(files.contains("de.qm"));
+    for (const QString &file : files) {
+        const QString suffix = file == "en.qm" ? QString() : '[' + QFileInfo(file).baseName() + ']';
+        QVERIFY2(!data.value("Name" + suffix).toString().isEmpty(), qPrintable(file));
+        QVERIFY2(!data.value("Description" + suffix).toString().isEmpty(), qPrintable(file));
+    }
+}
+
+void TestKcm::moveIsInTheFile()
+{
+    const QScopedPointer<KCModule> module(Open());
+    MoveSecondUp(module.data());
+    QCOMPARE(Names(), QStringList({"Office", "Home", "Mobile"}));
+}
+
+void TestKcm::moveIsInTheHistory()
+{
+    QScopedPointer<KCModule> module(Open());
+    MoveSecondUp(module.data());
+    module.reset();
+    const QStringList orders = TextPattern::FindAll(QString::fromUtf8(m_directory.Read(historyFile)),
+                                                    QLatin1String("order=\"([^\"]*)\""));
+    QCOMPARE(orders.mid(orders.size() - 2), QStringList({"0 1 2", "1 0 2"}));
+}
+
+void TestKcm::applyResetAndDefaultsKeepTheList()
+{
+    const QScopedPointer<KCModule> module(Open());
+    MoveSecondUp(module.data());
+    const QByteArray list = m_directory.Read(listFile);
+    module->save();
+    module->load();
+    module->defaults();
+    QCOMPARE(m_directory.Read(listFile), list);
+    QCOMPARE(module->buttons(), KCModule::Buttons(KCModule::NoAdditionalButton));
+}
+
+void TestKcm::resetShowsTheListAsItIs()
+{
+    const QScopedPointer<KCModule> module(Open());
+    m_directory.Write(listFile, "<z><item name='Alone' type='1'/></z>");
+    module->load();
+    QCOMPARE(TableOf(module.data())->rowCount(), 1);
+}
+
+void TestKcm::secondModuleTellsThatTheListIsOpen()
+{
+    QScopedPointer<KCModule> first(Open());
+    const QScopedPointer<KCModule> second(Open());
+    QVERIFY(TableOf(first.data()));
+    QVERIFY(!TableOf(second.data()));
+    QVERIFY(MessageOf(second.data()).contains("another window"));
+    first.reset();
+    QTRY_VERIFY(TableOf(second.data()));
+    QCOMPARE(MessageOf(second.data()), QString());
+}
+
+void TestKcm::damagedListIsNotOffered()
+{
+    m_directory.Write(listFile, damagedList);
+    QScopedPointer<KCModule> module(Open());
+    QVERIFY(!TableOf(module.data()));
+    QVERIFY(MessageOf(module.data()).contains("damaged"));
+    module->save();
+    module.reset();
+    QCOMPARE(m_directory.Read(listFile), QByteArray(damagedList));
+}
+
+void TestKcm::listIsOfferedOnceItIsWhole()
+{
+    m_directory.Write(listFile, damagedList);
+    const QScopedPointer<KCModule> module(Open());
+    QVERIFY(!TableOf(module.data()));
+    init();
+    QTRY_VERIFY(TableOf(module.data()));
+    m_directory.Write(listFile, damagedList);
+    QTRY_VERIFY(!TableOf(module.data()));
+}
+
+void TestKcm::settingsShellShowsIt()
+{
+    const QString shell = QStandardPaths::findExecutable("kcmshell5");
+    if (shell.isEmpty()) {
+        QSKIP("kcmshell5 is not installed");
+    }
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("QT_PLUGIN_PATH", BUILD_DIRECTORY "/kde");
+    process.setProcessEnvironment(environment);
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.start(shell, {"kcm_prioritylist"});
+    QByteArray output;
+    QTRY_VERIFY_WITH_TIMEOUT((output += process.readAll()).contains("ShowSettingDialog: Exit"), 60000);
+    process.terminate();
+    QVERIFY(process.waitForFinished());
+}
+
+void TestKcm::endsWithAnOpenModule()
+{
+    // The program's end deletes it, after the plug-ins are gone.
+    QVERIFY(TableOf(Open()));
+}
+
+QTEST_MAIN(TestKcm)
+
+#include "tst_kcm.moc"
