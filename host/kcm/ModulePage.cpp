@@ -10,7 +10,6 @@
 #include <RulesPage.h>
 
 #include <QLabel>
-#include <QPointer>
 #include <QProcess>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -23,7 +22,7 @@ const int pageWidth = 420;
 const int pageHeight = 374;
 
 /** Which of them has the plug-in's page. */
-QPointer<ModulePage> owner;
+ModulePage *owner = nullptr;
 
 } // namespace
 
@@ -56,7 +55,7 @@ void ModulePage::Load()
 {
     Close();
     if (owner) {
-        connect(owner.data(), &ModulePage::Released, this, &ModulePage::Load,
+        connect(owner, &ModulePage::Released, this, &ModulePage::Load,
                 Qt::ConnectionType(Qt::QueuedConnection | Qt::UniqueConnection));
         ShowMessage(DashboardText("IDS_MODULE_OPEN_ALREADY"));
         return;
@@ -85,7 +84,6 @@ void ModulePage::Close()
         m_list->Close(SettingsPage::NoAnswer);
         m_list.reset();
         m_keeper->EndOpening();
-        m_keeper->Follow();
     }
     delete m_listPlace;
     m_listPlace = nullptr;
@@ -106,7 +104,7 @@ void ModulePage::Follow()
 
 QString ModulePage::Obstacle() const
 {
-    const QString reason = ListKeeperText::Reason(*m_keeper, m_keeper->WriteObstacle());
+    QString reason = ListKeeperText::Reason(*m_keeper, m_keeper->WriteObstacle());
     if (!reason.isNull() || !m_keeper->IsDamaged()) {
         return reason;
     }
