@@ -6,12 +6,12 @@
 
 #include <DashboardLanguage.h>
 #include <MainWindow.h>
+#include <NetworkList.h>
 #include <PluginHost.h>
 #include <TemporaryDirectory.h>
 #include <TraceLog.h>
 
 #include <QLabel>
-#include <QListWidget>
 #include <QScopedPointer>
 
 #include <functional>
@@ -32,7 +32,7 @@ public:
     void AwaitReading(const std::function<void()> &cause);
 
     QString Text(const char *label) const;
-    QListWidget *List() const { return window->findChild<QListWidget *>("overviewList"); }
+    NetworkList *List() const { return window->findChild<NetworkList *>(); }
     QString State(int row) const;
 
     FakePriority *priority;

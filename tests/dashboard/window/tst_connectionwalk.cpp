@@ -129,9 +129,9 @@ QString ConnectionWalkTest::Wrong(const ConnectedWindow &world)
             }
         }
     }
-    const QListWidget *list = world.List();
+    const NetworkList *list = world.List();
     bool isTaken = false;
-    for (int i = 0; list->isVisible() && i < list->count(); ++i) {
+    for (int i = 0; list->isVisible() && i < list->Listed().size(); ++i) {
         const PriorityList &entry = world.priority->list.at(i);
         const bool isIt = inUse && !isTaken && inUse->type != QLatin1String("0") &&
                           inUse->type == entry.type && inUse->name == entry.name;
@@ -167,7 +167,7 @@ void ConnectionWalkTest::WindowNamesInUseWhatCarriesTheTraffic()
         const QString wrong = Wrong(world);
         QVERIFY2(wrong.isEmpty(), qPrintable(QString("step %1: %2").arg(i).arg(wrong)));
         inUse += world.Text("headlineLabel").startsWith(inUseWords) ? 1 : 0;
-        for (int row = 0; world.List()->isVisible() && row < world.List()->count(); ++row) {
+        for (int row = 0; world.List()->isVisible() && row < world.List()->Listed().size(); ++row) {
             rowsInUse += world.State(row).startsWith(inUseWords) ? 1 : 0;
         }
     }
