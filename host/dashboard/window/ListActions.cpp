@@ -14,7 +14,6 @@
 #include <ListKeeperText.h>
 #include <OrderFile.h>
 #include <OrdinaryFile.h>
-#include <PrivateFile.h>
 
 #include <QAccessible>
 #include <QAction>
@@ -22,6 +21,7 @@
 #include <QFileDialog>
 #include <QHBoxLayout>
 #include <QMenu>
+#include <QSaveFile>
 
 ListActions::ListActions(ListKeeper *keeper, QWidget *window)
     : QObject(window), m_keeper(keeper), m_window(window), m_undo(CreateAction("undoAction", SLOT(Undo()))),
@@ -245,7 +245,13 @@ void ListActions::Open(ImportDialog *dialog)
 
 void ListActions::Export(const QString &path)
 {
-    if (PrivateFile::Replace(path, OrderFile::Document(m_keeper->Entries())) != PrivateFile::OutcomeDone) {
+    const QByteArray document = OrderFile::Document(m_keeper->Entries());
+    // Whatever else is in the user's directory stays: it writes beside the file under a name that is free.
+    QSaveFile file(path);
+    const bool isWritten = file.open(QIODevice::WriteOnly) &&
+                           file.setPermissions(QFile::ReadOwner | QFile::WriteOwner) &&
+                           file.write(document) == document.size() && file.commit();
+    if (!isWritten) {
         DialogParts::Tell(DashboardText("IDS_EXPORT_NOT_WRITTEN").arg(InOwnDirection(path)));
     }
 }

@@ -70,6 +70,7 @@ private slots:
     void OrderIsExported();
     void ExportHasNoSecrets();
     void DamagedListIsNotExported();
+    void ExportChangesNoOtherFile();
     void ExportThatCannotBeWrittenIsTold();
     void OrderIsImportedAndTheImportUndone();
     void FileThatIsNoOrderIsToldWithItsLine_data();
@@ -517,15 +518,30 @@ void ListActionsTest::DamagedListIsNotExported()
     QVERIFY(Action("exportAction")->isEnabled());
 }
 
+void ListActionsTest::ExportChangesNoOtherFile()
+{
+    PluginWorld::AddTop("Home");
+    const QStringList others = {"mine.xml.new", "mine.xml~", "mine"};
+    for (const QString &other : others) {
+        QFile file(m_world.Directory().FilePath(other));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("mine") == 4);
+    }
+    Action("exportAction")->trigger();
+    ChooseFile("exportFileDialog", m_world.Directory().FilePath("mine.xml"));
+    QVERIFY(m_world.Directory().Read("mine.xml").contains("Home"));
+    for (const QString &other : others) {
+        QCOMPARE(m_world.Directory().Read(other), QByteArray("mine"));
+    }
+}
+
 void ListActionsTest::ExportThatCannotBeWrittenIsTold()
 {
     PluginWorld::AddTop("Home");
-    QVERIFY(QDir().mkdir(m_world.Directory().FilePath("mine.xml.new")));
     Action("exportAction")->trigger();
     MessageReader message;
-    ChooseFile("exportFileDialog", m_world.Directory().FilePath("mine.xml"));
+    // Nobody can make a file there.
+    ChooseFile("exportFileDialog", "/proc/mine.xml");
     QVERIFY2(Plain(message.text).contains("mine.xml cannot be written"), qPrintable(message.text));
-    QVERIFY(!QFile::exists(m_world.Directory().FilePath("mine.xml")));
 }
 
 void ListActionsTest::OrderIsImportedAndTheImportUndone()
