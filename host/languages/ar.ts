@@ -404,6 +404,8 @@
     <message>
         <source>IDS_RULES_SAVING_HINT</source>
         <translation>يوفّر البيانات. تُوصَل شبكة هاتف محمول واقعة تحت كل شبكات Wi-Fi في قائمتك بعد نصف دقيقة دون اتصال آخر، وتُقطع بعد دقيقة من وجود غيره.</translation>
+    </message>
+    <message>
         <source>IDS_RULES_NOTIFYING</source>
         <translation>إعلامي عند التبديل</translation>
     </message>

@@ -404,6 +404,8 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
     <message>
         <source>IDS_RULES_SAVING_HINT</source>
         <translation>Spart Daten. Mobiles Breitband, das unter allen WLAN-Netzwerken Ihrer Liste steht, wird nach einer halben Minute ohne andere Verbindung verbunden und nach einer Minute mit einer anderen getrennt.</translation>
+    </message>
+    <message>
         <source>IDS_RULES_NOTIFYING</source>
         <translation>Bei jedem Wechsel benachrichtigen</translation>
     </message>
@@ -1146,7 +1148,7 @@ Erwartet: %3</translation>
     </message>
     <message>
         <source>IDS_FORGET_ACTION</source>
-        <translation>Netzwerk ver&amp;gessen&#xa0;…</translation>
+        <translation>Net&amp;zwerk vergessen&#xa0;…</translation>
     </message>
     <message>
         <source>IDS_FORGET_HINT</source>

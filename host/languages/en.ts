@@ -445,6 +445,8 @@ You can use letters, digits and these symbols:
         <source>IDS_RULES_SAVING_HINT</source>
         <extracomment>Tool tip of that box</extracomment>
         <translation>Saves data. Mobile broadband below all Wi-Fi networks of your list is connected after half a minute without another connection, and ended after a minute with one.</translation>
+    </message>
+    <message>
         <source>IDS_RULES_NOTIFYING</source>
         <extracomment>Box to tick, below the one for switching to a higher network by itself</extracomment>
         <translation>Tell me when it switches</translation>
@@ -1399,7 +1401,7 @@ Expected: %3</translation>
     <message>
         <source>IDS_UNLISTED_ADD</source>
         <extracomment>In the Edit menu and in the menu of a saved network that is not in the list</extracomment>
-        <translation>&amp;Add to list</translation>
+        <translation>Add t&amp;o list</translation>
     </message>
     <message>
         <source>IDS_UNLISTED_TITLE</source>

@@ -404,6 +404,8 @@ Puede usar letras, números y estos símbolos:
     <message>
         <source>IDS_RULES_SAVING_HINT</source>
         <translation>Ahorra datos. La banda ancha móvil que está por debajo de todas las redes Wi-Fi de su lista se conecta tras medio minuto sin otra conexión y se desconecta tras un minuto con otra.</translation>
+    </message>
+    <message>
         <source>IDS_RULES_NOTIFYING</source>
         <translation>Avisarme cuando cambie</translation>
     </message>

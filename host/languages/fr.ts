@@ -404,6 +404,8 @@ Vous pouvez utiliser des lettres, des chiffres et les symboles suivants&#xa0;:
     <message>
         <source>IDS_RULES_SAVING_HINT</source>
         <translation>Économise les données. Le haut débit mobile placé sous tous les réseaux Wi-Fi de votre liste est connecté après une demi-minute sans autre connexion, et déconnecté après une minute avec une autre.</translation>
+    </message>
+    <message>
         <source>IDS_RULES_NOTIFYING</source>
         <translation>Me prévenir à chaque changement</translation>
     </message>
@@ -1274,7 +1276,7 @@ Attendu&#xa0;: %3</translation>
     </message>
     <message>
         <source>IDS_UNLISTED_ADD</source>
-        <translation>&amp;Ajouter à la liste</translation>
+        <translation>A&amp;jouter à la liste</translation>
     </message>
     <message>
         <source>IDS_UNLISTED_TITLE</source>

@@ -404,6 +404,8 @@
     <message>
         <source>IDS_RULES_SAVING_HINT</source>
         <translation>חוסך נתונים. פס רחב נייד שנמצא מתחת לכל רשתות ה-Wi-Fi ברשימה שלך מתחבר אחרי חצי דקה בלי חיבור אחר, ומתנתק אחרי דקה שבה יש חיבור אחר.</translation>
+    </message>
+    <message>
         <source>IDS_RULES_NOTIFYING</source>
         <translation>הודעה לי בעת מעבר</translation>
     </message>
@@ -1309,7 +1311,7 @@
     </message>
     <message>
         <source>IDS_FIND_ACTION</source>
-        <translation>חי&amp;פוש רשת</translation>
+        <translation>חיפוש רש&amp;ת</translation>
     </message>
     <message>
         <source>IDS_FIND_NONE</source>

@@ -404,6 +404,8 @@
     <message>
         <source>IDS_RULES_SAVING_HINT</source>
         <translation>データ通信量を節約します。リストのすべての Wi-Fi ネットワークより下にあるモバイルブロードバンドは、ほかのネットワークへの接続が 30 秒間ないと接続され、1 分間続くと切断されます。</translation>
+    </message>
+    <message>
         <source>IDS_RULES_NOTIFYING</source>
         <translation>切り替えたときに通知する</translation>
     </message>
@@ -1274,7 +1276,7 @@
     </message>
     <message>
         <source>IDS_UNLISTED_ADD</source>
-        <translation>リストに追加(&amp;A)</translation>
+        <translation>リストに追加(&amp;O)</translation>
     </message>
     <message>
         <source>IDS_UNLISTED_TITLE</source>

@@ -404,6 +404,8 @@ Você pode usar letras, números e estes símbolos:
     <message>
         <source>IDS_RULES_SAVING_HINT</source>
         <translation>Economiza dados. A banda larga móvel abaixo de todas as redes Wi-Fi da sua lista é conectada após meio minuto sem outra conexão e desconectada após um minuto com outra.</translation>
+    </message>
+    <message>
         <source>IDS_RULES_NOTIFYING</source>
         <translation>Avisar quando mudar</translation>
     </message>
@@ -1274,7 +1276,7 @@ Esperado: %3</translation>
     </message>
     <message>
         <source>IDS_UNLISTED_ADD</source>
-        <translation>&amp;Adicionar à lista</translation>
+        <translation>Adici&amp;onar à lista</translation>
     </message>
     <message>
         <source>IDS_UNLISTED_TITLE</source>

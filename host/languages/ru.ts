@@ -404,6 +404,8 @@
     <message>
         <source>IDS_RULES_SAVING_HINT</source>
         <translation>Экономит трафик. Мобильная сеть, стоящая в списке ниже всех сетей Wi-Fi, подключается через полминуты без другого соединения и отключается, когда другое работает минуту.</translation>
+    </message>
+    <message>
         <source>IDS_RULES_NOTIFYING</source>
         <translation>Сообщать о переключении</translation>
     </message>
@@ -1274,7 +1276,7 @@
     </message>
     <message>
         <source>IDS_UNLISTED_ADD</source>
-        <translation>&amp;Добавить в список</translation>
+        <translation>Доб&amp;авить в список</translation>
     </message>
     <message>
         <source>IDS_UNLISTED_TITLE</source>

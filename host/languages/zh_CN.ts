@@ -404,6 +404,8 @@
     <message>
         <source>IDS_RULES_SAVING_HINT</source>
         <translation>节省流量。列表中位于所有 Wi-Fi 网络之下的移动宽带，在半分钟没有其他连接后接通，在其他连接持续一分钟后断开。</translation>
+    </message>
+    <message>
         <source>IDS_RULES_NOTIFYING</source>
         <translation>切换时通知我</translation>
     </message>
@@ -1274,7 +1276,7 @@
     </message>
     <message>
         <source>IDS_UNLISTED_ADD</source>
-        <translation>添加到列表(&amp;A)</translation>
+        <translation>添加到列表(&amp;O)</translation>
     </message>
     <message>
         <source>IDS_UNLISTED_TITLE</source>

@@ -282,6 +282,7 @@ const Screens::Screen Screens::screens[] = {
     {"Edit menu, network saved", &Screens::ShowForgetting, "menu"},
     {"Edit menu, network not saved", &Screens::ShowForgetting, "menu, not saved"},
     {"Edit menu, networks not known", &Screens::ShowForgetting, "menu, not known"},
+    {"Edit menu, network not listed", &Screens::ShowForgetting, "menu, not listed"},
     {"list, plug-in missing while connected", &Screens::ShowConnections, "no list"},
     {"list, not handed out", &Screens::ShowListNotHandedOut, "QueryNull"},
     {"list, damaged", &Screens::ShowListFile, damagedList},
@@ -698,11 +699,13 @@ void Screens::ShowForgetting(const char *what)
     } else if (shown == "menu, not known") {
         connections.told.state.source = ConnectionState::SourceNotKnown;
     }
-    WriteUserFile(QLatin1String("Priority.xml"), OrderFile::Document(Listed(QLatin1String("Home, Office"))));
+    const QLatin1String listed(shown == "menu, not listed" ? "Office" : "Home, Office");
+    WriteUserFile(QLatin1String("Priority.xml"), OrderFile::Document(Listed(listed)));
     WithConnections container(m_plugins.data(), &connections);
     HostControl::SetPluginContainer(&container);
     OpenWindow(m_plugins.data());
-    Child<QListWidget>("overviewList")->setCurrentRow(0);
+    QListWidget *list = Child<QListWidget>("overviewList");
+    list->setCurrentRow(shown == "menu, not listed" ? list->count() - 1 : 0);
     if (shown.startsWith("menu")) {
         Child<QMenu>("editMenu")->popup(m_window->pos());
     } else {

@@ -199,7 +199,7 @@ void ListActionsTest::MenuHasEverything()
                                   << "Move &down"
                                   << "Move to &top"
                                   << "Move to e&nd" << QString() << "Remove &from list"
-                                  << "&Add to list" << QString() << QString::fromUtf8("Det&ails…")
+                                  << "Add t&o list" << QString() << QString::fromUtf8("Det&ails…")
                                   << QString::fromUtf8("For&get network…") << QString() << "Find a net&work"
                                   << QString::fromUtf8("&Settings…"));
     PluginWorld::AddTop("Home");
