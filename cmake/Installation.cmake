@@ -118,6 +118,8 @@ foreach(size 48 128)
 endforeach()
 install(FILES "${PROJECT_SOURCE_DIR}/packaging/priority-dashboard.1"
     DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT dashboard)
+install(FILES "${PROJECT_SOURCE_DIR}/packaging/priority-dashboard.bash"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions" RENAME priority-dashboard COMPONENT dashboard)
 
 # Where the installed dashboard finds the rest, seen from its own directory.
 set(library_path_from_program "${host_libraries_from_program}/priority-dashboard")

@@ -235,7 +235,8 @@ void InstalledTest::componentsHaveTheirFiles_data()
                                                  << "share/icons/hicolor/48x48/apps/" + id + ".png"
                                                  << "share/icons/hicolor/128x128/apps/" + id + ".png"
                                                  << "share/icons/hicolor/scalable/apps/" + id + ".svg"
-                                                 << "share/man/man1/priority-dashboard.1");
+                                                 << "share/man/man1/priority-dashboard.1"
+                                                 << "share/bash-completion/completions/priority-dashboard");
 }
 
 void InstalledTest::componentsHaveTheirFiles()

@@ -3,6 +3,8 @@
 #include "ListEntries.h"
 #include <StrictXmlReader.h>
 
+#include <QFile>
+#include <QSaveFile>
 #include <QXmlStreamWriter>
 
 namespace
@@ -36,6 +38,14 @@ QByteArray OrderFile::Document(const QList<PriorityList> &entries)
     }
     writer.writeEndDocument();
     return document;
+}
+
+bool OrderFile::Write(const QString &path, const QList<PriorityList> &entries)
+{
+    const QByteArray document = Document(entries);
+    QSaveFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.setPermissions(QFile::ReadOwner | QFile::WriteOwner) &&
+           file.write(document) == document.size() && file.commit();
 }
 
 FileFault OrderFile::Parse(const QByteArray &bytes, QList<PriorityList> *entries)

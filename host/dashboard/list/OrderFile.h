@@ -25,6 +25,10 @@ const int largestFile = 16 * 1024 * 1024;
 
 QByteArray Document(const QList<PriorityList> &entries);
 
+/** Makes it a file of the user's, for the owner only. It is written whole or not at all, and no other file is
+ * touched. */
+bool Write(const QString &path, const QList<PriorityList> &entries);
+
 /** Appends the entries of the file to *entries, unless it has a fault. */
 FileFault Parse(const QByteArray &bytes, QList<PriorityList> *entries);
 

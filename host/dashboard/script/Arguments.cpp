@@ -3,7 +3,7 @@
 #include <QByteArray>
 #include <QLatin1String>
 
-#include <utility>
+#include <limits>
 
 namespace
 {
@@ -50,6 +50,12 @@ const CommandOption commandOptions[] = {
     {"--check", Command::Check},
     {"--add", Command::Add},
     {"--add-top", Command::AddTop},
+    {"--remove", Command::Remove},
+    {"--move", Command::Move},
+    {"--undo", Command::Undo},
+    {"--redo", Command::Redo},
+    {"--export", Command::Export},
+    {"--import", Command::Import},
     {"--status", Command::Status},
     {"--connect", Command::Connect},
     {"--disconnect", Command::Disconnect},
@@ -139,6 +145,110 @@ Arguments Refused(const QString &problem)
     return refused;
 }
 
+/** Takes what comes behind name: with "=" in the argument itself, or as the next one. */
+bool TakeValue(const QString &argument, const QString &name, QStringList *left, QString *value)
+{
+    if (argument.size() > name.size()) {
+        *value = argument.mid(name.size() + 1);
+    } else if (!left->isEmpty() && !left->constFirst().startsWith(QLatin1String("--"))) {
+        *value = left->takeFirst();
+    }
+    return !value->isEmpty();
+}
+
+/** A place in the list, counted from 1; 0 when the text is none. However large: there is an end. */
+int PositionOf(const QString &text)
+{
+    for (const QChar digit : text) {
+        if (digit < QLatin1Char('0') || digit > QLatin1Char('9')) {
+            return 0;
+        }
+    }
+    bool isSmall = false;
+    const int position = text.toInt(&isSmall);
+    return isSmall || text.isEmpty() ? position : std::numeric_limits<int>::max();
+}
+
+/** Null, or why it can't be followed. */
+QString TakeEntry(const QString &value, const QString &name, QStringList *left, Command *command)
+{
+    command->entry = EntryOf(value);
+    if (command->entry.name.isEmpty()) {
+        return QString::fromLatin1("%1 needs a name before the type; see --help").arg(name);
+    }
+    if (command->Adds() && !CanBeStored(command->entry.name)) {
+        return QString::fromLatin1("the list can't hold all characters of the name \"%1\"")
+            .arg(command->entry.name);
+    }
+    if (command->kind == Command::Move) {
+        const QString position = left->isEmpty() ? QString() : left->takeFirst();
+        command->position = PositionOf(position);
+        if (command->position == 0) {
+            return QString::fromLatin1("%1 needs a place behind the name, a number from 1, not \"%2\"; "
+                                       "see --help")
+                .arg(name, position);
+        }
+    }
+    return QString();
+}
+
+/** Null, or why it can't be followed. */
+QString TakeCommand(const CommandOption &option, const QString &argument, QStringList *left,
+                    Arguments *parsed)
+{
+    const QString name = QLatin1String(option.name);
+    Command command = CommandOf(option);
+    QString problem;
+    if (command.TakesEntry() || command.TakesFile()) {
+        QString value;
+        if (!TakeValue(argument, name, left, &value)) {
+            return QString::fromLatin1("%1 needs a value; see --help").arg(name);
+        }
+        if (command.TakesFile()) {
+            command.file = value;
+        } else {
+            problem = TakeEntry(value, name, left, &command);
+        }
+    } else if (argument.size() > name.size()) {
+        return QString::fromLatin1("%1 takes no value; see --help").arg(name);
+    }
+    parsed->commands.append(command);
+    return problem;
+}
+
+/** Takes the first of the arguments, and what belongs to it. Null, or why it can't be followed. */
+QString TakeFirst(QStringList *left, Arguments *parsed)
+{
+    const QString argument = left->takeFirst();
+    if (argument == QLatin1String("--help") || argument == QLatin1String("-h")) {
+        parsed->action = Arguments::Help;
+        return QString();
+    }
+    if (argument == QLatin1String("--version")) {
+        parsed->action = Arguments::Version;
+        return QString();
+    }
+    const QString name = argument.left(argument.indexOf(QLatin1Char('=')));
+    if (const CommandOption *command = FindCommandOption(name)) {
+        return TakeCommand(*command, argument, left, parsed);
+    }
+    if (const ValueOption *option = FindValueOption(name)) {
+        return TakeValue(argument, name, left, &(parsed->*(option->value)))
+                   ? QString()
+                   : QString::fromLatin1("%1 needs a value; see --help").arg(name);
+    }
+    bool *const flag = name == QLatin1String("--json")   ? &parsed->isJson
+                       : name == QLatin1String("--demo") ? &parsed->isDemo
+                                                         : nullptr;
+    if (!flag) {
+        return argument.startsWith(QLatin1Char('-'))
+                   ? QString::fromLatin1("there is no option %1; see --help").arg(name)
+                   : QString::fromLatin1("can't do anything with \"%1\"; see --help").arg(argument);
+    }
+    *flag = true;
+    return argument == name ? QString() : QString::fromLatin1("%1 takes no value; see --help").arg(name);
+}
+
 /** Null when there is none. */
 QString ShowProblem(const Arguments &parsed)
 {
@@ -149,6 +259,36 @@ QString ShowProblem(const Arguments &parsed)
     return parsed.show.isNull() || parsed.commands.isEmpty()
                ? QString()
                : QString::fromLatin1("--show opens a window, and commands open none; see --help");
+}
+
+/** Whether what was given goes together: null, or why it doesn't. */
+QString ProblemOf(const Arguments &parsed)
+{
+    if (!parsed.wlan.isNull() && !FindWlanWord(parsed.wlan)) {
+        return QString::fromLatin1("--wlan is networkmanager or stored, not \"%1\"; see --help")
+            .arg(parsed.wlan);
+    }
+    if (parsed.isDemo && !parsed.wlan.isNull()) {
+        return QLatin1String("--demo has networks of its own: leave --wlan out; see --help");
+    }
+    if (parsed.WaitSeconds() == 0) {
+        return QString::fromLatin1("--wait is a number of seconds from 1 to 86400, not \"%1\"; see --help")
+            .arg(parsed.wait);
+    }
+    bool canWait = parsed.wait.isNull();
+    bool canAnswer = !parsed.isJson;
+    for (const Command &command : parsed.commands) {
+        canWait = canWait || command.Waits();
+        canAnswer = canAnswer || command.CanAnswerInJson();
+        if (command.kind == Command::Agent && parsed.commands.size() > 1) {
+            return QLatin1String("--agent goes without other commands; see --help");
+        }
+    }
+    if (!canWait) {
+        return QLatin1String("--wait goes with --connect or --disconnect; see --help");
+    }
+    return canAnswer ? ShowProblem(parsed)
+                     : QLatin1String("--json goes with --list, --check or --status; see --help");
 }
 
 } // namespace
@@ -174,93 +314,15 @@ Arguments Arguments::Read(int count, const char *const *arguments)
 Arguments Arguments::Parse(const QStringList &arguments)
 {
     Arguments parsed;
-    for (int i = 0; i < arguments.size(); ++i) {
-        const QString &argument = arguments.at(i);
-        if (argument == QLatin1String("--help") || argument == QLatin1String("-h")) {
-            parsed.action = Help;
-            return parsed;
-        }
-        if (argument == QLatin1String("--version")) {
-            parsed.action = Version;
-            return parsed;
-        }
-        const int equals = static_cast<int>(argument.indexOf(QLatin1Char('=')));
-        const QString name = argument.left(equals);
-        const ValueOption *option = FindValueOption(name);
-        const CommandOption *command = FindCommandOption(name);
-        const bool isJson = name == QLatin1String("--json");
-        const bool isDemo = name == QLatin1String("--demo");
-        if (!option && !command && !isJson && !isDemo) {
-            const bool isOption = argument.startsWith(QLatin1Char('-'));
-            return Refused(
-                isOption ? QString::fromLatin1("there is no option %1; see --help").arg(name)
-                         : QString::fromLatin1("can't do anything with \"%1\"; see --help").arg(argument));
-        }
-        if (isJson || isDemo || (command && !CommandOf(*command).TakesEntry())) {
-            if (equals >= 0) {
-                return Refused(QString::fromLatin1("%1 takes no value; see --help").arg(name));
-            }
-            parsed.isJson = parsed.isJson || isJson;
-            parsed.isDemo = parsed.isDemo || isDemo;
-            if (command) {
-                parsed.commands.append(CommandOf(*command));
-            }
-            continue;
-        }
-        QString value;
-        if (equals >= 0) {
-            value = argument.mid(equals + 1);
-        } else if (i + 1 < arguments.size() && !arguments.at(i + 1).startsWith(QLatin1String("--"))) {
-            value = arguments.at(++i);
-        }
-        if (value.isEmpty()) {
-            return Refused(QString::fromLatin1("%1 needs a value; see --help").arg(name));
-        }
-        if (option) {
-            parsed.*(option->value) = value;
-            continue;
-        }
-        Command given = CommandOf(*command);
-        given.entry = EntryOf(value);
-        if (given.entry.name.isEmpty()) {
-            return Refused(QString::fromLatin1("%1 needs a name before the type; see --help").arg(name));
-        }
-        if (given.IsChange() && !CanBeStored(given.entry.name)) {
-            return Refused(QString::fromLatin1("the list can't hold all characters of the name \"%1\"")
-                               .arg(given.entry.name));
-        }
-        parsed.commands.append(given);
+    QStringList left = arguments;
+    QString problem;
+    while (!left.isEmpty() && problem.isNull() && parsed.action == Run) {
+        problem = TakeFirst(&left, &parsed);
     }
-    if (!parsed.wlan.isNull() && !FindWlanWord(parsed.wlan)) {
-        return Refused(QString::fromLatin1("--wlan is networkmanager or stored, not \"%1\"; see --help")
-                           .arg(parsed.wlan));
+    if (problem.isNull() && parsed.action == Run) {
+        problem = ProblemOf(parsed);
     }
-    if (parsed.isDemo && !parsed.wlan.isNull()) {
-        return Refused(QLatin1String("--demo has networks of its own: leave --wlan out; see --help"));
-    }
-    const QString showProblem = ShowProblem(parsed);
-    if (!showProblem.isNull()) {
-        return Refused(showProblem);
-    }
-    if (parsed.WaitSeconds() == 0) {
-        return Refused(
-            QString::fromLatin1("--wait is a number of seconds from 1 to 86400, not \"%1\"; see --help")
-                .arg(parsed.wait));
-    }
-    bool canWait = parsed.wait.isNull();
-    bool canAnswer = !parsed.isJson;
-    for (const Command &command : std::as_const(parsed.commands)) {
-        canWait = canWait || command.Waits();
-        canAnswer = canAnswer || command.CanAnswerInJson();
-        if (command.kind == Command::Agent && parsed.commands.size() > 1) {
-            return Refused(QLatin1String("--agent goes without other commands; see --help"));
-        }
-    }
-    if (!canWait || !canAnswer) {
-        return Refused(QLatin1String(canWait ? "--json goes with --list, --check or --status; see --help"
-                                             : "--wait goes with --connect or --disconnect; see --help"));
-    }
-    return parsed;
+    return problem.isNull() ? parsed : Refused(problem);
 }
 
 int Arguments::WaitSeconds() const
@@ -309,6 +371,15 @@ QString Arguments::HelpText()
         "  --add NAME[:TYPE]    make this the last network\n"
         "  --add-top NAME[:TYPE]\n"
         "                       make this the first network, whether it is listed already or not\n"
+        "  --remove NAME[:TYPE] take this network out of the list; it stays saved\n"
+        "  --move NAME[:TYPE] PLACE\n"
+        "                       move this network to that place of the list: 1 is the first, and\n"
+        "                       what is beyond the end is the last; of several equal ones the first\n"
+        "                       is moved, or removed\n"
+        "  --undo               take the last change of the list back, whoever has made it\n"
+        "  --redo               make it again\n"
+        "  --export FILE        write the list to a file, which is made, or is such a list already\n"
+        "  --import FILE        have the networks of such a file for the list\n"
         "  --status             print which connections are up or coming up, which of them carries\n"
         "                       the traffic, and which network of the list could be used now first\n"
         "  --connect NAME[:TYPE]\n"
@@ -326,7 +397,7 @@ QString Arguments::HelpText()
         "  --wait SECONDS       let --connect and --disconnect take so long; 60 is the default\n"
         "  --json               let --list, --check and --status answer in JSON\n"
         "\n"
-        "What --add and --add-top change takes effect at once, as long as the list rules\n"
+        "What commands change of the list takes effect at once, as long as the list rules\n"
         "NetworkManager.\n"
         "\n"
         "TYPE is wifi (or 1), which is also the type of a network that is given without one,\n"
@@ -345,9 +416,10 @@ QString Arguments::HelpText()
         "   9  --check found networks that are listed more than once\n"
         "  10  another command was busy with the list for too long, or an agent is running already\n"
         "  11  the connection manager can't be reached\n"
-        "  12  there is no such network, it needs a key first, or nothing is connected\n"
+        "  12  it is not there or not listed, needs a key first, or nothing is connected\n"
         "  13  it was not connected, or not disconnected, or not in time\n"
-        "  14  not every network could be brought into the order, or given back\n");
+        "  14  not every network could be brought into the order, or given back\n"
+        "  15  there is nothing to undo, or to redo\n");
 }
 
 QString Arguments::VersionText()

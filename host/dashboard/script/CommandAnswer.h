@@ -19,7 +19,8 @@ enum CommandStatus {
     CommandNoSource = 11,
     CommandNothingThere = 12,
     CommandNotConnected = 13,
-    CommandNotInEffect = 14
+    CommandNotInEffect = 14,
+    CommandNoStep = 15
 };
 
 /** What commands print. Answers go to the standard output, in UTF-8 whatever the locale; problems to the

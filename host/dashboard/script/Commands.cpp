@@ -2,6 +2,7 @@
 
 #include "Agent.h"
 #include "ConnectionCommands.h"
+#include "HistoryCommands.h"
 #include "ListCommands.h"
 
 #include <HostControl.h>
@@ -63,6 +64,41 @@ bool IsAnyChange(const QList<Command> &commands)
                        [](const Command &command) { return command.IsChange(); });
 }
 
+/** Those from *next on that are done in one go; *next is behind them then. */
+QList<Command> OfListFrom(const QList<Command> &commands, int *next)
+{
+    QList<Command> ofList;
+    while (*next < commands.size() && !commands.at(*next).IsOfConnections()) {
+        const bool isOfHistory = commands.at(*next).IsOfHistory();
+        if (isOfHistory && !ofList.isEmpty()) {
+            break;
+        }
+        ofList.append(commands.at(*next));
+        ++*next;
+        if (isOfHistory) {
+            break;
+        }
+    }
+    return ofList;
+}
+
+CommandStatus RunOfList(const QList<Command> &commands, const ListCommands &lists)
+{
+    if (commands.constFirst().IsOfHistory()) {
+        return HistoryCommands::Run(commands.constFirst());
+    }
+    // What is added is a change that can be undone, too.
+    const bool isChange = IsAnyChange(commands);
+    if (isChange) {
+        HistoryCommands::Note();
+    }
+    const CommandStatus status = lists.Run(commands);
+    if (isChange) {
+        HistoryCommands::Note();
+    }
+    return status;
+}
+
 } // namespace
 
 CommandStatus Commands::Run(const Arguments &arguments, const QString &libraryPath)
@@ -98,13 +134,9 @@ CommandStatus Commands::Run(const Arguments &arguments, const QString &libraryPa
     CommandStatus status = CommandDone;
     for (int i = 0; i < commands.size() && status == CommandDone;) {
         HostControl::SetPluginContainer(&priority);
-        QList<Command> ofList;
-        while (i < commands.size() && !commands.at(i).IsOfConnections()) {
-            ofList.append(commands.at(i));
-            ++i;
-        }
+        const QList<Command> ofList = OfListFrom(commands, &i);
         if (!ofList.isEmpty()) {
-            status = lists.Run(ofList);
+            status = RunOfList(ofList, lists);
             if (IsAnyChange(ofList) && ListRules::IsRuling()) {
                 askNetworks(&both).FollowList();
             }

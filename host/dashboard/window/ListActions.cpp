@@ -21,7 +21,6 @@
 #include <QFileDialog>
 #include <QHBoxLayout>
 #include <QMenu>
-#include <QSaveFile>
 
 ListActions::ListActions(ListKeeper *keeper, QWidget *window)
     : QObject(window), m_keeper(keeper), m_window(window), m_undo(CreateAction("undoAction", SLOT(Undo()))),
@@ -245,13 +244,7 @@ void ListActions::Open(ImportDialog *dialog)
 
 void ListActions::Export(const QString &path)
 {
-    const QByteArray document = OrderFile::Document(m_keeper->Entries());
-    // Whatever else is in the user's directory stays: it writes beside the file under a name that is free.
-    QSaveFile file(path);
-    const bool isWritten = file.open(QIODevice::WriteOnly) &&
-                           file.setPermissions(QFile::ReadOwner | QFile::WriteOwner) &&
-                           file.write(document) == document.size() && file.commit();
-    if (!isWritten) {
+    if (!OrderFile::Write(path, m_keeper->Entries())) {
         DialogParts::Tell(DashboardText("IDS_EXPORT_NOT_WRITTEN").arg(InOwnDirection(path)));
     }
 }

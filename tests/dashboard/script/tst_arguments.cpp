@@ -123,6 +123,15 @@ void ArgumentsTest::RefusalNamesWhatIsWrong_data()
     QTest::newRow("unknown part") << QStringList("--show=list") << "--show is connect or settings";
     QTest::newRow("part of no window")
         << QStringList({"--show=connect", "--list"}) << "--show opens a window";
+    QTest::newRow("no place") << QStringList({"--move", "Home"}) << "--move needs a place";
+    QTest::newRow("place 0") << QStringList({"--move", "Home", "0"}) << "not \"0\"";
+    QTest::newRow("place below the first") << QStringList({"--move", "Home", "-1"}) << "not \"-1\"";
+    QTest::newRow("place with more") << QStringList({"--move", "Home", "2x"}) << "not \"2x\"";
+    QTest::newRow("empty place") << QStringList({"--move", "Home", ""}) << "--move needs a place";
+    QTest::newRow("place of another script")
+        << QStringList({"--move", "Home", QString::fromUtf8("٢")}) << "--move needs a place";
+    QTest::newRow("no file") << QStringList("--export") << "--export";
+    QTest::newRow("undo of what") << QStringList("--undo=Home") << "--undo takes no value";
     QTest::newRow("agent and more") << QStringList({"--agent", "--list"}) << "--agent";
     QTest::newRow("unknown with value") << (QStringList() << "--fast=1") << "--fast";
     QTest::newRow("unknown short") << (QStringList() << "-x") << "-x";
