@@ -49,7 +49,14 @@ void DesktopFilesTest::ValidatorsAreContent_data()
     QTest::addColumn<QString>("program");
     QTest::addColumn<QStringList>("arguments");
     QTest::newRow("desktop file") << "desktop-file-validate" << QStringList(desktopFile);
-    QTest::newRow("metainfo") << "appstreamcli" << QStringList({"validate", "--no-net", metainfo});
+    QStringList validation = {"validate", "--no-net", metainfo};
+    QProcess process;
+    process.start("appstreamcli", validation);
+    // There is no home page to name. Only later releases ask for one, and only they know this tag.
+    if (process.waitForFinished() && process.readAll().contains("url-homepage-missing")) {
+        validation.insert(1, "--override=url-homepage-missing=info");
+    }
+    QTest::newRow("metainfo") << "appstreamcli" << validation;
 }
 
 void DesktopFilesTest::ValidatorsAreContent()
