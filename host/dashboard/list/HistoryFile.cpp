@@ -43,7 +43,7 @@ private:
     {
         QByteArray order;
         for (int i = 0; i < entries.size(); ++i) {
-            order += QByteArray::number(PlaceOf(entries.at(i))) + ' ';
+            order += m_numbers.at(PlaceOf(entries.at(i)));
         }
         order.chop(1);
         m_orders.append(order);
@@ -57,11 +57,14 @@ private:
             return known.value();
         }
         m_places.insert(key, m_entries.size());
+        m_numbers.append(QByteArray::number(m_entries.size()) + ' ');
         m_entries.append(entry);
         return m_entries.size() - 1;
     }
 
     QList<PriorityList> m_entries;
+    /** Their places as text: each stands in nearly every state. */
+    QList<QByteArray> m_numbers;
     QList<QByteArray> m_orders;
     QHash<QPair<QString, QString>, int> m_places;
 };

@@ -52,8 +52,8 @@ void DashboardStyle::drawControl(ControlElement element, const QStyleOption *opt
 int DashboardStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                               QStyleHintReturn *returned) const
 {
-    const bool areLettersJoined = QLocale(Change::GetLangName()).script() == QLocale::ArabicScript;
-    return hint == SH_UnderlineShortcut && areLettersJoined
-               ? 0
-               : QProxyStyle::styleHint(hint, option, widget, returned);
+    // Every widget asks for other hints all the time.
+    const bool isOff =
+        hint == SH_UnderlineShortcut && QLocale(Change::GetLangName()).script() == QLocale::ArabicScript;
+    return isOff ? 0 : QProxyStyle::styleHint(hint, option, widget, returned);
 }

@@ -17,18 +17,6 @@ const int foldSize = 10;
 const int listedRow = 52;
 const int otherRow = 44;
 
-QFont NameFont(const QFont &font, bool isInUse)
-{
-    QFont name = DialogParts::Scaled(font, 1.08);
-    name.setBold(isInUse);
-    return name;
-}
-
-QFont SmallFont(const QFont &font)
-{
-    return DialogParts::Scaled(font, 0.92);
-}
-
 Glyphs::Mark MarkOf(const QModelIndex &index)
 {
     return static_cast<Glyphs::Mark>(index.data(NetworkDelegate::MarkRole).toInt());
@@ -58,19 +46,17 @@ QRect NetworkDelegate::GlyphArea(const QStyleOptionViewItem &option) const
 {
     const int places =
         m_places == WithPlaces
-            ? QFontMetrics(SmallFont(option.font)).horizontalAdvance(QLatin1String("0000")) + margin
+            ? QFontMetrics(FontsOf(option).small).horizontalAdvance(QLatin1String("0000")) + margin
             : 0;
     return QRect(option.rect.left() + margin + places,
                  option.rect.top() + (option.rect.height() - glyphSize) / 2, glyphSize, glyphSize);
 }
 
 void NetworkDelegate::PaintSection(QPainter *painter, const QStyleOptionViewItem &option,
-                                   const QModelIndex &index, const Tones &tones)
+                                   const QModelIndex &index, const Tones &tones) const
 {
-    QFont font = SmallFont(option.font);
-    font.setBold(true);
     painter->fillRect(option.rect, option.palette.color(QPalette::Window));
-    painter->setFont(font);
+    painter->setFont(FontsOf(option).smallBold);
     painter->setPen(tones.text);
     const Qt::Alignment leading =
         QStyle::visualAlignment(option.direction, Qt::AlignLeft | Qt::AlignVCenter) | Qt::AlignAbsolute;
@@ -122,12 +108,11 @@ void NetworkDelegate::PaintGround(QPainter *painter, const QStyleOptionViewItem 
 }
 
 QRect NetworkDelegate::PaintState(QPainter *painter, const QStyleOptionViewItem &option,
-                                  const QModelIndex &index, const Tones &tones)
+                                  const QModelIndex &index, const Tones &tones) const
 {
     const QRect &row = option.rect;
     const Glyphs::Mark mark = MarkOf(index);
-    QFont font = SmallFont(option.font);
-    font.setBold(mark == Glyphs::MarkInUse);
+    const QFont &font = mark == Glyphs::MarkInUse ? FontsOf(option).smallBold : FontsOf(option).small;
     const QFontMetrics metrics(font);
     const int markRoom = mark == Glyphs::NoMark ? 0 : markSize + 5;
     const int most = row.width() / 2 - 2 * margin - markRoom;
@@ -156,10 +141,11 @@ QRect NetworkDelegate::PaintState(QPainter *painter, const QStyleOptionViewItem 
 }
 
 void NetworkDelegate::PaintTexts(QPainter *painter, const QStyleOptionViewItem &option,
-                                 const QModelIndex &index, const QRect &area, const Tones &tones)
+                                 const QModelIndex &index, const QRect &area, const Tones &tones) const
 {
-    const QFont nameFont = NameFont(option.font, MarkOf(index) == Glyphs::MarkInUse);
-    const QFont smallFont = SmallFont(option.font);
+    const Fonts &fonts = FontsOf(option);
+    const QFont &nameFont = MarkOf(index) == Glyphs::MarkInUse ? fonts.nameBold : fonts.name;
+    const QFont &smallFont = fonts.small;
     const QFontMetrics nameMetrics(nameFont);
     const QFontMetrics smallMetrics(smallFont);
     const Qt::Alignment leading =
@@ -202,7 +188,7 @@ void NetworkDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
     if (m_places == WithPlaces && !index.data(HasNoPlaceRole).toBool()) {
         const QRect place(row.left() + margin, row.top(), glyph.left() - row.left() - 2 * margin,
                           row.height());
-        painter->setFont(SmallFont(option.font));
+        painter->setFont(FontsOf(option).small);
         painter->setPen(tones.faint);
         painter->drawText(QStyle::visualRect(option.direction, row, place), Qt::AlignCenter,
                           DashboardNumber(index.row() + 1));
@@ -223,11 +209,25 @@ void NetworkDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
 
 QSize NetworkDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
-    if (index.data(IsSectionRole).toBool()) {
-        return QSize(200, QFontMetrics(SmallFont(option.font)).height() + 12);
+    const Fonts &fonts = FontsOf(option);
+    return QSize(200, index.data(IsSectionRole).toBool() ? fonts.sectionHeight : fonts.rowHeight);
+}
+
+const NetworkDelegate::Fonts &NetworkDelegate::FontsOf(const QStyleOptionViewItem &option) const
+{
+    if (m_fonts.rowHeight == 0 || m_fonts.of != option.font) {
+        m_fonts.of = option.font;
+        m_fonts.name = DialogParts::Scaled(option.font, 1.08);
+        m_fonts.nameBold = m_fonts.name;
+        m_fonts.nameBold.setBold(true);
+        m_fonts.small = DialogParts::Scaled(option.font, 0.92);
+        m_fonts.smallBold = m_fonts.small;
+        m_fonts.smallBold.setBold(true);
+        const int small = QFontMetrics(m_fonts.small).height();
+        const int texts = QFontMetrics(m_fonts.nameBold).height() + small;
+        const bool isInList = m_places == WithPlaces;
+        m_fonts.sectionHeight = small + 12;
+        m_fonts.rowHeight = qMax(isInList ? listedRow : otherRow, texts + (isInList ? 16 : 8));
     }
-    const bool isInList = m_places == WithPlaces;
-    const int texts =
-        QFontMetrics(NameFont(option.font, true)).height() + QFontMetrics(SmallFont(option.font)).height();
-    return QSize(200, qMax(isInList ? listedRow : otherRow, texts + (isInList ? 16 : 8)));
+    return m_fonts;
 }

@@ -1,6 +1,7 @@
 #ifndef NETWORKDELEGATE_H
 #define NETWORKDELEGATE_H
 
+#include <QFont>
 #include <QStyledItemDelegate>
 
 struct Tones;
@@ -36,19 +37,32 @@ public:
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
 
 private:
+    /** What belongs to the font of a list. Each of its rows asks for it. */
+    struct Fonts {
+        QFont of;
+        QFont name;
+        QFont nameBold;
+        QFont small;
+        QFont smallBold;
+        int sectionHeight = 0;
+        int rowHeight = 0;
+    };
+
+    const Fonts &FontsOf(const QStyleOptionViewItem &option) const;
     QRect GlyphArea(const QStyleOptionViewItem &option) const;
     // What is laid out from left to right is mirrored in row for the other direction.
     static void PaintGround(QPainter *painter, const QStyleOptionViewItem &option, bool isInUse,
                             const Tones &tones);
-    static QRect PaintState(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index,
-                            const Tones &tones);
-    static void PaintTexts(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index,
-                           const QRect &area, const Tones &tones);
+    QRect PaintState(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index,
+                     const Tones &tones) const;
+    void PaintTexts(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index,
+                    const QRect &area, const Tones &tones) const;
     static void PaintFocus(QPainter *painter, const QStyleOptionViewItem &option, const Tones &tones);
-    static void PaintSection(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index,
-                             const Tones &tones);
+    void PaintSection(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index,
+                      const Tones &tones) const;
 
     const Places m_places;
+    mutable Fonts m_fonts;
 };
 
 #endif

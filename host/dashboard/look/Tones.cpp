@@ -64,7 +64,18 @@ QColor Tones::Readable(const QColor &colour, const QList<QColor> &grounds, qreal
 
 Tones Tones::OfApplication()
 {
-    const QPalette palette = QApplication::palette();
+    // Each row of a list that is painted asks for them.
+    static QPalette palette;
+    static Tones tones = Of(palette);
+    if (QApplication::palette().cacheKey() != palette.cacheKey()) {
+        palette = QApplication::palette();
+        tones = Of(palette);
+    }
+    return tones;
+}
+
+Tones Tones::Of(const QPalette &palette)
+{
     const QColor &window = palette.color(QPalette::Window);
     // That of lists may be a soft one, made for reading on it.
     const QColor &highlight = palette.color(QPalette::Highlight);

@@ -3,6 +3,7 @@
 
 #include <QColor>
 #include <QList>
+#include <QPalette>
 
 /** The colours of the main window: those of the application's palette, each moved towards black or white
  * until it can be read on what it stands on. */
@@ -15,6 +16,7 @@ struct Tones {
     };
 
     static Tones OfApplication();
+    static Tones Of(const QPalette &palette);
 
     /** The ratio of two colours, as the Web Content Accessibility Guidelines define it: 1 to 21. */
     static qreal Contrast(const QColor &one, const QColor &other);

@@ -7,6 +7,7 @@
 #include <Terminal.h>
 
 #include <cstdio>
+#include <ctime>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -39,6 +40,19 @@ char KindOf(QtMsgType type)
     default:
         return 'I';
     }
+}
+
+/** Asked of the C library, which keeps the time zone in mind: Qt looks at its file with every line. */
+QByteArray Moment()
+{
+    const qint64 now = QDateTime::currentMSecsSinceEpoch();
+    const std::time_t second = now / 1000;
+    std::tm local;
+    localtime_r(&second, &local);
+    char text[40];
+    const std::size_t length = std::strftime(text, sizeof text, "%Y-%m-%d %H:%M:%S.", &local);
+    std::snprintf(text + length, sizeof text - length, "%03d ", static_cast<int>(now % 1000));
+    return text;
 }
 
 } // namespace
@@ -117,9 +131,8 @@ void TraceLog::Add(QtMsgType type, const QString &text)
     line.replace(QLatin1Char('\r'), QLatin1Char(' '));
     line.replace(QLatin1Char('\n'), QLatin1String("\n    "));
 
-    const QString entry = QDateTime::currentDateTime().toString(QLatin1String("yyyy-MM-dd hh:mm:ss.zzz ")) +
-                          QLatin1Char(KindOf(type)) + QLatin1Char(' ') + line + QLatin1Char('\n');
-    if (!m_fileFailed && !WriteToFile(entry.toUtf8())) {
+    const QByteArray entry = Moment() + KindOf(type) + ' ' + line.toUtf8() + '\n';
+    if (!m_fileFailed && !WriteToFile(entry)) {
         m_fileFailed = true;
     }
     Keep(line);

@@ -139,11 +139,11 @@ void EntryActions::Retranslate()
 {
     const char *const moves[] = {"IDS_EDIT_UP", "IDS_EDIT_DOWN", "IDS_EDIT_TOP", "IDS_EDIT_END"};
     for (int i = 0; i < m_moves.size(); ++i) {
-        m_moves.at(i).action->setText(DashboardText(moves[i]));
+        SetText(m_moves.at(i).action, moves[i]);
     }
-    m_connect->setText(DashboardText("IDS_EDIT_CONNECT"));
-    m_remove->setText(DashboardText("IDS_EDIT_REMOVE"));
-    m_add->setText(DashboardText("IDS_UNLISTED_ADD"));
+    SetText(m_connect, "IDS_EDIT_CONNECT");
+    SetText(m_remove, "IDS_EDIT_REMOVE");
+    SetText(m_add, "IDS_UNLISTED_ADD");
     m_list->setAccessibleDescription(QString());
     Update();
 }
@@ -154,11 +154,17 @@ void EntryActions::Show(const Overview &overview)
     Update();
 }
 
+void EntryActions::SetText(QAction *action, const char *id)
+{
+    const QString text = DashboardText(id);
+    action->setText(text);
+    action->setIconText(WithoutMnemonic(text));
+}
+
 void EntryActions::SetHelp(QAction *action, const QString &obstacle)
 {
-    const QString caption = WithoutMnemonic(action->text());
+    const QString caption = action->iconText();
     action->setEnabled(obstacle.isNull());
-    action->setIconText(caption);
     action->setToolTip((obstacle.isNull() ? caption : obstacle).toHtmlEscaped());
     action->setWhatsThis(obstacle.isNull() ? caption : obstacle);
 }

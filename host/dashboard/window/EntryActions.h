@@ -77,6 +77,7 @@ private:
     bool CanConnect() const;
     QString MoveObstacle(const MoveAction &move) const;
     QString SelectionObstacle() const;
+    static void SetText(QAction *action, const char *id);
     static void SetHelp(QAction *action, const QString &obstacle);
 
     ListKeeper *const m_keeper;

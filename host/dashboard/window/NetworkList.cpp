@@ -14,6 +14,8 @@
 #include <QScrollBar>
 #include <QSignalBlocker>
 
+#include <algorithm>
+
 namespace
 {
 
@@ -44,6 +46,23 @@ QString Caption(const PriorityList &entry)
 }
 
 } // namespace
+
+/** Its texts are made when they are asked for: of a long list few are ever seen. */
+class NetworkList::Row : public QListWidgetItem
+{
+public:
+    Row(const NetworkList *list, int row) : m_list(list), m_row(row) {}
+
+    QVariant data(int role) const override
+    {
+        const QVariant shown = m_list->Shown(m_row, role);
+        return shown.isValid() ? shown : QListWidgetItem::data(role);
+    }
+
+private:
+    const NetworkList *const m_list;
+    const int m_row;
+};
 
 NetworkList::NetworkList() : m_isFolded(Settings::Read(FoldedKey()).toBool()), m_drag(new RowDrag(this))
 {
@@ -98,6 +117,7 @@ void NetworkList::Show(const Overview &overview)
     {
         // Whoever follows the selection is to see it with the networks that it belongs to.
         const QSignalBlocker blocker(this);
+        m_overview = overview;
         m_rows = rows;
         m_listed = static_cast<int>(overview.entries.size());
         m_drag->SetEnd(m_listed);
@@ -105,11 +125,9 @@ void NetworkList::Show(const Overview &overview)
             delete takeItem(count() - 1);
         }
         while (count() < m_rows.size()) {
-            addItem(new QListWidgetItem);
+            addItem(new Row(this, count()));
         }
-        for (int i = 0; i < m_rows.size(); ++i) {
-            ShowRow(i, overview);
-        }
+        emit model()->dataChanged(model()->index(0, 0), model()->index(count() - 1, 0));
         if (isFirst) {
             setCurrentRow(RowInUse(overview));
         } else if (!isSame) {
@@ -121,61 +139,95 @@ void NetworkList::Show(const Overview &overview)
     emit itemSelectionChanged();
 }
 
-void NetworkList::ShowRow(int row, const Overview &overview)
+const Overview::Entry &NetworkList::EntryAt(int row) const
 {
-    item(row)->setData(NetworkDelegate::IsSectionRole, IsHeader(row));
-    item(row)->setData(NetworkDelegate::HasNoPlaceRole, row >= m_listed);
+    return row < m_listed ? m_overview.entries.at(row) : m_overview.unlisted.at(row - m_listed - 1);
+}
+
+QString NetworkList::DetailOf(int row) const
+{
+    return row < m_listed ? OverviewText::Detail(m_overview, row)
+                          : OverviewText::UnlistedDetail(EntryAt(row));
+}
+
+QVariant NetworkList::Shown(int row, int role) const
+{
+    // While rows are taken away those that go may still be asked.
+    if (row >= m_rows.size()) {
+        return QVariant();
+    }
     if (IsHeader(row)) {
-        ShowHeader(static_cast<int>(overview.unlisted.size()));
-        return;
+        return ShownInHeader(role);
     }
-    if (row > m_listed) {
-        const Overview::Entry &entry = overview.unlisted.at(row - m_listed - 1);
-        ShowState(row, overview, entry, OverviewText::UnlistedDetail(entry), QString());
-    } else {
-        ShowState(row, overview, overview.entries.at(row), OverviewText::Detail(overview, row),
-                  OverviewText::Reason(overview, row));
+    const Overview::Entry &entry = EntryAt(row);
+    const bool isListed = row < m_listed;
+    switch (role) {
+    case Qt::DisplayRole:
+        return Caption(entry.entry);
+    case NetworkDelegate::HasNoPlaceRole:
+        return !isListed;
+    case NetworkDelegate::DetailTextRole:
+        return DetailOf(row);
+    case NetworkDelegate::StateTextRole:
+        return OverviewText::State(m_overview, entry);
+    case NetworkDelegate::MarkRole:
+        return OverviewText::Mark(m_overview, entry);
+    case NetworkDelegate::KindRole:
+        return entry.IsWifi() ? Glyphs::Wifi : Glyphs::Mobile;
+    case NetworkDelegate::ReachRole:
+        return OverviewText::Reach(m_overview, entry);
+    case NetworkDelegate::SignalRole:
+        return entry.signal;
+    case Qt::ToolTipRole:
+        return isListed ? OverviewText::Reason(m_overview, row).toHtmlEscaped() : QString();
+    case Qt::AccessibleDescriptionRole:
+        return isListed ? OverviewText::Reason(m_overview, row) : QString();
+    case Qt::AccessibleTextRole:
+        return QString::fromLatin1("%1, %2, %3")
+            .arg(Caption(entry.entry), isListed ? OverviewText::Kind(entry) : DetailOf(row),
+                 OverviewText::State(m_overview, entry));
+    default:
+        return QVariant();
     }
 }
 
-void NetworkList::ShowHeader(int count)
+QVariant NetworkList::ShownInHeader(int role) const
 {
-    QListWidgetItem *shown = item(m_listed);
-    const QString hint = DashboardText("IDS_UNLISTED_HINT");
-    shown->setText(DashboardText("IDS_UNLISTED_TITLE").arg(DashboardNumber(count)));
-    shown->setData(NetworkDelegate::FoldRole,
-                   m_isFolded && !IsSearched() ? NetworkDelegate::Folded : NetworkDelegate::Open);
-    shown->setToolTip(hint);
-    shown->setData(Qt::AccessibleTextRole, shown->text());
-    shown->setData(Qt::AccessibleDescriptionRole, hint);
+    switch (role) {
+    case Qt::DisplayRole:
+    case Qt::AccessibleTextRole:
+        return DashboardText("IDS_UNLISTED_TITLE").arg(DashboardNumber(m_overview.unlisted.size()));
+    case Qt::ToolTipRole:
+    case Qt::AccessibleDescriptionRole:
+        return DashboardText("IDS_UNLISTED_HINT");
+    case NetworkDelegate::IsSectionRole:
+    case NetworkDelegate::HasNoPlaceRole:
+        return true;
+    case NetworkDelegate::FoldRole:
+        return m_isFolded && !IsSearched() ? NetworkDelegate::Folded : NetworkDelegate::Open;
+    default:
+        return QVariant();
+    }
 }
 
-void NetworkList::ShowState(int row, const Overview &overview, const Overview::Entry &entry,
-                            const QString &detail, const QString &reason)
+QList<int> NetworkList::SelectedPlaces() const
 {
-    const QString state = OverviewText::State(overview, entry);
-    const QString name = Caption(entry.entry);
-    QListWidgetItem *shown = item(row);
-    shown->setText(name);
-    shown->setData(NetworkDelegate::DetailTextRole, detail);
-    shown->setData(NetworkDelegate::StateTextRole, state);
-    shown->setData(NetworkDelegate::MarkRole, OverviewText::Mark(overview, entry));
-    shown->setData(NetworkDelegate::KindRole, entry.IsWifi() ? Glyphs::Wifi : Glyphs::Mobile);
-    shown->setData(NetworkDelegate::ReachRole, OverviewText::Reach(overview, entry));
-    shown->setData(NetworkDelegate::SignalRole, entry.signal);
-    shown->setToolTip(reason.toHtmlEscaped());
-    shown->setData(Qt::AccessibleDescriptionRole, reason);
-    const QString kind = row < m_listed ? OverviewText::Kind(entry) : detail;
-    shown->setData(Qt::AccessibleTextRole, QString::fromLatin1("%1, %2, %3").arg(name, kind, state));
+    QList<int> places;
+    const QModelIndexList selected = selectionModel()->selectedIndexes();
+    for (const QModelIndex &index : selected) {
+        places.append(index.row());
+    }
+    std::sort(places.begin(), places.end());
+    return places;
 }
 
 QList<ListedEntry> NetworkList::SelectedRows(int repetition) const
 {
     QList<ListedEntry> entries;
-    for (int i = 0; i < m_rows.size(); ++i) {
-        const bool isOf = repetition < 0 ? m_rows.at(i).repetition == repetition : i < m_listed;
-        if (isOf && item(i)->isSelected()) {
-            entries.append(m_rows.at(i));
+    const QList<int> places = SelectedPlaces();
+    for (const int place : places) {
+        if (repetition < 0 ? m_rows.at(place).repetition == repetition : place < m_listed) {
+            entries.append(m_rows.at(place));
         }
     }
     return entries;
@@ -328,6 +380,10 @@ bool NetworkList::HasFoundNothing() const
 
 void NetworkList::ShowFound()
 {
+    if (!IsSearched() && !m_isAnyHidden) {
+        return;
+    }
+    m_isAnyHidden = IsSearched();
     QListWidgetItem *first = nullptr;
     bool hasUnlisted = !IsSearched();
     for (int i = 0; i < count(); ++i) {

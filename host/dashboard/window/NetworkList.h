@@ -76,6 +76,8 @@ protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
 
 private:
+    class Row;
+
     /** What is in sight: a row, and how far below the upper edge it begins. */
     struct Sight {
         ListedEntry entry;
@@ -85,13 +87,16 @@ private:
 
     Sight InSight() const;
     void Keep(const Sight &sight);
-    void ShowRow(int row, const Overview &overview);
-    void ShowHeader(int count);
-    void ShowState(int row, const Overview &overview, const Overview::Entry &entry, const QString &detail,
-                   const QString &reason);
+    /** What a row shows; not valid: nothing of that kind. */
+    QVariant Shown(int row, int role) const;
+    QVariant ShownInHeader(int role) const;
+    const Overview::Entry &EntryAt(int row) const;
+    QString DetailOf(int row) const;
     /** Of those that have it; any that is 0 or more: of the list. */
     QList<ListedEntry> SelectedRows(int repetition) const;
     QList<ListedEntry> RowsOf(const Overview &overview) const;
+    /** Of what is selected, from above to below. */
+    QList<int> SelectedPlaces() const;
     bool IsHeader(int row) const { return row == m_listed && row < count(); }
     bool TakeHeaderKey(const QKeyEvent *event);
     void Fold();
@@ -101,12 +106,14 @@ private:
     void ShowFound();
     void SetShown(int row, bool isShown);
 
+    Overview m_overview;
     QList<ListedEntry> m_rows;
     /** How many of the rows are of the list. */
     int m_listed = 0;
     bool m_isFolded;
     RowDrag *m_drag;
     QString m_wanted;
+    bool m_isAnyHidden = false;
 };
 
 #endif
