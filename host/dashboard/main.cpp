@@ -1,3 +1,4 @@
+#include <AgentStart.h>
 #include <Appearance.h>
 #include <Arguments.h>
 #include <Commands.h>
@@ -7,6 +8,7 @@
 #include <MainWindow.h>
 #include <OneWindow.h>
 #include <PluginHost.h>
+#include <StatusIcon.h>
 #include <SwitchNotice.h>
 #include <Terminal.h>
 #include <TraceLog.h>
@@ -52,6 +54,15 @@ bool HasDisplay()
 {
     return !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") || !qEnvironmentVariableIsEmpty("DISPLAY") ||
            !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+}
+
+/** Whatever a desktop has set, commands run where its display is out of reach. So does an agent, which has
+ * its work to do, with its icon or without. */
+QByteArray PlatformOfIcon()
+{
+    const QByteArray chosen = qgetenv("QT_QPA_PLATFORM");
+    const QByteArray usual = qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ? "xcb" : "wayland;xcb";
+    return (chosen.isEmpty() ? usual : chosen) + ";offscreen";
 }
 
 /** Lets windows follow the scale of their screens, 150 % as well as 200 %. */
@@ -138,6 +149,16 @@ QString WindowKey(const Arguments &arguments)
     return parts.join(QLatin1Char('\n'));
 }
 
+/** How a window is opened that shows what this program works with. */
+QStringList WindowCommand(const Arguments &arguments)
+{
+    QStringList command(QApplication::applicationFilePath());
+    if (!arguments.pluginLibraryPath.isNull()) {
+        command << QLatin1String("--library-path") << LibraryPath(arguments);
+    }
+    return command;
+}
+
 int RunWindow(const Arguments &arguments, TraceLog *log, const OneWindow *oneWindow)
 {
     if (UserData::Directory().isEmpty()) {
@@ -196,9 +217,11 @@ int main(int argc, char **argv)
         UseDemoDirectory();
     }
     const bool isForScripts = !arguments.commands.isEmpty();
-    // Whatever a desktop has set: scripts run where its display is out of reach.
+    const bool hasIcon = isForScripts && arguments.commands.constFirst().kind == Command::Agent &&
+                         HasDisplay() && AgentStart::IsIconWanted();
+    const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
     if (isForScripts) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+        qputenv("QT_QPA_PLATFORM", hasIcon ? PlatformOfIcon() : QByteArray("offscreen"));
     }
     if (!HasDisplay()) {
         const QCoreApplication application(argc, argv);
@@ -223,7 +246,11 @@ int main(int argc, char **argv)
     }
     StartLanguage(arguments);
     if (isForScripts) {
-        return Commands::Run(arguments, LibraryPath(arguments));
+        // It is for this program, and not for what the icon starts.
+        qputenv("QT_QPA_PLATFORM", platform);
+        return Commands::Run(arguments, LibraryPath(arguments), [&](ListKeeper *keeper) {
+            return hasIcon ? new StatusIcon(keeper, WindowCommand(arguments)) : nullptr;
+        });
     }
     const QString key = WindowKey(arguments);
     const QScopedPointer<OneWindow> oneWindow(key.isNull() ? nullptr : new OneWindow(key));

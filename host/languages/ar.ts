@@ -390,6 +390,18 @@
         <translation>يقوم بذلك برنامج بلا نافذة. يبدأ الآن، وفي كل مرة تسجل فيها الدخول.</translation>
     </message>
     <message>
+        <source>IDS_RULES_ICON</source>
+        <translation>عرض أيقونة أثناء ذلك</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_ICON_HINT</source>
+        <translation>في لوحة سطح المكتب: الشبكة المستخدمة، وأوائل قائمتك، وطريقة للاتصال.</translation>
+    </message>
+    <message>
+        <source>IDS_ICON_OPEN</source>
+        <translation>&amp;فتح</translation>
+    </message>
+    <message>
         <source>IDS_RULES_FOLLOWING</source>
         <translation>التبديل تلقائيًا إلى شبكة أعلى</translation>
     </message>

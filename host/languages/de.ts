@@ -390,6 +390,18 @@ Erlaubt sind Buchstaben, Ziffern und diese Zeichen:
         <translation>Das macht ein Programm ohne Fenster. Es startet jetzt und bei jeder Anmeldung.</translation>
     </message>
     <message>
+        <source>IDS_RULES_ICON</source>
+        <translation>Währenddessen ein Symbol anzeigen</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_ICON_HINT</source>
+        <translation>In der Leiste der Arbeitsumgebung: das verwendete Netzwerk, die ersten Ihrer Liste und ein Weg, sich zu verbinden.</translation>
+    </message>
+    <message>
+        <source>IDS_ICON_OPEN</source>
+        <translation>Ö&amp;ffnen</translation>
+    </message>
+    <message>
         <source>IDS_RULES_FOLLOWING</source>
         <translation>Von selbst zu einem höheren Netzwerk wechseln</translation>
     </message>

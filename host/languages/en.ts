@@ -427,6 +427,21 @@ You can use letters, digits and these symbols:
         <translation>A program without a window does it. It starts now, and with each session.</translation>
     </message>
     <message>
+        <source>IDS_RULES_ICON</source>
+        <extracomment>Box to tick, below the one for keeping the order in effect when the window is closed. The icon is in the panel of the desktop</extracomment>
+        <translation>Show an icon meanwhile</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_ICON_HINT</source>
+        <extracomment>Tool tip of that box</extracomment>
+        <translation>In the panel of the desktop: the network in use, the first of your list, and a way to connect.</translation>
+    </message>
+    <message>
+        <source>IDS_ICON_OPEN</source>
+        <extracomment>Action in the menu of the icon in the panel: opens the window</extracomment>
+        <translation>&amp;Open</translation>
+    </message>
+    <message>
         <source>IDS_RULES_FOLLOWING</source>
         <extracomment>Box to tick. Higher: in the list</extracomment>
         <translation>Switch to a higher network by itself</translation>

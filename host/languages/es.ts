@@ -390,6 +390,18 @@ Puede usar letras, números y estos símbolos:
         <translation>Lo hace un programa sin ventana. Se inicia ahora y cada vez que inicia sesión.</translation>
     </message>
     <message>
+        <source>IDS_RULES_ICON</source>
+        <translation>Mostrar un icono mientras tanto</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_ICON_HINT</source>
+        <translation>En el panel del escritorio: la red en uso, las primeras de su lista y una forma de conectarse.</translation>
+    </message>
+    <message>
+        <source>IDS_ICON_OPEN</source>
+        <translation>A&amp;brir</translation>
+    </message>
+    <message>
         <source>IDS_RULES_FOLLOWING</source>
         <translation>Cambiar por sí solo a una red más alta</translation>
     </message>

@@ -390,6 +390,18 @@ Vous pouvez utiliser des lettres, des chiffres et les symboles suivants&#xa0;:
         <translation>Un programme sans fenêtre s’en charge. Il démarre maintenant et à chaque ouverture de session.</translation>
     </message>
     <message>
+        <source>IDS_RULES_ICON</source>
+        <translation>Afficher une icône pendant ce temps</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_ICON_HINT</source>
+        <translation>Dans le tableau de bord du bureau : le réseau utilisé, les premiers de votre liste et un moyen de se connecter.</translation>
+    </message>
+    <message>
+        <source>IDS_ICON_OPEN</source>
+        <translation>&amp;Ouvrir</translation>
+    </message>
+    <message>
         <source>IDS_RULES_FOLLOWING</source>
         <translation>Passer automatiquement à un réseau plus haut</translation>
     </message>

@@ -390,6 +390,18 @@
         <translation>תוכנית ללא חלון עושה זאת. היא מופעלת עכשיו, ובכל פעם שנכנסים למערכת.</translation>
     </message>
     <message>
+        <source>IDS_RULES_ICON</source>
+        <translation>הצגת סמל בינתיים</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_ICON_HINT</source>
+        <translation>בלוח של שולחן העבודה: הרשת שבשימוש, הראשונות ברשימה שלך ודרך להתחבר.</translation>
+    </message>
+    <message>
+        <source>IDS_ICON_OPEN</source>
+        <translation>&amp;פתיחה</translation>
+    </message>
+    <message>
         <source>IDS_RULES_FOLLOWING</source>
         <translation>מעבר אוטומטי לרשת גבוהה יותר</translation>
     </message>

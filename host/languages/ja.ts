@@ -390,6 +390,18 @@
         <translation>ウィンドウのないプログラムが行います。今すぐ、そしてログインのたびに起動します。</translation>
     </message>
     <message>
+        <source>IDS_RULES_ICON</source>
+        <translation>その間アイコンを表示する</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_ICON_HINT</source>
+        <translation>デスクトップのパネルに、使用中のネットワーク、リストの先頭、接続の方法を示します。</translation>
+    </message>
+    <message>
+        <source>IDS_ICON_OPEN</source>
+        <translation>開く(&amp;O)</translation>
+    </message>
+    <message>
         <source>IDS_RULES_FOLLOWING</source>
         <translation>より上のネットワークに自動で切り替える</translation>
     </message>

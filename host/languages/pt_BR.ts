@@ -390,6 +390,18 @@ Você pode usar letras, números e estes símbolos:
         <translation>Um programa sem janela faz isso. Ele inicia agora e cada vez que você entra na sessão.</translation>
     </message>
     <message>
+        <source>IDS_RULES_ICON</source>
+        <translation>Mostrar um ícone enquanto isso</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_ICON_HINT</source>
+        <translation>No painel da área de trabalho: a rede em uso, as primeiras da sua lista e uma forma de se conectar.</translation>
+    </message>
+    <message>
+        <source>IDS_ICON_OPEN</source>
+        <translation>A&amp;brir</translation>
+    </message>
+    <message>
         <source>IDS_RULES_FOLLOWING</source>
         <translation>Mudar sozinho para uma rede mais acima</translation>
     </message>

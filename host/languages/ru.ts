@@ -390,6 +390,18 @@
         <translation>Это делает программа без окна. Она запускается сейчас и при каждом входе в систему.</translation>
     </message>
     <message>
+        <source>IDS_RULES_ICON</source>
+        <translation>Показывать при этом значок</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_ICON_HINT</source>
+        <translation>На панели рабочего стола: используемая сеть, первые из вашего списка и возможность подключиться.</translation>
+    </message>
+    <message>
+        <source>IDS_ICON_OPEN</source>
+        <translation>О&amp;ткрыть</translation>
+    </message>
+    <message>
         <source>IDS_RULES_FOLLOWING</source>
         <translation>Самостоятельно переключаться на сеть выше</translation>
     </message>

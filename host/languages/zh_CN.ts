@@ -390,6 +390,18 @@
         <translation>由一个没有窗口的程序完成。它现在启动，以后每次登录时也会启动。</translation>
     </message>
     <message>
+        <source>IDS_RULES_ICON</source>
+        <translation>同时显示图标</translation>
+    </message>
+    <message>
+        <source>IDS_RULES_ICON_HINT</source>
+        <translation>在桌面面板中：正在使用的网络、列表中的前几项，以及连接方式。</translation>
+    </message>
+    <message>
+        <source>IDS_ICON_OPEN</source>
+        <translation>打开(&amp;O)</translation>
+    </message>
+    <message>
         <source>IDS_RULES_FOLLOWING</source>
         <translation>自动切换到更靠前的网络</translation>
     </message>

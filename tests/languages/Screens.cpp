@@ -20,6 +20,7 @@
 #include <PluginObjects.h>
 #include <PrivateFile.h>
 #include <Settings.h>
+#include <StatusIcon.h>
 #include <SwitchNotice.h>
 #include <UserNotice.h>
 
@@ -358,6 +359,7 @@ const Screens::Screen Screens::screens[] = {
     {"settings, page not handed out", &Screens::ShowBrokenSettings, "QueryNull"},
     {"settings, general page of missing plug-ins", &Screens::ShowBrokenGeneralPage, "Absent"},
     {"settings, general page", &Screens::ShowGeneralPage, nullptr},
+    {"menu of the icon", &Screens::ShowStatusMenu, nullptr},
     {"settings, rules page", &Screens::ShowRulesPage, nullptr},
     {"module, list open already", &Screens::ShowModule, nullptr},
     {"module, damaged list", &Screens::ShowModule, damagedList},
@@ -802,6 +804,18 @@ void Screens::ShowEntryMenu(const char *)
     QTest::keyClick(Child<QListWidget>("overviewList"), Qt::Key_F10, Qt::ShiftModifier);
     Visit();
     Child<QMenu>("entryMenu")->close();
+}
+
+void Screens::ShowStatusMenu(const char *)
+{
+    Fill();
+    OpenWindow(m_plugins.data());
+    PluginList source;
+    ListKeeper keeper(UserPath(QString()), &source, nullptr);
+    const StatusIcon icon(&keeper, QStringList(QLatin1String("none")));
+    icon.Menu()->popup(m_window->pos());
+    Visit();
+    icon.Menu()->close();
 }
 
 void Screens::ShowGoneNetwork(const char *)

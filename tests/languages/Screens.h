@@ -70,6 +70,7 @@ private:
     void ShowEditMenu(const char *listFile);
     void ShowMoved(const char *);
     void ShowEntryMenu(const char *);
+    void ShowStatusMenu(const char *);
     void ShowFind(const char *typed);
     void ShowGoneNetwork(const char *);
     void ShowTwoMessages(const char *listFile);

@@ -1,5 +1,7 @@
 #include "AgentStart.h"
 
+#include "Settings.h"
+
 #include <UserData.h>
 
 #include <QDir>
@@ -17,6 +19,11 @@ namespace
 {
 
 const int longestEndMilliseconds = 2000;
+
+QString IconKey()
+{
+    return QLatin1String("agent/icon");
+}
 
 QString AgentOption()
 {
@@ -144,6 +151,24 @@ bool AgentStart::Restore(const State &state)
         End();
     }
     return true;
+}
+
+bool AgentStart::IsIconWanted()
+{
+    return Settings::Read(IconKey()).toBool();
+}
+
+void AgentStart::SetIconWanted(bool isWanted)
+{
+    Settings::Write(IconKey(), isWanted);
+}
+
+void AgentStart::Restart()
+{
+    if (Running() != 0) {
+        End();
+        Start();
+    }
 }
 
 QString AgentStart::FilePath()

@@ -41,6 +41,13 @@ public:
     /** Brings back what Now told; so an agent that was running before goes on. */
     bool Restore(const State &state);
 
+    /** Whether agents show an icon while they run; at first they don't. */
+    static bool IsIconWanted();
+    static void SetIconWanted(bool isWanted);
+
+    /** Has an agent that is running begin anew, as it would be started now. */
+    void Restart();
+
     /** Of the entry. */
     static QString FilePath();
 

@@ -14,6 +14,7 @@
 #include <QCoreApplication>
 #include <QDBusConnection>
 #include <QLockFile>
+#include <QScopedPointer>
 #include <QSocketNotifier>
 
 #include <csignal>
@@ -62,7 +63,7 @@ void EndWithTheSession()
 
 } // namespace
 
-CommandStatus Agent::Run(const Arguments &arguments, const QString &libraryPath)
+CommandStatus Agent::Run(const Arguments &arguments, const QString &libraryPath, const Companion &companion)
 {
     QLockFile onlyOne(UserData::FilePath(QLatin1String("agent.use")));
     // However long it runs; one that has died is found out by its process.
@@ -100,6 +101,7 @@ CommandStatus Agent::Run(const Arguments &arguments, const QString &libraryPath)
         watcher.Note();
         keeper.Follow();
     });
+    const QScopedPointer<QObject> beside(companion(&keeper));
     QSocketNotifier notifier(signalPipe[0], QSocketNotifier::Read);
     QObject::connect(&notifier, &QSocketNotifier::activated, QCoreApplication::instance(),
                      &QCoreApplication::quit);

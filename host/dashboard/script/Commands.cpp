@@ -101,7 +101,8 @@ CommandStatus RunOfList(const QList<Command> &commands, const ListCommands &list
 
 } // namespace
 
-CommandStatus Commands::Run(const Arguments &arguments, const QString &libraryPath)
+CommandStatus Commands::Run(const Arguments &arguments, const QString &libraryPath,
+                            const Agent::Companion &companion)
 {
     const QString listPath = UserData::FilePath(QLatin1String("Priority.xml"));
     if (listPath.isEmpty()) {
@@ -109,7 +110,7 @@ CommandStatus Commands::Run(const Arguments &arguments, const QString &libraryPa
                                    QLatin1String("there is no directory for your data and none can be made"));
     }
     if (!arguments.commands.isEmpty() && arguments.commands.constFirst().kind == Command::Agent) {
-        return Agent::Run(arguments, libraryPath);
+        return Agent::Run(arguments, libraryPath, companion);
     }
     PluginHost priority(libraryPath, QList<KnownPlugin>() << PluginHost::PriorityPlugin());
     priority.Load();

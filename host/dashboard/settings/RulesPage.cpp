@@ -57,6 +57,9 @@ bool RulesPage::Show(QWidget *place)
     m_agentBefore = m_agent.Now();
     m_keepingBox = AddBox("keepingBox", m_agentBefore.IsOn(), layout);
     connect(m_keepingBox, &QCheckBox::clicked, this, &RulesPage::ChooseKeeping);
+    m_wasIconWanted = AgentStart::IsIconWanted();
+    m_iconBox = AddBox("iconBox", m_wasIconWanted, layout);
+    connect(m_iconBox, &QCheckBox::clicked, this, &RulesPage::ChooseIcon);
     m_wasFollowing = ListRules::IsFollowing();
     m_followingBox = AddBox("followingBox", m_wasFollowing, layout);
     connect(m_followingBox, &QCheckBox::clicked, this, &RulesPage::ChooseFollowing);
@@ -90,6 +93,9 @@ void RulesPage::Close(Answer answer)
         }
         if (ListRules::IsRuling() != m_wasRuling) {
             ListRules::SetRuling(m_wasRuling);
+        }
+        if (AgentStart::IsIconWanted() != m_wasIconWanted) {
+            ChooseIcon(m_wasIconWanted);
         }
         if (m_agent.Now().IsOn() != m_agentBefore.IsOn()) {
             m_agent.Restore(m_agentBefore);
@@ -126,6 +132,8 @@ void RulesPage::Retranslate()
     m_rulingBox->setToolTip(DashboardText("IDS_RULES_RULING_HINT"));
     m_keepingBox->setText(DashboardText("IDS_RULES_KEEPING"));
     m_keepingBox->setToolTip(DashboardText("IDS_RULES_KEEPING_HINT"));
+    m_iconBox->setText(DashboardText("IDS_RULES_ICON"));
+    m_iconBox->setToolTip(DashboardText("IDS_RULES_ICON_HINT"));
     m_followingBox->setText(DashboardText("IDS_RULES_FOLLOWING"));
     m_followingBox->setToolTip(DashboardText("IDS_RULES_FOLLOWING_HINT"));
     m_notifyingBox->setText(DashboardText("IDS_RULES_NOTIFYING"));
@@ -156,6 +164,7 @@ void RulesPage::ChooseRuling(bool isRuling)
 void RulesPage::EnableBoxes()
 {
     m_keepingBox->setEnabled(m_rulingBox->isChecked());
+    m_iconBox->setEnabled(m_rulingBox->isChecked() && m_keepingBox->isChecked());
     m_followingBox->setEnabled(m_rulingBox->isChecked());
     m_notifyingBox->setEnabled(m_rulingBox->isChecked() && m_followingBox->isChecked());
     m_savingBox->setEnabled(m_rulingBox->isChecked());
@@ -167,6 +176,13 @@ void RulesPage::ChooseKeeping(bool isKeeping)
         qWarning("%s can't be changed", AgentStart::FilePath().toLocal8Bit().constData());
         m_keepingBox->setChecked(!isKeeping);
     }
+    EnableBoxes();
+}
+
+void RulesPage::ChooseIcon(bool isWanted)
+{
+    AgentStart::SetIconWanted(isWanted);
+    m_agent.Restart();
 }
 
 void RulesPage::ChooseFollowing(bool isFollowing)

@@ -32,6 +32,7 @@ private slots:
     void ChooseNewNetworks(int index);
     void ChooseRuling(bool isRuling);
     void ChooseKeeping(bool isKeeping);
+    void ChooseIcon(bool isWanted);
     void ChooseFollowing(bool isFollowing);
     void ChooseNotifying(bool isNotifying);
     void ChooseSaving(bool isSaving);
@@ -48,6 +49,8 @@ private:
     AgentStart m_agent;
     AgentStart::State m_agentBefore;
     QCheckBox *m_keepingBox = nullptr;
+    bool m_wasIconWanted = false;
+    QCheckBox *m_iconBox = nullptr;
     bool m_wasFollowing = false;
     QCheckBox *m_followingBox = nullptr;
     bool m_wasNotifying = false;

@@ -113,6 +113,8 @@ private slots:
     void AgentIsStartedWithTheSessionUnlessCancelled_data();
     void AgentIsStartedWithTheSessionUnlessCancelled();
     void AgentThatCannotBeStartedIsShownSo();
+    void IconGoesWithTheAgentAndStaysUnlessCancelled_data();
+    void IconGoesWithTheAgentAndStaysUnlessCancelled();
     void WhatNeedsTheRuleIsOffWithoutIt();
     void NoticesAreOfferedWhileTheListIsFollowed();
     void RuleIsOfferedWhereTheListCanRule();
@@ -522,6 +524,32 @@ void SettingsDialogTest::AgentThatCannotBeStartedIsShownSo()
     QTest::keyClick(box, Qt::Key_Space);
     QVERIFY(!box->isChecked());
     qputenv("XDG_CONFIG_HOME", m_directory.Path().toLocal8Bit());
+}
+
+void SettingsDialogTest::IconGoesWithTheAgentAndStaysUnlessCancelled_data()
+{
+    AgentIsStartedWithTheSessionUnlessCancelled_data();
+}
+
+void SettingsDialogTest::IconGoesWithTheAgentAndStaysUnlessCancelled()
+{
+    QFETCH(bool, isOk);
+    FakeConnections connections;
+    const WithRules rules(&connections);
+    QVERIFY(ListRules::SetRuling(true));
+    SettingsDialog dialog(nullptr);
+    dialog.AddPage(new RulesPage(NoAgent()));
+    dialog.SelectPage(0);
+    dialog.show();
+    QCheckBox *box = dialog.findChild<QCheckBox *>("iconBox");
+    QVERIFY(box->isVisible() && !box->isChecked() && !box->isEnabled());
+    QTest::keyClick(dialog.findChild<QCheckBox *>("keepingBox"), Qt::Key_Space);
+    QTest::keyClick(box, Qt::Key_Space);
+    QVERIFY(AgentStart::IsIconWanted());
+    dialog.done(isOk ? QDialog::Accepted : QDialog::Rejected);
+    QCOMPARE(AgentStart::IsIconWanted(), isOk);
+    AgentStart::SetIconWanted(false);
+    QFile::remove(AgentStart::FilePath());
 }
 
 void SettingsDialogTest::WhatNeedsTheRuleIsOffWithoutIt()
