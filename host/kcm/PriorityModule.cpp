@@ -26,7 +26,10 @@ public:
 class SettingsModule : public KCModule
 {
 public:
-    SettingsModule(QObject *parent, const KPluginMetaData &metaData, const QVariantList &) : KCModule(parent, metaData) {}
+    SettingsModule(QObject *parent, const KPluginMetaData &metaData, const QVariantList &)
+        : KCModule(parent, metaData)
+    {
+    }
 };
 #endif
 

@@ -66,6 +66,7 @@ private slots:
     void applyResetAndDefaultsKeepTheList();
     void changedListLeavesNothingToApply();
     void resetShowsTheListAsItIs();
+    void rulesLeaveTheListUncovered();
     void secondModuleTellsThatTheListIsOpen();
     void damagedListIsNotOffered();
     void listIsOfferedOnceItIsWhole();
@@ -190,6 +191,16 @@ void TestKcm::resetShowsTheListAsItIs()
     m_directory.Write(listFile, "<z><item name='Alone' type='1'/></z>");
     ModuleIn(dialog.data())->load();
     QCOMPARE(TableOf(dialog.data())->rowCount(), 1);
+}
+
+void TestKcm::rulesLeaveTheListUncovered()
+{
+    const QScopedPointer<KCMultiDialog> dialog(Open());
+    const QWidget *list = dialog->findChild<QWidget *>(QLatin1String("moduleList"));
+    const QWidget *rules = dialog->findChild<QWidget *>(QLatin1String("rulesPage"));
+    QVERIFY(list);
+    QVERIFY(rules);
+    QVERIFY(rules->mapToGlobal(QPoint(0, 0)).y() >= list->mapToGlobal(QPoint(0, list->height())).y());
 }
 
 void TestKcm::secondModuleTellsThatTheListIsOpen()
