@@ -1,6 +1,7 @@
 #include "ModulePage.h"
 
 #include <AgentStart.h>
+#include <BidiText.h>
 #include <DashboardText.h>
 #include <DialogParts.h>
 #include <ListKeeper.h>
@@ -27,22 +28,24 @@ ModulePage *owner = nullptr;
 } // namespace
 
 ModulePage::ModulePage(PluginHost *plugins, ListKeeper *keeper, const QString &program, QWidget *parent)
-    : QWidget(parent), m_plugins(plugins), m_keeper(keeper), m_program(program),
-      m_layout(new QVBoxLayout(this)), m_message(new QLabel),
-      m_openButton(new QPushButton(DashboardText("IDS_MODULE_OPEN_DASHBOARD")))
+    : QWidget(parent), m_plugins(plugins), m_keeper(keeper), m_program(program), m_layout(new QVBoxLayout),
+      m_message(new QLabel), m_openButton(new QPushButton(DashboardText("IDS_MODULE_OPEN_DASHBOARD")))
 {
     setObjectName(QLatin1String("modulePage"));
     m_message->setObjectName(QLatin1String("moduleMessage"));
     m_message->setWordWrap(true);
     m_message->setTextFormat(Qt::PlainText);
     m_message->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    // Settings programs take the size of their windows from this before list and rules are there.
+    QHBoxLayout *row = new QHBoxLayout(this);
+    row->addStrut(DialogParts::ForFont(pageHeight + 240));
+    row->addLayout(m_layout);
+    m_layout->addStrut(DialogParts::ForFont(pageWidth + 20));
     m_layout->addWidget(m_message);
     m_openButton->setObjectName(QLatin1String("moduleOpenButton"));
     connect(m_openButton, &QPushButton::clicked, this, &ModulePage::OpenDashboard);
     m_layout->addWidget(m_openButton, 0, Qt::AlignLeading);
     m_layout->addStretch();
-    // Settings programs take the size of their windows from this before the list is there.
-    setMinimumSize(DialogParts::ForFont(pageWidth + 40), DialogParts::ForFont(pageHeight + 220));
     connect(m_keeper, &ListKeeper::Changed, this, &ModulePage::Follow);
 }
 
@@ -109,7 +112,7 @@ QString ModulePage::Obstacle() const
         return reason;
     }
     return DashboardText("IDS_DAMAGE_TITLE") + QLatin1String("\n\n") +
-           DashboardText("IDS_LIST_KEPT").arg(m_keeper->CopyPath());
+           DashboardText("IDS_LIST_KEPT").arg(InOwnDirection(m_keeper->CopyPath()));
 }
 
 void ModulePage::ShowList()

@@ -2,10 +2,11 @@
 #include <TextPattern.h>
 
 #include <KCModule>
-#include <KCModuleLoader>
+#include <KCMultiDialog>
 #include <KPluginMetaData>
 
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QJsonObject>
 #include <QLabel>
@@ -27,14 +28,24 @@ QString ModuleFile()
     return QLatin1String(BUILD_DIRECTORY "/kde/plasma/kcms/systemsettings_qwidgets/kcm_prioritylist.so");
 }
 
-QTableWidget *TableOf(const QWidget *module)
+KPluginMetaData Module()
 {
-    return module->findChild<QTableWidget *>(QLatin1String("priorityTable"));
+    return KPluginMetaData(ModuleFile());
 }
 
-QString MessageOf(const QWidget *module)
+KCModule *ModuleIn(const QWidget *dialog)
 {
-    const QLabel *label = module->findChild<QLabel *>(QLatin1String("moduleMessage"));
+    return dialog->findChild<KCModule *>();
+}
+
+QTableWidget *TableOf(const QWidget *dialog)
+{
+    return dialog->findChild<QTableWidget *>(QLatin1String("priorityTable"));
+}
+
+QString MessageOf(const QWidget *dialog)
+{
+    const QLabel *label = dialog->findChild<QLabel *>(QLatin1String("moduleMessage"));
     return label->isVisible() ? label->text() : QString();
 }
 
@@ -53,7 +64,9 @@ private slots:
     void moveIsInTheFile();
     void moveIsInTheHistory();
     void applyResetAndDefaultsKeepTheList();
+    void changedListLeavesNothingToApply();
     void resetShowsTheListAsItIs();
+    void rulesLeaveTheListUncovered();
     void secondModuleTellsThatTheListIsOpen();
     void damagedListIsNotOffered();
     void listIsOfferedOnceItIsWhole();
@@ -61,8 +74,9 @@ private slots:
     void endsWithAnOpenModule();
 
 private:
-    KCModule *Open() const;
-    void MoveSecondUp(QWidget *module) const;
+    /** The dialog belongs to the caller. */
+    KCMultiDialog *Open() const;
+    void MoveSecondUp(QWidget *dialog) const;
     QStringList Names() const;
 
     TemporaryDirectory m_directory;
@@ -82,23 +96,23 @@ void TestKcm::init()
                                 "        <item name=\"Mobile\" type=\"2\"/>\n    </profile>\n</zeltdoc>\n");
 }
 
-KCModule *TestKcm::Open() const
+KCMultiDialog *TestKcm::Open() const
 {
-    KCModule *module = KCModuleLoader::loadModule(KPluginMetaData(ModuleFile()));
-    module->load();
-    module->show();
-    // It loads itself once more when it is shown.
+    KCMultiDialog *dialog = new KCMultiDialog;
+    dialog->addModule(Module());
+    dialog->show();
+    // Some load a module only now.
     QCoreApplication::processEvents();
-    return module;
+    return dialog;
 }
 
-void TestKcm::MoveSecondUp(QWidget *module) const
+void TestKcm::MoveSecondUp(QWidget *dialog) const
 {
-    QTableWidget *table = TableOf(module);
+    QTableWidget *table = TableOf(dialog);
     QVERIFY(table);
     QTest::mouseClick(table->viewport(), Qt::LeftButton, Qt::NoModifier,
                       table->visualRect(table->model()->index(1, 0)).center());
-    QTest::mouseClick(module->findChild<QPushButton *>(QLatin1String("upButton")), Qt::LeftButton);
+    QTest::mouseClick(dialog->findChild<QPushButton *>(QLatin1String("upButton")), Qt::LeftButton);
 }
 
 QStringList TestKcm::Names() const
@@ -109,14 +123,14 @@ QStringList TestKcm::Names() const
 
 void TestKcm::isFoundUnderNetwork()
 {
-    const KPluginMetaData data(ModuleFile());
+    const KPluginMetaData data = Module();
     QCOMPARE(data.pluginId(), QString("kcm_prioritylist"));
     QCOMPARE(data.rawData().value("X-KDE-System-Settings-Parent-Category").toString(), QString("network"));
 }
 
 void TestKcm::isNamedInEveryLanguage()
 {
-    const QJsonObject data = KPluginMetaData(ModuleFile()).rawData().value("KPlugin").toObject();
+    const QJsonObject data = Module().rawData().value("KPlugin").toObject();
     const QStringList files =
         QDir(BUILD_DIRECTORY "/share/priority-dashboard/languages").entryList(QDir::Files);
     QVERIFY(files.contains("de.qm"));
@@ -129,16 +143,16 @@ void TestKcm::isNamedInEveryLanguage()
 
 void TestKcm::moveIsInTheFile()
 {
-    const QScopedPointer<KCModule> module(Open());
-    MoveSecondUp(module.data());
+    const QScopedPointer<KCMultiDialog> dialog(Open());
+    MoveSecondUp(dialog.data());
     QCOMPARE(Names(), QStringList({"Office", "Home", "Mobile"}));
 }
 
 void TestKcm::moveIsInTheHistory()
 {
-    QScopedPointer<KCModule> module(Open());
-    MoveSecondUp(module.data());
-    module.reset();
+    QScopedPointer<KCMultiDialog> dialog(Open());
+    MoveSecondUp(dialog.data());
+    dialog.reset();
     const QStringList orders = TextPattern::FindAll(QString::fromUtf8(m_directory.Read(historyFile)),
                                                     QLatin1String("order=\"([^\"]*)\""));
     QCOMPARE(orders.mid(orders.size() - 2), QStringList({"0 1 2", "1 0 2"}));
@@ -146,32 +160,57 @@ void TestKcm::moveIsInTheHistory()
 
 void TestKcm::applyResetAndDefaultsKeepTheList()
 {
-    const QScopedPointer<KCModule> module(Open());
-    MoveSecondUp(module.data());
+    const QScopedPointer<KCMultiDialog> dialog(Open());
+    MoveSecondUp(dialog.data());
     const QByteArray list = m_directory.Read(listFile);
+    KCModule *module = ModuleIn(dialog.data());
     module->save();
     module->load();
     module->defaults();
     QCOMPARE(m_directory.Read(listFile), list);
-    QCOMPARE(module->buttons(), KCModule::Buttons(KCModule::NoAdditionalButton));
+}
+
+void TestKcm::changedListLeavesNothingToApply()
+{
+    const QScopedPointer<KCMultiDialog> dialog(Open());
+    MoveSecondUp(dialog.data());
+    QCoreApplication::processEvents();
+    const QDialogButtonBox *box = dialog->findChild<QDialogButtonBox *>();
+    QList<QAbstractButton *> offered;
+    for (QAbstractButton *button : box->buttons()) {
+        if (button->isVisible()) {
+            offered << button;
+        }
+    }
+    QCOMPARE(offered, QList<QAbstractButton *>({box->button(QDialogButtonBox::Close)}));
 }
 
 void TestKcm::resetShowsTheListAsItIs()
 {
-    const QScopedPointer<KCModule> module(Open());
+    const QScopedPointer<KCMultiDialog> dialog(Open());
     m_directory.Write(listFile, "<z><item name='Alone' type='1'/></z>");
-    module->load();
-    QCOMPARE(TableOf(module.data())->rowCount(), 1);
+    ModuleIn(dialog.data())->load();
+    QCOMPARE(TableOf(dialog.data())->rowCount(), 1);
+}
+
+void TestKcm::rulesLeaveTheListUncovered()
+{
+    const QScopedPointer<KCMultiDialog> dialog(Open());
+    const QWidget *list = dialog->findChild<QWidget *>(QLatin1String("moduleList"));
+    const QWidget *rules = dialog->findChild<QWidget *>(QLatin1String("rulesPage"));
+    QVERIFY(list);
+    QVERIFY(rules);
+    QVERIFY(rules->mapToGlobal(QPoint(0, 0)).y() >= list->mapToGlobal(QPoint(0, list->height())).y());
 }
 
 void TestKcm::secondModuleTellsThatTheListIsOpen()
 {
-    QScopedPointer<KCModule> first(Open());
-    const QScopedPointer<KCModule> second(Open());
+    const QScopedPointer<KCMultiDialog> first(Open());
+    const QScopedPointer<KCMultiDialog> second(Open());
     QVERIFY(TableOf(first.data()));
     QVERIFY(!TableOf(second.data()));
     QVERIFY(MessageOf(second.data()).contains("another window"));
-    first.reset();
+    first->close();
     QTRY_VERIFY(TableOf(second.data()));
     QCOMPARE(MessageOf(second.data()), QString());
 }
@@ -179,30 +218,30 @@ void TestKcm::secondModuleTellsThatTheListIsOpen()
 void TestKcm::damagedListIsNotOffered()
 {
     m_directory.Write(listFile, damagedList);
-    QScopedPointer<KCModule> module(Open());
-    QVERIFY(!TableOf(module.data()));
-    QVERIFY(MessageOf(module.data()).contains("damaged"));
-    module->save();
-    module.reset();
+    QScopedPointer<KCMultiDialog> dialog(Open());
+    QVERIFY(!TableOf(dialog.data()));
+    QVERIFY(MessageOf(dialog.data()).contains("damaged"));
+    ModuleIn(dialog.data())->save();
+    dialog.reset();
     QCOMPARE(m_directory.Read(listFile), QByteArray(damagedList));
 }
 
 void TestKcm::listIsOfferedOnceItIsWhole()
 {
     m_directory.Write(listFile, damagedList);
-    const QScopedPointer<KCModule> module(Open());
-    QVERIFY(!TableOf(module.data()));
+    const QScopedPointer<KCMultiDialog> dialog(Open());
+    QVERIFY(!TableOf(dialog.data()));
     init();
-    QTRY_VERIFY(TableOf(module.data()));
+    QTRY_VERIFY(TableOf(dialog.data()));
     m_directory.Write(listFile, damagedList);
-    QTRY_VERIFY(!TableOf(module.data()));
+    QTRY_VERIFY(!TableOf(dialog.data()));
 }
 
 void TestKcm::settingsShellShowsIt()
 {
-    const QString shell = QStandardPaths::findExecutable("kcmshell5");
+    const QString shell = QStandardPaths::findExecutable(SETTINGS_SHELL);
     if (shell.isEmpty()) {
-        QSKIP("kcmshell5 is not installed");
+        QSKIP(SETTINGS_SHELL " is not installed");
     }
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();

@@ -28,7 +28,7 @@ const char dpkgQuery[] = "#!/bin/sh\n"
 const char id[] = "#!/bin/sh\n"
                   "cat user\n";
 
-const char debian12[] = "libkf6networkmanagerqt-dev libcurl3t64-gnutls libpsl5t64";
+const char debian12[] = "libkf6networkmanagerqt-dev libkf6kcmutils-dev libcurl3t64-gnutls libpsl5t64";
 const char debian13[] = "libcurl3-gnutls libpsl5";
 const char noNetworkManagerQt[] = "libkf6networkmanagerqt-dev libkf5networkmanagerqt-dev";
 
@@ -112,7 +112,7 @@ void InstallPackagesTest::systemGetsItsOwnPackages_data()
                                << "qtbase5-dev libkf5networkmanagerqt-dev libkf5kcmutils-dev"
                                << "5";
     QTest::newRow("Debian 13") << debian13 << "build"
-                               << "qt6-base-dev libkf6networkmanagerqt-dev"
+                               << "qt6-base-dev libkf6networkmanagerqt-dev libkf6kcmutils-dev"
                                << "6";
     QTest::newRow("Qt 6 on Debian 12") << debian12 << "build-qt6"
                                        << "qt6-base-dev"
@@ -127,7 +127,7 @@ void InstallPackagesTest::systemGetsItsOwnPackages_data()
                                         << "libcurl3t64-gnutls libpsl5t64"
                                         << "6";
     QTest::newRow("no NetworkManagerQt") << noNetworkManagerQt << "build"
-                                         << "qt6-base-dev"
+                                         << "qt6-base-dev libkf6kcmutils-dev"
                                          << "6";
     QTest::newRow("no NetworkManagerQt and no Qt 6") << QString(noNetworkManagerQt) + " qt6-base-dev"
                                                      << "build"
@@ -149,7 +149,7 @@ void InstallPackagesTest::systemGetsItsOwnPackages()
     const QStringList ordered = QString(m_system->Read("installed")).split("\n");
     const QStringList others =
         QString("qtbase5-dev libkf5networkmanagerqt-dev libkf5kcmutils-dev qt6-base-dev "
-                "libkf6networkmanagerqt-dev libcurl3-gnutls libcurl3t64-gnutls libpsl5 "
+                "libkf6networkmanagerqt-dev libkf6kcmutils-dev libcurl3-gnutls libcurl3t64-gnutls libpsl5 "
                 "libpsl5t64")
             .split(" ");
     QStringList found;
@@ -167,13 +167,17 @@ void InstallPackagesTest::missingPackageIsNamed_data()
     QTest::addColumn<QString>("group");
     QTest::addColumn<QString>("told");
     QTest::newRow("NetworkManagerQt")
-        << debian12 << "build-qt6"
+        << "libkf6networkmanagerqt-dev"
+        << "build-qt6"
         << "This system has no package libkf6networkmanagerqt-dev: the plug-in over "
            "NetworkManager will be left out.\n";
     QTest::newRow("KDBusAddons") << "libkf6dbusaddons-dev"
                                  << "build-qt6"
                                  << "This system has no package libkf6dbusaddons-dev: each start of the "
                                     "dashboard will have a window of its own.\n";
+    QTest::newRow("KCMUtils") << debian12 << "build-qt6"
+                              << "This system has no package libkf6kcmutils-dev: the module for System "
+                                 "Settings will be left out.\n";
     QTest::newRow("any other")
         << "libpsl5t64\nlibpsl5"
         << "test"
