@@ -6,6 +6,9 @@ namespace
 {
 
 const int pauseMilliseconds = 1000;
+// A bus that is started anew is back within seconds. Where there is none, the computer is left alone.
+const int quickTries = 20;
+const int longPauseMilliseconds = 30000;
 
 /**
  * There is one connection for all. It stays open as long as the program runs: Qt damages its memory when a
@@ -51,10 +54,13 @@ void CSystemBus::TakeConnection()
 {
     m_connection = QDBusConnection(ConnectionName());
     if (m_connection.isConnected()) {
+        m_tries = 0;
+        m_pause.setInterval(pauseMilliseconds);
         WatchForLoss();
         emit Found();
     } else {
-        m_pause.start();
+        ++m_tries;
+        m_pause.start(m_tries < quickTries ? pauseMilliseconds : longPauseMilliseconds);
         emit Lost();
     }
 }

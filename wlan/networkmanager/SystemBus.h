@@ -39,6 +39,8 @@ private:
 
     QDBusConnection m_connection;
     QTimer m_pause;
+    /** Since it was last connected. */
+    int m_tries = 0;
 };
 
 #endif
