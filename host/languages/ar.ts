@@ -1270,6 +1270,26 @@
         <translation>نقل إلى آ&amp;خر القائمة</translation>
     </message>
     <message>
+        <source>IDS_EDIT_TO_PLACE</source>
+        <translation>نقل إلى &amp;موضع…</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_WINDOW</source>
+        <translation>نقل إلى موضع</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_OF_ONE</source>
+        <translation>الموضع الجديد لـ %1، من ١ (أول القائمة) إلى %2:</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_OF_SEVERAL</source>
+        <translation>الموضع الجديد لأولى هذه الشبكات (%1)، من ١ (أول القائمة) إلى %2. تليها الأخرى:</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_MOVE</source>
+        <translation>نقل</translation>
+    </message>
+    <message>
         <source>IDS_EDIT_REMOVE</source>
         <translation>إ&amp;زالة من القائمة</translation>
     </message>

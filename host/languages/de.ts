@@ -1271,6 +1271,26 @@ Erwartet: %3</translation>
         <translation>Ans En&amp;de verschieben</translation>
     </message>
     <message>
+        <source>IDS_EDIT_TO_PLACE</source>
+        <translation>An einen &amp;Platz verschieben&#xa0;…</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_WINDOW</source>
+        <translation>An einen Platz verschieben</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_OF_ONE</source>
+        <translation>Neuer Platz von %1, von 1 (Anfang) bis %2:</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_OF_SEVERAL</source>
+        <translation>Neuer Platz des ersten dieser Netzwerke (%1), von 1 (Anfang) bis %2. Die anderen folgen ihm:</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_MOVE</source>
+        <translation>Verschieben</translation>
+    </message>
+    <message>
         <source>IDS_EDIT_REMOVE</source>
         <translation>Aus der Liste entfer&amp;nen</translation>
     </message>

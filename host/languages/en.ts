@@ -1395,6 +1395,31 @@ Expected: %3</translation>
         <translation>Move to e&amp;nd</translation>
     </message>
     <message>
+        <source>IDS_EDIT_TO_PLACE</source>
+        <extracomment>In the same menus; asks for the place</extracomment>
+        <translation>&amp;Move to place…</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_WINDOW</source>
+        <extracomment>Title of the dialog that asks for the place</extracomment>
+        <translation>Move to place</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_OF_ONE</source>
+        <extracomment>In that dialog, above a box with a number; %1: a network; %2: the last place</extracomment>
+        <translation>New place of %1, from 1 (the top) to %2:</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_OF_SEVERAL</source>
+        <extracomment>In the place of that, where several are moved together; %1: how many, two at least; %2: the last place that the first of them can get</extracomment>
+        <translation>New place of the first of these %1 networks, from 1 (the top) to %2. The others follow it:</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_MOVE</source>
+        <extracomment>Button of that dialog</extracomment>
+        <translation>Move</translation>
+    </message>
+    <message>
         <source>IDS_EDIT_REMOVE</source>
         <translation>Remove &amp;from list</translation>
     </message>

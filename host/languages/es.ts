@@ -1271,6 +1271,26 @@ Esperado: %3</translation>
         <translation>Mover al &amp;final</translation>
     </message>
     <message>
+        <source>IDS_EDIT_TO_PLACE</source>
+        <translation>&amp;Mover a un puesto…</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_WINDOW</source>
+        <translation>Mover a un puesto</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_OF_ONE</source>
+        <translation>Nuevo puesto de %1, de 1 (el principio) a %2:</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_OF_SEVERAL</source>
+        <translation>Nuevo puesto de la primera de estas redes (%1), de 1 (el principio) a %2. Las demás la siguen:</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_MOVE</source>
+        <translation>Mover</translation>
+    </message>
+    <message>
         <source>IDS_EDIT_REMOVE</source>
         <translation>&amp;Quitar de la lista</translation>
     </message>

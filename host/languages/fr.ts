@@ -1271,6 +1271,26 @@ Attendu&#xa0;: %3</translation>
         <translation>Placer à la &amp;fin</translation>
     </message>
     <message>
+        <source>IDS_EDIT_TO_PLACE</source>
+        <translation>Placer à un ran&amp;g…</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_WINDOW</source>
+        <translation>Placer à un rang</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_OF_ONE</source>
+        <translation>Nouveau rang de %1, de 1 (la tête) à %2&#xa0;:</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_OF_SEVERAL</source>
+        <translation>Nouveau rang du premier de ces réseaux (%1), de 1 (la tête) à %2. Les autres le suivent&#xa0;:</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_MOVE</source>
+        <translation>Placer</translation>
+    </message>
+    <message>
         <source>IDS_EDIT_REMOVE</source>
         <translation>Retirer de la li&amp;ste</translation>
     </message>

@@ -1270,6 +1270,26 @@
         <translation>העברה ל&amp;סוף הרשימה</translation>
     </message>
     <message>
+        <source>IDS_EDIT_TO_PLACE</source>
+        <translation>העברה למ&amp;קום…</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_WINDOW</source>
+        <translation>העברה למקום</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_OF_ONE</source>
+        <translation>המקום החדש של %1, מ-1 (ראש הרשימה) עד %2:</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_OF_SEVERAL</source>
+        <translation>המקום החדש של הרשת הראשונה מבין אלה (%1), מ-1 (ראש הרשימה) עד %2. האחרות באות אחריה:</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_MOVE</source>
+        <translation>העברה</translation>
+    </message>
+    <message>
         <source>IDS_EDIT_REMOVE</source>
         <translation>הסרה &amp;מהרשימה</translation>
     </message>

@@ -1271,6 +1271,26 @@
         <translation>末尾へ移動(&amp;N)</translation>
     </message>
     <message>
+        <source>IDS_EDIT_TO_PLACE</source>
+        <translation>順位を指定して移動(&amp;M)…</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_WINDOW</source>
+        <translation>順位を指定して移動</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_OF_ONE</source>
+        <translation>%1 の新しい順位（1（先頭）から %2 まで）:</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_OF_SEVERAL</source>
+        <translation>これらのネットワーク（%1 件）の最初のものの新しい順位（1（先頭）から %2 まで）。ほかはその後に続きます:</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_MOVE</source>
+        <translation>移動</translation>
+    </message>
+    <message>
         <source>IDS_EDIT_REMOVE</source>
         <translation>リストから削除(&amp;F)</translation>
     </message>

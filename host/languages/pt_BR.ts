@@ -1271,6 +1271,26 @@ Esperado: %3</translation>
         <translation>Mover para o fi&amp;m</translation>
     </message>
     <message>
+        <source>IDS_EDIT_TO_PLACE</source>
+        <translation>Mover para uma &amp;posição…</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_WINDOW</source>
+        <translation>Mover para uma posição</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_OF_ONE</source>
+        <translation>Nova posição de %1, de 1 (o topo) a %2:</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_OF_SEVERAL</source>
+        <translation>Nova posição da primeira destas redes (%1), de 1 (o topo) a %2. As outras vêm depois dela:</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_MOVE</source>
+        <translation>Mover</translation>
+    </message>
+    <message>
         <source>IDS_EDIT_REMOVE</source>
         <translation>Remo&amp;ver da lista</translation>
     </message>

@@ -1271,6 +1271,26 @@
         <translation>Переместить в &amp;конец</translation>
     </message>
     <message>
+        <source>IDS_EDIT_TO_PLACE</source>
+        <translation>Переместить на &amp;место…</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_WINDOW</source>
+        <translation>Переместить на место</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_OF_ONE</source>
+        <translation>Новое место сети %1, от 1 (начало) до %2:</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_OF_SEVERAL</source>
+        <translation>Новое место первой из этих сетей (%1), от 1 (начало) до %2. Остальные идут за ней:</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_MOVE</source>
+        <translation>Переместить</translation>
+    </message>
+    <message>
         <source>IDS_EDIT_REMOVE</source>
         <translation>&amp;Убрать из списка</translation>
     </message>

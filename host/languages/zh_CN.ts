@@ -1271,6 +1271,26 @@
         <translation>移到末尾(&amp;N)</translation>
     </message>
     <message>
+        <source>IDS_EDIT_TO_PLACE</source>
+        <translation>移到指定位置(&amp;M)…</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_WINDOW</source>
+        <translation>移到指定位置</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_OF_ONE</source>
+        <translation>%1 的新位置，从 1（顶部）到 %2：</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_OF_SEVERAL</source>
+        <translation>这些网络（%1 个）中第一个的新位置，从 1（顶部）到 %2。其余的排在它后面：</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_MOVE</source>
+        <translation>移动</translation>
+    </message>
+    <message>
         <source>IDS_EDIT_REMOVE</source>
         <translation>从列表中移除(&amp;F)</translation>
     </message>

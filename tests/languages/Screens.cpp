@@ -335,6 +335,8 @@ const Screens::Screen Screens::screens[] = {
     {"list, something found", &Screens::ShowFind, "o"},
     {"list, nothing found", &Screens::ShowFind, "no network has this"},
     {"menu of a network", &Screens::ShowEntryMenu, nullptr},
+    {"question, place", &Screens::ShowPlace, ""},
+    {"question, place of several", &Screens::ShowPlace, "several"},
     {"notice, network no longer in the list", &Screens::ShowGoneNetwork, nullptr},
     {"Network menu", &Screens::ShowMenu, "networkMenu"},
     {"Edit menu", &Screens::ShowMenu, "editMenu"},
@@ -802,6 +804,15 @@ void Screens::ShowEntryMenu(const char *)
     QTest::keyClick(Child<QListWidget>("overviewList"), Qt::Key_F10, Qt::ShiftModifier);
     Visit();
     Child<QMenu>("entryMenu")->close();
+}
+
+void Screens::ShowPlace(const char *selected)
+{
+    OpenListAt(0);
+    QListWidget *list = Child<QListWidget>("overviewList");
+    list->item(1)->setSelected(*selected != '\0');
+    Trigger("movePlaceAction");
+    Visit();
 }
 
 void Screens::ShowGoneNetwork(const char *)

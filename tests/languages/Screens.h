@@ -70,6 +70,7 @@ private:
     void ShowEditMenu(const char *listFile);
     void ShowMoved(const char *);
     void ShowEntryMenu(const char *);
+    void ShowPlace(const char *selected);
     void ShowFind(const char *typed);
     void ShowGoneNetwork(const char *);
     void ShowTwoMessages(const char *listFile);
