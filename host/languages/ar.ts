@@ -1162,10 +1162,6 @@
         <translation>هي غير محفوظة هنا، لذلك لا حاجة إلى نسيانها. يمكن إزالتها من القائمة.</translation>
     </message>
     <message>
-        <source>IDS_FORGET_NOT_LISTED</source>
-        <translation>ليست في قائمتك. أضفها أولاً، ثم يمكن نسيانها من هنا.</translation>
-    </message>
-    <message>
         <source>IDS_FORGET_WINDOW</source>
         <translation>نسيان الشبكة</translation>
     </message>
@@ -1194,6 +1190,18 @@
         <translation>يمكن استرجاع موضعها، أما مفتاحها فلا.</translation>
     </message>
     <message>
+        <source>IDS_FORGET_UNLISTED</source>
+        <translation>سيتم نسيانها مع مفتاحها في هذا الحاسوب. هي ليست في قائمتك، لذلك تبقى القائمة كما هي.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_SEVERAL</source>
+        <translation>سيتم نسيان كل ملفات التعريف بهذا الاسم (%1) مع مفاتيحها في هذا الحاسوب. الشبكة ليست في قائمتك، لذلك تبقى القائمة كما هي.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_FOR_GOOD</source>
+        <translation>لا يمكن التراجع عن ذلك، ولا يمكن استرجاع مفتاحها.</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_UNDER_WAY</source>
         <translation>جارٍ نسيانها.</translation>
     </message>
@@ -1202,8 +1210,16 @@
         <translation>تم نسيان %1. يمكن استرجاع موضعها في القائمة، أما مفتاحها فلا.</translation>
     </message>
     <message>
+        <source>IDS_FORGET_UNLISTED_DONE</source>
+        <translation>تم نسيان %1. لا يمكن استرجاع مفتاحها.</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_FAILED</source>
         <translation>لم يتم نسيان %1، وهي باقية في قائمتك.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_FAILED</source>
+        <translation>لم يتم نسيان %1.</translation>
     </message>
     <message>
         <source>IDS_FORGET_SOME</source>
@@ -1212,6 +1228,10 @@
     <message>
         <source>IDS_FORGET_NO_ANSWER</source>
         <translation>لم ترد إجابة، لذلك لا يُعرف هل تم نسيان %1. هي باقية في قائمتك.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_NO_ANSWER</source>
+        <translation>لم ترد إجابة، لذلك لا يُعرف هل تم نسيان %1.</translation>
     </message>
     <message>
         <source>IDS_FORGET_STAYS</source>

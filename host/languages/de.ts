@@ -1163,10 +1163,6 @@ Erwartet: %3</translation>
         <translation>Es ist hier nicht gespeichert, daher gibt es nichts zu vergessen. Es lässt sich aus der Liste entfernen.</translation>
     </message>
     <message>
-        <source>IDS_FORGET_NOT_LISTED</source>
-        <translation>Es ist nicht in Ihrer Liste. Fügen Sie es erst hinzu, dann kann es hier vergessen werden.</translation>
-    </message>
-    <message>
         <source>IDS_FORGET_WINDOW</source>
         <translation>Netzwerk vergessen</translation>
     </message>
@@ -1195,6 +1191,18 @@ Erwartet: %3</translation>
         <translation>Sein Platz lässt sich zurückholen, sein Schlüssel nicht.</translation>
     </message>
     <message>
+        <source>IDS_FORGET_UNLISTED</source>
+        <translation>Es wird mit seinem Schlüssel auf diesem Computer vergessen. Es steht nicht in Ihrer Liste; diese bleibt, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_SEVERAL</source>
+        <translation>Auf diesem Computer werden alle Profile dieses Namens (%1) mit ihren Schlüsseln vergessen. Das Netzwerk steht nicht in Ihrer Liste; diese bleibt, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_FOR_GOOD</source>
+        <translation>Das lässt sich nicht rückgängig machen, und der Schlüssel lässt sich nicht zurückholen.</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_UNDER_WAY</source>
         <translation>Es wird vergessen.</translation>
     </message>
@@ -1203,8 +1211,16 @@ Erwartet: %3</translation>
         <translation>%1 vergessen. Der Platz in der Liste lässt sich zurückholen, der Schlüssel nicht.</translation>
     </message>
     <message>
+        <source>IDS_FORGET_UNLISTED_DONE</source>
+        <translation>%1 vergessen. Der Schlüssel lässt sich nicht zurückholen.</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_FAILED</source>
         <translation>%1 wurde nicht vergessen und bleibt in Ihrer Liste.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_FAILED</source>
+        <translation>%1 wurde nicht vergessen.</translation>
     </message>
     <message>
         <source>IDS_FORGET_SOME</source>
@@ -1213,6 +1229,10 @@ Erwartet: %3</translation>
     <message>
         <source>IDS_FORGET_NO_ANSWER</source>
         <translation>Es kam keine Antwort, daher ist nicht bekannt, ob %1 vergessen ist. Es bleibt in Ihrer Liste.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_NO_ANSWER</source>
+        <translation>Es kam keine Antwort, daher ist nicht bekannt, ob %1 vergessen ist.</translation>
     </message>
     <message>
         <source>IDS_FORGET_STAYS</source>

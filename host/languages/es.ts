@@ -1163,10 +1163,6 @@ Esperado: %3</translation>
         <translation>No está guardada aquí, así que no hay nada que olvidar. Se puede quitar de la lista.</translation>
     </message>
     <message>
-        <source>IDS_FORGET_NOT_LISTED</source>
-        <translation>No está en su lista. Añádala primero; después se puede olvidar aquí.</translation>
-    </message>
-    <message>
         <source>IDS_FORGET_WINDOW</source>
         <translation>Olvidar red</translation>
     </message>
@@ -1195,6 +1191,18 @@ Esperado: %3</translation>
         <translation>Su puesto se puede recuperar; su clave, no.</translation>
     </message>
     <message>
+        <source>IDS_FORGET_UNLISTED</source>
+        <translation>Este equipo la olvidará con su clave. No está en su lista, así que la lista queda como está.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_SEVERAL</source>
+        <translation>Este equipo olvidará todos los perfiles con ese nombre (%1) y sus claves. La red no está en su lista, así que la lista queda como está.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_FOR_GOOD</source>
+        <translation>Esto no se puede deshacer, y su clave no se puede recuperar.</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_UNDER_WAY</source>
         <translation>Se está olvidando.</translation>
     </message>
@@ -1203,8 +1211,16 @@ Esperado: %3</translation>
         <translation>%1 se ha olvidado. Su puesto en la lista se puede recuperar; su clave, no.</translation>
     </message>
     <message>
+        <source>IDS_FORGET_UNLISTED_DONE</source>
+        <translation>%1 se ha olvidado. Su clave no se puede recuperar.</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_FAILED</source>
         <translation>%1 no se ha olvidado. Sigue en su lista.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_FAILED</source>
+        <translation>%1 no se ha olvidado.</translation>
     </message>
     <message>
         <source>IDS_FORGET_SOME</source>
@@ -1213,6 +1229,10 @@ Esperado: %3</translation>
     <message>
         <source>IDS_FORGET_NO_ANSWER</source>
         <translation>No hubo respuesta, así que no se sabe si %1 se ha olvidado. Sigue en su lista.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_NO_ANSWER</source>
+        <translation>No hubo respuesta, así que no se sabe si %1 se ha olvidado.</translation>
     </message>
     <message>
         <source>IDS_FORGET_STAYS</source>

@@ -1163,10 +1163,6 @@ Attendu&#xa0;: %3</translation>
         <translation>Il n’est pas enregistré ici&#x202f;; il n’y a donc rien à oublier. Il peut être retiré de la liste.</translation>
     </message>
     <message>
-        <source>IDS_FORGET_NOT_LISTED</source>
-        <translation>Il n’est pas dans votre liste. Ajoutez-le d’abord, il pourra alors être oublié ici.</translation>
-    </message>
-    <message>
         <source>IDS_FORGET_WINDOW</source>
         <translation>Oublier le réseau</translation>
     </message>
@@ -1195,6 +1191,18 @@ Attendu&#xa0;: %3</translation>
         <translation>Son rang peut être récupéré, pas sa clé.</translation>
     </message>
     <message>
+        <source>IDS_FORGET_UNLISTED</source>
+        <translation>Cet ordinateur l’oubliera avec sa clé. Il n’est pas dans votre liste, qui reste telle quelle.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_SEVERAL</source>
+        <translation>Cet ordinateur oubliera tous les profils de ce nom (%1) avec leurs clés. Le réseau n’est pas dans votre liste, qui reste telle quelle.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_FOR_GOOD</source>
+        <translation>Cela ne peut pas être annulé, et sa clé ne peut pas être récupérée.</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_UNDER_WAY</source>
         <translation>Oubli en cours.</translation>
     </message>
@@ -1203,8 +1211,16 @@ Attendu&#xa0;: %3</translation>
         <translation>%1 oublié. Son rang dans la liste peut être récupéré, pas sa clé.</translation>
     </message>
     <message>
+        <source>IDS_FORGET_UNLISTED_DONE</source>
+        <translation>%1 oublié. Sa clé ne peut pas être récupérée.</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_FAILED</source>
         <translation>%1 n’a pas été oublié et reste dans votre liste.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_FAILED</source>
+        <translation>%1 n’a pas été oublié.</translation>
     </message>
     <message>
         <source>IDS_FORGET_SOME</source>
@@ -1213,6 +1229,10 @@ Attendu&#xa0;: %3</translation>
     <message>
         <source>IDS_FORGET_NO_ANSWER</source>
         <translation>Il n’y a pas eu de réponse&#x202f;; on ne sait donc pas si %1 est oublié. Il reste dans votre liste.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_NO_ANSWER</source>
+        <translation>Il n’y a pas eu de réponse&#x202f;; on ne sait donc pas si %1 est oublié.</translation>
     </message>
     <message>
         <source>IDS_FORGET_STAYS</source>

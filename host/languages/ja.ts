@@ -1163,10 +1163,6 @@
         <translation>ここでは未登録なので、破棄するものはありません。リストから削除できます。</translation>
     </message>
     <message>
-        <source>IDS_FORGET_NOT_LISTED</source>
-        <translation>リストにありません。まずリストに追加すると、ここで破棄できます。</translation>
-    </message>
-    <message>
         <source>IDS_FORGET_WINDOW</source>
         <translation>ネットワークの破棄</translation>
     </message>
@@ -1195,6 +1191,18 @@
         <translation>順位は取り戻せますが、キーは取り戻せません。</translation>
     </message>
     <message>
+        <source>IDS_FORGET_UNLISTED</source>
+        <translation>このコンピューターからキーとともに破棄されます。リストにはないため、リストは変わりません。</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_SEVERAL</source>
+        <translation>このコンピューターから、この名前のプロファイル %1 件すべてがキーとともに破棄されます。このネットワークはリストにないため、リストは変わりません。</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_FOR_GOOD</source>
+        <translation>これは元に戻せません。キーも取り戻せません。</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_UNDER_WAY</source>
         <translation>破棄しています。</translation>
     </message>
@@ -1203,8 +1211,16 @@
         <translation>%1 を破棄しました。リスト内の順位は取り戻せますが、キーは取り戻せません。</translation>
     </message>
     <message>
+        <source>IDS_FORGET_UNLISTED_DONE</source>
+        <translation>%1 を破棄しました。キーは取り戻せません。</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_FAILED</source>
         <translation>%1 は破棄されず、リストに残っています。</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_FAILED</source>
+        <translation>%1 は破棄されませんでした。</translation>
     </message>
     <message>
         <source>IDS_FORGET_SOME</source>
@@ -1213,6 +1229,10 @@
     <message>
         <source>IDS_FORGET_NO_ANSWER</source>
         <translation>応答がなかったため、%1 が破棄されたかどうか不明です。リストには残っています。</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_NO_ANSWER</source>
+        <translation>応答がなかったため、%1 が破棄されたかどうか不明です。</translation>
     </message>
     <message>
         <source>IDS_FORGET_STAYS</source>

@@ -1163,10 +1163,6 @@ Esperado: %3</translation>
         <translation>Ela não está salva aqui, por isso não há nada a esquecer. Ela pode ser removida da lista.</translation>
     </message>
     <message>
-        <source>IDS_FORGET_NOT_LISTED</source>
-        <translation>Ela não está na sua lista. Adicione-a primeiro; depois ela pode ser esquecida aqui.</translation>
-    </message>
-    <message>
         <source>IDS_FORGET_WINDOW</source>
         <translation>Esquecer rede</translation>
     </message>
@@ -1195,6 +1191,18 @@ Esperado: %3</translation>
         <translation>A posição dela pode ser recuperada; a chave, não.</translation>
     </message>
     <message>
+        <source>IDS_FORGET_UNLISTED</source>
+        <translation>Este computador a esquecerá com a sua chave. Ela não está na sua lista, que fica como está.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_SEVERAL</source>
+        <translation>Este computador esquecerá todos os perfis com esse nome (%1) e as suas chaves. A rede não está na sua lista, que fica como está.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_FOR_GOOD</source>
+        <translation>Isso não pode ser desfeito, e a chave dela não pode ser recuperada.</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_UNDER_WAY</source>
         <translation>Ela está sendo esquecida.</translation>
     </message>
@@ -1203,8 +1211,16 @@ Esperado: %3</translation>
         <translation>%1 foi esquecida. A posição na lista pode ser recuperada; a chave, não.</translation>
     </message>
     <message>
+        <source>IDS_FORGET_UNLISTED_DONE</source>
+        <translation>%1 foi esquecida. A chave não pode ser recuperada.</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_FAILED</source>
         <translation>%1 não foi esquecida. Ela continua na sua lista.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_FAILED</source>
+        <translation>%1 não foi esquecida.</translation>
     </message>
     <message>
         <source>IDS_FORGET_SOME</source>
@@ -1213,6 +1229,10 @@ Esperado: %3</translation>
     <message>
         <source>IDS_FORGET_NO_ANSWER</source>
         <translation>Não houve resposta, portanto não se sabe se %1 foi esquecida. Ela continua na sua lista.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_NO_ANSWER</source>
+        <translation>Não houve resposta, portanto não se sabe se %1 foi esquecida.</translation>
     </message>
     <message>
         <source>IDS_FORGET_STAYS</source>

@@ -1163,10 +1163,6 @@
         <translation>Она здесь не сохранена, поэтому забыть нечего. Её можно убрать из списка.</translation>
     </message>
     <message>
-        <source>IDS_FORGET_NOT_LISTED</source>
-        <translation>Её нет в вашем списке. Сначала добавьте её, тогда её можно будет забыть здесь.</translation>
-    </message>
-    <message>
         <source>IDS_FORGET_WINDOW</source>
         <translation>Забыть сеть</translation>
     </message>
@@ -1195,6 +1191,18 @@
         <translation>Её место можно вернуть, ключ – нет.</translation>
     </message>
     <message>
+        <source>IDS_FORGET_UNLISTED</source>
+        <translation>Она будет забыта на этом компьютере вместе с ключом. В вашем списке её нет, и он не изменится.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_SEVERAL</source>
+        <translation>На этом компьютере будут забыты все профили с этим именем (%1) вместе с ключами. Этой сети нет в вашем списке, и он не изменится.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_FOR_GOOD</source>
+        <translation>Это нельзя отменить, и ключ вернуть нельзя.</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_UNDER_WAY</source>
         <translation>Сеть забывается.</translation>
     </message>
@@ -1203,8 +1211,16 @@
         <translation>Сеть %1 забыта. Место в списке можно вернуть, ключ – нет.</translation>
     </message>
     <message>
+        <source>IDS_FORGET_UNLISTED_DONE</source>
+        <translation>Сеть %1 забыта. Ключ вернуть нельзя.</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_FAILED</source>
         <translation>Сеть %1 не забыта и остаётся в вашем списке.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_FAILED</source>
+        <translation>Сеть %1 не забыта.</translation>
     </message>
     <message>
         <source>IDS_FORGET_SOME</source>
@@ -1213,6 +1229,10 @@
     <message>
         <source>IDS_FORGET_NO_ANSWER</source>
         <translation>Ответа не было, поэтому неизвестно, забыта ли сеть %1. Она остаётся в вашем списке.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_NO_ANSWER</source>
+        <translation>Ответа не было, поэтому неизвестно, забыта ли сеть %1.</translation>
     </message>
     <message>
         <source>IDS_FORGET_STAYS</source>

@@ -279,10 +279,14 @@ const Screens::Screen Screens::screens[] = {
     {"not forgotten, several", &Screens::ShowForgetting, "some"},
     {"not forgotten, no answer", &Screens::ShowForgetting, "no answer"},
     {"forgotten, list not written", &Screens::ShowForgetting, "stays"},
+    {"question, forget, not listed", &Screens::ShowForgetting, "unlisted, "},
+    {"question, forget several, not listed", &Screens::ShowForgetting, "unlisted, several"},
+    {"list, one forgotten that was not listed", &Screens::ShowForgetting, "unlisted, done"},
+    {"not forgotten, not listed", &Screens::ShowForgetting, "unlisted, failed"},
+    {"not forgotten, no answer, not listed", &Screens::ShowForgetting, "unlisted, no answer"},
     {"Edit menu, network saved", &Screens::ShowForgetting, "menu"},
     {"Edit menu, network not saved", &Screens::ShowForgetting, "menu, not saved"},
     {"Edit menu, networks not known", &Screens::ShowForgetting, "menu, not known"},
-    {"Edit menu, network not listed", &Screens::ShowForgetting, "menu, not listed"},
     {"list, plug-in missing while connected", &Screens::ShowConnections, "no list"},
     {"list, not handed out", &Screens::ShowListNotHandedOut, "QueryNull"},
     {"list, damaged", &Screens::ShowListFile, damagedList},
@@ -691,7 +695,9 @@ void Screens::ShowDetails(const char *what)
 
 void Screens::ShowForgetting(const char *what)
 {
-    const QByteArray shown(what);
+    const QByteArray unlisted("unlisted, ");
+    const bool isListed = !QByteArray(what).startsWith(unlisted);
+    const QByteArray shown = QByteArray(what).mid(isListed ? 0 : unlisted.size());
     FakeConnections connections;
     FillWithProfiles(shown == "several" || shown == "some" ? 2 : 1, &connections);
     if (shown == "several") {
@@ -701,13 +707,13 @@ void Screens::ShowForgetting(const char *what)
     } else if (shown == "menu, not known") {
         connections.told.state.source = ConnectionState::SourceNotKnown;
     }
-    const QLatin1String listed(shown == "menu, not listed" ? "Office" : "Home, Office");
+    const QLatin1String listed(isListed ? "Home, Office" : "Office");
     WriteUserFile(QLatin1String("Priority.xml"), OrderFile::Document(Listed(listed)));
     WithConnections container(m_plugins.data(), &connections);
     HostControl::SetPluginContainer(&container);
     OpenWindow(m_plugins.data());
     QListWidget *list = Child<QListWidget>("overviewList");
-    list->setCurrentRow(shown == "menu, not listed" ? list->count() - 1 : 0);
+    list->setCurrentRow(isListed ? 0 : list->count() - 1);
     if (shown.startsWith("menu")) {
         Child<QMenu>("editMenu")->popup(m_window->pos());
     } else {
