@@ -1174,10 +1174,6 @@
         <translation>هي غير محفوظة هنا، لذلك لا حاجة إلى نسيانها. يمكن إزالتها من القائمة.</translation>
     </message>
     <message>
-        <source>IDS_FORGET_NOT_LISTED</source>
-        <translation>ليست في قائمتك. أضفها أولاً، ثم يمكن نسيانها من هنا.</translation>
-    </message>
-    <message>
         <source>IDS_FORGET_WINDOW</source>
         <translation>نسيان الشبكة</translation>
     </message>
@@ -1206,6 +1202,18 @@
         <translation>يمكن استرجاع موضعها، أما مفتاحها فلا.</translation>
     </message>
     <message>
+        <source>IDS_FORGET_UNLISTED</source>
+        <translation>سيتم نسيانها مع مفتاحها في هذا الحاسوب. هي ليست في قائمتك، لذلك تبقى القائمة كما هي.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_SEVERAL</source>
+        <translation>سيتم نسيان كل ملفات التعريف بهذا الاسم (%1) مع مفاتيحها في هذا الحاسوب. الشبكة ليست في قائمتك، لذلك تبقى القائمة كما هي.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_FOR_GOOD</source>
+        <translation>لا يمكن التراجع عن ذلك، ولا يمكن استرجاع مفتاحها.</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_UNDER_WAY</source>
         <translation>جارٍ نسيانها.</translation>
     </message>
@@ -1214,8 +1222,16 @@
         <translation>تم نسيان %1. يمكن استرجاع موضعها في القائمة، أما مفتاحها فلا.</translation>
     </message>
     <message>
+        <source>IDS_FORGET_UNLISTED_DONE</source>
+        <translation>تم نسيان %1. لا يمكن استرجاع مفتاحها.</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_FAILED</source>
         <translation>لم يتم نسيان %1، وهي باقية في قائمتك.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_FAILED</source>
+        <translation>لم يتم نسيان %1.</translation>
     </message>
     <message>
         <source>IDS_FORGET_SOME</source>
@@ -1224,6 +1240,10 @@
     <message>
         <source>IDS_FORGET_NO_ANSWER</source>
         <translation>لم ترد إجابة، لذلك لا يُعرف هل تم نسيان %1. هي باقية في قائمتك.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_NO_ANSWER</source>
+        <translation>لم ترد إجابة، لذلك لا يُعرف هل تم نسيان %1.</translation>
     </message>
     <message>
         <source>IDS_FORGET_STAYS</source>
@@ -1280,6 +1300,26 @@
     <message>
         <source>IDS_EDIT_END</source>
         <translation>نقل إلى آ&amp;خر القائمة</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_TO_PLACE</source>
+        <translation>نقل إلى &amp;موضع…</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_WINDOW</source>
+        <translation>نقل إلى موضع</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_OF_ONE</source>
+        <translation>الموضع الجديد لـ %1، من ١ (أول القائمة) إلى %2:</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_OF_SEVERAL</source>
+        <translation>الموضع الجديد لأولى هذه الشبكات (%1)، من ١ (أول القائمة) إلى %2. تليها الأخرى:</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_MOVE</source>
+        <translation>نقل</translation>
     </message>
     <message>
         <source>IDS_EDIT_REMOVE</source>

@@ -1175,10 +1175,6 @@ Erwartet: %3</translation>
         <translation>Es ist hier nicht gespeichert, daher gibt es nichts zu vergessen. Es lässt sich aus der Liste entfernen.</translation>
     </message>
     <message>
-        <source>IDS_FORGET_NOT_LISTED</source>
-        <translation>Es ist nicht in Ihrer Liste. Fügen Sie es erst hinzu, dann kann es hier vergessen werden.</translation>
-    </message>
-    <message>
         <source>IDS_FORGET_WINDOW</source>
         <translation>Netzwerk vergessen</translation>
     </message>
@@ -1207,6 +1203,18 @@ Erwartet: %3</translation>
         <translation>Sein Platz lässt sich zurückholen, sein Schlüssel nicht.</translation>
     </message>
     <message>
+        <source>IDS_FORGET_UNLISTED</source>
+        <translation>Es wird mit seinem Schlüssel auf diesem Computer vergessen. Es steht nicht in Ihrer Liste; diese bleibt, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_SEVERAL</source>
+        <translation>Auf diesem Computer werden alle Profile dieses Namens (%1) mit ihren Schlüsseln vergessen. Das Netzwerk steht nicht in Ihrer Liste; diese bleibt, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_FOR_GOOD</source>
+        <translation>Das lässt sich nicht rückgängig machen, und der Schlüssel lässt sich nicht zurückholen.</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_UNDER_WAY</source>
         <translation>Es wird vergessen.</translation>
     </message>
@@ -1215,8 +1223,16 @@ Erwartet: %3</translation>
         <translation>%1 vergessen. Der Platz in der Liste lässt sich zurückholen, der Schlüssel nicht.</translation>
     </message>
     <message>
+        <source>IDS_FORGET_UNLISTED_DONE</source>
+        <translation>%1 vergessen. Der Schlüssel lässt sich nicht zurückholen.</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_FAILED</source>
         <translation>%1 wurde nicht vergessen und bleibt in Ihrer Liste.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_FAILED</source>
+        <translation>%1 wurde nicht vergessen.</translation>
     </message>
     <message>
         <source>IDS_FORGET_SOME</source>
@@ -1225,6 +1241,10 @@ Erwartet: %3</translation>
     <message>
         <source>IDS_FORGET_NO_ANSWER</source>
         <translation>Es kam keine Antwort, daher ist nicht bekannt, ob %1 vergessen ist. Es bleibt in Ihrer Liste.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_NO_ANSWER</source>
+        <translation>Es kam keine Antwort, daher ist nicht bekannt, ob %1 vergessen ist.</translation>
     </message>
     <message>
         <source>IDS_FORGET_STAYS</source>
@@ -1281,6 +1301,26 @@ Erwartet: %3</translation>
     <message>
         <source>IDS_EDIT_END</source>
         <translation>Ans En&amp;de verschieben</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_TO_PLACE</source>
+        <translation>An einen &amp;Platz verschieben&#xa0;…</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_WINDOW</source>
+        <translation>An einen Platz verschieben</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_OF_ONE</source>
+        <translation>Neuer Platz von %1, von 1 (Anfang) bis %2:</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_OF_SEVERAL</source>
+        <translation>Neuer Platz des ersten dieser Netzwerke (%1), von 1 (Anfang) bis %2. Die anderen folgen ihm:</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_MOVE</source>
+        <translation>Verschieben</translation>
     </message>
     <message>
         <source>IDS_EDIT_REMOVE</source>

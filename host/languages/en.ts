@@ -1285,11 +1285,6 @@ Expected: %3</translation>
         <translation>It is not saved here, so there is nothing to forget. It can be removed from the list.</translation>
     </message>
     <message>
-        <source>IDS_FORGET_NOT_LISTED</source>
-        <extracomment>Why a saved network that is not in the list can't be forgotten here</extracomment>
-        <translation>It is not in your list. Add it to the list first, then it can be forgotten here.</translation>
-    </message>
-    <message>
         <source>IDS_FORGET_WINDOW</source>
         <extracomment>Title of the question</extracomment>
         <translation>Forget network</translation>
@@ -1325,6 +1320,21 @@ Expected: %3</translation>
         <translation>Its place can be brought back, its key can’t.</translation>
     </message>
     <message>
+        <source>IDS_FORGET_UNLISTED</source>
+        <extracomment>In the question, in the place of the three above, of a network that is not in the list</extracomment>
+        <translation>This computer will forget it with its key. It is not in your list, so your list stays as it is.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_SEVERAL</source>
+        <extracomment>The same, where several saved networks have the name; %1: how many, two at least</extracomment>
+        <translation>This computer will forget all %1 profiles of that name with their keys. It is not in your list, so your list stays as it is.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_FOR_GOOD</source>
+        <extracomment>Behind that</extracomment>
+        <translation>This can’t be undone, and its key can’t be brought back.</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_UNDER_WAY</source>
         <extracomment>In the dialog, once Forget was pressed</extracomment>
         <translation>It is being forgotten.</translation>
@@ -1335,9 +1345,19 @@ Expected: %3</translation>
         <translation>Forgot %1. Its place in the list can be brought back, its key can’t.</translation>
     </message>
     <message>
+        <source>IDS_FORGET_UNLISTED_DONE</source>
+        <extracomment>The same, of a network that was not in the list</extracomment>
+        <translation>Forgot %1. Its key can’t be brought back.</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_FAILED</source>
         <extracomment>In the dialog; a reason may follow. %1: a network</extracomment>
         <translation>%1 was not forgotten. It stays in your list.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_FAILED</source>
+        <extracomment>The same, of a network that is not in the list</extracomment>
+        <translation>%1 was not forgotten.</translation>
     </message>
     <message>
         <source>IDS_FORGET_SOME</source>
@@ -1348,6 +1368,11 @@ Expected: %3</translation>
         <source>IDS_FORGET_NO_ANSWER</source>
         <extracomment>In the dialog; %1: a network</extracomment>
         <translation>There was no answer, so it is not known if %1 is forgotten. It stays in your list.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_NO_ANSWER</source>
+        <extracomment>The same, of a network that is not in the list</extracomment>
+        <translation>There was no answer, so it is not known if %1 is forgotten.</translation>
     </message>
     <message>
         <source>IDS_FORGET_STAYS</source>
@@ -1408,6 +1433,31 @@ Expected: %3</translation>
     <message>
         <source>IDS_EDIT_END</source>
         <translation>Move to e&amp;nd</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_TO_PLACE</source>
+        <extracomment>In the same menus; asks for the place</extracomment>
+        <translation>&amp;Move to place…</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_WINDOW</source>
+        <extracomment>Title of the dialog that asks for the place</extracomment>
+        <translation>Move to place</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_OF_ONE</source>
+        <extracomment>In that dialog, above a box with a number; %1: a network; %2: the last place</extracomment>
+        <translation>New place of %1, from 1 (the top) to %2:</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_OF_SEVERAL</source>
+        <extracomment>In the place of that, where several are moved together; %1: how many, two at least; %2: the last place that the first of them can get</extracomment>
+        <translation>New place of the first of these %1 networks, from 1 (the top) to %2. The others follow it:</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_MOVE</source>
+        <extracomment>Button of that dialog</extracomment>
+        <translation>Move</translation>
     </message>
     <message>
         <source>IDS_EDIT_REMOVE</source>

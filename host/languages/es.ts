@@ -1175,10 +1175,6 @@ Esperado: %3</translation>
         <translation>No está guardada aquí, así que no hay nada que olvidar. Se puede quitar de la lista.</translation>
     </message>
     <message>
-        <source>IDS_FORGET_NOT_LISTED</source>
-        <translation>No está en su lista. Añádala primero; después se puede olvidar aquí.</translation>
-    </message>
-    <message>
         <source>IDS_FORGET_WINDOW</source>
         <translation>Olvidar red</translation>
     </message>
@@ -1207,6 +1203,18 @@ Esperado: %3</translation>
         <translation>Su puesto se puede recuperar; su clave, no.</translation>
     </message>
     <message>
+        <source>IDS_FORGET_UNLISTED</source>
+        <translation>Este equipo la olvidará con su clave. No está en su lista, así que la lista queda como está.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_SEVERAL</source>
+        <translation>Este equipo olvidará todos los perfiles con ese nombre (%1) y sus claves. La red no está en su lista, así que la lista queda como está.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_FOR_GOOD</source>
+        <translation>Esto no se puede deshacer, y su clave no se puede recuperar.</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_UNDER_WAY</source>
         <translation>Se está olvidando.</translation>
     </message>
@@ -1215,8 +1223,16 @@ Esperado: %3</translation>
         <translation>%1 se ha olvidado. Su puesto en la lista se puede recuperar; su clave, no.</translation>
     </message>
     <message>
+        <source>IDS_FORGET_UNLISTED_DONE</source>
+        <translation>%1 se ha olvidado. Su clave no se puede recuperar.</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_FAILED</source>
         <translation>%1 no se ha olvidado. Sigue en su lista.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_FAILED</source>
+        <translation>%1 no se ha olvidado.</translation>
     </message>
     <message>
         <source>IDS_FORGET_SOME</source>
@@ -1225,6 +1241,10 @@ Esperado: %3</translation>
     <message>
         <source>IDS_FORGET_NO_ANSWER</source>
         <translation>No hubo respuesta, así que no se sabe si %1 se ha olvidado. Sigue en su lista.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_NO_ANSWER</source>
+        <translation>No hubo respuesta, así que no se sabe si %1 se ha olvidado.</translation>
     </message>
     <message>
         <source>IDS_FORGET_STAYS</source>
@@ -1281,6 +1301,26 @@ Esperado: %3</translation>
     <message>
         <source>IDS_EDIT_END</source>
         <translation>Mover al &amp;final</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_TO_PLACE</source>
+        <translation>&amp;Mover a un puesto…</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_WINDOW</source>
+        <translation>Mover a un puesto</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_OF_ONE</source>
+        <translation>Nuevo puesto de %1, de 1 (el principio) a %2:</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_OF_SEVERAL</source>
+        <translation>Nuevo puesto de la primera de estas redes (%1), de 1 (el principio) a %2. Las demás la siguen:</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_MOVE</source>
+        <translation>Mover</translation>
     </message>
     <message>
         <source>IDS_EDIT_REMOVE</source>

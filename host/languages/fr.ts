@@ -1175,10 +1175,6 @@ Attendu&#xa0;: %3</translation>
         <translation>Il n’est pas enregistré ici&#x202f;; il n’y a donc rien à oublier. Il peut être retiré de la liste.</translation>
     </message>
     <message>
-        <source>IDS_FORGET_NOT_LISTED</source>
-        <translation>Il n’est pas dans votre liste. Ajoutez-le d’abord, il pourra alors être oublié ici.</translation>
-    </message>
-    <message>
         <source>IDS_FORGET_WINDOW</source>
         <translation>Oublier le réseau</translation>
     </message>
@@ -1207,6 +1203,18 @@ Attendu&#xa0;: %3</translation>
         <translation>Son rang peut être récupéré, pas sa clé.</translation>
     </message>
     <message>
+        <source>IDS_FORGET_UNLISTED</source>
+        <translation>Cet ordinateur l’oubliera avec sa clé. Il n’est pas dans votre liste, qui reste telle quelle.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_SEVERAL</source>
+        <translation>Cet ordinateur oubliera tous les profils de ce nom (%1) avec leurs clés. Le réseau n’est pas dans votre liste, qui reste telle quelle.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_FOR_GOOD</source>
+        <translation>Cela ne peut pas être annulé, et sa clé ne peut pas être récupérée.</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_UNDER_WAY</source>
         <translation>Oubli en cours.</translation>
     </message>
@@ -1215,8 +1223,16 @@ Attendu&#xa0;: %3</translation>
         <translation>%1 oublié. Son rang dans la liste peut être récupéré, pas sa clé.</translation>
     </message>
     <message>
+        <source>IDS_FORGET_UNLISTED_DONE</source>
+        <translation>%1 oublié. Sa clé ne peut pas être récupérée.</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_FAILED</source>
         <translation>%1 n’a pas été oublié et reste dans votre liste.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_FAILED</source>
+        <translation>%1 n’a pas été oublié.</translation>
     </message>
     <message>
         <source>IDS_FORGET_SOME</source>
@@ -1225,6 +1241,10 @@ Attendu&#xa0;: %3</translation>
     <message>
         <source>IDS_FORGET_NO_ANSWER</source>
         <translation>Il n’y a pas eu de réponse&#x202f;; on ne sait donc pas si %1 est oublié. Il reste dans votre liste.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_NO_ANSWER</source>
+        <translation>Il n’y a pas eu de réponse&#x202f;; on ne sait donc pas si %1 est oublié.</translation>
     </message>
     <message>
         <source>IDS_FORGET_STAYS</source>
@@ -1281,6 +1301,26 @@ Attendu&#xa0;: %3</translation>
     <message>
         <source>IDS_EDIT_END</source>
         <translation>Placer à la &amp;fin</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_TO_PLACE</source>
+        <translation>Placer à un ran&amp;g…</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_WINDOW</source>
+        <translation>Placer à un rang</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_OF_ONE</source>
+        <translation>Nouveau rang de %1, de 1 (la tête) à %2&#xa0;:</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_OF_SEVERAL</source>
+        <translation>Nouveau rang du premier de ces réseaux (%1), de 1 (la tête) à %2. Les autres le suivent&#xa0;:</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_MOVE</source>
+        <translation>Placer</translation>
     </message>
     <message>
         <source>IDS_EDIT_REMOVE</source>

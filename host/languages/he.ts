@@ -1174,10 +1174,6 @@
         <translation>היא אינה שמורה כאן, ולכן אין צורך בשכחה. אפשר להסיר אותה מהרשימה.</translation>
     </message>
     <message>
-        <source>IDS_FORGET_NOT_LISTED</source>
-        <translation>היא לא ברשימה שלך. אפשר להוסיף אותה קודם, ואז לשכוח אותה כאן.</translation>
-    </message>
-    <message>
         <source>IDS_FORGET_WINDOW</source>
         <translation>שכחת הרשת</translation>
     </message>
@@ -1206,6 +1202,18 @@
         <translation>אפשר להחזיר את המקום שלה, אבל לא את המפתח.</translation>
     </message>
     <message>
+        <source>IDS_FORGET_UNLISTED</source>
+        <translation>המחשב הזה ישכח אותה עם המפתח שלה. היא לא ברשימה שלך, ולכן הרשימה נשארת כפי שהיא.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_SEVERAL</source>
+        <translation>המחשב הזה ישכח את כל הפרופילים בשם הזה (%1) עם כל מפתח שלהם. הרשת לא ברשימה שלך, ולכן הרשימה נשארת כפי שהיא.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_FOR_GOOD</source>
+        <translation>אי אפשר לבטל את זה, ואי אפשר להחזיר את המפתח.</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_UNDER_WAY</source>
         <translation>השכחה מתבצעת.</translation>
     </message>
@@ -1214,8 +1222,16 @@
         <translation>בוצעה שכחה של %1. אפשר להחזיר את המקום ברשימה, אבל לא את המפתח.</translation>
     </message>
     <message>
+        <source>IDS_FORGET_UNLISTED_DONE</source>
+        <translation>בוצעה שכחה של %1. אי אפשר להחזיר את המפתח.</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_FAILED</source>
         <translation>לא בוצעה שכחה של %1, והיא נשארת ברשימה שלך.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_FAILED</source>
+        <translation>לא בוצעה שכחה של %1.</translation>
     </message>
     <message>
         <source>IDS_FORGET_SOME</source>
@@ -1224,6 +1240,10 @@
     <message>
         <source>IDS_FORGET_NO_ANSWER</source>
         <translation>לא התקבלה תשובה, ולכן לא ידוע אם בוצעה שכחה של %1. היא נשארת ברשימה שלך.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_NO_ANSWER</source>
+        <translation>לא התקבלה תשובה, ולכן לא ידוע אם בוצעה שכחה של %1.</translation>
     </message>
     <message>
         <source>IDS_FORGET_STAYS</source>
@@ -1280,6 +1300,26 @@
     <message>
         <source>IDS_EDIT_END</source>
         <translation>העברה ל&amp;סוף הרשימה</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_TO_PLACE</source>
+        <translation>העברה למ&amp;קום…</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_WINDOW</source>
+        <translation>העברה למקום</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_OF_ONE</source>
+        <translation>המקום החדש של %1, מ-1 (ראש הרשימה) עד %2:</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_OF_SEVERAL</source>
+        <translation>המקום החדש של הרשת הראשונה מבין אלה (%1), מ-1 (ראש הרשימה) עד %2. האחרות באות אחריה:</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_MOVE</source>
+        <translation>העברה</translation>
     </message>
     <message>
         <source>IDS_EDIT_REMOVE</source>

@@ -1175,10 +1175,6 @@
         <translation>ここでは未登録なので、破棄するものはありません。リストから削除できます。</translation>
     </message>
     <message>
-        <source>IDS_FORGET_NOT_LISTED</source>
-        <translation>リストにありません。まずリストに追加すると、ここで破棄できます。</translation>
-    </message>
-    <message>
         <source>IDS_FORGET_WINDOW</source>
         <translation>ネットワークの破棄</translation>
     </message>
@@ -1207,6 +1203,18 @@
         <translation>順位は取り戻せますが、キーは取り戻せません。</translation>
     </message>
     <message>
+        <source>IDS_FORGET_UNLISTED</source>
+        <translation>このコンピューターからキーとともに破棄されます。リストにはないため、リストは変わりません。</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_SEVERAL</source>
+        <translation>このコンピューターから、この名前のプロファイル %1 件すべてがキーとともに破棄されます。このネットワークはリストにないため、リストは変わりません。</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_FOR_GOOD</source>
+        <translation>これは元に戻せません。キーも取り戻せません。</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_UNDER_WAY</source>
         <translation>破棄しています。</translation>
     </message>
@@ -1215,8 +1223,16 @@
         <translation>%1 を破棄しました。リスト内の順位は取り戻せますが、キーは取り戻せません。</translation>
     </message>
     <message>
+        <source>IDS_FORGET_UNLISTED_DONE</source>
+        <translation>%1 を破棄しました。キーは取り戻せません。</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_FAILED</source>
         <translation>%1 は破棄されず、リストに残っています。</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_FAILED</source>
+        <translation>%1 は破棄されませんでした。</translation>
     </message>
     <message>
         <source>IDS_FORGET_SOME</source>
@@ -1225,6 +1241,10 @@
     <message>
         <source>IDS_FORGET_NO_ANSWER</source>
         <translation>応答がなかったため、%1 が破棄されたかどうか不明です。リストには残っています。</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_NO_ANSWER</source>
+        <translation>応答がなかったため、%1 が破棄されたかどうか不明です。</translation>
     </message>
     <message>
         <source>IDS_FORGET_STAYS</source>
@@ -1281,6 +1301,26 @@
     <message>
         <source>IDS_EDIT_END</source>
         <translation>末尾へ移動(&amp;N)</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_TO_PLACE</source>
+        <translation>順位を指定して移動(&amp;M)…</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_WINDOW</source>
+        <translation>順位を指定して移動</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_OF_ONE</source>
+        <translation>%1 の新しい順位（1（先頭）から %2 まで）:</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_OF_SEVERAL</source>
+        <translation>これらのネットワーク（%1 件）の最初のものの新しい順位（1（先頭）から %2 まで）。ほかはその後に続きます:</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_MOVE</source>
+        <translation>移動</translation>
     </message>
     <message>
         <source>IDS_EDIT_REMOVE</source>

@@ -1175,10 +1175,6 @@ Esperado: %3</translation>
         <translation>Ela não está salva aqui, por isso não há nada a esquecer. Ela pode ser removida da lista.</translation>
     </message>
     <message>
-        <source>IDS_FORGET_NOT_LISTED</source>
-        <translation>Ela não está na sua lista. Adicione-a primeiro; depois ela pode ser esquecida aqui.</translation>
-    </message>
-    <message>
         <source>IDS_FORGET_WINDOW</source>
         <translation>Esquecer rede</translation>
     </message>
@@ -1207,6 +1203,18 @@ Esperado: %3</translation>
         <translation>A posição dela pode ser recuperada; a chave, não.</translation>
     </message>
     <message>
+        <source>IDS_FORGET_UNLISTED</source>
+        <translation>Este computador a esquecerá com a sua chave. Ela não está na sua lista, que fica como está.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_SEVERAL</source>
+        <translation>Este computador esquecerá todos os perfis com esse nome (%1) e as suas chaves. A rede não está na sua lista, que fica como está.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_FOR_GOOD</source>
+        <translation>Isso não pode ser desfeito, e a chave dela não pode ser recuperada.</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_UNDER_WAY</source>
         <translation>Ela está sendo esquecida.</translation>
     </message>
@@ -1215,8 +1223,16 @@ Esperado: %3</translation>
         <translation>%1 foi esquecida. A posição na lista pode ser recuperada; a chave, não.</translation>
     </message>
     <message>
+        <source>IDS_FORGET_UNLISTED_DONE</source>
+        <translation>%1 foi esquecida. A chave não pode ser recuperada.</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_FAILED</source>
         <translation>%1 não foi esquecida. Ela continua na sua lista.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_FAILED</source>
+        <translation>%1 não foi esquecida.</translation>
     </message>
     <message>
         <source>IDS_FORGET_SOME</source>
@@ -1225,6 +1241,10 @@ Esperado: %3</translation>
     <message>
         <source>IDS_FORGET_NO_ANSWER</source>
         <translation>Não houve resposta, portanto não se sabe se %1 foi esquecida. Ela continua na sua lista.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_NO_ANSWER</source>
+        <translation>Não houve resposta, portanto não se sabe se %1 foi esquecida.</translation>
     </message>
     <message>
         <source>IDS_FORGET_STAYS</source>
@@ -1281,6 +1301,26 @@ Esperado: %3</translation>
     <message>
         <source>IDS_EDIT_END</source>
         <translation>Mover para o fi&amp;m</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_TO_PLACE</source>
+        <translation>Mover para uma &amp;posição…</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_WINDOW</source>
+        <translation>Mover para uma posição</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_OF_ONE</source>
+        <translation>Nova posição de %1, de 1 (o topo) a %2:</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_OF_SEVERAL</source>
+        <translation>Nova posição da primeira destas redes (%1), de 1 (o topo) a %2. As outras vêm depois dela:</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_MOVE</source>
+        <translation>Mover</translation>
     </message>
     <message>
         <source>IDS_EDIT_REMOVE</source>

@@ -1175,10 +1175,6 @@
         <translation>Она здесь не сохранена, поэтому забыть нечего. Её можно убрать из списка.</translation>
     </message>
     <message>
-        <source>IDS_FORGET_NOT_LISTED</source>
-        <translation>Её нет в вашем списке. Сначала добавьте её, тогда её можно будет забыть здесь.</translation>
-    </message>
-    <message>
         <source>IDS_FORGET_WINDOW</source>
         <translation>Забыть сеть</translation>
     </message>
@@ -1207,6 +1203,18 @@
         <translation>Её место можно вернуть, ключ – нет.</translation>
     </message>
     <message>
+        <source>IDS_FORGET_UNLISTED</source>
+        <translation>Она будет забыта на этом компьютере вместе с ключом. В вашем списке её нет, и он не изменится.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_SEVERAL</source>
+        <translation>На этом компьютере будут забыты все профили с этим именем (%1) вместе с ключами. Этой сети нет в вашем списке, и он не изменится.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_FOR_GOOD</source>
+        <translation>Это нельзя отменить, и ключ вернуть нельзя.</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_UNDER_WAY</source>
         <translation>Сеть забывается.</translation>
     </message>
@@ -1215,8 +1223,16 @@
         <translation>Сеть %1 забыта. Место в списке можно вернуть, ключ – нет.</translation>
     </message>
     <message>
+        <source>IDS_FORGET_UNLISTED_DONE</source>
+        <translation>Сеть %1 забыта. Ключ вернуть нельзя.</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_FAILED</source>
         <translation>Сеть %1 не забыта и остаётся в вашем списке.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_FAILED</source>
+        <translation>Сеть %1 не забыта.</translation>
     </message>
     <message>
         <source>IDS_FORGET_SOME</source>
@@ -1225,6 +1241,10 @@
     <message>
         <source>IDS_FORGET_NO_ANSWER</source>
         <translation>Ответа не было, поэтому неизвестно, забыта ли сеть %1. Она остаётся в вашем списке.</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_NO_ANSWER</source>
+        <translation>Ответа не было, поэтому неизвестно, забыта ли сеть %1.</translation>
     </message>
     <message>
         <source>IDS_FORGET_STAYS</source>
@@ -1281,6 +1301,26 @@
     <message>
         <source>IDS_EDIT_END</source>
         <translation>Переместить в &amp;конец</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_TO_PLACE</source>
+        <translation>Переместить на &amp;место…</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_WINDOW</source>
+        <translation>Переместить на место</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_OF_ONE</source>
+        <translation>Новое место сети %1, от 1 (начало) до %2:</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_OF_SEVERAL</source>
+        <translation>Новое место первой из этих сетей (%1), от 1 (начало) до %2. Остальные идут за ней:</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_MOVE</source>
+        <translation>Переместить</translation>
     </message>
     <message>
         <source>IDS_EDIT_REMOVE</source>

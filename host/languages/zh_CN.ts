@@ -1175,10 +1175,6 @@
         <translation>它没有保存在此处，因此没有可忘记的内容。可以将它从列表中移除。</translation>
     </message>
     <message>
-        <source>IDS_FORGET_NOT_LISTED</source>
-        <translation>它不在您的列表中。请先添加，然后可以在此忘记它。</translation>
-    </message>
-    <message>
         <source>IDS_FORGET_WINDOW</source>
         <translation>忘记网络</translation>
     </message>
@@ -1207,6 +1203,18 @@
         <translation>它的位置可以找回，密钥不能。</translation>
     </message>
     <message>
+        <source>IDS_FORGET_UNLISTED</source>
+        <translation>此计算机将忘记它和它的密钥。它不在您的列表中，列表保持不变。</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_SEVERAL</source>
+        <translation>此计算机将忘记此名称的全部 %1 个配置及其密钥。此网络不在您的列表中，列表保持不变。</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_FOR_GOOD</source>
+        <translation>此操作无法撤销，密钥无法找回。</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_UNDER_WAY</source>
         <translation>正在忘记。</translation>
     </message>
@@ -1215,8 +1223,16 @@
         <translation>已忘记 %1。列表中的位置可以找回，密钥不能。</translation>
     </message>
     <message>
+        <source>IDS_FORGET_UNLISTED_DONE</source>
+        <translation>已忘记 %1。密钥无法找回。</translation>
+    </message>
+    <message>
         <source>IDS_FORGET_FAILED</source>
         <translation>%1 未被忘记，仍在您的列表中。</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_FAILED</source>
+        <translation>%1 未被忘记。</translation>
     </message>
     <message>
         <source>IDS_FORGET_SOME</source>
@@ -1225,6 +1241,10 @@
     <message>
         <source>IDS_FORGET_NO_ANSWER</source>
         <translation>没有应答，因此不知道 %1 是否已被忘记。它仍在您的列表中。</translation>
+    </message>
+    <message>
+        <source>IDS_FORGET_UNLISTED_NO_ANSWER</source>
+        <translation>没有应答，因此不知道 %1 是否已被忘记。</translation>
     </message>
     <message>
         <source>IDS_FORGET_STAYS</source>
@@ -1281,6 +1301,26 @@
     <message>
         <source>IDS_EDIT_END</source>
         <translation>移到末尾(&amp;N)</translation>
+    </message>
+    <message>
+        <source>IDS_EDIT_TO_PLACE</source>
+        <translation>移到指定位置(&amp;M)…</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_WINDOW</source>
+        <translation>移到指定位置</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_OF_ONE</source>
+        <translation>%1 的新位置，从 1（顶部）到 %2：</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_OF_SEVERAL</source>
+        <translation>这些网络（%1 个）中第一个的新位置，从 1（顶部）到 %2。其余的排在它后面：</translation>
+    </message>
+    <message>
+        <source>IDS_PLACE_MOVE</source>
+        <translation>移动</translation>
     </message>
     <message>
         <source>IDS_EDIT_REMOVE</source>

@@ -4,6 +4,7 @@
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
+#include <QAbstractSpinBox>
 #include <QApplication>
 #include <QComboBox>
 #include <QHeaderView>
@@ -19,7 +20,8 @@ const int mostStops = 100;
 bool IsControl(const QWidget *widget)
 {
     return qobject_cast<const QAbstractButton *>(widget) || qobject_cast<const QComboBox *>(widget) ||
-           qobject_cast<const QLineEdit *>(widget) || qobject_cast<const QPlainTextEdit *>(widget) ||
+           qobject_cast<const QAbstractSpinBox *>(widget) || qobject_cast<const QLineEdit *>(widget) ||
+           qobject_cast<const QPlainTextEdit *>(widget) ||
            (qobject_cast<const QAbstractItemView *>(widget) && !qobject_cast<const QHeaderView *>(widget));
 }
 
@@ -59,7 +61,7 @@ QList<QWidget *> TabStops::Controls(QWidget *window)
 bool TabStops::IsPartOfABox(const QObject *object)
 {
     for (const QObject *parent = object->parent(); parent; parent = parent->parent()) {
-        if (qobject_cast<const QComboBox *>(parent)) {
+        if (qobject_cast<const QComboBox *>(parent) || qobject_cast<const QAbstractSpinBox *>(parent)) {
             return true;
         }
     }

@@ -5,6 +5,7 @@
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
+#include <QAbstractSpinBox>
 #include <QAccessible>
 #include <QApplication>
 #include <QCheckBox>
@@ -52,6 +53,7 @@ bool IsWorkedWith(QAccessible::Role role)
     case QAccessible::RadioButton:
     case QAccessible::EditableText:
     case QAccessible::ComboBox:
+    case QAccessible::SpinBox:
     case QAccessible::List:
     case QAccessible::ListItem:
     case QAccessible::Table:
@@ -138,6 +140,9 @@ QAccessible::Role RoleOf(const QWidget *control)
     }
     if (qobject_cast<const QComboBox *>(control)) {
         return QAccessible::ComboBox;
+    }
+    if (qobject_cast<const QAbstractSpinBox *>(control)) {
+        return QAccessible::SpinBox;
     }
     if (qobject_cast<const QLineEdit *>(control) || qobject_cast<const QPlainTextEdit *>(control)) {
         return QAccessible::EditableText;
@@ -474,6 +479,7 @@ void TestAccessibility::menuItemsTellTheirState()
         told.join(", "),
         QString::fromUtf8("Undo off, Redo off, Earlier lists… on, Import list… on, "
                           "Export list… on, Move up off, Move down off, Move to top off, Move to end off, "
+                          "Move to place… off, "
                           "Remove from list off, Add to list off, Details… off, Forget network… off, "
                           "Find a network off, Settings… on"));
 }

@@ -280,10 +280,14 @@ const Screens::Screen Screens::screens[] = {
     {"not forgotten, several", &Screens::ShowForgetting, "some"},
     {"not forgotten, no answer", &Screens::ShowForgetting, "no answer"},
     {"forgotten, list not written", &Screens::ShowForgetting, "stays"},
+    {"question, forget, not listed", &Screens::ShowForgetting, "unlisted, "},
+    {"question, forget several, not listed", &Screens::ShowForgetting, "unlisted, several"},
+    {"list, one forgotten that was not listed", &Screens::ShowForgetting, "unlisted, done"},
+    {"not forgotten, not listed", &Screens::ShowForgetting, "unlisted, failed"},
+    {"not forgotten, no answer, not listed", &Screens::ShowForgetting, "unlisted, no answer"},
     {"Edit menu, network saved", &Screens::ShowForgetting, "menu"},
     {"Edit menu, network not saved", &Screens::ShowForgetting, "menu, not saved"},
     {"Edit menu, networks not known", &Screens::ShowForgetting, "menu, not known"},
-    {"Edit menu, network not listed", &Screens::ShowForgetting, "menu, not listed"},
     {"list, plug-in missing while connected", &Screens::ShowConnections, "no list"},
     {"list, not handed out", &Screens::ShowListNotHandedOut, "QueryNull"},
     {"list, damaged", &Screens::ShowListFile, damagedList},
@@ -336,6 +340,8 @@ const Screens::Screen Screens::screens[] = {
     {"list, something found", &Screens::ShowFind, "o"},
     {"list, nothing found", &Screens::ShowFind, "no network has this"},
     {"menu of a network", &Screens::ShowEntryMenu, nullptr},
+    {"question, place", &Screens::ShowPlace, ""},
+    {"question, place of several", &Screens::ShowPlace, "several"},
     {"notice, network no longer in the list", &Screens::ShowGoneNetwork, nullptr},
     {"Network menu", &Screens::ShowMenu, "networkMenu"},
     {"Edit menu", &Screens::ShowMenu, "editMenu"},
@@ -691,7 +697,9 @@ void Screens::ShowDetails(const char *what)
 
 void Screens::ShowForgetting(const char *what)
 {
-    const QByteArray shown(what);
+    const QByteArray unlisted("unlisted, ");
+    const bool isListed = !QByteArray(what).startsWith(unlisted);
+    const QByteArray shown = QByteArray(what).mid(isListed ? 0 : unlisted.size());
     FakeConnections connections;
     FillWithProfiles(shown == "several" || shown == "some" ? 2 : 1, &connections);
     if (shown == "several") {
@@ -701,13 +709,13 @@ void Screens::ShowForgetting(const char *what)
     } else if (shown == "menu, not known") {
         connections.told.state.source = ConnectionState::SourceNotKnown;
     }
-    const QLatin1String listed(shown == "menu, not listed" ? "Office" : "Home, Office");
+    const QLatin1String listed(isListed ? "Home, Office" : "Office");
     WriteUserFile(QLatin1String("Priority.xml"), OrderFile::Document(Listed(listed)));
     WithConnections container(m_plugins.data(), &connections);
     HostControl::SetPluginContainer(&container);
     OpenWindow(m_plugins.data());
     QListWidget *list = Child<QListWidget>("overviewList");
-    list->setCurrentRow(shown == "menu, not listed" ? list->count() - 1 : 0);
+    list->setCurrentRow(isListed ? 0 : list->count() - 1);
     if (shown.startsWith("menu")) {
         Child<QMenu>("editMenu")->popup(m_window->pos());
     } else {
@@ -816,6 +824,15 @@ void Screens::ShowStatusMenu(const char *)
     icon.Menu()->popup(m_window->pos());
     Visit();
     icon.Menu()->close();
+}
+
+void Screens::ShowPlace(const char *selected)
+{
+    OpenListAt(0);
+    QListWidget *list = Child<QListWidget>("overviewList");
+    list->item(1)->setSelected(*selected != '\0');
+    Trigger("movePlaceAction");
+    Visit();
 }
 
 void Screens::ShowGoneNetwork(const char *)

@@ -71,6 +71,7 @@ private:
     void ShowMoved(const char *);
     void ShowEntryMenu(const char *);
     void ShowStatusMenu(const char *);
+    void ShowPlace(const char *selected);
     void ShowFind(const char *typed);
     void ShowGoneNetwork(const char *);
     void ShowTwoMessages(const char *listFile);

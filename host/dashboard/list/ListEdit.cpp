@@ -66,6 +66,15 @@ int ListEdit::PlaceOfMoved(const QList<int> &places, int before, int size)
     return qBound(0, place, size - static_cast<int>(places.size()));
 }
 
+int ListEdit::BeforeForPlace(const QList<int> &places, int place, int size)
+{
+    int before = 0;
+    while (before < size && PlaceOfMoved(places, before, size) < place) {
+        ++before;
+    }
+    return before;
+}
+
 QList<PriorityList> ListEdit::Moved(const QList<PriorityList> &list, const QList<int> &places, int before)
 {
     QList<PriorityList> moved;

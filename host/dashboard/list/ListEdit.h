@@ -36,6 +36,10 @@ QList<PriorityList> Moved(const QList<PriorityList> &list, const QList<int> &pla
 /** The place of the first of them then, in a list of that size. */
 int PlaceOfMoved(const QList<int> &places, int before, int size);
 
+/** Before which place entries at places, which rise, go for the first of them to get to that place, in a list
+ * of that size. */
+int BeforeForPlace(const QList<int> &places, int place, int size);
+
 /** Without the entries at places, which rise. */
 QList<PriorityList> Removed(const QList<PriorityList> &list, const QList<int> &places);
 

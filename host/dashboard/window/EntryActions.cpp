@@ -1,6 +1,7 @@
 #include "EntryActions.h"
 
 #include "NetworkList.h"
+#include "PlaceDialog.h"
 
 #include <ArrowButton.h>
 #include <DashboardText.h>
@@ -60,13 +61,14 @@ int End(const QList<int> &, const QList<PriorityList> &list)
 } // namespace
 
 EntryActions::EntryActions(ListKeeper *keeper, NetworkList *list, QWidget *window)
-    : QObject(window), m_keeper(keeper), m_list(list), m_menu(new QMenu(window)),
+    : QObject(window), m_window(window), m_keeper(keeper), m_list(list), m_menu(new QMenu(window)),
       m_connect(CreateAction("entryConnectAction", QKeySequence()))
 {
     AddMove("moveUpAction", "Alt+Up", Higher, true);
     AddMove("moveDownAction", "Alt+Down", Lower, true);
     AddMove("moveTopAction", "Alt+Home", Top, false);
     AddMove("moveEndAction", "Alt+End", End, false);
+    m_place = CreateAction("movePlaceAction", QKeySequence());
     m_remove = CreateAction("removeAction", QKeySequence(Qt::Key_Delete));
     m_add = CreateAction("addAction", QKeySequence());
     m_menu->setObjectName(QLatin1String("entryMenu"));
@@ -76,6 +78,7 @@ EntryActions::EntryActions(ListKeeper *keeper, NetworkList *list, QWidget *windo
     FillMenu(m_menu);
     m_menu->addSeparator();
     connect(m_connect, &QAction::triggered, this, &EntryActions::Connect);
+    connect(m_place, &QAction::triggered, this, &EntryActions::OpenPlace);
     connect(m_remove, &QAction::triggered, this, &EntryActions::Remove);
     connect(m_add, &QAction::triggered, this, &EntryActions::Add);
     connect(m_list, &NetworkList::ConnectWanted, m_connect, &QAction::trigger);
@@ -110,6 +113,7 @@ void EntryActions::FillMenu(QMenu *menu)
     for (const MoveAction &move : std::as_const(m_moves)) {
         menu->addAction(move.action);
     }
+    menu->addAction(m_place);
     menu->addSeparator();
     menu->addAction(m_remove);
     menu->addAction(m_add);
@@ -142,9 +146,13 @@ void EntryActions::Retranslate()
         SetText(m_moves.at(i).action, moves[i]);
     }
     SetText(m_connect, "IDS_EDIT_CONNECT");
+    SetText(m_place, "IDS_EDIT_TO_PLACE");
     SetText(m_remove, "IDS_EDIT_REMOVE");
     SetText(m_add, "IDS_UNLISTED_ADD");
     m_list->setAccessibleDescription(QString());
+    if (m_placeDialog) {
+        m_placeDialog->Retranslate();
+    }
     Update();
 }
 
@@ -191,6 +199,13 @@ QString EntryActions::MoveObstacle(const MoveAction &move) const
     return isThere ? DashboardText("IDS_EDIT_IN_PLACE") : QString();
 }
 
+QString EntryActions::PlaceObstacle() const
+{
+    const QString obstacle = SelectionObstacle();
+    const bool isAll = m_list->Selected().size() >= m_keeper->Entries().size();
+    return obstacle.isNull() && isAll ? DashboardText("IDS_EDIT_IN_PLACE") : obstacle;
+}
+
 bool EntryActions::CanConnect() const
 {
     const Overview::Entry *entry = m_list->Current(m_overview);
@@ -203,6 +218,7 @@ void EntryActions::Update()
     for (const MoveAction &move : std::as_const(m_moves)) {
         SetHelp(move.action, MoveObstacle(move));
     }
+    SetHelp(m_place, PlaceObstacle());
     SetHelp(m_remove, SelectionObstacle());
     const QString obstacle = ListKeeperText::Reason(*m_keeper, m_keeper->EditObstacle());
     const bool isNone = m_list->SelectedUnlisted().isEmpty();
@@ -243,6 +259,22 @@ void EntryActions::Place(const QList<ListedEntry> &entries, const QList<Priority
         return changed;
     });
     m_list->Select(placed);
+}
+
+void EntryActions::OpenPlace()
+{
+    if (!m_place->isEnabled() || m_placeDialog) {
+        return;
+    }
+    const QList<ListedEntry> entries = m_list->Selected();
+    m_placeDialog = new PlaceDialog(entries, m_keeper, m_window);
+    m_placeDialog->setModal(true);
+    connect(m_placeDialog.data(), &PlaceDialog::Chosen, this, [this, entries](int place) {
+        Place(entries, {}, [place](const QList<int> &places, const QList<PriorityList> &list) {
+            return ListEdit::BeforeForPlace(places, place, static_cast<int>(list.size()));
+        });
+    });
+    m_placeDialog->show();
 }
 
 void EntryActions::Add()

@@ -7,11 +7,13 @@
 
 #include <QList>
 #include <QObject>
+#include <QPointer>
 #include <QString>
 
 #include <functional>
 
 class NetworkList;
+class PlaceDialog;
 class QAction;
 class QKeySequence;
 class QMenu;
@@ -69,6 +71,7 @@ private:
     void Connect();
     /** Puts what is in the list, and behind it what is not, to that goal. */
     void Place(const QList<ListedEntry> &entries, const QList<PriorityList> &unlisted, const Goal &goal);
+    void OpenPlace();
     void Add();
     void Drop(int row);
     void Remove();
@@ -76,18 +79,22 @@ private:
     void Announce(const ListState &before, const ListState &after);
     bool CanConnect() const;
     QString MoveObstacle(const MoveAction &move) const;
+    QString PlaceObstacle() const;
     QString SelectionObstacle() const;
     static void SetText(QAction *action, const char *id);
     static void SetHelp(QAction *action, const QString &obstacle);
 
+    QWidget *const m_window;
     ListKeeper *const m_keeper;
     NetworkList *const m_list;
     Overview m_overview;
     QMenu *m_menu;
     QAction *m_connect;
     QList<MoveAction> m_moves;
+    QAction *m_place = nullptr;
     QAction *m_remove = nullptr;
     QAction *m_add = nullptr;
+    QPointer<PlaceDialog> m_placeDialog;
 };
 
 #endif

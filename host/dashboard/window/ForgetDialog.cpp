@@ -112,12 +112,17 @@ void ForgetDialog::Ask(const Connections &connections)
         reject();
         return;
     }
+    // What a list that can't be read in full lacks may be in it all the same.
+    if (m_keeper->EditObstacle() == ListKeeper::NoObstacle) {
+        m_isListed = ListEdit::PlaceOf(m_entry, m_keeper->Entries()) >= 0;
+    }
+    const QString count = DashboardNumber(m_profiles.size());
+    const char *const one = m_isListed ? "IDS_FORGET_TEXT" : "IDS_FORGET_UNLISTED";
+    const char *const several = m_isListed ? "IDS_FORGET_SEVERAL" : "IDS_FORGET_UNLISTED_SEVERAL";
     QStringList texts;
     texts.append(IsInUse(m_profiles, connections.active) ? DashboardText("IDS_FORGET_IN_USE") : QString());
-    texts.append(m_profiles.size() == 1
-                     ? DashboardText("IDS_FORGET_TEXT")
-                     : DashboardText("IDS_FORGET_SEVERAL").arg(DashboardNumber(m_profiles.size())));
-    texts.append(DashboardText("IDS_FORGET_FOR_GOOD"));
+    texts.append(m_profiles.size() == 1 ? DashboardText(one) : DashboardText(several).arg(count));
+    texts.append(DashboardText(m_isListed ? "IDS_FORGET_FOR_GOOD" : "IDS_FORGET_UNLISTED_FOR_GOOD"));
     m_text->setText(DashboardJoined("IDS_SENTENCES", texts));
     Fit();
 }
@@ -153,7 +158,9 @@ void ForgetDialog::LookAtOrders()
     m_isUnderWay = false;
     m_isOver = true;
     if (forgotten == m_orders.size()) {
-        LeaveList();
+        if (!m_isListed || LeaveList()) {
+            End();
+        }
         return;
     }
     const QString some =
@@ -168,25 +175,34 @@ QString ForgetDialog::Problem() const
     for (const int order : m_orders) {
         const ConnectAttempt attempt = AttemptOf(order);
         if (attempt.failure == FailureSource) {
-            return DashboardText("IDS_FORGET_NO_ANSWER").arg(OverviewText::Name(m_entry.name));
+            return DashboardText(m_isListed ? "IDS_FORGET_NO_ANSWER" : "IDS_FORGET_UNLISTED_NO_ANSWER")
+                .arg(OverviewText::Name(m_entry.name));
         }
         if (order == IConnectionPlugin::RefusedNotAllowed || attempt.failure == FailureNotAllowed) {
             reason = OverviewText::Failure(FailureNotAllowed);
         }
     }
-    return OverviewText::NotDone("IDS_FORGET_FAILED", m_entry.name, reason);
+    return OverviewText::NotDone(m_isListed ? "IDS_FORGET_FAILED" : "IDS_FORGET_UNLISTED_FAILED",
+                                 m_entry.name, reason);
 }
 
-void ForgetDialog::LeaveList()
+/** False where that has failed, which is told. */
+bool ForgetDialog::LeaveList()
 {
     const ListKeeper::Obstacle obstacle =
         m_keeper->Edit([this](const QList<PriorityList> &list) { return Without(m_entry, list); });
     if (obstacle != ListKeeper::NoObstacle) {
         Fail(OverviewText::NotDone("IDS_FORGET_STAYS", m_entry.name,
                                    ListKeeperText::Reason(*m_keeper, obstacle)));
-        return;
+        return false;
     }
-    emit Forgotten(DashboardText("IDS_FORGET_DONE").arg(OverviewText::Name(m_entry.name)));
+    return true;
+}
+
+void ForgetDialog::End()
+{
+    emit Forgotten(DashboardText(m_isListed ? "IDS_FORGET_DONE" : "IDS_FORGET_UNLISTED_DONE")
+                       .arg(OverviewText::Name(m_entry.name)));
     accept();
     deleteLater();
 }

@@ -13,7 +13,8 @@ class QPushButton;
 
 /**
  * Asks whether a network is to be forgotten, does it, and tells what could not be done. Only once all its
- * profiles are gone it leaves the list, which is one change that can be undone.
+ * profiles are gone it leaves the list, which is one change that can be undone. Where the question says that
+ * it is not in the list, the list stays as it is.
  *
  * Who closes it meanwhile is told all the same.
  */
@@ -42,7 +43,8 @@ private:
     void Ask(const Connections &connections);
     void Forget();
     void LookAtOrders();
-    void LeaveList();
+    bool LeaveList();
+    void End();
     void Fail(const QString &problem);
     void Fit();
     QString Problem() const;
@@ -58,6 +60,8 @@ private:
     QList<ConnectionProfile> m_profiles;
     /** As IConnectionPlugin has answered them, one for each of these; empty until all is ordered. */
     QList<int> m_orders;
+    /** As the question tells of it. */
+    bool m_isListed = true;
     bool m_isUnderWay = false;
     bool m_isOver = false;
 };

@@ -5,7 +5,6 @@
 
 #include <DashboardText.h>
 #include <IConnectionPlugin.h>
-#include <ListEntries.h>
 #include <ListKeeper.h>
 #include <ListKeeperText.h>
 #include <OverviewText.h>
@@ -13,8 +12,6 @@
 
 #include <QAction>
 #include <QMenu>
-
-#include <algorithm>
 
 NetworkActions::NetworkActions(ListKeeper *keeper, QWidget *window)
     : QObject(window), m_keeper(keeper), m_window(window),
@@ -53,12 +50,6 @@ QString NetworkActions::ForgetObstacle() const
     const QList<ConnectionProfile> profiles = m_overview.connections.ProfilesOf(m_entry);
     if (profiles.isEmpty()) {
         return DashboardText("IDS_FORGET_NOT_SAVED");
-    }
-    const auto isIt = [this](const Overview::Entry &listed) {
-        return ListEntries::IsSame(listed.entry, m_entry);
-    };
-    if (std::none_of(m_overview.entries.constBegin(), m_overview.entries.constEnd(), isIt)) {
-        return DashboardText("IDS_FORGET_NOT_LISTED");
     }
     IConnectionPlugin *plugin = PluginObjects::Connecting();
     for (const ConnectionProfile &profile : profiles) {

@@ -11,6 +11,8 @@ class ListEditTest : public QObject
 private slots:
     void EntriesAreMoved_data();
     void EntriesAreMoved();
+    void EntriesGetToAPlace_data();
+    void EntriesGetToAPlace();
     void EntriesAreRemoved();
     void EntriesAreAdded_data();
     void EntriesAreAdded();
@@ -47,6 +49,28 @@ void ListEditTest::EntriesAreMoved()
     QCOMPARE(AsText(list), moved);
     const QString first = QString("ABCD").at(places.first());
     QCOMPARE(list.at(ListEdit::PlaceOfMoved(places, before, 4)).name, first);
+}
+
+void ListEditTest::EntriesGetToAPlace_data()
+{
+    QTest::addColumn<QList<int>>("places");
+    QTest::addColumn<int>("place");
+    QTest::addColumn<QString>("moved");
+    QTest::newRow("up") << QList<int>{3} << 1 << "A, D, B, C";
+    QTest::newRow("down") << QList<int>{0} << 2 << "B, C, A, D";
+    QTest::newRow("to the top") << QList<int>{1} << 0 << "B, A, C, D";
+    QTest::newRow("to the end") << QList<int>{0} << 3 << "B, C, D, A";
+    QTest::newRow("where it stands") << QList<int>{2} << 2 << "A, B, C, D";
+    QTest::newRow("several") << QList<int>{0, 3} << 1 << "B, A, D, C";
+    QTest::newRow("beyond the end") << QList<int>{0, 1} << 9 << "C, D, A, B";
+}
+
+void ListEditTest::EntriesGetToAPlace()
+{
+    QFETCH(QList<int>, places);
+    QFETCH(int, place);
+    const int before = ListEdit::BeforeForPlace(places, place, 4);
+    QTEST(AsText(ListEdit::Moved(Listed("A, B, C, D"), places, before)), "moved");
 }
 
 void ListEditTest::EntriesAreRemoved()

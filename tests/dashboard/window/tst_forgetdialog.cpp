@@ -38,6 +38,11 @@ private slots:
     void RefusedForgettingLeavesTheList();
     void ListIsLeftAloneUntilAllAreForgotten();
     void WhoClosesTheDialogIsToldOfAFailure();
+    void QuestionTellsThatItIsNotInTheList_data();
+    void QuestionTellsThatItIsNotInTheList();
+    void QuestionTellsTheSameOfAListThatIsNotToBeOpened();
+    void ForgettingWhatIsNotListedLeavesTheList_data();
+    void ForgettingWhatIsNotListedLeavesTheList();
     void WhatCannotBeForgottenIsNotOffered_data();
     void WhatCannotBeForgottenIsNotOffered();
 
@@ -49,6 +54,8 @@ private:
     QString List() const { return AsText(m_world->priority->list); }
     /** For the first network. */
     void Open();
+    /** For the same, which is not in the list then. */
+    void OpenUnlisted();
     void AddProfile(const QString &id);
     /** Of all orders. */
     void Tell(int stage, int failure = FailureNone);
@@ -78,6 +85,15 @@ void ForgetDialogTest::init()
 void ForgetDialogTest::Open()
 {
     m_world->List()->setCurrentRow(0);
+    Action()->trigger();
+    QVERIFY(Dialog() && Dialog()->isVisible());
+}
+
+void ForgetDialogTest::OpenUnlisted()
+{
+    m_world->priority->list.removeFirst();
+    m_world->AwaitReading([this] { m_world->window->Refresh(); });
+    m_world->List()->setCurrentRow(m_world->List()->count() - 1);
     Action()->trigger();
     QVERIFY(Dialog() && Dialog()->isVisible());
 }
@@ -250,6 +266,69 @@ void ForgetDialogTest::WhoClosesTheDialogIsToldOfAFailure()
     QTRY_VERIFY(!Dialog());
 }
 
+void ForgetDialogTest::QuestionTellsThatItIsNotInTheList_data()
+{
+    QTest::addColumn<int>("profiles");
+    QTest::addColumn<QString>("text");
+    const QString end =
+        QString::fromUtf8(" It is not in your list, so your list stays as it is. This can’t be "
+                          "undone, and its key can’t be brought back.");
+    QTest::newRow("one") << 1 << "This computer will forget it with its key." + end;
+    QTest::newRow("two") << 2
+                         << "This computer will forget all 2 profiles of that name with their keys." + end;
+}
+
+void ForgetDialogTest::QuestionTellsThatItIsNotInTheList()
+{
+    QFETCH(int, profiles);
+    for (int i = 1; i < profiles; ++i) {
+        AddProfile("other");
+    }
+    OpenUnlisted();
+    QTEST(Said("forgetTextLabel"), "text");
+}
+
+void ForgetDialogTest::QuestionTellsTheSameOfAListThatIsNotToBeOpened()
+{
+    Open();
+    const QString text = Said("forgetTextLabel");
+    m_world->priority->status = PriorityNotOpened;
+    m_world->priority->list.clear();
+    m_world->AwaitReading([this] { m_world->window->Refresh(); });
+    QCOMPARE(Said("forgetTextLabel"), text);
+}
+
+void ForgetDialogTest::ForgettingWhatIsNotListedLeavesTheList_data()
+{
+    QTest::addColumn<int>("stage");
+    QTest::addColumn<int>("failure");
+    QTest::addColumn<QString>("label");
+    QTest::addColumn<QString>("told");
+    QTest::newRow("forgotten") << int(StageForgotten) << int(FailureNone) << "lastChangeLabel"
+                               << QString::fromUtf8("Forgot Home. Its key can’t be brought back.");
+    QTest::newRow("not allowed") << int(StageFailed) << int(FailureNotAllowed) << "forgetProblemLabel"
+                                 << "Home was not forgotten. You are not allowed to do that.";
+    QTest::newRow("not answered") << int(StageFailed) << int(FailureSource) << "forgetProblemLabel"
+                                  << "There was no answer, so it is not known if Home is forgotten.";
+}
+
+/** Also where another program puts the network into the list meanwhile. */
+void ForgetDialogTest::ForgettingWhatIsNotListedLeavesTheList()
+{
+    QFETCH(int, stage);
+    QFETCH(int, failure);
+    QFETCH(QString, label);
+    OpenUnlisted();
+    m_world->window->resize(1600, 800);
+    Button("forgetButton")->click();
+    QCOMPARE(m_world->connections->forgotten, QStringList("1Home/lasting"));
+    m_world->priority->list = Listed(QString::fromUtf8("Café, Home"));
+    m_world->AwaitReading([this] { m_world->window->Refresh(); });
+    Tell(stage, failure);
+    QTEST(Said(label.toLatin1().constData()), "told");
+    QCOMPARE(List(), QString::fromUtf8("Café, Home"));
+}
+
 void ForgetDialogTest::WhatCannotBeForgottenIsNotOffered_data()
 {
     QTest::addColumn<QString>("reason");
@@ -257,8 +336,6 @@ void ForgetDialogTest::WhatCannotBeForgottenIsNotOffered_data()
         << "It is not saved here, so there is nothing to forget. It can be removed from the list.";
     QTest::newRow("not allowed") << "You are not allowed to do that.";
     QTest::newRow("not known") << "It is not known now which networks are saved.";
-    QTest::newRow("not in the list")
-        << "It is not in your list. Add it to the list first, then it can be forgotten here.";
     QTest::newRow("list not to be opened") << QString();
 }
 
@@ -274,15 +351,10 @@ void ForgetDialogTest::WhatCannotBeForgottenIsNotOffered()
         m_world->connections->details["1Home"].change = ProfileDetails::ChangeNotAllowed;
     } else if (tag == "not known") {
         m_world->connections->told.state.source = ConnectionState::SourceNotKnown;
-    } else if (tag == "not in the list") {
-        m_world->priority->list.removeFirst();
     } else {
         m_world->priority->status = PriorityNotOpened;
     }
     m_world->AwaitReading([this] { m_world->window->Refresh(); });
-    if (tag == "not in the list") {
-        m_world->List()->setCurrentRow(m_world->List()->count() - 1);
-    }
     QVERIFY(!Action()->isEnabled());
     if (!reason.isEmpty()) {
         QCOMPARE(Action()->whatsThis(), reason);

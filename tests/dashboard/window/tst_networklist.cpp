@@ -20,6 +20,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
+#include <QSpinBox>
 #include <QToolButton>
 #include <QtTest>
 
@@ -40,6 +41,10 @@ private slots:
     void NewTopIsSeenAtTheTop();
     void KeysMove_data();
     void KeysMove();
+    void PlaceIsAskedFor_data();
+    void PlaceIsAskedFor();
+    void PlaceIsWithinTheListOfNow();
+    void PlaceIsNotAskedForWhereThereIsNoOther();
     void MovedOneOfEqualNetworksStaysSelected();
     void DeleteRemovesAndTheNextOneIsCurrent();
     void OneKeyBringsTheLastOfThirtyToTheTop();
@@ -240,6 +245,64 @@ void NetworkListTest::KeysMove()
     Press(key, Qt::AltModifier);
     QCOMPARE(PluginWorld::Stored(), after);
     QCOMPARE(Selected(), moved);
+}
+
+void NetworkListTest::PlaceIsAskedFor_data()
+{
+    QTest::addColumn<QList<int>>("rows");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<int>("last");
+    QTest::addColumn<QString>("after");
+    QTest::addColumn<QString>("announced");
+    QTest::newRow("down") << QList<int>{0} << "3" << 4 << "B, C, A, D"
+                          << "Moved A down: place 3 of 4";
+    QTest::newRow("up") << QList<int>{3} << "2" << 4 << "A, D, B, C"
+                        << "Moved D up: place 2 of 4";
+    QTest::newRow("several") << QList<int>{1, 3} << "1" << 3 << "B, D, A, C"
+                             << "";
+}
+
+void NetworkListTest::PlaceIsAskedFor()
+{
+    QFETCH(QList<int>, rows);
+    QFETCH(QString, typed);
+    for (const int row : std::as_const(rows)) {
+        Click(row, row == rows.first() ? Qt::NoModifier : Qt::ControlModifier);
+    }
+    const QString moved = Selected();
+    Action("movePlaceAction")->trigger();
+    QSpinBox *place = m_window->findChild<QSpinBox *>("placeBox");
+    QCOMPARE(place->value(), rows.first() + 1);
+    QTEST(place->maximum(), "last");
+    QTest::keyClicks(place, typed);
+    QTest::keyClick(place, Qt::Key_Return);
+    QTEST(PluginWorld::Stored(), "after");
+    QCOMPARE(Selected(), moved);
+    if (rows.size() == 1) {
+        QTEST(Plain(List()->accessibleDescription()), "announced");
+    }
+    Action("undoAction")->trigger();
+    QCOMPARE(PluginWorld::Stored(), QString("A, B, C, D"));
+}
+
+void NetworkListTest::PlaceIsWithinTheListOfNow()
+{
+    Click(1);
+    Action("movePlaceAction")->trigger();
+    Fill("A, B, C, D, E, F");
+    QSpinBox *place = m_window->findChild<QSpinBox *>("placeBox");
+    QTRY_COMPARE(place->maximum(), 6);
+    place->setValue(6);
+    m_window->findChild<QPushButton *>("placeMoveButton")->click();
+    QCOMPARE(PluginWorld::Stored(), QString("A, C, D, E, F, B"));
+}
+
+void NetworkListTest::PlaceIsNotAskedForWhereThereIsNoOther()
+{
+    Click(0);
+    QVERIFY(Action("movePlaceAction")->isEnabled());
+    List()->selectAll();
+    QVERIFY(!Action("movePlaceAction")->isEnabled());
 }
 
 void NetworkListTest::MovedOneOfEqualNetworksStaysSelected()
