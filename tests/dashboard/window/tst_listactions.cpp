@@ -198,7 +198,8 @@ void ListActionsTest::MenuHasEverything()
                                   << QString() << "Move u&p"
                                   << "Move &down"
                                   << "Move to &top"
-                                  << "Move to e&nd" << QString() << "Remove &from list"
+                                  << "Move to e&nd" << QString::fromUtf8("&Move to place…") << QString()
+                                  << "Remove &from list"
                                   << "Add t&o list" << QString() << QString::fromUtf8("Det&ails…")
                                   << QString::fromUtf8("For&get network…") << QString() << "Find a net&work"
                                   << QString::fromUtf8("&Settings…"));
