@@ -138,7 +138,8 @@ void StatusIcon::Show()
     const Overview overview = Overview::Of(m_keeper->LastReading());
     const QString headline = OverviewText::Headline(overview);
     QList<Line> lines;
-    for (const Overview::Entry &entry : overview.entries.mid(0, entriesTold)) {
+    const QList<Overview::Entry> first = overview.entries.mid(0, entriesTold);
+    for (const Overview::Entry &entry : first) {
         Line line;
         line.text = DashboardText("IDS_LABEL")
                         .arg(ListChangeText::Name(entry.entry), OverviewText::State(overview, entry));
