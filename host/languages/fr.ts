@@ -395,7 +395,7 @@ Vous pouvez utiliser des lettres, des chiffres et les symboles suivants&#xa0;:
     </message>
     <message>
         <source>IDS_RULES_ICON_HINT</source>
-        <translation>Dans le tableau de bord du bureau : le réseau utilisé, les premiers de votre liste et un moyen de se connecter.</translation>
+        <translation>Dans le tableau de bord du bureau&#xa0;: le réseau utilisé, les premiers de votre liste et un moyen de se connecter.</translation>
     </message>
     <message>
         <source>IDS_ICON_OPEN</source>
