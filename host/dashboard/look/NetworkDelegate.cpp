@@ -7,6 +7,8 @@
 
 #include <QPainter>
 
+#include <cmath>
+
 namespace
 {
 
@@ -16,6 +18,7 @@ const int markSize = 12;
 const int foldSize = 10;
 const int listedRow = 52;
 const int otherRow = 44;
+const int keptScreens = 2;
 
 Glyphs::Mark MarkOf(const QModelIndex &index)
 {
@@ -44,10 +47,7 @@ NetworkDelegate::NetworkDelegate(QObject *parent, Places places)
 
 QRect NetworkDelegate::GlyphArea(const QStyleOptionViewItem &option) const
 {
-    const int places =
-        m_places == WithPlaces
-            ? QFontMetrics(FontsOf(option).small).horizontalAdvance(QLatin1String("0000")) + margin
-            : 0;
+    const int places = m_places == WithPlaces ? FontsOf(option).placeWidth + margin : 0;
     return QRect(option.rect.left() + margin + places,
                  option.rect.top() + (option.rect.height() - glyphSize) / 2, glyphSize, glyphSize);
 }
@@ -104,7 +104,6 @@ void NetworkDelegate::PaintGround(QPainter *painter, const QStyleOptionViewItem 
         painter->fillRect(row, tones.selected);
     }
     painter->fillRect(QRect(row.left(), row.bottom(), row.width(), 1), tones.separator);
-    PaintFocus(painter, option, tones);
 }
 
 QRect NetworkDelegate::PaintState(QPainter *painter, const QStyleOptionViewItem &option,
@@ -170,29 +169,12 @@ void NetworkDelegate::PaintTexts(QPainter *painter, const QStyleOptionViewItem &
         smallMetrics.elidedText(index.data(DetailTextRole).toString(), Qt::ElideRight, detailLine.width()));
 }
 
-void NetworkDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
-                            const QModelIndex &index) const
+void NetworkDelegate::PaintRow(QPainter *painter, const QStyleOptionViewItem &option,
+                               const QModelIndex &index, const Tones &tones) const
 {
-    const Tones tones = Tones::OfApplication();
-    const QRect &row = option.rect;
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    if (index.data(IsSectionRole).toBool()) {
-        PaintSection(painter, option, index, tones);
-        painter->restore();
-        return;
-    }
     PaintGround(painter, option, MarkOf(index) == Glyphs::MarkInUse, tones);
-
+    const QRect &row = option.rect;
     const QRect glyph = GlyphArea(option);
-    if (m_places == WithPlaces && !index.data(HasNoPlaceRole).toBool()) {
-        const QRect place(row.left() + margin, row.top(), glyph.left() - row.left() - 2 * margin,
-                          row.height());
-        painter->setFont(FontsOf(option).small);
-        painter->setPen(tones.faint);
-        painter->drawText(QStyle::visualRect(option.direction, row, place), Qt::AlignCenter,
-                          DashboardNumber(index.row() + 1));
-    }
     Glyphs::Signal signal;
     signal.kind = static_cast<Glyphs::Kind>(index.data(KindRole).toInt());
     signal.reach = static_cast<Glyphs::Reach>(index.data(ReachRole).toInt());
@@ -204,6 +186,79 @@ void NetworkDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
     const int left = glyph.right() + margin + 4;
     PaintTexts(painter, option, index, QRect(left, row.top(), chip.left() - margin - left, row.height()),
                tones);
+}
+
+void NetworkDelegate::PaintKept(QPainter *painter, const QStyleOptionViewItem &option,
+                                const QModelIndex &index, const Tones &tones) const
+{
+    const QRect &row = option.rect;
+    const int scale = qRound(painter->device()->devicePixelRatioF());
+    QString key;
+    for (const int role : {int(Qt::DisplayRole), int(DetailTextRole), int(StateTextRole)}) {
+        key += index.data(role).toString() + QLatin1Char('\0');
+    }
+    const bool isSelected = option.state & QStyle::State_Selected;
+    for (const int look : {MarkOf(index) + 0, index.data(KindRole).toInt(), index.data(ReachRole).toInt(),
+                           index.data(SignalRole).toInt(), int(isSelected), int(option.direction),
+                           row.width(), row.height(), scale}) {
+        key += QChar(static_cast<ushort>(look));
+    }
+    if (m_paletteOfPictures != option.palette.cacheKey()) {
+        m_pictures.clear();
+        m_paletteOfPictures = option.palette.cacheKey();
+    }
+    if (const QPixmap *kept = m_pictures.object(key)) {
+        painter->drawPixmap(row.topLeft(), *kept);
+        return;
+    }
+    QPixmap picture(row.size() * scale);
+    picture.setDevicePixelRatio(scale);
+    // Letters are smoothed for what they stand on.
+    picture.fill(option.palette.color(QPalette::Base));
+    QStyleOptionViewItem alone = option;
+    alone.rect.moveTo(0, 0);
+    QPainter drawing(&picture);
+    drawing.setRenderHint(QPainter::Antialiasing);
+    drawing.setLayoutDirection(option.direction);
+    PaintRow(&drawing, alone, index, tones);
+    drawing.end();
+    painter->drawPixmap(row.topLeft(), picture);
+    m_pictures.setMaxCost(keptScreens * option.widget->height());
+    m_pictures.insert(key, new QPixmap(picture), row.height());
+}
+
+void NetworkDelegate::PaintPlace(QPainter *painter, const QStyleOptionViewItem &option,
+                                 const QModelIndex &index, const Tones &tones) const
+{
+    const QRect &row = option.rect;
+    const QRect place(row.left() + margin, row.top(), FontsOf(option).placeWidth, row.height());
+    painter->setFont(FontsOf(option).small);
+    painter->setPen(tones.faint);
+    painter->drawText(QStyle::visualRect(option.direction, row, place), Qt::AlignCenter,
+                      DashboardNumber(index.row() + 1));
+}
+
+void NetworkDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
+                            const QModelIndex &index) const
+{
+    const Tones tones = Tones::OfApplication();
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    const qreal scale = painter->device()->devicePixelRatioF();
+    if (index.data(IsSectionRole).toBool()) {
+        PaintSection(painter, option, index, tones);
+    } else {
+        // A picture of half pixels would be blurred.
+        if (option.widget && qFuzzyCompare(scale, std::round(scale))) {
+            PaintKept(painter, option, index, tones);
+        } else {
+            PaintRow(painter, option, index, tones);
+        }
+        if (m_places == WithPlaces && !index.data(HasNoPlaceRole).toBool()) {
+            PaintPlace(painter, option, index, tones);
+        }
+        PaintFocus(painter, option, tones);
+    }
     painter->restore();
 }
 
@@ -227,6 +282,8 @@ const NetworkDelegate::Fonts &NetworkDelegate::FontsOf(const QStyleOptionViewIte
         const int texts = QFontMetrics(m_fonts.nameBold).height() + small;
         const bool isInList = m_places == WithPlaces;
         m_fonts.sectionHeight = small + 12;
+        m_fonts.placeWidth = QFontMetrics(m_fonts.small).horizontalAdvance(QLatin1String("0000"));
+        m_pictures.clear();
         m_fonts.rowHeight = qMax(isInList ? listedRow : otherRow, texts + (isInList ? 16 : 8));
     }
     return m_fonts;

@@ -1,7 +1,9 @@
 #ifndef NETWORKDELEGATE_H
 #define NETWORKDELEGATE_H
 
+#include <QCache>
 #include <QFont>
+#include <QPixmap>
 #include <QStyledItemDelegate>
 
 struct Tones;
@@ -46,10 +48,19 @@ private:
         QFont smallBold;
         int sectionHeight = 0;
         int rowHeight = 0;
+        int placeWidth = 0;
     };
 
     const Fonts &FontsOf(const QStyleOptionViewItem &option) const;
     QRect GlyphArea(const QStyleOptionViewItem &option) const;
+    /** All of a row but its place and the focus. */
+    void PaintRow(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index,
+                  const Tones &tones) const;
+    /** Paints it from a picture that is kept for as long as it looks the same: a row that moves does. */
+    void PaintKept(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index,
+                   const Tones &tones) const;
+    void PaintPlace(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index,
+                    const Tones &tones) const;
     // What is laid out from left to right is mirrored in row for the other direction.
     static void PaintGround(QPainter *painter, const QStyleOptionViewItem &option, bool isInUse,
                             const Tones &tones);
@@ -63,6 +74,9 @@ private:
 
     const Places m_places;
     mutable Fonts m_fonts;
+    mutable QCache<QString, QPixmap> m_pictures;
+    /** Of the palette that they were painted with. */
+    mutable qint64 m_paletteOfPictures = 0;
 };
 
 #endif
