@@ -86,6 +86,24 @@ QList<PriorityList> ListEdit::Moved(const QList<PriorityList> &list, const QList
     return others.mid(0, place) + moved + others.mid(place);
 }
 
+bool ListEdit::IsInPlace(const QList<PriorityList> &list, const QList<int> &places, int before)
+{
+    const int place = PlaceOfMoved(places, before, static_cast<int>(list.size()));
+    int moved = 0;
+    int other = 0;
+    for (int i = 0; i < list.size(); ++i) {
+        while (std::binary_search(places.constBegin(), places.constEnd(), other)) {
+            ++other;
+        }
+        const bool isMoved = i >= place && moved < places.size();
+        const int from = isMoved ? places.at(moved++) : other++;
+        if (from != i && !ListEntries::IsSame(list.at(from), list.at(i))) {
+            return false;
+        }
+    }
+    return true;
+}
+
 QList<PriorityList> ListEdit::Removed(const QList<PriorityList> &list, const QList<int> &places)
 {
     QList<PriorityList> others;

@@ -33,6 +33,9 @@ QList<ListedEntry> Numbered(const QList<PriorityList> &list);
  */
 QList<PriorityList> Moved(const QList<PriorityList> &list, const QList<int> &places, int before);
 
+/** Whether that leaves the list as it is. */
+bool IsInPlace(const QList<PriorityList> &list, const QList<int> &places, int before);
+
 /** The place of the first of them then, in a list of that size. */
 int PlaceOfMoved(const QList<int> &places, int before, int size);
 

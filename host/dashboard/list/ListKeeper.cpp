@@ -100,6 +100,9 @@ void ListKeeper::Follow()
         return;
     }
     if (IsListNew() || IsDamaged() || m_isHeldByOther || m_file.HasChanged()) {
+        if (IsListNew()) {
+            emit Coming(m_reading.entries);
+        }
         // A whole list is one that there was. Anything else may be what another program is about to write.
         const Session session(this, m_reading.status == PriorityRead ? &m_reading : nullptr);
     } else if (m_reading.status != before) {
@@ -337,6 +340,7 @@ ListKeeper::Obstacle ListKeeper::Write(const QList<PriorityList> &entries)
     if (IsDamaged() && m_copyPath.isNull()) {
         return WriteObstacle();
     }
+    emit Coming(entries);
     if (PrivateFile::Replace(m_listPath, OrderFile::Document(entries)) == PrivateFile::OutcomeDone) {
         m_source->FileReplaced();
     }

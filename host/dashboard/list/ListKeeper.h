@@ -136,6 +136,11 @@ public slots:
     void Follow();
 
 signals:
+    /** The list is this now, or is about to be written so. For those who show it: writing and recording take
+     * longer than showing. Changed follows, and LastReading then tells what has become of it. Nobody works with
+     * the list until then. */
+    void Coming(const QList<PriorityList> &entries);
+
     /** The history, or what can be done with it, may have changed. */
     void Changed();
 

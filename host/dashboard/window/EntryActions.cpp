@@ -195,7 +195,7 @@ QString EntryActions::MoveObstacle(const MoveAction &move) const
     if (move.needsNeighbours && m_list->IsSearched()) {
         return DashboardText("IDS_FIND_MOVES");
     }
-    const bool isThere = ListEntries::IsSame(ListEdit::Moved(list, places, move.goal(places, list)), list);
+    const bool isThere = ListEdit::IsInPlace(list, places, move.goal(places, list));
     return isThere ? DashboardText("IDS_EDIT_IN_PLACE") : QString();
 }
 

@@ -132,12 +132,13 @@ MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLo
     if (QObject *service = PluginObjects::PriorityService()) {
         connect(service, SIGNAL(OnUpdataPriorityView()), this, SLOT(Refresh()));
     }
-    connect(&m_watcher, SIGNAL(Changed()), this, SLOT(Refresh()));
+    connect(&m_watcher, &FileWatcher::Changed, this, &MainWindow::FollowFile);
     // Several changes that come close together are read once.
     m_refreshTimer->setSingleShot(true);
     connect(m_refreshTimer, SIGNAL(timeout()), this, SLOT(Show()));
     new ProfileNames(UserData::FilePath(ProfileNames::FileName()), m_keeper, this);
     connect(m_keeper, SIGNAL(Changed()), this, SLOT(FollowHistory()));
+    connect(m_keeper, &ListKeeper::Coming, this, &MainWindow::ShowComing);
     connect(m_listActions, &ListActions::Stepped, this, [this](const PriorityList &entry) {
         m_list->Select({ListedEntry{entry, 0}});
     });
@@ -354,6 +355,11 @@ void MainWindow::Refresh()
         return;
     }
     m_watcher.Note();
+    FollowFile();
+}
+
+void MainWindow::FollowFile()
+{
     m_isRefreshing = true;
     m_keeper->Follow();
     m_isRefreshing = false;
@@ -551,6 +557,14 @@ void MainWindow::FollowHistory()
         m_watcher.Note();
         Show();
     }
+}
+
+/** Who moves a row of a long list sees it there before it is written, and sees where it is when it isn't. */
+void MainWindow::ShowComing(const QList<PriorityList> &entries)
+{
+    m_overview = Overview::Make(PriorityRead, entries, m_overview.connections);
+    m_list->Show(m_overview);
+    m_list->viewport()->repaint();
 }
 
 void MainWindow::ShowHead()

@@ -67,6 +67,7 @@ protected:
 private slots:
     void FollowLanguage();
     void Retranslate();
+    void FollowFile();
     void FollowHistory();
     void Show();
     void Switch();
@@ -87,6 +88,7 @@ private:
     QWidget *CreateListHeader();
     QWidget *CreateListTools();
     const ActiveConnection *Disconnectable() const;
+    void ShowComing(const QList<PriorityList> &entries);
     void ShowHead();
     void ShowProblems();
     void ShowList();

@@ -127,6 +127,8 @@ void NetworkList::Show(const Overview &overview)
         while (count() < m_rows.size()) {
             addItem(new Row(this, count()));
         }
+        // The line between them is lower than the rows; without it the view needs to ask one row only.
+        setUniformItemSizes(!IsHeader(m_listed));
         emit model()->dataChanged(model()->index(0, 0), model()->index(count() - 1, 0));
         if (isFirst) {
             setCurrentRow(RowInUse(overview));

@@ -11,6 +11,7 @@ class ListEditTest : public QObject
 private slots:
     void EntriesAreMoved_data();
     void EntriesAreMoved();
+    void EqualNeighboursAreInPlace();
     void EntriesGetToAPlace_data();
     void EntriesGetToAPlace();
     void EntriesAreRemoved();
@@ -47,8 +48,15 @@ void ListEditTest::EntriesAreMoved()
     QFETCH(QString, moved);
     const QList<PriorityList> list = ListEdit::Moved(Listed("A, B, C, D"), places, before);
     QCOMPARE(AsText(list), moved);
+    QCOMPARE(ListEdit::IsInPlace(Listed("A, B, C, D"), places, before), moved == "A, B, C, D");
     const QString first = QString("ABCD").at(places.first());
     QCOMPARE(list.at(ListEdit::PlaceOfMoved(places, before, 4)).name, first);
+}
+
+void ListEditTest::EqualNeighboursAreInPlace()
+{
+    QVERIFY(ListEdit::IsInPlace(Listed("A, A, B"), {0}, 2));
+    QVERIFY(!ListEdit::IsInPlace(Listed("A, A, B"), {0}, 3));
 }
 
 void ListEditTest::EntriesGetToAPlace_data()

@@ -14,6 +14,7 @@
 #include <QAccessible>
 #include <QAction>
 #include <QContextMenuEvent>
+#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -23,6 +24,10 @@
 #include <QSpinBox>
 #include <QToolButton>
 #include <QtTest>
+
+#include <functional>
+
+Q_DECLARE_METATYPE(std::function<void(NetworkList *)>)
 
 /** The list of the main window, edited where it stands, over the real plug-ins. */
 class NetworkListTest : public QObject
@@ -49,6 +54,10 @@ private slots:
     void DeleteRemovesAndTheNextOneIsCurrent();
     void OneKeyBringsTheLastOfThirtyToTheTop();
     void OneDragBringsTheLastOfThirtyToTheTop();
+    void MoveIsSeenBeforeItIsWritten();
+    void ChangeIsSeenBeforeItIsRecorded();
+    void KeptRowsLookLikeNewOnes_data();
+    void KeptRowsLookLikeNewOnes();
     void UndoSelectsWhatItMoved();
     void UndoSelectsWhatItBroughtBack();
     void NeighbourThatWasMovedIsTold();
@@ -106,6 +115,32 @@ private:
     QScopedPointer<TraceLog> m_log;
     QScopedPointer<DashboardLanguage> m_language;
     QScopedPointer<MainWindow> m_window;
+};
+
+/** Keeps what a file has when the list is painted with a certain name at its top. */
+class FileWhenPainted : public QObject
+{
+public:
+    FileWhenPainted(NetworkList *list, const QString &first, const QString &file)
+        : m_list(list), m_first(first), m_file(file)
+    {
+        list->viewport()->installEventFilter(this);
+    }
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        QFile file(m_file);
+        if (event->type() == QEvent::Paint && content.isNull() && m_list->item(0)->text() == m_first &&
+            file.open(QIODevice::ReadOnly)) {
+            content = file.readAll();
+        }
+        return false;
+    }
+    QByteArray content;
+
+private:
+    const NetworkList *const m_list;
+    const QString m_first;
+    const QString m_file;
 };
 
 static QString Numbers(int first, int last)
@@ -341,6 +376,61 @@ void NetworkListTest::OneDragBringsTheLastOfThirtyToTheTop()
     QCOMPARE(PluginWorld::Stored(), "N30, " + Numbers(1, 29));
     Action("undoAction")->trigger();
     QCOMPARE(PluginWorld::Stored(), Numbers(1, 30));
+}
+
+void NetworkListTest::MoveIsSeenBeforeItIsWritten()
+{
+    const FileWhenPainted seen(List(), "D", m_world.UserData() + "Priority.xml");
+    Click(3);
+    Press(Qt::Key_Home, Qt::AltModifier);
+    QCOMPARE(seen.content, OrderFile::Document(Listed("A, B, C, D")));
+    QCOMPARE(PluginWorld::Stored(), QString("D, A, B, C"));
+}
+
+void NetworkListTest::ChangeIsSeenBeforeItIsRecorded()
+{
+    const QByteArray recorded = m_world.Read("history/states.xml");
+    const FileWhenPainted seen(List(), "X", m_world.UserData() + "history/states.xml");
+    Fill("X, A");
+    QCOMPARE(seen.content, recorded);
+    QVERIFY(m_world.Read("history/states.xml") != recorded);
+}
+
+void NetworkListTest::KeptRowsLookLikeNewOnes_data()
+{
+    QTest::addColumn<std::function<void(NetworkList *)>>("change");
+    const auto add = [](const char *name, const std::function<void(NetworkList *)> &change) {
+        QTest::newRow(name) << change;
+    };
+    add("palette", [](NetworkList *list) {
+        QPalette palette = list->palette();
+        palette.setColor(QPalette::Base, Qt::darkBlue);
+        list->setPalette(palette);
+    });
+    add("font", [](NetworkList *list) {
+        QFont font = list->font();
+        font.setPointSizeF(font.pointSizeF() * 1.5);
+        list->setFont(font);
+    });
+    add("direction", [](NetworkList *list) { list->setLayoutDirection(Qt::RightToLeft); });
+    add("selection", [](NetworkList *list) { list->selectAll(); });
+    add("width", [](NetworkList *list) { list->setFixedWidth(500); });
+}
+
+void NetworkListTest::KeptRowsLookLikeNewOnes()
+{
+    QFETCH(std::function<void(NetworkList *)>, change);
+    const auto picture = [](NetworkList *list) {
+        QCoreApplication::processEvents();
+        return list->viewport()->grab().toImage();
+    };
+    const QImage before = picture(List());
+    change(List());
+    const QImage kept = picture(List());
+    QVERIFY(kept != before);
+    // A delegate that has painted nothing yet.
+    List()->setItemDelegate(new NetworkDelegate(List()));
+    QCOMPARE(picture(List()), kept);
 }
 
 void NetworkListTest::UndoSelectsWhatItMoved()
