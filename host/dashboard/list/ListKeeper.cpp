@@ -144,10 +144,22 @@ void ListKeeper::RecordIfNew(const PriorityList *moved)
         ListState state;
         state.time = TimeOfChange();
         state.entries = m_entries;
-        state.moved = moved ? ListEdit::PlaceOf(*moved, m_entries) : -1;
+        state.moved = moved ? ListEdit::PlaceOf(*moved, m_entries) : MovedInHand();
         m_history.RecordJoined(state, m_opened);
         m_file.Save(&m_history);
     }
+}
+
+int ListKeeper::MovedInHand() const
+{
+    const int place = m_placeInHand ? m_placeInHand() : -1;
+    const QList<ListDifference::Move> moves = ListDifference::OnlyMoves(m_history.Entries(), m_entries);
+    for (const ListDifference::Move &move : moves) {
+        if (move.to == place) {
+            return place;
+        }
+    }
+    return -1;
 }
 
 /** The file tells when a change was made that nobody watched. */

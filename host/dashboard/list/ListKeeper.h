@@ -122,6 +122,12 @@ public:
     void BeginOpening();
     void EndOpening();
 
+    typedef std::function<int()> PlaceInHand;
+
+    /** @param place  tells which entry the user works with on that page: its place in the list; -1 when
+     * nobody knows. When neighbours have changed places, that is the one that was moved. */
+    void SetPlaceInHand(const PlaceInHand &place) { m_placeInHand = place; }
+
     /** What is wrong with the history. */
     Obstacle HistoryProblem() const;
 
@@ -137,8 +143,8 @@ public slots:
 
 signals:
     /** The list is this now, or is about to be written so. For those who show it: writing and recording take
-     * longer than showing. Changed follows, and LastReading then tells what has become of it. Nobody works with
-     * the list until then. */
+     * longer than showing. Changed follows, and LastReading then tells what has become of it. Nobody works
+     * with the list until then. */
     void Coming(const QList<PriorityList> &entries);
 
     /** The history, or what can be done with it, may have changed. */
@@ -152,6 +158,7 @@ private:
     void Take(const ListReading &reading);
     void RecordIfNew(const PriorityList *moved = nullptr);
     QDateTime TimeOfChange() const;
+    int MovedInHand() const;
     /** Makes entries, which a file can carry, the list; backTo is as ListState's. */
     Obstacle Change(const QList<PriorityList> &entries, const QDateTime &backTo);
     Obstacle GoTo(int position);
@@ -177,6 +184,7 @@ private:
     QString m_copyPath;
     /** Since when the page has been open; null when it isn't. */
     QDateTime m_opened;
+    PlaceInHand m_placeInHand;
     bool m_isBusy;
     bool m_isHeldByOther;
 };

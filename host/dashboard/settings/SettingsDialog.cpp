@@ -88,6 +88,12 @@ void SettingsDialog::AddPage(SettingsPage *page)
     m_list->addItem(page->Title());
 }
 
+int SettingsDialog::CurrentRow() const
+{
+    const QTableWidget *list = m_stack->currentWidget()->findChild<QTableWidget *>();
+    return list ? list->currentRow() : -1;
+}
+
 void SettingsDialog::SelectPage(int index)
 {
     m_list->setCurrentRow(index);

@@ -34,6 +34,9 @@ public:
     /** Puts further buttons beside OK and Cancel, at the other end of the row; takes ownership of them. */
     void AddButtons(const QList<QWidget *> &buttons);
 
+    /** The current row of the list on the page that is shown; -1 when there is none. */
+    int CurrentRow() const;
+
     /** Every way out of the dialog leads here; all but OK are Cancel. */
     void done(int result) override;
 

@@ -138,6 +138,7 @@ MainWindow::MainWindow(PluginHost *plugins, DashboardLanguage *language, TraceLo
     connect(m_refreshTimer, SIGNAL(timeout()), this, SLOT(Show()));
     new ProfileNames(UserData::FilePath(ProfileNames::FileName()), m_keeper, this);
     connect(m_keeper, SIGNAL(Changed()), this, SLOT(FollowHistory()));
+    m_keeper->SetPlaceInHand([this] { return m_settings ? m_settings->CurrentRow() : -1; });
     connect(m_keeper, &ListKeeper::Coming, this, &MainWindow::ShowComing);
     connect(m_listActions, &ListActions::Stepped, this, [this](const PriorityList &entry) {
         m_list->Select({ListedEntry{entry, 0}});

@@ -56,6 +56,8 @@ private slots:
     void ChangeOfTheFileCanBeUndone();
     void ChangeIsReadOnce();
     void UndoWritesOnce();
+    void NeighbourThatWasMovedOnThePageIsTold_data();
+    void NeighbourThatWasMovedOnThePageIsTold();
     void ChangeOnTheOpenPageIsUndoneThere_data();
     void ChangeOnTheOpenPageIsUndoneThere();
     void FiftyNinePressesAreOneChange();
@@ -279,6 +281,30 @@ void ListActionsTest::ChangeOfTheFileCanBeUndone()
     QTest::keyClick(m_window.data(), Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(PluginWorld::Stored(), QString("Home"));
     QCOMPARE(m_world.Read("Priority.xml"), OrderFile::Document(Listed("Home")));
+}
+
+void ListActionsTest::NeighbourThatWasMovedOnThePageIsTold_data()
+{
+    QTest::addColumn<int>("row");
+    QTest::addColumn<QByteArray>("button");
+    QTest::addColumn<QString>("told");
+    QTest::newRow("down") << 0 << QByteArray("downButton") << "Undo: Moved A down";
+    QTest::newRow("up") << 1 << QByteArray("upButton") << "Undo: Moved B up";
+}
+
+void ListActionsTest::NeighbourThatWasMovedOnThePageIsTold()
+{
+    QFETCH(int, row);
+    QFETCH(QByteArray, button);
+    m_world.Write("Priority.xml", OrderFile::Document(Listed("A, B, C")));
+    m_window->Refresh();
+    Click("settingsButton");
+    QTableWidget *table = m_window->findChild<QTableWidget *>("priorityTable");
+    QTest::mouseClick(table->viewport(), Qt::LeftButton, Qt::NoModifier,
+                      table->visualRect(table->model()->index(row, 0)).center());
+    Click(button.constData());
+    QTRY_COMPARE(Shown(), QString("B, A, C"));
+    QTEST(Plain(Button("settingsUndoButton")->accessibleDescription()), "told");
 }
 
 void ListActionsTest::ChangeOnTheOpenPageIsUndoneThere_data()
