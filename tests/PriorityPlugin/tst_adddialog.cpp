@@ -1,5 +1,6 @@
 #include "DialogScene.h"
 
+#include <Row.h>
 #include <TraceCapture.h>
 #include <WindowActivation.h>
 
@@ -163,48 +164,21 @@ void tst_AddDialog::rows_data()
     const QByteArray on = "<c><item name='enable3G' value='1'/></c>";
     const QByteArray off = "<c><item name='enable3G' value='0'/></c>";
     const QByteArray two = "<c><item name='enable3G' value='2'/></c>";
-    QTest::newRow("both kinds, off") << off << ""
-                                     << "A A/2 B/2 C"
-                                     << "A C";
-    QTest::newRow("both kinds, on") << on << ""
-                                    << "A A/2 B/2 C"
-                                    << "A B/mobile C";
-    QTest::newRow("turned away doesn't block, off") << off << ""
-                                                    << "A/2 A"
-                                                    << "A";
-    QTest::newRow("first of a name counts, on") << on << ""
-                                                << "A/2 A"
-                                                << "A/mobile";
-    QTest::newRow("repeated name") << on << ""
-                                   << "A B A B A"
-                                   << "A B";
-    QTest::newRow("switch is 2") << two << ""
-                                 << "A B/2"
-                                 << "A";
-    QTest::newRow("no file") << QByteArray() << ""
-                             << "A B/2"
-                             << "A";
-    QTest::newRow("other types are mobile") << on << ""
-                                            << "A/0 B/01 C/ D/x E/10"
-                                            << "A/mobile B/mobile C/mobile D/mobile E/mobile";
-    QTest::newRow("listed") << on << "B"
-                            << "A B C"
-                            << "A C";
-    QTest::newRow("listed as another type") << on << "B/2 C"
-                                            << "A B C/2"
-                                            << "A";
-    QTest::newRow("all listed") << on << "B A"
-                                << "A B"
-                                << "";
-    QTest::newRow("none remembered") << on << "A"
-                                     << ""
-                                     << "";
-    QTest::newRow("case counts") << on << "a"
-                                 << "A a B b"
-                                 << "A B b";
-    QTest::newRow("order is the WLAN plug-in's") << on << ""
-                                                 << "Z B/2 A M"
-                                                 << "Z B/mobile A M";
+    Row("both kinds, off", off, "", "A A/2 B/2 C", "A C");
+    Row("both kinds, on", on, "", "A A/2 B/2 C", "A B/mobile C");
+    Row("turned away doesn't block, off", off, "", "A/2 A", "A");
+    Row("first of a name counts, on", on, "", "A/2 A", "A/mobile");
+    Row("repeated name", on, "", "A B A B A", "A B");
+    Row("switch is 2", two, "", "A B/2", "A");
+    Row("no file", QByteArray(), "", "A B/2", "A");
+    Row("other types are mobile", on, "", "A/0 B/01 C/ D/x E/10",
+        "A/mobile B/mobile C/mobile D/mobile E/mobile");
+    Row("listed", on, "B", "A B C", "A C");
+    Row("listed as another type", on, "B/2 C", "A B C/2", "A");
+    Row("all listed", on, "B A", "A B", "");
+    Row("none remembered", on, "A", "", "");
+    Row("case counts", on, "a", "A a B b", "A B b");
+    Row("order is the WLAN plug-in's", on, "", "Z B/2 A M", "Z B/mobile A M");
 }
 
 void tst_AddDialog::rows()
@@ -316,8 +290,8 @@ void tst_AddDialog::partlyTickedDoesNotCount()
 void tst_AddDialog::okWithNothingTickedSendsAnEmptyList_data()
 {
     QTest::addColumn<QString>("remembered");
-    QTest::newRow("rows") << "A B";
-    QTest::newRow("no rows") << "X";
+    Row("rows", "A B");
+    Row("no rows", "X");
 }
 
 void tst_AddDialog::okWithNothingTickedSendsAnEmptyList()
@@ -353,9 +327,9 @@ void tst_AddDialog::okSelectsTheFirstAdded()
 void tst_AddDialog::closingOtherwiseSendsNothing_data()
 {
     QTest::addColumn<QString>("way");
-    QTest::newRow("Cancel") << "Cancel";
-    QTest::newRow("title bar") << "title bar";
-    QTest::newRow("Escape") << "Escape";
+    Row("Cancel", "Cancel");
+    Row("title bar", "title bar");
+    Row("Escape", "Escape");
 }
 
 void tst_AddDialog::closingOtherwiseSendsNothing()

@@ -1,6 +1,7 @@
 #include <DragTableWidget.h>
 #include <LoadedPlugin.h>
 #include <PriorityListItem.h>
+#include <Row.h>
 #include <StandInHost.h>
 #include <TraceCapture.h>
 
@@ -154,14 +155,14 @@ void tst_CellWidgets::positions_data()
 {
     QTest::addColumn<QString>("language");
     QTest::addColumn<bool>("mirrored");
-    QTest::newRow("en") << "en" << false;
-    QTest::newRow("ar") << "ar" << true;
-    QTest::newRow("he") << "he" << true;
-    QTest::newRow("upper case") << "AR" << false;
-    QTest::newRow("region") << "ar_EG" << false;
-    QTest::newRow("he with region") << "he-IL" << false;
-    QTest::newRow("blank") << " he" << false;
-    QTest::newRow("none") << "" << false;
+    Row("en", "en", false);
+    Row("ar", "ar", true);
+    Row("he", "he", true);
+    Row("upper case", "AR", false);
+    Row("region", "ar_EG", false);
+    Row("he with region", "he-IL", false);
+    Row("blank", " he", false);
+    Row("none", "", false);
 }
 
 void tst_CellWidgets::positions()

@@ -1,4 +1,5 @@
 #include <PriorityXMLParser.h>
+#include <Row.h>
 #include <StandInHost.h>
 #include <TemporaryDirectory.h>
 #include <TraceCapture.h>
@@ -55,31 +56,30 @@ void tst_Configuration::value_data()
     QTest::addColumn<int>("expected");
     const QByteArray on = "<item name='enable3G' value='1'/>";
     const QByteArray off = "<item name='enable3G' value='0'/>";
-    QTest::newRow("1") << "<c>" + on + "</c>" << 1;
-    QTest::newRow("0") << "<c>" + off + "</c>" << 0;
-    QTest::newRow("2") << QByteArray("<c><item name='enable3G' value='2'/></c>") << 2;
-    QTest::newRow("negative") << QByteArray("<c><item name='enable3G' value='-7'/></c>") << -7;
-    QTest::newRow("leading zero is decimal")
-        << QByteArray("<c><item name='enable3G' value='010'/></c>") << 10;
-    QTest::newRow("word") << QByteArray("<c><item name='enable3G' value='yes'/></c>") << 0;
-    QTest::newRow("hexadecimal") << QByteArray("<c><item name='enable3G' value='0x1'/></c>") << 0;
-    QTest::newRow("empty value") << QByteArray("<c><item name='enable3G' value=''/></c>") << 0;
-    QTest::newRow("no value") << QByteArray("<c><item name='enable3G'/></c>") << 0;
-    QTest::newRow("no value after 1") << "<c>" + on + "<item name='enable3G'/></c>" << 0;
-    QTest::newRow("1 then 0") << "<c>" + on + off + "</c>" << 0;
-    QTest::newRow("0 then 1") << "<c>" + off + on + "</c>" << 1;
-    QTest::newRow("other name") << QByteArray("<c><item name='enable4G' value='1'/></c>") << -1;
-    QTest::newRow("other name after") << "<c>" + on + "<item name='enable4G' value='0'/></c>" << 1;
-    QTest::newRow("case of the name") << QByteArray("<c><item name='Enable3G' value='1'/></c>") << -1;
-    QTest::newRow("case of the element") << QByteArray("<c><Item name='enable3G' value='1'/></c>") << -1;
-    QTest::newRow("no name") << QByteArray("<c><item value='1'/></c>") << -1;
-    QTest::newRow("as the root") << on << 1;
-    QTest::newRow("deep inside") << "<a><b><item name='x'>" + on + "</item></b></a>" << 1;
-    QTest::newRow("no item") << QByteArray("<c/>") << -1;
-    QTest::newRow("empty file") << QByteArray("") << -1;
-    QTest::newRow("no XML") << QByteArray("enable3G=1") << -1;
-    QTest::newRow("broken before") << "<c><" + on + "</c>" << -1;
-    QTest::newRow("broken after") << "<c>" + on + "</d>" << 1;
+    Row("1", "<c>" + on + "</c>", 1);
+    Row("0", "<c>" + off + "</c>", 0);
+    Row("2", QByteArray("<c><item name='enable3G' value='2'/></c>"), 2);
+    Row("negative", QByteArray("<c><item name='enable3G' value='-7'/></c>"), -7);
+    Row("leading zero is decimal", QByteArray("<c><item name='enable3G' value='010'/></c>"), 10);
+    Row("word", QByteArray("<c><item name='enable3G' value='yes'/></c>"), 0);
+    Row("hexadecimal", QByteArray("<c><item name='enable3G' value='0x1'/></c>"), 0);
+    Row("empty value", QByteArray("<c><item name='enable3G' value=''/></c>"), 0);
+    Row("no value", QByteArray("<c><item name='enable3G'/></c>"), 0);
+    Row("no value after 1", "<c>" + on + "<item name='enable3G'/></c>", 0);
+    Row("1 then 0", "<c>" + on + off + "</c>", 0);
+    Row("0 then 1", "<c>" + off + on + "</c>", 1);
+    Row("other name", QByteArray("<c><item name='enable4G' value='1'/></c>"), -1);
+    Row("other name after", "<c>" + on + "<item name='enable4G' value='0'/></c>", 1);
+    Row("case of the name", QByteArray("<c><item name='Enable3G' value='1'/></c>"), -1);
+    Row("case of the element", QByteArray("<c><Item name='enable3G' value='1'/></c>"), -1);
+    Row("no name", QByteArray("<c><item value='1'/></c>"), -1);
+    Row("as the root", on, 1);
+    Row("deep inside", "<a><b><item name='x'>" + on + "</item></b></a>", 1);
+    Row("no item", QByteArray("<c/>"), -1);
+    Row("empty file", QByteArray(""), -1);
+    Row("no XML", QByteArray("enable3G=1"), -1);
+    Row("broken before", "<c><" + on + "</c>", -1);
+    Row("broken after", "<c>" + on + "</d>", 1);
 }
 
 void tst_Configuration::value()

@@ -1,5 +1,7 @@
 #include "DialogScene.h"
 
+#include <Row.h>
+
 #include <QPointer>
 #include <QPushButton>
 #include <QTableWidget>
@@ -91,9 +93,9 @@ void tst_DialogLifetime::hostDialogDeletedBehindDialogs()
 void tst_DialogLifetime::hostDialogDeletedDuringANotice_data()
 {
     QTest::addColumn<QString>("name");
-    QTest::newRow("no name") << "";
-    QTest::newRow("keys differ") << "Mine";
-    QTest::newRow("repeated name") << "X";
+    Row("no name", "");
+    Row("keys differ", "Mine");
+    Row("repeated name", "X");
 }
 
 void tst_DialogLifetime::hostDialogDeletedDuringANotice()

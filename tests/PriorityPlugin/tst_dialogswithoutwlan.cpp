@@ -1,5 +1,7 @@
 #include "DialogScene.h"
 
+#include <Row.h>
+
 #include <QPushButton>
 #include <QTableWidget>
 #include <QtTest>
@@ -81,9 +83,9 @@ void tst_DialogsWithoutWLAN::cleanup()
 void tst_DialogsWithoutWLAN::Absences()
 {
     QTest::addColumn<Absence>("absence");
-    QTest::newRow("no container") << NoContainer;
-    QTest::newRow("no object under the class id") << NoObject;
-    QTest::newRow("object of another kind") << ObjectOfAnotherKind;
+    Row("no container", NoContainer);
+    Row("no object under the class id", NoObject);
+    Row("object of another kind", ObjectOfAnotherKind);
 }
 
 void tst_DialogsWithoutWLAN::VanishAfter(int answers)

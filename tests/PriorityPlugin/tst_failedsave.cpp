@@ -1,6 +1,7 @@
 #include <LoadedPlugin.h>
 #include <PriorityXMLParser.h>
 #include <RootRights.h>
+#include <Row.h>
 #include <StandInHost.h>
 #include <TemporaryDirectory.h>
 #include <TraceCapture.h>
@@ -83,10 +84,10 @@ void tst_FailedSave::isReported_data()
 {
     QTest::addColumn<int>("count");
     QTest::addColumn<int>("missing");
-    QTest::newRow("the last byte") << 1 << 1;
-    QTest::newRow("nearly all") << 1 << 100;
-    QTest::newRow("the end of a long file") << 5000 << 1;
-    QTest::newRow("much of a long file") << 5000 << 100000;
+    Row("the last byte", 1, 1);
+    Row("nearly all", 1, 100);
+    Row("the end of a long file", 5000, 1);
+    Row("much of a long file", 5000, 100000);
 }
 
 void tst_FailedSave::isReported()
@@ -153,9 +154,9 @@ void tst_FailedSave::isTraced()
 void tst_FailedSave::whatIsNoFileAndCantBeReplacedIsNotWrittenTo_data()
 {
     QTest::addColumn<QString>("linkTo");
-    QTest::newRow("pipe") << "";
-    QTest::newRow("link to a pipe") << "pipe";
-    QTest::newRow("link to a device that keeps nothing") << "/dev/null";
+    Row("pipe", "");
+    Row("link to a pipe", "pipe");
+    Row("link to a device that keeps nothing", "/dev/null");
 }
 
 void tst_FailedSave::whatIsNoFileAndCantBeReplacedIsNotWrittenTo()

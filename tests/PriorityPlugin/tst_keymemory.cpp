@@ -1,5 +1,6 @@
 #include "DialogScene.h"
 
+#include <Row.h>
 #include <TraceCapture.h>
 
 #include <QLineEdit>
@@ -148,10 +149,10 @@ void tst_KeyMemory::Type(const QString &name)
 void tst_KeyMemory::typedKeyIsWipedOnClosing_data()
 {
     QTest::addColumn<QString>("way");
-    QTest::newRow("OK") << "OK";
-    QTest::newRow("Cancel") << "Cancel";
-    QTest::newRow("title bar") << "title bar";
-    QTest::newRow("Escape") << "Escape";
+    Row("OK", "OK");
+    Row("Cancel", "Cancel");
+    Row("title bar", "title bar");
+    Row("Escape", "Escape");
 }
 
 void tst_KeyMemory::typedKeyIsWipedOnClosing()

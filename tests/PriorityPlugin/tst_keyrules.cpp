@@ -1,4 +1,5 @@
 #include <KeyRules.h>
+#include <Row.h>
 
 #include <QVariant>
 #include <QtTest>
@@ -19,22 +20,22 @@ void tst_KeyRules::hexadecimal_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<bool>("expected");
-    QTest::newRow("empty") << "" << true;
-    QTest::newRow("every digit") << "0123456789abcdefABCDEF" << true;
+    Row("empty", "", true);
+    Row("every digit", "0123456789abcdefABCDEF", true);
     // The neighbours of the ranges.
-    QTest::newRow("slash") << "/" << false;
-    QTest::newRow("colon") << ":" << false;
-    QTest::newRow("at") << "@" << false;
-    QTest::newRow("G") << "G" << false;
-    QTest::newRow("grave") << "`" << false;
-    QTest::newRow("g") << "g" << false;
-    QTest::newRow("prefix") << "0x12" << false;
-    QTest::newRow("bad first") << "g123" << false;
-    QTest::newRow("bad last") << "123g" << false;
-    QTest::newRow("blank") << "12 34" << false;
-    QTest::newRow("sign") << "-1" << false;
-    QTest::newRow("Arabic digits") << QString::fromUtf8("\xd9\xa1\xd9\xa2") << false;
-    QTest::newRow("full-width digits") << QString::fromUtf8("\xef\xbc\x91\xef\xbc\xa1") << false;
+    Row("slash", "/", false);
+    Row("colon", ":", false);
+    Row("at", "@", false);
+    Row("G", "G", false);
+    Row("grave", "`", false);
+    Row("g", "g", false);
+    Row("prefix", "0x12", false);
+    Row("bad first", "g123", false);
+    Row("bad last", "123g", false);
+    Row("blank", "12 34", false);
+    Row("sign", "-1", false);
+    Row("Arabic digits", QString::fromUtf8("\xd9\xa1\xd9\xa2"), false);
+    Row("full-width digits", QString::fromUtf8("\xef\xbc\x91\xef\xbc\xa1"), false);
 }
 
 void tst_KeyRules::hexadecimal()
@@ -56,13 +57,12 @@ void tst_KeyRules::everyLength_data()
     }
     const QVariantList wepText = QVariantList() << 5 << 13;
     const QVariantList wepHexadecimal = QVariantList() << 10 << 26 << 32;
-    QTest::newRow("WEP") << "WEP" << 1 << wepText << wepHexadecimal;
-    QTest::newRow("CCMP") << "CCMP" << 2 << wpaText << (QVariantList() << 64);
-    QTest::newRow("TKIP") << "TKIP" << 2 << wpaText << (QVariantList() << 64);
+    Row("WEP", "WEP", 1, wepText, wepHexadecimal);
+    Row("CCMP", "CCMP", 2, wpaText, (QVariantList() << 64));
+    Row("TKIP", "TKIP", 2, wpaText, (QVariantList() << 64));
     const char *const anyKey[] = {"none", "", "wep", "ccmp", "AES", "WEP "};
     for (const char *encryption : anyKey) {
-        QTest::newRow(qPrintable(QString("'%1'").arg(encryption)))
-            << encryption << 0 << QVariantList() << QVariantList();
+        Row(qPrintable(QString("'%1'").arg(encryption)), encryption, 0, QVariantList(), QVariantList());
     }
 }
 

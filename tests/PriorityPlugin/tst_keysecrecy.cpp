@@ -1,5 +1,6 @@
 #include "DialogScene.h"
 
+#include <Row.h>
 #include <TraceCapture.h>
 
 #include <QAccessible>
@@ -82,14 +83,10 @@ void tst_KeySecrecy::typedKey_data()
     QTest::addColumn<QString>("encryption");
     QTest::addColumn<QString>("confirmed");
     QTest::addColumn<bool>("created");
-    QTest::newRow("created") << "WPA2PSK"
-                             << "CCMP" << secret << true;
-    QTest::newRow("created without encryption") << "open"
-                                                << "none" << secret << true;
-    QTest::newRow("unfit for WEP") << "open"
-                                   << "WEP" << secret << false;
-    QTest::newRow("confirmed wrongly") << "WPAPSK"
-                                       << "TKIP" << QString(secret).toUpper() << false;
+    Row("created", "WPA2PSK", "CCMP", secret, true);
+    Row("created without encryption", "open", "none", secret, true);
+    Row("unfit for WEP", "open", "WEP", secret, false);
+    Row("confirmed wrongly", "WPAPSK", "TKIP", QString(secret).toUpper(), false);
 }
 
 void tst_KeySecrecy::typedKey()

@@ -1,5 +1,6 @@
 #include <LoadedPlugin.h>
 #include <PriorityXMLParser.h>
+#include <Row.h>
 #include <StandInHost.h>
 #include <TemporaryDirectory.h>
 #include <TraceCapture.h>
@@ -163,14 +164,14 @@ void tst_ListOperations::moves_data()
     QTest::addColumn<int>("result");
     QTest::addColumn<QString>("stored");
 
-    QTest::newRow("up from the middle") << true << "B" << 0 << "BAD";
-    QTest::newRow("up from the end") << true << "D" << 1 << "ADB";
-    QTest::newRow("up from the top") << true << "A" << -1 << "ABD";
-    QTest::newRow("up, not stored") << true << "X" << -2 << "ABD";
-    QTest::newRow("down from the middle") << false << "B" << 2 << "ADB";
-    QTest::newRow("down from the top") << false << "A" << 1 << "BAD";
-    QTest::newRow("down from the end") << false << "D" << 3 << "ABD";
-    QTest::newRow("down, not stored") << false << "X" << 0 << "ABD";
+    Row("up from the middle", true, "B", 0, "BAD");
+    Row("up from the end", true, "D", 1, "ADB");
+    Row("up from the top", true, "A", -1, "ABD");
+    Row("up, not stored", true, "X", -2, "ABD");
+    Row("down from the middle", false, "B", 2, "ADB");
+    Row("down from the top", false, "A", 1, "BAD");
+    Row("down from the end", false, "D", 3, "ABD");
+    Row("down, not stored", false, "X", 0, "ABD");
 }
 
 void tst_ListOperations::moves()
@@ -225,10 +226,10 @@ void tst_ListOperations::movesWriteEvenWhenNothingMoves_data()
 {
     QTest::addColumn<bool>("up");
     QTest::addColumn<QString>("name");
-    QTest::newRow("the first up") << true << "A";
-    QTest::newRow("an absent one up") << true << "X";
-    QTest::newRow("the last down") << false << "A";
-    QTest::newRow("an absent one down") << false << "X";
+    Row("the first up", true, "A");
+    Row("an absent one up", true, "X");
+    Row("the last down", false, "A");
+    Row("an absent one down", false, "X");
 }
 
 void tst_ListOperations::movesWriteEvenWhenNothingMoves()

@@ -1,5 +1,6 @@
 #include "DialogScene.h"
 
+#include <Row.h>
 #include <TraceCapture.h>
 
 #include <QApplication>
@@ -259,10 +260,10 @@ void tst_NewDialog::keyCharacters_data()
 {
     QTest::addColumn<QString>("characters");
     QTest::addColumn<bool>("accepted");
-    QTest::newRow("letters and digits") << "azAZ09_" << true;
-    QTest::newRow("signs") << "-~!@#$%^&*()+{}[]:" << true;
-    QTest::newRow("other letters") << QString::fromUtf8("\xc3\xa9\xd8\xa8\xe4\xb8\xad") << true;
-    QTest::newRow("refused") << QString::fromUtf8(" .,;/\\'\"<>?=|`\xe2\x82\xac\t") << false;
+    Row("letters and digits", "azAZ09_", true);
+    Row("signs", "-~!@#$%^&*()+{}[]:", true);
+    Row("other letters", QString::fromUtf8("\xc3\xa9\xd8\xa8\xe4\xb8\xad"), true);
+    Row("refused", QString::fromUtf8(" .,;/\\'\"<>?=|`\xe2\x82\xac\t"), false);
 }
 
 void tst_NewDialog::keyCharacters()
@@ -306,33 +307,15 @@ void tst_NewDialog::names_data()
     QTest::addColumn<QString>("inRange");
     QTest::addColumn<QString>("stored");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("nothing stored") << "N1 N2"
-                                    << ""
-                                    << "N1 N2";
-    QTest::newRow("only the first of a name goes") << "N1 N2 N1"
-                                                   << "N1"
-                                                   << "N2 N1";
-    QTest::newRow("one goes for each entry") << "N1 N2 N1"
-                                             << "N1 N1"
-                                             << "N2";
-    QTest::newRow("mobile broadband takes nothing out") << "N1 N2"
-                                                        << "N1/2"
-                                                        << "N1 N2";
-    QTest::newRow("type is compared exactly") << "N1 N2"
-                                              << "N1/01 N2/ N1/10"
-                                              << "N1 N2";
-    QTest::newRow("case counts") << "N1 n2"
-                                 << "n1 N2"
-                                 << "N1 n2";
-    QTest::newRow("all stored") << "N1 N2"
-                                << "N2 N1"
-                                << "";
-    QTest::newRow("repeated names stay") << "N1 N1 N1"
-                                         << "X"
-                                         << "N1 N1 N1";
-    QTest::newRow("order stays") << "Z A M"
-                                 << ""
-                                 << "Z A M";
+    Row("nothing stored", "N1 N2", "", "N1 N2");
+    Row("only the first of a name goes", "N1 N2 N1", "N1", "N2 N1");
+    Row("one goes for each entry", "N1 N2 N1", "N1 N1", "N2");
+    Row("mobile broadband takes nothing out", "N1 N2", "N1/2", "N1 N2");
+    Row("type is compared exactly", "N1 N2", "N1/01 N2/ N1/10", "N1 N2");
+    Row("case counts", "N1 n2", "n1 N2", "N1 n2");
+    Row("all stored", "N1 N2", "N2 N1", "");
+    Row("repeated names stay", "N1 N1 N1", "X", "N1 N1 N1");
+    Row("order stays", "Z A M", "", "Z A M");
 }
 
 void tst_NewDialog::names()
@@ -349,8 +332,8 @@ void tst_NewDialog::names()
 void tst_NewDialog::namesWithAFileThatCannotBeRead_data()
 {
     QTest::addColumn<QByteArray>("file");
-    QTest::newRow("missing") << QByteArray();
-    QTest::newRow("broken behind the name") << QByteArray("<r><item name='N1' type='1'/><item");
+    Row("missing", QByteArray());
+    Row("broken behind the name", QByteArray("<r><item name='N1' type='1'/><item"));
 }
 
 void tst_NewDialog::namesWithAFileThatCannotBeRead()
@@ -423,8 +406,8 @@ void tst_NewDialog::namesThatComeOrNotReachTheFields_data()
 {
     QTest::addColumn<bool>("inRange");
     QTest::addColumn<QString>("key");
-    QTest::newRow("a network in range: the fields are reset") << true << "";
-    QTest::newRow("none: they are left alone") << false << "written";
+    Row("a network in range: the fields are reset", true, "");
+    Row("none: they are left alone", false, "written");
 }
 
 void tst_NewDialog::namesThatComeOrNotReachTheFields()
@@ -544,9 +527,9 @@ void tst_NewDialog::typedNameKeepsItsCase()
 void tst_NewDialog::closingSendsNothing_data()
 {
     QTest::addColumn<QString>("way");
-    QTest::newRow("Cancel") << "Cancel";
-    QTest::newRow("title bar") << "title bar";
-    QTest::newRow("Escape") << "Escape";
+    Row("Cancel", "Cancel");
+    Row("title bar", "title bar");
+    Row("Escape", "Escape");
 }
 
 void tst_NewDialog::closingSendsNothing()

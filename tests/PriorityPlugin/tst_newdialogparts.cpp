@@ -1,6 +1,7 @@
 #include <FakeWLAN.h>
 #include <LoadedPlugin.h>
 #include <PriorityXMLParser.h>
+#include <Row.h>
 #include <StandInHost.h>
 #include <TemporaryDirectory.h>
 #include <TraceCapture.h>
@@ -205,9 +206,9 @@ void tst_NewDialogParts::createWithoutWlanIsZero_data()
 {
     QTest::addColumn<bool>("hasContainer");
     QTest::addColumn<bool>("hasObject");
-    QTest::newRow("no container") << false << false;
-    QTest::newRow("no object under the class id") << true << false;
-    QTest::newRow("object of another interface") << true << true;
+    Row("no container", false, false);
+    Row("no object under the class id", true, false);
+    Row("object of another interface", true, true);
 }
 
 void tst_NewDialogParts::createWithoutWlanIsZero()

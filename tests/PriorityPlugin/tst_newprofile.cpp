@@ -1,5 +1,7 @@
 #include "DialogScene.h"
 
+#include <Row.h>
+
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTableWidget>
@@ -87,34 +89,20 @@ void tst_NewProfile::allFields_data()
     QTest::addColumn<QString>("stored");
     const char *const wep[] = {"open", "shared"};
     for (const char *method : wep) {
-        QTest::newRow(qPrintable(QString(method) + " none")) << method << "none"
-                                                             << "passPhrase"
-                                                             << ""
-                                                             << "";
-        QTest::newRow(qPrintable(QString(method) + " none with a key")) << method << "none"
-                                                                        << "passPhrase"
-                                                                        << "abc"
-                                                                        << "abc";
-        QTest::newRow(qPrintable(QString(method) + " WEP")) << method << "WEP"
-                                                            << "networkKey"
-                                                            << "abcde"
-                                                            << "abcde";
+        Row(qPrintable(QString(method) + " none"), method, "none", "passPhrase", "", "");
+        Row(qPrintable(QString(method) + " none with a key"), method, "none", "passPhrase", "abc", "abc");
+        Row(qPrintable(QString(method) + " WEP"), method, "WEP", "networkKey", "abcde", "abcde");
     }
     const char *const wpa[] = {"WPAPSK", "WPA2PSK", "WPA(EAP)", "WPA2(EAP)"};
     const char *const ciphers[] = {"CCMP", "TKIP"};
     for (const char *method : wpa) {
         const bool hasKey = QString(method).endsWith("PSK");
         for (const char *cipher : ciphers) {
-            QTest::newRow(qPrintable(QString(method) + " " + cipher))
-                << method << cipher << "passPhrase"
-                << "Pass:word" << (hasKey ? "Pass:word" : "");
+            Row(qPrintable(QString(method) + " " + cipher), method, cipher, "passPhrase", "Pass:word",
+                (hasKey ? "Pass:word" : ""));
         }
     }
-    QTest::newRow("IEEE 802.1X") << "IEEE 802.1X"
-                                 << "none"
-                                 << "passPhrase"
-                                 << "Pass:word"
-                                 << "";
+    Row("IEEE 802.1X", "IEEE 802.1X", "none", "passPhrase", "Pass:word", "");
 }
 
 void tst_NewProfile::allFields()
@@ -160,14 +148,10 @@ void tst_NewProfile::keyIndexes_data()
 {
     QTest::addColumn<QString>("shown");
     QTest::addColumn<QString>("stored");
-    QTest::newRow("1") << "1"
-                       << "0";
-    QTest::newRow("2") << "2"
-                       << "1";
-    QTest::newRow("3") << "3"
-                       << "2";
-    QTest::newRow("4") << "4"
-                       << "3";
+    Row("1", "1", "0");
+    Row("2", "2", "1");
+    Row("3", "3", "2");
+    Row("4", "4", "3");
 }
 
 void tst_NewProfile::keyIndexes()
@@ -302,9 +286,9 @@ void tst_NewProfile::blankNameIsAName()
 void tst_NewProfile::repeatedNameIsRefused_data()
 {
     QTest::addColumn<QString>("listed");
-    QTest::newRow("Wi-Fi") << "Mine";
-    QTest::newRow("mobile broadband") << "Mine/2";
-    QTest::newRow("behind others") << "A B/2 Mine C";
+    Row("Wi-Fi", "Mine");
+    Row("mobile broadband", "Mine/2");
+    Row("behind others", "A B/2 Mine C");
 }
 
 void tst_NewProfile::repeatedNameIsRefused()

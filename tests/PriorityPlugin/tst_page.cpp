@@ -1,4 +1,5 @@
 #include <LoadedPlugin.h>
+#include <Row.h>
 #include <StandInHost.h>
 #include <TemporaryDirectory.h>
 #include <TraceCapture.h>
@@ -378,17 +379,17 @@ void tst_Page::keysAreConsumed_data()
 {
     QTest::addColumn<int>("key");
     QTest::addColumn<int>("row");
-    QTest::newRow("letter") << int(Qt::Key_B) << -1;
-    QTest::newRow("Home") << int(Qt::Key_Home) << -1;
-    QTest::newRow("End") << int(Qt::Key_End) << -1;
-    QTest::newRow("Page down") << int(Qt::Key_PageDown) << -1;
-    QTest::newRow("Tab") << int(Qt::Key_Tab) << -1;
-    QTest::newRow("Escape") << int(Qt::Key_Escape) << -1;
-    QTest::newRow("Return") << int(Qt::Key_Return) << -1;
-    QTest::newRow("Up") << int(Qt::Key_Up) << -1;
-    QTest::newRow("Down") << int(Qt::Key_Down) << -1;
-    QTest::newRow("Up on the first row") << int(Qt::Key_Up) << 0;
-    QTest::newRow("Down on the last row") << int(Qt::Key_Down) << 2;
+    ::Row("letter", int(Qt::Key_B), -1);
+    ::Row("Home", int(Qt::Key_Home), -1);
+    ::Row("End", int(Qt::Key_End), -1);
+    ::Row("Page down", int(Qt::Key_PageDown), -1);
+    ::Row("Tab", int(Qt::Key_Tab), -1);
+    ::Row("Escape", int(Qt::Key_Escape), -1);
+    ::Row("Return", int(Qt::Key_Return), -1);
+    ::Row("Up", int(Qt::Key_Up), -1);
+    ::Row("Down", int(Qt::Key_Down), -1);
+    ::Row("Up on the first row", int(Qt::Key_Up), 0);
+    ::Row("Down on the last row", int(Qt::Key_Down), 2);
 }
 
 void tst_Page::keysAreConsumed()

@@ -1,5 +1,6 @@
 #include <FakeWLAN.h>
 #include <LoadedPlugin.h>
+#include <Row.h>
 #include <StandInHost.h>
 #include <TemporaryDirectory.h>
 #include <TraceCapture.h>
@@ -212,24 +213,24 @@ void tst_PageEditing::buttonStates_data()
     QTest::addColumn<int>("count");
     QTest::addColumn<int>("row");
     QTest::addColumn<QString>("buttons");
-    QTest::newRow("empty, none") << 0 << -1 << "---";
-    QTest::newRow("empty, 0") << 0 << 0 << "---";
-    QTest::newRow("empty, 1") << 0 << 1 << "---";
-    QTest::newRow("empty, -2") << 0 << -2 << "---";
-    QTest::newRow("one, none") << 1 << -1 << "---";
-    QTest::newRow("one, 0") << 1 << 0 << "--X";
-    QTest::newRow("one, 1") << 1 << 1 << "UDX";
-    QTest::newRow("one, -2") << 1 << -2 << "UDX";
-    QTest::newRow("two, none") << 2 << -1 << "---";
-    QTest::newRow("two, first") << 2 << 0 << "-DX";
-    QTest::newRow("two, last") << 2 << 1 << "U-X";
-    QTest::newRow("two, beyond") << 2 << 2 << "UDX";
-    QTest::newRow("three, none") << 3 << -1 << "---";
-    QTest::newRow("three, first") << 3 << 0 << "-DX";
-    QTest::newRow("three, middle") << 3 << 1 << "UDX";
-    QTest::newRow("three, last") << 3 << 2 << "U-X";
-    QTest::newRow("three, beyond") << 3 << 9 << "UDX";
-    QTest::newRow("three, -2") << 3 << -2 << "UDX";
+    Row("empty, none", 0, -1, "---");
+    Row("empty, 0", 0, 0, "---");
+    Row("empty, 1", 0, 1, "---");
+    Row("empty, -2", 0, -2, "---");
+    Row("one, none", 1, -1, "---");
+    Row("one, 0", 1, 0, "--X");
+    Row("one, 1", 1, 1, "UDX");
+    Row("one, -2", 1, -2, "UDX");
+    Row("two, none", 2, -1, "---");
+    Row("two, first", 2, 0, "-DX");
+    Row("two, last", 2, 1, "U-X");
+    Row("two, beyond", 2, 2, "UDX");
+    Row("three, none", 3, -1, "---");
+    Row("three, first", 3, 0, "-DX");
+    Row("three, middle", 3, 1, "UDX");
+    Row("three, last", 3, 2, "U-X");
+    Row("three, beyond", 3, 9, "UDX");
+    Row("three, -2", 3, -2, "UDX");
 }
 
 void tst_PageEditing::buttonStates()
@@ -283,11 +284,11 @@ void tst_PageEditing::readOnlyWordsMustBeExact()
 void tst_PageEditing::mobileEntryIsNeverAskedFor_data()
 {
     QTest::addColumn<QString>("type");
-    QTest::newRow("2") << "2";
-    QTest::newRow("10") << "10";
-    QTest::newRow("blank behind") << "1 ";
-    QTest::newRow("blank before") << " 1";
-    QTest::newRow("none") << "";
+    Row("2", "2");
+    Row("10", "10");
+    Row("blank behind", "1 ");
+    Row("blank before", " 1");
+    Row("none", "");
 }
 
 void tst_PageEditing::mobileEntryIsNeverAskedFor()
@@ -492,9 +493,9 @@ void tst_PageEditing::deleteConfirmedWritesTwice()
 void tst_PageEditing::deleteCancelled_data()
 {
     QTest::addColumn<int>("answer");
-    QTest::newRow("Cancel") << int(QMessageBox::Cancel);
-    QTest::newRow("closed") << 0;
-    QTest::newRow("Yes is not OK") << int(QMessageBox::Yes);
+    Row("Cancel", int(QMessageBox::Cancel));
+    Row("closed", 0);
+    Row("Yes is not OK", int(QMessageBox::Yes));
 }
 
 void tst_PageEditing::deleteCancelled()
@@ -566,9 +567,9 @@ void tst_PageEditing::refreshKeepsSelectedRowAndButtons()
 void tst_PageEditing::refreshOfAHiddenPageSelectsNothing_data()
 {
     QTest::addColumn<QString>("way");
-    QTest::newRow("OK") << "OK";
-    QTest::newRow("Cancel") << "Cancel";
-    QTest::newRow("hidden") << "hidden";
+    Row("OK", "OK");
+    Row("Cancel", "Cancel");
+    Row("hidden", "hidden");
 }
 
 void tst_PageEditing::refreshOfAHiddenPageSelectsNothing()
@@ -683,10 +684,8 @@ void tst_PageEditing::openingADialogLeavesTheListAlone_data()
 {
     QTest::addColumn<QString>("button");
     QTest::addColumn<QString>("dialog");
-    QTest::newRow("Add") << "addButton"
-                         << "addDialog";
-    QTest::newRow("New") << "newButton"
-                         << "newDialog";
+    Row("Add", "addButton", "addDialog");
+    Row("New", "newButton", "newDialog");
 }
 
 void tst_PageEditing::openingADialogLeavesTheListAlone()

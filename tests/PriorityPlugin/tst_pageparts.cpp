@@ -1,6 +1,7 @@
 #include <FakeWLAN.h>
 #include <LoadedPlugin.h>
 #include <PriorityXMLParser.h>
+#include <Row.h>
 #include <StandInHost.h>
 #include <TemporaryDirectory.h>
 #include <TraceCapture.h>
@@ -123,13 +124,13 @@ void tst_PageParts::readOnlyWords_data()
 {
     QTest::addColumn<QString>("word");
     QTest::addColumn<bool>("readOnly");
-    QTest::newRow("true") << "true" << true;
-    QTest::newRow("TRUE") << "TRUE" << false;
-    QTest::newRow("True") << "True" << false;
-    QTest::newRow("1") << "1" << false;
-    QTest::newRow("blank") << "true " << false;
-    QTest::newRow("false") << "false" << false;
-    QTest::newRow("empty") << "" << false;
+    Row("true", "true", true);
+    Row("TRUE", "TRUE", false);
+    Row("True", "True", false);
+    Row("1", "1", false);
+    Row("blank", "true ", false);
+    Row("false", "false", false);
+    Row("empty", "", false);
 }
 
 void tst_PageParts::readOnlyWords()
@@ -155,9 +156,9 @@ void tst_PageParts::readOnlyWithoutWlan_data()
 {
     QTest::addColumn<bool>("hasContainer");
     QTest::addColumn<bool>("hasObject");
-    QTest::newRow("no container") << false << false;
-    QTest::newRow("no object under the class id") << true << false;
-    QTest::newRow("object of another interface") << true << true;
+    Row("no container", false, false);
+    Row("no object under the class id", true, false);
+    Row("object of another interface", true, true);
 }
 
 void tst_PageParts::readOnlyWithoutWlan()

@@ -1,5 +1,6 @@
 #include <LoadedPlugin.h>
 #include <PriorityXMLParser.h>
+#include <Row.h>
 #include <StandInHost.h>
 #include <TemporaryDirectory.h>
 #include <TraceCapture.h>
@@ -190,14 +191,14 @@ void tst_PriorityFile::whatFollowsIsLostAlikeAtAnyLength_data()
     QTest::addColumn<QByteArray>("start");
     QTest::addColumn<QByteArray>("end");
     const QByteArray end = "<item name='last' type='0'/></r>";
-    QTest::newRow("nothing wrong") << QByteArray("<r>") << end;
-    QTest::newRow("byte order mark") << QByteArray("\xef\xbb\xbf<r>") << end;
-    QTest::newRow("lines ended twice") << QByteArray("<?xml version='1.0' encoding='UTF-8'?>\r\n<r>\r\n")
-                                       << QByteArray("<item name='a\rb\r\nc'/>\r\n</r>");
-    QTest::newRow("other encoding") << QByteArray("<?xml version='1.0' encoding='ISO-8859-1'?><r>")
-                                    << QByteArray("<item name='\xe9'/></r>");
-    QTest::newRow("cut off") << QByteArray("<r>") << QByteArray("<item name='l");
-    QTest::newRow("no text at the end") << QByteArray("<r>") << QByteArray("<item name='\xff'/></r>");
+    Row("nothing wrong", QByteArray("<r>"), end);
+    Row("byte order mark", QByteArray("\xef\xbb\xbf<r>"), end);
+    Row("lines ended twice", QByteArray("<?xml version='1.0' encoding='UTF-8'?>\r\n<r>\r\n"),
+        QByteArray("<item name='a\rb\r\nc'/>\r\n</r>"));
+    Row("other encoding", QByteArray("<?xml version='1.0' encoding='ISO-8859-1'?><r>"),
+        QByteArray("<item name='\xe9'/></r>"));
+    Row("cut off", QByteArray("<r>"), QByteArray("<item name='l"));
+    Row("no text at the end", QByteArray("<r>"), QByteArray("<item name='\xff'/></r>"));
 }
 
 void tst_PriorityFile::whatFollowsIsLostAlikeAtAnyLength()
@@ -280,41 +281,32 @@ void tst_PriorityFile::anyTextReadsBack_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("stored");
 
-    QTest::newRow("markup") << "a & b < c > d \" e ' f"
-                            << "a & b < c > d \" e ' f";
-    QTest::newRow("white space") << " a\tb\nc\rd\r\ne "
-                                 << " a\tb\nc\rd\r\ne ";
-    QTest::newRow("CDATA end") << "]]>"
-                               << "]]>";
-    QTest::newRow("empty") << ""
-                           << "";
+    Row("markup", "a & b < c > d \" e ' f", "a & b < c > d \" e ' f");
+    Row("white space", " a\tb\nc\rd\r\ne ", " a\tb\nc\rd\r\ne ");
+    Row("CDATA end", "]]>", "]]>");
+    Row("empty", "", "");
     const QString rightToLeft = QString::fromUtf8("\u200fالمكتب\u202e\u2066שלום\u2069");
-    QTest::newRow("right-to-left marks") << rightToLeft << rightToLeft;
+    Row("right-to-left marks", rightToLeft, rightToLeft);
     const QString pair = QString::fromUtf8("\xf0\x9f\x93\xb6 up");
-    QTest::newRow("surrogate pair") << pair << pair;
+    Row("surrogate pair", pair, pair);
     const QString mark = QString(QChar(0xfeff)) + "x";
-    QTest::newRow("byte order mark") << mark << mark;
+    Row("byte order mark", mark, mark);
     const QString separators = QString(QChar(0x85)) + QChar(0x2028) + QChar(0x2029) + QChar(0x7f);
-    QTest::newRow("other line ends") << separators << separators;
+    Row("other line ends", separators, separators);
     const QString longName(10000, QChar('n'));
-    QTest::newRow("10,000 characters") << longName << longName;
+    Row("10,000 characters", longName, longName);
     const QString longWide(10000, QChar(0x20ac));
-    QTest::newRow("10,000 wide characters") << longWide << longWide;
+    Row("10,000 wide characters", longWide, longWide);
 
     const QString replacement(QChar(0xfffd));
-    QTest::newRow("control character") << QString("a") + QChar(1) + "b"
-                                       << "a" + replacement + "b";
-    QTest::newRow("null character") << QString("a") + QChar(0) + "b"
-                                    << "a" + replacement + "b";
-    QTest::newRow("escape") << QString(QChar(0x1b)) << replacement;
-    QTest::newRow("lone high surrogate") << QString("a") + QChar(0xd83d) + "b"
-                                         << "a" + replacement + "b";
-    QTest::newRow("high surrogate at the end") << QString("a") + QChar(0xd83d) << "a" + replacement;
-    QTest::newRow("lone low surrogate") << QString("a") + QChar(0xdcf6) + "b"
-                                        << "a" + replacement + "b";
-    QTest::newRow("surrogates in the wrong order")
-        << QString(QChar(0xdcf6)) + QChar(0xd83d) << replacement + replacement;
-    QTest::newRow("non-characters") << QString(QChar(0xfffe)) + QChar(0xffff) << replacement + replacement;
+    Row("control character", QString("a") + QChar(1) + "b", "a" + replacement + "b");
+    Row("null character", QString("a") + QChar(0) + "b", "a" + replacement + "b");
+    Row("escape", QString(QChar(0x1b)), replacement);
+    Row("lone high surrogate", QString("a") + QChar(0xd83d) + "b", "a" + replacement + "b");
+    Row("high surrogate at the end", QString("a") + QChar(0xd83d), "a" + replacement);
+    Row("lone low surrogate", QString("a") + QChar(0xdcf6) + "b", "a" + replacement + "b");
+    Row("surrogates in the wrong order", QString(QChar(0xdcf6)) + QChar(0xd83d), replacement + replacement);
+    Row("non-characters", QString(QChar(0xfffe)) + QChar(0xffff), replacement + replacement);
 }
 
 void tst_PriorityFile::anyTextReadsBack()
@@ -464,9 +456,9 @@ void tst_PriorityFile::failedSdkCallMeansTheCurrentDirectory_data()
 {
     QTest::addColumn<int>("status");
     QTest::addColumn<bool>("allocated");
-    QTest::newRow("status not 0") << -7 << false;
-    QTest::newRow("status not 0, path all the same") << 5 << true;
-    QTest::newRow("no path in spite of status 0") << 0 << false;
+    Row("status not 0", -7, false);
+    Row("status not 0, path all the same", 5, true);
+    Row("no path in spite of status 0", 0, false);
 }
 
 void tst_PriorityFile::failedSdkCallMeansTheCurrentDirectory()

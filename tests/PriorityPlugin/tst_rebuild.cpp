@@ -1,6 +1,7 @@
 #include <LoadedPlugin.h>
 #include <PriorityListItem.h>
 #include <PriorityXMLParser.h>
+#include <Row.h>
 #include <StandInHost.h>
 #include <TemporaryDirectory.h>
 #include <qprioritywidget.h>
@@ -129,8 +130,8 @@ void tst_Rebuild::rowsStandInTheirPlacesAtOnce()
 void tst_Rebuild::noRowAsksForItsOwnPainting_data()
 {
     QTest::addColumn<bool>("shown");
-    QTest::newRow("rebuilt") << false;
-    QTest::newRow("shown anew") << true;
+    ::Row("rebuilt", false);
+    ::Row("shown anew", true);
 }
 
 void tst_Rebuild::noRowAsksForItsOwnPainting()
@@ -178,8 +179,8 @@ void tst_Rebuild::movedRowStaysInView_data()
 {
     QTest::addColumn<int>("key");
     QTest::addColumn<int>("moved");
-    QTest::newRow("down") << int(Qt::Key_Down) << 151;
-    QTest::newRow("up") << int(Qt::Key_Up) << 149;
+    ::Row("down", int(Qt::Key_Down), 151);
+    ::Row("up", int(Qt::Key_Up), 149);
 }
 
 void tst_Rebuild::movedRowStaysInView()

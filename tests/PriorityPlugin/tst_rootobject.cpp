@@ -1,4 +1,5 @@
 #include <LoadedPlugin.h>
+#include <Row.h>
 #include <StandInHost.h>
 #include <TemporaryDirectory.h>
 #include <TraceCapture.h>
@@ -166,12 +167,12 @@ void tst_RootObject::queryInterface()
 void tst_RootObject::unknownInterfaceNumbers_data()
 {
     QTest::addColumn<int>("number");
-    QTest::newRow("WLAN") << 4102;
-    QTest::newRow("0") << 0;
-    QTest::newRow("-1") << -1;
-    QTest::newRow("between") << 4099;
-    QTest::newRow("below") << 4097;
-    QTest::newRow("above") << 4104;
+    Row("WLAN", 4102);
+    Row("0", 0);
+    Row("-1", -1);
+    Row("between", 4099);
+    Row("below", 4097);
+    Row("above", 4104);
 }
 
 void tst_RootObject::unknownInterfaceNumbers()
@@ -223,10 +224,10 @@ void tst_RootObject::languageChangeEventTranslatesThePage()
 void tst_RootObject::otherEventsDoNothing_data()
 {
     QTest::addColumn<uint>("event");
-    QTest::newRow("0") << 0u;
-    QTest::newRow("319") << 319u;
-    QTest::newRow("321") << 321u;
-    QTest::newRow("largest") << 0xffffffffu;
+    Row("0", 0u);
+    Row("319", 319u);
+    Row("321", 321u);
+    Row("largest", 0xffffffffu);
 }
 
 void tst_RootObject::otherEventsDoNothing()

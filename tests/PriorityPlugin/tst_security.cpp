@@ -1,4 +1,5 @@
 #include <FakeWLAN.h>
+#include <Row.h>
 #include <StandInHost.h>
 #include <TemporaryDirectory.h>
 #include <qnewprioritywidget.h>
@@ -139,41 +140,13 @@ void tst_Security::methods_data()
     QTest::addColumn<QString>("keyIndexEnabled");
     QTest::addColumn<QString>("eap");
     QTest::addColumn<bool>("hasKey");
-    QTest::newRow("open") << "open"
-                          << "none,WEP"
-                          << "shown"
-                          << "enabled"
-                          << "hidden" << true;
-    QTest::newRow("shared") << "shared"
-                            << "none,WEP"
-                            << "shown"
-                            << "enabled"
-                            << "hidden" << true;
-    QTest::newRow("WPAPSK") << "WPAPSK"
-                            << "CCMP,TKIP"
-                            << "shown"
-                            << "disabled"
-                            << "hidden" << true;
-    QTest::newRow("WPA2PSK") << "WPA2PSK"
-                             << "CCMP,TKIP"
-                             << "shown"
-                             << "disabled"
-                             << "hidden" << true;
-    QTest::newRow("WPA(EAP)") << "WPA(EAP)"
-                              << "CCMP,TKIP"
-                              << "hidden"
-                              << "unchanged"
-                              << "shown" << false;
-    QTest::newRow("WPA2(EAP)") << "WPA2(EAP)"
-                               << "CCMP,TKIP"
-                               << "hidden"
-                               << "unchanged"
-                               << "shown" << false;
-    QTest::newRow("IEEE 802.1X") << "IEEE 802.1X"
-                                 << "none"
-                                 << "hidden"
-                                 << "unchanged"
-                                 << "shown" << false;
+    Row("open", "open", "none,WEP", "shown", "enabled", "hidden", true);
+    Row("shared", "shared", "none,WEP", "shown", "enabled", "hidden", true);
+    Row("WPAPSK", "WPAPSK", "CCMP,TKIP", "shown", "disabled", "hidden", true);
+    Row("WPA2PSK", "WPA2PSK", "CCMP,TKIP", "shown", "disabled", "hidden", true);
+    Row("WPA(EAP)", "WPA(EAP)", "CCMP,TKIP", "hidden", "unchanged", "shown", false);
+    Row("WPA2(EAP)", "WPA2(EAP)", "CCMP,TKIP", "hidden", "unchanged", "shown", false);
+    Row("IEEE 802.1X", "IEEE 802.1X", "none", "hidden", "unchanged", "shown", false);
 }
 
 void tst_Security::methods()
@@ -211,8 +184,7 @@ void tst_Security::unknownMethodEmptiesEncryptionOnly_data()
     const char *const before[] = {"open", "WPAPSK", "WPA(EAP)"};
     for (const char *method : unknown) {
         for (const char *previous : before) {
-            QTest::newRow(qPrintable(QString("'%1' after %2").arg(method).arg(previous)))
-                << previous << method;
+            Row(qPrintable(QString("'%1' after %2").arg(method).arg(previous)), previous, method);
         }
     }
 }
@@ -233,18 +205,13 @@ void tst_Security::methodsAreFilledInAsAWhole_data()
 {
     QTest::addColumn<QString>("configured");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("one") << "open"
-                         << "open,open";
-    QTest::newRow("two") << "open,shared"
-                         << "open,shared,open,shared";
-    QTest::newRow("three") << "open,shared,WPAPSK"
-                           << "open,shared,WPAPSK,open,shared,WPAPSK";
-    QTest::newRow("four") << "open,shared,WPAPSK,WPA2PSK"
-                          << "open,shared,WPAPSK,WPA2PSK,open,shared";
-    QTest::newRow("six") << allMethods << allMethods;
-    QTest::newRow("seven") << QString(allMethods) + ",IEEE 802.1X" << allMethods;
-    QTest::newRow("unknown methods too") << "x,y,z"
-                                         << "x,y,z,x,y,z";
+    Row("one", "open", "open,open");
+    Row("two", "open,shared", "open,shared,open,shared");
+    Row("three", "open,shared,WPAPSK", "open,shared,WPAPSK,open,shared,WPAPSK");
+    Row("four", "open,shared,WPAPSK,WPA2PSK", "open,shared,WPAPSK,WPA2PSK,open,shared");
+    Row("six", allMethods, allMethods);
+    Row("seven", QString(allMethods) + ",IEEE 802.1X", allMethods);
+    Row("unknown methods too", "x,y,z", "x,y,z,x,y,z");
 }
 
 void tst_Security::methodsAreFilledInAsAWhole()
@@ -322,13 +289,13 @@ void tst_Security::chosenItemIsFoundExactly_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("index");
-    QTest::newRow("last") << "WPA2(EAP)" << 5;
-    QTest::newRow("first") << "open" << 0;
-    QTest::newRow("case") << "OPEN" << -1;
-    QTest::newRow("part") << "WPA" << -1;
-    QTest::newRow("pattern") << "o*" << -1;
-    QTest::newRow("blank") << "open " << -1;
-    QTest::newRow("empty") << "" << -1;
+    Row("last", "WPA2(EAP)", 5);
+    Row("first", "open", 0);
+    Row("case", "OPEN", -1);
+    Row("part", "WPA", -1);
+    Row("pattern", "o*", -1);
+    Row("blank", "open ", -1);
+    Row("empty", "", -1);
 }
 
 void tst_Security::chosenItemIsFoundExactly()
@@ -349,24 +316,15 @@ void tst_Security::keyIndexIsAPosition_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("shown");
-    QTest::newRow("0") << "0"
-                       << "1";
-    QTest::newRow("1") << "1"
-                       << "2";
-    QTest::newRow("2") << "2"
-                       << "3";
-    QTest::newRow("3") << "3"
-                       << "4";
-    QTest::newRow("empty") << ""
-                           << "1";
-    QTest::newRow("word") << "two"
-                          << "1";
-    QTest::newRow("hexadecimal") << "0x2"
-                                 << "1";
-    QTest::newRow("beyond") << "4"
-                            << "";
-    QTest::newRow("negative") << "-1"
-                              << "";
+    Row("0", "0", "1");
+    Row("1", "1", "2");
+    Row("2", "2", "3");
+    Row("3", "3", "4");
+    Row("empty", "", "1");
+    Row("word", "two", "1");
+    Row("hexadecimal", "0x2", "1");
+    Row("beyond", "4", "");
+    Row("negative", "-1", "");
 }
 
 void tst_Security::keyIndexIsAPosition()
@@ -413,40 +371,19 @@ void tst_Security::keyLength_data()
     QTest::addColumn<QString>("encryption");
     QTest::addColumn<QString>("key");
     QTest::addColumn<int>("fault");
-    QTest::newRow("WEP 5") << "open"
-                           << "WEP"
-                           << "abxyz" << 0;
-    QTest::newRow("WEP empty") << "open"
-                               << "WEP"
-                               << "" << 1;
-    QTest::newRow("WEP 10 digits") << "open"
-                                   << "WEP"
-                                   << "0123456789" << 0;
-    QTest::newRow("WEP 10 letters") << "open"
-                                    << "WEP"
-                                    << "abcdefghij" << 1;
-    QTest::newRow("WEP 16") << "shared"
-                            << "WEP"
-                            << "0123456789abcdef" << 1;
-    QTest::newRow("WEP 32") << "shared"
-                            << "WEP" << QString("0123456789abcdef").repeated(2) << 0;
-    QTest::newRow("none") << "open"
-                          << "none"
-                          << "x" << 0;
-    QTest::newRow("TKIP 7") << "WPAPSK"
-                            << "TKIP"
-                            << "1234567" << 2;
-    QTest::newRow("TKIP 8") << "WPAPSK"
-                            << "TKIP"
-                            << "xyz45678" << 0;
-    QTest::newRow("CCMP 63") << "WPA2PSK"
-                             << "CCMP" << QString(63, 'x') << 0;
-    QTest::newRow("CCMP 64") << "WPA2PSK"
-                             << "CCMP" << QString(64, 'f') << 0;
-    QTest::newRow("CCMP 64 with a g") << "WPA2PSK"
-                                      << "CCMP" << QString(63, 'f') + "g" << 2;
-    QTest::newRow("CCMP 65") << "WPA2PSK"
-                             << "CCMP" << QString(65, 'f') << 2;
+    Row("WEP 5", "open", "WEP", "abxyz", 0);
+    Row("WEP empty", "open", "WEP", "", 1);
+    Row("WEP 10 digits", "open", "WEP", "0123456789", 0);
+    Row("WEP 10 letters", "open", "WEP", "abcdefghij", 1);
+    Row("WEP 16", "shared", "WEP", "0123456789abcdef", 1);
+    Row("WEP 32", "shared", "WEP", QString("0123456789abcdef").repeated(2), 0);
+    Row("none", "open", "none", "x", 0);
+    Row("TKIP 7", "WPAPSK", "TKIP", "1234567", 2);
+    Row("TKIP 8", "WPAPSK", "TKIP", "xyz45678", 0);
+    Row("CCMP 63", "WPA2PSK", "CCMP", QString(63, 'x'), 0);
+    Row("CCMP 64", "WPA2PSK", "CCMP", QString(64, 'f'), 0);
+    Row("CCMP 64 with a g", "WPA2PSK", "CCMP", QString(63, 'f') + "g", 2);
+    Row("CCMP 65", "WPA2PSK", "CCMP", QString(65, 'f'), 2);
 }
 
 void tst_Security::keyLength()
@@ -492,38 +429,14 @@ void tst_Security::faultsInTheirOrder_data()
     const QString wpa = "IDS_ERROR_KEY_WRONG_LENGTH_128";
     const QString different = "IDS_ERROR_KEY_DIFFERENT";
     const QString authentication = "IDS_ERROR_WRONG_AUTHENTICATION";
-    QTest::newRow("everything wrong, WEP") << "open"
-                                           << "WEP"
-                                           << "abc"
-                                           << "x" << false << wep;
-    QTest::newRow("everything wrong, WPA") << "WPAPSK"
-                                           << "CCMP"
-                                           << "abc"
-                                           << "x" << false << wpa;
-    QTest::newRow("different, no method") << "open"
-                                          << "WEP"
-                                          << "abcde"
-                                          << "x" << false << different;
-    QTest::newRow("no method") << "open"
-                               << "WEP"
-                               << "abcde"
-                               << "abcde" << false << authentication;
-    QTest::newRow("different by case") << "open"
-                                       << "WEP"
-                                       << "abcde"
-                                       << "abcdE" << true << different;
-    QTest::newRow("different without encryption") << "open"
-                                                  << "none"
-                                                  << "a"
-                                                  << "" << true << different;
-    QTest::newRow("WEP") << "open"
-                         << "WEP"
-                         << "abc"
-                         << "abc" << true << wep;
-    QTest::newRow("WPA") << "WPA2PSK"
-                         << "TKIP"
-                         << "abc"
-                         << "abc" << true << wpa;
+    Row("everything wrong, WEP", "open", "WEP", "abc", "x", false, wep);
+    Row("everything wrong, WPA", "WPAPSK", "CCMP", "abc", "x", false, wpa);
+    Row("different, no method", "open", "WEP", "abcde", "x", false, different);
+    Row("no method", "open", "WEP", "abcde", "abcde", false, authentication);
+    Row("different by case", "open", "WEP", "abcde", "abcdE", true, different);
+    Row("different without encryption", "open", "none", "a", "", true, different);
+    Row("WEP", "open", "WEP", "abc", "abc", true, wep);
+    Row("WPA", "WPA2PSK", "TKIP", "abc", "abc", true, wpa);
 }
 
 void tst_Security::faultsInTheirOrder()
@@ -551,26 +464,10 @@ void tst_Security::noticeArguments_data()
     QTest::addColumn<QString>("key");
     QTest::addColumn<QString>("confirmed");
     QTest::addColumn<QString>("text");
-    QTest::newRow("WEP") << "open"
-                         << "WEP"
-                         << "abc"
-                         << "abc"
-                         << "ar:IDS_ERROR_KEY_WRONG_LENGTH_40";
-    QTest::newRow("WPA") << "WPAPSK"
-                         << "CCMP"
-                         << "abc"
-                         << "abc"
-                         << "ar:IDS_ERROR_KEY_WRONG_LENGTH_128";
-    QTest::newRow("different") << "open"
-                               << "none"
-                               << "abc"
-                               << "abd"
-                               << "ar:IDS_ERROR_KEY_DIFFERENT";
-    QTest::newRow("no method") << ""
-                               << ""
-                               << ""
-                               << ""
-                               << "ar:IDS_ERROR_WRONG_AUTHENTICATION";
+    Row("WEP", "open", "WEP", "abc", "abc", "ar:IDS_ERROR_KEY_WRONG_LENGTH_40");
+    Row("WPA", "WPAPSK", "CCMP", "abc", "abc", "ar:IDS_ERROR_KEY_WRONG_LENGTH_128");
+    Row("different", "open", "none", "abc", "abd", "ar:IDS_ERROR_KEY_DIFFERENT");
+    Row("no method", "", "", "", "", "ar:IDS_ERROR_WRONG_AUTHENTICATION");
 }
 
 void tst_Security::noticeArguments()

@@ -1,5 +1,6 @@
 #include "TabStops.h"
 
+#include <Row.h>
 #include <Screens.h>
 #include <WindowActivation.h>
 
@@ -305,8 +306,7 @@ void TestAccessibility::everythingIsNamedAndReached_data()
     QTest::addColumn<QString>("screen");
     foreach (const QString &language, QStringList() << QLatin1String("en") << QLatin1String("ar")) {
         foreach (const QString &screen, Screens::Names()) {
-            QTest::newRow((language + QLatin1String(", ") + screen).toLatin1().constData())
-                << language << screen;
+            Row((language + QLatin1String(", ") + screen).toLatin1().constData(), language, screen);
         }
     }
 }
@@ -326,12 +326,9 @@ void TestAccessibility::rowsAreCalledByTheirNetworks_data()
     QTest::addColumn<QString>("table");
     QTest::addColumn<int>("column");
     QTest::addColumn<QString>("first");
-    QTest::newRow("priority page") << "settings, priority page"
-                                   << "priorityTable" << 0 << "Home";
-    QTest::newRow("add dialog") << "add dialog"
-                                << "rememberTable" << 0 << "Mobile broadband";
-    QTest::newRow("import dialog") << "import dialog"
-                                   << "importList" << 1 << "Office";
+    Row("priority page", "settings, priority page", "priorityTable", 0, "Home");
+    Row("add dialog", "add dialog", "rememberTable", 0, "Mobile broadband");
+    Row("import dialog", "import dialog", "importList", 1, "Office");
 }
 
 void TestAccessibility::rowsAreCalledByTheirNetworks()
@@ -418,20 +415,13 @@ void TestAccessibility::labelsNameTheFieldsOfTheNewDialog_data()
 {
     QTest::addColumn<QString>("label");
     QTest::addColumn<QString>("field");
-    QTest::newRow("name") << "networkNameLabel"
-                          << "networkNameBox";
-    QTest::newRow("key") << "keyLabel"
-                         << "keyEdit";
-    QTest::newRow("key again") << "confirmKeyLabel"
-                               << "confirmKeyEdit";
-    QTest::newRow("security") << "authenticationLabel"
-                              << "authenticationBox";
-    QTest::newRow("encryption") << "encryptionLabel"
-                                << "encryptionBox";
-    QTest::newRow("key index") << "keyIndexLabel"
-                               << "keyIndexBox";
-    QTest::newRow("EAP type") << "eapLabel"
-                              << "eapBox";
+    Row("name", "networkNameLabel", "networkNameBox");
+    Row("key", "keyLabel", "keyEdit");
+    Row("key again", "confirmKeyLabel", "confirmKeyEdit");
+    Row("security", "authenticationLabel", "authenticationBox");
+    Row("encryption", "encryptionLabel", "encryptionBox");
+    Row("key index", "keyIndexLabel", "keyIndexBox");
+    Row("EAP type", "eapLabel", "eapBox");
 }
 
 void TestAccessibility::labelsNameTheFieldsOfTheNewDialog()

@@ -1,5 +1,6 @@
 #include <Appearance.h>
 #include <Contrast.h>
+#include <Row.h>
 #include <Screens.h>
 
 #include <QHash>
@@ -87,8 +88,8 @@ void TestContrast::cleanup()
 void TestContrast::overviewIsReadable_data()
 {
     QTest::addColumn<int>("appearance");
-    QTest::newRow("light") << int(Appearance::Light);
-    QTest::newRow("dark") << int(Appearance::Dark);
+    Row("light", int(Appearance::Light));
+    Row("dark", int(Appearance::Dark));
 }
 
 void TestContrast::overviewIsReadable()

@@ -1,6 +1,7 @@
 #include "TabStops.h"
 
 #include <Appearance.h>
+#include <Row.h>
 #include <Screens.h>
 #include <WindowActivation.h>
 
@@ -97,10 +98,10 @@ void TestFocus::focusIsSeen_data()
     QTest::addColumn<QString>("screen");
     QTest::addColumn<int>("appearance");
     for (const char *screen : screens) {
-        QTest::newRow(QByteArray(screen).append(", light").constData())
-            << QString(QLatin1String(screen)) << int(Appearance::Light);
-        QTest::newRow(QByteArray(screen).append(", dark").constData())
-            << QString(QLatin1String(screen)) << int(Appearance::Dark);
+        Row(QByteArray(screen).append(", light").constData(), QString(QLatin1String(screen)),
+            int(Appearance::Light));
+        Row(QByteArray(screen).append(", dark").constData(), QString(QLatin1String(screen)),
+            int(Appearance::Dark));
     }
 }
 
@@ -136,8 +137,8 @@ void TestFocus::focusIsSeen()
 void TestFocus::focusIsSeenOnAListWithoutAChoice_data()
 {
     QTest::addColumn<int>("appearance");
-    QTest::newRow("light") << int(Appearance::Light);
-    QTest::newRow("dark") << int(Appearance::Dark);
+    Row("light", int(Appearance::Light));
+    Row("dark", int(Appearance::Dark));
 }
 
 void TestFocus::focusIsSeenOnAListWithoutAChoice()

@@ -1,5 +1,6 @@
 #include "TabStops.h"
 
+#include <Row.h>
 #include <Screens.h>
 #include <WindowActivation.h>
 
@@ -56,7 +57,7 @@ void AddDialogs()
 {
     QTest::addColumn<QString>("screen");
     for (const char *dialog : dialogs) {
-        QTest::newRow(dialog) << QString(QLatin1String(dialog));
+        Row(dialog, QString(QLatin1String(dialog)));
     }
 }
 
@@ -172,8 +173,8 @@ void TestKeyboard::firstChoiceIsAtTheEndTheArrowComesFrom()
 void TestKeyboard::listOfThePageLetsTheFocusOn_data()
 {
     QTest::addColumn<int>("key");
-    QTest::newRow("Tab") << int(Qt::Key_Tab);
-    QTest::newRow("Shift and Tab") << int(Qt::Key_Backtab);
+    Row("Tab", int(Qt::Key_Tab));
+    Row("Shift and Tab", int(Qt::Key_Backtab));
 }
 
 void TestKeyboard::listOfThePageLetsTheFocusOn()
@@ -224,14 +225,13 @@ void TestKeyboard::buttonsComeAfterThePage_data()
 {
     QTest::addColumn<QString>("screen");
     QTest::addColumn<QString>("stops");
-    QTest::newRow("priority page")
-        << "settings, priority page"
-        << "pageList, upButton, downButton, addButton, deleteButton, newButton, priorityTable, "
-           "settingsOkButton, settingsCancelButton";
-    QTest::newRow("general page") << "settings, general page"
-                                  << "pageList, languageBox, settingsOkButton, settingsCancelButton";
-    QTest::newRow("rules page") << "settings, rules page"
-                                << "pageList, newNetworksBox, settingsOkButton, settingsCancelButton";
+    Row("priority page", "settings, priority page",
+        "pageList, upButton, downButton, addButton, deleteButton, newButton, priorityTable, "
+        "settingsOkButton, settingsCancelButton");
+    Row("general page", "settings, general page",
+        "pageList, languageBox, settingsOkButton, settingsCancelButton");
+    Row("rules page", "settings, rules page",
+        "pageList, newNetworksBox, settingsOkButton, settingsCancelButton");
 }
 
 void TestKeyboard::buttonsComeAfterThePage()

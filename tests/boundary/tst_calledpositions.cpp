@@ -4,6 +4,7 @@
 #include "RootTable.h"
 #include "ServiceTable.h"
 
+#include <Row.h>
 #include <TemporaryDirectory.h>
 
 #include <QCheckBox>
@@ -204,7 +205,7 @@ void CalledPositionsTest::SixteenthTextProtects_data()
 {
     QTest::addColumn<int>("index");
     for (int i = 0; i < ProfileTextCount; ++i) {
-        QTest::newRow(qPrintable(QString("text %1").arg(i))) << i;
+        Row(qPrintable(QString("text %1").arg(i)), i);
     }
 }
 

@@ -1,5 +1,7 @@
 #include "Apart.h"
 
+#include <Row.h>
+
 #include <QHash>
 #include <QLibrary>
 #include <QList>
@@ -352,7 +354,7 @@ void AddRows(const Facts &facts)
 {
     QTest::addColumn<QString>("value");
     for (int i = 0; i < facts.size(); ++i) {
-        QTest::newRow(facts.at(i).what.toLatin1()) << facts.at(i).value;
+        Row(facts.at(i).what.toLatin1(), facts.at(i).value);
     }
 }
 
@@ -449,8 +451,8 @@ void ContractsTest::FramesAddTheirFieldsOnly()
 void ContractsTest::FramesAddNoOperation_data()
 {
     QTest::addColumn<QString>("base");
-    QTest::newRow("ExtendDialog") << "QDialog";
-    QTest::newRow("ExtendLineEdit") << "QLineEdit";
+    Row("ExtendDialog", "QDialog");
+    Row("ExtendLineEdit", "QLineEdit");
 }
 
 void ContractsTest::FramesAddNoOperation()

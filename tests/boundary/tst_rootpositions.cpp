@@ -2,6 +2,7 @@
 #include "LoadedLibrary.h"
 #include "RootTable.h"
 
+#include <Row.h>
 #include <TemporaryDirectory.h>
 #include <TraceCapture.h>
 
@@ -90,24 +91,24 @@ void RootPositionsTest::OperationsHaveTheirNames_data()
 {
     QTest::addColumn<int>("part");
     QTest::addColumn<int>("position");
-    QTest::newRow("Release") << 0 << RootTable::release;
-    QTest::newRow("GetLastError") << 0 << RootTable::getLastError;
-    QTest::newRow("Init") << 0 << RootTable::init;
-    QTest::newRow("GetPluginType") << 0 << RootTable::getPluginType;
-    QTest::newRow("GetCLSID") << 0 << RootTable::getClassId;
-    QTest::newRow("GetVersion") << 0 << RootTable::getVersion;
-    QTest::newRow("GetPluginName") << 0 << RootTable::getPluginName;
-    QTest::newRow("IsAllowRelease") << 0 << RootTable::isAllowRelease;
-    QTest::newRow("QueryInterface") << 0 << RootTable::queryInterface;
-    QTest::newRow("ShowWindow") << 0 << RootTable::showWindow;
-    QTest::newRow("DoModal") << 0 << RootTable::doModal;
-    QTest::newRow("Hide") << 0 << RootTable::hide;
-    QTest::newRow("FitSize") << 0 << RootTable::fitSize;
-    QTest::newRow("IsReady") << 0 << RootTable::isReady;
-    QTest::newRow("ChangeLang") << 0 << RootTable::changeLanguage;
-    QTest::newRow("OnDestroy") << 1 << DestroyTable::onDestroy;
-    QTest::newRow("UnSDKRegisterEvent") << 1 << DestroyTable::unregisterEvent;
-    QTest::newRow("Notify") << 2 << NotifyTable::notify;
+    Row("Release", 0, RootTable::release);
+    Row("GetLastError", 0, RootTable::getLastError);
+    Row("Init", 0, RootTable::init);
+    Row("GetPluginType", 0, RootTable::getPluginType);
+    Row("GetCLSID", 0, RootTable::getClassId);
+    Row("GetVersion", 0, RootTable::getVersion);
+    Row("GetPluginName", 0, RootTable::getPluginName);
+    Row("IsAllowRelease", 0, RootTable::isAllowRelease);
+    Row("QueryInterface", 0, RootTable::queryInterface);
+    Row("ShowWindow", 0, RootTable::showWindow);
+    Row("DoModal", 0, RootTable::doModal);
+    Row("Hide", 0, RootTable::hide);
+    Row("FitSize", 0, RootTable::fitSize);
+    Row("IsReady", 0, RootTable::isReady);
+    Row("ChangeLang", 0, RootTable::changeLanguage);
+    Row("OnDestroy", 1, DestroyTable::onDestroy);
+    Row("UnSDKRegisterEvent", 1, DestroyTable::unregisterEvent);
+    Row("Notify", 2, NotifyTable::notify);
 }
 
 void RootPositionsTest::OperationsHaveTheirNames()
@@ -172,13 +173,13 @@ void RootPositionsTest::QueryInterfaceHandsOutTheServiceForItsNumbersOnly_data()
 {
     QTest::addColumn<int>("number");
     QTest::addColumn<bool>("known");
-    QTest::newRow("settings page") << 4098 << true;
-    QTest::newRow("priority list") << 4103 << true;
-    QTest::newRow("WLAN") << 4102 << false;
-    QTest::newRow("below") << 4097 << false;
-    QTest::newRow("between") << 4099 << false;
-    QTest::newRow("above") << 4104 << false;
-    QTest::newRow("zero") << 0 << false;
+    Row("settings page", 4098, true);
+    Row("priority list", 4103, true);
+    Row("WLAN", 4102, false);
+    Row("below", 4097, false);
+    Row("between", 4099, false);
+    Row("above", 4104, false);
+    Row("zero", 0, false);
 }
 
 void RootPositionsTest::QueryInterfaceHandsOutTheServiceForItsNumbersOnly()
@@ -208,10 +209,10 @@ void RootPositionsTest::NotifyTranslatesOnTheLanguageEventOnly_data()
 {
     QTest::addColumn<uint>("event");
     QTest::addColumn<bool>("translates");
-    QTest::newRow("language") << 320U << true;
-    QTest::newRow("before it") << 319U << false;
-    QTest::newRow("behind it") << 321U << false;
-    QTest::newRow("zero") << 0U << false;
+    Row("language", 320U, true);
+    Row("before it", 319U, false);
+    Row("behind it", 321U, false);
+    Row("zero", 0U, false);
 }
 
 void RootPositionsTest::NotifyTranslatesOnTheLanguageEventOnly()
@@ -246,12 +247,12 @@ void RootPositionsTest::DestructorsDestroyTheWholeObject_data()
 {
     QTest::addColumn<int>("part");
     QTest::addColumn<int>("position");
-    QTest::newRow("deleting, root") << 0 << deletingDestructor;
-    QTest::newRow("deleting, farewell") << 1 << deletingDestructor;
-    QTest::newRow("deleting, events") << 2 << deletingDestructor;
-    QTest::newRow("complete, root") << 0 << completeDestructor;
-    QTest::newRow("complete, farewell") << 1 << completeDestructor;
-    QTest::newRow("complete, events") << 2 << completeDestructor;
+    Row("deleting, root", 0, deletingDestructor);
+    Row("deleting, farewell", 1, deletingDestructor);
+    Row("deleting, events", 2, deletingDestructor);
+    Row("complete, root", 0, completeDestructor);
+    Row("complete, farewell", 1, completeDestructor);
+    Row("complete, events", 2, completeDestructor);
 }
 
 void RootPositionsTest::DestructorsDestroyTheWholeObject()

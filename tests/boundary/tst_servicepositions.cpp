@@ -3,6 +3,7 @@
 #include "RootTable.h"
 #include "ServiceTable.h"
 
+#include <Row.h>
 #include <TemporaryDirectory.h>
 
 #include <QDir>
@@ -158,15 +159,15 @@ void ServicePositionsTest::OperationsHaveTheirNames_data()
 {
     QTest::addColumn<bool>("isSetting");
     QTest::addColumn<int>("position");
-    QTest::newRow("OnClickSettingOkButton") << true << SettingTable::okButton;
-    QTest::newRow("OnClickSettingCancelButton") << true << SettingTable::cancelButton;
-    QTest::newRow("ShowSettingDialog") << true << SettingTable::show;
-    QTest::newRow("GetModuleName") << true << SettingTable::moduleName;
-    QTest::newRow("HideSetting") << true << SettingTable::hide;
-    QTest::newRow("IsActiveSetting") << true << SettingTable::isActive;
-    QTest::newRow("GetPriorityList") << false << PriorityTable::getList;
-    QTest::newRow("AddPriorityList") << false << PriorityTable::addList;
-    QTest::newRow("AddTopPriority") << false << PriorityTable::addTop;
+    Row("OnClickSettingOkButton", true, SettingTable::okButton);
+    Row("OnClickSettingCancelButton", true, SettingTable::cancelButton);
+    Row("ShowSettingDialog", true, SettingTable::show);
+    Row("GetModuleName", true, SettingTable::moduleName);
+    Row("HideSetting", true, SettingTable::hide);
+    Row("IsActiveSetting", true, SettingTable::isActive);
+    Row("GetPriorityList", false, PriorityTable::getList);
+    Row("AddPriorityList", false, PriorityTable::addList);
+    Row("AddTopPriority", false, PriorityTable::addTop);
 }
 
 void ServicePositionsTest::OperationsHaveTheirNames()
@@ -254,10 +255,10 @@ void ServicePositionsTest::ThirdGivesACode_data()
     QTest::addColumn<QByteArray>("file");
     QTest::addColumn<bool>("isDirectory");
     QTest::addColumn<int>("code");
-    QTest::newRow("read") << QByteArray("<zeltdoc/>") << false << 0;
-    QTest::newRow("damaged") << QByteArray("<zeltdoc>") << false << 6;
-    QTest::newRow("missing") << QByteArray() << false << 23;
-    QTest::newRow("not opened") << QByteArray() << true << 25;
+    Row("read", QByteArray("<zeltdoc/>"), false, 0);
+    Row("damaged", QByteArray("<zeltdoc>"), false, 6);
+    Row("missing", QByteArray(), false, 23);
+    Row("not opened", QByteArray(), true, 25);
 }
 
 void ServicePositionsTest::ThirdGivesACode()

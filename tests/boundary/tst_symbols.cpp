@@ -5,6 +5,7 @@
 #include <QProcess>
 #include <QtTest>
 
+#include <Row.h>
 #include <dlfcn.h>
 
 /** The names that cross between the libraries' files and whoever loads or links them. */
@@ -127,7 +128,7 @@ void SymbolsTest::PluginsExportTheirEntryPointsOnly_data()
     const QStringList folders = QDir(BUILD_DIRECTORY "/plugins").entryList(QDir::Dirs | QDir::NoDotAndDotDot);
     QVERIFY(folders.contains("PriorityPlugin") && folders.contains("WLANStored"));
     for (int i = 0; i < folders.size(); ++i) {
-        QTest::newRow(qPrintable(folders.at(i))) << LoadedLibrary::FileName(folders.at(i));
+        Row(qPrintable(folders.at(i)), LoadedLibrary::FileName(folders.at(i)));
     }
 }
 
@@ -147,28 +148,27 @@ void SymbolsTest::HostLibrariesExportTheirServicesOnly_data()
 {
     QTest::addColumn<QStringList>("names");
     const QString secondPart = QString("_ZThn%1_").arg(2 * sizeof(void *));
-    QTest::newRow("coreui") << Sorted(CoreServices()
-                                      << "_ZN12ExtendDialogC1EP7QWidget6QFlagsIN2Qt10WindowTypeEE12"
-                                         "enWidgetType"
-                                      << "_ZN12ExtendDialogD0Ev"
-                                      << "_ZN12ExtendDialogD1Ev" << secondPart + "N12ExtendDialogD0Ev"
-                                      << secondPart + "N12ExtendDialogD1Ev"
-                                      << "_ZN14ExtendLineEditC2EP7QWidget"
-                                      << "_ZTS12ExtendDialog"
-                                      << "_ZTV12ExtendDialog"
-                                      << "_ZTI14ExtendLineEdit"
-                                      << "_ZTS14ExtendLineEdit"
-                                      << "_ZTV14ExtendLineEdit"
-                                      << "_ZN11HostControl11SetLanguageERK7QString"
-                                      << "_ZN11HostControl13IsRightToLeftERK7QString"
-                                      << "_ZN11HostControl13LanguageNamesEv"
-                                      << "_ZN11HostControl16LanguageProblemsEv"
-                                      << "_ZN11HostControl18SetPluginContainerEP16IPluginContainer"
-                                      << "_ZN11HostControl20SetLanguageDirectoryERK7QString"
-                                      << "_ZN11HostControl20SetPluginLibraryPathERK7QString"
-                                      << "_ZN11HostControl6TextInERK7QStringS2_S2_"
-                                      << "_ZN11HostControl9ApplyLookEv");
-    QTest::newRow("zeltsdk") << QStringList(SdkService());
+    Row("coreui", Sorted(CoreServices() << "_ZN12ExtendDialogC1EP7QWidget6QFlagsIN2Qt10WindowTypeEE12"
+                                           "enWidgetType"
+                                        << "_ZN12ExtendDialogD0Ev"
+                                        << "_ZN12ExtendDialogD1Ev" << secondPart + "N12ExtendDialogD0Ev"
+                                        << secondPart + "N12ExtendDialogD1Ev"
+                                        << "_ZN14ExtendLineEditC2EP7QWidget"
+                                        << "_ZTS12ExtendDialog"
+                                        << "_ZTV12ExtendDialog"
+                                        << "_ZTI14ExtendLineEdit"
+                                        << "_ZTS14ExtendLineEdit"
+                                        << "_ZTV14ExtendLineEdit"
+                                        << "_ZN11HostControl11SetLanguageERK7QString"
+                                        << "_ZN11HostControl13IsRightToLeftERK7QString"
+                                        << "_ZN11HostControl13LanguageNamesEv"
+                                        << "_ZN11HostControl16LanguageProblemsEv"
+                                        << "_ZN11HostControl18SetPluginContainerEP16IPluginContainer"
+                                        << "_ZN11HostControl20SetLanguageDirectoryERK7QString"
+                                        << "_ZN11HostControl20SetPluginLibraryPathERK7QString"
+                                        << "_ZN11HostControl6TextInERK7QStringS2_S2_"
+                                        << "_ZN11HostControl9ApplyLookEv"));
+    Row("zeltsdk", QStringList(SdkService()));
 }
 
 void SymbolsTest::HostLibrariesExportTheirServicesOnly()
@@ -219,8 +219,8 @@ void SymbolsTest::PluginTakesTheHostServicesOfTheProgram()
 void SymbolsTest::VerificationTextIsAsItWas_data()
 {
     QTest::addColumn<QString>("name");
-    QTest::newRow("PriorityPlugin") << "PriorityPlugin";
-    QTest::newRow("WLANStored") << "WLANStored";
+    Row("PriorityPlugin", "PriorityPlugin");
+    Row("WLANStored", "WLANStored");
 }
 
 void SymbolsTest::VerificationTextIsAsItWas()

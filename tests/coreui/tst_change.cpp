@@ -1,5 +1,6 @@
 #include <Change.h>
 #include <HostControl.h>
+#include <Row.h>
 #include <TemporaryDirectory.h>
 
 #include <QDir>
@@ -126,16 +127,16 @@ void TestChange::unusableLanguageChangesNothing_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QByteArray>("bytes");
     const QByteArray whole = CompiledLanguage("eo.qm");
-    QTest::newRow("missing") << "xx" << QByteArray();
-    QTest::newRow("missing, with a region") << "en_GB" << QByteArray();
-    QTest::newRow("no name") << "" << QByteArray();
-    QTest::newRow("path out of the directory") << "../en" << QByteArray();
-    QTest::newRow("name with suffix") << "en.qm" << QByteArray();
-    QTest::newRow("empty") << "xx" << QByteArray("");
-    QTest::newRow("other format") << "xx" << QByteArray("<?xml version=\"1.0\"?><TS/>");
-    QTest::newRow("cut off in the middle") << "xx" << whole.left(whole.size() / 2);
-    QTest::newRow("signature only") << "xx" << whole.left(16);
-    QTest::newRow("no texts") << "xx" << CompiledLanguage("nothing.qm");
+    Row("missing", "xx", QByteArray());
+    Row("missing, with a region", "en_GB", QByteArray());
+    Row("no name", "", QByteArray());
+    Row("path out of the directory", "../en", QByteArray());
+    Row("name with suffix", "en.qm", QByteArray());
+    Row("empty", "xx", QByteArray(""));
+    Row("other format", "xx", QByteArray("<?xml version=\"1.0\"?><TS/>"));
+    Row("cut off in the middle", "xx", whole.left(whole.size() / 2));
+    Row("signature only", "xx", whole.left(16));
+    Row("no texts", "xx", CompiledLanguage("nothing.qm"));
 }
 
 void TestChange::unusableLanguageChangesNothing()
@@ -178,20 +179,11 @@ void TestChange::textInAnotherLanguage_data()
     QTest::addColumn<QString>("language");
     QTest::addColumn<QString>("id");
     QTest::addColumn<QString>("text");
-    QTest::newRow("there") << "eo"
-                           << "IDS_BOTH" << QString::fromUtf8("ambaŭ");
-    QTest::newRow("in use") << "en"
-                            << "IDS_BOTH"
-                            << "both";
-    QTest::newRow("in English only") << "eo"
-                                     << "IDS_ENGLISH_ONLY"
-                                     << "";
-    QTest::newRow("no such language") << "xx"
-                                      << "IDS_BOTH"
-                                      << "";
-    QTest::newRow("path out of the directory") << "../en"
-                                               << "IDS_BOTH"
-                                               << "";
+    Row("there", "eo", "IDS_BOTH", QString::fromUtf8("ambaŭ"));
+    Row("in use", "en", "IDS_BOTH", "both");
+    Row("in English only", "eo", "IDS_ENGLISH_ONLY", "");
+    Row("no such language", "xx", "IDS_BOTH", "");
+    Row("path out of the directory", "../en", "IDS_BOTH", "");
 }
 
 void TestChange::textInAnotherLanguage()
@@ -218,11 +210,11 @@ void TestChange::fileThatCannotBeReadIsNamedWithTheReason()
 void TestChange::fileWithoutTextsIsNamed_data()
 {
     QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("no texts") << CompiledLanguage("nothing.qm");
-    QTest::newRow("signature only") << CompiledLanguage("eo.qm").left(16);
-    QTest::newRow("empty") << QByteArray("");
-    QTest::newRow("other format") << QByteArray("<?xml version=\"1.0\"?><TS/>");
-    QTest::newRow("cut off") << CompiledLanguage("eo.qm").left(CompiledLanguage("eo.qm").size() / 2);
+    Row("no texts", CompiledLanguage("nothing.qm"));
+    Row("signature only", CompiledLanguage("eo.qm").left(16));
+    Row("empty", QByteArray(""));
+    Row("other format", QByteArray("<?xml version=\"1.0\"?><TS/>"));
+    Row("cut off", CompiledLanguage("eo.qm").left(CompiledLanguage("eo.qm").size() / 2));
 }
 
 void TestChange::fileWithoutTextsIsNamed()

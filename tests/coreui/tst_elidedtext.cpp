@@ -1,4 +1,5 @@
 #include <CommonUtils.h>
+#include <Row.h>
 
 #include <QLabel>
 #include <QtTest>
@@ -86,9 +87,9 @@ void TestElidedText::modeTellsWhereTheEllipsisStands_data()
     QTest::addColumn<int>("mode");
     QTest::addColumn<bool>("atStart");
     QTest::addColumn<bool>("atEnd");
-    QTest::newRow("left") << static_cast<int>(Qt::ElideLeft) << true << false;
-    QTest::newRow("right") << static_cast<int>(Qt::ElideRight) << false << true;
-    QTest::newRow("middle") << static_cast<int>(Qt::ElideMiddle) << false << false;
+    Row("left", static_cast<int>(Qt::ElideLeft), true, false);
+    Row("right", static_cast<int>(Qt::ElideRight), false, true);
+    Row("middle", static_cast<int>(Qt::ElideMiddle), false, false);
 }
 
 void TestElidedText::modeTellsWhereTheEllipsisStands()
@@ -109,9 +110,9 @@ void TestElidedText::marginsAreNotRoomForText_data()
     QTest::addColumn<int>("contents");
     QTest::addColumn<int>("margin");
     QTest::addColumn<int>("indent");
-    QTest::newRow("contents margins") << 30 << 0 << 0;
-    QTest::newRow("label margin") << 0 << 30 << 0;
-    QTest::newRow("indent") << 0 << 0 << 60;
+    Row("contents margins", 30, 0, 0);
+    Row("label margin", 0, 30, 0);
+    Row("indent", 0, 0, 60);
 }
 
 void TestElidedText::marginsAreNotRoomForText()
@@ -143,12 +144,12 @@ void TestElidedText::rightToLeftTextKeepsItsBeginning()
 void TestElidedText::textIsShownLiterally_data()
 {
     QTest::addColumn<QString>("name");
-    QTest::newRow("mark-up") << "<b>Home</b>";
-    QTest::newRow("entity") << "A &amp; B";
-    QTest::newRow("ampersand") << "A && B";
-    QTest::newRow("blanks") << "  Home  ";
-    QTest::newRow("empty") << "";
-    QTest::newRow("beyond the first plane") << QString::fromUtf8("🛜 Home");
+    Row("mark-up", "<b>Home</b>");
+    Row("entity", "A &amp; B");
+    Row("ampersand", "A && B");
+    Row("blanks", "  Home  ");
+    Row("empty", "");
+    Row("beyond the first plane", QString::fromUtf8("🛜 Home"));
 }
 
 void TestElidedText::textIsShownLiterally()
@@ -164,14 +165,14 @@ void TestElidedText::textIsShownLiterally()
 void TestElidedText::lineBreaksAndTabsAreBlanks_data()
 {
     QTest::addColumn<QString>("separator");
-    QTest::newRow("line feed") << "\n";
-    QTest::newRow("carriage return") << "\r";
-    QTest::newRow("tab") << "\t";
-    QTest::newRow("vertical tab") << "\v";
-    QTest::newRow("next line") << QString(QChar(0x85));
-    QTest::newRow("text variants") << QString(QChar(0x9c));
-    QTest::newRow("line separator") << QString(QChar(0x2028));
-    QTest::newRow("paragraph separator") << QString(QChar(0x2029));
+    Row("line feed", "\n");
+    Row("carriage return", "\r");
+    Row("tab", "\t");
+    Row("vertical tab", "\v");
+    Row("next line", QString(QChar(0x85)));
+    Row("text variants", QString(QChar(0x9c)));
+    Row("line separator", QString(QChar(0x2028)));
+    Row("paragraph separator", QString(QChar(0x2029)));
 }
 
 void TestElidedText::lineBreaksAndTabsAreBlanks()
@@ -189,10 +190,9 @@ void TestElidedText::longTextKeepsTheEndsThatItsModeShows_data()
     QTest::addColumn<int>("mode");
     QTest::addColumn<QString>("start");
     QTest::addColumn<QString>("end");
-    QTest::newRow("left") << static_cast<int>(Qt::ElideLeft) << QString(ellipsis) << "end";
-    QTest::newRow("right") << static_cast<int>(Qt::ElideRight) << "start" << QString(ellipsis);
-    QTest::newRow("middle") << static_cast<int>(Qt::ElideMiddle) << "start"
-                            << "end";
+    Row("left", static_cast<int>(Qt::ElideLeft), QString(ellipsis), "end");
+    Row("right", static_cast<int>(Qt::ElideRight), "start", QString(ellipsis));
+    Row("middle", static_cast<int>(Qt::ElideMiddle), "start", "end");
 }
 
 void TestElidedText::longTextKeepsTheEndsThatItsModeShows()

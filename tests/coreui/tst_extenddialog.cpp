@@ -1,5 +1,6 @@
 #include <ExtendDialog.h>
 #include <ExtendLineEdit.h>
+#include <Row.h>
 
 #include <QApplication>
 #include <QLabel>
@@ -106,10 +107,9 @@ void TestExtendDialog::closeButtonIsThereWhenAskedFor_data()
 {
     QTest::addColumn<int>("flags");
     QTest::addColumn<bool>("there");
-    QTest::newRow("with the hint") << static_cast<int>(Qt::WindowCloseButtonHint) << true;
-    QTest::newRow("with other hints")
-        << static_cast<int>(Qt::WindowTitleHint | Qt::WindowSystemMenuHint) << false;
-    QTest::newRow("without hints") << 0 << false;
+    Row("with the hint", static_cast<int>(Qt::WindowCloseButtonHint), true);
+    Row("with other hints", static_cast<int>(Qt::WindowTitleHint | Qt::WindowSystemMenuHint), false);
+    Row("without hints", 0, false);
 }
 
 void TestExtendDialog::closeButtonIsThereWhenAskedFor()
@@ -150,8 +150,8 @@ void TestExtendDialog::windowIsAFramelessDialog()
 void TestExtendDialog::bodyFillsTheRest_data()
 {
     QTest::addColumn<QSize>("size");
-    QTest::newRow("add dialog") << QSize(306, 341);
-    QTest::newRow("new-network dialog") << QSize(360, 340);
+    Row("add dialog", QSize(306, 341));
+    Row("new-network dialog", QSize(360, 340));
 }
 
 void TestExtendDialog::bodyFillsTheRest()

@@ -1,6 +1,7 @@
 #include <CommonUtils.h>
 #include <Contrast.h>
 #include <HostControl.h>
+#include <Row.h>
 #include <Startup.h>
 
 #include <QLabel>
@@ -58,16 +59,12 @@ void TestHostControl::libraryPathHasNoTrailingSeparator_data()
 {
     QTest::addColumn<QString>("given");
     QTest::addColumn<QString>("path");
-    QTest::newRow("none") << "/opt/dashboard"
-                          << "/opt/dashboard";
-    QTest::newRow("one") << "/opt/dashboard/"
-                         << "/opt/dashboard";
-    QTest::newRow("two") << "/opt/dashboard//"
-                         << "/opt/dashboard";
-    QTest::newRow("blank and accent")
-        << QString::fromUtf8("/opt/tableau réseau/") << QString::fromUtf8("/opt/tableau réseau");
-    QTest::newRow("root") << "/"
-                          << "";
+    Row("none", "/opt/dashboard", "/opt/dashboard");
+    Row("one", "/opt/dashboard/", "/opt/dashboard");
+    Row("two", "/opt/dashboard//", "/opt/dashboard");
+    Row("blank and accent", QString::fromUtf8("/opt/tableau réseau/"),
+        QString::fromUtf8("/opt/tableau réseau"));
+    Row("root", "/", "");
 }
 
 void TestHostControl::libraryPathHasNoTrailingSeparator()
@@ -89,12 +86,12 @@ void TestHostControl::arabicAndHebrewReadRightToLeft_data()
 {
     QTest::addColumn<QString>("language");
     QTest::addColumn<bool>("rightToLeft");
-    QTest::newRow("ar") << "ar" << true;
-    QTest::newRow("he") << "he" << true;
-    QTest::newRow("en") << "en" << false;
-    QTest::newRow("AR") << "AR" << false;
-    QTest::newRow("ar_EG") << "ar_EG" << false;
-    QTest::newRow("empty") << "" << false;
+    Row("ar", "ar", true);
+    Row("he", "he", true);
+    Row("en", "en", false);
+    Row("AR", "AR", false);
+    Row("ar_EG", "ar_EG", false);
+    Row("empty", "", false);
 }
 
 void TestHostControl::arabicAndHebrewReadRightToLeft()
@@ -111,9 +108,9 @@ void TestHostControl::selectedRowsKeepTextReadable_data()
     navy.setColor(QPalette::Base, Qt::white);
     navy.setColor(QPalette::Text, Qt::black);
     navy.setColor(QPalette::Highlight, QColor(0, 0, 0x80));
-    QTest::newRow("style's own") << QApplication::style()->standardPalette();
-    QTest::newRow("light with a dark highlight") << navy;
-    QTest::newRow("dark") << DarkPalette();
+    Row("style's own", QApplication::style()->standardPalette());
+    Row("light with a dark highlight", navy);
+    Row("dark", DarkPalette());
 }
 
 void TestHostControl::selectedRowsKeepTextReadable()

@@ -1,6 +1,7 @@
 #include <Change.h>
 #include <CommonUtils.h>
 #include <HostControl.h>
+#include <Row.h>
 
 #include <QApplication>
 #include <QDialog>
@@ -199,15 +200,15 @@ void TestShowMessage::everyDeedHasItsAnswer_data()
 {
     QTest::addColumn<QString>("deed");
     QTest::addColumn<int>("answer");
-    QTest::newRow("first button") << "messageButton1" << 1024;
-    QTest::newRow("second button") << "messageButton2" << 4194304;
-    QTest::newRow("third button") << "messageButton3" << 1048576;
-    QTest::newRow("Enter") << "enter" << 1024;
-    QTest::newRow("Enter on the second button") << "tab enter" << 4194304;
-    QTest::newRow("Space on the second button") << "tab space" << 4194304;
-    QTest::newRow("Escape") << "escape" << 4194304;
-    QTest::newRow("close button") << "dialogClose" << 4194304;
-    QTest::newRow("hidden from outside") << "hide" << 4194304;
+    Row("first button", "messageButton1", 1024);
+    Row("second button", "messageButton2", 4194304);
+    Row("third button", "messageButton3", 1048576);
+    Row("Enter", "enter", 1024);
+    Row("Enter on the second button", "tab enter", 4194304);
+    Row("Space on the second button", "tab space", 4194304);
+    Row("Escape", "escape", 4194304);
+    Row("close button", "dialogClose", 4194304);
+    Row("hidden from outside", "hide", 4194304);
 }
 
 void TestShowMessage::everyDeedHasItsAnswer()
@@ -234,13 +235,13 @@ void TestShowMessage::captionsAreTranslated_data()
 {
     QTest::addColumn<QString>("language");
     QTest::addColumn<QStringList>("captions");
-    QTest::newRow("en") << "en"
-                        << (QStringList() << "OK"
-                                          << "Cancel"
-                                          << "&New");
-    QTest::newRow("ar") << "ar"
-                        << (QStringList() << QString::fromUtf8("موافق") << QString::fromUtf8("إلغاء")
-                                          << QString::fromUtf8("&جديدة"));
+    Row("en", "en",
+        (QStringList() << "OK"
+                       << "Cancel"
+                       << "&New"));
+    Row("ar", "ar",
+        (QStringList() << QString::fromUtf8("موافق") << QString::fromUtf8("إلغاء")
+                       << QString::fromUtf8("&جديدة")));
 }
 
 void TestShowMessage::captionsAreTranslated()
@@ -283,8 +284,8 @@ void TestShowMessage::firstButtonIsTheDefault()
 void TestShowMessage::detailIsShownWhenThereIsOne_data()
 {
     QTest::addColumn<QString>("detail");
-    QTest::newRow("none") << QString();
-    QTest::newRow("one") << "Further text";
+    Row("none", QString());
+    Row("one", "Further text");
 }
 
 void TestShowMessage::detailIsShownWhenThereIsOne()
@@ -301,12 +302,12 @@ void TestShowMessage::iconsArePictures_data()
 {
     QTest::addColumn<QMessageBox::Icon>("icon");
     QTest::addColumn<bool>("picture");
-    QTest::newRow("none") << QMessageBox::NoIcon << false;
-    QTest::newRow("information") << QMessageBox::Information << true;
-    QTest::newRow("warning") << QMessageBox::Warning << true;
-    QTest::newRow("critical") << QMessageBox::Critical << true;
-    QTest::newRow("question") << QMessageBox::Question << true;
-    QTest::newRow("unknown") << static_cast<QMessageBox::Icon>(7) << false;
+    Row("none", QMessageBox::NoIcon, false);
+    Row("information", QMessageBox::Information, true);
+    Row("warning", QMessageBox::Warning, true);
+    Row("critical", QMessageBox::Critical, true);
+    Row("question", QMessageBox::Question, true);
+    Row("unknown", static_cast<QMessageBox::Icon>(7), false);
 }
 
 void TestShowMessage::iconsArePictures()
@@ -324,8 +325,8 @@ void TestShowMessage::closeButtonFollowsTheFlags_data()
 {
     QTest::addColumn<int>("flags");
     QTest::addColumn<bool>("there");
-    QTest::newRow("with") << static_cast<int>(Qt::WindowCloseButtonHint) << true;
-    QTest::newRow("without") << 0 << false;
+    Row("with", static_cast<int>(Qt::WindowCloseButtonHint), true);
+    Row("without", 0, false);
 }
 
 void TestShowMessage::closeButtonFollowsTheFlags()
@@ -344,8 +345,8 @@ void TestShowMessage::modalMessageMakesTheRestWait_data()
 {
     QTest::addColumn<bool>("modal");
     QTest::addColumn<int>("modality");
-    QTest::newRow("modal") << true << static_cast<int>(Qt::ApplicationModal);
-    QTest::newRow("not modal") << false << static_cast<int>(Qt::NonModal);
+    Row("modal", true, static_cast<int>(Qt::ApplicationModal));
+    Row("not modal", false, static_cast<int>(Qt::NonModal));
 }
 
 void TestShowMessage::modalMessageMakesTheRestWait()
@@ -365,10 +366,10 @@ void TestShowMessage::messageOnTopBelongsToItsParent_data()
     QTest::addColumn<bool>("onTop");
     QTest::addColumn<bool>("parentIsModal");
     QTest::addColumn<bool>("belongs");
-    QTest::newRow("on top") << true << false << true;
-    QTest::newRow("not on top") << false << false << false;
+    Row("on top", true, false, true);
+    Row("not on top", false, false, false);
     // The message of a modal window gets no input unless it belongs to it.
-    QTest::newRow("not on top of a modal window") << false << true << true;
+    Row("not on top of a modal window", false, true, true);
 }
 
 void TestShowMessage::messageOnTopBelongsToItsParent()
@@ -400,8 +401,8 @@ void TestShowMessage::handleIsSetWhileOpen()
 void TestShowMessage::parentDeletedWhileOpenIsCancel_data()
 {
     QTest::addColumn<bool>("onTop");
-    QTest::newRow("on top") << true;
-    QTest::newRow("not on top") << false;
+    Row("on top", true);
+    Row("not on top", false);
 }
 
 void TestShowMessage::parentDeletedWhileOpenIsCancel()
@@ -441,10 +442,10 @@ void TestShowMessage::handleGoneWithItsOwnerIsNotTouched()
 void TestShowMessage::longTextLeavesButtonsInReach_data()
 {
     QTest::addColumn<QString>("text");
-    QTest::newRow("many words") << LongText();
-    QTest::newRow("one word") << QString(1000, QLatin1Char('W'));
-    QTest::newRow("many lines") << QString(500, QLatin1Char('\n'));
-    QTest::newRow("empty") << QString();
+    Row("many words", LongText());
+    Row("one word", QString(1000, QLatin1Char('W')));
+    Row("many lines", QString(500, QLatin1Char('\n')));
+    Row("empty", QString());
 }
 
 void TestShowMessage::longTextLeavesButtonsInReach()

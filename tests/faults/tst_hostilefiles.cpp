@@ -1,4 +1,5 @@
 #include <LoadedPlugin.h>
+#include <Row.h>
 #include <StandInHost.h>
 #include <TemporaryDirectory.h>
 
@@ -80,15 +81,16 @@ void tst_HostileFiles::entityBombsStayEntities_data()
         nested += "<!ENTITY e" + QByteArray::number(i) + " '" + inner.repeated(10) + "'>";
     }
     nested += "]>";
-    QTest::newRow("in text") << QByteArray(nested + "<r><item name='A'/>&e11;<item name='B'/></r>");
-    QTest::newRow("in an attribute") << QByteArray(nested + "<r><item name='A'/><item name='&e11;'/></r>");
-    QTest::newRow("quadratic") << QByteArray("<!DOCTYPE r [<!ENTITY a '" + QByteArray(50000, 'a') +
-                                             "'>]><r><item name='A'/><item name='" +
-                                             QByteArray("&a;").repeated(50000) + "'/></r>");
-    QTest::newRow("of itself") << QByteArray(
-        "<!DOCTYPE r [<!ENTITY a '&b;'><!ENTITY b '&a;'>]><r><item name='A'/><item name='&a;'/></r>");
-    QTest::newRow("parameter entities") << QByteArray(
-        "<!DOCTYPE r [<!ENTITY % a '%b;%b;'><!ENTITY % b '%a;%a;'> %a;]><r><item name='A'/></r>");
+    Row("in text", QByteArray(nested + "<r><item name='A'/>&e11;<item name='B'/></r>"));
+    Row("in an attribute", QByteArray(nested + "<r><item name='A'/><item name='&e11;'/></r>"));
+    Row("quadratic",
+        QByteArray("<!DOCTYPE r [<!ENTITY a '" + QByteArray(50000, 'a') +
+                   "'>]><r><item name='A'/><item name='" + QByteArray("&a;").repeated(50000) + "'/></r>"));
+    Row("of itself",
+        QByteArray(
+            "<!DOCTYPE r [<!ENTITY a '&b;'><!ENTITY b '&a;'>]><r><item name='A'/><item name='&a;'/></r>"));
+    Row("parameter entities",
+        QByteArray("<!DOCTYPE r [<!ENTITY % a '%b;%b;'><!ENTITY % b '%a;%a;'> %a;]><r><item name='A'/></r>"));
 }
 
 void tst_HostileFiles::entityBombsStayEntities()
@@ -109,19 +111,18 @@ void tst_HostileFiles::wrongEncodings_data()
     QTest::addColumn<int>("code");
     QTest::addColumn<QString>("names");
     const QByteArray items = "<r><item name='A'/><item name='\xe9'/></r>";
-    QTest::newRow("declared Latin-1")
-        << QByteArray("<?xml version='1.0' encoding='ISO-8859-1'?>" + items) << 0 << QString::fromUtf8("A é");
-    QTest::newRow("no UTF-8 in UTF-8")
-        << QByteArray("<?xml version='1.0' encoding='UTF-8'?>" + items) << 6 << "";
-    QTest::newRow("unknown") << QByteArray("<?xml version='1.0' encoding='no-such'?>" + items) << 6 << "";
+    Row("declared Latin-1", QByteArray("<?xml version='1.0' encoding='ISO-8859-1'?>" + items), 0,
+        QString::fromUtf8("A é"));
+    Row("no UTF-8 in UTF-8", QByteArray("<?xml version='1.0' encoding='UTF-8'?>" + items), 6, "");
+    Row("unknown", QByteArray("<?xml version='1.0' encoding='no-such'?>" + items), 6, "");
     const QString wide = "<r><item name='A'/></r>";
     const QByteArray units(reinterpret_cast<const char *>(wide.utf16()), wide.size() * 2);
-    QTest::newRow("UTF-16") << QByteArray("\xff\xfe" + units) << 0 << "A";
-    QTest::newRow("half a UTF-16 unit") << QByteArray("\xff\xfe" + units).left(units.size() - 20) << 6 << "";
-    QTest::newRow("zero bytes") << QByteArray(100, '\0') << 6 << "";
-    QTest::newRow("byte order mark alone") << QByteArray("\xef\xbb\xbf") << 6 << "";
-    QTest::newRow("overlong") << QByteArray("<r><item name='\xc0\xaf'/></r>") << 6 << "";
-    QTest::newRow("surrogates in UTF-8") << QByteArray("<r><item name='\xed\xa0\xbd'/></r>") << 6 << "";
+    Row("UTF-16", QByteArray("\xff\xfe" + units), 0, "A");
+    Row("half a UTF-16 unit", QByteArray("\xff\xfe" + units).left(units.size() - 20), 6, "");
+    Row("zero bytes", QByteArray(100, '\0'), 6, "");
+    Row("byte order mark alone", QByteArray("\xef\xbb\xbf"), 6, "");
+    Row("overlong", QByteArray("<r><item name='\xc0\xaf'/></r>"), 6, "");
+    Row("surrogates in UTF-8", QByteArray("<r><item name='\xed\xa0\xbd'/></r>"), 6, "");
 }
 
 void tst_HostileFiles::wrongEncodings()
@@ -161,17 +162,15 @@ void tst_HostileFiles::sizeIsPaidForOnce_data()
     QTest::addColumn<QByteArray>("head");
     QTest::addColumn<QByteArray>("repeated");
     QTest::addColumn<QByteArray>("tail");
-    QTest::newRow("many entries") << QByteArray("<r>") << QByteArray("<item name='A' type='1'/>")
-                                  << QByteArray("</r>");
-    QTest::newRow("deep nesting") << QByteArray() << QByteArray("<item name='A' type='1'>") << QByteArray();
-    QTest::newRow("long name") << QByteArray("<r><item type='1' name='")
-                               << QByteArray("a name that never ends ") << QByteArray("'/></r>");
-    QTest::newRow("many references") << QByteArray("<r><item type='1' name='") << QByteArray("&amp;&#x41;")
-                                     << QByteArray("'/></r>");
-    QTest::newRow("long comment") << QByteArray("<r><!--") << QByteArray("a comment that never ends ")
-                                  << QByteArray("--></r>");
-    QTest::newRow("long text") << QByteArray("<r>") << QByteArray("a text that never ends ")
-                               << QByteArray("</r>");
+    Row("many entries", QByteArray("<r>"), QByteArray("<item name='A' type='1'/>"), QByteArray("</r>"));
+    Row("deep nesting", QByteArray(), QByteArray("<item name='A' type='1'>"), QByteArray());
+    Row("long name", QByteArray("<r><item type='1' name='"), QByteArray("a name that never ends "),
+        QByteArray("'/></r>"));
+    Row("many references", QByteArray("<r><item type='1' name='"), QByteArray("&amp;&#x41;"),
+        QByteArray("'/></r>"));
+    Row("long comment", QByteArray("<r><!--"), QByteArray("a comment that never ends "),
+        QByteArray("--></r>"));
+    Row("long text", QByteArray("<r>"), QByteArray("a text that never ends "), QByteArray("</r>"));
 }
 
 void tst_HostileFiles::sizeIsPaidForOnce()
@@ -219,10 +218,10 @@ void tst_HostileFiles::hundredMegabytesInOneAttribute()
 void tst_HostileFiles::whatIsNoFileIsNotOpened_data()
 {
     QTest::addColumn<QString>("kind");
-    QTest::newRow("pipe") << "pipe";
-    QTest::newRow("link to a pipe") << "link to a pipe";
-    QTest::newRow("link to a device that never ends") << "/dev/zero";
-    QTest::newRow("link to a device that has no end of file") << "/dev/full";
+    Row("pipe", "pipe");
+    Row("link to a pipe", "link to a pipe");
+    Row("link to a device that never ends", "/dev/zero");
+    Row("link to a device that has no end of file", "/dev/full");
 }
 
 void tst_HostileFiles::MakeNoFile(const QString &kind)

@@ -2,6 +2,7 @@
 
 #include <ListDocument.h>
 #include <LoadedPlugin.h>
+#include <Row.h>
 #include <StandInHost.h>
 #include <TemporaryDirectory.h>
 
@@ -173,8 +174,8 @@ void tst_KilledSave::leavesAListOrItsBeginningOrNothing_data()
     QTest::addColumn<int>("count");
     QTest::addColumn<int>("nameLength");
     QTest::addColumn<int>("longestLife");
-    QTest::newRow("a list of ordinary size") << 5 << 12 << 6000;
-    QTest::newRow("a list of a megabyte") << 10 << 100000 << 60000;
+    Row("a list of ordinary size", 5, 12, 6000);
+    Row("a list of a megabyte", 10, 100000, 60000);
 }
 
 void tst_KilledSave::leavesAListOrItsBeginningOrNothing()
@@ -264,10 +265,10 @@ void tst_KilledSave::nextStartTellsWhatItFound_data()
     QTest::addColumn<QString>("line");
     const Model::Document document =
         Model::ProductDocument(Model::Entries{{u"A", u"1"}, {u"B", u"1"}, {u"C", u"1"}});
-    QTest::newRow("missing") << -1 << 0 << "does not exist";
-    QTest::newRow("empty") << 0 << 0 << "ReadPriorityItem: Read Error: n";
-    QTest::newRow("cut off") << int(document.ends[1]) << 2 << "ReadPriorityItem: Read Error: n";
-    QTest::newRow("whole") << int(document.bytes.size()) << 3 << "";
+    Row("missing", -1, 0, "does not exist");
+    Row("empty", 0, 0, "ReadPriorityItem: Read Error: n");
+    Row("cut off", int(document.ends[1]), 2, "ReadPriorityItem: Read Error: n");
+    Row("whole", int(document.bytes.size()), 3, "");
 }
 
 void tst_KilledSave::nextStartTellsWhatItFound()

@@ -1,5 +1,6 @@
 #include <FakeWLAN.h>
 #include <LoadedPlugin.h>
+#include <Row.h>
 #include <StandInHost.h>
 #include <TemporaryDirectory.h>
 #include <TraceCapture.h>
@@ -181,9 +182,9 @@ QStringList tst_MissingPieces::Rows()
 void tst_MissingPieces::partDeletedByTheHost_data()
 {
     QTest::addColumn<int>("place");
-    QTest::newRow("page") << int(Page);
-    QTest::newRow("add dialog") << int(AddDialog);
-    QTest::newRow("new-network dialog") << int(NewDialog);
+    Row("page", int(Page));
+    Row("add dialog", int(AddDialog));
+    Row("new-network dialog", int(NewDialog));
 }
 
 void tst_MissingPieces::partDeletedByTheHost()
@@ -213,9 +214,9 @@ void tst_MissingPieces::sdkKnowsNoDirectory_data()
 {
     QTest::addColumn<int>("status");
     QTest::addColumn<bool>("allocated");
-    QTest::newRow("fails") << 5 << false;
-    QTest::newRow("fails and gives a path") << -1 << true;
-    QTest::newRow("succeeds and gives null") << 0 << false;
+    Row("fails", 5, false);
+    Row("fails and gives a path", -1, true);
+    Row("succeeds and gives null", 0, false);
 }
 
 void tst_MissingPieces::sdkKnowsNoDirectory()
@@ -260,9 +261,9 @@ void tst_MissingPieces::iconsMissing()
 void tst_MissingPieces::readOnlyIsAskedOfNobody_data()
 {
     QTest::addColumn<int>("step");
-    QTest::newRow("no container") << 0;
-    QTest::newRow("nothing under the class id") << 1;
-    QTest::newRow("an object of another kind") << 2;
+    Row("no container", 0);
+    Row("nothing under the class id", 1);
+    Row("an object of another kind", 2);
 }
 
 void tst_MissingPieces::readOnlyIsAskedOfNobody()

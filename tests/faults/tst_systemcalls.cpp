@@ -3,6 +3,7 @@
 #include <FakeWLAN.h>
 #include <ListDocument.h>
 #include <LoadedPlugin.h>
+#include <Row.h>
 #include <StandInHost.h>
 #include <TemporaryDirectory.h>
 #include <TraceCapture.h>
@@ -137,14 +138,14 @@ void tst_SystemCalls::aFailingCallLosesNoMoreThanTheRulesSay_data()
 {
     QTest::addColumn<int>("call");
     QTest::addColumn<int>("error");
-    QTest::newRow("open, no descriptors left") << int(SystemCalls::Open) << EMFILE;
-    QTest::newRow("open, input or output error") << int(SystemCalls::Open) << EIO;
-    QTest::newRow("read, input or output error") << int(SystemCalls::Read) << EIO;
-    QTest::newRow("write, disk full") << int(SystemCalls::Write) << ENOSPC;
-    QTest::newRow("write, input or output error") << int(SystemCalls::Write) << EIO;
-    QTest::newRow("write, interrupted") << int(SystemCalls::Write) << EINTR;
-    QTest::newRow("unlink, not permitted") << int(SystemCalls::Unlink) << EPERM;
-    QTest::newRow("unlink, device busy") << int(SystemCalls::Unlink) << EBUSY;
+    Row("open, no descriptors left", int(SystemCalls::Open), EMFILE);
+    Row("open, input or output error", int(SystemCalls::Open), EIO);
+    Row("read, input or output error", int(SystemCalls::Read), EIO);
+    Row("write, disk full", int(SystemCalls::Write), ENOSPC);
+    Row("write, input or output error", int(SystemCalls::Write), EIO);
+    Row("write, interrupted", int(SystemCalls::Write), EINTR);
+    Row("unlink, not permitted", int(SystemCalls::Unlink), EPERM);
+    Row("unlink, device busy", int(SystemCalls::Unlink), EBUSY);
 }
 
 void tst_SystemCalls::aFailingCallLosesNoMoreThanTheRulesSay()
@@ -186,10 +187,9 @@ void tst_SystemCalls::aFailingReadIsTold_data()
     QTest::addColumn<int>("call");
     QTest::addColumn<int>("code");
     QTest::addColumn<QString>("line");
-    QTest::newRow("open") << int(SystemCalls::Open) << 25 << "Error open file: ";
-    QTest::newRow("read")
-        << int(SystemCalls::Read) << 6
-        << "../../src/PriorityPlugin/PriorityXMLParser.cpp: ReadPriorityItem: Read Error: n";
+    Row("open", int(SystemCalls::Open), 25, "Error open file: ");
+    Row("read", int(SystemCalls::Read), 6,
+        "../../src/PriorityPlugin/PriorityXMLParser.cpp: ReadPriorityItem: Read Error: n");
 }
 
 void tst_SystemCalls::aFailingReadIsTold()
@@ -264,14 +264,13 @@ void tst_SystemCalls::externalEntitiesOpenNothing_data()
 {
     QTest::addColumn<QByteArray>("xml");
     const QByteArray item = "<r><item name='A' type='1'/>&x;<item name='&x;' type='1'/></r>";
-    QTest::newRow("file") << QByteArray("<!DOCTYPE r [<!ENTITY x SYSTEM 'file:///etc/hostname'>]>" + item);
-    QTest::newRow("path") << QByteArray("<!DOCTYPE r [<!ENTITY x SYSTEM '/etc/hostname'>]>" + item);
-    QTest::newRow("network") << QByteArray("<!DOCTYPE r [<!ENTITY x SYSTEM 'http://localhost:9/x'>]>" + item);
-    QTest::newRow("public") << QByteArray("<!DOCTYPE r [<!ENTITY x PUBLIC 'p' 'http://localhost:9/x'>]>" +
-                                          item);
-    QTest::newRow("type definition") << QByteArray("<!DOCTYPE r SYSTEM 'http://localhost:9/r.dtd'>" + item);
-    QTest::newRow("parameter entity")
-        << QByteArray("<!DOCTYPE r [<!ENTITY % p SYSTEM 'file:///etc/hostname'> %p;]>" + item);
+    Row("file", QByteArray("<!DOCTYPE r [<!ENTITY x SYSTEM 'file:///etc/hostname'>]>" + item));
+    Row("path", QByteArray("<!DOCTYPE r [<!ENTITY x SYSTEM '/etc/hostname'>]>" + item));
+    Row("network", QByteArray("<!DOCTYPE r [<!ENTITY x SYSTEM 'http://localhost:9/x'>]>" + item));
+    Row("public", QByteArray("<!DOCTYPE r [<!ENTITY x PUBLIC 'p' 'http://localhost:9/x'>]>" + item));
+    Row("type definition", QByteArray("<!DOCTYPE r SYSTEM 'http://localhost:9/r.dtd'>" + item));
+    Row("parameter entity",
+        QByteArray("<!DOCTYPE r [<!ENTITY % p SYSTEM 'file:///etc/hostname'> %p;]>" + item));
 }
 
 void tst_SystemCalls::externalEntitiesOpenNothing()

@@ -1,5 +1,6 @@
 #include <ListDocument.h>
 #include <LoadedPlugin.h>
+#include <Row.h>
 #include <StandInHost.h>
 #include <TemporaryDirectory.h>
 #include <TraceCapture.h>
@@ -101,14 +102,14 @@ void tst_TruncatedFile::Documents()
                                     {u"Caf\u00e9 \u0634\u0628\u0643\u0629", u"1"},
                                     {u"<&\"\t\U0001f4f6>", u"2"},
                                     {u"", u""}};
-    QTest::newRow("written by the plug-in") << Model::ProductDocument(entries);
-    QTest::newRow("written by another program") << Model::ForeignDocument(entries);
+    Row("written by the plug-in", Model::ProductDocument(entries));
+    Row("written by another program", Model::ForeignDocument(entries));
 }
 
 void tst_TruncatedFile::everyWholeEntryIsRead_data()
 {
     Documents();
-    QTest::newRow("empty list") << Model::ProductDocument(Model::Entries());
+    Row("empty list", Model::ProductDocument(Model::Entries()));
 }
 
 void tst_TruncatedFile::everyWholeEntryIsRead()

@@ -1,3 +1,4 @@
+#include <Row.h>
 #include <TemporaryDirectory.h>
 
 #include <QDir>
@@ -195,12 +196,11 @@ void InstalledTest::componentsHaveTheirFiles_data()
     QTest::addColumn<QStringList>("expected");
 
     const QString plugins = Libraries() + "/priority-dashboard/plugins/";
-    QTest::newRow("runtime") << "runtime"
-                             << (QStringList()
-                                 << Libraries() + "/libcoreui.so.1" << Libraries() + "/libzeltsdk.so.1"
-                                 << plugins + "PriorityPlugin/libPriorityPlugin.so"
-                                 << plugins + "PriorityPlugin/wifi.png" << plugins + "PriorityPlugin/3G .png"
-                                 << plugins + "PriorityPlugin/config.xml");
+    Row("runtime", "runtime",
+        (QStringList() << Libraries() + "/libcoreui.so.1" << Libraries() + "/libzeltsdk.so.1"
+                       << plugins + "PriorityPlugin/libPriorityPlugin.so"
+                       << plugins + "PriorityPlugin/wifi.png" << plugins + "PriorityPlugin/3G .png"
+                       << plugins + "PriorityPlugin/config.xml"));
     QStringList development = QStringList()
                               << Libraries() + "/libcoreui.so" << Libraries() + "/libzeltsdk.so"
                               << Libraries() + "/cmake/PriorityPlugin/PriorityPluginConfig.cmake"
@@ -218,25 +218,24 @@ void InstalledTest::componentsHaveTheirFiles_data()
         const QString &header = headers.at(i);
         development << "include/priority-plugin/" + header;
     }
-    QTest::newRow("development") << "development" << development;
+    Row("development", "development", development);
     const bool hasNetworkManager = HAS_NETWORKMANAGER;
     const QStringList siblings = hasNetworkManager
                                      ? QStringList(plugins + "WLANNetworkManager/libWLANNetworkManager.so")
                                      : QStringList();
     const QString id = "com.torvik.netquillforge.PriorityDashboard";
-    QTest::newRow("dashboard") << "dashboard"
-                               << (QStringList() << "bin/priority-dashboard" << siblings
-                                                 << plugins + "WLANStored/libWLANStored.so"
-                                                 << "share/priority-dashboard/languages/ar.qm"
-                                                 << "share/priority-dashboard/languages/en.qm"
-                                                 << "share/priority-dashboard/languages/he.qm"
-                                                 << "share/applications/" + id + ".desktop"
-                                                 << "share/metainfo/" + id + ".metainfo.xml"
-                                                 << "share/icons/hicolor/48x48/apps/" + id + ".png"
-                                                 << "share/icons/hicolor/128x128/apps/" + id + ".png"
-                                                 << "share/icons/hicolor/scalable/apps/" + id + ".svg"
-                                                 << "share/man/man1/priority-dashboard.1"
-                                                 << "share/bash-completion/completions/priority-dashboard");
+    Row("dashboard", "dashboard",
+        (QStringList() << "bin/priority-dashboard" << siblings << plugins + "WLANStored/libWLANStored.so"
+                       << "share/priority-dashboard/languages/ar.qm"
+                       << "share/priority-dashboard/languages/en.qm"
+                       << "share/priority-dashboard/languages/he.qm"
+                       << "share/applications/" + id + ".desktop"
+                       << "share/metainfo/" + id + ".metainfo.xml"
+                       << "share/icons/hicolor/48x48/apps/" + id + ".png"
+                       << "share/icons/hicolor/128x128/apps/" + id + ".png"
+                       << "share/icons/hicolor/scalable/apps/" + id + ".svg"
+                       << "share/man/man1/priority-dashboard.1"
+                       << "share/bash-completion/completions/priority-dashboard"));
 }
 
 void InstalledTest::componentsHaveTheirFiles()

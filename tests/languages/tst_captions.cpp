@@ -1,5 +1,7 @@
 #include "Screens.h"
 
+#include <Row.h>
+
 #include <QApplication>
 #include <QComboBox>
 #include <QHeaderView>
@@ -249,8 +251,7 @@ void TestCaptions::captionsFitTheirPlaces_data()
     QTest::addColumn<QString>("screen");
     foreach (const QString &language, Screens::Languages()) {
         foreach (const QString &screen, Screens::Names()) {
-            QTest::newRow((language + QLatin1String(", ") + screen).toLatin1().constData())
-                << language << screen;
+            Row((language + QLatin1String(", ") + screen).toLatin1().constData(), language, screen);
         }
     }
 }
@@ -272,8 +273,8 @@ void TestCaptions::captionsFitWithALargeFont_data()
     for (const char *language : languages) {
         foreach (const QString &screen, Screens::Names()) {
             if (!HasFixedPlaces(screen)) {
-                QTest::newRow((QLatin1String(language) + QLatin1String(", ") + screen).toLatin1().constData())
-                    << QString(QLatin1String(language)) << screen;
+                Row((QLatin1String(language) + QLatin1String(", ") + screen).toLatin1().constData(),
+                    QString(QLatin1String(language)), screen);
             }
         }
     }
@@ -297,7 +298,7 @@ void TestCaptions::fontsHaveTheCharacters_data()
 {
     QTest::addColumn<QString>("language");
     foreach (const QString &language, Screens::Languages()) {
-        QTest::newRow(language.toLatin1().constData()) << language;
+        Row(language.toLatin1().constData(), language);
     }
 }
 
@@ -342,8 +343,7 @@ void TestCaptions::noteHasTwoLinesAtMost_data()
     const char *const screens[] = {"list", "list, NetworkManager"};
     foreach (const QString &language, Screens::Languages()) {
         for (const char *screen : screens) {
-            QTest::newRow((language.toLatin1() + ", " + screen).constData())
-                << language << QString(QLatin1String(screen));
+            Row((language.toLatin1() + ", " + screen).constData(), language, QString(QLatin1String(screen)));
         }
     }
 }

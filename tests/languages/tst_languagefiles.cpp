@@ -2,6 +2,7 @@
 
 #include <Change.h>
 #include <HostControl.h>
+#include <Row.h>
 #include <TemporaryDirectory.h>
 #include <TextPattern.h>
 
@@ -180,7 +181,7 @@ void AddLanguageRows()
 {
     QTest::addColumn<QString>("language");
     foreach (const QString &language, LanguageSource::Languages()) {
-        QTest::newRow(language.toLatin1().constData()) << language;
+        Row(language.toLatin1().constData(), language);
     }
 }
 
@@ -425,8 +426,8 @@ void TestLanguageFiles::embeddingsAreClosed()
 void TestLanguageFiles::textsBeginInTheDirectionOfTheLanguage_data()
 {
     QTest::addColumn<QString>("language");
-    QTest::newRow("ar") << "ar";
-    QTest::newRow("he") << "he";
+    Row("ar", "ar");
+    Row("he", "he");
 }
 
 void TestLanguageFiles::textsBeginInTheDirectionOfTheLanguage()
@@ -493,12 +494,10 @@ void TestLanguageFiles::keyNoticesTellLengthsAndSigns_data()
     QTest::addColumn<QString>("id");
     QTest::addColumn<QString>("lengths");
     foreach (const QString &language, LanguageSource::Languages()) {
-        QTest::newRow((language.toLatin1() + " WEP").constData())
-            << language << "IDS_ERROR_KEY_WRONG_LENGTH_40"
-            << "5 13 10 26 32";
-        QTest::newRow((language.toLatin1() + " WPA").constData())
-            << language << "IDS_ERROR_KEY_WRONG_LENGTH_128"
-            << "8 63 64";
+        Row((language.toLatin1() + " WEP").constData(), language, "IDS_ERROR_KEY_WRONG_LENGTH_40",
+            "5 13 10 26 32");
+        Row((language.toLatin1() + " WPA").constData(), language, "IDS_ERROR_KEY_WRONG_LENGTH_128",
+            "8 63 64");
     }
 }
 
@@ -556,10 +555,9 @@ void TestLanguageFiles::damagedFileFailsTheBuildWithItsLine_data()
     QTest::addColumn<QByteArray>("whole");
     QTest::addColumn<QByteArray>("damaged");
     QTest::addColumn<int>("line");
-    QTest::newRow("tag not closed") << QByteArray("&amp;Up</translation>")
-                                    << QByteArray("&amp;Up</translatio>") << 24;
-    QTest::newRow("entity") << QByteArray("&amp;Down<") << QByteArray("Up & down<") << 29;
-    QTest::newRow("cut off") << QByteArray(">&amp;Add<") << QByteArray() << 34;
+    Row("tag not closed", QByteArray("&amp;Up</translation>"), QByteArray("&amp;Up</translatio>"), 24);
+    Row("entity", QByteArray("&amp;Down<"), QByteArray("Up & down<"), 29);
+    Row("cut off", QByteArray(">&amp;Add<"), QByteArray(), 34);
 }
 
 void TestLanguageFiles::damagedFileFailsTheBuildWithItsLine()

@@ -3,6 +3,7 @@
 #include "ShownTexts.h"
 
 #include <HostControl.h>
+#include <Row.h>
 
 #include <QSet>
 #include <QtTest>
@@ -107,7 +108,7 @@ void TestPseudoLanguage::everyTextComesFromTheLanguageFiles_data()
 {
     QTest::addColumn<QString>("screen");
     foreach (const QString &screen, Screens::Names()) {
-        QTest::newRow(screen.toLatin1().constData()) << screen;
+        Row(screen.toLatin1().constData(), screen);
     }
 }
 

@@ -1,6 +1,7 @@
 #include "LanguageSource.h"
 #include "WordList.h"
 
+#include <Row.h>
 #include <TextPattern.h>
 
 #include <QtTest>
@@ -45,7 +46,7 @@ void AddLanguageRows(const QStringList &languages)
 {
     QTest::addColumn<QString>("language");
     for (const QString &language : languages) {
-        QTest::newRow(language.toLatin1().constData()) << language;
+        Row(language.toLatin1().constData(), language);
     }
 }
 

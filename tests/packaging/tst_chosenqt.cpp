@@ -1,3 +1,4 @@
+#include <Row.h>
 #include <TemporaryDirectory.h>
 
 #include <QDir>
@@ -38,34 +39,21 @@ void ChosenQtTest::oneIsChosen_data()
     QTest::addColumn<QString>("asked");
     QTest::addColumn<QString>("told");
     const QString both = "Qt6=6.8.2 Qt5=5.15.15 ";
-    QTest::newRow("NetworkManagerQt for both")
-        << both + "KF6NetworkManagerQt=6.13.0 KF5NetworkManagerQt=5.116.0"
-        << ""
-        << "Building for Qt 6.8.2: NetworkManagerQt 6.13.0 is here for it";
-    QTest::newRow("NetworkManagerQt for Qt 5")
-        << both + "KF5NetworkManagerQt=5.103.0"
-        << ""
-        << "Building for Qt 5.15.15: NetworkManagerQt 5.103.0 is here for it";
-    QTest::newRow("no NetworkManagerQt")
-        << both << ""
-        << "Building for Qt 6.8.2: it is the newest here, and NetworkManagerQt is here for none";
-    QTest::newRow("Qt 5 alone")
-        << "Qt5=5.15.8"
-        << ""
-        << "Building for Qt 5.15.8: it is the newest here, and NetworkManagerQt is here for none";
-    QTest::newRow("Qt 6 is too old")
-        << "Qt6=6.2.4 Qt5=5.15.3"
-        << ""
-        << "Building for Qt 5.15.3: it is the newest here, and NetworkManagerQt is here for none";
-    QTest::newRow("asked for the other") << both + "KF6NetworkManagerQt=6.13.0"
-                                         << "5"
-                                         << "Building for Qt 5.15.15: PRIORITY_QT says so";
-    QTest::newRow("no Qt") << ""
-                           << ""
-                           << "There is neither Qt 6.4 nor Qt 5.15 here, nor anything newer of the two.";
-    QTest::newRow("asked for none that there is")
-        << both << "7"
-        << "PRIORITY_QT is \"7\". It names the generation of Qt to build for";
+    Row("NetworkManagerQt for both", both + "KF6NetworkManagerQt=6.13.0 KF5NetworkManagerQt=5.116.0", "",
+        "Building for Qt 6.8.2: NetworkManagerQt 6.13.0 is here for it");
+    Row("NetworkManagerQt for Qt 5", both + "KF5NetworkManagerQt=5.103.0", "",
+        "Building for Qt 5.15.15: NetworkManagerQt 5.103.0 is here for it");
+    Row("no NetworkManagerQt", both, "",
+        "Building for Qt 6.8.2: it is the newest here, and NetworkManagerQt is here for none");
+    Row("Qt 5 alone", "Qt5=5.15.8", "",
+        "Building for Qt 5.15.8: it is the newest here, and NetworkManagerQt is here for none");
+    Row("Qt 6 is too old", "Qt6=6.2.4 Qt5=5.15.3", "",
+        "Building for Qt 5.15.3: it is the newest here, and NetworkManagerQt is here for none");
+    Row("asked for the other", both + "KF6NetworkManagerQt=6.13.0", "5",
+        "Building for Qt 5.15.15: PRIORITY_QT says so");
+    Row("no Qt", "", "", "There is neither Qt 6.4 nor Qt 5.15 here, nor anything newer of the two.");
+    Row("asked for none that there is", both, "7",
+        "PRIORITY_QT is \"7\". It names the generation of Qt to build for");
 }
 
 void ChosenQtTest::oneIsChosen()

@@ -1,4 +1,5 @@
 #include <Arguments.h>
+#include <Row.h>
 #include <TextPattern.h>
 
 #include <QDir>
@@ -48,7 +49,7 @@ void DesktopFilesTest::ValidatorsAreContent_data()
 {
     QTest::addColumn<QString>("program");
     QTest::addColumn<QStringList>("arguments");
-    QTest::newRow("desktop file") << "desktop-file-validate" << QStringList(desktopFile);
+    Row("desktop file", "desktop-file-validate", QStringList(desktopFile));
     QStringList validation = {"validate", "--no-net", metainfo};
     QProcess process;
     process.start("appstreamcli", validation);
@@ -56,7 +57,7 @@ void DesktopFilesTest::ValidatorsAreContent_data()
     if (process.waitForFinished() && process.readAll().contains("url-homepage-missing")) {
         validation.insert(1, "--override=url-homepage-missing=info");
     }
-    QTest::newRow("metainfo") << "appstreamcli" << validation;
+    Row("metainfo", "appstreamcli", validation);
 }
 
 void DesktopFilesTest::ValidatorsAreContent()
@@ -80,12 +81,10 @@ void DesktopFilesTest::EveryTextIsInEveryLanguage_data()
     QTest::addColumn<QString>("plain");
     QTest::addColumn<QString>("translated");
     for (const char *key : {"Name", "Comment", "Keywords"}) {
-        QTest::newRow(key) << Content(desktopFile) << QString("\n%1=").arg(key)
-                           << QString("\n%1[%2]=").arg(key);
+        Row(key, Content(desktopFile), QString("\n%1=").arg(key), QString("\n%1[%2]=").arg(key));
     }
     for (const char *tag : {"name", "summary", "p"}) {
-        QTest::newRow(tag) << Content(metainfo) << QString("<%1>").arg(tag)
-                           << QString("<%1 xml:lang=\"%2\">").arg(tag);
+        Row(tag, Content(metainfo), QString("<%1>").arg(tag), QString("<%1 xml:lang=\"%2\">").arg(tag));
     }
 }
 

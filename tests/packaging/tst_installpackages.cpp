@@ -1,3 +1,4 @@
+#include <Row.h>
 #include <TemporaryDirectory.h>
 
 #include <QDir>
@@ -108,31 +109,16 @@ void InstallPackagesTest::systemGetsItsOwnPackages_data()
     QTest::addColumn<QString>("group");
     QTest::addColumn<QString>("installed");
     QTest::addColumn<QString>("generation");
-    QTest::newRow("Debian 12") << debian12 << "build"
-                               << "qtbase5-dev libkf5networkmanagerqt-dev libkf5kcmutils-dev"
-                               << "5";
-    QTest::newRow("Debian 13") << debian13 << "build"
-                               << "qt6-base-dev libkf6networkmanagerqt-dev libkf6kcmutils-dev"
-                               << "6";
-    QTest::newRow("Qt 6 on Debian 12") << debian12 << "build-qt6"
-                                       << "qt6-base-dev"
-                                       << "5";
-    QTest::newRow("Qt 5 on Debian 13") << debian13 << "build-qt5"
-                                       << "qtbase5-dev libkf5networkmanagerqt-dev libkf5kcmutils-dev"
-                                       << "6";
-    QTest::newRow("tests on Debian 12") << debian12 << "test"
-                                        << "libcurl3-gnutls libpsl5"
-                                        << "5";
-    QTest::newRow("tests on Debian 13") << debian13 << "test"
-                                        << "libcurl3t64-gnutls libpsl5t64"
-                                        << "6";
-    QTest::newRow("no NetworkManagerQt") << noNetworkManagerQt << "build"
-                                         << "qt6-base-dev libkf6kcmutils-dev"
-                                         << "6";
-    QTest::newRow("no NetworkManagerQt and no Qt 6") << QString(noNetworkManagerQt) + " qt6-base-dev"
-                                                     << "build"
-                                                     << "qtbase5-dev libkf5kcmutils-dev"
-                                                     << "5";
+    Row("Debian 12", debian12, "build", "qtbase5-dev libkf5networkmanagerqt-dev libkf5kcmutils-dev", "5");
+    Row("Debian 13", debian13, "build", "qt6-base-dev libkf6networkmanagerqt-dev libkf6kcmutils-dev", "6");
+    Row("Qt 6 on Debian 12", debian12, "build-qt6", "qt6-base-dev", "5");
+    Row("Qt 5 on Debian 13", debian13, "build-qt5",
+        "qtbase5-dev libkf5networkmanagerqt-dev libkf5kcmutils-dev", "6");
+    Row("tests on Debian 12", debian12, "test", "libcurl3-gnutls libpsl5", "5");
+    Row("tests on Debian 13", debian13, "test", "libcurl3t64-gnutls libpsl5t64", "6");
+    Row("no NetworkManagerQt", noNetworkManagerQt, "build", "qt6-base-dev libkf6kcmutils-dev", "6");
+    Row("no NetworkManagerQt and no Qt 6", QString(noNetworkManagerQt) + " qt6-base-dev", "build",
+        "qtbase5-dev libkf5kcmutils-dev", "5");
 }
 
 void InstallPackagesTest::systemGetsItsOwnPackages()
@@ -166,23 +152,18 @@ void InstallPackagesTest::missingPackageIsNamed_data()
     QTest::addColumn<QString>("unknown");
     QTest::addColumn<QString>("group");
     QTest::addColumn<QString>("told");
-    QTest::newRow("NetworkManagerQt")
-        << "libkf6networkmanagerqt-dev"
-        << "build-qt6"
-        << "This system has no package libkf6networkmanagerqt-dev: the plug-in over "
-           "NetworkManager will be left out.\n";
-    QTest::newRow("KDBusAddons") << "libkf6dbusaddons-dev"
-                                 << "build-qt6"
-                                 << "This system has no package libkf6dbusaddons-dev: each start of the "
-                                    "dashboard will have a window of its own.\n";
-    QTest::newRow("KCMUtils") << debian12 << "build-qt6"
-                              << "This system has no package libkf6kcmutils-dev: the module for System "
-                                 "Settings will be left out.\n";
-    QTest::newRow("any other")
-        << "libpsl5t64\nlibpsl5"
-        << "test"
-        << "This system has no package libpsl5t64 or libpsl5: what needs it will fail or "
-           "be left out.\n";
+    Row("NetworkManagerQt", "libkf6networkmanagerqt-dev", "build-qt6",
+        "This system has no package libkf6networkmanagerqt-dev: the plug-in over "
+        "NetworkManager will be left out.\n");
+    Row("KDBusAddons", "libkf6dbusaddons-dev", "build-qt6",
+        "This system has no package libkf6dbusaddons-dev: each start of the "
+        "dashboard will have a window of its own.\n");
+    Row("KCMUtils", debian12, "build-qt6",
+        "This system has no package libkf6kcmutils-dev: the module for System "
+        "Settings will be left out.\n");
+    Row("any other", "libpsl5t64\nlibpsl5", "test",
+        "This system has no package libpsl5t64 or libpsl5: what needs it will fail or "
+        "be left out.\n");
 }
 
 void InstallPackagesTest::missingPackageIsNamed()

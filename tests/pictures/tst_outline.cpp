@@ -1,5 +1,6 @@
 #include <Outline.h>
 #include <OutlineComparison.h>
+#include <Row.h>
 
 #include <QCheckBox>
 #include <QHBoxLayout>
@@ -108,34 +109,20 @@ void OutlineTest::ChangeIsSeen_data()
 {
     QTest::addColumn<QString>("change");
     QTest::addColumn<QString>("told");
-    QTest::newRow("button moved in its row") << "moved"
-                                             << "first";
-    QTest::newRow("button moved to another row") << "moved down"
-                                                 << "second";
-    QTest::newRow("button shifted") << "shifted"
-                                    << "first";
-    QTest::newRow("place fixed by hand, by a pixel") << "pixel"
-                                                     << "placed";
-    QTest::newRow("fixed size, by a pixel") << "size"
-                                            << "priorityPage";
-    QTest::newRow("row missing") << "row"
-                                 << "Office";
-    QTest::newRow("label missing") << "label"
-                                   << "label";
-    QTest::newRow("text missing") << "text"
-                                  << "label";
-    QTest::newRow("text at the other side") << "side"
-                                            << "at the right";
-    QTest::newRow("disabled") << "disabled"
-                              << "second \"Second\" disabled";
-    QTest::newRow("selected") << "selected"
-                              << "\"Office\" at the left selected";
-    QTest::newRow("covering") << "covering"
-                              << "first and second cover each other";
-    QTest::newRow("sticking out") << "sticking out"
-                                  << "placed sticks out";
-    QTest::newRow("mirrored") << "mirrored"
-                              << "from right to left";
+    Row("button moved in its row", "moved", "first");
+    Row("button moved to another row", "moved down", "second");
+    Row("button shifted", "shifted", "first");
+    Row("place fixed by hand, by a pixel", "pixel", "placed");
+    Row("fixed size, by a pixel", "size", "priorityPage");
+    Row("row missing", "row", "Office");
+    Row("label missing", "label", "label");
+    Row("text missing", "text", "label");
+    Row("text at the other side", "side", "at the right");
+    Row("disabled", "disabled", "second \"Second\" disabled");
+    Row("selected", "selected", "\"Office\" at the left selected");
+    Row("covering", "covering", "first and second cover each other");
+    Row("sticking out", "sticking out", "placed sticks out");
+    Row("mirrored", "mirrored", "from right to left");
 }
 
 void OutlineTest::ChangeIsSeen()
@@ -243,24 +230,15 @@ void OutlineTest::NumbersMayDifferWithinTheTolerance_data()
     QTest::addColumn<QString>("approved");
     QTest::addColumn<QString>("found");
     QTest::addColumn<bool>("isSame");
-    QTest::newRow("near") << "a at ~100"
-                          << "a at ~120" << true;
-    QTest::newRow("near, smaller") << "a at ~0"
-                                   << "a at ~-20" << true;
-    QTest::newRow("far") << "a at ~100"
-                         << "a at ~121" << false;
-    QTest::newRow("near, large") << "a at ~480"
-                                 << "a at ~440" << true;
-    QTest::newRow("far, large") << "a at ~480"
-                                << "a at ~439" << false;
-    QTest::newRow("fixed") << "a at 100"
-                           << "a at 101" << false;
-    QTest::newRow("no longer fixed") << "a at 100"
-                                     << "a at ~100" << false;
-    QTest::newRow("no number") << "a ~b"
-                               << "a ~c" << false;
-    QTest::newRow("one more") << "a at ~100"
-                              << "a at ~100 ~100" << false;
+    Row("near", "a at ~100", "a at ~120", true);
+    Row("near, smaller", "a at ~0", "a at ~-20", true);
+    Row("far", "a at ~100", "a at ~121", false);
+    Row("near, large", "a at ~480", "a at ~440", true);
+    Row("far, large", "a at ~480", "a at ~439", false);
+    Row("fixed", "a at 100", "a at 101", false);
+    Row("no longer fixed", "a at 100", "a at ~100", false);
+    Row("no number", "a ~b", "a ~c", false);
+    Row("one more", "a at ~100", "a at ~100 ~100", false);
 }
 
 void OutlineTest::NumbersMayDifferWithinTheTolerance()

@@ -1,4 +1,5 @@
 #include <OutlineComparison.h>
+#include <Row.h>
 #include <TemporaryDirectory.h>
 
 #include <QDir>
@@ -68,7 +69,7 @@ void PicturesTest::TourSucceeds_data()
 {
     QTest::addColumn<QString>("language");
     for (const char *language : languages) {
-        QTest::newRow(language) << language;
+        Row(language, language);
     }
 }
 
@@ -86,8 +87,7 @@ void PicturesTest::PictureIsAsApproved_data()
         const QStringList names = OutlinesIn(ApprovedPath(language));
         QVERIFY(!names.isEmpty());
         foreach (const QString &name, names) {
-            QTest::newRow(qPrintable(QLatin1String(language) + QLatin1String(", ") + name))
-                << language << name;
+            Row(qPrintable(QLatin1String(language) + QLatin1String(", ") + name), language, name);
         }
     }
 }

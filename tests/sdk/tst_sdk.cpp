@@ -1,3 +1,4 @@
+#include <Row.h>
 #include <TemporaryDirectory.h>
 #include <ToolkitCompat.h>
 #include <ZeltSdk.h>
@@ -112,10 +113,10 @@ void TestSdk::withoutDataHomeItLiesInHome()
 void TestSdk::unusableDataHomeIsIgnored_data()
 {
     QTest::addColumn<QString>("value");
-    QTest::newRow("empty") << QString();
-    QTest::newRow("relative") << QString(QLatin1String("data"));
-    QTest::newRow("relative with dot") << QString(QLatin1String("./data"));
-    QTest::newRow("tilde") << QString(QLatin1String("~/data"));
+    Row("empty", QString());
+    Row("relative", QString(QLatin1String("data")));
+    Row("relative with dot", QString(QLatin1String("./data")));
+    Row("tilde", QString(QLatin1String("~/data")));
 }
 
 void TestSdk::unusableDataHomeIsIgnored()
@@ -174,9 +175,9 @@ void TestSdk::namesOutsideAsciiArePreserved()
 void TestSdk::withoutHomeThereIsNoDirectory_data()
 {
     QTest::addColumn<QByteArray>("home");
-    QTest::newRow("not set") << QByteArray();
-    QTest::newRow("empty") << QByteArray("");
-    QTest::newRow("relative") << QByteArray("home");
+    Row("not set", QByteArray());
+    Row("empty", QByteArray(""));
+    Row("relative", QByteArray("home"));
 }
 
 void TestSdk::withoutHomeThereIsNoDirectory()
@@ -196,8 +197,8 @@ void TestSdk::withoutHomeThereIsNoDirectory()
 void TestSdk::fileInTheWayIsReportedAndKept_data()
 {
     QTest::addColumn<QString>("file");
-    QTest::newRow("data home") << QString(QLatin1String("data"));
-    QTest::newRow("directory itself") << QString(QLatin1String("data/priority-dashboard"));
+    Row("data home", QString(QLatin1String("data")));
+    Row("directory itself", QString(QLatin1String("data/priority-dashboard")));
 }
 
 void TestSdk::fileInTheWayIsReportedAndKept()

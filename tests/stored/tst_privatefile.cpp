@@ -1,4 +1,5 @@
 #include <PrivateFile.h>
+#include <Row.h>
 #include <TemporaryDirectory.h>
 
 #include <QDir>
@@ -46,8 +47,8 @@ void tst_PrivateFile::missingFileIsMade()
 void tst_PrivateFile::linkIsNotReplaced_data()
 {
     QTest::addColumn<bool>("targetExists");
-    QTest::newRow("to a file") << true;
-    QTest::newRow("to nothing") << false;
+    Row("to a file", true);
+    Row("to nothing", false);
 }
 
 void tst_PrivateFile::linkIsNotReplaced()

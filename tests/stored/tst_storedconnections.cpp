@@ -2,6 +2,7 @@
 
 #include <IConnectionPlugin.h>
 #include <IUIPlugin.h>
+#include <Row.h>
 
 #include <QScopedPointer>
 #include <QSignalSpy>
@@ -191,8 +192,8 @@ void StoredConnectionsTest::NetworksHaveTheirProfiles()
 void StoredConnectionsTest::DamagedFileMakesNothingKnown_data()
 {
     QTest::addColumn<bool>("isOfProfiles");
-    QTest::newRow("profiles") << true;
-    QTest::newRow("networks") << false;
+    Row("profiles", true);
+    Row("networks", false);
 }
 
 void StoredConnectionsTest::DamagedFileMakesNothingKnown()
@@ -270,10 +271,10 @@ void StoredConnectionsTest::FailureIsTold_data()
     QTest::addColumn<QByteArray>("word");
     QTest::addColumn<int>("stage");
     QTest::addColumn<int>("failure");
-    QTest::newRow("key") << QByteArray("key") << int(StageAuthenticating) << int(FailureWrongKey);
-    QTest::newRow("answer") << QByteArray("answer") << int(StagePreparing) << int(FailureNoAnswer);
-    QTest::newRow("address") << QByteArray("address") << int(StageGettingAddress) << int(FailureNoAddress);
-    QTest::newRow("refused") << QByteArray("refused") << int(StageAuthenticating) << int(FailureRefused);
+    Row("key", QByteArray("key"), int(StageAuthenticating), int(FailureWrongKey));
+    Row("answer", QByteArray("answer"), int(StagePreparing), int(FailureNoAnswer));
+    Row("address", QByteArray("address"), int(StageGettingAddress), int(FailureNoAddress));
+    Row("refused", QByteArray("refused"), int(StageAuthenticating), int(FailureRefused));
 }
 
 void StoredConnectionsTest::FailureIsTold()

@@ -1,6 +1,7 @@
 #include "StoredFixture.h"
 
 #include <IWLANUIPlugin.h>
+#include <Row.h>
 #include <TraceCapture.h>
 #include <WLANResult.h>
 
@@ -166,9 +167,9 @@ void tst_storedfile::FileIsTheOwnersAlone_data()
 {
     QTest::addColumn<int>("mask");
 
-    QTest::newRow("open mask") << 0;
-    QTest::newRow("ordinary mask") << 022;
-    QTest::newRow("mask that takes the owner's rights") << 0577;
+    Row("open mask", 0);
+    Row("ordinary mask", 022);
+    Row("mask that takes the owner's rights", 0577);
 }
 
 void tst_storedfile::FileIsTheOwnersAlone()
@@ -221,8 +222,8 @@ void tst_storedfile::LinkInPlaceOfTheFileIsRefused_data()
 {
     QTest::addColumn<bool>("targetExists");
 
-    QTest::newRow("to a file") << true;
-    QTest::newRow("to nothing") << false;
+    Row("to a file", true);
+    Row("to nothing", false);
 }
 
 void tst_storedfile::LinkInPlaceOfTheFileIsRefused()
@@ -287,9 +288,9 @@ void tst_storedfile::UnreadableFileIsRefusedAndKept_data()
 {
     QTest::addColumn<QString>("kind");
 
-    QTest::newRow("directory") << "directory";
-    QTest::newRow("pipe") << "pipe";
-    QTest::newRow("too large") << "large";
+    Row("directory", "directory");
+    Row("pipe", "pipe");
+    Row("too large", "large");
 }
 
 void tst_storedfile::UnreadableFileIsRefusedAndKept()
@@ -352,51 +353,50 @@ void tst_storedfile::DamagedFileIsReadUpToTheDamage_data()
 
     const QStringList none;
     const QStringList one = QStringList() << "a";
-    QTest::newRow("empty") << QByteArray("") << none << 1;
-    QTest::newRow("no XML") << QByteArray("\x01\x02") << none << 1;
-    QTest::newRow("other root") << QByteArray("<zeltdoc/>") << none << 1;
-    QTest::newRow("cut off") << QByteArray("<wlanprofiles>\n<profile profileName='a'/>\n<pro") << one << 3;
-    QTest::newRow("no end") << QByteArray("<wlanprofiles>\n<profile profileName='a'/>") << one << 2;
-    QTest::newRow("profile without a name")
-        << QByteArray("<wlanprofiles>\n<profile profileName='a'/>\n<profile ssid='b'/>\n</wlanprofiles>")
-        << one << 3;
-    QTest::newRow("unknown element")
-        << QByteArray("<wlanprofiles>\n<profile profileName='a'/>\n<secret/>\n</wlanprofiles>") << one << 3;
-    QTest::newRow("unknown attribute")
-        << QByteArray("<wlanprofiles>\n<profile profileName='a'/>\n<profile profileName='b' band='5'/>\n"
-                      "</wlanprofiles>")
-        << one << 3;
-    QTest::newRow("attribute twice")
-        << QByteArray(
-               "<wlanprofiles>\n<profile profileName='a'/>\n<profile profileName='b' ssid='' ssid=''/>\n"
-               "</wlanprofiles>")
-        << one << 3;
-    QTest::newRow("attribute of the root")
-        << QByteArray("<wlanprofiles version='2'>\n</wlanprofiles>") << none << 1;
-    QTest::newRow("element in a profile")
-        << QByteArray("<wlanprofiles>\n<profile profileName='a'>\n<profile profileName='b'/>\n</profile>\n"
-                      "</wlanprofiles>")
-        << one << 3;
-    QTest::newRow("text") << QByteArray("<wlanprofiles>\n<profile profileName='a'/>\ntext</wlanprofiles>")
-                          << one << 3;
-    QTest::newRow("document type") << QByteArray(
-                                          "<!DOCTYPE wlanprofiles [\n<!ENTITY e 'e'>]>\n<wlanprofiles>\n"
-                                          "<profile profileName='&e;'/>\n</wlanprofiles>")
-                                   << none << 2;
-    QTest::newRow("wrong bytes")
-        << QByteArray("<wlanprofiles>\n<profile profileName='a'/>\n<profile profileName='\xff'/>\n"
-                      "</wlanprofiles>")
-        << one << 3;
-    QTest::newRow("character cut off") << QByteArray("<wlanprofiles>\n<profile profileName='a'/>\n"
-                                                     "</wlanprofiles>\n<!-- \xc3")
-                                       << one << 4;
-    QTest::newRow("wrong bytes behind a fault")
-        << QByteArray("<wlanprofiles>\n<profile profileName='a'/>\n<profile/>\n"
-                      "</wlanprofiles>\n\xff")
-        << one << 3;
-    QTest::newRow("second root") << QByteArray("<wlanprofiles>\n<profile profileName='a'/>\n</wlanprofiles>\n"
-                                               "<wlanprofiles/>")
-                                 << one << 4;
+    Row("empty", QByteArray(""), none, 1);
+    Row("no XML", QByteArray("\x01\x02"), none, 1);
+    Row("other root", QByteArray("<zeltdoc/>"), none, 1);
+    Row("cut off", QByteArray("<wlanprofiles>\n<profile profileName='a'/>\n<pro"), one, 3);
+    Row("no end", QByteArray("<wlanprofiles>\n<profile profileName='a'/>"), one, 2);
+    Row("profile without a name",
+        QByteArray("<wlanprofiles>\n<profile profileName='a'/>\n<profile ssid='b'/>\n</wlanprofiles>"), one,
+        3);
+    Row("unknown element",
+        QByteArray("<wlanprofiles>\n<profile profileName='a'/>\n<secret/>\n</wlanprofiles>"), one, 3);
+    Row("unknown attribute",
+        QByteArray("<wlanprofiles>\n<profile profileName='a'/>\n<profile profileName='b' band='5'/>\n"
+                   "</wlanprofiles>"),
+        one, 3);
+    Row("attribute twice",
+        QByteArray("<wlanprofiles>\n<profile profileName='a'/>\n<profile profileName='b' ssid='' ssid=''/>\n"
+                   "</wlanprofiles>"),
+        one, 3);
+    Row("attribute of the root", QByteArray("<wlanprofiles version='2'>\n</wlanprofiles>"), none, 1);
+    Row("element in a profile",
+        QByteArray("<wlanprofiles>\n<profile profileName='a'>\n<profile profileName='b'/>\n</profile>\n"
+                   "</wlanprofiles>"),
+        one, 3);
+    Row("text", QByteArray("<wlanprofiles>\n<profile profileName='a'/>\ntext</wlanprofiles>"), one, 3);
+    Row("document type",
+        QByteArray("<!DOCTYPE wlanprofiles [\n<!ENTITY e 'e'>]>\n<wlanprofiles>\n"
+                   "<profile profileName='&e;'/>\n</wlanprofiles>"),
+        none, 2);
+    Row("wrong bytes",
+        QByteArray("<wlanprofiles>\n<profile profileName='a'/>\n<profile profileName='\xff'/>\n"
+                   "</wlanprofiles>"),
+        one, 3);
+    Row("character cut off",
+        QByteArray("<wlanprofiles>\n<profile profileName='a'/>\n"
+                   "</wlanprofiles>\n<!-- \xc3"),
+        one, 4);
+    Row("wrong bytes behind a fault",
+        QByteArray("<wlanprofiles>\n<profile profileName='a'/>\n<profile/>\n"
+                   "</wlanprofiles>\n\xff"),
+        one, 3);
+    Row("second root",
+        QByteArray("<wlanprofiles>\n<profile profileName='a'/>\n</wlanprofiles>\n"
+                   "<wlanprofiles/>"),
+        one, 4);
 }
 
 void tst_storedfile::DamagedFileIsReadUpToTheDamage()

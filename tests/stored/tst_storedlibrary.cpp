@@ -3,6 +3,7 @@
 #include <INotify.h>
 #include <IUIPlugin.h>
 #include <IWLANUIPlugin.h>
+#include <Row.h>
 
 #include <QLibrary>
 #include <QPluginLoader>
@@ -100,11 +101,11 @@ void tst_storedlibrary::HandsOutTheServiceForTheWlanNumberOnly_data()
     QTest::addColumn<int>("number");
     QTest::addColumn<bool>("known");
 
-    QTest::newRow("WLAN") << 4102 << true;
-    QTest::newRow("settings page") << 4098 << false;
-    QTest::newRow("priority list") << 4103 << false;
-    QTest::newRow("zero") << 0 << false;
-    QTest::newRow("negative") << -1 << false;
+    Row("WLAN", 4102, true);
+    Row("settings page", 4098, false);
+    Row("priority list", 4103, false);
+    Row("zero", 0, false);
+    Row("negative", -1, false);
 }
 
 void tst_storedlibrary::HandsOutTheServiceForTheWlanNumberOnly()

@@ -1,6 +1,7 @@
 #include "StoredFixture.h"
 
 #include <IWLANUIPlugin.h>
+#include <Row.h>
 #include <TraceCapture.h>
 #include <WLANResult.h>
 
@@ -186,16 +187,16 @@ void tst_storednetworks::UnusableNumbersAreToldWithTheirLine_data()
     const QStringList leftOut = QStringList() << "good 1 0 0 0 0";
     const QStringList withoutChannel = QStringList() << "n 50 0 0 0 0"
                                                      << "good 1 0 0 0 0";
-    QTest::newRow("no signal") << QByteArray("") << leftOut;
-    QTest::newRow("empty signal") << QByteArray("signal=''") << leftOut;
-    QTest::newRow("word") << QByteArray("signal='good'") << leftOut;
-    QTest::newRow("percent sign") << QByteArray("signal='50%'") << leftOut;
-    QTest::newRow("fraction") << QByteArray("signal='50.5'") << leftOut;
-    QTest::newRow("negative") << QByteArray("signal='-1'") << leftOut;
-    QTest::newRow("too much") << QByteArray("signal='101'") << leftOut;
-    QTest::newRow("beyond any number") << QByteArray("signal='99999999999'") << leftOut;
-    QTest::newRow("channel word") << QByteArray("signal='50' channel='six'") << withoutChannel;
-    QTest::newRow("negative channel") << QByteArray("signal='50' channel='-6'") << withoutChannel;
+    Row("no signal", QByteArray(""), leftOut);
+    Row("empty signal", QByteArray("signal=''"), leftOut);
+    Row("word", QByteArray("signal='good'"), leftOut);
+    Row("percent sign", QByteArray("signal='50%'"), leftOut);
+    Row("fraction", QByteArray("signal='50.5'"), leftOut);
+    Row("negative", QByteArray("signal='-1'"), leftOut);
+    Row("too much", QByteArray("signal='101'"), leftOut);
+    Row("beyond any number", QByteArray("signal='99999999999'"), leftOut);
+    Row("channel word", QByteArray("signal='50' channel='six'"), withoutChannel);
+    Row("negative channel", QByteArray("signal='50' channel='-6'"), withoutChannel);
 }
 
 void tst_storednetworks::UnusableNumbersAreToldWithTheirLine()
@@ -248,16 +249,11 @@ void tst_storednetworks::ProfileOfANetworkJoinsWhatIsSeenAndWhatIsRemembered_dat
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("known");
 
-    QTest::newRow("in range") << "seen"
-                              << "seen shared WEP networkKey  ";
-    QTest::newRow("in range, nothing said of security") << "plain"
-                                                        << "plain open none passPhrase  ";
-    QTest::newRow("remembered") << "kept"
-                                << "kept WPAPSK TKIP passPhrase key of kept 0";
-    QTest::newRow("both") << "both"
-                          << "both WPA2PSK CCMP passPhrase key of both 3";
-    QTest::newRow("neither") << "Both"
-                             << "unknown";
+    Row("in range", "seen", "seen shared WEP networkKey  ");
+    Row("in range, nothing said of security", "plain", "plain open none passPhrase  ");
+    Row("remembered", "kept", "kept WPAPSK TKIP passPhrase key of kept 0");
+    Row("both", "both", "both WPA2PSK CCMP passPhrase key of both 3");
+    Row("neither", "Both", "unknown");
 }
 
 void tst_storednetworks::ProfileOfANetworkJoinsWhatIsSeenAndWhatIsRemembered()

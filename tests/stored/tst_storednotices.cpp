@@ -3,6 +3,7 @@
 #include <HostControl.h>
 #include <IUIPlugin.h>
 #include <IWLANUIPlugin.h>
+#include <Row.h>
 #include <WLANResult.h>
 
 #include <QApplication>
@@ -196,36 +197,32 @@ void tst_storednotices::ReasonIsTold_data()
     const QByteArray end = "</wlanprofiles>";
     const QString kept = QString::fromUtf8("“Attic” was not changed: ");
     const QString notSaved = QString::fromUtf8("“Attic” was not saved: ");
-    QTest::newRow("read-only") << begin + "'Attic' readOnly='true'/>" + end << "open none"
-                               << int(WLANResultReadOnlyProfile)
-                               << kept +
-                                      "a network with this name is already saved, and it cannot be changed.";
-    QTest::newRow("several") << begin + "'Attic'/><profile profileName='Attic'/>" + end << "open none"
-                             << int(WLANResultSeveralProfiles)
-                             << QString::fromUtf8("Nothing was changed: several networks are saved under the "
-                                                  "name “Attic”, and it is not known which one is meant. "
-                                                  "Choose another name.");
-    QTest::newRow("account") << begin + "'Attic' authentication='WPA2(EAP)' encryption='CCMP'/>" + end
-                             << "open none" << int(WLANResultUndescribedProfile)
-                             << kept + "a network with this name is already saved, with details that "
-                                       "cannot be entered here, such as an account. Change it where it was "
-                                       "set up, or choose another name.";
-    QTest::newRow("stronger") << begin + "'Attic'" + wpa2 + end << "open none" << int(WLANResultWeakerMethod)
-                              << kept + "a network with this name is already saved, and this security or "
-                                        "encryption would be weaker. Choose one that is at least as strong, "
-                                        "or another name.";
-    QTest::newRow("key") << begin + "'Attic'" + wpa2 + end << "WPA2PSK CCMP" << int(WLANResultIncompleteKey)
-                         << kept + "a network with this name is already saved, and changing it needs a "
-                                   "complete key. Enter the key, or choose another name.";
-    QTest::newRow("better one") << begin + "'Loft'" + wpa2 + end << "open none"
-                                << int(WLANResultBetterProfile)
-                                << notSaved +
-                                       QString::fromUtf8("the same network is already saved as “Loft”, "
-                                                         "with better settings. Add “Loft” to your "
-                                                         "list instead.");
-    QTest::newRow("damaged") << begin << "open none" << int(WLANResultFileDamaged)
-                             << notSaved + "the file with the saved networks is damaged and was not "
-                                           "changed. See the log for the line.";
+    Row("read-only", begin + "'Attic' readOnly='true'/>" + end, "open none", int(WLANResultReadOnlyProfile),
+        kept + "a network with this name is already saved, and it cannot be changed.");
+    Row("several", begin + "'Attic'/><profile profileName='Attic'/>" + end, "open none",
+        int(WLANResultSeveralProfiles),
+        QString::fromUtf8("Nothing was changed: several networks are saved under the "
+                          "name “Attic”, and it is not known which one is meant. "
+                          "Choose another name."));
+    Row("account", begin + "'Attic' authentication='WPA2(EAP)' encryption='CCMP'/>" + end, "open none",
+        int(WLANResultUndescribedProfile),
+        kept + "a network with this name is already saved, with details that "
+               "cannot be entered here, such as an account. Change it where it was "
+               "set up, or choose another name.");
+    Row("stronger", begin + "'Attic'" + wpa2 + end, "open none", int(WLANResultWeakerMethod),
+        kept + "a network with this name is already saved, and this security or "
+               "encryption would be weaker. Choose one that is at least as strong, "
+               "or another name.");
+    Row("key", begin + "'Attic'" + wpa2 + end, "WPA2PSK CCMP", int(WLANResultIncompleteKey),
+        kept + "a network with this name is already saved, and changing it needs a "
+               "complete key. Enter the key, or choose another name.");
+    Row("better one", begin + "'Loft'" + wpa2 + end, "open none", int(WLANResultBetterProfile),
+        notSaved + QString::fromUtf8("the same network is already saved as “Loft”, "
+                                     "with better settings. Add “Loft” to your "
+                                     "list instead."));
+    Row("damaged", begin, "open none", int(WLANResultFileDamaged),
+        notSaved + "the file with the saved networks is damaged and was not "
+                   "changed. See the log for the line.");
 }
 
 void tst_storednotices::ReasonIsTold()
@@ -348,9 +345,8 @@ void tst_storednotices::TextReadsInItsOwnDirection_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<bool>("isRightToLeft");
     const QString attic = QString::fromUtf8("عليّة");
-    QTest::newRow("English") << "en" << attic << false;
-    QTest::newRow("Hebrew") << "he"
-                            << "Attic" << true;
+    Row("English", "en", attic, false);
+    Row("Hebrew", "he", "Attic", true);
 }
 
 void tst_storednotices::TextReadsInItsOwnDirection()

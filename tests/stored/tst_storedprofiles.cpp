@@ -1,6 +1,7 @@
 #include "StoredFixture.h"
 
 #include <IWLANUIPlugin.h>
+#include <Row.h>
 #include <WLANResult.h>
 
 #include <QtTest>
@@ -156,12 +157,12 @@ void tst_storedprofiles::ProfileIsFoundByItsExactName_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<bool>("known");
 
-    QTest::newRow("as it is") << "Home" << true;
-    QTest::newRow("mobile broadband") << "Mobile broadband" << true;
-    QTest::newRow("other case") << "home" << false;
-    QTest::newRow("blank behind") << "Home " << false;
-    QTest::newRow("part") << "Hom" << false;
-    QTest::newRow("empty") << "" << false;
+    Row("as it is", "Home", true);
+    Row("mobile broadband", "Mobile broadband", true);
+    Row("other case", "home", false);
+    Row("blank behind", "Home ", false);
+    Row("part", "Hom", false);
+    Row("empty", "", false);
 }
 
 void tst_storedprofiles::ProfileIsFoundByItsExactName()
@@ -209,11 +210,11 @@ void tst_storedprofiles::OnlyTheExactWordProtectsAProfile_data()
     QTest::addColumn<QString>("readOnly");
     QTest::addColumn<int>("result");
 
-    QTest::newRow("true") << "true" << int(WLANResultReadOnlyProfile);
-    QTest::newRow("TRUE") << "TRUE" << int(WLANResultSuccess);
-    QTest::newRow("1") << "1" << int(WLANResultSuccess);
-    QTest::newRow("blank") << "true " << int(WLANResultSuccess);
-    QTest::newRow("empty") << "" << int(WLANResultSuccess);
+    Row("true", "true", int(WLANResultReadOnlyProfile));
+    Row("TRUE", "TRUE", int(WLANResultSuccess));
+    Row("1", "1", int(WLANResultSuccess));
+    Row("blank", "true ", int(WLANResultSuccess));
+    Row("empty", "", int(WLANResultSuccess));
 }
 
 void tst_storedprofiles::OnlyTheExactWordProtectsAProfile()
@@ -273,30 +274,30 @@ void tst_storedprofiles::AnyTextComesBackAsItWas_data()
     }
     const QChar high(ushort(0xd83d));
     const QChar low(ushort(0xde00));
-    QTest::newRow("controls") << controls;
-    QTest::newRow("upper controls") << upperControls;
-    QTest::newRow("zero in the middle") << "a" + QString(QChar(ushort(0))) + "b";
-    QTest::newRow("line ends") << "a\nb\r\nc\rd\te";
-    QTest::newRow("blanks around") << "  a  b  ";
-    QTest::newRow("only a blank") << " ";
-    QTest::newRow("markup") << "<a href=\"x\">&amp;'</a>]]>";
-    QTest::newRow("non-ASCII") << QString::fromUtf8("Café مقهى 咖啡");
-    QTest::newRow("pair") << QString(high) + low;
-    QTest::newRow("lone high") << "a" + QString(high) + "b";
-    QTest::newRow("lone low") << "a" + QString(low) + "b";
-    QTest::newRow("high at the end") << "a" + QString(high);
-    QTest::newRow("swapped pair") << QString(low) + high;
-    QTest::newRow("two high and a low") << QString(high) + high + low;
-    QTest::newRow("U+FFFE and U+FFFF") << QString(QChar(ushort(0xfffe))) + QChar(ushort(0xffff));
-    QTest::newRow("U+FDD0 and U+FFFD") << QString(QChar(ushort(0xfdd0))) + QChar(ushort(0xfffd));
-    QTest::newRow("U+1FFFE") << QString(QChar(ushort(0xd83f))) + QChar(ushort(0xdffe));
-    QTest::newRow("byte order mark") << QString(QChar(ushort(0xfeff))) + "a";
-    QTest::newRow("line separator") << QString(QChar(ushort(0x2028))) + "a";
-    QTest::newRow("backslash") << "\\";
-    QTest::newRow("two backslashes") << "\\\\";
-    QTest::newRow("looks escaped") << "\\u0041 \\\\u0041 \\u004 \\x";
-    QTest::newRow("percent") << "%1 %s %n";
-    QTest::newRow("long") << QString(100000, QChar('x'));
+    Row("controls", controls);
+    Row("upper controls", upperControls);
+    Row("zero in the middle", "a" + QString(QChar(ushort(0))) + "b");
+    Row("line ends", "a\nb\r\nc\rd\te");
+    Row("blanks around", "  a  b  ");
+    Row("only a blank", " ");
+    Row("markup", "<a href=\"x\">&amp;'</a>]]>");
+    Row("non-ASCII", QString::fromUtf8("Café مقهى 咖啡"));
+    Row("pair", QString(high) + low);
+    Row("lone high", "a" + QString(high) + "b");
+    Row("lone low", "a" + QString(low) + "b");
+    Row("high at the end", "a" + QString(high));
+    Row("swapped pair", QString(low) + high);
+    Row("two high and a low", QString(high) + high + low);
+    Row("U+FFFE and U+FFFF", QString(QChar(ushort(0xfffe))) + QChar(ushort(0xffff)));
+    Row("U+FDD0 and U+FFFD", QString(QChar(ushort(0xfdd0))) + QChar(ushort(0xfffd)));
+    Row("U+1FFFE", QString(QChar(ushort(0xd83f))) + QChar(ushort(0xdffe)));
+    Row("byte order mark", QString(QChar(ushort(0xfeff))) + "a");
+    Row("line separator", QString(QChar(ushort(0x2028))) + "a");
+    Row("backslash", "\\");
+    Row("two backslashes", "\\\\");
+    Row("looks escaped", "\\u0041 \\\\u0041 \\u004 \\x");
+    Row("percent", "%1 %s %n");
+    Row("long", QString(100000, QChar('x')));
 }
 
 void tst_storedprofiles::AnyTextComesBackAsItWas()
@@ -319,13 +320,13 @@ void tst_storedprofiles::BackslashesWrittenByHandAreRead_data()
     QTest::addColumn<QByteArray>("written");
     QTest::addColumn<QString>("name");
 
-    QTest::newRow("escape") << QByteArray("\\u00e9\\u00C9") << QString::fromUtf8("éÉ");
-    QTest::newRow("doubled") << QByteArray("a\\\\b") << "a\\b";
-    QTest::newRow("single") << QByteArray("a\\b") << "a\\b";
-    QTest::newRow("at the end") << QByteArray("a\\") << "a\\";
-    QTest::newRow("short escape") << QByteArray("\\u12") << "\\u12";
-    QTest::newRow("no digits") << QByteArray("\\u00g1") << "\\u00g1";
-    QTest::newRow("doubled before u") << QByteArray("\\\\u0041") << "\\u0041";
+    Row("escape", QByteArray("\\u00e9\\u00C9"), QString::fromUtf8("éÉ"));
+    Row("doubled", QByteArray("a\\\\b"), "a\\b");
+    Row("single", QByteArray("a\\b"), "a\\b");
+    Row("at the end", QByteArray("a\\"), "a\\");
+    Row("short escape", QByteArray("\\u12"), "\\u12");
+    Row("no digits", QByteArray("\\u00g1"), "\\u00g1");
+    Row("doubled before u", QByteArray("\\\\u0041"), "\\u0041");
 }
 
 void tst_storedprofiles::BackslashesWrittenByHandAreRead()

@@ -1,6 +1,7 @@
 #include "StoredFixture.h"
 
 #include <IWLANUIPlugin.h>
+#include <Row.h>
 #include <WLANResult.h>
 
 #include <QtTest>
@@ -181,18 +182,18 @@ void tst_storedrules::ProfileOfThatNameIsChangedOrKept_data()
          changed},
     };
     for (const auto &row : rows) {
-        QTest::newRow(row.row) << QString(row.before) << QString(row.wanted) << row.result;
+        Row(row.row, QString(row.before), QString(row.wanted), row.result);
     }
     const QString wpa = "WPA2PSK|CCMP|";
     const QString wep = "open|WEP|";
-    QTest::newRow("63 characters") << wpa + "open sesame" << wpa + QString(63, 'z') << changed;
-    QTest::newRow("64 characters") << wpa + "open sesame" << wpa + QString(64, 'z') << incomplete;
-    QTest::newRow("64 digits") << wpa + "open sesame" << wpa + Hexadecimal(64) << changed;
-    QTest::newRow("65 digits") << wpa + "open sesame" << wpa + Hexadecimal(65) << incomplete;
-    QTest::newRow("10 digits for WEP") << wep + "12345" << wep + Hexadecimal(10) << changed;
-    QTest::newRow("26 digits for WEP") << wep + "12345" << wep + Hexadecimal(26) << changed;
-    QTest::newRow("32 digits for WEP") << wep + "12345" << wep + Hexadecimal(32) << changed;
-    QTest::newRow("31 digits for WEP") << wep + "12345" << wep + Hexadecimal(31) << incomplete;
+    Row("63 characters", wpa + "open sesame", wpa + QString(63, 'z'), changed);
+    Row("64 characters", wpa + "open sesame", wpa + QString(64, 'z'), incomplete);
+    Row("64 digits", wpa + "open sesame", wpa + Hexadecimal(64), changed);
+    Row("65 digits", wpa + "open sesame", wpa + Hexadecimal(65), incomplete);
+    Row("10 digits for WEP", wep + "12345", wep + Hexadecimal(10), changed);
+    Row("26 digits for WEP", wep + "12345", wep + Hexadecimal(26), changed);
+    Row("32 digits for WEP", wep + "12345", wep + Hexadecimal(32), changed);
+    Row("31 digits for WEP", wep + "12345", wep + Hexadecimal(31), incomplete);
 }
 
 void tst_storedrules::ProfileOfThatNameIsChangedOrKept()
@@ -260,11 +261,11 @@ void tst_storedrules::ProfileOfAnotherNameIsNeverChanged_data()
     QTest::addColumn<QString>("before");
     QTest::addColumn<QString>("wanted");
     QTest::addColumn<int>("result");
-    QTest::newRow("account") << "WPA2(EAP)|CCMP" << wpa2 << int(WLANResultBetterProfile);
-    QTest::newRow("weaker") << wpa2 << "open|none" << int(WLANResultBetterProfile);
-    QTest::newRow("key not complete") << wpa2 << "WPA2PSK|CCMP|short" << int(WLANResultBetterProfile);
-    QTest::newRow("the same") << wpa2 << "WPA2PSK|CCMP|sesame street" << int(WLANResultSuccess);
-    QTest::newRow("stronger") << "open|none" << wpa2 << int(WLANResultSuccess);
+    Row("account", "WPA2(EAP)|CCMP", wpa2, int(WLANResultBetterProfile));
+    Row("weaker", wpa2, "open|none", int(WLANResultBetterProfile));
+    Row("key not complete", wpa2, "WPA2PSK|CCMP|short", int(WLANResultBetterProfile));
+    Row("the same", wpa2, "WPA2PSK|CCMP|sesame street", int(WLANResultSuccess));
+    Row("stronger", "open|none", wpa2, int(WLANResultSuccess));
 }
 
 void tst_storedrules::ProfileOfAnotherNameIsNeverChanged()
@@ -286,10 +287,8 @@ void tst_storedrules::CaseCounts_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("network");
-    QTest::newRow("of the name") << "under the roof"
-                                 << "skylight";
-    QTest::newRow("of the network name") << "Upstairs"
-                                         << "Attic";
+    Row("of the name", "under the roof", "skylight");
+    Row("of the network name", "Upstairs", "Attic");
 }
 
 void tst_storedrules::CaseCounts()

@@ -1,5 +1,6 @@
 #include "StoredFixture.h"
 
+#include <Row.h>
 #include <SystemCalls.h>
 
 #include <IWLANUIPlugin.h>
@@ -145,9 +146,9 @@ void tst_StoredWrites::linkThatAppearsIsNotFollowed_data()
     QTest::addColumn<QString>("suffix");
     QTest::addColumn<bool>("onWriting");
     QTest::addColumn<bool>("targetExists");
-    QTest::newRow("when the file is opened to be read") << "" << false << true;
-    QTest::newRow("when the file is made, to a file") << ".new" << true << true;
-    QTest::newRow("when the file is made, to nothing") << ".new" << true << false;
+    Row("when the file is opened to be read", "", false, true);
+    Row("when the file is made, to a file", ".new", true, true);
+    Row("when the file is made, to nothing", ".new", true, false);
 }
 
 void tst_StoredWrites::linkThatAppearsIsNotFollowed()

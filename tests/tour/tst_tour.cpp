@@ -1,5 +1,6 @@
 #include "DashboardProcess.h"
 
+#include <Row.h>
 #include <TemporaryDirectory.h>
 #include <TextPattern.h>
 
@@ -75,18 +76,21 @@ void TourTest::WhatCannotBeFollowedIsSaidInOneLine_data()
 {
     QTest::addColumn<QStringList>("given");
     QTest::addColumn<QString>("told");
-    QTest::newRow("no directory") << QStringList() << "name one directory";
-    QTest::newRow("two directories") << (QStringList() << "/dev/null/a"
-                                                       << "/dev/null/b")
-                                     << "name one directory";
-    QTest::newRow("unknown option") << QStringList("--fast") << "fast";
-    QTest::newRow("unknown language") << (QStringList() << "--language=tlh"
-                                                        << "TOUR")
-                                      << "\"tlh\"; there are: ar, de, en, ";
-    QTest::newRow("library path that is not there") << (QStringList() << "--library-path=/absent"
-                                                                      << "TOUR")
-                                                    << "/absent";
-    QTest::newRow("where nothing can be made") << QStringList("/dev/null/tour") << "/dev/null/tour";
+    Row("no directory", QStringList(), "name one directory");
+    Row("two directories",
+        (QStringList() << "/dev/null/a"
+                       << "/dev/null/b"),
+        "name one directory");
+    Row("unknown option", QStringList("--fast"), "fast");
+    Row("unknown language",
+        (QStringList() << "--language=tlh"
+                       << "TOUR"),
+        "\"tlh\"; there are: ar, de, en, ");
+    Row("library path that is not there",
+        (QStringList() << "--library-path=/absent"
+                       << "TOUR"),
+        "/absent");
+    Row("where nothing can be made", QStringList("/dev/null/tour"), "/dev/null/tour");
 }
 
 void TourTest::WhatCannotBeFollowedIsSaidInOneLine()
@@ -125,8 +129,8 @@ void TourTest::TourSucceedsAtAnyScale_data()
 {
     QTest::addColumn<QString>("scale");
     QTest::addColumn<QSize>("size");
-    QTest::newRow("150 %") << "1.5" << QSize(1230, 960);
-    QTest::newRow("200 %") << "2" << QSize(1640, 1280);
+    Row("150 %", "1.5", QSize(1230, 960));
+    Row("200 %", "2", QSize(1640, 1280));
 }
 
 void TourTest::TourSucceedsAtAnyScale()
@@ -209,10 +213,9 @@ void TourTest::TourFailsWhenStepsHaveNoEffect_data()
 {
     QTest::addColumn<QString>("libraryPath");
     QTest::addColumn<QString>("told");
-    QTest::newRow("the priority plug-in is missing") << BUILD_DIRECTORY "/tests/fixtures"
-                                                     << "libPriorityPlugin.so was not found";
-    QTest::newRow("the priority plug-in does nothing") << BUILD_DIRECTORY "/tests/fixtures/Idle"
-                                                       << "";
+    Row("the priority plug-in is missing", BUILD_DIRECTORY "/tests/fixtures",
+        "libPriorityPlugin.so was not found");
+    Row("the priority plug-in does nothing", BUILD_DIRECTORY "/tests/fixtures/Idle", "");
 }
 
 void TourTest::TourFailsWhenStepsHaveNoEffect()

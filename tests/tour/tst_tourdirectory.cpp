@@ -1,3 +1,4 @@
+#include <Row.h>
 #include <TemporaryDirectory.h>
 #include <TourDirectory.h>
 
@@ -59,8 +60,8 @@ void TourDirectoryTest::EarlierTourIsRemoved()
 void TourDirectoryTest::ForeignContentIsRefused_data()
 {
     QTest::addColumn<QString>("name");
-    QTest::newRow("picture") << "07-holiday.png";
-    QTest::newRow("file called data") << "data";
+    Row("picture", "07-holiday.png");
+    Row("file called data", "data");
 }
 
 void TourDirectoryTest::ForeignContentIsRefused()

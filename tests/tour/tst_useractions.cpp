@@ -1,3 +1,4 @@
+#include <Row.h>
 #include <UserActions.h>
 
 #include <QDialog>
@@ -74,14 +75,10 @@ void UserActionsTest::WhatNobodyCouldClickIsNotClicked_data()
 {
     QTest::addColumn<QString>("obstacle");
     QTest::addColumn<QString>("told");
-    QTest::newRow("hidden") << "hidden"
-                            << "button can't be seen";
-    QTest::newRow("disabled") << "disabled"
-                              << "button is disabled";
-    QTest::newRow("covered") << "covered"
-                             << "button is covered";
-    QTest::newRow("behind a dialog") << "dialog"
-                                     << "button is behind the dialog question";
+    Row("hidden", "hidden", "button can't be seen");
+    Row("disabled", "disabled", "button is disabled");
+    Row("covered", "covered", "button is covered");
+    Row("behind a dialog", "dialog", "button is behind the dialog question");
 }
 
 void UserActionsTest::WhatNobodyCouldClickIsNotClicked()
@@ -126,9 +123,9 @@ void UserActionsTest::MenuIsChosenFrom_data()
     QTest::addColumn<bool>("isInBar");
     QTest::addColumn<QString>("told");
     QTest::addColumn<int>("times");
-    QTest::newRow("possible") << true << true << QString() << 1;
-    QTest::newRow("disabled") << false << true << "second is disabled" << 0;
-    QTest::newRow("menu elsewhere") << true << false << "menu is in no menu bar" << 0;
+    Row("possible", true, true, QString(), 1);
+    Row("disabled", false, true, "second is disabled", 0);
+    Row("menu elsewhere", true, false, "menu is in no menu bar", 0);
 }
 
 void UserActionsTest::MenuIsChosenFrom()

@@ -1,4 +1,5 @@
 #include <AgentStart.h>
+#include <Row.h>
 #include <TemporaryDirectory.h>
 
 #include <QDir>
@@ -68,11 +69,10 @@ void AgentStartTest::EntryNamesProgramAndLibraryPath_data()
 {
     QTest::addColumn<QString>("libraryPath");
     QTest::addColumn<QByteArray>("arguments");
-    QTest::newRow("the program's own") << QString() << QByteArray(" --agent\n");
-    QTest::newRow("another") << "/opt/my plug-ins"
-                             << QByteArray(" --agent --library-path \"/opt/my plug-ins\"\n");
-    QTest::newRow("with signs that mean something")
-        << "/a\"b`c$d\\e%f" << QByteArray(" --agent --library-path \"/a\\\\\"b\\\\`c\\\\$d\\\\\\\\e%%f\"\n");
+    Row("the program's own", QString(), QByteArray(" --agent\n"));
+    Row("another", "/opt/my plug-ins", QByteArray(" --agent --library-path \"/opt/my plug-ins\"\n"));
+    Row("with signs that mean something", "/a\"b`c$d\\e%f",
+        QByteArray(" --agent --library-path \"/a\\\\\"b\\\\`c\\\\$d\\\\\\\\e%%f\"\n"));
 }
 
 void AgentStartTest::EntryNamesProgramAndLibraryPath()
@@ -89,12 +89,11 @@ void AgentStartTest::EntryThatStartsNoAgentIsOff_data()
 {
     QTest::addColumn<QByteArray>("lines");
     QTest::addColumn<bool>("isOn");
-    QTest::newRow("agent") << QByteArray("Exec=dashboard --agent\n") << true;
-    QTest::newRow("another program") << QByteArray("Exec=dashboard\n") << false;
-    QTest::newRow("hidden") << QByteArray("Exec=dashboard --agent\nHidden=true\n") << false;
-    QTest::newRow("disabled") << QByteArray("Exec=dashboard --agent\nX-GNOME-Autostart-enabled=false\n")
-                              << false;
-    QTest::newRow("in another group") << QByteArray("[Desktop Action x]\nExec=dashboard --agent\n") << false;
+    Row("agent", QByteArray("Exec=dashboard --agent\n"), true);
+    Row("another program", QByteArray("Exec=dashboard\n"), false);
+    Row("hidden", QByteArray("Exec=dashboard --agent\nHidden=true\n"), false);
+    Row("disabled", QByteArray("Exec=dashboard --agent\nX-GNOME-Autostart-enabled=false\n"), false);
+    Row("in another group", QByteArray("[Desktop Action x]\nExec=dashboard --agent\n"), false);
 }
 
 void AgentStartTest::EntryThatStartsNoAgentIsOff()

@@ -1,6 +1,7 @@
 #include <Change.h>
 #include <DashboardLanguage.h>
 #include <HostControl.h>
+#include <Row.h>
 #include <TemporaryDirectory.h>
 
 #include <QApplication>
@@ -56,66 +57,21 @@ void DashboardLanguageTest::FirstLanguageThatThereIsCounts_data()
     QTest::addColumn<QString>("stored");
     QTest::addColumn<QString>("system");
     QTest::addColumn<QString>("chosen");
-    QTest::newRow("wanted") << "ar"
-                            << "he"
-                            << "en_GB"
-                            << "ar";
-    QTest::newRow("stored") << ""
-                            << "he"
-                            << "ar_EG"
-                            << "he";
-    QTest::newRow("stored one is gone") << ""
-                                        << "tlh"
-                                        << "ar_EG"
-                                        << "ar";
-    QTest::newRow("system, exactly") << ""
-                                     << ""
-                                     << "pt_BR"
-                                     << "pt_BR";
-    QTest::newRow("system, without region") << ""
-                                            << ""
-                                            << "he_IL"
-                                            << "he";
-    QTest::newRow("system, region that there is not") << ""
-                                                      << ""
-                                                      << "pt_PT"
-                                                      << "pt_BR";
-    QTest::newRow("system, no region at all") << ""
-                                              << ""
-                                              << "pt"
-                                              << "pt_BR";
-    QTest::newRow("system, same script") << ""
-                                         << ""
-                                         << "zh_SG"
-                                         << "zh_CN";
-    QTest::newRow("system, Taiwan") << ""
-                                    << ""
-                                    << "zh_TW"
-                                    << "en";
-    QTest::newRow("system, Hong Kong") << ""
-                                       << ""
-                                       << "zh_HK"
-                                       << "en";
-    QTest::newRow("system, first of several") << ""
-                                              << ""
-                                              << "fi_FI zh_TW he_IL ar_EG"
-                                              << "he";
-    QTest::newRow("system, similar name") << ""
-                                          << ""
-                                          << "arn_CL"
-                                          << "en";
-    QTest::newRow("none of them") << ""
-                                  << ""
-                                  << "fi_FI"
-                                  << "en";
-    QTest::newRow("plain C") << ""
-                             << ""
-                             << "C"
-                             << "en";
-    QTest::newRow("nothing known") << ""
-                                   << ""
-                                   << ""
-                                   << "en";
+    Row("wanted", "ar", "he", "en_GB", "ar");
+    Row("stored", "", "he", "ar_EG", "he");
+    Row("stored one is gone", "", "tlh", "ar_EG", "ar");
+    Row("system, exactly", "", "", "pt_BR", "pt_BR");
+    Row("system, without region", "", "", "he_IL", "he");
+    Row("system, region that there is not", "", "", "pt_PT", "pt_BR");
+    Row("system, no region at all", "", "", "pt", "pt_BR");
+    Row("system, same script", "", "", "zh_SG", "zh_CN");
+    Row("system, Taiwan", "", "", "zh_TW", "en");
+    Row("system, Hong Kong", "", "", "zh_HK", "en");
+    Row("system, first of several", "", "", "fi_FI zh_TW he_IL ar_EG", "he");
+    Row("system, similar name", "", "", "arn_CL", "en");
+    Row("none of them", "", "", "fi_FI", "en");
+    Row("plain C", "", "", "C", "en");
+    Row("nothing known", "", "", "", "en");
 }
 
 void DashboardLanguageTest::FirstLanguageThatThereIsCounts()
@@ -135,19 +91,22 @@ void DashboardLanguageTest::SystemsLanguagesAreThoseOfTheEnvironment_data()
 {
     QTest::addColumn<QStringList>("environment");
     QTest::addColumn<QString>("locales");
-    QTest::newRow("LANG") << QStringList("LANG=de_AT.UTF-8") << "de_AT";
-    QTest::newRow("messages before LANG") << (QStringList() << "LANG=de_AT.UTF-8"
-                                                            << "LC_MESSAGES=fr_CA.UTF-8")
-                                          << "fr_CA";
-    QTest::newRow("numbers are no texts") << (QStringList() << "LANG=fr_CA.UTF-8"
-                                                            << "LC_NUMERIC=de_AT.UTF-8")
-                                          << "fr_CA";
-    QTest::newRow("several, in order") << (QStringList() << "LANG=en_GB.UTF-8"
-                                                         << "LANGUAGE=zh_TW:pt")
-                                       << "zh_TW pt_BR";
-    QTest::newRow("old name") << QStringList("LANG=iw_IL.UTF-8") << "he_IL";
-    QTest::newRow("C") << QStringList("LANG=C.UTF-8") << "";
-    QTest::newRow("none") << QStringList() << "";
+    Row("LANG", QStringList("LANG=de_AT.UTF-8"), "de_AT");
+    Row("messages before LANG",
+        (QStringList() << "LANG=de_AT.UTF-8"
+                       << "LC_MESSAGES=fr_CA.UTF-8"),
+        "fr_CA");
+    Row("numbers are no texts",
+        (QStringList() << "LANG=fr_CA.UTF-8"
+                       << "LC_NUMERIC=de_AT.UTF-8"),
+        "fr_CA");
+    Row("several, in order",
+        (QStringList() << "LANG=en_GB.UTF-8"
+                       << "LANGUAGE=zh_TW:pt"),
+        "zh_TW pt_BR");
+    Row("old name", QStringList("LANG=iw_IL.UTF-8"), "he_IL");
+    Row("C", QStringList("LANG=C.UTF-8"), "");
+    Row("none", QStringList(), "");
 }
 
 void DashboardLanguageTest::SystemsLanguagesAreThoseOfTheEnvironment()
@@ -183,9 +142,9 @@ void DashboardLanguageTest::SwitchSetsTheReadingDirection_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<int>("direction");
-    QTest::newRow("ar") << "ar" << static_cast<int>(Qt::RightToLeft);
-    QTest::newRow("he") << "he" << static_cast<int>(Qt::RightToLeft);
-    QTest::newRow("en") << "en" << static_cast<int>(Qt::LeftToRight);
+    Row("ar", "ar", static_cast<int>(Qt::RightToLeft));
+    Row("he", "he", static_cast<int>(Qt::RightToLeft));
+    Row("en", "en", static_cast<int>(Qt::LeftToRight));
 }
 
 void DashboardLanguageTest::SwitchSetsTheReadingDirection()
@@ -228,22 +187,18 @@ void DashboardLanguageTest::LanguagesAreCalledByTheirOwnNames_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("native");
-    QTest::newRow("ar") << "ar" << QString::fromUtf8("العربية");
-    QTest::newRow("de") << "de"
-                        << "Deutsch";
-    QTest::newRow("en") << "en"
-                        << "English";
-    QTest::newRow("es") << "es" << QString::fromUtf8("Español");
-    QTest::newRow("fr") << "fr" << QString::fromUtf8("Français");
-    QTest::newRow("he") << "he" << QString::fromUtf8("עברית");
-    QTest::newRow("ja") << "ja" << QString::fromUtf8("日本語");
-    QTest::newRow("pt_BR") << "pt_BR" << QString::fromUtf8("Português (Brasil)");
-    QTest::newRow("ru") << "ru" << QString::fromUtf8("Русский");
-    QTest::newRow("zh_CN") << "zh_CN" << QString::fromUtf8("简体中文");
-    QTest::newRow("one without a file") << "fi"
-                                        << "suomi";
-    QTest::newRow("one that nobody knows") << "xx"
-                                           << "xx";
+    Row("ar", "ar", QString::fromUtf8("العربية"));
+    Row("de", "de", "Deutsch");
+    Row("en", "en", "English");
+    Row("es", "es", QString::fromUtf8("Español"));
+    Row("fr", "fr", QString::fromUtf8("Français"));
+    Row("he", "he", QString::fromUtf8("עברית"));
+    Row("ja", "ja", QString::fromUtf8("日本語"));
+    Row("pt_BR", "pt_BR", QString::fromUtf8("Português (Brasil)"));
+    Row("ru", "ru", QString::fromUtf8("Русский"));
+    Row("zh_CN", "zh_CN", QString::fromUtf8("简体中文"));
+    Row("one without a file", "fi", "suomi");
+    Row("one that nobody knows", "xx", "xx");
 }
 
 void DashboardLanguageTest::LanguagesAreCalledByTheirOwnNames()
@@ -274,11 +229,10 @@ void DashboardLanguageTest::ProblemNamesTheFile_data()
 {
     QTest::addColumn<int>("kind");
     QTest::addColumn<QString>("text");
-    QTest::newRow("not readable") << static_cast<int>(LanguageProblem::Unreadable)
-                                  << "The language file /l/de.qm cannot be read: no %2 memory";
-    QTest::newRow("no texts")
-        << static_cast<int>(LanguageProblem::NoTexts)
-        << "The language file /l/de.qm has no texts that can be used, so it is not used.";
+    Row("not readable", static_cast<int>(LanguageProblem::Unreadable),
+        "The language file /l/de.qm cannot be read: no %2 memory");
+    Row("no texts", static_cast<int>(LanguageProblem::NoTexts),
+        "The language file /l/de.qm has no texts that can be used, so it is not used.");
 }
 
 void DashboardLanguageTest::ProblemNamesTheFile()

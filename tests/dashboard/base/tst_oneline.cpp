@@ -1,4 +1,5 @@
 #include <OneLine.h>
+#include <Row.h>
 
 #include <QProcess>
 #include <QtTest>
@@ -19,27 +20,20 @@ void OneLineTest::EscapesWhatEndsALineOrAColumn_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("escaped");
-    QTest::newRow("plain") << "Home net"
-                           << "Home net";
-    QTest::newRow("empty") << ""
-                           << "";
-    QTest::newRow("tab") << "a\tb"
-                         << "a\\tb";
-    QTest::newRow("line feed") << "a\nb"
-                               << "a\\nb";
-    QTest::newRow("carriage return") << "a\rb"
-                                     << "a\\rb";
-    QTest::newRow("backslash") << "a\\tb"
-                               << "a\\\\tb";
-    QTest::newRow("escape") << "a\x1b[1m1"
-                            << "a\\0033[1m1";
-    QTest::newRow("delete") << QString(QChar(0x7f)) << "\\0177";
-    QTest::newRow("control of the second set") << QString(QChar(0x9b)) << "\\0302\\0233";
-    QTest::newRow("next line") << QString(QChar(0x85)) << "\\0302\\0205";
-    QTest::newRow("line separator") << QString(QChar(0x2028)) << "\\0342\\0200\\0250";
-    QTest::newRow("paragraph separator") << QString(QChar(0x2029)) << "\\0342\\0200\\0251";
-    QTest::newRow("letters of many scripts")
-        << QString::fromUtf8("Café شبكة 網 😀 \"%1\"") << QString::fromUtf8("Café شبكة 網 😀 \"%1\"");
+    Row("plain", "Home net", "Home net");
+    Row("empty", "", "");
+    Row("tab", "a\tb", "a\\tb");
+    Row("line feed", "a\nb", "a\\nb");
+    Row("carriage return", "a\rb", "a\\rb");
+    Row("backslash", "a\\tb", "a\\\\tb");
+    Row("escape", "a\x1b[1m1", "a\\0033[1m1");
+    Row("delete", QString(QChar(0x7f)), "\\0177");
+    Row("control of the second set", QString(QChar(0x9b)), "\\0302\\0233");
+    Row("next line", QString(QChar(0x85)), "\\0302\\0205");
+    Row("line separator", QString(QChar(0x2028)), "\\0342\\0200\\0250");
+    Row("paragraph separator", QString(QChar(0x2029)), "\\0342\\0200\\0251");
+    Row("letters of many scripts", QString::fromUtf8("Café شبكة 網 😀 \"%1\""),
+        QString::fromUtf8("Café شبكة 網 😀 \"%1\""));
 }
 
 void OneLineTest::EscapesWhatEndsALineOrAColumn()

@@ -1,4 +1,5 @@
 #include <DamagedFile.h>
+#include <Row.h>
 #include <TemporaryDirectory.h>
 
 #include <QDir>
@@ -104,12 +105,12 @@ void DamagedFileTest::FileBehindALinkIsCopied()
 void DamagedFileTest::WhatCannotBeCopiedIsTold_data()
 {
     QTest::addColumn<QString>("what");
-    QTest::newRow("nothing there") << "nothing";
-    QTest::newRow("a directory") << "directory";
-    QTest::newRow("a pipe") << "pipe";
-    QTest::newRow("far too large") << "large";
-    QTest::newRow("no number free") << "numbers";
-    QTest::newRow("nothing can be written") << "blocked";
+    Row("nothing there", "nothing");
+    Row("a directory", "directory");
+    Row("a pipe", "pipe");
+    Row("far too large", "large");
+    Row("no number free", "numbers");
+    Row("nothing can be written", "blocked");
 }
 
 void DamagedFileTest::WhatCannotBeCopiedIsTold()

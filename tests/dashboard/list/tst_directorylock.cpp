@@ -1,4 +1,5 @@
 #include <DirectoryLock.h>
+#include <Row.h>
 #include <TemporaryDirectory.h>
 
 #include <QDir>
@@ -25,10 +26,10 @@ void DirectoryLockTest::OthersAreKeptOut_data()
     QTest::addColumn<bool>("firstChanges");
     QTest::addColumn<bool>("secondChanges");
     QTest::addColumn<bool>("isRefused");
-    QTest::newRow("two that change") << true << true << true;
-    QTest::newRow("one that changes, one that reads") << true << false << true;
-    QTest::newRow("one that reads, one that changes") << false << true << true;
-    QTest::newRow("two that read") << false << false << false;
+    Row("two that change", true, true, true);
+    Row("one that changes, one that reads", true, false, true);
+    Row("one that reads, one that changes", false, true, true);
+    Row("two that read", false, false, false);
 }
 
 void DirectoryLockTest::OthersAreKeptOut()
@@ -65,9 +66,9 @@ void DirectoryLockTest::OtherDirectoriesAreFree()
 void DirectoryLockTest::DirectoryThatCannotBeLockedIsFree_data()
 {
     QTest::addColumn<QString>("path");
-    QTest::newRow("missing") << "/absent/of course";
-    QTest::newRow("no directory") << "/dev/null";
-    QTest::newRow("empty") << "";
+    Row("missing", "/absent/of course");
+    Row("no directory", "/dev/null");
+    Row("empty", "");
 }
 
 void DirectoryLockTest::DirectoryThatCannotBeLockedIsFree()

@@ -4,6 +4,7 @@
 #include <FileFaultText.h>
 #include <HistoryFile.h>
 #include <HostControl.h>
+#include <Row.h>
 #include <TemporaryDirectory.h>
 
 #include <QDir>
@@ -230,66 +231,59 @@ void HistoryFileTest::FaultIsNamedWithItsLineAndLeftAlone_data()
     QTest::addColumn<QByteArray>("found");
     QTest::addColumn<QByteArray>("replaced");
     QTest::addColumn<QString>("told");
-    QTest::newRow("target that is none")
-        << QByteArray("current=\"1\"") << QByteArray("current=\"1\" target=\"3\"")
-        << QString::fromUtf8("Line 2: the attribute “target”");
-    QTest::newRow("all of it") << ExampleDocument() << QByteArray("\n\nnonsense") << "Line 3: ";
-    QTest::newRow("nothing there") << ExampleDocument() << QByteArray() << "Line 1: ";
-    QTest::newRow("other root") << QByteArray("listhistory") << QByteArray("history")
-                                << QString::fromUtf8("Line 2: the element “history”");
-    QTest::newRow("later version") << QByteArray("version=\"2\"") << QByteArray("version=\"3\"")
-                                   << QString::fromUtf8("Line 2: the attribute “version”");
-    QTest::newRow("no state in force") << QByteArray("current=\"1\"") << QByteArray("current=\"3\"")
-                                       << QString::fromUtf8("Line 2: the attribute “current”");
-    QTest::newRow("state in force below 0") << QByteArray("current=\"1\"") << QByteArray("current=\"-1\"")
-                                            << QString::fromUtf8("Line 2: the attribute “current”");
-    QTest::newRow("state in force passed by")
-        << QByteArray("09:05:00Z\"") << QByteArray("09:05:00Z\" passed=\"true\"")
-        << QString::fromUtf8("Line 2: the attribute “current”");
-    QTest::newRow("target passed by")
-        << QByteArray("current=\"1\" since=\"2026-03-01T09:07:00Z\">\n    <entries>\n        <item "
-                      "name=\"Caf\xc3\xa9\" type=\"1\"/>\n        <item name=\"Office\" type=\"1\"/>\n    "
-                      "</entries>\n    <states>\n        <state ")
-        << QByteArray("current=\"1\" target=\"0\"><entries><item name=\"a\" type=\"1\"/>"
-                      "<item name=\"b\" type=\"1\"/></entries><states><state passed=\"true\" ")
-        << QString::fromUtf8("Line 2: the attribute “target”");
-    QTest::newRow("passed by in another way")
-        << QByteArray("09:06:00Z\"") << QByteArray("09:06:00Z\" passed=\"maybe\"")
-        << QString::fromUtf8("Line 10: the attribute “passed”");
-    QTest::newRow("moved what is not in the list")
-        << QByteArray("09:00:00Z\"") << QByteArray("09:00:00Z\" moved=\"1\"")
-        << QString::fromUtf8("Line 8: the attribute “moved”");
-    QTest::newRow("moved what is behind the entries")
-        << QByteArray("09:00:00Z\"") << QByteArray("09:00:00Z\" moved=\"2\"")
-        << QString::fromUtf8("Line 8: the attribute “moved”");
-    QTest::newRow("gone back to no time")
-        << QByteArray("09:06:00Z\"") << QByteArray("09:06:00Z\" back=\"9:00\"")
-        << QString::fromUtf8("Line 10: the attribute “back”");
-    QTest::newRow("since no time") << QByteArray("since=\"2026") << QByteArray("since=\"today")
-                                   << QString::fromUtf8("Line 2: the attribute “since”");
-    QTest::newRow("place behind the entries") << QByteArray("\"0 1\"") << QByteArray("\"0 2\"")
-                                              << QString::fromUtf8("Line 9: the attribute “order”");
-    QTest::newRow("place that is none") << QByteArray("\"0 1\"") << QByteArray("\"0 x\"")
-                                        << QString::fromUtf8("Line 9: the attribute “order”");
-    QTest::newRow("two blanks") << QByteArray("\"0 1\"") << QByteArray("\"0  1\"")
-                                << QString::fromUtf8("Line 9: the attribute “order”");
-    QTest::newRow("time that is none") << QByteArray("2026-03-01T09:06") << QByteArray("yesterday")
-                                       << QString::fromUtf8("Line 10: the attribute “time”");
-    QTest::newRow("time that can't be written again")
-        << QByteArray("2026-03-01T09:06:00Z") << QByteArray("9999-12-31T23:59:59-14:00")
-        << QString::fromUtf8("Line 10: the attribute “time”");
-    QTest::newRow("no time") << QByteArray(" time=\"2026-03-01T09:06:00Z\"") << QByteArray()
-                             << QString::fromUtf8("Line 10: the attribute “time”");
-    QTest::newRow("entry without a name") << QByteArray(" name=\"Office\"") << QByteArray()
-                                          << QString::fromUtf8("Line 5: the attribute “name”");
-    QTest::newRow("unknown element") << QByteArray("<states>") << QByteArray("<states><note/>")
-                                     << QString::fromUtf8("Line 7: the element “note”");
+    Row("target that is none", QByteArray("current=\"1\""), QByteArray("current=\"1\" target=\"3\""),
+        QString::fromUtf8("Line 2: the attribute “target”"));
+    Row("all of it", ExampleDocument(), QByteArray("\n\nnonsense"), "Line 3: ");
+    Row("nothing there", ExampleDocument(), QByteArray(), "Line 1: ");
+    Row("other root", QByteArray("listhistory"), QByteArray("history"),
+        QString::fromUtf8("Line 2: the element “history”"));
+    Row("later version", QByteArray("version=\"2\""), QByteArray("version=\"3\""),
+        QString::fromUtf8("Line 2: the attribute “version”"));
+    Row("no state in force", QByteArray("current=\"1\""), QByteArray("current=\"3\""),
+        QString::fromUtf8("Line 2: the attribute “current”"));
+    Row("state in force below 0", QByteArray("current=\"1\""), QByteArray("current=\"-1\""),
+        QString::fromUtf8("Line 2: the attribute “current”"));
+    Row("state in force passed by", QByteArray("09:05:00Z\""), QByteArray("09:05:00Z\" passed=\"true\""),
+        QString::fromUtf8("Line 2: the attribute “current”"));
+    Row("target passed by",
+        QByteArray("current=\"1\" since=\"2026-03-01T09:07:00Z\">\n    <entries>\n        <item "
+                   "name=\"Caf\xc3\xa9\" type=\"1\"/>\n        <item name=\"Office\" type=\"1\"/>\n    "
+                   "</entries>\n    <states>\n        <state "),
+        QByteArray("current=\"1\" target=\"0\"><entries><item name=\"a\" type=\"1\"/>"
+                   "<item name=\"b\" type=\"1\"/></entries><states><state passed=\"true\" "),
+        QString::fromUtf8("Line 2: the attribute “target”"));
+    Row("passed by in another way", QByteArray("09:06:00Z\""), QByteArray("09:06:00Z\" passed=\"maybe\""),
+        QString::fromUtf8("Line 10: the attribute “passed”"));
+    Row("moved what is not in the list", QByteArray("09:00:00Z\""), QByteArray("09:00:00Z\" moved=\"1\""),
+        QString::fromUtf8("Line 8: the attribute “moved”"));
+    Row("moved what is behind the entries", QByteArray("09:00:00Z\""), QByteArray("09:00:00Z\" moved=\"2\""),
+        QString::fromUtf8("Line 8: the attribute “moved”"));
+    Row("gone back to no time", QByteArray("09:06:00Z\""), QByteArray("09:06:00Z\" back=\"9:00\""),
+        QString::fromUtf8("Line 10: the attribute “back”"));
+    Row("since no time", QByteArray("since=\"2026"), QByteArray("since=\"today"),
+        QString::fromUtf8("Line 2: the attribute “since”"));
+    Row("place behind the entries", QByteArray("\"0 1\""), QByteArray("\"0 2\""),
+        QString::fromUtf8("Line 9: the attribute “order”"));
+    Row("place that is none", QByteArray("\"0 1\""), QByteArray("\"0 x\""),
+        QString::fromUtf8("Line 9: the attribute “order”"));
+    Row("two blanks", QByteArray("\"0 1\""), QByteArray("\"0  1\""),
+        QString::fromUtf8("Line 9: the attribute “order”"));
+    Row("time that is none", QByteArray("2026-03-01T09:06"), QByteArray("yesterday"),
+        QString::fromUtf8("Line 10: the attribute “time”"));
+    Row("time that can't be written again", QByteArray("2026-03-01T09:06:00Z"),
+        QByteArray("9999-12-31T23:59:59-14:00"), QString::fromUtf8("Line 10: the attribute “time”"));
+    Row("no time", QByteArray(" time=\"2026-03-01T09:06:00Z\""), QByteArray(),
+        QString::fromUtf8("Line 10: the attribute “time”"));
+    Row("entry without a name", QByteArray(" name=\"Office\""), QByteArray(),
+        QString::fromUtf8("Line 5: the attribute “name”"));
+    Row("unknown element", QByteArray("<states>"), QByteArray("<states><note/>"),
+        QString::fromUtf8("Line 7: the element “note”"));
     QByteArray states;
     for (int i = 0; i < 62; ++i) {
         states += "\n<state time=\"2026-03-01T09:05:00Z\" order=\"\"/>";
     }
-    QTest::newRow("too many states") << QByteArray("<states>") << "<states>" + states
-                                     << QString::fromUtf8("Line 72: there are too many “state” elements");
+    Row("too many states", QByteArray("<states>"), "<states>" + states,
+        QString::fromUtf8("Line 72: there are too many “state” elements"));
 }
 
 void HistoryFileTest::FaultIsNamedWithItsLineAndLeftAlone()
@@ -326,9 +320,9 @@ void HistoryFileTest::EveryTruncationIsNoticed()
 void HistoryFileTest::FileThatCannotBeReadIsTold_data()
 {
     QTest::addColumn<QString>("what");
-    QTest::newRow("a directory") << "directory";
-    QTest::newRow("a link") << "link";
-    QTest::newRow("far too large") << "large";
+    Row("a directory", "directory");
+    Row("a link", "link");
+    Row("far too large", "large");
 }
 
 void HistoryFileTest::FileThatCannotBeReadIsTold()

@@ -1,6 +1,7 @@
 #include "Lists.h"
 
 #include <ImportPlan.h>
+#include <Row.h>
 
 #include <QtTest>
 
@@ -39,27 +40,13 @@ void ImportPlanTest::EffectOnEveryEntryIsTold_data()
     QTest::addColumn<QString>("after");
     QTest::addColumn<QString>("plan");
     QTest::addColumn<bool>("isChange");
-    QTest::newRow("nothing to do") << "A, B"
-                                   << "A, B"
-                                   << "A stays, B stays" << false;
-    QTest::newRow("nothing there, nothing taken in") << ""
-                                                     << ""
-                                                     << "" << false;
-    QTest::newRow("added and removed") << "A, B"
-                                       << "A, C"
-                                       << "A stays, C added, B removed" << true;
-    QTest::newRow("moved up") << "A, B, C"
-                              << "C, A, B"
-                              << "C up, A stays, B stays" << true;
-    QTest::newRow("moved down") << "A, B, C"
-                                << "B, C, A"
-                                << "B stays, C stays, A down" << true;
-    QTest::newRow("passed") << "A, B, C"
-                            << "C, B, A"
-                            << "C up, B moved, A stays" << true;
-    QTest::newRow("removed in their order") << "A, B, C"
-                                            << "B"
-                                            << "B stays, A removed, C removed" << true;
+    Row("nothing to do", "A, B", "A, B", "A stays, B stays", false);
+    Row("nothing there, nothing taken in", "", "", "", false);
+    Row("added and removed", "A, B", "A, C", "A stays, C added, B removed", true);
+    Row("moved up", "A, B, C", "C, A, B", "C up, A stays, B stays", true);
+    Row("moved down", "A, B, C", "B, C, A", "B stays, C stays, A down", true);
+    Row("passed", "A, B, C", "C, B, A", "C up, B moved, A stays", true);
+    Row("removed in their order", "A, B, C", "B", "B stays, A removed, C removed", true);
 }
 
 void ImportPlanTest::EffectOnEveryEntryIsTold()
@@ -77,11 +64,11 @@ void ImportPlanTest::NetworksThatAreNotRememberedAreUnknown_data()
 {
     QTest::addColumn<QString>("entry");
     QTest::addColumn<bool>("isUnknown");
-    QTest::newRow("remembered Wi-Fi") << "Home" << false;
-    QTest::newRow("other Wi-Fi") << "Cafe" << true;
-    QTest::newRow("case counts") << "home" << true;
-    QTest::newRow("mobile, whatever its type") << "Mobile/0" << false;
-    QTest::newRow("Wi-Fi of a mobile entry's name") << "Mobile" << true;
+    Row("remembered Wi-Fi", "Home", false);
+    Row("other Wi-Fi", "Cafe", true);
+    Row("case counts", "home", true);
+    Row("mobile, whatever its type", "Mobile/0", false);
+    Row("Wi-Fi of a mobile entry's name", "Mobile", true);
 }
 
 void ImportPlanTest::NetworksThatAreNotRememberedAreUnknown()

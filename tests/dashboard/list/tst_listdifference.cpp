@@ -1,6 +1,7 @@
 #include "Lists.h"
 
 #include <ListDifference.h>
+#include <Row.h>
 
 #include <QtTest>
 
@@ -73,57 +74,25 @@ void ListDifferenceTest::ChangesAreFound_data()
     QTest::addColumn<QString>("before");
     QTest::addColumn<QString>("after");
     QTest::addColumn<QString>("difference");
-    QTest::newRow("none") << "A, B"
-                          << "A, B"
-                          << "";
-    QTest::newRow("both empty") << ""
-                                << ""
-                                << "";
-    QTest::newRow("first entries") << ""
-                                   << "A, B"
-                                   << "+0, +1";
-    QTest::newRow("all gone") << "A, B"
-                              << ""
-                              << "-0, -1";
-    QTest::newRow("one up") << "A, B, C"
-                            << "A, C, B"
-                            << "2>1 up 1";
-    QTest::newRow("to the top") << "A, B, C"
-                                << "C, A, B"
-                                << "2>0 up 2 first";
-    QTest::newRow("to the end") << "A, B, C"
-                                << "B, C, A"
-                                << "0>2 down 2 last";
-    QTest::newRow("down by two") << "A, B, C, D, E"
-                                 << "A, C, D, B, E"
-                                 << "1>3 down 2";
-    QTest::newRow("added in the middle moves nothing") << "A, B"
-                                                       << "A, X, B"
-                                                       << "+1";
-    QTest::newRow("removed from the middle moves nothing") << "A, X, B"
-                                                           << "A, B"
-                                                           << "-1";
-    QTest::newRow("replaced") << "A, B"
-                              << "A, X"
-                              << "+1, -1";
-    QTest::newRow("places count all entries, distances those of both lists") << "A, X, B, C"
-                                                                             << "C, Y, A, B"
-                                                                             << "+1, -1, 3>0 up 2 first";
-    QTest::newRow("turned round: the one in the middle is only passed") << "A, B, C"
-                                                                        << "C, B, A"
-                                                                        << "2>0 up 2 first, 1>1 across 0";
-    QTest::newRow("case makes another entry") << "home"
-                                              << "Home"
-                                              << "+0, -0";
-    QTest::newRow("type makes another entry") << "A"
-                                              << "A/2"
-                                              << "+0, -0";
-    QTest::newRow("one of two same entries gone") << "A, B, A"
-                                                  << "A, B"
-                                                  << "-2";
-    QTest::newRow("the same entry once more") << "A, B"
-                                              << "A, B, A"
-                                              << "+2";
+    Row("none", "A, B", "A, B", "");
+    Row("both empty", "", "", "");
+    Row("first entries", "", "A, B", "+0, +1");
+    Row("all gone", "A, B", "", "-0, -1");
+    Row("one up", "A, B, C", "A, C, B", "2>1 up 1");
+    Row("to the top", "A, B, C", "C, A, B", "2>0 up 2 first");
+    Row("to the end", "A, B, C", "B, C, A", "0>2 down 2 last");
+    Row("down by two", "A, B, C, D, E", "A, C, D, B, E", "1>3 down 2");
+    Row("added in the middle moves nothing", "A, B", "A, X, B", "+1");
+    Row("removed from the middle moves nothing", "A, X, B", "A, B", "-1");
+    Row("replaced", "A, B", "A, X", "+1, -1");
+    Row("places count all entries, distances those of both lists", "A, X, B, C", "C, Y, A, B",
+        "+1, -1, 3>0 up 2 first");
+    Row("turned round: the one in the middle is only passed", "A, B, C", "C, B, A",
+        "2>0 up 2 first, 1>1 across 0");
+    Row("case makes another entry", "home", "Home", "+0, -0");
+    Row("type makes another entry", "A", "A/2", "+0, -0");
+    Row("one of two same entries gone", "A, B, A", "A, B", "-2");
+    Row("the same entry once more", "A, B", "A, B, A", "+2");
 }
 
 void ListDifferenceTest::ChangesAreFound()
@@ -204,36 +173,16 @@ void ListDifferenceTest::OnlyMovedNamesWhatCanHaveBeenMovedAlone_data()
     QTest::addColumn<QString>("before");
     QTest::addColumn<QString>("after");
     QTest::addColumn<QString>("moved");
-    QTest::newRow("up") << "A, B, C, D"
-                        << "C, A, B, D"
-                        << "C";
-    QTest::newRow("down") << "A, B, C, D"
-                          << "A, C, D, B"
-                          << "B";
-    QTest::newRow("neighbours") << "A, B, C"
-                                << "A, C, B"
-                                << "C, B";
-    QTest::newRow("two") << "A, B, C, D"
-                         << "B, A, D, C"
-                         << "";
-    QTest::newRow("turned round") << "A, B, C"
-                                  << "C, B, A"
-                                  << "";
-    QTest::newRow("nothing") << "A, B"
-                             << "A, B"
-                             << "";
-    QTest::newRow("one more") << "A, B"
-                              << "B, A, C"
-                              << "";
-    QTest::newRow("another in place") << "A, B, C"
-                                      << "B, A, D"
-                                      << "";
-    QTest::newRow("of a pair of the same name") << "x, a, x, b"
-                                                << "x, a, b, x"
-                                                << "b, x";
-    QTest::newRow("none at all") << ""
-                                 << ""
-                                 << "";
+    Row("up", "A, B, C, D", "C, A, B, D", "C");
+    Row("down", "A, B, C, D", "A, C, D, B", "B");
+    Row("neighbours", "A, B, C", "A, C, B", "C, B");
+    Row("two", "A, B, C, D", "B, A, D, C", "");
+    Row("turned round", "A, B, C", "C, B, A", "");
+    Row("nothing", "A, B", "A, B", "");
+    Row("one more", "A, B", "B, A, C", "");
+    Row("another in place", "A, B, C", "B, A, D", "");
+    Row("of a pair of the same name", "x, a, x, b", "x, a, b, x", "b, x");
+    Row("none at all", "", "", "");
 }
 
 void ListDifferenceTest::OnlyMovedNamesWhatCanHaveBeenMovedAlone()

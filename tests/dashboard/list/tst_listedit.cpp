@@ -1,6 +1,7 @@
 #include "Lists.h"
 
 #include <ListEdit.h>
+#include <Row.h>
 
 #include <QtTest>
 
@@ -27,7 +28,7 @@ void ListEditTest::EntriesAreMoved_data()
     QTest::addColumn<int>("before");
     QTest::addColumn<QString>("moved");
     const auto add = [](const char *name, const QList<int> &places, int before, const char *moved) {
-        QTest::newRow(name) << places << before << QString(moved);
+        Row(name, places, before, QString(moved));
     };
     add("to the top", {3}, 0, "D, A, B, C");
     add("to the end", {0}, 4, "B, C, D, A");
@@ -64,13 +65,13 @@ void ListEditTest::EntriesGetToAPlace_data()
     QTest::addColumn<QList<int>>("places");
     QTest::addColumn<int>("place");
     QTest::addColumn<QString>("moved");
-    QTest::newRow("up") << QList<int>{3} << 1 << "A, D, B, C";
-    QTest::newRow("down") << QList<int>{0} << 2 << "B, C, A, D";
-    QTest::newRow("to the top") << QList<int>{1} << 0 << "B, A, C, D";
-    QTest::newRow("to the end") << QList<int>{0} << 3 << "B, C, D, A";
-    QTest::newRow("where it stands") << QList<int>{2} << 2 << "A, B, C, D";
-    QTest::newRow("several") << QList<int>{0, 3} << 1 << "B, A, D, C";
-    QTest::newRow("beyond the end") << QList<int>{0, 1} << 9 << "C, D, A, B";
+    Row("up", QList<int>{3}, 1, "A, D, B, C");
+    Row("down", QList<int>{0}, 2, "B, C, A, D");
+    Row("to the top", QList<int>{1}, 0, "B, A, C, D");
+    Row("to the end", QList<int>{0}, 3, "B, C, D, A");
+    Row("where it stands", QList<int>{2}, 2, "A, B, C, D");
+    Row("several", QList<int>{0, 3}, 1, "B, A, D, C");
+    Row("beyond the end", QList<int>{0, 1}, 9, "C, D, A, B");
 }
 
 void ListEditTest::EntriesGetToAPlace()
@@ -92,7 +93,7 @@ void ListEditTest::EntriesAreAdded_data()
     QTest::addColumn<int>("before");
     QTest::addColumn<QString>("added");
     const auto add = [](const char *name, const char *entries, int before, const char *added) {
-        QTest::newRow(name) << QString(entries) << before << QString(added);
+        Row(name, QString(entries), before, QString(added));
     };
     add("in between", "C, D", 1, "A, C, D, B");
     add("beyond the end", "C", 9, "A, B, C");

@@ -1,6 +1,7 @@
 #include "Lists.h"
 
 #include <ListHistory.h>
+#include <Row.h>
 
 #include <QtTest>
 
@@ -248,15 +249,15 @@ void ListHistoryTest::MovesOfOneEntryAreOneState_data()
         toTheTop.append(Moved(60, 60, by));
         toTheEnd.append(Moved(60, 1, -by));
     }
-    QTest::newRow("59 times up") << toTheTop;
-    QTest::newRow("59 times down") << toTheEnd;
-    QTest::newRow("several places at once")
-        << (QStringList() << Moved(9, 9, 0) << Moved(9, 9, 3) << Moved(9, 9, 4) << Moved(9, 9, 8));
-    QTest::newRow("there and partly back")
-        << (QStringList() << Moved(9, 5, 0) << Moved(9, 5, 1) << Moved(9, 5, 2) << Moved(9, 5, 1));
-    QTest::newRow("past another of the same name") << (QStringList() << "x, a, x, b"
-                                                                     << "x, a, b, x"
-                                                                     << "x, b, a, x");
+    Row("59 times up", toTheTop);
+    Row("59 times down", toTheEnd);
+    Row("several places at once",
+        (QStringList() << Moved(9, 9, 0) << Moved(9, 9, 3) << Moved(9, 9, 4) << Moved(9, 9, 8)));
+    Row("there and partly back",
+        (QStringList() << Moved(9, 5, 0) << Moved(9, 5, 1) << Moved(9, 5, 2) << Moved(9, 5, 1)));
+    Row("past another of the same name", (QStringList() << "x, a, x, b"
+                                                        << "x, a, b, x"
+                                                        << "x, b, a, x"));
 }
 
 void ListHistoryTest::MovesOfOneEntryAreOneState()
@@ -274,30 +275,14 @@ void ListHistoryTest::OtherChangesAreNotJoined_data()
     QTest::addColumn<QString>("first");
     QTest::addColumn<QString>("second");
     QTest::addColumn<QString>("third");
-    QTest::newRow("another entry is moved") << "A, B, C, D"
-                                            << "B, A, C, D"
-                                            << "B, A, D, C";
-    QTest::newRow("an entry is added") << "A, B, C"
-                                       << "B, A, C"
-                                       << "B, A, C, D";
-    QTest::newRow("an entry is deleted") << "A, B, C"
-                                         << "B, A, C"
-                                         << "B, C";
-    QTest::newRow("one was added before") << "A, B"
-                                          << "A, B, C"
-                                          << "A, C, B";
-    QTest::newRow("several were moved before") << "A, B, C, D"
-                                               << "B, A, D, C"
-                                               << "B, D, A, C";
-    QTest::newRow("several were moved before, now one of them back") << "A, B, C, D"
-                                                                     << "D, B, A, C"
-                                                                     << "D, A, B, C";
-    QTest::newRow("another of the same name") << "x, a, b, x"
-                                              << "a, x, b, x"
-                                              << "a, x, x, b";
-    QTest::newRow("another type of the same name") << "A, B, C/2, C"
-                                                   << "A, C/2, B, C"
-                                                   << "A, C/2, C, B/2";
+    Row("another entry is moved", "A, B, C, D", "B, A, C, D", "B, A, D, C");
+    Row("an entry is added", "A, B, C", "B, A, C", "B, A, C, D");
+    Row("an entry is deleted", "A, B, C", "B, A, C", "B, C");
+    Row("one was added before", "A, B", "A, B, C", "A, C, B");
+    Row("several were moved before", "A, B, C, D", "B, A, D, C", "B, D, A, C");
+    Row("several were moved before, now one of them back", "A, B, C, D", "D, B, A, C", "D, A, B, C");
+    Row("another of the same name", "x, a, b, x", "a, x, b, x", "a, x, x, b");
+    Row("another type of the same name", "A, B, C/2, C", "A, C/2, B, C", "A, C/2, C, B/2");
 }
 
 void ListHistoryTest::OtherChangesAreNotJoined()
@@ -319,13 +304,12 @@ void ListHistoryTest::MovesAreJoinedForTenSecondsOrAnOpening_data()
     QTest::addColumn<QDateTime>("opened");
     QTest::addColumn<bool>("isJoined");
     const QDateTime closed;
-    QTest::newRow("ten seconds") << Time(1, 9, 0, 0) << Time(1, 9, 0, 10) << closed << true;
-    QTest::newRow("eleven seconds") << Time(1, 9, 0, 0) << Time(1, 9, 0, 11) << closed << false;
-    QTest::newRow("the same opening") << Time(1, 9, 5) << Time(1, 9, 45) << Time(1, 9, 5) << true;
-    QTest::newRow("the first before the opening")
-        << Time(1, 9, 4) << Time(1, 9, 45) << Time(1, 9, 5) << false;
-    QTest::newRow("the clock was put back") << Time(1, 9, 5) << Time(1, 9, 4, 59) << Time(1, 9, 5) << false;
-    QTest::newRow("another day") << Time(1, 23, 59, 59) << Time(2, 0, 0, 0) << Time(1, 23) << false;
+    Row("ten seconds", Time(1, 9, 0, 0), Time(1, 9, 0, 10), closed, true);
+    Row("eleven seconds", Time(1, 9, 0, 0), Time(1, 9, 0, 11), closed, false);
+    Row("the same opening", Time(1, 9, 5), Time(1, 9, 45), Time(1, 9, 5), true);
+    Row("the first before the opening", Time(1, 9, 4), Time(1, 9, 45), Time(1, 9, 5), false);
+    Row("the clock was put back", Time(1, 9, 5), Time(1, 9, 4, 59), Time(1, 9, 5), false);
+    Row("another day", Time(1, 23, 59, 59), Time(2, 0, 0, 0), Time(1, 23), false);
 }
 
 void ListHistoryTest::MovesAreJoinedForTenSecondsOrAnOpening()
@@ -361,13 +345,13 @@ void ListHistoryTest::MovesThatAreToldAreJoinedByTheirEntry_data()
     QTest::addColumn<int>("movedLast");
     QTest::addColumn<QString>("told");
     QTest::addColumn<int>("moved");
-    QTest::newRow("both") << 1 << "B, C, A" << 2 << "A, B, C | [B, C, A]" << 2;
-    QTest::newRow("the first") << 1 << "B, C, A" << -1 << "A, B, C | [B, C, A]" << 2;
-    QTest::newRow("the last") << -1 << "B, C, A" << 2 << "A, B, C | [B, C, A]" << 2;
-    QTest::newRow("none") << -1 << "B, C, A" << -1 << "A, B, C | [B, C, A]" << -1;
-    QTest::newRow("two") << 0 << "B, C, A" << 2 << "A, B, C | B, A, C | [B, C, A]" << 2;
-    QTest::newRow("back") << 1 << "A, B, C" << 0 << "[A, B, C]" << -1;
-    QTest::newRow("back by the other") << 1 << "A, B, C" << 1 << "A, B, C | B, A, C | [A, B, C]" << 1;
+    Row("both", 1, "B, C, A", 2, "A, B, C | [B, C, A]", 2);
+    Row("the first", 1, "B, C, A", -1, "A, B, C | [B, C, A]", 2);
+    Row("the last", -1, "B, C, A", 2, "A, B, C | [B, C, A]", 2);
+    Row("none", -1, "B, C, A", -1, "A, B, C | [B, C, A]", -1);
+    Row("two", 0, "B, C, A", 2, "A, B, C | B, A, C | [B, C, A]", 2);
+    Row("back", 1, "A, B, C", 0, "[A, B, C]", -1);
+    Row("back by the other", 1, "A, B, C", 1, "A, B, C | B, A, C | [A, B, C]", 1);
 }
 
 void ListHistoryTest::MovesThatAreToldAreJoinedByTheirEntry()
@@ -458,8 +442,8 @@ void ListHistoryTest::LastListOfEachOfFourteenDaysIsKept()
 void ListHistoryTest::ClockThatWasWrongLosesNoDay_data()
 {
     QTest::addColumn<QDateTime>("wrong");
-    QTest::newRow("years ahead") << QDateTime::fromString("2044-01-01T09:00:00Z", Qt::ISODate);
-    QTest::newRow("years behind") << QDateTime::fromString("1970-01-01T00:00:00Z", Qt::ISODate);
+    Row("years ahead", QDateTime::fromString("2044-01-01T09:00:00Z", Qt::ISODate));
+    Row("years behind", QDateTime::fromString("1970-01-01T00:00:00Z", Qt::ISODate));
 }
 
 void ListHistoryTest::ClockThatWasWrongLosesNoDay()
@@ -498,9 +482,9 @@ void ListHistoryTest::DaysAreThoseOfTheLocalTime()
 void ListHistoryTest::PlacesThatAreNoneAreIgnored_data()
 {
     QTest::addColumn<int>("place");
-    QTest::newRow("before the first") << -1;
-    QTest::newRow("behind the last") << 4;
-    QTest::newRow("passed by") << 1;
+    Row("before the first", -1);
+    Row("behind the last", 4);
+    Row("passed by", 1);
 }
 
 void ListHistoryTest::PlacesThatAreNoneAreIgnored()

@@ -18,6 +18,7 @@
 #include <QSignalSpy>
 #include <QtTest>
 
+#include <Row.h>
 #include <csignal>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -180,8 +181,8 @@ void ListKeeperTest::FirstLookIsTheOldestState()
 void ListKeeperTest::ChangesByWhomeverAreKept_data()
 {
     QTest::addColumn<bool>("byPlugin");
-    QTest::newRow("through the plug-in") << true;
-    QTest::newRow("in the file") << false;
+    Row("through the plug-in", true);
+    Row("in the file", false);
 }
 
 void ListKeeperTest::ChangesByWhomeverAreKept()
@@ -396,13 +397,11 @@ void ListKeeperTest::MovesOfOneOpeningAreOneChange_data()
     QTest::addColumn<QString>("opening");
     QTest::addColumn<QString>("history");
     const QString apart = " | A, B, C, D | A, B, D, C | [A, D, B, C]";
-    QTest::newRow("one") << "one"
-                         << " | A, B, C, D | [A, D, B, C]";
-    QTest::newRow("closed after the second") << "closed after"
-                                             << " | A, B, C, D | [A, D, B, C]";
-    QTest::newRow("closed before the second") << "closed" << apart;
-    QTest::newRow("opened before the second") << "opened" << apart;
-    QTest::newRow("none") << "none" << apart;
+    Row("one", "one", " | A, B, C, D | [A, D, B, C]");
+    Row("closed after the second", "closed after", " | A, B, C, D | [A, D, B, C]");
+    Row("closed before the second", "closed", apart);
+    Row("opened before the second", "opened", apart);
+    Row("none", "none", apart);
 }
 
 void ListKeeperTest::MovesOfOneOpeningAreOneChange()
@@ -444,8 +443,8 @@ void ListKeeperTest::ImportIsNotJoinedWithMoves()
 void ListKeeperTest::ClockThatWasWrongLosesNothing_data()
 {
     QTest::addColumn<int>("days");
-    QTest::newRow("ahead") << 4000;
-    QTest::newRow("behind") << -4000;
+    Row("ahead", 4000);
+    Row("behind", -4000);
 }
 
 void ListKeeperTest::ClockThatWasWrongLosesNothing()
@@ -729,8 +728,8 @@ void ListKeeperTest::WholeListIsNotMended()
 void ListKeeperTest::WhatCouldBeReadBecomesTheListWithoutAHistory_data()
 {
     QTest::addColumn<QByteArray>("history");
-    QTest::newRow("none") << QByteArray();
-    QTest::newRow("damaged") << QByteArray("nonsense");
+    Row("none", QByteArray());
+    Row("damaged", QByteArray("nonsense"));
 }
 
 void ListKeeperTest::WhatCouldBeReadBecomesTheListWithoutAHistory()
@@ -993,14 +992,12 @@ void ListKeeperTest::InterruptedUndoIsFinished_data()
     QTest::addColumn<QByteArray>("left");
     QTest::addColumn<QString>("history");
     const QByteArray undone = OrderFile::Document(Listed("A, B"));
-    QTest::newRow("before it began") << OrderFile::Document(Listed("A, B, C"))
-                                     << " | A | A, B | [A, B, C] | A, B, C, D";
-    QTest::newRow("before it was noted") << undone << " | A | [A, B] | A, B, C | A, B, C, D";
-    QTest::newRow("file gone") << QByteArray() << " | A | [A, B] | A, B, C | A, B, C, D";
-    QTest::newRow("file cut short") << undone.left(undone.size() / 2)
-                                    << " | A | [A, B] | A, B, C | A, B, C, D";
-    QTest::newRow("changed since") << OrderFile::Document(Listed("X"))
-                                   << " | A | A, B | (A, B, C) | (A, B, C, D) | A, B, C | [X]";
+    Row("before it began", OrderFile::Document(Listed("A, B, C")), " | A | A, B | [A, B, C] | A, B, C, D");
+    Row("before it was noted", undone, " | A | [A, B] | A, B, C | A, B, C, D");
+    Row("file gone", QByteArray(), " | A | [A, B] | A, B, C | A, B, C, D");
+    Row("file cut short", undone.left(undone.size() / 2), " | A | [A, B] | A, B, C | A, B, C, D");
+    Row("changed since", OrderFile::Document(Listed("X")),
+        " | A | A, B | (A, B, C) | (A, B, C, D) | A, B, C | [X]");
 }
 
 void ListKeeperTest::InterruptedUndoIsFinished()

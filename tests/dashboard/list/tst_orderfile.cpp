@@ -4,6 +4,7 @@
 #include <FileFaultText.h>
 #include <HostControl.h>
 #include <OrderFile.h>
+#include <Row.h>
 
 #include <QtTest>
 
@@ -45,11 +46,11 @@ void OrderFileTest::EmptyListIsADocumentToo()
 void OrderFileTest::AnyNameComesBack_data()
 {
     QTest::addColumn<QString>("name");
-    QTest::newRow("mark-up") << "<a & \"b\" 'c'>";
-    QTest::newRow("blanks at both ends") << "  x ";
-    QTest::newRow("line break and tab") << "a\nb\tc\r";
-    QTest::newRow("empty") << "";
-    QTest::newRow("other scripts") << QString::fromUtf8("Café مقهى 咖啡 😀");
+    Row("mark-up", "<a & \"b\" 'c'>");
+    Row("blanks at both ends", "  x ");
+    Row("line break and tab", "a\nb\tc\r");
+    Row("empty", "");
+    Row("other scripts", QString::fromUtf8("Café مقهى 咖啡 😀"));
 }
 
 void OrderFileTest::AnyNameComesBack()
@@ -76,15 +77,15 @@ void OrderFileTest::WhatXmlCannotCarryIsReplaced()
 void OrderFileTest::OtherWritersAreUnderstood_data()
 {
     QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("items directly below the root")
-        << QByteArray("<zeltdoc><item name=\"A\" type=\"1\"/><item name=\"B\" type=\"2\"/></zeltdoc>");
-    QTest::newRow("further attributes, comments and blanks")
-        << QByteArray("<!-- mine -->\n<zeltdoc type=\"profile\" by=\"me\">\n <profile> <item note=\"x\" "
-                      "name=\"A\" type=\"1\"></item>\n<!-- and --><item type=\"2\" "
-                      "name=\"B\"/></profile></zeltdoc>\n\n");
-    QTest::newRow("another encoding") << QByteArray("<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?>"
-                                                    "<zeltdoc><item name=\"A\" type=\"1\"/><item "
-                                                    "name=\"B\" type=\"2\"/></zeltdoc>");
+    Row("items directly below the root",
+        QByteArray("<zeltdoc><item name=\"A\" type=\"1\"/><item name=\"B\" type=\"2\"/></zeltdoc>"));
+    Row("further attributes, comments and blanks",
+        QByteArray("<!-- mine -->\n<zeltdoc type=\"profile\" by=\"me\">\n <profile> <item note=\"x\" "
+                   "name=\"A\" type=\"1\"></item>\n<!-- and --><item type=\"2\" "
+                   "name=\"B\"/></profile></zeltdoc>\n\n"));
+    Row("another encoding", QByteArray("<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?>"
+                                       "<zeltdoc><item name=\"A\" type=\"1\"/><item "
+                                       "name=\"B\" type=\"2\"/></zeltdoc>"));
 }
 
 void OrderFileTest::OtherWritersAreUnderstood()
@@ -100,36 +101,33 @@ void OrderFileTest::FaultIsNamedWithItsLine_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QString>("told");
-    QTest::newRow("empty file") << QByteArray() << "Line 1: this is not well-formed XML";
-    QTest::newRow("no XML") << QByteArray("Home\nOffice\n") << "Line 1: ";
-    QTest::newRow("cut off") << QByteArray("<zeltdoc>\n<profile>\n<item name=\"A\" ty")
-                             << "Line 3: this is not well-formed XML";
-    QTest::newRow("mismatched end") << QByteArray("<zeltdoc>\n<profile>\n</zeltdoc>") << "Line 3: ";
-    QTest::newRow("something behind the end") << QByteArray("<zeltdoc/>\n<zeltdoc/>") << "Line 2: ";
-    QTest::newRow("other root") << QByteArray("<wlanprofiles/>")
-                                << QString::fromUtf8(
-                                       "Line 1: the element “wlanprofiles” is not allowed here");
-    QTest::newRow("other element") << QByteArray("<zeltdoc>\n<profile>\n<entry/></profile></zeltdoc>")
-                                   << QString::fromUtf8("Line 3: the element “entry” is not allowed here");
-    QTest::newRow("other element below the root")
-        << QByteArray("<zeltdoc>\n<list/></zeltdoc>") << QString::fromUtf8("Line 2: the element “list”");
-    QTest::newRow("element in an item")
-        << QByteArray("<zeltdoc>\n<item name=\"A\" type=\"1\"><key/></item></zeltdoc>")
-        << QString::fromUtf8("Line 2: the element “key”");
-    QTest::newRow("text") << QByteArray("<zeltdoc>\n<profile>Home</profile></zeltdoc>")
-                          << "Line 2: text is not allowed here";
-    QTest::newRow("no name") << QByteArray("<zeltdoc>\n\n<item type=\"1\"/></zeltdoc>")
-                             << QString::fromUtf8("Line 3: the attribute “name” is missing");
-    QTest::newRow("no type") << QByteArray("<zeltdoc>\n<item name=\"A\"/></zeltdoc>")
-                             << QString::fromUtf8("Line 2: the attribute “type” is missing");
-    QTest::newRow("declaration with entities")
-        << QByteArray("<!DOCTYPE zeltdoc [\n<!ENTITY a \"A\">\n]>\n<zeltdoc><item name=\"&a;\" "
-                      "type=\"1\"/></zeltdoc>")
-        << "Line 3: a document type declaration";
-    QTest::newRow("undeclared entity")
-        << QByteArray("<zeltdoc>\n<item name=\"&a;\" type=\"1\"/></zeltdoc>") << "Line 2: ";
-    QTest::newRow("wrong encoding") << QByteArray("<zeltdoc>\n<item name=\"\xff\xfe\" type=\"1\"/></zeltdoc>")
-                                    << "Line 2: ";
+    Row("empty file", QByteArray(), "Line 1: this is not well-formed XML");
+    Row("no XML", QByteArray("Home\nOffice\n"), "Line 1: ");
+    Row("cut off", QByteArray("<zeltdoc>\n<profile>\n<item name=\"A\" ty"),
+        "Line 3: this is not well-formed XML");
+    Row("mismatched end", QByteArray("<zeltdoc>\n<profile>\n</zeltdoc>"), "Line 3: ");
+    Row("something behind the end", QByteArray("<zeltdoc/>\n<zeltdoc/>"), "Line 2: ");
+    Row("other root", QByteArray("<wlanprofiles/>"),
+        QString::fromUtf8("Line 1: the element “wlanprofiles” is not allowed here"));
+    Row("other element", QByteArray("<zeltdoc>\n<profile>\n<entry/></profile></zeltdoc>"),
+        QString::fromUtf8("Line 3: the element “entry” is not allowed here"));
+    Row("other element below the root", QByteArray("<zeltdoc>\n<list/></zeltdoc>"),
+        QString::fromUtf8("Line 2: the element “list”"));
+    Row("element in an item", QByteArray("<zeltdoc>\n<item name=\"A\" type=\"1\"><key/></item></zeltdoc>"),
+        QString::fromUtf8("Line 2: the element “key”"));
+    Row("text", QByteArray("<zeltdoc>\n<profile>Home</profile></zeltdoc>"),
+        "Line 2: text is not allowed here");
+    Row("no name", QByteArray("<zeltdoc>\n\n<item type=\"1\"/></zeltdoc>"),
+        QString::fromUtf8("Line 3: the attribute “name” is missing"));
+    Row("no type", QByteArray("<zeltdoc>\n<item name=\"A\"/></zeltdoc>"),
+        QString::fromUtf8("Line 2: the attribute “type” is missing"));
+    Row("declaration with entities",
+        QByteArray("<!DOCTYPE zeltdoc [\n<!ENTITY a \"A\">\n]>\n<zeltdoc><item name=\"&a;\" "
+                   "type=\"1\"/></zeltdoc>"),
+        "Line 3: a document type declaration");
+    Row("undeclared entity", QByteArray("<zeltdoc>\n<item name=\"&a;\" type=\"1\"/></zeltdoc>"), "Line 2: ");
+    Row("wrong encoding", QByteArray("<zeltdoc>\n<item name=\"\xff\xfe\" type=\"1\"/></zeltdoc>"),
+        "Line 2: ");
 }
 
 void OrderFileTest::FaultIsNamedWithItsLine()

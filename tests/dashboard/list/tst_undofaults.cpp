@@ -13,6 +13,7 @@
 #include <csignal>
 #include <cstdio>
 
+#include <Row.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -159,8 +160,7 @@ void UndoFaultsTest::FailingCallLosesNoList_data()
     const QString wanted[] = {after, before, "B, A"};
     for (int i = 0; i < 3; ++i) {
         const auto add = [&](const char *name, SystemCalls::Call call, int error) {
-            QTest::newRow(qPrintable(QString("%1, %2").arg(names[i], name)))
-                << ways[i] << wanted[i] << int(call) << error;
+            Row(qPrintable(QString("%1, %2").arg(names[i], name)), ways[i], wanted[i], int(call), error);
         };
         add("open, no descriptors left", SystemCalls::Open, EMFILE);
         add("open, input or output error", SystemCalls::Open, EIO);
@@ -214,12 +214,12 @@ void UndoFaultsTest::EndAtAnyCallIsMadeGoodByTheNextStart_data()
 {
     QTest::addColumn<int>("way");
     QTest::addColumn<QString>("wanted");
-    QTest::newRow("undo") << int(Undo) << after;
-    QTest::newRow("import") << int(Import) << "C, B, Mobile/2";
-    QTest::newRow("restore") << int(Restore) << after;
-    QTest::newRow("import after an undo") << int(ImportAfterUndo) << "C, B, Mobile/2";
-    QTest::newRow("bring back") << int(BringBack) << before;
-    QTest::newRow("go on") << int(GoOn) << "B, A";
+    Row("undo", int(Undo), after);
+    Row("import", int(Import), "C, B, Mobile/2");
+    Row("restore", int(Restore), after);
+    Row("import after an undo", int(ImportAfterUndo), "C, B, Mobile/2");
+    Row("bring back", int(BringBack), before);
+    Row("go on", int(GoOn), "B, A");
 }
 
 void UndoFaultsTest::EndAtAnyCallIsMadeGoodByTheNextStart()

@@ -2,6 +2,7 @@
 #include <Contrast.h>
 #include <DashboardLanguage.h>
 #include <HostControl.h>
+#include <Row.h>
 #include <TemporaryDirectory.h>
 #include <WindowActivation.h>
 
@@ -66,14 +67,14 @@ void AppearanceTest::TextIsReadable_data()
     QTest::addColumn<int>("text");
     QTest::addColumn<int>("ground");
     QTest::addColumn<qreal>("contrast");
-    QTest::newRow("windows") << int(QPalette::WindowText) << int(QPalette::Window) << 7.0;
-    QTest::newRow("lists") << int(QPalette::Text) << int(QPalette::Base) << 7.0;
-    QTest::newRow("every other row") << int(QPalette::Text) << int(QPalette::AlternateBase) << 7.0;
-    QTest::newRow("buttons") << int(QPalette::ButtonText) << int(QPalette::Button) << 7.0;
-    QTest::newRow("tool tips") << int(QPalette::ToolTipText) << int(QPalette::ToolTipBase) << 7.0;
-    QTest::newRow("highlights") << int(QPalette::HighlightedText) << int(QPalette::Highlight) << 4.5;
-    QTest::newRow("links") << int(QPalette::Link) << int(QPalette::Base) << 4.5;
-    QTest::newRow("visited links") << int(QPalette::LinkVisited) << int(QPalette::Base) << 4.5;
+    Row("windows", int(QPalette::WindowText), int(QPalette::Window), 7.0);
+    Row("lists", int(QPalette::Text), int(QPalette::Base), 7.0);
+    Row("every other row", int(QPalette::Text), int(QPalette::AlternateBase), 7.0);
+    Row("buttons", int(QPalette::ButtonText), int(QPalette::Button), 7.0);
+    Row("tool tips", int(QPalette::ToolTipText), int(QPalette::ToolTipBase), 7.0);
+    Row("highlights", int(QPalette::HighlightedText), int(QPalette::Highlight), 4.5);
+    Row("links", int(QPalette::Link), int(QPalette::Base), 4.5);
+    Row("visited links", int(QPalette::LinkVisited), int(QPalette::Base), 4.5);
 }
 
 void AppearanceTest::TextIsReadable()
@@ -94,8 +95,8 @@ void AppearanceTest::TextIsReadable()
 void AppearanceTest::ChosenRowsAreReadable_data()
 {
     QTest::addColumn<int>("choice");
-    QTest::newRow("light") << int(Appearance::Light);
-    QTest::newRow("dark") << int(Appearance::Dark);
+    Row("light", int(Appearance::Light));
+    Row("dark", int(Appearance::Dark));
 }
 
 void AppearanceTest::ChosenRowsAreReadable()
@@ -130,9 +131,9 @@ void AppearanceTest::SystemColoursComeBack()
 void AppearanceTest::ChoiceIsKept_data()
 {
     QTest::addColumn<int>("choice");
-    QTest::newRow("system") << int(Appearance::System);
-    QTest::newRow("light") << int(Appearance::Light);
-    QTest::newRow("dark") << int(Appearance::Dark);
+    Row("system", int(Appearance::System));
+    Row("light", int(Appearance::Light));
+    Row("dark", int(Appearance::Dark));
 }
 
 void AppearanceTest::ChoiceIsKept()
@@ -157,12 +158,9 @@ void AppearanceTest::LetterOfAKeyLeavesAWordWhole_data()
     QTest::addColumn<bool>("isUnderlined");
     for (int choice : {int(Appearance::System), int(Appearance::Light), int(Appearance::Dark)}) {
         const QByteArray number = QByteArray::number(choice);
-        QTest::newRow(("Arabic " + number).constData())
-            << choice << "ar" << QString::fromUtf8("إ&ضافة") << false;
-        QTest::newRow(("Hebrew " + number).constData())
-            << choice << "he" << QString::fromUtf8("ה&סרה") << true;
-        QTest::newRow(("English " + number).constData()) << choice << "en"
-                                                         << "&Add" << true;
+        Row(("Arabic " + number).constData(), choice, "ar", QString::fromUtf8("إ&ضافة"), false);
+        Row(("Hebrew " + number).constData(), choice, "he", QString::fromUtf8("ה&סרה"), true);
+        Row(("English " + number).constData(), choice, "en", "&Add", true);
     }
 }
 

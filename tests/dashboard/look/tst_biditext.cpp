@@ -5,6 +5,7 @@
 #include <DashboardText.h>
 #include <HostControl.h>
 #include <ListChangeText.h>
+#include <Row.h>
 
 #include <QTextLayout>
 #include <QtTest>
@@ -84,13 +85,12 @@ void BidiTextTest::NameIsSetApartWhereAnythingReadsFromTheRight_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<bool>("isSetApart");
     const QString hebrew = QString::fromUtf8("בית");
-    QTest::newRow("Latin in Latin") << int(Qt::LeftToRight) << "Home (2)" << false;
-    QTest::newRow("Hebrew in Latin") << int(Qt::LeftToRight) << hebrew << true;
-    QTest::newRow("Hebrew behind Latin in Latin") << int(Qt::LeftToRight) << "Home " + hebrew << true;
-    QTest::newRow("a script of later days")
-        << int(Qt::LeftToRight) << QString::fromUtf8("𞤀𞤣𞤤𞤢𞤥") << true;
-    QTest::newRow("Latin in Hebrew") << int(Qt::RightToLeft) << "Home (2)" << true;
-    QTest::newRow("Hebrew in Hebrew") << int(Qt::RightToLeft) << hebrew << true;
+    Row("Latin in Latin", int(Qt::LeftToRight), "Home (2)", false);
+    Row("Hebrew in Latin", int(Qt::LeftToRight), hebrew, true);
+    Row("Hebrew behind Latin in Latin", int(Qt::LeftToRight), "Home " + hebrew, true);
+    Row("a script of later days", int(Qt::LeftToRight), QString::fromUtf8("𞤀𞤣𞤤𞤢𞤥"), true);
+    Row("Latin in Hebrew", int(Qt::RightToLeft), "Home (2)", true);
+    Row("Hebrew in Hebrew", int(Qt::RightToLeft), hebrew, true);
 }
 
 void BidiTextTest::NameIsSetApartWhereAnythingReadsFromTheRight()
@@ -110,8 +110,8 @@ void BidiTextTest::WhatFollowsANameStandsBehindIt_data()
                                  "بيت",  "شبكة المنزل (2)", "Café בית", "בית Café", "Büro 5 G"};
     for (const QString &language : HostControl::LanguageNames()) {
         for (const char *name : names) {
-            QTest::newRow((QByteArray(name) + " in " + language.toLatin1()).constData())
-                << language << QString::fromUtf8(name);
+            Row((QByteArray(name) + " in " + language.toLatin1()).constData(), language,
+                QString::fromUtf8(name));
         }
     }
 }

@@ -3,6 +3,7 @@
 #include <DashboardLanguage.h>
 #include <HostControl.h>
 #include <ListChangeText.h>
+#include <Row.h>
 
 #include <QtTest>
 
@@ -67,8 +68,8 @@ void ListChangeTextTest::ChangesAreToldInWords_data()
                 {"none", "A", "A", "Nothing changed", "Your list stays as it is."},
                 {"a name like a place holder", "", "%1 %2", "Added %1 %2", "%1 %2 will be added."}};
     for (const auto &row : rows) {
-        QTest::newRow(row.name) << QString::fromUtf8(row.before) << QString::fromUtf8(row.after)
-                                << QString::fromUtf8(row.done) << QString::fromUtf8(row.planned);
+        Row(row.name, QString::fromUtf8(row.before), QString::fromUtf8(row.after),
+            QString::fromUtf8(row.done), QString::fromUtf8(row.planned));
     }
 }
 
@@ -85,17 +86,13 @@ void ListChangeTextTest::NamesAreOneShortLine_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("shown");
     const QString ellipsis(QChar(0x2026));
-    QTest::newRow("line breaks") << "two\nlines\tand tab"
-                                 << "two lines and tab";
-    QTest::newRow("empty") << ""
-                           << "(no name)";
-    QTest::newRow("blanks") << "  "
-                            << "(no name)";
-    QTest::newRow("as long as it may be") << QString(40, 'x') << QString(40, 'x');
-    QTest::newRow("too long") << QString(41, 'x') << QString(40, 'x') + ellipsis;
+    Row("line breaks", "two\nlines\tand tab", "two lines and tab");
+    Row("empty", "", "(no name)");
+    Row("blanks", "  ", "(no name)");
+    Row("as long as it may be", QString(40, 'x'), QString(40, 'x'));
+    Row("too long", QString(41, 'x'), QString(40, 'x') + ellipsis);
     const QString smile = QString::fromUtf8("😀");
-    QTest::newRow("a pair at the end is not cut")
-        << QString(39, 'x') + smile + "y" << QString(39, 'x') + ellipsis;
+    Row("a pair at the end is not cut", QString(39, 'x') + smile + "y", QString(39, 'x') + ellipsis);
 }
 
 void ListChangeTextTest::NamesAreOneShortLine()
@@ -139,13 +136,9 @@ void ListChangeTextTest::SignsBetweenNamesAndSentencesAreTheLanguages_data()
     QTest::addColumn<QString>("language");
     QTest::addColumn<QString>("names");
     QTest::addColumn<QString>("sentences");
-    QTest::newRow("German") << "de"
-                            << "A, B"
-                            << "A wird entfernt. B wird nach oben verschoben.";
-    QTest::newRow("Chinese") << "zh_CN" << QString::fromUtf8("A、B")
-                             << QString::fromUtf8("将移除 A。B 将上移。");
-    QTest::newRow("Arabic") << "ar" << QString::fromUtf8("A، B")
-                            << QString::fromUtf8("ستُزال A. ستُنقل B إلى أعلى.");
+    Row("German", "de", "A, B", "A wird entfernt. B wird nach oben verschoben.");
+    Row("Chinese", "zh_CN", QString::fromUtf8("A、B"), QString::fromUtf8("将移除 A。B 将上移。"));
+    Row("Arabic", "ar", QString::fromUtf8("A، B"), QString::fromUtf8("ستُزال A. ستُنقل B إلى أعلى."));
 }
 
 void ListChangeTextTest::SignsBetweenNamesAndSentencesAreTheLanguages()

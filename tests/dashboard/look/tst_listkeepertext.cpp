@@ -2,6 +2,7 @@
 #include <HostControl.h>
 #include <ListKeeper.h>
 #include <ListKeeperText.h>
+#include <Row.h>
 
 #include <QtTest>
 
@@ -31,7 +32,7 @@ void ListKeeperTextTest::ReasonSaysWhatIsInTheWay_data()
     QTest::addColumn<int>("obstacle");
     QTest::addColumn<QString>("told");
     const auto add = [](ListKeeper::Obstacle obstacle, const char *told) {
-        QTest::newRow(told) << int(obstacle) << told;
+        Row(told, int(obstacle), told);
     };
     add(ListKeeper::ListNotOffered, "The plug-in that keeps the list is not available");
     add(ListKeeper::ListNotOpened, "be opened");

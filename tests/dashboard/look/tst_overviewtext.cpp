@@ -4,6 +4,7 @@
 #include <DashboardLanguage.h>
 #include <HostControl.h>
 #include <OverviewText.h>
+#include <Row.h>
 
 #include <QtTest>
 
@@ -55,60 +56,35 @@ void OverviewTextTest::HeadTellsWhatIsInUse_data()
     QTest::addColumn<bool>("carriesTraffic");
     QTest::addColumn<QString>("headline");
     QTest::addColumn<QString>("explanation");
-    QTest::newRow("what the list would choose")
-        << "Home, Café"
-        << "1"
-        << "Home" << int(StageConnected) << true << "In use now: Home"
-        << "It is the first network in your list that is known to be usable.";
-    QTest::newRow("lower")
-        << "Home, Café"
-        << "1"
-        << "Café" << int(StageConnected) << true << "In use now: Café"
-        << "Your list would choose Home. NetworkManager keeps a connection that works until "
-           "you switch.";
-    QTest::newRow("above it out of range")
-        << "Office, Café, Home"
-        << "1"
-        << "Home" << int(StageConnected) << true << "In use now: Home"
-        << "Your list would choose Café. NetworkManager keeps a connection that works until you switch.";
-    QTest::newRow("above it hidden") << "Attic, Home"
-                                     << "1"
-                                     << "Home" << int(StageConnected) << true << "In use now: Home"
-                                     << "It is the first network in your list that is known to be usable.";
-    QTest::newRow("not in the list") << "Home"
-                                     << "1"
-                                     << "Library" << int(StageConnected) << true << "In use now: Library"
-                                     << "It is not in your list. Your list would choose Home. NetworkManager "
-                                        "keeps a connection that works until you switch.";
-    QTest::newRow("cable")
-        << "Home"
-        << "0"
-        << "Wired connection 1" << int(StageConnected) << true << "In use now: Wired connection 1"
-        << "The list is for Wi-Fi and mobile broadband; this connection is of another kind. "
-           "Without it, your list would choose Home.";
-    QTest::newRow("coming up") << "Home"
-                               << "1"
-                               << "Home" << int(StageAuthenticating) << false << "Connecting: Home"
-                               << "The key is being checked.";
-    QTest::newRow("without the traffic") << "Home"
-                                         << "1"
-                                         << "Home" << int(StageConnected) << false << "No network in use"
-                                         << "Your list would choose Home. Home is connected, but the traffic "
-                                            "does not go through it.";
-    QTest::newRow("nothing") << "Home"
-                             << ""
-                             << "" << int(StageNotKnown) << false << "No network in use"
-                             << "Your list would choose Home.";
-    QTest::newRow("nothing to be had") << "Office"
-                                       << ""
-                                       << "" << int(StageNotKnown) << false << "No network in use"
-                                       << "None of the networks in your list is known to be usable.";
-    QTest::newRow("empty list")
-        << ""
-        << "1"
-        << "Home" << int(StageConnected) << true << "In use now: Home"
-        << "It is not in your list. Your list is empty, so there is nothing to choose "
-           "from.";
+    Row("what the list would choose", "Home, Café", "1", "Home", int(StageConnected), true,
+        "In use now: Home", "It is the first network in your list that is known to be usable.");
+    Row("lower", "Home, Café", "1", "Café", int(StageConnected), true, "In use now: Café",
+        "Your list would choose Home. NetworkManager keeps a connection that works until "
+        "you switch.");
+    Row("above it out of range", "Office, Café, Home", "1", "Home", int(StageConnected), true,
+        "In use now: Home",
+        "Your list would choose Café. NetworkManager keeps a connection that works until you switch.");
+    Row("above it hidden", "Attic, Home", "1", "Home", int(StageConnected), true, "In use now: Home",
+        "It is the first network in your list that is known to be usable.");
+    Row("not in the list", "Home", "1", "Library", int(StageConnected), true, "In use now: Library",
+        "It is not in your list. Your list would choose Home. NetworkManager "
+        "keeps a connection that works until you switch.");
+    Row("cable", "Home", "0", "Wired connection 1", int(StageConnected), true,
+        "In use now: Wired connection 1",
+        "The list is for Wi-Fi and mobile broadband; this connection is of another kind. "
+        "Without it, your list would choose Home.");
+    Row("coming up", "Home", "1", "Home", int(StageAuthenticating), false, "Connecting: Home",
+        "The key is being checked.");
+    Row("without the traffic", "Home", "1", "Home", int(StageConnected), false, "No network in use",
+        "Your list would choose Home. Home is connected, but the traffic "
+        "does not go through it.");
+    Row("nothing", "Home", "", "", int(StageNotKnown), false, "No network in use",
+        "Your list would choose Home.");
+    Row("nothing to be had", "Office", "", "", int(StageNotKnown), false, "No network in use",
+        "None of the networks in your list is known to be usable.");
+    Row("empty list", "", "1", "Home", int(StageConnected), true, "In use now: Home",
+        "It is not in your list. Your list is empty, so there is nothing to choose "
+        "from.");
 }
 
 void OverviewTextTest::HeadTellsWhatIsInUse()
@@ -136,12 +112,12 @@ void OverviewTextTest::HeadTellsWhatKeepsTheTrafficFromTheInternet_data()
     QTest::addColumn<QString>("headline");
     QTest::addColumn<QString>("explanation");
     const QString first = "It is the first network in your list that is known to be usable.";
-    QTest::newRow("nothing") << int(ConnectionState::ConnectivityFull) << "In use now: Home" << first;
-    QTest::newRow("not checked") << int(ConnectionState::ConnectivityNotKnown) << "In use now: Home" << first;
-    QTest::newRow("portal") << int(ConnectionState::ConnectivityPortal) << "In use now: Home, sign-in needed"
-                            << "This network wants you to sign in on a web page.";
-    QTest::newRow("limited") << int(ConnectionState::ConnectivityLimited) << "In use now: Home, no internet"
-                             << "The network answers, the internet behind it does not.";
+    Row("nothing", int(ConnectionState::ConnectivityFull), "In use now: Home", first);
+    Row("not checked", int(ConnectionState::ConnectivityNotKnown), "In use now: Home", first);
+    Row("portal", int(ConnectionState::ConnectivityPortal), "In use now: Home, sign-in needed",
+        "This network wants you to sign in on a web page.");
+    Row("limited", int(ConnectionState::ConnectivityLimited), "In use now: Home, no internet",
+        "The network answers, the internet behind it does not.");
 }
 
 void OverviewTextTest::HeadTellsWhatKeepsTheTrafficFromTheInternet()
@@ -163,24 +139,21 @@ void OverviewTextTest::HeadTellsWhyNothingIsKnown_data()
     QTest::addColumn<int>("source");
     QTest::addColumn<QString>("headline");
     QTest::addColumn<QString>("explanation");
-    QTest::newRow("no plug-in")
-        << int(Connections::NoPlugin) << "" << 0 << "Connection not known"
-        << "The Wi-Fi plug-in is not available, so it is not known which networks are "
-           "in range.";
-    QTest::newRow("plug-in without answers")
-        << int(Connections::NoAnswers) << "" << 0 << "Connection not known"
-        << "The Wi-Fi plug-in does not tell which network is in use.";
-    QTest::newRow("asked") << int(Connections::Plugin) << "networkmanager"
-                           << int(ConnectionState::SourceNotKnown) << "Connection not known"
-                           << "NetworkManager has not answered yet, so it is not known which network is in "
-                              "use.";
-    QTest::newRow("gone") << int(Connections::Plugin) << "networkmanager" << int(ConnectionState::SourceGone)
-                          << "NetworkManager is not running"
-                          << "It is not known which network is in use. Your list can be changed; it takes "
-                             "effect once NetworkManager runs.";
-    QTest::newRow("another one gone")
-        << int(Connections::Plugin) << "stored" << int(ConnectionState::SourceGone) << "Connection not known"
-        << "The Wi-Fi plug-in does not tell which network is in use.";
+    Row("no plug-in", int(Connections::NoPlugin), "", 0, "Connection not known",
+        "The Wi-Fi plug-in is not available, so it is not known which networks are "
+        "in range.");
+    Row("plug-in without answers", int(Connections::NoAnswers), "", 0, "Connection not known",
+        "The Wi-Fi plug-in does not tell which network is in use.");
+    Row("asked", int(Connections::Plugin), "networkmanager", int(ConnectionState::SourceNotKnown),
+        "Connection not known",
+        "NetworkManager has not answered yet, so it is not known which network is in "
+        "use.");
+    Row("gone", int(Connections::Plugin), "networkmanager", int(ConnectionState::SourceGone),
+        "NetworkManager is not running",
+        "It is not known which network is in use. Your list can be changed; it takes "
+        "effect once NetworkManager runs.");
+    Row("another one gone", int(Connections::Plugin), "stored", int(ConnectionState::SourceGone),
+        "Connection not known", "The Wi-Fi plug-in does not tell which network is in use.");
 }
 
 void OverviewTextTest::HeadTellsWhyNothingIsKnown()
@@ -219,39 +192,33 @@ void OverviewTextTest::StateAndReasonFollowTheProfile_data()
     QTest::addColumn<QString>("reason");
     const QString wifi = "1";
     const QString mobile = "2";
-    QTest::newRow("hidden")
-        << wifi << int(ConnectionProfile::UseHiddenIsTried) << "Hidden: is tried"
-        << "The network hides its name, so it is not known if it is in range. It is tried.";
-    QTest::newRow("out of range") << wifi << int(ConnectionProfile::UseOutOfRange) << "Out of range"
-                                  << "Not in use, because it is out of range.";
-    QTest::newRow("other security") << wifi << int(ConnectionProfile::UseOtherSecurity) << "Cannot be used"
-                                    << "A network of that name is in range, but has another security.";
-    QTest::newRow("other device") << wifi << int(ConnectionProfile::UseOtherDevice) << "Cannot be used"
-                                  << "It is saved for another adapter, band or station than what is here.";
-    QTest::newRow("no adapter") << wifi << int(ConnectionProfile::UseNoDevice) << "No adapter"
-                                << "There is no adapter or modem for it that works.";
-    QTest::newRow("no modem") << mobile << int(ConnectionProfile::UseNoDevice) << "No modem"
-                              << "There is no adapter or modem for it that works.";
-    QTest::newRow("off") << wifi << int(ConnectionProfile::UseDeviceOff) << "Turned off"
-                         << "Its adapter or modem is turned off.";
-    QTest::newRow("blocked") << wifi << int(ConnectionProfile::UseDeviceBlocked) << "Turned off"
-                             << "Its adapter or modem is held off by a button of this computer.";
-    QTest::newRow("SIM") << mobile << int(ConnectionProfile::UseSimLocked) << "SIM locked"
-                         << "The SIM card wants its PIN.";
-    QTest::newRow("other users") << wifi << int(ConnectionProfile::UseOtherUsers) << "Cannot be used"
-                                 << "It belongs to other users of this computer.";
-    QTest::newRow("no account") << wifi << int(ConnectionProfile::UseNoAccount) << "Cannot be used"
-                                << "It needs an account, and none is saved.";
-    QTest::newRow("not known") << wifi << int(ConnectionProfile::UseNotKnown) << "Not known if in range"
-                               << "It is not known if it can be used.";
-    QTest::newRow("number of a later version") << wifi << 99 << "Not known if in range"
-                                               << "It is not known if it can be used.";
-    QTest::newRow("in range") << wifi << int(ConnectionProfile::UsePossible) << "In range"
-                              << "Your list would choose X.";
-    QTest::newRow("modem ready") << mobile << int(ConnectionProfile::UsePossible) << "Ready"
-                                 << "Your list would choose X.";
-    QTest::newRow("no profile") << wifi << -1 << "Not saved here"
-                                << "This computer has no saved network of that name.";
+    Row("hidden", wifi, int(ConnectionProfile::UseHiddenIsTried), "Hidden: is tried",
+        "The network hides its name, so it is not known if it is in range. It is tried.");
+    Row("out of range", wifi, int(ConnectionProfile::UseOutOfRange), "Out of range",
+        "Not in use, because it is out of range.");
+    Row("other security", wifi, int(ConnectionProfile::UseOtherSecurity), "Cannot be used",
+        "A network of that name is in range, but has another security.");
+    Row("other device", wifi, int(ConnectionProfile::UseOtherDevice), "Cannot be used",
+        "It is saved for another adapter, band or station than what is here.");
+    Row("no adapter", wifi, int(ConnectionProfile::UseNoDevice), "No adapter",
+        "There is no adapter or modem for it that works.");
+    Row("no modem", mobile, int(ConnectionProfile::UseNoDevice), "No modem",
+        "There is no adapter or modem for it that works.");
+    Row("off", wifi, int(ConnectionProfile::UseDeviceOff), "Turned off",
+        "Its adapter or modem is turned off.");
+    Row("blocked", wifi, int(ConnectionProfile::UseDeviceBlocked), "Turned off",
+        "Its adapter or modem is held off by a button of this computer.");
+    Row("SIM", mobile, int(ConnectionProfile::UseSimLocked), "SIM locked", "The SIM card wants its PIN.");
+    Row("other users", wifi, int(ConnectionProfile::UseOtherUsers), "Cannot be used",
+        "It belongs to other users of this computer.");
+    Row("no account", wifi, int(ConnectionProfile::UseNoAccount), "Cannot be used",
+        "It needs an account, and none is saved.");
+    Row("not known", wifi, int(ConnectionProfile::UseNotKnown), "Not known if in range",
+        "It is not known if it can be used.");
+    Row("number of a later version", wifi, 99, "Not known if in range", "It is not known if it can be used.");
+    Row("in range", wifi, int(ConnectionProfile::UsePossible), "In range", "Your list would choose X.");
+    Row("modem ready", mobile, int(ConnectionProfile::UsePossible), "Ready", "Your list would choose X.");
+    Row("no profile", wifi, -1, "Not saved here", "This computer has no saved network of that name.");
 }
 
 void OverviewTextTest::StateAndReasonFollowTheProfile()
@@ -272,12 +239,12 @@ void OverviewTextTest::StateFollowsTheConnection_data()
     QTest::addColumn<int>("stage");
     QTest::addColumn<bool>("carriesTraffic");
     QTest::addColumn<QString>("state");
-    QTest::newRow("in use") << int(StageConnected) << true << "In use now · 64%";
-    QTest::newRow("connected") << int(StageConnected) << false << "Connected · 64%";
-    QTest::newRow("preparing") << int(StagePreparing) << false << "Connecting · 64%";
-    QTest::newRow("authenticating") << int(StageAuthenticating) << false << "Connecting · 64%";
-    QTest::newRow("address") << int(StageGettingAddress) << false << "Connecting · 64%";
-    QTest::newRow("going down") << int(StageDisconnecting) << false << "Disconnecting · 64%";
+    Row("in use", int(StageConnected), true, "In use now · 64%");
+    Row("connected", int(StageConnected), false, "Connected · 64%");
+    Row("preparing", int(StagePreparing), false, "Connecting · 64%");
+    Row("authenticating", int(StageAuthenticating), false, "Connecting · 64%");
+    Row("address", int(StageGettingAddress), false, "Connecting · 64%");
+    Row("going down", int(StageDisconnecting), false, "Disconnecting · 64%");
 }
 
 void OverviewTextTest::StateFollowsTheConnection()
@@ -298,13 +265,12 @@ void OverviewTextTest::StateFollowsTheLastTry_data()
     QTest::addColumn<bool>("connectsByItself");
     QTest::addColumn<QString>("state");
     QTest::addColumn<int>("mark");
-    QTest::newRow("none") << int(FailureNone) << true << "In range" << int(Glyphs::NoMark);
-    QTest::newRow("stopped by hand") << int(FailureStopped) << true << "In range" << int(Glyphs::NoMark);
-    QTest::newRow("wrong key") << int(FailureWrongKey) << true << "Key refused" << int(Glyphs::MarkError);
-    QTest::newRow("no answer") << int(FailureNoAnswer) << true << "Last try failed" << int(Glyphs::MarkError);
-    QTest::newRow("by hand") << int(FailureNone) << false << "By hand only" << int(Glyphs::NoMark);
-    QTest::newRow("by hand, wrong key")
-        << int(FailureWrongKey) << false << "Key refused" << int(Glyphs::MarkError);
+    Row("none", int(FailureNone), true, "In range", int(Glyphs::NoMark));
+    Row("stopped by hand", int(FailureStopped), true, "In range", int(Glyphs::NoMark));
+    Row("wrong key", int(FailureWrongKey), true, "Key refused", int(Glyphs::MarkError));
+    Row("no answer", int(FailureNoAnswer), true, "Last try failed", int(Glyphs::MarkError));
+    Row("by hand", int(FailureNone), false, "By hand only", int(Glyphs::NoMark));
+    Row("by hand, wrong key", int(FailureWrongKey), false, "Key refused", int(Glyphs::MarkError));
 }
 
 void OverviewTextTest::StateFollowsTheLastTry()
@@ -326,26 +292,21 @@ void OverviewTextTest::DetailTellsWhatTheStateDoesNot_data()
     QTest::addColumn<QString>("state");
     QTest::addColumn<QString>("detail");
     QTest::addColumn<int>("reach");
-    QTest::newRow("out of range") << 0 << "Out of range"
-                                  << "Wi-Fi" << int(Glyphs::OutOfReach);
-    QTest::newRow("hidden") << 1 << "Hidden: is tried"
-                            << "Wi-Fi · The network hides its name, so it is not known if it is in range. It "
-                               "is tried."
-                            << int(Glyphs::ReachNotKnown);
-    QTest::newRow("higher than what is in use")
-        << 2 << "In range"
-        << "Wi-Fi · NetworkManager keeps a connection that works until you switch." << int(Glyphs::InReach);
-    QTest::newRow("in use") << 3 << "In use now"
-                            << "Wi-Fi" << int(Glyphs::InReach);
-    QTest::newRow("lower") << 4 << "In range"
-                           << "Wi-Fi · Home is higher in the list." << int(Glyphs::InReach);
-    QTest::newRow("no profile") << 5 << "Not saved here"
-                                << "Wi-Fi · This computer has no saved network of that name."
-                                << int(Glyphs::OutOfReach);
-    QTest::newRow("listed twice") << 6 << "Listed twice"
-                                  << "Wi-Fi · It stands higher in the list already, so this place has no "
-                                     "effect."
-                                  << int(Glyphs::InReach);
+    Row("out of range", 0, "Out of range", "Wi-Fi", int(Glyphs::OutOfReach));
+    Row("hidden", 1, "Hidden: is tried",
+        "Wi-Fi · The network hides its name, so it is not known if it is in range. It "
+        "is tried.",
+        int(Glyphs::ReachNotKnown));
+    Row("higher than what is in use", 2, "In range",
+        "Wi-Fi · NetworkManager keeps a connection that works until you switch.", int(Glyphs::InReach));
+    Row("in use", 3, "In use now", "Wi-Fi", int(Glyphs::InReach));
+    Row("lower", 4, "In range", "Wi-Fi · Home is higher in the list.", int(Glyphs::InReach));
+    Row("no profile", 5, "Not saved here", "Wi-Fi · This computer has no saved network of that name.",
+        int(Glyphs::OutOfReach));
+    Row("listed twice", 6, "Listed twice",
+        "Wi-Fi · It stands higher in the list already, so this place has no "
+        "effect.",
+        int(Glyphs::InReach));
 }
 
 void OverviewTextTest::DetailTellsWhatTheStateDoesNot()
@@ -367,18 +328,17 @@ void OverviewTextTest::FailureIsTold_data()
 {
     QTest::addColumn<int>("failure");
     QTest::addColumn<QString>("text");
-    QTest::newRow("other") << int(FailureOther) << "When last tried, it could not be connected.";
-    QTest::newRow("wrong key") << int(FailureWrongKey) << "When last tried, the key was refused.";
-    QTest::newRow("key missing") << int(FailureKeyMissing) << "When last tried, a key was missing.";
-    QTest::newRow("no answer") << int(FailureNoAnswer) << "When last tried, it did not answer.";
-    QTest::newRow("no address") << int(FailureNoAddress) << "When last tried, it gave no address.";
-    QTest::newRow("refused") << int(FailureRefused) << "When last tried, it did not let this computer in.";
-    QTest::newRow("SIM") << int(FailureSim) << "When last tried, the SIM card did not work.";
-    QTest::newRow("stopped") << int(FailureStopped) << "When last tried, it was ended by hand.";
-    QTest::newRow("device") << int(FailureDevice)
-                            << "When last tried, the adapter or modem was not available.";
-    QTest::newRow("not allowed") << int(FailureNotAllowed) << "You are not allowed to do that.";
-    QTest::newRow("source") << int(FailureSource) << "When last tried, it could not be connected.";
+    Row("other", int(FailureOther), "When last tried, it could not be connected.");
+    Row("wrong key", int(FailureWrongKey), "When last tried, the key was refused.");
+    Row("key missing", int(FailureKeyMissing), "When last tried, a key was missing.");
+    Row("no answer", int(FailureNoAnswer), "When last tried, it did not answer.");
+    Row("no address", int(FailureNoAddress), "When last tried, it gave no address.");
+    Row("refused", int(FailureRefused), "When last tried, it did not let this computer in.");
+    Row("SIM", int(FailureSim), "When last tried, the SIM card did not work.");
+    Row("stopped", int(FailureStopped), "When last tried, it was ended by hand.");
+    Row("device", int(FailureDevice), "When last tried, the adapter or modem was not available.");
+    Row("not allowed", int(FailureNotAllowed), "You are not allowed to do that.");
+    Row("source", int(FailureSource), "When last tried, it could not be connected.");
 }
 
 void OverviewTextTest::FailureIsTold()
@@ -398,23 +358,18 @@ void OverviewTextTest::OutcomeOfAnAttemptIsTold_data()
 {
     QTest::addColumn<int>("failure");
     QTest::addColumn<QString>("text");
-    QTest::newRow("other") << int(FailureOther) << "X was not connected.";
-    QTest::newRow("wrong key") << int(FailureWrongKey)
-                               << "X was not connected. The key was refused. Upper and lower case count.";
-    QTest::newRow("key missing") << int(FailureKeyMissing)
-                                 << "X was not connected. A key is needed, and none is saved.";
-    QTest::newRow("no answer") << int(FailureNoAnswer)
-                               << "X was not connected. It did not answer; it may be too far away.";
-    QTest::newRow("no address") << int(FailureNoAddress)
-                                << "X was not connected. It let this computer in, but gave it no address.";
-    QTest::newRow("refused") << int(FailureRefused)
-                             << "X was not connected. It did not let this computer in.";
-    QTest::newRow("SIM") << int(FailureSim) << "X was not connected. The SIM card did not work.";
-    QTest::newRow("stopped") << int(FailureStopped) << "X was not connected. It was stopped.";
-    QTest::newRow("device") << int(FailureDevice)
-                            << "X was not connected. The adapter or modem was not available.";
-    QTest::newRow("not allowed") << int(FailureNotAllowed)
-                                 << "X was not connected. You are not allowed to do that.";
+    Row("other", int(FailureOther), "X was not connected.");
+    Row("wrong key", int(FailureWrongKey),
+        "X was not connected. The key was refused. Upper and lower case count.");
+    Row("key missing", int(FailureKeyMissing), "X was not connected. A key is needed, and none is saved.");
+    Row("no answer", int(FailureNoAnswer), "X was not connected. It did not answer; it may be too far away.");
+    Row("no address", int(FailureNoAddress),
+        "X was not connected. It let this computer in, but gave it no address.");
+    Row("refused", int(FailureRefused), "X was not connected. It did not let this computer in.");
+    Row("SIM", int(FailureSim), "X was not connected. The SIM card did not work.");
+    Row("stopped", int(FailureStopped), "X was not connected. It was stopped.");
+    Row("device", int(FailureDevice), "X was not connected. The adapter or modem was not available.");
+    Row("not allowed", int(FailureNotAllowed), "X was not connected. You are not allowed to do that.");
 }
 
 void OverviewTextTest::OutcomeOfAnAttemptIsTold()

@@ -3,6 +3,7 @@
 
 #include <DashboardLanguage.h>
 #include <HostControl.h>
+#include <Row.h>
 #include <RuledPlaces.h>
 
 #include <QtTest>
@@ -50,34 +51,21 @@ void RuledPlacesTest::PlaceWithoutEffectTellsWhy_data()
 {
     QTest::addColumn<QString>("what");
     QTest::addColumn<QString>("told");
-    QTest::newRow("nothing") << ""
-                             << "";
-    QTest::newRow("not there now") << "out of range"
-                                   << "";
-    QTest::newRow("by hand") << "by hand"
-                             << "Home: It does not connect by itself, so its place has no effect. (turn on)";
-    QTest::newRow("kept") << "kept"
-                          << "Home: It belongs to other users of this computer.";
-    QTest::newRow("kept by hand")
-        << "kept, by hand"
-        << "Home: It does not connect by itself, so its place has no effect. (turn on)";
-    QTest::newRow("another one of that name is kept") << "another kept"
-                                                      << "";
-    QTest::newRow("not saved") << "not saved"
-                               << "Home: This computer has no saved network of that name.";
-    QTest::newRow("failed")
-        << "failed"
-        << "Home: When last tried, the key was refused. After several failures NetworkManager waits for five "
-           "minutes before it tries again. (connect)";
-    QTest::newRow("failed and out of range") << "failed, out of range"
-                                             << "";
-    QTest::newRow("failed and connecting") << "failed, connecting"
-                                           << "";
-    QTest::newRow("ended by the user") << "stopped"
-                                       << "";
-    QTest::newRow("listed twice")
-        << "twice"
-        << "Home: It stands higher in the list already, so this place has no effect.";
+    Row("nothing", "", "");
+    Row("not there now", "out of range", "");
+    Row("by hand", "by hand", "Home: It does not connect by itself, so its place has no effect. (turn on)");
+    Row("kept", "kept", "Home: It belongs to other users of this computer.");
+    Row("kept by hand", "kept, by hand",
+        "Home: It does not connect by itself, so its place has no effect. (turn on)");
+    Row("another one of that name is kept", "another kept", "");
+    Row("not saved", "not saved", "Home: This computer has no saved network of that name.");
+    Row("failed", "failed",
+        "Home: When last tried, the key was refused. After several failures NetworkManager waits for five "
+        "minutes before it tries again. (connect)");
+    Row("failed and out of range", "failed, out of range", "");
+    Row("failed and connecting", "failed, connecting", "");
+    Row("ended by the user", "stopped", "");
+    Row("listed twice", "twice", "Home: It stands higher in the list already, so this place has no effect.");
 }
 
 void RuledPlacesTest::PlaceWithoutEffectTellsWhy()
@@ -115,15 +103,15 @@ void RuledPlacesTest::ObstacleHasItsWords_data()
 {
     QTest::addColumn<int>("obstacle");
     QTest::addColumn<QString>("begin");
-    QTest::newRow("other users") << int(ObstacleOtherUsers) << "It belongs to other users";
-    QTest::newRow("passing") << int(ObstaclePassing) << "Another program makes it anew";
-    QTest::newRow("not allowed") << int(ObstacleNotAllowed) << "Only an administrator";
-    QTest::newRow("password") << int(ObstaclePassword) << "Only an administrator";
-    QTest::newRow("refused") << int(ObstacleRefused) << "NetworkManager did not take";
-    QTest::newRow("no answer") << int(ObstacleNoAnswer) << "NetworkManager did not take";
-    QTest::newRow("other list") << int(ObstacleOtherList) << "Somebody else";
-    QTest::newRow("route metric") << int(ObstacleOwnMetric) << "Somebody has chosen a route metric";
-    QTest::newRow("one of later") << 99 << "NetworkManager did not take";
+    Row("other users", int(ObstacleOtherUsers), "It belongs to other users");
+    Row("passing", int(ObstaclePassing), "Another program makes it anew");
+    Row("not allowed", int(ObstacleNotAllowed), "Only an administrator");
+    Row("password", int(ObstaclePassword), "Only an administrator");
+    Row("refused", int(ObstacleRefused), "NetworkManager did not take");
+    Row("no answer", int(ObstacleNoAnswer), "NetworkManager did not take");
+    Row("other list", int(ObstacleOtherList), "Somebody else");
+    Row("route metric", int(ObstacleOwnMetric), "Somebody has chosen a route metric");
+    Row("one of later", 99, "NetworkManager did not take");
 }
 
 void RuledPlacesTest::ObstacleHasItsWords()
@@ -137,12 +125,9 @@ void RuledPlacesTest::NothingIsSaidWhileNothingIsKnown_data()
 {
     QTest::addColumn<int>("source");
     QTest::addColumn<int>("stage");
-    QTest::newRow("NetworkManager gone")
-        << int(ConnectionState::SourceGone) << int(OrderOutcome::StageOrderDone);
-    QTest::newRow("not followed yet")
-        << int(ConnectionState::SourceKnown) << int(OrderOutcome::StageOrderNotKnown);
-    QTest::newRow("list not read") << int(ConnectionState::SourceKnown)
-                                   << int(OrderOutcome::StageOrderFailed);
+    Row("NetworkManager gone", int(ConnectionState::SourceGone), int(OrderOutcome::StageOrderDone));
+    Row("not followed yet", int(ConnectionState::SourceKnown), int(OrderOutcome::StageOrderNotKnown));
+    Row("list not read", int(ConnectionState::SourceKnown), int(OrderOutcome::StageOrderFailed));
 }
 
 void RuledPlacesTest::NothingIsSaidWhileNothingIsKnown()

@@ -1,4 +1,5 @@
 #include <Appearance.h>
+#include <Row.h>
 #include <Tones.h>
 
 #include <QApplication>
@@ -25,10 +26,10 @@ void TonesTest::ContrastIsThatOfTheGuidelines_data()
     QTest::addColumn<QColor>("one");
     QTest::addColumn<QColor>("other");
     QTest::addColumn<double>("ratio");
-    QTest::newRow("black on white") << QColor(Qt::black) << QColor(Qt::white) << 21.0;
-    QTest::newRow("white on black") << QColor(Qt::white) << QColor(Qt::black) << 21.0;
-    QTest::newRow("nothing") << QColor(Qt::red) << QColor(Qt::red) << 1.0;
-    QTest::newRow("the least for text") << QColor("#767676") << QColor(Qt::white) << 4.54;
+    Row("black on white", QColor(Qt::black), QColor(Qt::white), 21.0);
+    Row("white on black", QColor(Qt::white), QColor(Qt::black), 21.0);
+    Row("nothing", QColor(Qt::red), QColor(Qt::red), 1.0);
+    Row("the least for text", QColor("#767676"), QColor(Qt::white), 4.54);
 }
 
 void TonesTest::ContrastIsThatOfTheGuidelines()
@@ -43,20 +44,20 @@ void TonesTest::ContrastIsThatOfTheGuidelines()
 void TonesTest::EveryPairCanBeRead_data()
 {
     QTest::addColumn<QPalette>("palette");
-    QTest::newRow("light") << Appearance::Colours(false);
-    QTest::newRow("dark") << Appearance::Colours(true);
+    Row("light", Appearance::Colours(false));
+    Row("dark", Appearance::Colours(true));
     QPalette pale(QColor("#ffd7f0"), QColor("#fff0fa"));
     pale.setColor(QPalette::Base, QColor("#fffafd"));
     pale.setColor(QPalette::Text, QColor("#c0a0b0"));
     pale.setColor(QPalette::Highlight, QColor("#ffd0e8"));
     pale.setColor(QPalette::HighlightedText, QColor("#ffffff"));
-    QTest::newRow("pale") << pale;
+    Row("pale", pale);
     QPalette loud(Qt::black, Qt::black);
     loud.setColor(QPalette::Base, Qt::black);
     loud.setColor(QPalette::Text, Qt::yellow);
     loud.setColor(QPalette::Highlight, Qt::yellow);
     loud.setColor(QPalette::HighlightedText, Qt::black);
-    QTest::newRow("yellow on black") << loud;
+    Row("yellow on black", loud);
 }
 
 void TonesTest::EveryPairCanBeRead()

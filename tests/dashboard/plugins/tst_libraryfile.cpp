@@ -1,4 +1,5 @@
 #include <LibraryFile.h>
+#include <Row.h>
 #include <TemporaryDirectory.h>
 
 #include <QFile>
@@ -33,9 +34,9 @@ private slots:
 void LibraryFileTest::LibraryOfThisQtIsWhole_data()
 {
     QTest::addColumn<QString>("file");
-    QTest::newRow("plug-in") << BUILD_DIRECTORY "/plugins/PriorityPlugin/libPriorityPlugin.so";
-    QTest::newRow("sibling") << BUILD_DIRECTORY "/plugins/WLANStored/libWLANStored.so";
-    QTest::newRow("host library") << BUILD_DIRECTORY "/lib/libcoreui.so";
+    Row("plug-in", BUILD_DIRECTORY "/plugins/PriorityPlugin/libPriorityPlugin.so");
+    Row("sibling", BUILD_DIRECTORY "/plugins/WLANStored/libWLANStored.so");
+    Row("host library", BUILD_DIRECTORY "/lib/libcoreui.so");
 }
 
 void LibraryFileTest::LibraryOfThisQtIsWhole()
@@ -48,10 +49,10 @@ void LibraryFileTest::LibraryOfThisQtIsWhole()
 void LibraryFileTest::FileThatIsNoLibraryTellsNothing_data()
 {
     QTest::addColumn<QByteArray>("content");
-    QTest::newRow("empty") << QByteArray("");
-    QTest::newRow("text") << QByteArray("not a library\n");
-    QTest::newRow("beginning of a header") << SmallLibrary().left(20);
-    QTest::newRow("zeros") << QByteArray(4096, '\0');
+    Row("empty", QByteArray(""));
+    Row("text", QByteArray("not a library\n"));
+    Row("beginning of a header", SmallLibrary().left(20));
+    Row("zeros", QByteArray(4096, '\0'));
 }
 
 void LibraryFileTest::FileThatIsNoLibraryTellsNothing()

@@ -3,6 +3,7 @@
 
 #include <Overview.h>
 #include <PluginList.h>
+#include <Row.h>
 
 #include <QtTest>
 
@@ -105,8 +106,7 @@ void OverviewTest::RecordsDecide_data()
         {"in use and listed twice", "A, B, A", "A 4 *", "A 1, B 1", "A", "A", "", false},
     };
     for (const auto &row : rows) {
-        QTest::newRow(row.name) << row.list << row.active << row.profiles << row.inUse << row.choice
-                                << row.comingUp << row.canSwitch;
+        Row(row.name, row.list, row.active, row.profiles, row.inUse, row.choice, row.comingUp, row.canSwitch);
     }
 }
 
@@ -135,11 +135,11 @@ void OverviewTest::NothingIsTakenFromASourceThatIsNotKnown_data()
 {
     QTest::addColumn<int>("teller");
     QTest::addColumn<int>("source");
-    QTest::newRow("asked") << int(Connections::Plugin) << int(ConnectionState::SourceNotKnown);
-    QTest::newRow("gone") << int(Connections::Plugin) << int(ConnectionState::SourceGone);
-    QTest::newRow("number that is not known") << int(Connections::Plugin) << 99;
-    QTest::newRow("no answers") << int(Connections::NoAnswers) << int(ConnectionState::SourceKnown);
-    QTest::newRow("no plug-in") << int(Connections::NoPlugin) << int(ConnectionState::SourceKnown);
+    Row("asked", int(Connections::Plugin), int(ConnectionState::SourceNotKnown));
+    Row("gone", int(Connections::Plugin), int(ConnectionState::SourceGone));
+    Row("number that is not known", int(Connections::Plugin), 99);
+    Row("no answers", int(Connections::NoAnswers), int(ConnectionState::SourceKnown));
+    Row("no plug-in", int(Connections::NoPlugin), int(ConnectionState::SourceKnown));
 }
 
 void OverviewTest::NothingIsTakenFromASourceThatIsNotKnown()
@@ -164,30 +164,12 @@ void OverviewTest::OfSeveralProfilesTheBestIsTold_data()
     QTest::addColumn<QString>("failing");
     QTest::addColumn<QString>("connected");
     QTest::addColumn<QString>("best");
-    QTest::newRow("possible") << "A 3, A 1"
-                              << ""
-                              << ""
-                              << "2";
-    QTest::newRow("possible before hidden") << "A 2, A 1"
-                                            << ""
-                                            << ""
-                                            << "2";
-    QTest::newRow("hidden before out of range") << "A 3, A 2"
-                                                << ""
-                                                << ""
-                                                << "2";
-    QTest::newRow("equal ones") << "A 1, A 1"
-                                << ""
-                                << ""
-                                << "1";
-    QTest::newRow("one that has not failed") << "A 1, A 1"
-                                             << "1"
-                                             << ""
-                                             << "2";
-    QTest::newRow("the connected one") << "A 1, A 3"
-                                       << ""
-                                       << "2"
-                                       << "2";
+    Row("possible", "A 3, A 1", "", "", "2");
+    Row("possible before hidden", "A 2, A 1", "", "", "2");
+    Row("hidden before out of range", "A 3, A 2", "", "", "2");
+    Row("equal ones", "A 1, A 1", "", "", "1");
+    Row("one that has not failed", "A 1, A 1", "1", "", "2");
+    Row("the connected one", "A 1, A 3", "", "2", "2");
 }
 
 void OverviewTest::OfSeveralProfilesTheBestIsTold()

@@ -1,5 +1,6 @@
 #include <HostControl.h>
 #include <PluginHost.h>
+#include <Row.h>
 #include <Startup.h>
 #include <TemporaryDirectory.h>
 #include <TextPattern.h>
@@ -93,15 +94,15 @@ void PluginHostTest::StateTellsHowFarItCame_data()
     QTest::addColumn<QString>("folder");
     QTest::addColumn<PluginState>("state");
     QTest::addColumn<QString>("text");
-    QTest::newRow("missing") << "Absent" << PluginMissing << "was not found";
-    QTest::newRow("no verification") << "NoVerification" << PluginNoVerification << "does not say";
-    QTest::newRow("wrong verification") << "WrongVerification" << PluginRefused << "another program";
-    QTest::newRow("no entry point") << "NoEntryPoint" << PluginNoEntryPoint << "is not a plug-in, so";
-    QTest::newRow("null instance") << "NullInstance" << PluginNullInstance << "did not provide an object";
-    QTest::newRow("not a plug-in") << "NotAPlugin" << PluginNotAPlugin << "not a plug-in for";
-    QTest::newRow("init fails") << "InitFails" << PluginInitFailed << "could not start";
-    QTest::newRow("ready") << "Working" << PluginReady << "";
-    QTest::newRow("ready without window") << "BaseOnly" << PluginReady << "";
+    Row("missing", "Absent", PluginMissing, "was not found");
+    Row("no verification", "NoVerification", PluginNoVerification, "does not say");
+    Row("wrong verification", "WrongVerification", PluginRefused, "another program");
+    Row("no entry point", "NoEntryPoint", PluginNoEntryPoint, "is not a plug-in, so");
+    Row("null instance", "NullInstance", PluginNullInstance, "did not provide an object");
+    Row("not a plug-in", "NotAPlugin", PluginNotAPlugin, "not a plug-in for");
+    Row("init fails", "InitFails", PluginInitFailed, "could not start");
+    Row("ready", "Working", PluginReady, "");
+    Row("ready without window", "BaseOnly", PluginReady, "");
 }
 
 void PluginHostTest::StateTellsHowFarItCame()
@@ -126,9 +127,9 @@ void PluginHostTest::StateTellsHowFarItCame()
 void PluginHostTest::FileThatIsNoLibraryIsToldApart_data()
 {
     QTest::addColumn<QByteArray>("content");
-    QTest::newRow("empty") << QByteArray("");
-    QTest::newRow("text") << QByteArray("not a library\n");
-    QTest::newRow("cut off") << QByteArray("\177ELF\2\1\1\0", 8);
+    Row("empty", QByteArray(""));
+    Row("text", QByteArray("not a library\n"));
+    Row("cut off", QByteArray("\177ELF\2\1\1\0", 8));
 }
 
 void PluginHostTest::FileThatIsNoLibraryIsToldApart()
@@ -148,8 +149,8 @@ void PluginHostTest::FileThatIsNoLibraryIsToldApart()
 void PluginHostTest::LibraryThatIsCutIsNotLoaded_data()
 {
     QTest::addColumn<int>("size");
-    QTest::newRow("in the table of segments") << 100;
-    QTest::newRow("in the symbols") << 1000;
+    Row("in the table of segments", 100);
+    Row("in the symbols", 1000);
 }
 
 void PluginHostTest::LibraryThatIsCutIsNotLoaded()
@@ -172,20 +173,15 @@ void PluginHostTest::LibraryOfOtherToolkitIsNotLoaded_data()
 {
     QTest::addColumn<QString>("folder");
     QTest::addColumn<QString>("version");
-    QTest::newRow("needs a newer one") << "NeedsGeneration7"
-                                       << "7";
-    QTest::newRow("needs a newer one beside ours") << "MixesGenerations"
-                                                   << "7";
-    QTest::newRow("needs 4") << "NeedsGeneration4"
-                             << "4";
+    Row("needs a newer one", "NeedsGeneration7", "7");
+    Row("needs a newer one beside ours", "MixesGenerations", "7");
+    Row("needs 4", "NeedsGeneration4", "4");
     const QString running(qVersion());
     if (!running.startsWith("5.")) {
-        QTest::newRow("built for 5") << "Installed5"
-                                     << "5(\\.[0-9]+)?";
+        Row("built for 5", "Installed5", "5(\\.[0-9]+)?");
     }
     if (!running.startsWith("6.")) {
-        QTest::newRow("built for 6") << "Installed6"
-                                     << "6(\\.[0-9]+)?";
+        Row("built for 6", "Installed6", "6(\\.[0-9]+)?");
     }
 }
 
@@ -240,12 +236,12 @@ void PluginHostTest::PluginThatIsNotReadyIsAskedNothing_data()
 {
     QTest::addColumn<QString>("folder");
     QTest::addColumn<QStringList>("calls");
-    QTest::newRow("no verification") << "NoVerification" << QStringList();
-    QTest::newRow("wrong verification") << "WrongVerification" << QStringList();
-    QTest::newRow("init fails") << "InitFails"
-                                << (QStringList() << "InitFails made"
-                                                  << "InitFails Init"
-                                                  << "InitFails deleted");
+    Row("no verification", "NoVerification", QStringList());
+    Row("wrong verification", "WrongVerification", QStringList());
+    Row("init fails", "InitFails",
+        (QStringList() << "InitFails made"
+                       << "InitFails Init"
+                       << "InitFails deleted"));
 }
 
 void PluginHostTest::PluginThatIsNotReadyIsAskedNothing()
@@ -264,9 +260,9 @@ void PluginHostTest::PluginThatIsNotReadyIsAskedNothing()
 void PluginHostTest::LibraryOfRefusedPluginIsUnloaded_data()
 {
     QTest::addColumn<QString>("folder");
-    QTest::newRow("no verification") << "NoVerification";
-    QTest::newRow("wrong verification") << "WrongVerification";
-    QTest::newRow("no entry point") << "NoEntryPoint";
+    Row("no verification", "NoVerification");
+    Row("wrong verification", "WrongVerification");
+    Row("no entry point", "NoEntryPoint");
 }
 
 void PluginHostTest::LibraryOfRefusedPluginIsUnloaded()
@@ -292,9 +288,9 @@ void PluginHostTest::BrokenPluginsDoNotHinderOthers()
 void PluginHostTest::ClassIdIsComparedWithoutCase_data()
 {
     QTest::addColumn<QString>("classId");
-    QTest::newRow("as known") << "ID-OF-WORKING";
-    QTest::newRow("lower case") << "id-of-working";
-    QTest::newRow("mixed") << "Id-Of-Working";
+    Row("as known", "ID-OF-WORKING");
+    Row("lower case", "id-of-working");
+    Row("mixed", "Id-Of-Working");
 }
 
 void PluginHostTest::ClassIdIsComparedWithoutCase()
@@ -309,11 +305,11 @@ void PluginHostTest::ClassIdIsComparedWithoutCase()
 void PluginHostTest::LookUpYieldsNull_data()
 {
     QTest::addColumn<QString>("classId");
-    QTest::newRow("unknown id") << "ID-OF-NOBODY";
-    QTest::newRow("empty id") << "";
-    QTest::newRow("not ready") << "ID-OF-INITFAILS";
-    QTest::newRow("the plug-in says false") << "ID-OF-QUERYFAILS";
-    QTest::newRow("the plug-in says true and hands out nothing") << "ID-OF-QUERYNULL";
+    Row("unknown id", "ID-OF-NOBODY");
+    Row("empty id", "");
+    Row("not ready", "ID-OF-INITFAILS");
+    Row("the plug-in says false", "ID-OF-QUERYFAILS");
+    Row("the plug-in says true and hands out nothing", "ID-OF-QUERYNULL");
 }
 
 void PluginHostTest::LookUpYieldsNull()
@@ -414,8 +410,8 @@ void PluginHostTest::WlanPluginsFollowTheChoice_data()
 {
     QTest::addColumn<int>("choice");
     QTest::addColumn<QString>("folders");
-    QTest::newRow("networkmanager") << int(WlanNetworkManager) << "WLANNetworkManager";
-    QTest::newRow("stored") << int(WlanStored) << "WLANStored";
+    Row("networkmanager", int(WlanNetworkManager), "WLANNetworkManager");
+    Row("stored", int(WlanStored), "WLANStored");
 }
 
 void PluginHostTest::WlanPluginsFollowTheChoice()

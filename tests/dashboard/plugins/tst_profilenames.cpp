@@ -7,6 +7,7 @@
 #include <OrderFile.h>
 #include <PluginList.h>
 #include <ProfileNames.h>
+#include <Row.h>
 
 #include <QtTest>
 
@@ -132,43 +133,26 @@ void ProfileNamesTest::EntryGetsTheNameOfItsProfile_data()
     QTest::addColumn<QString>("list");
     const QString known = "a Office, b Home, c Phone/2";
     const QString same = "Office, Home, Phone/2";
-    QTest::newRow("no other name") << known << known << same;
-    QTest::newRow("another name") << known << "a Work, b Home, c Phone/2"
-                                  << "Work, Home, Phone/2";
-    QTest::newRow("other case") << known << "a office"
-                                << "office, Home, Phone/2";
-    QTest::newRow("several") << known << "a Work, b Flat, c Modem/2"
-                             << "Work, Flat, Modem/2";
-    QTest::newRow("names swapped") << known << "a Home, b Office"
-                                   << "Home, Office, Phone/2";
-    QTest::newRow("names passed on") << known << "a Home, b Flat"
-                                     << "Home, Flat, Phone/2";
-    QTest::newRow("name of a listed one") << known << "a Home, b Home" << same;
-    QTest::newRow("name of a listed one without a profile") << "a Office"
-                                                            << "a Home" << same;
-    QTest::newRow("same name for two") << known << "a Flat, b Flat" << same;
-    QTest::newRow("passed on to a name that is taken") << known << "a Home, b Phone, d Office"
-                                                       << "Home, Phone, Phone/2";
-    QTest::newRow("name of another kind") << known << "a Phone"
-                                          << "Phone, Home, Phone/2";
-    QTest::newRow("new profile of the old name") << known << "a Work, d Office"
-                                                 << "Work, Home, Phone/2";
-    QTest::newRow("another profile of that name") << "a Office, d Office"
-                                                  << "a Work, d Office" << same;
-    QTest::newRow("both of that name") << "a Office, d Office"
-                                       << "a Work, d Work"
-                                       << "Work, Home, Phone/2";
-    QTest::newRow("both, to several names") << "a Office, d Office"
-                                            << "a Work, d Job" << same;
-    QTest::newRow("the other one has gone") << "a Office, d Office"
-                                            << "a Work"
-                                            << "Work, Home, Phone/2";
-    QTest::newRow("profile has gone") << known << "b Home, c Phone/2" << same;
-    QTest::newRow("not known before") << ""
-                                      << "a Work" << same;
-    QTest::newRow("not in the list") << "a Café"
-                                     << "a Work" << same;
-    QTest::newRow("name that no list can have") << known << QString("a Wo%1rk").arg(QChar(1)) << same;
+    Row("no other name", known, known, same);
+    Row("another name", known, "a Work, b Home, c Phone/2", "Work, Home, Phone/2");
+    Row("other case", known, "a office", "office, Home, Phone/2");
+    Row("several", known, "a Work, b Flat, c Modem/2", "Work, Flat, Modem/2");
+    Row("names swapped", known, "a Home, b Office", "Home, Office, Phone/2");
+    Row("names passed on", known, "a Home, b Flat", "Home, Flat, Phone/2");
+    Row("name of a listed one", known, "a Home, b Home", same);
+    Row("name of a listed one without a profile", "a Office", "a Home", same);
+    Row("same name for two", known, "a Flat, b Flat", same);
+    Row("passed on to a name that is taken", known, "a Home, b Phone, d Office", "Home, Phone, Phone/2");
+    Row("name of another kind", known, "a Phone", "Phone, Home, Phone/2");
+    Row("new profile of the old name", known, "a Work, d Office", "Work, Home, Phone/2");
+    Row("another profile of that name", "a Office, d Office", "a Work, d Office", same);
+    Row("both of that name", "a Office, d Office", "a Work, d Work", "Work, Home, Phone/2");
+    Row("both, to several names", "a Office, d Office", "a Work, d Job", same);
+    Row("the other one has gone", "a Office, d Office", "a Work", "Work, Home, Phone/2");
+    Row("profile has gone", known, "b Home, c Phone/2", same);
+    Row("not known before", "", "a Work", same);
+    Row("not in the list", "a Café", "a Work", same);
+    Row("name that no list can have", known, QString("a Wo%1rk").arg(QChar(1)), same);
 }
 
 void ProfileNamesTest::EntryGetsTheNameOfItsProfile()
@@ -185,18 +169,10 @@ void ProfileNamesTest::WhatIsKnownAfterwards_data()
     QTest::addColumn<QString>("known");
     QTest::addColumn<QString>("profiles");
     QTest::addColumn<QString>("after");
-    QTest::newRow("listed") << ""
-                            << "a Office, d Café"
-                            << "a Office";
-    QTest::newRow("name that was not taken over") << "a Office"
-                                                  << "a Work"
-                                                  << "a Work";
-    QTest::newRow("profile is missing") << "a Office"
-                                        << "b Home"
-                                        << "a Office, b Home";
-    QTest::newRow("profile and entry are missing") << "a Work"
-                                                   << "b Home"
-                                                   << "b Home";
+    Row("listed", "", "a Office, d Café", "a Office");
+    Row("name that was not taken over", "a Office", "a Work", "a Work");
+    Row("profile is missing", "a Office", "b Home", "a Office, b Home");
+    Row("profile and entry are missing", "a Work", "b Home", "b Home");
 }
 
 void ProfileNamesTest::WhatIsKnownAfterwards()

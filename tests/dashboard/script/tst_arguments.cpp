@@ -1,4 +1,5 @@
 #include <Arguments.h>
+#include <Row.h>
 
 #include <QtTest>
 
@@ -38,23 +39,21 @@ void ArgumentsTest::ValuesAreTaken_data()
     QTest::addColumn<QStringList>("given");
     QTest::addColumn<QString>("language");
     QTest::addColumn<QString>("libraryPath");
-    QTest::newRow("apart") << (QStringList() << "--language"
-                                             << "ar")
-                           << "ar"
-                           << "";
-    QTest::newRow("with equals sign") << (QStringList() << "--library-path=/tmp/a b") << ""
-                                      << "/tmp/a b";
-    QTest::newRow("both") << (QStringList() << "--library-path"
-                                            << "x=y"
-                                            << "--language=he")
-                          << "he"
-                          << "x=y";
-    QTest::newRow("value with equals sign") << (QStringList() << "--library-path=a=b") << ""
-                                            << "a=b";
-    QTest::newRow("value with a dash") << (QStringList() << "--library-path"
-                                                         << "-d")
-                                       << ""
-                                       << "-d";
+    Row("apart",
+        (QStringList() << "--language"
+                       << "ar"),
+        "ar", "");
+    Row("with equals sign", (QStringList() << "--library-path=/tmp/a b"), "", "/tmp/a b");
+    Row("both",
+        (QStringList() << "--library-path"
+                       << "x=y"
+                       << "--language=he"),
+        "he", "x=y");
+    Row("value with equals sign", (QStringList() << "--library-path=a=b"), "", "a=b");
+    Row("value with a dash",
+        (QStringList() << "--library-path"
+                       << "-d"),
+        "", "-d");
 }
 
 void ArgumentsTest::ValuesAreTaken()
@@ -119,35 +118,37 @@ void ArgumentsTest::RefusalNamesWhatIsWrong_data()
 {
     QTest::addColumn<QStringList>("given");
     QTest::addColumn<QString>("named");
-    QTest::newRow("unknown") << (QStringList() << "--fast") << "--fast";
-    QTest::newRow("unknown part") << QStringList("--show=list") << "--show is connect or settings";
-    QTest::newRow("part of no window")
-        << QStringList({"--show=connect", "--list"}) << "--show opens a window";
-    QTest::newRow("no place") << QStringList({"--move", "Home"}) << "--move needs a place";
-    QTest::newRow("place 0") << QStringList({"--move", "Home", "0"}) << "not \"0\"";
-    QTest::newRow("place below the first") << QStringList({"--move", "Home", "-1"}) << "not \"-1\"";
-    QTest::newRow("place with more") << QStringList({"--move", "Home", "2x"}) << "not \"2x\"";
-    QTest::newRow("empty place") << QStringList({"--move", "Home", ""}) << "--move needs a place";
-    QTest::newRow("place of another script")
-        << QStringList({"--move", "Home", QString::fromUtf8("٢")}) << "--move needs a place";
-    QTest::newRow("no file") << QStringList("--export") << "--export";
-    QTest::newRow("undo of what") << QStringList("--undo=Home") << "--undo takes no value";
-    QTest::newRow("agent and more") << QStringList({"--agent", "--list"}) << "--agent";
-    QTest::newRow("unknown with value") << (QStringList() << "--fast=1") << "--fast";
-    QTest::newRow("unknown short") << (QStringList() << "-x") << "-x";
-    QTest::newRow("shortened") << (QStringList() << "--lang"
-                                                 << "ar")
-                               << "--lang";
-    QTest::newRow("no value at the end") << (QStringList() << "--language") << "--language";
-    QTest::newRow("option in place of the value") << (QStringList() << "--wlan"
-                                                                    << "--help")
-                                                  << "--wlan";
-    QTest::newRow("empty value") << (QStringList() << "--library-path=") << "--library-path";
-    QTest::newRow("empty argument as value") << (QStringList() << "--library-path"
-                                                               << "")
-                                             << "--library-path";
-    QTest::newRow("no source of networks") << QStringList("--wlan") << "--wlan";
-    QTest::newRow("no option") << (QStringList() << "Priority.xml") << "Priority.xml";
+    Row("unknown", (QStringList() << "--fast"), "--fast");
+    Row("unknown part", QStringList("--show=list"), "--show is connect or settings");
+    Row("part of no window", QStringList({"--show=connect", "--list"}), "--show opens a window");
+    Row("no place", QStringList({"--move", "Home"}), "--move needs a place");
+    Row("place 0", QStringList({"--move", "Home", "0"}), "not \"0\"");
+    Row("place below the first", QStringList({"--move", "Home", "-1"}), "not \"-1\"");
+    Row("place with more", QStringList({"--move", "Home", "2x"}), "not \"2x\"");
+    Row("empty place", QStringList({"--move", "Home", ""}), "--move needs a place");
+    Row("place of another script", QStringList({"--move", "Home", QString::fromUtf8("٢")}),
+        "--move needs a place");
+    Row("no file", QStringList("--export"), "--export");
+    Row("undo of what", QStringList("--undo=Home"), "--undo takes no value");
+    Row("agent and more", QStringList({"--agent", "--list"}), "--agent");
+    Row("unknown with value", (QStringList() << "--fast=1"), "--fast");
+    Row("unknown short", (QStringList() << "-x"), "-x");
+    Row("shortened",
+        (QStringList() << "--lang"
+                       << "ar"),
+        "--lang");
+    Row("no value at the end", (QStringList() << "--language"), "--language");
+    Row("option in place of the value",
+        (QStringList() << "--wlan"
+                       << "--help"),
+        "--wlan");
+    Row("empty value", (QStringList() << "--library-path="), "--library-path");
+    Row("empty argument as value",
+        (QStringList() << "--library-path"
+                       << ""),
+        "--library-path");
+    Row("no source of networks", QStringList("--wlan"), "--wlan");
+    Row("no option", (QStringList() << "Priority.xml"), "Priority.xml");
 }
 
 void ArgumentsTest::RefusalNamesWhatIsWrong()
@@ -164,13 +165,14 @@ void ArgumentsTest::WlanIsChosen_data()
 {
     QTest::addColumn<QStringList>("given");
     QTest::addColumn<int>("choice");
-    QTest::newRow("nothing") << QStringList() << int(WlanNetworkManager);
-    QTest::newRow("auto") << QStringList("--wlan=auto") << int(WlanNetworkManager);
-    QTest::newRow("stored") << (QStringList() << "--wlan"
-                                              << "stored")
-                            << int(WlanStored);
-    QTest::newRow("networkmanager") << QStringList("--wlan=networkmanager") << int(WlanNetworkManager);
-    QTest::newRow("demo") << QStringList("--demo") << int(WlanStored);
+    Row("nothing", QStringList(), int(WlanNetworkManager));
+    Row("auto", QStringList("--wlan=auto"), int(WlanNetworkManager));
+    Row("stored",
+        (QStringList() << "--wlan"
+                       << "stored"),
+        int(WlanStored));
+    Row("networkmanager", QStringList("--wlan=networkmanager"), int(WlanNetworkManager));
+    Row("demo", QStringList("--demo"), int(WlanStored));
 }
 
 void ArgumentsTest::WlanIsChosen()
@@ -185,13 +187,14 @@ void ArgumentsTest::WlanIsRefused_data()
 {
     QTest::addColumn<QStringList>("given");
     QTest::addColumn<QString>("told");
-    QTest::newRow("unknown word") << QStringList("--wlan=wicd")
-                                  << "--wlan is networkmanager or stored, not \"wicd\"; see --help";
-    QTest::newRow("other case") << QStringList("--wlan=NetworkManager")
-                                << "--wlan is networkmanager or stored, not \"NetworkManager\"; see --help";
-    QTest::newRow("with the demo") << (QStringList() << "--demo"
-                                                     << "--wlan=networkmanager")
-                                   << "--demo has networks of its own: leave --wlan out; see --help";
+    Row("unknown word", QStringList("--wlan=wicd"),
+        "--wlan is networkmanager or stored, not \"wicd\"; see --help");
+    Row("other case", QStringList("--wlan=NetworkManager"),
+        "--wlan is networkmanager or stored, not \"NetworkManager\"; see --help");
+    Row("with the demo",
+        (QStringList() << "--demo"
+                       << "--wlan=networkmanager"),
+        "--demo has networks of its own: leave --wlan out; see --help");
 }
 
 void ArgumentsTest::WlanIsRefused()
@@ -214,16 +217,16 @@ void ArgumentsTest::HelpCountsBeforeWhatFollows()
 void ArgumentsTest::HelpNamesEveryOption_data()
 {
     QTest::addColumn<QString>("option");
-    QTest::newRow("language") << "--language";
-    QTest::newRow("library path") << "--library-path";
-    QTest::newRow("list") << "--list";
-    QTest::newRow("check") << "--check";
-    QTest::newRow("add") << "--add";
-    QTest::newRow("add on top") << "--add-top";
-    QTest::newRow("wlan") << "--wlan";
-    QTest::newRow("show") << "--show";
-    QTest::newRow("version") << "--version";
-    QTest::newRow("help") << "--help";
+    Row("language", "--language");
+    Row("library path", "--library-path");
+    Row("list", "--list");
+    Row("check", "--check");
+    Row("add", "--add");
+    Row("add on top", "--add-top");
+    Row("wlan", "--wlan");
+    Row("show", "--show");
+    Row("version", "--version");
+    Row("help", "--help");
 }
 
 void ArgumentsTest::HelpNamesEveryOption()

@@ -6,6 +6,7 @@
 #include <MainWindow.h>
 #include <NetworkList.h>
 #include <PluginHost.h>
+#include <Row.h>
 #include <TemporaryDirectory.h>
 #include <TraceLog.h>
 
@@ -184,14 +185,14 @@ void CommandsTest::NameStaysInItsColumn()
 void CommandsTest::ListedEntryCanBeGivenBack_data()
 {
     QTest::addColumn<QString>("entry");
-    QTest::newRow("Wi-Fi") << "Office/1";
-    QTest::newRow("mobile") << "Phone/2";
-    QTest::newRow("mobile of another type") << "Phone/0";
-    QTest::newRow("colons") << "a:b:2/1";
-    QTest::newRow("backslash") << "a\\tb/1";
-    QTest::newRow("tab") << "a&#9;b/1";
-    QTest::newRow("leading dashes") << "--list/1";
-    QTest::newRow("blanks around") << "  a  b  /2";
+    Row("Wi-Fi", "Office/1");
+    Row("mobile", "Phone/2");
+    Row("mobile of another type", "Phone/0");
+    Row("colons", "a:b:2/1");
+    Row("backslash", "a\\tb/1");
+    Row("tab", "a&#9;b/1");
+    Row("leading dashes", "--list/1");
+    Row("blanks around", "  a  b  /2");
 }
 
 /** As the manual tells scripts to do it. */
@@ -259,45 +260,26 @@ void CommandsTest::TypeFollowsTheLastColon_data()
 {
     QTest::addColumn<QString>("given");
     QTest::addColumn<QString>("listed");
-    QTest::newRow("none") << "Home"
-                          << "1\tHome";
-    QTest::newRow("wifi") << "Home:wifi"
-                          << "1\tHome";
-    QTest::newRow("1") << "Home:1"
-                       << "1\tHome";
-    QTest::newRow("mobile") << "Phone:mobile"
-                            << "2\tPhone";
-    QTest::newRow("2") << "Phone:2"
-                       << "2\tPhone";
-    QTest::newRow("another digit") << "Phone:0"
-                                   << "0\tPhone";
-    QTest::newRow("no type behind the colon") << "Home:net"
-                                              << "1\tHome:net";
-    QTest::newRow("capitals") << "Home:WIFI"
-                              << "1\tHome:WIFI";
-    QTest::newRow("two digits") << "00:11:22:33:44:55"
-                                << "1\t00:11:22:33:44:55";
-    QTest::newRow("sign") << "Home:-1"
-                          << "1\tHome:-1";
-    QTest::newRow("digit of another script") << QString::fromUtf8("Home:١") << QString::fromUtf8("1\tHome:١");
-    QTest::newRow("blank behind the colon") << "Home: 2"
-                                            << "1\tHome: 2";
-    QTest::newRow("nothing behind the colon") << "Home:"
-                                              << "1\tHome:";
-    QTest::newRow("only a colon") << ":"
-                                  << "1\t:";
-    QTest::newRow("colons and a type") << "a:b:mobile"
-                                       << "2\ta:b";
-    QTest::newRow("a type in the name") << "a:2:wifi"
-                                        << "1\ta:2";
-    QTest::newRow("two colons and a type") << "a::2"
-                                           << "2\ta:";
-    QTest::newRow("name that is a type") << "wifi"
-                                         << "1\twifi";
-    QTest::newRow("equals sign") << "a=b"
-                                 << "1\ta=b";
-    QTest::newRow("dash") << "-x"
-                          << "1\t-x";
+    Row("none", "Home", "1\tHome");
+    Row("wifi", "Home:wifi", "1\tHome");
+    Row("1", "Home:1", "1\tHome");
+    Row("mobile", "Phone:mobile", "2\tPhone");
+    Row("2", "Phone:2", "2\tPhone");
+    Row("another digit", "Phone:0", "0\tPhone");
+    Row("no type behind the colon", "Home:net", "1\tHome:net");
+    Row("capitals", "Home:WIFI", "1\tHome:WIFI");
+    Row("two digits", "00:11:22:33:44:55", "1\t00:11:22:33:44:55");
+    Row("sign", "Home:-1", "1\tHome:-1");
+    Row("digit of another script", QString::fromUtf8("Home:١"), QString::fromUtf8("1\tHome:١"));
+    Row("blank behind the colon", "Home: 2", "1\tHome: 2");
+    Row("nothing behind the colon", "Home:", "1\tHome:");
+    Row("only a colon", ":", "1\t:");
+    Row("colons and a type", "a:b:mobile", "2\ta:b");
+    Row("a type in the name", "a:2:wifi", "1\ta:2");
+    Row("two colons and a type", "a::2", "2\ta:");
+    Row("name that is a type", "wifi", "1\twifi");
+    Row("equals sign", "a=b", "1\ta=b");
+    Row("dash", "-x", "1\t-x");
 }
 
 void CommandsTest::TypeFollowsTheLastColon()
@@ -312,21 +294,21 @@ void CommandsTest::TypeFollowsTheLastColon()
 void CommandsTest::NameIsStoredAsGiven_data()
 {
     QTest::addColumn<QString>("name");
-    QTest::newRow("markup") << "<b>&amp;\"'";
-    QTest::newRow("tab") << "a\tb";
-    QTest::newRow("line feed") << "a\nb";
-    QTest::newRow("carriage return") << "a\rb";
-    QTest::newRow("blanks") << "  a  b  ";
-    QTest::newRow("one blank") << " ";
-    QTest::newRow("percent signs") << "%1 %s %n %2";
-    QTest::newRow("accents") << QString::fromUtf8("Café");
-    QTest::newRow("right to left") << QString::fromUtf8("شبكة المنزل");
-    QTest::newRow("beyond the basic plane") << QString::fromUtf8("net 😀");
-    QTest::newRow("replacement character") << QString::fromUtf8("a\xef\xbf\xbd");
-    QTest::newRow("delete") << QString("a") + QChar(0x7f);
-    QTest::newRow("byte order mark inside") << QString::fromUtf8("a\xef\xbb\xbf");
-    QTest::newRow("long") << QString(100000, 'x');
-    QTest::newRow("an option's name") << "--list";
+    Row("markup", "<b>&amp;\"'");
+    Row("tab", "a\tb");
+    Row("line feed", "a\nb");
+    Row("carriage return", "a\rb");
+    Row("blanks", "  a  b  ");
+    Row("one blank", " ");
+    Row("percent signs", "%1 %s %n %2");
+    Row("accents", QString::fromUtf8("Café"));
+    Row("right to left", QString::fromUtf8("شبكة المنزل"));
+    Row("beyond the basic plane", QString::fromUtf8("net 😀"));
+    Row("replacement character", QString::fromUtf8("a\xef\xbf\xbd"));
+    Row("delete", QString("a") + QChar(0x7f));
+    Row("byte order mark inside", QString::fromUtf8("a\xef\xbb\xbf"));
+    Row("long", QString(100000, 'x'));
+    Row("an option's name", "--list");
 }
 
 void CommandsTest::NameIsStoredAsGiven()
@@ -347,9 +329,9 @@ void CommandsTest::NameIsStoredAsGiven()
 void CommandsTest::NameIsUtf8InEveryLocale_data()
 {
     QTest::addColumn<QString>("locale");
-    QTest::newRow("UTF-8") << "C.UTF-8";
-    QTest::newRow("C") << "C";
-    QTest::newRow("unknown") << "xx_XX.ISO-8859-1";
+    Row("UTF-8", "C.UTF-8");
+    Row("C", "C");
+    Row("unknown", "xx_XX.ISO-8859-1");
 }
 
 void CommandsTest::NameIsUtf8InEveryLocale()
@@ -458,35 +440,41 @@ void CommandsTest::BadArgumentIsToldInOneLine_data()
 {
     QTest::addColumn<QStringList>("given");
     QTest::addColumn<QString>("told");
-    QTest::newRow("no name") << QStringList("--add") << "--add needs a value";
-    QTest::newRow("no name before another option") << (QStringList() << "--add"
-                                                                     << "--list")
-                                                   << "--add needs a value";
-    QTest::newRow("empty name") << QStringList("--add=") << "--add needs a value";
-    QTest::newRow("empty argument") << (QStringList() << "--add-top"
-                                                      << "")
-                                    << "--add-top needs a value";
-    QTest::newRow("type without a name") << QStringList("--add=:wifi") << "--add needs a name";
-    QTest::newRow("control character") << QStringList("--add=a\x01z") << "\"a\\0001z\"";
-    QTest::newRow("escape character") << QStringList("--add-top=a\x1bz") << "\"a\\0033z\"";
-    QTest::newRow("no character") << QStringList("--add=a" + QString(QChar(0xfffe))) << "can't hold";
-    QTest::newRow("value for --list") << QStringList("--list=1") << "--list takes no value";
-    QTest::newRow("value for --check") << QStringList("--check=") << "--check takes no value";
-    QTest::newRow("value behind --list") << (QStringList() << "--list"
-                                                           << "Home")
-                                         << "\"Home\"";
-    QTest::newRow("shortened option") << QStringList("--ad=Home") << "--ad;";
-    QTest::newRow("option with a line feed") << QStringList("--a\nb") << "--a\\nb";
-    QTest::newRow("lone dashes") << QStringList("--") << "no option --;";
-    QTest::newRow("behind a good command") << (QStringList() << "--add=Home"
-                                                             << "--fast")
-                                           << "--fast";
-    QTest::newRow("unknown language") << (QStringList() << "--list"
-                                                        << "--language=tlh")
-                                      << "\"tlh\"";
-    QTest::newRow("library path that is not there") << (QStringList() << "--list"
-                                                                      << "--library-path=/absent/of course")
-                                                    << "/absent/of course";
+    Row("no name", QStringList("--add"), "--add needs a value");
+    Row("no name before another option",
+        (QStringList() << "--add"
+                       << "--list"),
+        "--add needs a value");
+    Row("empty name", QStringList("--add="), "--add needs a value");
+    Row("empty argument",
+        (QStringList() << "--add-top"
+                       << ""),
+        "--add-top needs a value");
+    Row("type without a name", QStringList("--add=:wifi"), "--add needs a name");
+    Row("control character", QStringList("--add=a\x01z"), "\"a\\0001z\"");
+    Row("escape character", QStringList("--add-top=a\x1bz"), "\"a\\0033z\"");
+    Row("no character", QStringList("--add=a" + QString(QChar(0xfffe))), "can't hold");
+    Row("value for --list", QStringList("--list=1"), "--list takes no value");
+    Row("value for --check", QStringList("--check="), "--check takes no value");
+    Row("value behind --list",
+        (QStringList() << "--list"
+                       << "Home"),
+        "\"Home\"");
+    Row("shortened option", QStringList("--ad=Home"), "--ad;");
+    Row("option with a line feed", QStringList("--a\nb"), "--a\\nb");
+    Row("lone dashes", QStringList("--"), "no option --;");
+    Row("behind a good command",
+        (QStringList() << "--add=Home"
+                       << "--fast"),
+        "--fast");
+    Row("unknown language",
+        (QStringList() << "--list"
+                       << "--language=tlh"),
+        "\"tlh\"");
+    Row("library path that is not there",
+        (QStringList() << "--list"
+                       << "--library-path=/absent/of course"),
+        "/absent/of course");
 }
 
 void CommandsTest::BadArgumentIsToldInOneLine()
@@ -506,10 +494,10 @@ void CommandsTest::BadArgumentIsToldInOneLine()
 void CommandsTest::DamagedFileIsToldWithItsLine_data()
 {
     QTest::addColumn<QString>("command");
-    QTest::newRow("list") << "--list";
-    QTest::newRow("check") << "--check";
-    QTest::newRow("add") << "--add=Office";
-    QTest::newRow("add on top") << "--add-top=Office";
+    Row("list", "--list");
+    Row("check", "--check");
+    Row("add", "--add=Office");
+    Row("add on top", "--add-top=Office");
 }
 
 void CommandsTest::DamagedFileIsToldWithItsLine()
@@ -526,12 +514,12 @@ void CommandsTest::DamagedFileIsToldWithItsLine()
 void CommandsTest::DamagedFileIsLeftAlone_data()
 {
     QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("cut off") << QByteArray("<zeltdoc>\n<profile>\n<item name=\"Home\" type=\"1\"/>\n");
-    QTest::newRow("wrong end") << QByteArray(damagedList);
-    QTest::newRow("empty") << QByteArray("");
-    QTest::newRow("no XML") << QByteArray("Home\nOffice\n");
-    QTest::newRow("binary") << QByteArray("\x00\xff\xfe\x01", 4);
-    QTest::newRow("attribute twice") << QByteArray("<item name=\"a\" name=\"b\"/>");
+    Row("cut off", QByteArray("<zeltdoc>\n<profile>\n<item name=\"Home\" type=\"1\"/>\n"));
+    Row("wrong end", QByteArray(damagedList));
+    Row("empty", QByteArray(""));
+    Row("no XML", QByteArray("Home\nOffice\n"));
+    Row("binary", QByteArray("\x00\xff\xfe\x01", 4));
+    Row("attribute twice", QByteArray("<item name=\"a\" name=\"b\"/>"));
 }
 
 void CommandsTest::DamagedFileIsLeftAlone()
@@ -614,9 +602,9 @@ void CommandsTest::PipeInTheFilesPlaceIsTold()
 void CommandsTest::MissingDataDirectoryIsTold_data()
 {
     QTest::addColumn<QStringList>("environment");
-    QTest::newRow("a file in its place") << QStringList("XDG_DATA_HOME=/dev/null");
-    QTest::newRow("no home") << (QStringList() << "XDG_DATA_HOME="
-                                               << "HOME=");
+    Row("a file in its place", QStringList("XDG_DATA_HOME=/dev/null"));
+    Row("no home", (QStringList() << "XDG_DATA_HOME="
+                                  << "HOME="));
 }
 
 void CommandsTest::MissingDataDirectoryIsTold()
@@ -639,28 +627,17 @@ void CommandsTest::PluginThatIsNotToBeHadIsTold_data()
 {
     QTest::addColumn<QString>("fixture");
     QTest::addColumn<QString>("told");
-    QTest::newRow("missing") << ""
-                             << "was not found";
-    QTest::newRow("no library") << "../../../../Makefile"
-                                << "libPriorityPlugin.so";
-    QTest::newRow("no verification") << "NoVerification"
-                                     << "libPriorityPlugin.so";
-    QTest::newRow("wrong verification") << "WrongVerification"
-                                        << "version=4.6.2";
-    QTest::newRow("no entry point") << "NoEntryPoint"
-                                    << "libPriorityPlugin.so";
-    QTest::newRow("no instance") << "NullInstance"
-                                 << "libPriorityPlugin.so";
-    QTest::newRow("no plug-in") << "NotAPlugin"
-                                << "libPriorityPlugin.so";
-    QTest::newRow("Init fails") << "InitFails"
-                                << "libPriorityPlugin.so";
-    QTest::newRow("no service") << "QueryFails"
-                                << "offers no list";
-    QTest::newRow("null service") << "QueryNull"
-                                  << "offers no list";
-    QTest::newRow("another service") << "Working"
-                                     << "offers no list";
+    Row("missing", "", "was not found");
+    Row("no library", "../../../../Makefile", "libPriorityPlugin.so");
+    Row("no verification", "NoVerification", "libPriorityPlugin.so");
+    Row("wrong verification", "WrongVerification", "version=4.6.2");
+    Row("no entry point", "NoEntryPoint", "libPriorityPlugin.so");
+    Row("no instance", "NullInstance", "libPriorityPlugin.so");
+    Row("no plug-in", "NotAPlugin", "libPriorityPlugin.so");
+    Row("Init fails", "InitFails", "libPriorityPlugin.so");
+    Row("no service", "QueryFails", "offers no list");
+    Row("null service", "QueryNull", "offers no list");
+    Row("another service", "Working", "offers no list");
 }
 
 void CommandsTest::PluginThatIsNotToBeHadIsTold()
@@ -695,8 +672,8 @@ void CommandsTest::PluginThatIsNotToBeHadIsTold()
 void CommandsTest::ChangeWithoutEffectIsTold_data()
 {
     QTest::addColumn<QString>("command");
-    QTest::newRow("add") << "--add=Office";
-    QTest::newRow("add on top") << "--add-top=Office";
+    Row("add", "--add=Office");
+    Row("add on top", "--add-top=Office");
 }
 
 /** The plug-in takes the entry and does nothing. */
@@ -757,8 +734,8 @@ void CommandsTest::ReadOnlyDirectoryIsTold()
 void CommandsTest::OutputThatCannotBeWrittenIsTold_data()
 {
     QTest::addColumn<QString>("command");
-    QTest::newRow("list") << "--list";
-    QTest::newRow("check") << "--check";
+    Row("list", "--list");
+    Row("check", "--check");
 }
 
 void CommandsTest::OutputThatCannotBeWrittenIsTold()
@@ -777,12 +754,12 @@ void CommandsTest::OutputThatCannotBeWrittenIsTold()
 void CommandsTest::NoDisplayIsNeeded_data()
 {
     QTest::addColumn<QStringList>("environment");
-    QTest::newRow("none") << (QStringList() << "QT_QPA_PLATFORM="
-                                            << "DISPLAY=");
-    QTest::newRow("one that is gone") << (QStringList() << "QT_QPA_PLATFORM="
-                                                        << "DISPLAY=:4711");
-    QTest::newRow("a desktop's choice") << (QStringList() << "QT_QPA_PLATFORM=xcb"
-                                                          << "DISPLAY=");
+    Row("none", (QStringList() << "QT_QPA_PLATFORM="
+                               << "DISPLAY="));
+    Row("one that is gone", (QStringList() << "QT_QPA_PLATFORM="
+                                           << "DISPLAY=:4711"));
+    Row("a desktop's choice", (QStringList() << "QT_QPA_PLATFORM=xcb"
+                                             << "DISPLAY="));
 }
 
 void CommandsTest::NoDisplayIsNeeded()

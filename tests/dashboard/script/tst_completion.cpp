@@ -2,6 +2,7 @@
 #include "Lists.h"
 
 #include <OrderFile.h>
+#include <Row.h>
 #include <TemporaryDirectory.h>
 
 #include <QDir>
@@ -39,7 +40,7 @@ void CompletionTest::WordIsCompleted_data()
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QString>("offered");
     const auto add = [](const char *typed, const char *offered) {
-        QTest::newRow(typed) << QString::fromUtf8(typed) << QString::fromUtf8(offered);
+        Row(typed, QString::fromUtf8(typed), QString::fromUtf8(offered));
     };
     add("--und", "--undo");
     add("--re", "--remove --redo --release");

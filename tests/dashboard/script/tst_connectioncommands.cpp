@@ -3,6 +3,7 @@
 
 #include <ConnectionCommands.h>
 #include <HostControl.h>
+#include <Row.h>
 
 #include <QElapsedTimer>
 #include <QTimer>
@@ -69,16 +70,11 @@ void ConnectionCommandsTest::SavedNetworkIsConnected_data()
     QTest::addColumn<QString>("entry");
     QTest::addColumn<QString>("ordered");
     QTest::addColumn<int>("status");
-    QTest::newRow("Wi-Fi") << "Home"
-                           << "1Home" << int(CommandDone);
-    QTest::newRow("mobile broadband") << "Home/2"
-                                      << "2Home" << int(CommandDone);
-    QTest::newRow("out of range, as it may be hidden") << "Far"
-                                                       << "1Far" << int(CommandDone);
-    QTest::newRow("another kind") << "Home/0"
-                                  << "" << int(CommandNothingThere);
-    QTest::newRow("other case") << "home"
-                                << "" << int(CommandNothingThere);
+    Row("Wi-Fi", "Home", "1Home", int(CommandDone));
+    Row("mobile broadband", "Home/2", "2Home", int(CommandDone));
+    Row("out of range, as it may be hidden", "Far", "1Far", int(CommandDone));
+    Row("another kind", "Home/0", "", int(CommandNothingThere));
+    Row("other case", "home", "", int(CommandNothingThere));
 }
 
 void ConnectionCommandsTest::SavedNetworkIsConnected()
@@ -105,25 +101,13 @@ void ConnectionCommandsTest::NetworkInRangeIsJoined_data()
     QTest::addColumn<QString>("inRange");
     QTest::addColumn<QString>("entry");
     QTest::addColumn<QString>("joined");
-    QTest::newRow("open") << "Park 1"
-                          << "Park"
-                          << "0/";
-    QTest::newRow("of mobile broadband") << "Park 1"
-                                         << "Park/2"
-                                         << "";
-    QTest::newRow("another name") << "Park 1"
-                                  << "park"
-                                  << "";
+    Row("open", "Park 1", "Park", "0/");
+    Row("of mobile broadband", "Park 1", "Park/2", "");
+    Row("another name", "Park 1", "park", "");
     // It is refused, as no key is known, rather than connected to a stranger's.
-    QTest::newRow("open one that bears the name of one with a key") << "Park 1, Park 2"
-                                                                    << "Park"
-                                                                    << "1/";
-    QTest::newRow("the same the other way round") << "Park 2, Park 1"
-                                                  << "Park"
-                                                  << "0/";
-    QTest::newRow("one that a profile would join") << "Park 2, Park 1 *"
-                                                   << "Park"
-                                                   << "1/";
+    Row("open one that bears the name of one with a key", "Park 1, Park 2", "Park", "1/");
+    Row("the same the other way round", "Park 2, Park 1", "Park", "0/");
+    Row("one that a profile would join", "Park 2, Park 1 *", "Park", "1/");
 }
 
 void ConnectionCommandsTest::NetworkInRangeIsJoined()
@@ -148,12 +132,12 @@ void ConnectionCommandsTest::RefusalIsAStatus_data()
 {
     QTest::addColumn<int>("refusal");
     QTest::addColumn<int>("status");
-    QTest::newRow("unknown") << int(IConnectionPlugin::RefusedUnknown) << int(CommandNothingThere);
-    QTest::newRow("source") << int(IConnectionPlugin::RefusedSource) << int(CommandNoSource);
-    QTest::newRow("not allowed") << int(IConnectionPlugin::RefusedNotAllowed) << int(CommandNotConnected);
-    QTest::newRow("key") << int(IConnectionPlugin::RefusedKey) << int(CommandNothingThere);
-    QTest::newRow("account") << int(IConnectionPlugin::RefusedAccount) << int(CommandNothingThere);
-    QTest::newRow("of a later version") << -99 << int(CommandNotConnected);
+    Row("unknown", int(IConnectionPlugin::RefusedUnknown), int(CommandNothingThere));
+    Row("source", int(IConnectionPlugin::RefusedSource), int(CommandNoSource));
+    Row("not allowed", int(IConnectionPlugin::RefusedNotAllowed), int(CommandNotConnected));
+    Row("key", int(IConnectionPlugin::RefusedKey), int(CommandNothingThere));
+    Row("account", int(IConnectionPlugin::RefusedAccount), int(CommandNothingThere));
+    Row("of a later version", -99, int(CommandNotConnected));
 }
 
 void ConnectionCommandsTest::RefusalIsAStatus()
@@ -169,11 +153,11 @@ void ConnectionCommandsTest::EndOfAnOrderIsAStatus_data()
     QTest::addColumn<int>("stage");
     QTest::addColumn<int>("failure");
     QTest::addColumn<int>("status");
-    QTest::newRow("connected") << int(StageConnected) << int(FailureNone) << int(CommandDone);
-    QTest::newRow("connected, not saved") << int(StageConnected) << int(FailureNotStored) << int(CommandDone);
-    QTest::newRow("failed") << int(StageFailed) << int(FailureWrongKey) << int(CommandNotConnected);
-    QTest::newRow("cancelled") << int(StageCancelled) << int(FailureNone) << int(CommandNotConnected);
-    QTest::newRow("not known") << int(StageNotKnown) << int(FailureNone) << int(CommandNotConnected);
+    Row("connected", int(StageConnected), int(FailureNone), int(CommandDone));
+    Row("connected, not saved", int(StageConnected), int(FailureNotStored), int(CommandDone));
+    Row("failed", int(StageFailed), int(FailureWrongKey), int(CommandNotConnected));
+    Row("cancelled", int(StageCancelled), int(FailureNone), int(CommandNotConnected));
+    Row("not known", int(StageNotKnown), int(FailureNone), int(CommandNotConnected));
 }
 
 void ConnectionCommandsTest::EndOfAnOrderIsAStatus()
@@ -224,9 +208,9 @@ void ConnectionCommandsTest::SourceIsWaitedFor()
 void ConnectionCommandsTest::SourceThatIsGoneIsToldAtOnce_data()
 {
     QTest::addColumn<int>("kind");
-    QTest::newRow("status") << int(Command::Status);
-    QTest::newRow("connect") << int(Command::Connect);
-    QTest::newRow("disconnect") << int(Command::Disconnect);
+    Row("status", int(Command::Status));
+    Row("connect", int(Command::Connect));
+    Row("disconnect", int(Command::Disconnect));
 }
 
 void ConnectionCommandsTest::SourceThatIsGoneIsToldAtOnce()
@@ -245,13 +229,11 @@ void ConnectionCommandsTest::WhatCarriesTheTrafficIsEnded_data()
     QTest::addColumn<int>("stage");
     QTest::addColumn<QString>("ended");
     QTest::addColumn<int>("status");
-    QTest::newRow("Wi-Fi") << "1" << true << int(StageDisconnected) << "connection 1Home" << int(CommandDone);
-    QTest::newRow("mobile broadband")
-        << "2" << true << int(StageDisconnected) << "connection 2Home" << int(CommandDone);
-    QTest::newRow("cable") << "0" << true << int(StageDisconnected) << "" << int(CommandNothingThere);
-    QTest::newRow("no traffic") << "1" << false << int(StageDisconnected) << "" << int(CommandNothingThere);
-    QTest::newRow("fails") << "1" << true << int(StageFailed) << "connection 1Home"
-                           << int(CommandNotConnected);
+    Row("Wi-Fi", "1", true, int(StageDisconnected), "connection 1Home", int(CommandDone));
+    Row("mobile broadband", "2", true, int(StageDisconnected), "connection 2Home", int(CommandDone));
+    Row("cable", "0", true, int(StageDisconnected), "", int(CommandNothingThere));
+    Row("no traffic", "1", false, int(StageDisconnected), "", int(CommandNothingThere));
+    Row("fails", "1", true, int(StageFailed), "connection 1Home", int(CommandNotConnected));
 }
 
 void ConnectionCommandsTest::WhatCarriesTheTrafficIsEnded()

@@ -4,6 +4,7 @@
 #include <DirectoryLock.h>
 #include <HistoryFile.h>
 #include <OrderFile.h>
+#include <Row.h>
 #include <TemporaryDirectory.h>
 
 #include <QDir>
@@ -82,7 +83,7 @@ void HistoryCommandsTest::ListIsChanged_data()
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("list");
     const auto add = [](const char *name, const QStringList &arguments, const char *list) {
-        QTest::newRow(name) << arguments << QString(list);
+        Row(name, arguments, QString(list));
     };
     add("removed", {"--remove", "B"}, "A, C/2, A, D");
     add("of a type", {"--remove", "C:mobile"}, "A, B, A, D");
@@ -110,10 +111,10 @@ void HistoryCommandsTest::ListIsChanged()
 void HistoryCommandsTest::WhatIsNotListedIsTold_data()
 {
     QTest::addColumn<QStringList>("arguments");
-    QTest::newRow("remove") << QStringList({"--remove", "Office"});
-    QTest::newRow("move") << QStringList({"--move", "Office", "1"});
-    QTest::newRow("other type") << QStringList({"--remove", "A:mobile"});
-    QTest::newRow("other case") << QStringList({"--remove", "a"});
+    Row("remove", QStringList({"--remove", "Office"}));
+    Row("move", QStringList({"--move", "Office", "1"}));
+    Row("other type", QStringList({"--remove", "A:mobile"}));
+    Row("other case", QStringList({"--remove", "a"}));
 }
 
 void HistoryCommandsTest::WhatIsNotListedIsTold()
@@ -169,8 +170,8 @@ void HistoryCommandsTest::MovesOfOneNetworkAreOneStep()
 void HistoryCommandsTest::NothingToUndoIsTold_data()
 {
     QTest::addColumn<QString>("command");
-    QTest::newRow("undo") << "--undo";
-    QTest::newRow("redo") << "--redo";
+    Row("undo", "--undo");
+    Row("redo", "--redo");
 }
 
 void HistoryCommandsTest::NothingToUndoIsTold()
@@ -197,10 +198,10 @@ void HistoryCommandsTest::ExportReplacesListsOnly_data()
 {
     QTest::addColumn<QByteArray>("former");
     QTest::addColumn<int>("status");
-    QTest::newRow("list") << OrderFile::Document(Listed("X")) << 0;
-    QTest::newRow("text") << QByteArray("shopping: milk") << 8;
-    QTest::newRow("other XML") << QByteArray("<html/>") << 8;
-    QTest::newRow("nothing in it") << QByteArray() << 8;
+    Row("list", OrderFile::Document(Listed("X")), 0);
+    Row("text", QByteArray("shopping: milk"), 8);
+    Row("other XML", QByteArray("<html/>"), 8);
+    Row("nothing in it", QByteArray(), 8);
 }
 
 void HistoryCommandsTest::ExportReplacesListsOnly()
@@ -236,10 +237,10 @@ void HistoryCommandsTest::WhatIsNoListIsNotImported_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<int>("status");
-    QTest::newRow("missing") << QByteArray() << 7;
-    QTest::newRow("text") << QByteArray("shopping: milk") << 6;
-    QTest::newRow("cut off") << OrderFile::Document(Listed("X, Y")).left(90) << 6;
-    QTest::newRow("other XML") << QByteArray("<html/>") << 6;
+    Row("missing", QByteArray(), 7);
+    Row("text", QByteArray("shopping: milk"), 6);
+    Row("cut off", OrderFile::Document(Listed("X, Y")).left(90), 6);
+    Row("other XML", QByteArray("<html/>"), 6);
 }
 
 void HistoryCommandsTest::WhatIsNoListIsNotImported()
@@ -260,12 +261,12 @@ void HistoryCommandsTest::WhatIsNoListIsNotImported()
 void HistoryCommandsTest::DamagedListIsLeftAlone_data()
 {
     QTest::addColumn<QStringList>("arguments");
-    QTest::newRow("remove") << QStringList({"--remove", "A"});
-    QTest::newRow("move") << QStringList({"--move", "A", "2"});
-    QTest::newRow("undo") << QStringList({"--undo"});
-    QTest::newRow("redo") << QStringList({"--redo"});
-    QTest::newRow("export") << QStringList({"--export", "MINE"});
-    QTest::newRow("import") << QStringList({"--import", "MINE"});
+    Row("remove", QStringList({"--remove", "A"}));
+    Row("move", QStringList({"--move", "A", "2"}));
+    Row("undo", QStringList({"--undo"}));
+    Row("redo", QStringList({"--redo"}));
+    Row("export", QStringList({"--export", "MINE"}));
+    Row("import", QStringList({"--import", "MINE"}));
 }
 
 void HistoryCommandsTest::DamagedListIsLeftAlone()

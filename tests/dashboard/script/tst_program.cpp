@@ -1,5 +1,6 @@
 #include "DashboardProcess.h"
 
+#include <Row.h>
 #include <TemporaryDirectory.h>
 #include <TextPattern.h>
 
@@ -40,10 +41,8 @@ void ProgramTest::HelpAndVersionArePrinted_data()
 {
     QTest::addColumn<QString>("option");
     QTest::addColumn<QString>("start");
-    QTest::newRow("help") << "--help"
-                          << "Usage: priority-dashboard";
-    QTest::newRow("version") << "--version"
-                             << "priority-dashboard ";
+    Row("help", "--help", "Usage: priority-dashboard");
+    Row("version", "--version", "priority-dashboard ");
 }
 
 void ProgramTest::HelpAndVersionArePrinted()
@@ -60,15 +59,17 @@ void ProgramTest::WhatCannotBeFollowedIsSaidInOneLine_data()
 {
     QTest::addColumn<QStringList>("given");
     QTest::addColumn<QString>("told");
-    QTest::newRow("unknown option") << QStringList("--fast") << "--fast";
-    QTest::newRow("missing value") << QStringList("--wlan") << "--wlan";
-    QTest::newRow("unknown source of networks") << QStringList("--wlan=wicd") << "\"wicd\"";
-    QTest::newRow("unknown language") << (QStringList() << "--language"
-                                                        << "tlh")
-                                      << "\"tlh\"; there are: ar, de, en, ";
-    QTest::newRow("library path that is not there") << (QStringList() << "--library-path"
-                                                                      << "/absent/of course")
-                                                    << "/absent/of course";
+    Row("unknown option", QStringList("--fast"), "--fast");
+    Row("missing value", QStringList("--wlan"), "--wlan");
+    Row("unknown source of networks", QStringList("--wlan=wicd"), "\"wicd\"");
+    Row("unknown language",
+        (QStringList() << "--language"
+                       << "tlh"),
+        "\"tlh\"; there are: ar, de, en, ");
+    Row("library path that is not there",
+        (QStringList() << "--library-path"
+                       << "/absent/of course"),
+        "/absent/of course");
 }
 
 void ProgramTest::WhatCannotBeFollowedIsSaidInOneLine()

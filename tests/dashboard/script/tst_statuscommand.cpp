@@ -1,5 +1,6 @@
 #include "DashboardProcess.h"
 
+#include <Row.h>
 #include <TemporaryDirectory.h>
 
 #include <QDir>
@@ -66,22 +67,19 @@ void StatusCommandTest::StatusTellsHowConnectionsStand_data()
 {
     QTest::addColumn<QString>("arguments");
     QTest::addColumn<QString>("out");
-    QTest::newRow("nothing connected") << "--status"
-                                       << "source\tstored\ntraffic\t-\nchoice\t1\tHome\n";
-    QTest::newRow("connected") << "--connect Café --status"
-                               << "source\tstored\nactive\t1\tCafé\tactivated\ntraffic\t1\tCafé\n"
-                                  "choice\t1\tHome\n";
-    QTest::newRow("two connected")
-        << "--connect=Mobile\u00a0broadband:mobile --connect Café --status"
-        << "source\tstored\nactive\t1\tCafé\tactivated\nactive\t2\tMobile broadband\tactivated\n"
-           "traffic\t1\tCafé\nchoice\t1\tHome\n";
-    QTest::newRow("disconnected") << "--connect Café --disconnect --status"
-                                  << "source\tstored\ntraffic\t-\nchoice\t1\tHome\n";
-    QTest::newRow("the list has changed before") << "--add-top Café --status"
-                                                 << "source\tstored\ntraffic\t-\nchoice\t1\tCafé\n";
-    QTest::newRow("and the list is there afterwards")
-        << "--status --list"
-        << "source\tstored\ntraffic\t-\nchoice\t1\tHome\n1\t1\tOffice\n2\t1\tHome\n3\t1\tCafé\n";
+    Row("nothing connected", "--status", "source\tstored\ntraffic\t-\nchoice\t1\tHome\n");
+    Row("connected", "--connect Café --status",
+        "source\tstored\nactive\t1\tCafé\tactivated\ntraffic\t1\tCafé\n"
+        "choice\t1\tHome\n");
+    Row("two connected", "--connect=Mobile\u00a0broadband:mobile --connect Café --status",
+        "source\tstored\nactive\t1\tCafé\tactivated\nactive\t2\tMobile broadband\tactivated\n"
+        "traffic\t1\tCafé\nchoice\t1\tHome\n");
+    Row("disconnected", "--connect Café --disconnect --status",
+        "source\tstored\ntraffic\t-\nchoice\t1\tHome\n");
+    Row("the list has changed before", "--add-top Café --status",
+        "source\tstored\ntraffic\t-\nchoice\t1\tCafé\n");
+    Row("and the list is there afterwards", "--status --list",
+        "source\tstored\ntraffic\t-\nchoice\t1\tHome\n1\t1\tOffice\n2\t1\tHome\n3\t1\tCafé\n");
 }
 
 void StatusCommandTest::StatusTellsHowConnectionsStand()
@@ -101,23 +99,16 @@ void StatusCommandTest::ConnectTellsHowItEnded_data()
     QTest::addColumn<QString>("arguments");
     QTest::addColumn<int>("status");
     QTest::addColumn<QString>("problem");
-    QTest::newRow("saved") << "--connect Café" << 0 << "";
-    QTest::newRow("open, in range, not saved") << "--connect Library" << 0 << "";
-    QTest::newRow("key refused") << "--connect Home:wifi" << 13
-                                 << "\"Home\" was not connected: the key was refused";
-    QTest::newRow("out of range") << "--connect Office" << 13
-                                  << "\"Office\" was not connected: it did not answer";
-    QTest::newRow("needs a key") << "--connect Neighbour" << 12
-                                 << "\"Neighbour\" needs a key; set it up first";
-    QTest::newRow("needs an account")
-        << "--connect Campus" << 12 << "\"Campus\" needs an account; set it up first";
-    QTest::newRow("nothing of that name")
-        << "--connect Nowhere" << 12 << "nothing called \"Nowhere\" is saved or in range";
-    QTest::newRow("of another type") << "--connect Café:mobile" << 12
-                                     << "nothing called \"Café\" is saved or in range";
-    QTest::newRow("nothing to disconnect") << "--disconnect" << 12 << "nothing is connected";
-    QTest::newRow("the first failure is the last command")
-        << "--disconnect --status" << 12 << "nothing is connected";
+    Row("saved", "--connect Café", 0, "");
+    Row("open, in range, not saved", "--connect Library", 0, "");
+    Row("key refused", "--connect Home:wifi", 13, "\"Home\" was not connected: the key was refused");
+    Row("out of range", "--connect Office", 13, "\"Office\" was not connected: it did not answer");
+    Row("needs a key", "--connect Neighbour", 12, "\"Neighbour\" needs a key; set it up first");
+    Row("needs an account", "--connect Campus", 12, "\"Campus\" needs an account; set it up first");
+    Row("nothing of that name", "--connect Nowhere", 12, "nothing called \"Nowhere\" is saved or in range");
+    Row("of another type", "--connect Café:mobile", 12, "nothing called \"Café\" is saved or in range");
+    Row("nothing to disconnect", "--disconnect", 12, "nothing is connected");
+    Row("the first failure is the last command", "--disconnect --status", 12, "nothing is connected");
 }
 
 void StatusCommandTest::ConnectTellsHowItEnded()
@@ -152,30 +143,25 @@ void StatusCommandTest::AnswersAreJsonWhenAskedFor_data()
     QTest::addColumn<QString>("arguments");
     QTest::addColumn<QString>("json");
     QTest::addColumn<int>("status");
-    QTest::newRow("list") << "--list --json"
-                          << R"({"entries":[{"position":1,"type":"1","name":"Office"},
+    Row("list", "--list --json", R"({"entries":[{"position":1,"type":"1","name":"Office"},
                                  {"position":2,"type":"1","name":"Home"},
-                                 {"position":3,"type":"1","name":"Café"}]})"
-                          << 0;
-    QTest::newRow("name that is escaped elsewhere")
-        << "--json --add-top=a\\\tb:mobile --list"
-        << R"({"entries":[{"position":1,"type":"2","name":"a\\\tb"},
+                                 {"position":3,"type":"1","name":"Café"}]})",
+        0);
+    Row("name that is escaped elsewhere", "--json --add-top=a\\\tb:mobile --list",
+        R"({"entries":[{"position":1,"type":"2","name":"a\\\tb"},
                                  {"position":2,"type":"1","name":"Office"},
                                  {"position":3,"type":"1","name":"Home"},
-                                 {"position":4,"type":"1","name":"Café"}]})"
-        << 0;
-    QTest::newRow("check") << "--json --check"
-                           << R"({"file":"FILE","state":"readable","entries":3,"repeated":[]})" << 0;
-    QTest::newRow("status") << "--json --status"
-                            << R"({"source":"stored","active":[],"traffic":null,
-                                   "choice":{"type":"1","name":"Home"}})"
-                            << 0;
-    QTest::newRow("status while connected") << "--json --connect Café --status"
-                                            << R"({"source":"stored",
+                                 {"position":4,"type":"1","name":"Café"}]})",
+        0);
+    Row("check", "--json --check", R"({"file":"FILE","state":"readable","entries":3,"repeated":[]})", 0);
+    Row("status", "--json --status", R"({"source":"stored","active":[],"traffic":null,
+                                   "choice":{"type":"1","name":"Home"}})",
+        0);
+    Row("status while connected", "--json --connect Café --status", R"({"source":"stored",
                                    "active":[{"type":"1","name":"Café","state":"activated"}],
                                    "traffic":{"type":"1","name":"Café"},
-                                   "choice":{"type":"1","name":"Home"}})"
-                                            << 0;
+                                   "choice":{"type":"1","name":"Home"}})",
+        0);
 }
 
 void StatusCommandTest::AnswersAreJsonWhenAskedFor()
@@ -205,15 +191,15 @@ void StatusCommandTest::DemoTouchesNothingOfTheUsers()
 void StatusCommandTest::OptionThatHasNothingToDoIsRefused_data()
 {
     QTest::addColumn<QString>("arguments");
-    QTest::newRow("JSON without an answer") << "--json --add Park";
-    QTest::newRow("JSON for a window") << "--json";
-    QTest::newRow("JSON with a value") << "--json=yes --list";
-    QTest::newRow("nothing to wait for") << "--wait 5 --list";
-    QTest::newRow("no seconds") << "--wait 0 --connect Café";
-    QTest::newRow("no number") << "--wait long --connect Café";
-    QTest::newRow("too many seconds") << "--wait 86401 --connect Café";
-    QTest::newRow("no name") << "--connect";
-    QTest::newRow("disconnect with a name") << "--disconnect=Café";
+    Row("JSON without an answer", "--json --add Park");
+    Row("JSON for a window", "--json");
+    Row("JSON with a value", "--json=yes --list");
+    Row("nothing to wait for", "--wait 5 --list");
+    Row("no seconds", "--wait 0 --connect Café");
+    Row("no number", "--wait long --connect Café");
+    Row("too many seconds", "--wait 86401 --connect Café");
+    Row("no name", "--connect");
+    Row("disconnect with a name", "--disconnect=Café");
 }
 
 void StatusCommandTest::OptionThatHasNothingToDoIsRefused()

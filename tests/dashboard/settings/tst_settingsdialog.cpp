@@ -8,6 +8,7 @@
 #include <ListRules.h>
 #include <PluginHost.h>
 #include <PluginPage.h>
+#include <Row.h>
 #include <RulesPage.h>
 #include <SettingsDialog.h>
 #include <TemporaryDirectory.h>
@@ -191,9 +192,9 @@ void SettingsDialogTest::OkReachesShownPages()
 void SettingsDialogTest::EveryOtherWayOutIsCancel_data()
 {
     QTest::addColumn<QString>("way");
-    QTest::newRow("Cancel") << "button";
-    QTest::newRow("Escape") << "escape";
-    QTest::newRow("close button of the window") << "close";
+    Row("Cancel", "button");
+    Row("Escape", "escape");
+    Row("close button of the window", "close");
 }
 
 void SettingsDialogTest::EveryOtherWayOutIsCancel()
@@ -315,12 +316,12 @@ void SettingsDialogTest::PageIsOffered_data()
     QTest::addColumn<QString>("folder");
     QTest::addColumn<bool>("hasSettingsPage");
     QTest::addColumn<bool>("isOffered");
-    QTest::newRow("missing") << "Absent" << true << true;
-    QTest::newRow("missing, without page") << "Absent" << false << true;
-    QTest::newRow("hands out nothing") << "QueryNull" << true << true;
-    QTest::newRow("says false") << "QueryFails" << true << true;
-    QTest::newRow("hands out something else") << "Working" << true << true;
-    QTest::newRow("ready, without page") << "QueryFails" << false << false;
+    Row("missing", "Absent", true, true);
+    Row("missing, without page", "Absent", false, true);
+    Row("hands out nothing", "QueryNull", true, true);
+    Row("says false", "QueryFails", true, true);
+    Row("hands out something else", "Working", true, true);
+    Row("ready, without page", "QueryFails", false, false);
 }
 
 void SettingsDialogTest::PageIsOffered()
@@ -385,8 +386,8 @@ void SettingsDialogTest::LanguageGoesBackUnlessOk_data()
 {
     QTest::addColumn<bool>("isOk");
     QTest::addColumn<QString>("after");
-    QTest::newRow("OK") << true << "ar";
-    QTest::newRow("Cancel") << false << "en";
+    Row("OK", true, "ar");
+    Row("Cancel", false, "en");
 }
 
 void SettingsDialogTest::LanguageGoesBackUnlessOk()
@@ -407,8 +408,8 @@ void SettingsDialogTest::PlaceOfNewNetworksIsKeptUnlessCancelled_data()
 {
     QTest::addColumn<bool>("isOk");
     QTest::addColumn<int>("after");
-    QTest::newRow("OK") << true << int(ListRules::NewNotInTheList);
-    QTest::newRow("Cancel") << false << int(ListRules::NewAtTheTop);
+    Row("OK", true, int(ListRules::NewNotInTheList));
+    Row("Cancel", false, int(ListRules::NewAtTheTop));
 }
 
 void SettingsDialogTest::PlaceOfNewNetworksIsKeptUnlessCancelled()
@@ -487,8 +488,8 @@ void SettingsDialogTest::RuleIsKeptUnlessCancelled()
 void SettingsDialogTest::AgentIsStartedWithTheSessionUnlessCancelled_data()
 {
     QTest::addColumn<bool>("isOk");
-    QTest::newRow("OK") << true;
-    QTest::newRow("Cancel") << false;
+    Row("OK", true);
+    Row("Cancel", false);
 }
 
 void SettingsDialogTest::AgentIsStartedWithTheSessionUnlessCancelled()

@@ -1,6 +1,7 @@
 #include "Eventually.h"
 
 #include <HostControl.h>
+#include <Row.h>
 #include <TemporaryDirectory.h>
 #include <TextPattern.h>
 #include <TraceLog.h>
@@ -160,8 +161,8 @@ void TraceLogTest::OnlyTheLastLinesAreKept()
 void TraceLogTest::FileThatCannotBeWrittenIsSaidOnce_data()
 {
     QTest::addColumn<QString>("name");
-    QTest::newRow("no directory for it") << "absent/dashboard.log";
-    QTest::newRow("a directory in its place") << "folder";
+    Row("no directory for it", "absent/dashboard.log");
+    Row("a directory in its place", "folder");
 }
 
 void TraceLogTest::FileThatCannotBeWrittenIsSaidOnce()

@@ -9,6 +9,7 @@
 #include <HostControl.h>
 #include <ListRules.h>
 #include <NetworkDelegate.h>
+#include <Row.h>
 #include <TemporaryDirectory.h>
 #include <WindowActivation.h>
 
@@ -301,11 +302,11 @@ void ConnectDialogTest::KeyIsAskedForWhereItIsNeeded_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<bool>("isAskedFor");
     QTest::addColumn<bool>("canConnect");
-    QTest::newRow("saved") << "Home" << false << true;
-    QTest::newRow("not saved") << "Neighbour" << true << false;
-    QTest::newRow("open") << "Park" << false << true;
-    QTest::newRow("WEP") << "Workshop" << true << false;
-    QTest::newRow("account") << "Campus" << false << false;
+    ::Row("saved", "Home", false, true);
+    ::Row("not saved", "Neighbour", true, false);
+    ::Row("open", "Park", false, true);
+    ::Row("WEP", "Workshop", true, false);
+    ::Row("account", "Campus", false, false);
 }
 
 void ConnectDialogTest::KeyIsAskedForWhereItIsNeeded()
@@ -327,12 +328,9 @@ void ConnectDialogTest::NetworkIsConnected_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("ordered");
-    QTest::newRow("saved") << "Home"
-                           << "id of Home/";
-    QTest::newRow("open") << "Park"
-                          << "id of Park/";
-    QTest::newRow("with a key") << "Neighbour"
-                                << "id of Neighbour/sea-and-sand";
+    ::Row("saved", "Home", "id of Home/");
+    ::Row("open", "Park", "id of Park/");
+    ::Row("with a key", "Neighbour", "id of Neighbour/sea-and-sand");
 }
 
 void ConnectDialogTest::NetworkIsConnected()
@@ -427,8 +425,8 @@ void ConnectDialogTest::FailureOfASavedNetworkTellsWhereItsKeyIsChangedAndWhatIs
 void ConnectDialogTest::WhatIsUnderWayCanBeStopped_data()
 {
     QTest::addColumn<bool>("byKey");
-    QTest::newRow("button") << false;
-    QTest::newRow("Escape") << true;
+    ::Row("button", false);
+    ::Row("Escape", true);
 }
 
 void ConnectDialogTest::WhatIsUnderWayCanBeStopped()
@@ -455,13 +453,12 @@ void ConnectDialogTest::RefusalIsTold_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<int>("refusal");
     QTest::addColumn<QString>("told");
-    QTest::newRow("key") << "Neighbour" << int(IConnectionPlugin::RefusedKey)
-                         << "This is not a valid WPA key. A WPA key has 8 to 63 characters, or 64 ";
-    QTest::newRow("WEP key") << "Workshop" << int(IConnectionPlugin::RefusedKey)
-                             << "This is not a valid WEP key. ";
-    QTest::newRow("not allowed") << "Park" << int(IConnectionPlugin::RefusedNotAllowed)
-                                 << "You are not allowed to do that.";
-    QTest::newRow("unknown") << "Park" << int(IConnectionPlugin::RefusedUnknown) << "Park was not connected.";
+    ::Row("key", "Neighbour", int(IConnectionPlugin::RefusedKey),
+          "This is not a valid WPA key. A WPA key has 8 to 63 characters, or 64 ");
+    ::Row("WEP key", "Workshop", int(IConnectionPlugin::RefusedKey), "This is not a valid WEP key. ");
+    ::Row("not allowed", "Park", int(IConnectionPlugin::RefusedNotAllowed),
+          "You are not allowed to do that.");
+    ::Row("unknown", "Park", int(IConnectionPlugin::RefusedUnknown), "Park was not connected.");
 }
 
 void ConnectDialogTest::RefusalIsTold()
@@ -480,11 +477,11 @@ void ConnectDialogTest::ConnectedNetworkIsPutAtTheEndOfTheList_data()
     QTest::addColumn<QString>("before");
     QTest::addColumn<int>("status");
     QTest::addColumn<QString>("after");
-    QTest::newRow("not listed") << "Office" << int(PriorityRead) << "Office, Park";
-    QTest::newRow("listed") << "Park, Office" << int(PriorityRead) << "Park, Office";
-    QTest::newRow("no list yet") << "" << int(PriorityMissing) << "Park";
-    QTest::newRow("of another type") << "Park/2" << int(PriorityRead) << "Park/2, Park";
-    QTest::newRow("damaged list") << "Office" << int(PriorityDamaged) << "Office";
+    ::Row("not listed", "Office", int(PriorityRead), "Office, Park");
+    ::Row("listed", "Park, Office", int(PriorityRead), "Park, Office");
+    ::Row("no list yet", "", int(PriorityMissing), "Park");
+    ::Row("of another type", "Park/2", int(PriorityRead), "Park/2, Park");
+    ::Row("damaged list", "Office", int(PriorityDamaged), "Office");
 }
 
 void ConnectDialogTest::ConnectedNetworkIsPutAtTheEndOfTheList()
@@ -507,12 +504,10 @@ void ConnectDialogTest::NewNetworkGoesWhereTheUserWantsIt_data()
     QTest::addColumn<int>("place");
     QTest::addColumn<QString>("hint");
     QTest::addColumn<QString>("after");
-    QTest::newRow("at the top") << int(ListRules::NewAtTheTop)
-                                << "A network that is not in your list goes to its top."
-                                << "Park, Office";
-    QTest::newRow("not at all") << int(ListRules::NewNotInTheList)
-                                << "A network that is not in your list stays out of it."
-                                << "Office";
+    ::Row("at the top", int(ListRules::NewAtTheTop), "A network that is not in your list goes to its top.",
+          "Park, Office");
+    ::Row("not at all", int(ListRules::NewNotInTheList),
+          "A network that is not in your list stays out of it.", "Office");
 }
 
 void ConnectDialogTest::NewNetworkGoesWhereTheUserWantsIt()
@@ -543,9 +538,9 @@ void ConnectDialogTest::NetworkThatCouldNotBeSavedIsToldAndNotListed()
 void ConnectDialogTest::OtherWaysOutOrderNothing_data()
 {
     QTest::addColumn<QString>("way");
-    QTest::newRow("Cancel") << "connectCancelButton";
-    QTest::newRow("Escape") << "";
-    QTest::newRow("of the window") << "close";
+    ::Row("Cancel", "connectCancelButton");
+    ::Row("Escape", "");
+    ::Row("of the window", "close");
 }
 
 void ConnectDialogTest::OtherWaysOutOrderNothing()
@@ -604,15 +599,12 @@ void ConnectDialogTest::NetworksAreFoundByAPartOfTheirName_data()
 {
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QString>("found");
-    QTest::newRow("beginning") << "Lib"
-                               << "Library";
-    QTest::newRow("end") << "tion"
-                         << "Station";
-    QTest::newRow("other case") << "OFFICE"
-                                << "Office";
-    QTest::newRow("without the accent") << "cafe" << QString::fromUtf8("Café Süd, Cafeteria");
-    QTest::newRow("without an accent within") << "sud" << QString::fromUtf8("Café Süd");
-    QTest::newRow("with the accent") << QString::fromUtf8("süd") << QString::fromUtf8("Café Süd");
+    ::Row("beginning", "Lib", "Library");
+    ::Row("end", "tion", "Station");
+    ::Row("other case", "OFFICE", "Office");
+    ::Row("without the accent", "cafe", QString::fromUtf8("Café Süd, Cafeteria"));
+    ::Row("without an accent within", "sud", QString::fromUtf8("Café Süd"));
+    ::Row("with the accent", QString::fromUtf8("süd"), QString::fromUtf8("Café Süd"));
 }
 
 void ConnectDialogTest::NetworksAreFoundByAPartOfTheirName()
@@ -673,8 +665,8 @@ void ConnectDialogTest::TextsAndSidesFollowTheLanguage_data()
     QTest::addColumn<QString>("language");
     QTest::addColumn<QString>("connectText");
     QTest::addColumn<QString>("percent");
-    QTest::newRow("Arabic") << "ar" << QString::fromUtf8("اتصال") << QString::fromUtf8("٩٢٪");
-    QTest::newRow("Hebrew") << "he" << QString::fromUtf8("התחברות") << "92%";
+    ::Row("Arabic", "ar", QString::fromUtf8("اتصال"), QString::fromUtf8("٩٢٪"));
+    ::Row("Hebrew", "he", QString::fromUtf8("התחברות"), "92%");
 }
 
 void ConnectDialogTest::TextsAndSidesFollowTheLanguage()

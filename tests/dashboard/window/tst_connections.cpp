@@ -2,6 +2,7 @@
 #include "Lists.h"
 
 #include <NetworkDelegate.h>
+#include <Row.h>
 
 #include <QAction>
 #include <QPushButton>
@@ -100,8 +101,8 @@ void ConnectionsTest::NothingIsAskedWhileNothingChanges()
 void ConnectionsTest::WindowThatNobodySeesIsToldNothing_data()
 {
     QTest::addColumn<bool>("isHidden");
-    QTest::newRow("minimised") << false;
-    QTest::newRow("hidden") << true;
+    Row("minimised", false);
+    Row("hidden", true);
 }
 
 void ConnectionsTest::WindowThatNobodySeesIsToldNothing()
@@ -160,10 +161,10 @@ void ConnectionsTest::SwitchIsThereOnlyForUse_data()
     QTest::addColumn<QString>("inUse");
     QTest::addColumn<bool>("mayConnect");
     QTest::addColumn<bool>("isThere");
-    QTest::newRow("another is in use") << QString::fromUtf8("Café") << true << true;
-    QTest::newRow("nothing is in use") << "" << true << true;
-    QTest::newRow("the choice is in use") << "Home" << true << false;
-    QTest::newRow("the user may not connect") << QString::fromUtf8("Café") << false << false;
+    Row("another is in use", QString::fromUtf8("Café"), true, true);
+    Row("nothing is in use", "", true, true);
+    Row("the choice is in use", "Home", true, false);
+    Row("the user may not connect", QString::fromUtf8("Café"), false, false);
 }
 
 void ConnectionsTest::SwitchIsThereOnlyForUse()
@@ -194,11 +195,11 @@ void ConnectionsTest::RefusedSwitchIsTold_data()
 {
     QTest::addColumn<int>("answer");
     QTest::addColumn<QString>("told");
-    QTest::newRow("not allowed") << int(IConnectionPlugin::RefusedNotAllowed)
-                                 << "Home was not connected. You are not allowed to do that.";
-    QTest::newRow("key") << int(IConnectionPlugin::RefusedKey)
-                         << "Home was not connected. A key is needed, and none is saved.";
-    QTest::newRow("gone") << int(IConnectionPlugin::RefusedUnknown) << "Home was not connected.";
+    Row("not allowed", int(IConnectionPlugin::RefusedNotAllowed),
+        "Home was not connected. You are not allowed to do that.");
+    Row("key", int(IConnectionPlugin::RefusedKey),
+        "Home was not connected. A key is needed, and none is saved.");
+    Row("gone", int(IConnectionPlugin::RefusedUnknown), "Home was not connected.");
 }
 
 void ConnectionsTest::RefusedSwitchIsTold()
@@ -235,9 +236,9 @@ void ConnectionsTest::DoubleClickRow(int row)
 void ConnectionsTest::EntryIsConnected_data()
 {
     QTest::addColumn<int>("key");
-    QTest::newRow("Return") << int(Qt::Key_Return);
-    QTest::newRow("Enter") << int(Qt::Key_Enter);
-    QTest::newRow("double click") << 0;
+    Row("Return", int(Qt::Key_Return));
+    Row("Enter", int(Qt::Key_Enter));
+    Row("double click", 0);
 }
 
 void ConnectionsTest::EntryIsConnected()
@@ -302,12 +303,12 @@ void ConnectionsTest::DisconnectIsThereOnlyForUse_data()
     QTest::addColumn<int>("stage");
     QTest::addColumn<bool>("mayConnect");
     QTest::addColumn<bool>("isThere");
-    QTest::newRow("Wi-Fi") << "1" << int(StageConnected) << true << true;
-    QTest::newRow("mobile broadband") << "2" << int(StageConnected) << true << true;
-    QTest::newRow("coming up") << "1" << int(StageAuthenticating) << true << true;
-    QTest::newRow("going down") << "1" << int(StageDisconnecting) << true << false;
-    QTest::newRow("cable") << "0" << int(StageConnected) << true << false;
-    QTest::newRow("the user may not") << "1" << int(StageConnected) << false << false;
+    Row("Wi-Fi", "1", int(StageConnected), true, true);
+    Row("mobile broadband", "2", int(StageConnected), true, true);
+    Row("coming up", "1", int(StageAuthenticating), true, true);
+    Row("going down", "1", int(StageDisconnecting), true, false);
+    Row("cable", "0", int(StageConnected), true, false);
+    Row("the user may not", "1", int(StageConnected), false, false);
 }
 
 void ConnectionsTest::DisconnectIsThereOnlyForUse()

@@ -9,6 +9,7 @@
 #include <MainWindow.h>
 #include <OrderFile.h>
 #include <PluginObjects.h>
+#include <Row.h>
 #include <TraceLog.h>
 #include <WindowActivation.h>
 
@@ -174,14 +175,10 @@ void DamagedListTest::QuestionComesBeforeWhatCanWrite_data()
     QTest::addColumn<QString>("button");
     QTest::addColumn<QString>("dialog");
     QTest::addColumn<bool>("isSeen");
-    QTest::newRow("settings") << "settingsButton"
-                              << "settingsDialog" << true;
-    QTest::newRow("settings, damage not yet seen") << "settingsButton"
-                                                   << "settingsDialog" << false;
-    QTest::newRow("connect") << "connectButton"
-                             << "connectDialog" << true;
-    QTest::newRow("connect, damage not yet seen") << "connectButton"
-                                                  << "connectDialog" << false;
+    Row("settings", "settingsButton", "settingsDialog", true);
+    Row("settings, damage not yet seen", "settingsButton", "settingsDialog", false);
+    Row("connect", "connectButton", "connectDialog", true);
+    Row("connect, damage not yet seen", "connectButton", "connectDialog", false);
 }
 
 void DamagedListTest::QuestionComesBeforeWhatCanWrite()
@@ -266,8 +263,8 @@ void DamagedListTest::QuestionIsAnsweredByKeys_data()
 {
     QTest::addColumn<int>("tabs");
     QTest::addColumn<QString>("list");
-    QTest::newRow("Return") << 0 << "A, B, C";
-    QTest::newRow("Tab, Return") << 1 << "A, B";
+    Row("Return", 0, "A, B, C");
+    Row("Tab, Return", 1, "A, B");
 }
 
 void DamagedListTest::QuestionIsAnsweredByKeys()
@@ -288,9 +285,9 @@ void DamagedListTest::QuestionIsAnsweredByKeys()
 void DamagedListTest::QuestionThatIsLeftChangesNothing_data()
 {
     QTest::addColumn<QString>("way");
-    QTest::newRow("button") << "button";
-    QTest::newRow("Escape") << "Escape";
-    QTest::newRow("closed") << "closed";
+    Row("button", "button");
+    Row("Escape", "Escape");
+    Row("closed", "closed");
 }
 
 void DamagedListTest::QuestionThatIsLeftChangesNothing()
@@ -348,8 +345,8 @@ void DamagedListTest::FailureIsToldAndTheQuestionStays()
 void DamagedListTest::NothingIsOpenedWithoutACopy_data()
 {
     QTest::addColumn<QString>("button");
-    QTest::newRow("settings") << "settingsButton";
-    QTest::newRow("connect") << "connectButton";
+    Row("settings", "settingsButton");
+    Row("connect", "connectButton");
 }
 
 void DamagedListTest::NothingIsOpenedWithoutACopy()
@@ -381,8 +378,8 @@ void DamagedListTest::NothingIsOpenedOverAListThatCannotBeOpened()
 void DamagedListTest::OkWritesNothingOverAListDamagedMeanwhile_data()
 {
     QTest::addColumn<bool>("byKey");
-    QTest::newRow("button") << false;
-    QTest::newRow("Return") << true;
+    Row("button", false);
+    Row("Return", true);
 }
 
 void DamagedListTest::OkWritesNothingOverAListDamagedMeanwhile()
@@ -419,8 +416,8 @@ void DamagedListTest::DamageIsAskedAboutOverTheOpenPage()
 void DamagedListTest::PageClosesWhenTheListIsToStayDamaged_data()
 {
     QTest::addColumn<QString>("over");
-    QTest::newRow("page") << "";
-    QTest::newRow("dialog of the page") << "newButton";
+    Row("page", "");
+    Row("dialog of the page", "newButton");
 }
 
 void DamagedListTest::PageClosesWhenTheListIsToStayDamaged()

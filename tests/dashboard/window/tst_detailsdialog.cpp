@@ -2,6 +2,7 @@
 #include "Lists.h"
 
 #include <DetailsDialog.h>
+#include <Row.h>
 
 #include <QAction>
 #include <QCheckBox>
@@ -111,9 +112,9 @@ void DetailsDialogTest::EndWish(int stage, int obstacle)
 void DetailsDialogTest::KeyOpensTheDetails_data()
 {
     QTest::addColumn<int>("key");
-    QTest::newRow("Return") << int(Qt::Key_Return);
-    QTest::newRow("Enter") << int(Qt::Key_Enter);
-    QTest::newRow("F9") << int(Qt::Key_F9);
+    Row("Return", int(Qt::Key_Return));
+    Row("Enter", int(Qt::Key_Enter));
+    Row("F9", int(Qt::Key_F9));
 }
 
 void DetailsDialogTest::KeyOpensTheDetails()
@@ -184,15 +185,9 @@ void DetailsDialogTest::DeviceIsTold_data()
     QTest::addColumn<QString>("bound");
     QTest::addColumn<QString>("now");
     QTest::addColumn<QString>("told");
-    QTest::newRow("any") << ""
-                         << ""
-                         << "Any";
-    QTest::newRow("any, one of them now") << ""
-                                          << "wlan0"
-                                          << "Any, at present wlan0";
-    QTest::newRow("bound") << "wlan1"
-                           << "wlan1"
-                           << "Only wlan1";
+    Row("any", "", "", "Any");
+    Row("any, one of them now", "", "wlan0", "Any, at present wlan0");
+    Row("bound", "wlan1", "wlan1", "Only wlan1");
 }
 
 void DetailsDialogTest::DeviceIsTold()
@@ -210,11 +205,11 @@ void DetailsDialogTest::MeteredIsTold_data()
 {
     QTest::addColumn<int>("metered");
     QTest::addColumn<QString>("told");
-    QTest::newRow("yes") << int(ProfileDetails::MeteredYes) << "Yes";
-    QTest::newRow("no") << int(ProfileDetails::MeteredNo) << "No";
-    QTest::newRow("guessed yes") << int(ProfileDetails::MeteredGuessedYes) << "Probably yes";
-    QTest::newRow("guessed no") << int(ProfileDetails::MeteredGuessedNo) << "Probably no";
-    QTest::newRow("a later word") << 99 << QString();
+    Row("yes", int(ProfileDetails::MeteredYes), "Yes");
+    Row("no", int(ProfileDetails::MeteredNo), "No");
+    Row("guessed yes", int(ProfileDetails::MeteredGuessedYes), "Probably yes");
+    Row("guessed no", int(ProfileDetails::MeteredGuessedNo), "Probably no");
+    Row("a later word", 99, QString());
 }
 
 void DetailsDialogTest::MeteredIsTold()
@@ -272,10 +267,9 @@ void DetailsDialogTest::RefusedWishIsTold_data()
     QTest::addColumn<int>("stage");
     QTest::addColumn<int>("obstacle");
     QTest::addColumn<QString>("told");
-    QTest::newRow("not allowed") << int(OrderOutcome::StageOrderDone) << int(ObstacleNotAllowed)
-                                 << "Home still connects by itself. You are not allowed to do that.";
-    QTest::newRow("NetworkManager is gone")
-        << int(OrderOutcome::StageOrderFailed) << -1 << "Home still connects by itself.";
+    Row("not allowed", int(OrderOutcome::StageOrderDone), int(ObstacleNotAllowed),
+        "Home still connects by itself. You are not allowed to do that.");
+    Row("NetworkManager is gone", int(OrderOutcome::StageOrderFailed), -1, "Home still connects by itself.");
 }
 
 void DetailsDialogTest::RefusedWishIsTold()

@@ -4,6 +4,7 @@
 #include <ContractNumbers.h>
 #include <ForgetDialog.h>
 #include <OrderFile.h>
+#include <Row.h>
 
 #include <QAction>
 #include <QFile>
@@ -119,17 +120,15 @@ void ForgetDialogTest::QuestionTellsWhatWillBeDone_data()
     QTest::addColumn<bool>("isInUse");
     QTest::addColumn<QString>("text");
     const QString forGood = QString::fromUtf8(" Its place can be brought back, its key can’t.");
-    QTest::newRow("one") << 1 << false
-                         << "This computer will forget it with its key, and it will leave your list." +
-                                forGood;
-    QTest::newRow("three") << 3 << false
-                           << "This computer will forget all 3 profiles of that name with their keys, and it "
-                              "will leave your list." +
-                                  forGood;
-    QTest::newRow("in use") << 1 << true
-                            << "You are connected to it; the connection will end. This computer will forget "
-                               "it with its key, and it will leave your list." +
-                                   forGood;
+    Row("one", 1, false, "This computer will forget it with its key, and it will leave your list." + forGood);
+    Row("three", 3, false,
+        "This computer will forget all 3 profiles of that name with their keys, and it "
+        "will leave your list." +
+            forGood);
+    Row("in use", 1, true,
+        "You are connected to it; the connection will end. This computer will forget "
+        "it with its key, and it will leave your list." +
+            forGood);
 }
 
 void ForgetDialogTest::QuestionTellsWhatWillBeDone()
@@ -215,15 +214,13 @@ void ForgetDialogTest::RefusedForgettingLeavesTheList_data()
     QTest::addColumn<int>("failure");
     QTest::addColumn<QString>("told");
     const QString failed = "Home was not forgotten. It stays in your list.";
-    QTest::newRow("not allowed") << 1 << int(FailureNotAllowed)
-                                 << failed + " You are not allowed to do that.";
-    QTest::newRow("failed") << 1 << int(FailureOther) << failed;
-    QTest::newRow("not answered")
-        << 1 << int(FailureSource)
-        << "There was no answer, so it is not known if Home is forgotten. It stays in your list.";
-    QTest::newRow("refused at once") << int(IConnectionPlugin::RefusedNotAllowed) << int(FailureNone)
-                                     << failed + " You are not allowed to do that.";
-    QTest::newRow("gone meanwhile") << int(IConnectionPlugin::RefusedSource) << int(FailureNone) << failed;
+    Row("not allowed", 1, int(FailureNotAllowed), failed + " You are not allowed to do that.");
+    Row("failed", 1, int(FailureOther), failed);
+    Row("not answered", 1, int(FailureSource),
+        "There was no answer, so it is not known if Home is forgotten. It stays in your list.");
+    Row("refused at once", int(IConnectionPlugin::RefusedNotAllowed), int(FailureNone),
+        failed + " You are not allowed to do that.");
+    Row("gone meanwhile", int(IConnectionPlugin::RefusedSource), int(FailureNone), failed);
 }
 
 void ForgetDialogTest::RefusedForgettingLeavesTheList()
@@ -273,9 +270,8 @@ void ForgetDialogTest::QuestionTellsThatItIsNotInTheList_data()
     const QString end =
         QString::fromUtf8(" It is not in your list, so your list stays as it is. This can’t be "
                           "undone, and its key can’t be brought back.");
-    QTest::newRow("one") << 1 << "This computer will forget it with its key." + end;
-    QTest::newRow("two") << 2
-                         << "This computer will forget all 2 profiles of that name with their keys." + end;
+    Row("one", 1, "This computer will forget it with its key." + end);
+    Row("two", 2, "This computer will forget all 2 profiles of that name with their keys." + end);
 }
 
 void ForgetDialogTest::QuestionTellsThatItIsNotInTheList()
@@ -304,12 +300,12 @@ void ForgetDialogTest::ForgettingWhatIsNotListedLeavesTheList_data()
     QTest::addColumn<int>("failure");
     QTest::addColumn<QString>("label");
     QTest::addColumn<QString>("told");
-    QTest::newRow("forgotten") << int(StageForgotten) << int(FailureNone) << "lastChangeLabel"
-                               << QString::fromUtf8("Forgot Home. Its key can’t be brought back.");
-    QTest::newRow("not allowed") << int(StageFailed) << int(FailureNotAllowed) << "forgetProblemLabel"
-                                 << "Home was not forgotten. You are not allowed to do that.";
-    QTest::newRow("not answered") << int(StageFailed) << int(FailureSource) << "forgetProblemLabel"
-                                  << "There was no answer, so it is not known if Home is forgotten.";
+    Row("forgotten", int(StageForgotten), int(FailureNone), "lastChangeLabel",
+        QString::fromUtf8("Forgot Home. Its key can’t be brought back."));
+    Row("not allowed", int(StageFailed), int(FailureNotAllowed), "forgetProblemLabel",
+        "Home was not forgotten. You are not allowed to do that.");
+    Row("not answered", int(StageFailed), int(FailureSource), "forgetProblemLabel",
+        "There was no answer, so it is not known if Home is forgotten.");
 }
 
 /** Also where another program puts the network into the list meanwhile. */
@@ -332,11 +328,10 @@ void ForgetDialogTest::ForgettingWhatIsNotListedLeavesTheList()
 void ForgetDialogTest::WhatCannotBeForgottenIsNotOffered_data()
 {
     QTest::addColumn<QString>("reason");
-    QTest::newRow("not saved")
-        << "It is not saved here, so there is nothing to forget. It can be removed from the list.";
-    QTest::newRow("not allowed") << "You are not allowed to do that.";
-    QTest::newRow("not known") << "It is not known now which networks are saved.";
-    QTest::newRow("list not to be opened") << QString();
+    Row("not saved", "It is not saved here, so there is nothing to forget. It can be removed from the list.");
+    Row("not allowed", "You are not allowed to do that.");
+    Row("not known", "It is not known now which networks are saved.");
+    Row("list not to be opened", QString());
 }
 
 void ForgetDialogTest::WhatCannotBeForgottenIsNotOffered()

@@ -5,6 +5,7 @@
 #include <ImportDialog.h>
 #include <ListKeeper.h>
 #include <PluginList.h>
+#include <Row.h>
 #include <WindowActivation.h>
 
 #include <QApplication>
@@ -129,8 +130,8 @@ void ImportDialogTest::ManyUnknownNetworksAreToldShortly()
 void ImportDialogTest::ImportDoesWhatWasShownAndCanBeUndone_data()
 {
     QTest::addColumn<bool>("byKey");
-    QTest::newRow("Import") << false;
-    QTest::newRow("Return") << true;
+    Row("Import", false);
+    Row("Return", true);
 }
 
 void ImportDialogTest::ImportDoesWhatWasShownAndCanBeUndone()
@@ -151,8 +152,8 @@ void ImportDialogTest::ImportDoesWhatWasShownAndCanBeUndone()
 void ImportDialogTest::OtherWaysOutChangeNothing_data()
 {
     QTest::addColumn<bool>("byKey");
-    QTest::newRow("Cancel") << false;
-    QTest::newRow("Escape") << true;
+    Row("Cancel", false);
+    Row("Escape", true);
 }
 
 void ImportDialogTest::OtherWaysOutChangeNothing()

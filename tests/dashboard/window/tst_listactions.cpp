@@ -11,6 +11,7 @@
 #include <NetworkList.h>
 #include <OrderFile.h>
 #include <PluginObjects.h>
+#include <Row.h>
 #include <TraceCapture.h>
 #include <TraceLog.h>
 #include <WindowActivation.h>
@@ -310,8 +311,8 @@ void ListActionsTest::NeighbourThatWasMovedOnThePageIsTold()
 void ListActionsTest::ChangeOnTheOpenPageIsUndoneThere_data()
 {
     QTest::addColumn<bool>("byKey");
-    QTest::newRow("buttons") << false;
-    QTest::newRow("keys") << true;
+    Row("buttons", false);
+    Row("keys", true);
 }
 
 void ListActionsTest::ChangeOnTheOpenPageIsUndoneThere()
@@ -592,10 +593,10 @@ void ListActionsTest::FileThatIsNoOrderIsToldWithItsLine_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QString>("told");
-    QTest::newRow("damaged") << QByteArray("<zeltdoc>\n<item name=\"A\"") << "Line 2: ";
-    QTest::newRow("profiles") << QByteArray("<wlanprofiles/>")
-                              << QString::fromUtf8("Line 1: the element “wlanprofiles” is not allowed here");
-    QTest::newRow("far too large") << QByteArray(OrderFile::largestFile + 1, ' ') << "far too large";
+    Row("damaged", QByteArray("<zeltdoc>\n<item name=\"A\""), "Line 2: ");
+    Row("profiles", QByteArray("<wlanprofiles/>"),
+        QString::fromUtf8("Line 1: the element “wlanprofiles” is not allowed here"));
+    Row("far too large", QByteArray(OrderFile::largestFile + 1, ' '), "far too large");
 }
 
 void ListActionsTest::FileThatIsNoOrderIsToldWithItsLine()

@@ -9,6 +9,7 @@
 #include <NetworkList.h>
 #include <PluginHost.h>
 #include <PluginObjects.h>
+#include <Row.h>
 #include <TemporaryDirectory.h>
 #include <TraceLog.h>
 
@@ -333,8 +334,8 @@ void MainWindowTest::DamagedFileIsTold()
 void MainWindowTest::ListThatCannotBeReadIsNotCalledEmpty_data()
 {
     QTest::addColumn<bool>("isFile");
-    QTest::newRow("damaged from the start") << true;
-    QTest::newRow("cannot be opened") << false;
+    Row("damaged from the start", true);
+    Row("cannot be opened", false);
 }
 
 void MainWindowTest::ListThatCannotBeReadIsNotCalledEmpty()
@@ -399,8 +400,8 @@ void MainWindowTest::WindowClosedWithOpenSettingsSparesThePage()
 void MainWindowTest::ConnectPutsANewNetworkAtTheEnd_data()
 {
     QTest::addColumn<bool>("byMenu");
-    QTest::newRow("button") << false;
-    QTest::newRow("Network menu") << true;
+    Row("button", false);
+    Row("Network menu", true);
 }
 
 void MainWindowTest::ConnectPutsANewNetworkAtTheEnd()

@@ -8,6 +8,7 @@
 #include <IPluginContainer.h>
 #include <MainWindow.h>
 #include <PluginHost.h>
+#include <Row.h>
 #include <TemporaryDirectory.h>
 #include <TraceCapture.h>
 #include <TraceLog.h>
@@ -85,16 +86,11 @@ void MainWindowProblemsTest::MissingListIsExplainedInItsPlace_data()
 {
     QTest::addColumn<QString>("folder");
     QTest::addColumn<QString>("told");
-    QTest::newRow("missing") << "Absent"
-                             << "Absent/libAbsent.so was not found";
-    QTest::newRow("refused") << "WrongVerification"
-                             << "another program";
-    QTest::newRow("init fails") << "InitFails"
-                                << "could not start";
-    QTest::newRow("hands out nothing") << "QueryNull"
-                                       << "does not provide the list";
-    QTest::newRow("hands out something else") << "Working"
-                                              << "does not provide the list";
+    Row("missing", "Absent", "Absent/libAbsent.so was not found");
+    Row("refused", "WrongVerification", "another program");
+    Row("init fails", "InitFails", "could not start");
+    Row("hands out nothing", "QueryNull", "does not provide the list");
+    Row("hands out something else", "Working", "does not provide the list");
 }
 
 void MainWindowProblemsTest::MissingListIsExplainedInItsPlace()
@@ -164,11 +160,10 @@ void MainWindowProblemsTest::SourceOfTheNetworksIsTold_data()
     QTest::addColumn<int>("choice");
     QTest::addColumn<QStringList>("folders");
     QTest::addColumn<QString>("told");
-    QTest::newRow("networkmanager") << int(WlanNetworkManager) << QStringList("Working")
-                                    << QString::fromUtf8(
-                                           "These are this computer’s networks. NetworkManager");
-    QTest::newRow("stored") << int(WlanStored) << QStringList("Working") << "These are practice networks.";
-    QTest::newRow("none") << int(WlanStored) << QStringList("Absent") << "";
+    Row("networkmanager", int(WlanNetworkManager), QStringList("Working"),
+        QString::fromUtf8("These are this computer’s networks. NetworkManager"));
+    Row("stored", int(WlanStored), QStringList("Working"), "These are practice networks.");
+    Row("none", int(WlanStored), QStringList("Absent"), "");
 }
 
 void MainWindowProblemsTest::SourceOfTheNetworksIsTold()
@@ -286,11 +281,11 @@ void MainWindowProblemsTest::ConnectTellsWhyItCannotBeUsed_data()
     QTest::addColumn<int>("source");
     QTest::addColumn<QString>("told");
     const int none = -1;
-    QTest::newRow("Wi-Fi plug-in missing") << false << none << "The Wi-Fi plug-in is not available";
-    QTest::newRow("Wi-Fi plug-in tells nothing") << true << none << "The Wi-Fi plug-in does not tell";
-    QTest::newRow("NetworkManager gone")
-        << true << int(ConnectionState::SourceGone) << "It is not known which network is in use";
-    QTest::newRow("NetworkManager there") << true << int(ConnectionState::SourceKnown) << "";
+    Row("Wi-Fi plug-in missing", false, none, "The Wi-Fi plug-in is not available");
+    Row("Wi-Fi plug-in tells nothing", true, none, "The Wi-Fi plug-in does not tell");
+    Row("NetworkManager gone", true, int(ConnectionState::SourceGone),
+        "It is not known which network is in use");
+    Row("NetworkManager there", true, int(ConnectionState::SourceKnown), "");
 }
 
 void MainWindowProblemsTest::ConnectTellsWhyItCannotBeUsed()

@@ -8,6 +8,7 @@
 #include <NetworkDelegate.h>
 #include <NetworkList.h>
 #include <OrderFile.h>
+#include <Row.h>
 #include <TraceLog.h>
 #include <WindowActivation.h>
 
@@ -258,14 +259,14 @@ void NetworkListTest::KeysMove_data()
     QTest::addColumn<int>("key");
     QTest::addColumn<QList<int>>("rows");
     QTest::addColumn<QString>("after");
-    QTest::newRow("up") << int(Qt::Key_Up) << QList<int>{2} << "A, C, B, D";
-    QTest::newRow("down") << int(Qt::Key_Down) << QList<int>{1} << "A, C, B, D";
-    QTest::newRow("to the top") << int(Qt::Key_Home) << QList<int>{2} << "C, A, B, D";
-    QTest::newRow("to the end") << int(Qt::Key_End) << QList<int>{1} << "A, C, D, B";
-    QTest::newRow("at the top already") << int(Qt::Key_Up) << QList<int>{0} << "A, B, C, D";
-    QTest::newRow("at the end already") << int(Qt::Key_Down) << QList<int>{3} << "A, B, C, D";
-    QTest::newRow("several up") << int(Qt::Key_Up) << QList<int>{2, 3} << "A, C, D, B";
-    QTest::newRow("several to the top") << int(Qt::Key_Home) << QList<int>{1, 3} << "B, D, A, C";
+    Row("up", int(Qt::Key_Up), QList<int>{2}, "A, C, B, D");
+    Row("down", int(Qt::Key_Down), QList<int>{1}, "A, C, B, D");
+    Row("to the top", int(Qt::Key_Home), QList<int>{2}, "C, A, B, D");
+    Row("to the end", int(Qt::Key_End), QList<int>{1}, "A, C, D, B");
+    Row("at the top already", int(Qt::Key_Up), QList<int>{0}, "A, B, C, D");
+    Row("at the end already", int(Qt::Key_Down), QList<int>{3}, "A, B, C, D");
+    Row("several up", int(Qt::Key_Up), QList<int>{2, 3}, "A, C, D, B");
+    Row("several to the top", int(Qt::Key_Home), QList<int>{1, 3}, "B, D, A, C");
 }
 
 void NetworkListTest::KeysMove()
@@ -289,12 +290,9 @@ void NetworkListTest::PlaceIsAskedFor_data()
     QTest::addColumn<int>("last");
     QTest::addColumn<QString>("after");
     QTest::addColumn<QString>("announced");
-    QTest::newRow("down") << QList<int>{0} << "3" << 4 << "B, C, A, D"
-                          << "Moved A down: place 3 of 4";
-    QTest::newRow("up") << QList<int>{3} << "2" << 4 << "A, D, B, C"
-                        << "Moved D up: place 2 of 4";
-    QTest::newRow("several") << QList<int>{1, 3} << "1" << 3 << "B, D, A, C"
-                             << "";
+    Row("down", QList<int>{0}, "3", 4, "B, C, A, D", "Moved A down: place 3 of 4");
+    Row("up", QList<int>{3}, "2", 4, "A, D, B, C", "Moved D up: place 2 of 4");
+    Row("several", QList<int>{1, 3}, "1", 3, "B, D, A, C", "");
 }
 
 void NetworkListTest::PlaceIsAskedFor()
@@ -535,12 +533,10 @@ void NetworkListTest::SearchFindsPartsOfNames_data()
 {
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QString>("found");
-    QTest::newRow("a part") << "ffic"
-                            << "Office";
-    QTest::newRow("another case") << "OFF"
-                                  << "Office, offshore";
-    QTest::newRow("without the accent") << "cafe" << QString::fromUtf8("Café");
-    QTest::newRow("nothing typed") << "" << QString::fromUtf8("Home, Office, Café, offshore");
+    Row("a part", "ffic", "Office");
+    Row("another case", "OFF", "Office, offshore");
+    Row("without the accent", "cafe", QString::fromUtf8("Café"));
+    Row("nothing typed", "", QString::fromUtf8("Home, Office, Café, offshore"));
 }
 
 void NetworkListTest::SearchFindsPartsOfNames()
@@ -656,8 +652,8 @@ void NetworkListTest::SavedNetworksStandBelowTheList()
 void NetworkListTest::FoldedNetworksStayFolded_data()
 {
     QTest::addColumn<bool>("byKey");
-    QTest::newRow("click") << false;
-    QTest::newRow("Enter") << true;
+    Row("click", false);
+    Row("Enter", true);
 }
 
 void NetworkListTest::FoldedNetworksStayFolded()
@@ -751,8 +747,8 @@ void NetworkListTest::MenuConnectsFirst()
 void NetworkListTest::MenuOpensWithoutTheMouse_data()
 {
     QTest::addColumn<bool>("isMenuKey");
-    QTest::newRow("Menu") << true;
-    QTest::newRow("Shift+F10") << false;
+    Row("Menu", true);
+    Row("Shift+F10", false);
 }
 
 void NetworkListTest::MenuOpensWithoutTheMouse()
@@ -781,11 +777,11 @@ void NetworkListTest::DragMoves_data()
     QTest::addColumn<QList<int>>("rows");
     QTest::addColumn<int>("before");
     QTest::addColumn<QString>("after");
-    QTest::newRow("up") << "en" << QList<int>{3} << 1 << "A, D, B, C";
-    QTest::newRow("down") << "en" << QList<int>{0} << 3 << "B, C, A, D";
-    QTest::newRow("to the end") << "en" << QList<int>{1} << 4 << "A, C, D, B";
-    QTest::newRow("several") << "en" << QList<int>{0, 2} << 4 << "B, D, A, C";
-    QTest::newRow("from right to left") << "ar" << QList<int>{3} << 0 << "D, A, B, C";
+    Row("up", "en", QList<int>{3}, 1, "A, D, B, C");
+    Row("down", "en", QList<int>{0}, 3, "B, C, A, D");
+    Row("to the end", "en", QList<int>{1}, 4, "A, C, D, B");
+    Row("several", "en", QList<int>{0, 2}, 4, "B, D, A, C");
+    Row("from right to left", "ar", QList<int>{3}, 0, "D, A, B, C");
 }
 
 void NetworkListTest::DragMoves()

@@ -5,6 +5,7 @@
 #include <ListKeeper.h>
 #include <PluginList.h>
 #include <RestoreDialog.h>
+#include <Row.h>
 #include <WindowActivation.h>
 
 #include <QApplication>
@@ -214,8 +215,8 @@ void RestoreDialogTest::DoubleClickRestores()
 void RestoreDialogTest::OtherWaysOutChangeNothing_data()
 {
     QTest::addColumn<bool>("byKey");
-    QTest::newRow("Close") << false;
-    QTest::newRow("Escape") << true;
+    Row("Close", false);
+    Row("Escape", true);
 }
 
 void RestoreDialogTest::OtherWaysOutChangeNothing()
@@ -304,8 +305,8 @@ void RestoreDialogTest::FailureIsToldAndTheDialogStaysOpen()
 void RestoreDialogTest::ChosenRowStaysInSightWhenAFailureIsTold_data()
 {
     QTest::addColumn<int>("row");
-    QTest::newRow("oldest of all") << 23;
-    QTest::newRow("last in sight") << -1;
+    Row("oldest of all", 23);
+    Row("last in sight", -1);
 }
 
 void RestoreDialogTest::ChosenRowStaysInSightWhenAFailureIsTold()

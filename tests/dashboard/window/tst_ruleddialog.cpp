@@ -1,6 +1,7 @@
 #include "ConnectedWindow.h"
 #include "Lists.h"
 
+#include <Row.h>
 #include <RuledDialog.h>
 
 #include <QAction>
@@ -119,12 +120,12 @@ void RuledDialogTest::NetworkThatCannotBeTurnedOnIsTold_data()
     QTest::addColumn<int>("stage");
     QTest::addColumn<int>("obstacle");
     QTest::addColumn<QString>("told");
-    QTest::newRow("not allowed") << int(OrderOutcome::StageOrderDone) << int(ObstacleNotAllowed)
-                                 << "Home still does not connect by itself. You are not allowed to do that.";
-    QTest::newRow("refused") << int(OrderOutcome::StageOrderDone) << int(ObstacleRefused)
-                             << "Home still does not connect by itself.";
-    QTest::newRow("NetworkManager is gone")
-        << int(OrderOutcome::StageOrderFailed) << -1 << "Home still does not connect by itself.";
+    Row("not allowed", int(OrderOutcome::StageOrderDone), int(ObstacleNotAllowed),
+        "Home still does not connect by itself. You are not allowed to do that.");
+    Row("refused", int(OrderOutcome::StageOrderDone), int(ObstacleRefused),
+        "Home still does not connect by itself.");
+    Row("NetworkManager is gone", int(OrderOutcome::StageOrderFailed), -1,
+        "Home still does not connect by itself.");
 }
 
 void RuledDialogTest::NetworkThatCannotBeTurnedOnIsTold()

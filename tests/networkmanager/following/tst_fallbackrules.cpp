@@ -1,4 +1,5 @@
 #include <FallbackRules.h>
+#include <Row.h>
 
 #include <QtTest>
 
@@ -142,7 +143,7 @@ void tst_fallbackrules::FallbackIsConnectedAfterHalfAMinuteWithoutAnother_data()
     QTest::addColumn<QString>("orders");
     const QString connected = "+phone 40";
     const auto add = [](const char *name, const QString &orders, const Change &change) {
-        QTest::newRow(name) << change << orders;
+        Row(name, change, orders);
     };
     add("nothing is connected", connected, [](Scene *) {});
     add("Wi-Fi in the list", "", [](Scene *s) { s->Connect("home", "1"); });
@@ -188,7 +189,7 @@ void tst_fallbackrules::FallbackIsEndedAfterAMinuteWithAnother_data()
     QTest::addColumn<Change>("change");
     QTest::addColumn<QString>("orders");
     const auto add = [](const char *name, const QString &orders, const Change &change) {
-        QTest::newRow(name) << change << orders;
+        Row(name, change, orders);
     };
     add("nothing else", "-phone 70", [](Scene *) {});
     add("coming up", "-phone 70",

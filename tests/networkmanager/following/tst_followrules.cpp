@@ -1,4 +1,5 @@
 #include <FollowRules.h>
+#include <Row.h>
 
 #include <QRandomGenerator>
 #include <QtTest>
@@ -125,70 +126,75 @@ private:
 
 void tst_followrules::AddRowsOfDevices()
 {
-    QTest::newRow("other adapter") << Change([](Scene *s) {
-        s->view.records.profiles[0].device = "wlan1";
-        s->view.records.connections[0].device = "wlan0";
-    }) << "";
-    QTest::newRow("mobile broadband above Wi-Fi") << Change([](Scene *s) {
-        s->list = ListOf({"phone/2", "low"});
-        s->view.records.profiles[0] = Profile("phone", "2");
-    }) << "";
-    QTest::newRow("Wi-Fi above mobile broadband") << Change([](Scene *s) {
-        s->list = ListOf({"top", "phone/2"});
-        s->view.records.connections[0] = Connection("1", "phone", "2");
-        s->view.records.connections[0].carriesTraffic = true;
-    }) << "top";
-    QTest::newRow("its adapter is busy") << Change([](Scene *s) {
-        s->list = ListOf({"top", "phone/2"});
-        s->view.records.connections[0] = Connection("1", "phone", "2");
-        s->view.records.connections[0].carriesTraffic = true;
-        s->view.records.connections.append(Connection("2", "guest"));
-    }) << "";
-    QTest::newRow("other profile of the modem") << Change([](Scene *s) {
-        s->list = ListOf({"home/2", "phone/2"});
-        s->view.records.profiles = {Profile("home", "2"), Profile("phone", "2")};
-        s->view.records.connections[0] = Connection("1", "phone", "2");
-        s->view.records.connections[0].carriesTraffic = true;
-    }) << "home";
-    QTest::newRow("NetworkManager is silent")
-        << Change([](Scene *s) { s->view.records.state.source = ConnectionState::SourceNotKnown; }) << "";
+    Row("other adapter", Change([](Scene *s) {
+            s->view.records.profiles[0].device = "wlan1";
+            s->view.records.connections[0].device = "wlan0";
+        }),
+        "");
+    Row("mobile broadband above Wi-Fi", Change([](Scene *s) {
+            s->list = ListOf({"phone/2", "low"});
+            s->view.records.profiles[0] = Profile("phone", "2");
+        }),
+        "");
+    Row("Wi-Fi above mobile broadband", Change([](Scene *s) {
+            s->list = ListOf({"top", "phone/2"});
+            s->view.records.connections[0] = Connection("1", "phone", "2");
+            s->view.records.connections[0].carriesTraffic = true;
+        }),
+        "top");
+    Row("its adapter is busy", Change([](Scene *s) {
+            s->list = ListOf({"top", "phone/2"});
+            s->view.records.connections[0] = Connection("1", "phone", "2");
+            s->view.records.connections[0].carriesTraffic = true;
+            s->view.records.connections.append(Connection("2", "guest"));
+        }),
+        "");
+    Row("other profile of the modem", Change([](Scene *s) {
+            s->list = ListOf({"home/2", "phone/2"});
+            s->view.records.profiles = {Profile("home", "2"), Profile("phone", "2")};
+            s->view.records.connections[0] = Connection("1", "phone", "2");
+            s->view.records.connections[0].carriesTraffic = true;
+        }),
+        "home");
+    Row("NetworkManager is silent",
+        Change([](Scene *s) { s->view.records.state.source = ConnectionState::SourceNotKnown; }), "");
 }
 
 void tst_followrules::EntryAboveIsSwitchedTo_data()
 {
     QTest::addColumn<Change>("change");
     QTest::addColumn<QString>("chosen");
-    QTest::newRow("in range") << Change([](Scene *) {}) << "top";
-    QTest::newRow("weak") << Change([](Scene *s) { s->view.records.profiles[0].signal = 39; }) << "";
-    QTest::newRow("out of range") << Change([](Scene *s) {
-        s->view.records.profiles[0].use = ConnectionProfile::UseOutOfRange;
-    }) << "";
-    QTest::newRow("by hand alone") << Change([](Scene *s) {
-        s->view.records.profiles[0].connectsByItself = false;
-    }) << "";
-    QTest::newRow("below") << Change([](Scene *s) { s->list = ListOf({"low", "top"}); }) << "";
-    QTest::newRow("the topmost of two") << Change([](Scene *s) {
-        s->list = ListOf({"first", "top", "low"});
-        s->view.records.profiles.append(Profile("first"));
-    }) << "first";
-    QTest::newRow("VPN") << Change([](Scene *s) { s->view.hasVpn = true; }) << "";
-    QTest::newRow("password") << Change([](Scene *s) { s->view.mayConnect = false; }) << "";
-    QTest::newRow("ordered in a window") << Change([](Scene *s) { s->view.byHand = {"1"}; }) << "";
-    QTest::newRow("in use by hand alone")
-        << Change([](Scene *s) { s->view.records.profiles[1].connectsByItself = false; }) << "";
-    QTest::newRow("in use is not listed") << Change([](Scene *s) { s->list = ListOf({"top"}); }) << "";
-    QTest::newRow("cable carries the traffic") << Change([](Scene *s) {
-        s->view.records.connections[0].carriesTraffic = false;
-        s->view.records.connections.prepend(Connection("2", "low", "0"));
-        s->view.records.connections[0].carriesTraffic = true;
-    }) << "";
-    QTest::newRow("nothing carries the traffic")
-        << Change([](Scene *s) { s->view.records.connections[0].carriesTraffic = false; }) << "top";
-    QTest::newRow("nothing is in use") << Change([](Scene *s) { s->view.records.connections.clear(); }) << "";
-    QTest::newRow("another is coming up") << Change([](Scene *s) {
-        s->view.records.connections.append(Connection("2", "other", "2"));
-        s->view.records.connections[1].stage = StagePreparing;
-    }) << "";
+    Row("in range", Change([](Scene *) {}), "top");
+    Row("weak", Change([](Scene *s) { s->view.records.profiles[0].signal = 39; }), "");
+    Row("out of range",
+        Change([](Scene *s) { s->view.records.profiles[0].use = ConnectionProfile::UseOutOfRange; }), "");
+    Row("by hand alone", Change([](Scene *s) { s->view.records.profiles[0].connectsByItself = false; }), "");
+    Row("below", Change([](Scene *s) { s->list = ListOf({"low", "top"}); }), "");
+    Row("the topmost of two", Change([](Scene *s) {
+            s->list = ListOf({"first", "top", "low"});
+            s->view.records.profiles.append(Profile("first"));
+        }),
+        "first");
+    Row("VPN", Change([](Scene *s) { s->view.hasVpn = true; }), "");
+    Row("password", Change([](Scene *s) { s->view.mayConnect = false; }), "");
+    Row("ordered in a window", Change([](Scene *s) { s->view.byHand = {"1"}; }), "");
+    Row("in use by hand alone",
+        Change([](Scene *s) { s->view.records.profiles[1].connectsByItself = false; }), "");
+    Row("in use is not listed", Change([](Scene *s) { s->list = ListOf({"top"}); }), "");
+    Row("cable carries the traffic", Change([](Scene *s) {
+            s->view.records.connections[0].carriesTraffic = false;
+            s->view.records.connections.prepend(Connection("2", "low", "0"));
+            s->view.records.connections[0].carriesTraffic = true;
+        }),
+        "");
+    Row("nothing carries the traffic",
+        Change([](Scene *s) { s->view.records.connections[0].carriesTraffic = false; }), "top");
+    Row("nothing is in use", Change([](Scene *s) { s->view.records.connections.clear(); }), "");
+    Row("another is coming up", Change([](Scene *s) {
+            s->view.records.connections.append(Connection("2", "other", "2"));
+            s->view.records.connections[1].stage = StagePreparing;
+        }),
+        "");
     AddRowsOfDevices();
 }
 
@@ -240,26 +246,25 @@ void tst_followrules::SwitchesAreFiveMinutesApart()
 void tst_followrules::FailedTryBlocksTheEntryLongerEachTime_data()
 {
     QTest::addColumn<Change>("failure");
-    QTest::newRow("it does not come up") << Change([](Scene *s) { s->view.tryStage = StageFailed; });
-    QTest::newRow("it ends at once") << Change([](Scene *s) {
-        s->SwitchTo("top");
-        s->Look();
-        s->SwitchTo("low");
-        s->view.records.connections[0].id = "back" + QString::number(s->now);
-    });
+    Row("it does not come up", Change([](Scene *s) { s->view.tryStage = StageFailed; }));
+    Row("it ends at once", Change([](Scene *s) {
+            s->SwitchTo("top");
+            s->Look();
+            s->SwitchTo("low");
+            s->view.records.connections[0].id = "back" + QString::number(s->now);
+        }));
     const int bad[] = {ConnectionState::ConnectivityPortal, ConnectionState::ConnectivityLimited,
                        ConnectionState::ConnectivityNone};
     for (int connectivity : bad) {
-        QTest::newRow(qPrintable(QString("connectivity %1").arg(connectivity)))
-            << Change([connectivity](Scene *s) {
-                   s->SwitchTo("top");
-                   s->view.records.state.connectivity = connectivity;
-                   s->Look();
-                   s->Look(FollowRules::secondsToSettle);
-                   s->view.records.state.connectivity = ConnectionState::ConnectivityFull;
-                   s->SwitchTo("low");
-                   s->view.records.connections[0].id = "back" + QString::number(s->now);
-               });
+        Row(qPrintable(QString("connectivity %1").arg(connectivity)), Change([connectivity](Scene *s) {
+                s->SwitchTo("top");
+                s->view.records.state.connectivity = connectivity;
+                s->Look();
+                s->Look(FollowRules::secondsToSettle);
+                s->view.records.state.connectivity = ConnectionState::ConnectivityFull;
+                s->SwitchTo("low");
+                s->view.records.connections[0].id = "back" + QString::number(s->now);
+            }));
     }
 }
 
@@ -347,19 +352,17 @@ void tst_followrules::ScansComeWhenTheyCanHelp_data()
     const auto use = [](int value) {
         return Change([value](Scene *s) { s->view.records.profiles[0].use = value; });
     };
-    QTest::newRow("mains") << use(ConnectionProfile::UseOutOfRange) << 120;
-    QTest::newRow("battery") << Change([](Scene *s) { s->view.isOnBattery = true; }) << 360;
-    QTest::newRow("hidden") << use(ConnectionProfile::UseHiddenIsTried) << 120;
-    QTest::newRow("no device") << use(ConnectionProfile::UseNoDevice) << 0;
-    QTest::newRow("switched off") << use(ConnectionProfile::UseDeviceOff) << 0;
-    QTest::newRow("of others") << use(ConnectionProfile::UseOtherUsers) << 0;
-    QTest::newRow("without its account") << use(ConnectionProfile::UseNoAccount) << 0;
-    QTest::newRow("by hand alone") << Change([](Scene *s) {
-        s->view.records.profiles[0].connectsByItself = false;
-    }) << 0;
-    QTest::newRow("nothing above") << Change([](Scene *s) { s->list = ListOf({"low", "top"}); }) << 0;
-    QTest::newRow("VPN") << Change([](Scene *s) { s->view.hasVpn = true; }) << 0;
-    QTest::newRow("by hand") << Change([](Scene *s) { s->view.byHand = {"1"}; }) << 0;
+    Row("mains", use(ConnectionProfile::UseOutOfRange), 120);
+    Row("battery", Change([](Scene *s) { s->view.isOnBattery = true; }), 360);
+    Row("hidden", use(ConnectionProfile::UseHiddenIsTried), 120);
+    Row("no device", use(ConnectionProfile::UseNoDevice), 0);
+    Row("switched off", use(ConnectionProfile::UseDeviceOff), 0);
+    Row("of others", use(ConnectionProfile::UseOtherUsers), 0);
+    Row("without its account", use(ConnectionProfile::UseNoAccount), 0);
+    Row("by hand alone", Change([](Scene *s) { s->view.records.profiles[0].connectsByItself = false; }), 0);
+    Row("nothing above", Change([](Scene *s) { s->list = ListOf({"low", "top"}); }), 0);
+    Row("VPN", Change([](Scene *s) { s->view.hasVpn = true; }), 0);
+    Row("by hand", Change([](Scene *s) { s->view.byHand = {"1"}; }), 0);
 }
 
 void tst_followrules::ScansComeWhenTheyCanHelp()
@@ -632,7 +635,7 @@ void tst_followrules::WeeksOfAUserAreFollowed_data()
 {
     QTest::addColumn<unsigned int>("seed");
     for (unsigned int seed = 1; seed <= 3; ++seed) {
-        QTest::newRow(qPrintable(QString("seed %1").arg(seed))) << seed;
+        Row(qPrintable(QString("seed %1").arg(seed)), seed);
     }
 }
 

@@ -3,6 +3,8 @@
 #include "NetworkManagerTest.h"
 #include "ShiftedClock.h"
 
+#include <Row.h>
+
 #include <QApplication>
 #include <QDBusObjectPath>
 #include <QFile>
@@ -110,9 +112,9 @@ void tst_networkmanagerfallback::ModemIsConnectedWithoutWifiAndEndedWithIt()
 void tst_networkmanagerfallback::NothingIsDoneUnlessItIsWanted_data()
 {
     QTest::addColumn<QByteArray>("rules");
-    QTest::newRow("nothing is chosen") << QByteArray();
-    QTest::newRow("not wanted") << QByteArray("[General]\nsavingData=no\n");
-    QTest::newRow("the list does not rule") << QByteArray("[General]\nsavingData=yes\nruling=no\n");
+    Row("nothing is chosen", QByteArray());
+    Row("not wanted", QByteArray("[General]\nsavingData=no\n"));
+    Row("the list does not rule", QByteArray("[General]\nsavingData=yes\nruling=no\n"));
 }
 
 void tst_networkmanagerfallback::NothingIsDoneUnlessItIsWanted()
@@ -127,9 +129,9 @@ void tst_networkmanagerfallback::NothingIsDoneUnlessItIsWanted()
 void tst_networkmanagerfallback::EndedModemIsHandedBack_data()
 {
     QTest::addColumn<QString>("end");
-    QTest::newRow("switched off") << "rules";
-    QTest::newRow("end of the program") << "end";
-    QTest::newRow("killed, and begun again without it") << "kill";
+    Row("switched off", "rules");
+    Row("end of the program", "end");
+    Row("killed, and begun again without it", "kill");
 }
 
 void tst_networkmanagerfallback::EndedModemIsHandedBack()

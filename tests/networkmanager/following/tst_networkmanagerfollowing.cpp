@@ -2,6 +2,8 @@
 #include "LoadedWLAN.h"
 #include "NetworkManagerTest.h"
 
+#include <Row.h>
+
 #include <QDBusObjectPath>
 #include <QLockFile>
 #include <QtTest>
@@ -105,9 +107,9 @@ void tst_networkmanagerfollowing::EntryAboveIsConnected()
 void tst_networkmanagerfollowing::NothingIsAskedUnlessItIsWanted_data()
 {
     QTest::addColumn<QByteArray>("rules");
-    QTest::newRow("nothing is chosen") << QByteArray("");
-    QTest::newRow("not wanted") << QByteArray("[General]\nfollowing=no\n");
-    QTest::newRow("the list does not rule") << QByteArray("[General]\nfollowing=yes\nruling=no\n");
+    Row("nothing is chosen", QByteArray(""));
+    Row("not wanted", QByteArray("[General]\nfollowing=no\n"));
+    Row("the list does not rule", QByteArray("[General]\nfollowing=yes\nruling=no\n"));
 }
 
 void tst_networkmanagerfollowing::NothingIsAskedUnlessItIsWanted()

@@ -1,4 +1,5 @@
 #include <PowerSupply.h>
+#include <Row.h>
 #include <TemporaryDirectory.h>
 
 #include <QDir>
@@ -20,13 +21,13 @@ void tst_powersupply::BatteryIsToldFromMains_data()
     QTest::addColumn<bool>("isOnBattery");
     const QStringList battery = {"BAT0/type=Battery"};
     const QStringList mouse = {"mouse/type=Battery", "mouse/scope=Device"};
-    QTest::newRow("nothing is told") << QStringList() << false;
-    QTest::newRow("battery alone") << battery << true;
-    QTest::newRow("charger without current") << battery + QStringList{"AC/type=Mains", "AC/online=0"} << true;
-    QTest::newRow("charger") << battery + QStringList{"AC/type=Mains", "AC/online=1"} << false;
-    QTest::newRow("USB charger") << battery + QStringList{"ucsi/type=USB", "ucsi/online=1"} << false;
-    QTest::newRow("battery of a mouse") << mouse << false;
-    QTest::newRow("battery and that of a mouse") << battery + mouse << true;
+    Row("nothing is told", QStringList(), false);
+    Row("battery alone", battery, true);
+    Row("charger without current", battery + QStringList{"AC/type=Mains", "AC/online=0"}, true);
+    Row("charger", battery + QStringList{"AC/type=Mains", "AC/online=1"}, false);
+    Row("USB charger", battery + QStringList{"ucsi/type=USB", "ucsi/online=1"}, false);
+    Row("battery of a mouse", mouse, false);
+    Row("battery and that of a mouse", battery + mouse, true);
 }
 
 void tst_powersupply::BatteryIsToldFromMains()

@@ -6,6 +6,7 @@
 #include <HostControl.h>
 #include <IPluginContainer.h>
 #include <ListRules.h>
+#include <Row.h>
 #include <SwitchNotice.h>
 #include <TemporaryDirectory.h>
 
@@ -99,8 +100,8 @@ void SwitchNoticeTest::SwitchIsToldInWords()
 void SwitchNoticeTest::NothingIsToldUnlessItIsWanted_data()
 {
     QTest::addColumn<QByteArray>("rules");
-    QTest::newRow("nothing is chosen") << QByteArray("");
-    QTest::newRow("not wanted") << QByteArray("[General]\nnotify=no\n");
+    Row("nothing is chosen", QByteArray(""));
+    Row("not wanted", QByteArray("[General]\nnotify=no\n"));
 }
 
 void SwitchNoticeTest::NothingIsToldUnlessItIsWanted()
@@ -134,8 +135,8 @@ void SwitchNoticeTest::WithoutNotificationsNothingIsKept()
 void SwitchNoticeTest::WindowAndAgentTell_data()
 {
     QTest::addColumn<QStringList>("arguments");
-    QTest::newRow("window") << QStringList();
-    QTest::newRow("agent") << QStringList("--agent");
+    Row("window", QStringList());
+    Row("agent", QStringList("--agent"));
 }
 
 void SwitchNoticeTest::WindowAndAgentTell()

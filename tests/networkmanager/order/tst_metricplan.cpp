@@ -1,6 +1,7 @@
 #include <ConnectionPicture.h>
 #include <MetricFit.h>
 #include <MetricPlan.h>
+#include <Row.h>
 
 #include <QtTest>
 
@@ -117,36 +118,21 @@ void tst_metricplan::MetricsAreFitted_data()
 {
     QTest::addColumn<QString>("there");
     QTest::addColumn<QString>("fitted");
-    QTest::newRow("nothing") << ""
-                             << "";
-    QTest::newRow("right already") << "600 700"
-                                   << "600 700";
-    QTest::newRow("the later one stays") << "700 600"
-                                         << "374 600";
-    QTest::newRow("the same") << "600 600"
-                              << "374 600";
-    QTest::newRow("one in the middle") << "600 700 600"
-                                       << "600 700 750";
-    QTest::newRow("between two") << "600 500 700"
-                                 << "324 500 700";
-    QTest::newRow("behind one that is fixed") << "800! 700"
-                                              << "800! 850";
-    QTest::newRow("before one that is fixed") << "600 300!"
-                                              << "224 300!";
-    QTest::newRow("between two that are fixed") << "300! 600 310!"
-                                                << "300! 305 310!";
-    QTest::newRow("no room between two") << "300! 600 301!"
-                                         << "300! 600 301!";
-    QTest::newRow("not before wired") << "600 120!"
-                                      << "600 120!";
-    QTest::newRow("first of all") << "50! 600"
-                                  << "50! 600";
-    QTest::newRow("not before wired, in between") << "50! 600 100!"
-                                                  << "50! 600 100!";
-    QTest::newRow("not behind what has no internet") << "19999! 600"
-                                                     << "19999! 600";
-    QTest::newRow("two that contradict") << "400! 300! 600"
-                                         << "400! 300! 600";
+    Row("nothing", "", "");
+    Row("right already", "600 700", "600 700");
+    Row("the later one stays", "700 600", "374 600");
+    Row("the same", "600 600", "374 600");
+    Row("one in the middle", "600 700 600", "600 700 750");
+    Row("between two", "600 500 700", "324 500 700");
+    Row("behind one that is fixed", "800! 700", "800! 850");
+    Row("before one that is fixed", "600 300!", "224 300!");
+    Row("between two that are fixed", "300! 600 310!", "300! 305 310!");
+    Row("no room between two", "300! 600 301!", "300! 600 301!");
+    Row("not before wired", "600 120!", "600 120!");
+    Row("first of all", "50! 600", "50! 600");
+    Row("not before wired, in between", "50! 600 100!", "50! 600 100!");
+    Row("not behind what has no internet", "19999! 600", "19999! 600");
+    Row("two that contradict", "400! 300! 600", "400! 300! 600");
 }
 
 void tst_metricplan::MetricsAreFitted()
@@ -173,20 +159,13 @@ void tst_metricplan::FirstListedConnectionCarriesTheTraffic_data()
     QTest::addColumn<QString>("list");
     QTest::addColumn<QString>("connections");
     QTest::addColumn<QStringList>("changes");
-    QTest::newRow("one") << "M A"
-                         << "A" << QStringList();
-    QTest::newRow("Wi-Fi first") << "A M"
-                                 << "M A" << QStringList();
-    QTest::newRow("mobile broadband first") << "M A"
-                                            << "A M" << QStringList("M=374,374");
-    QTest::newRow("two Wi-Fi devices") << "A B"
-                                       << "B A" << QStringList("A=374,374");
-    QTest::newRow("not up yet") << "M A"
-                                << "A M..." << QStringList();
-    QTest::newRow("not in the list") << "M"
-                                     << "A M" << QStringList();
-    QTest::newRow("wired") << "W M A"
-                           << "W M A" << QStringList("M=374,374");
+    Row("one", "M A", "A", QStringList());
+    Row("Wi-Fi first", "A M", "M A", QStringList());
+    Row("mobile broadband first", "M A", "A M", QStringList("M=374,374"));
+    Row("two Wi-Fi devices", "A B", "B A", QStringList("A=374,374"));
+    Row("not up yet", "M A", "A M...", QStringList());
+    Row("not in the list", "M", "A M", QStringList());
+    Row("wired", "W M A", "W M A", QStringList("M=374,374"));
 }
 
 void tst_metricplan::FirstListedConnectionCarriesTheTraffic()
@@ -213,9 +192,9 @@ void tst_metricplan::ChosenMetricIsFittedAround_data()
 {
     QTest::addColumn<int>("metric");
     QTest::addColumn<QStringList>("changes");
-    QTest::newRow("right already") << 750 << QStringList("M=-,374");
-    QTest::newRow("above") << 550 << QStringList("M=349,374");
-    QTest::newRow("before wired") << 90 << QStringList({"A contradicts", "M=-,374"});
+    Row("right already", 750, QStringList("M=-,374"));
+    Row("above", 550, QStringList("M=349,374"));
+    Row("before wired", 90, QStringList({"A contradicts", "M=-,374"}));
 }
 
 void tst_metricplan::ChosenMetricIsFittedAround()
@@ -237,9 +216,9 @@ void tst_metricplan::ConnectionWithoutDefaultRouteHasNoPlace_data()
 {
     QTest::addColumn<QString>("key");
     QTest::addColumn<QVariant>("value");
-    QTest::newRow("never the default") << "never-default" << QVariant(true);
-    QTest::newRow("disabled") << "method" << QVariant("disabled");
-    QTest::newRow("shared") << "method" << QVariant("shared");
+    Row("never the default", "never-default", QVariant(true));
+    Row("disabled", "method", QVariant("disabled"));
+    Row("shared", "method", QVariant("shared"));
 }
 
 void tst_metricplan::ConnectionWithoutDefaultRouteHasNoPlace()
@@ -253,16 +232,11 @@ void tst_metricplan::WhatWasSetIsGivenBack_data()
 {
     QTest::addColumn<QString>("list");
     QTest::addColumn<QString>("connections");
-    QTest::newRow("the order has changed") << "A M"
-                                           << "A M";
-    QTest::newRow("it has left the list") << "A"
-                                          << "A M";
-    QTest::newRow("the other one has left the list") << "M"
-                                                     << "A M";
-    QTest::newRow("there is no list") << ""
-                                      << "A M";
-    QTest::newRow("the other one is not up any more") << "M A"
-                                                      << "A... M";
+    Row("the order has changed", "A M", "A M");
+    Row("it has left the list", "A", "A M");
+    Row("the other one has left the list", "M", "A M");
+    Row("there is no list", "", "A M");
+    Row("the other one is not up any more", "M A", "A... M");
 }
 
 void tst_metricplan::WhatWasSetIsGivenBack()

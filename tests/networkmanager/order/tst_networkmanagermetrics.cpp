@@ -2,6 +2,7 @@
 #include "LoadedWLAN.h"
 #include "NetworkManagerTest.h"
 
+#include <Row.h>
 #include <TraceCapture.h>
 
 #include <QDBusObjectPath>
@@ -124,8 +125,8 @@ void tst_networkmanagermetrics::OfTwoWifiDevicesTheFirstInTheListCarriesTheTraff
 void tst_networkmanagermetrics::NothingIsAskedWhereTheOrderIsRight_data()
 {
     QTest::addColumn<QByteArray>("list");
-    QTest::newRow("Wi-Fi first") << QByteArray("A M");
-    QTest::newRow("one of them") << QByteArray("M");
+    Row("Wi-Fi first", QByteArray("A M"));
+    Row("one of them", QByteArray("M"));
 }
 
 void tst_networkmanagermetrics::NothingIsAskedWhereTheOrderIsRight()
@@ -167,10 +168,10 @@ void tst_networkmanagermetrics::WhatWasSetIsGivenBack_data()
 {
     QTest::addColumn<QString>("list");
     QTest::addColumn<QByteArray>("rules");
-    QTest::newRow("another order") << "A M" << QByteArray();
-    QTest::newRow("an entry is removed") << "A" << QByteArray();
-    QTest::newRow("an empty list") << "" << QByteArray();
-    QTest::newRow("the list is not to rule") << "M A" << QByteArray("[General]\nruling=no\n");
+    Row("another order", "A M", QByteArray());
+    Row("an entry is removed", "A", QByteArray());
+    Row("an empty list", "", QByteArray());
+    Row("the list is not to rule", "M A", QByteArray("[General]\nruling=no\n"));
 }
 
 void tst_networkmanagermetrics::WhatWasSetIsGivenBack()
@@ -263,14 +264,12 @@ void tst_networkmanagermetrics::RefusalIsTold_data()
     QTest::addColumn<QString>("method");
     QTest::addColumn<QString>("error");
     QTest::addColumn<int>("obstacle");
-    QTest::newRow("not allowed") << "Reapply"
-                                 << "org.freedesktop.NetworkManager.Device.PermissionDenied"
-                                 << int(ObstacleNotAllowed);
-    QTest::newRow("not told") << "GetAppliedConnection"
-                              << "org.freedesktop.NetworkManager.Device.Failed" << int(ObstacleRefused);
-    QTest::newRow("not taken") << "Reapply"
-                               << "org.freedesktop.NetworkManager.Device.IncompatibleConnection"
-                               << int(ObstacleRefused);
+    Row("not allowed", "Reapply", "org.freedesktop.NetworkManager.Device.PermissionDenied",
+        int(ObstacleNotAllowed));
+    Row("not told", "GetAppliedConnection", "org.freedesktop.NetworkManager.Device.Failed",
+        int(ObstacleRefused));
+    Row("not taken", "Reapply", "org.freedesktop.NetworkManager.Device.IncompatibleConnection",
+        int(ObstacleRefused));
 }
 
 void tst_networkmanagermetrics::RefusalIsTold()

@@ -3,6 +3,7 @@
 #include "PrivateBus.h"
 
 #include <DashboardProcess.h>
+#include <Row.h>
 #include <TemporaryDirectory.h>
 
 #include <QDir>
@@ -283,8 +284,8 @@ void tst_networkmanagerorder::KilledBusLosesNothing()
 void tst_networkmanagerorder::EditsOfAnotherProgramSurvive_data()
 {
     QTest::addColumn<bool>("hasVersions");
-    QTest::newRow("NetworkManager that counts versions") << true;
-    QTest::newRow("an earlier one") << false;
+    Row("NetworkManager that counts versions", true);
+    Row("an earlier one", false);
 }
 
 void tst_networkmanagerorder::EditsOfAnotherProgramSurvive()

@@ -2,6 +2,7 @@
 #include "LoadedWLAN.h"
 #include "NetworkManagerTest.h"
 
+#include <Row.h>
 #include <StandInHost.h>
 #include <TraceCapture.h>
 
@@ -330,8 +331,8 @@ void tst_networkmanagerpriorities::ChangeBySomebodyElseInTheMiddleIsReadFirst()
 void tst_networkmanagerpriorities::ChangeBySomebodyElseSurvives_data()
 {
     QTest::addColumn<bool>("hasVersions");
-    QTest::newRow("NetworkManager that counts versions") << true;
-    QTest::newRow("an earlier one") << false;
+    Row("NetworkManager that counts versions", true);
+    Row("an earlier one", false);
 }
 
 void tst_networkmanagerpriorities::ChangeBySomebodyElseSurvives()
@@ -435,14 +436,14 @@ void tst_networkmanagerpriorities::WhatKeepsTheListFromTakingEffectIsTold_data()
     QTest::addColumn<QString>("list");
     QTest::addColumn<QStringList>("notices");
     QTest::addColumn<QString>("line");
-    QTest::newRow("one") << "Low High" << QStringList("WLAN?IDS_WLAN_ORDER_FIXED")
-                         << "\"High\" can't be changed, and its priority contradicts the list";
-    QTest::newRow("several") << "Low High Higher" << QStringList("WLAN?IDS_WLAN_ORDER_SEVERAL")
-                             << "\"Higher\" can't be changed, and its priority contradicts the list";
-    QTest::newRow("outside") << "Higher High Low" << QStringList("WLAN?IDS_WLAN_ORDER_OVERTAKEN")
-                             << "\"Top\" is not in the list and comes before entries of it: there are no "
-                                "greater priorities for these";
-    QTest::newRow("none") << "Top Higher High Low" << QStringList() << QString();
+    Row("one", "Low High", QStringList("WLAN?IDS_WLAN_ORDER_FIXED"),
+        "\"High\" can't be changed, and its priority contradicts the list");
+    Row("several", "Low High Higher", QStringList("WLAN?IDS_WLAN_ORDER_SEVERAL"),
+        "\"Higher\" can't be changed, and its priority contradicts the list");
+    Row("outside", "Higher High Low", QStringList("WLAN?IDS_WLAN_ORDER_OVERTAKEN"),
+        "\"Top\" is not in the list and comes before entries of it: there are no "
+        "greater priorities for these");
+    Row("none", "Top Higher High Low", QStringList(), QString());
 }
 
 void tst_networkmanagerpriorities::WhatKeepsTheListFromTakingEffectIsTold()
@@ -595,8 +596,8 @@ void tst_networkmanagerpriorities::ForeignPriorityIsNotSetBack()
 void tst_networkmanagerpriorities::ForeignPriorityAgainstTheListIsSetRightOnce_data()
 {
     QTest::addColumn<bool>("isTheSame");
-    QTest::newRow("the same network") << true;
-    QTest::newRow("the other one of the two") << false;
+    Row("the same network", true);
+    Row("the other one of the two", false);
 }
 
 void tst_networkmanagerpriorities::ForeignPriorityAgainstTheListIsSetRightOnce()
@@ -634,8 +635,8 @@ void tst_networkmanagerpriorities::ForeignPriorityIsSetRightAlsoWhenThatTakesTim
 void tst_networkmanagerpriorities::ListRulesAgainAfterItWasSetAside_data()
 {
     QTest::addColumn<QString>("list");
-    QTest::newRow("when it changes") << "A B C";
-    QTest::newRow("when the user orders it") << QString();
+    Row("when it changes", "A B C");
+    Row("when the user orders it", QString());
 }
 
 void tst_networkmanagerpriorities::ListRulesAgainAfterItWasSetAside()
@@ -843,8 +844,8 @@ void tst_networkmanagerpriorities::StandingTellsWhatTheListCannotChange()
 void tst_networkmanagerpriorities::ProfileConnectsByItselfWhenTheUserWantsThat_data()
 {
     QTest::addColumn<bool>("isOn");
-    QTest::newRow("on") << true;
-    QTest::newRow("off") << false;
+    Row("on", true);
+    Row("off", false);
 }
 
 void tst_networkmanagerpriorities::ProfileConnectsByItselfWhenTheUserWantsThat()
@@ -877,10 +878,9 @@ void tst_networkmanagerpriorities::WishThatCannotBeFulfilledIsTold_data()
 {
     QTest::addColumn<QString>("error");
     QTest::addColumn<int>("obstacle");
-    QTest::newRow("refused") << "org.freedesktop.NetworkManager.Settings.Failed" << int(ObstacleRefused);
-    QTest::newRow("not allowed") << "org.freedesktop.NetworkManager.Settings.PermissionDenied"
-                                 << int(ObstacleNotAllowed);
-    QTest::newRow("gone") << QString() << int(ObstacleNotKnown);
+    Row("refused", "org.freedesktop.NetworkManager.Settings.Failed", int(ObstacleRefused));
+    Row("not allowed", "org.freedesktop.NetworkManager.Settings.PermissionDenied", int(ObstacleNotAllowed));
+    Row("gone", QString(), int(ObstacleNotKnown));
 }
 
 void tst_networkmanagerpriorities::WishThatCannotBeFulfilledIsTold()
@@ -1013,9 +1013,9 @@ void tst_networkmanagerpriorities::ProfilesThatNeedAPasswordAreLeftAlone()
 void tst_networkmanagerpriorities::DamagedListChangesNothing_data()
 {
     QTest::addColumn<QByteArray>("content");
-    QTest::newRow("cut off") << ListOf("B A").left(100);
-    QTest::newRow("not XML") << QByteArray("\0\1\2<item", 8);
-    QTest::newRow("nothing in it") << QByteArray("");
+    Row("cut off", ListOf("B A").left(100));
+    Row("not XML", QByteArray("\0\1\2<item", 8));
+    Row("nothing in it", QByteArray(""));
 }
 
 void tst_networkmanagerpriorities::DamagedListChangesNothing()
@@ -1120,10 +1120,10 @@ void tst_networkmanagerpriorities::FirstConnectionGoesWhereTheUserWantsIt_data()
 {
     QTest::addColumn<QByteArray>("place");
     QTest::addColumn<QStringList>("after");
-    QTest::newRow("not chosen") << QByteArray() << QStringList{"X/1", "A/1", "M/2"};
-    QTest::newRow("at the end") << QByteArray("end") << QStringList{"X/1", "A/1", "M/2"};
-    QTest::newRow("at the top") << QByteArray("top") << QStringList{"M/2", "A/1", "X/1"};
-    QTest::newRow("not at all") << QByteArray("none") << QStringList{"X/1"};
+    Row("not chosen", QByteArray(), QStringList{"X/1", "A/1", "M/2"});
+    Row("at the end", QByteArray("end"), QStringList{"X/1", "A/1", "M/2"});
+    Row("at the top", QByteArray("top"), QStringList{"M/2", "A/1", "X/1"});
+    Row("not at all", QByteArray("none"), QStringList{"X/1"});
 }
 
 void tst_networkmanagerpriorities::FirstConnectionGoesWhereTheUserWantsIt()

@@ -3,6 +3,7 @@
 #include "PrivateBus.h"
 
 #include <DashboardProcess.h>
+#include <Row.h>
 #include <TemporaryDirectory.h>
 
 #include <QDir>
@@ -81,8 +82,8 @@ QMap<QString, QByteArray> tst_networkmanagerrelease::Files() const
 void tst_networkmanagerrelease::KeyfilesAreAsTheyWereBefore_data()
 {
     QTest::addColumn<bool>("isKilled");
-    QTest::newRow("the same NetworkManager") << false;
-    QTest::newRow("NetworkManager was killed meanwhile") << true;
+    Row("the same NetworkManager", false);
+    Row("NetworkManager was killed meanwhile", true);
 }
 
 void tst_networkmanagerrelease::KeyfilesAreAsTheyWereBefore()

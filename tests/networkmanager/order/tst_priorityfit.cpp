@@ -1,4 +1,5 @@
 #include <PriorityFit.h>
+#include <Row.h>
 
 #include <QVector>
 #include <QtTest>
@@ -99,22 +100,22 @@ void tst_priorityfit::OrderIsFitted_data()
     QTest::addColumn<int>("floor");
     QTest::addColumn<QString>("fitted");
 
-    QTest::newRow("no place") << "" << 0 << "";
-    QTest::newRow("first use spreads") << "0 0 0" << 0 << "750 500 250";
-    QTest::newRow("the whole range") << "0! 0" << PriorityFit::lowest - 1 << "0 -111";
-    QTest::newRow("what falls stays") << "900 20 3" << 0 << "900 20 3";
-    QTest::newRow("equal ones do not stay both") << "20 20" << 0 << "20 18";
-    QTest::newRow("a gap takes one") << "900 0 700" << 0 << "900 800 700";
-    QTest::newRow("no gap moves a neighbour") << "900 0 899 10" << 0 << "900 604 307 10";
-    QTest::newRow("new gaps where it is close") << "999 0 998 996 500" << 0 << "999 875 750 625 500";
-    QTest::newRow("the top has no room") << "0 999 500" << 0 << "600 550 500";
-    QTest::newRow("below the floor does not stay") << "900 -5" << 0 << "900 800";
-    QTest::newRow("several priorities do not stay") << "900 ? 700" << 0 << "900 800 700";
-    QTest::newRow("room is kept at the top") << "0 600 500" << 0 << "644 600 500";
-    QTest::newRow("room is kept at the bottom") << "600 500 0" << 0 << "600 500 445";
-    QTest::newRow("around a fixed one") << "0 500! 0" << 0 << "555 500 445";
-    QTest::newRow("before a fixed one") << "10 9 8 500!" << 0 << "636 590 545 500";
-    QTest::newRow("fixed ones at the end need not be above the floor") << "900 0! -5!" << 0 << "900 0 -5";
+    Row("no place", "", 0, "");
+    Row("first use spreads", "0 0 0", 0, "750 500 250");
+    Row("the whole range", "0! 0", PriorityFit::lowest - 1, "0 -111");
+    Row("what falls stays", "900 20 3", 0, "900 20 3");
+    Row("equal ones do not stay both", "20 20", 0, "20 18");
+    Row("a gap takes one", "900 0 700", 0, "900 800 700");
+    Row("no gap moves a neighbour", "900 0 899 10", 0, "900 604 307 10");
+    Row("new gaps where it is close", "999 0 998 996 500", 0, "999 875 750 625 500");
+    Row("the top has no room", "0 999 500", 0, "600 550 500");
+    Row("below the floor does not stay", "900 -5", 0, "900 800");
+    Row("several priorities do not stay", "900 ? 700", 0, "900 800 700");
+    Row("room is kept at the top", "0 600 500", 0, "644 600 500");
+    Row("room is kept at the bottom", "600 500 0", 0, "600 500 445");
+    Row("around a fixed one", "0 500! 0", 0, "555 500 445");
+    Row("before a fixed one", "10 9 8 500!", 0, "636 590 545 500");
+    Row("fixed ones at the end need not be above the floor", "900 0! -5!", 0, "900 0 -5");
 }
 
 void tst_priorityfit::OrderIsFitted()
@@ -132,18 +133,10 @@ void tst_priorityfit::ContradictingFixedPlacesAreTold_data()
     QTest::addColumn<QString>("fitted");
     QTest::addColumn<QString>("contradicting");
 
-    QTest::newRow("two in the wrong order") << "5! 6! 0"
-                                            << "5 6 2"
-                                            << "1";
-    QTest::newRow("no room between two") << "6! 0 5!"
-                                         << "6 1 5"
-                                         << "2";
-    QTest::newRow("below the floor") << "900 -5! 100"
-                                     << "900 -5 100"
-                                     << "1";
-    QTest::newRow("as few as possible") << "1! 90! 80! 70!"
-                                        << "1 90 80 70"
-                                        << "0";
+    Row("two in the wrong order", "5! 6! 0", "5 6 2", "1");
+    Row("no room between two", "6! 0 5!", "6 1 5", "2");
+    Row("below the floor", "900 -5! 100", "900 -5 100", "1");
+    Row("as few as possible", "1! 90! 80! 70!", "1 90 80 70", "0");
 }
 
 void tst_priorityfit::ContradictingFixedPlacesAreTold()

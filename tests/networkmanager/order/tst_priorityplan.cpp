@@ -1,6 +1,7 @@
 #include <FirstConnections.h>
 #include <PriorityPlan.h>
 #include <PriorityRecords.h>
+#include <Row.h>
 #include <TemporaryDirectory.h>
 
 #include <QFile>
@@ -157,25 +158,15 @@ void tst_priorityplan::NameAndKindHaveToFit_data()
     QTest::addColumn<int>("kind");
     QTest::addColumn<bool>("fits");
 
-    QTest::newRow("Wi-Fi") << "A"
-                           << "1" << int(NetworkProfile::Wifi) << true;
-    QTest::newRow("mobile broadband") << "A"
-                                      << "2" << int(NetworkProfile::MobileBroadband) << true;
-    QTest::newRow("mobile broadband of another number")
-        << "A"
-        << "0" << int(NetworkProfile::MobileBroadband) << true;
-    QTest::newRow("mobile broadband without type") << "A"
-                                                   << "" << int(NetworkProfile::MobileBroadband) << true;
-    QTest::newRow("Wi-Fi entry, mobile profile") << "A"
-                                                 << "1" << int(NetworkProfile::MobileBroadband) << false;
-    QTest::newRow("mobile entry, Wi-Fi profile") << "A"
-                                                 << "2" << int(NetworkProfile::Wifi) << false;
-    QTest::newRow("wired profile") << "A"
-                                   << "2" << int(NetworkProfile::OtherKind) << false;
-    QTest::newRow("other case") << "a"
-                                << "1" << int(NetworkProfile::Wifi) << false;
-    QTest::newRow("blank behind") << "A "
-                                  << "1" << int(NetworkProfile::Wifi) << false;
+    Row("Wi-Fi", "A", "1", int(NetworkProfile::Wifi), true);
+    Row("mobile broadband", "A", "2", int(NetworkProfile::MobileBroadband), true);
+    Row("mobile broadband of another number", "A", "0", int(NetworkProfile::MobileBroadband), true);
+    Row("mobile broadband without type", "A", "", int(NetworkProfile::MobileBroadband), true);
+    Row("Wi-Fi entry, mobile profile", "A", "1", int(NetworkProfile::MobileBroadband), false);
+    Row("mobile entry, Wi-Fi profile", "A", "2", int(NetworkProfile::Wifi), false);
+    Row("wired profile", "A", "2", int(NetworkProfile::OtherKind), false);
+    Row("other case", "a", "1", int(NetworkProfile::Wifi), false);
+    Row("blank behind", "A ", "1", int(NetworkProfile::Wifi), false);
 }
 
 void tst_priorityplan::NameAndKindHaveToFit()
@@ -245,9 +236,9 @@ void tst_priorityplan::UnlistedProfilesComeAfterTheList_data()
 {
     QTest::addColumn<int>("unlisted");
     QTest::addColumn<int>("priority");
-    QTest::newRow("as others have set it") << 700 << 850;
-    QTest::newRow("none") << 0 << 500;
-    QTest::newRow("less than none") << -10 << 500;
+    Row("as others have set it", 700, 850);
+    Row("none", 0, 500);
+    Row("less than none", -10, 500);
 }
 
 void tst_priorityplan::UnlistedProfilesComeAfterTheList()
@@ -288,17 +279,15 @@ void tst_priorityplan::AccountIsLackingOnlyWhereOneIsNeeded_data()
     const QString wpa = "wpa-eap";
     const QString eap = "802-1x";
     const QVariant sim = QStringList("sim");
-    QTest::newRow("open") << "" << eap << "eap" << sim << false;
-    QTest::newRow("key") << "wpa-psk" << eap << "eap" << sim << false;
-    QTest::newRow("SIM") << wpa << eap << "eap" << sim << true;
-    QTest::newRow("SIM, 192 bits") << "wpa-eap-suite-b-192" << eap << "eap" << sim << true;
-    QTest::newRow("SIM, dynamic WEP") << "ieee8021x" << eap << "eap" << sim << true;
-    QTest::newRow("empty identity") << wpa << eap << "identity" << QVariant("") << true;
-    QTest::newRow("identity") << wpa << eap << "identity" << QVariant("user") << false;
-    QTest::newRow("certificate") << wpa << eap << "client-cert" << QVariant(QByteArray("file:///a")) << false;
-    QTest::newRow("LEAP") << "ieee8021x"
-                          << "802-11-wireless-security"
-                          << "leap-username" << QVariant("user") << false;
+    Row("open", "", eap, "eap", sim, false);
+    Row("key", "wpa-psk", eap, "eap", sim, false);
+    Row("SIM", wpa, eap, "eap", sim, true);
+    Row("SIM, 192 bits", "wpa-eap-suite-b-192", eap, "eap", sim, true);
+    Row("SIM, dynamic WEP", "ieee8021x", eap, "eap", sim, true);
+    Row("empty identity", wpa, eap, "identity", QVariant(""), true);
+    Row("identity", wpa, eap, "identity", QVariant("user"), false);
+    Row("certificate", wpa, eap, "client-cert", QVariant(QByteArray("file:///a")), false);
+    Row("LEAP", "ieee8021x", "802-11-wireless-security", "leap-username", QVariant("user"), false);
 }
 
 void tst_priorityplan::AccountIsLackingOnlyWhereOneIsNeeded()
@@ -555,13 +544,12 @@ void tst_priorityplan::WhatIsNotForTheListIsNotFound_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<bool>("isFound");
 
-    QTest::newRow("Wi-Fi") << int(NetworkProfile::Wifi) << false << false << "A" << true;
-    QTest::newRow("mobile broadband")
-        << int(NetworkProfile::MobileBroadband) << false << false << "A" << true;
-    QTest::newRow("wired") << int(NetworkProfile::OtherKind) << false << false << "A" << false;
-    QTest::newRow("hotspot") << int(NetworkProfile::Wifi) << true << false << "A" << false;
-    QTest::newRow("passing") << int(NetworkProfile::Wifi) << false << true << "A" << false;
-    QTest::newRow("without name") << int(NetworkProfile::Wifi) << false << false << "" << false;
+    Row("Wi-Fi", int(NetworkProfile::Wifi), false, false, "A", true);
+    Row("mobile broadband", int(NetworkProfile::MobileBroadband), false, false, "A", true);
+    Row("wired", int(NetworkProfile::OtherKind), false, false, "A", false);
+    Row("hotspot", int(NetworkProfile::Wifi), true, false, "A", false);
+    Row("passing", int(NetworkProfile::Wifi), false, true, "A", false);
+    Row("without name", int(NetworkProfile::Wifi), false, false, "", false);
 }
 
 void tst_priorityplan::WhatIsNotForTheListIsNotFound()

@@ -1,5 +1,6 @@
 #include <ConnectionPicture.h>
 #include <FailureWords.h>
+#include <Row.h>
 
 #include <QtTest>
 
@@ -187,8 +188,8 @@ private slots:
 void tst_connectionpicture::NothingIsToldOfWhatIsNotKnown_data()
 {
     QTest::addColumn<int>("source");
-    QTest::newRow("still asked") << int(ConnectionState::SourceNotKnown);
-    QTest::newRow("gone") << int(ConnectionState::SourceGone);
+    Row("still asked", int(ConnectionState::SourceNotKnown));
+    Row("gone", int(ConnectionState::SourceGone));
 }
 
 void tst_connectionpicture::NothingIsToldOfWhatIsNotKnown()
@@ -218,26 +219,29 @@ void tst_connectionpicture::RadiosAreTold_data()
     const int off = ConnectionState::RadioOff;
     const int blocked = ConnectionState::RadioBlocked;
     const int missing = ConnectionState::RadioMissing;
-    QTest::newRow("no device") << Setup([](Scene *) {}) << missing << missing;
-    QTest::newRow("both") << Setup([](Scene *scene) {
-        scene->AddWifi();
-        scene->AddModem();
-    }) << on << on;
-    QTest::newRow("Wi-Fi off") << Setup([](Scene *scene) {
-        scene->AddWifi()->state = unavailable;
-        scene->picture.state.wifi.isEnabled = false;
-    }) << off << missing;
-    QTest::newRow("Wi-Fi blocked") << Setup([](Scene *scene) {
-        scene->AddWifi()->state = unavailable;
-        scene->picture.state.wifi.isEnabled = false;
-        scene->picture.state.wifi.isUnblocked = false;
-    }) << blocked << missing;
-    QTest::newRow("mobile broadband off") << Setup([](Scene *scene) {
-        scene->AddModem()->state = unavailable;
-        scene->picture.state.mobile.isEnabled = false;
-    }) << missing << off;
-    QTest::newRow("not managed") << Setup([](Scene *scene) { scene->AddWifi()->state = unmanaged; })
-                                 << missing << missing;
+    Row("no device", Setup([](Scene *) {}), missing, missing);
+    Row("both", Setup([](Scene *scene) {
+            scene->AddWifi();
+            scene->AddModem();
+        }),
+        on, on);
+    Row("Wi-Fi off", Setup([](Scene *scene) {
+            scene->AddWifi()->state = unavailable;
+            scene->picture.state.wifi.isEnabled = false;
+        }),
+        off, missing);
+    Row("Wi-Fi blocked", Setup([](Scene *scene) {
+            scene->AddWifi()->state = unavailable;
+            scene->picture.state.wifi.isEnabled = false;
+            scene->picture.state.wifi.isUnblocked = false;
+        }),
+        blocked, missing);
+    Row("mobile broadband off", Setup([](Scene *scene) {
+            scene->AddModem()->state = unavailable;
+            scene->picture.state.mobile.isEnabled = false;
+        }),
+        missing, off);
+    Row("not managed", Setup([](Scene *scene) { scene->AddWifi()->state = unmanaged; }), missing, missing);
 }
 
 void tst_connectionpicture::RadiosAreTold()
@@ -253,9 +257,9 @@ void tst_connectionpicture::UserMayConnect_data()
 {
     QTest::addColumn<int>("right");
     QTest::addColumn<bool>("may");
-    QTest::newRow("yes") << int(CallerRights::Allowed) << true;
-    QTest::newRow("with a password") << int(CallerRights::AllowedOnceAsked) << true;
-    QTest::newRow("no") << int(CallerRights::Denied) << false;
+    Row("yes", int(CallerRights::Allowed), true);
+    Row("with a password", int(CallerRights::AllowedOnceAsked), true);
+    Row("no", int(CallerRights::Denied), false);
 }
 
 void tst_connectionpicture::UserMayConnect()
@@ -272,207 +276,240 @@ void tst_connectionpicture::ProfileCanBeUsedOrNot_data()
     QTest::addColumn<Setup>("setup");
     QTest::addColumn<int>("use");
 
-    QTest::newRow("in range, under another name") << Setup([](Scene *scene) {
-        scene->AddWifi();
-        scene->AddPoint("OfficeNet");
-        scene->Add(Scene::Settings("Office", "OfficeNet"));
-    }) << int(Profile::UsePossible);
-    QTest::newRow("another network has its name") << Setup([](Scene *scene) {
-        scene->AddWifi();
-        scene->AddPoint("Office");
-        scene->Add(Scene::Settings("Office", "OfficeNet"));
-    }) << int(Profile::UseOutOfRange);
-    QTest::newRow("bytes that are no text") << Setup([](Scene *scene) {
-        scene->AddWifi();
-        scene->AddPoint("Caf\xe9");
-        scene->Add(Scene::Settings("A", "Caf\xe9"));
-    }) << int(Profile::UsePossible);
-    QTest::newRow("no adapter") << Setup([](Scene *scene) { scene->Add(Scene::Settings("A", "A")); })
-                                << int(Profile::UseNoDevice);
-    QTest::newRow("adapter not managed") << Setup([](Scene *scene) {
-        scene->AddWifi()->state = unmanaged;
-        scene->AddPoint("A");
-        scene->Add(Scene::Settings("A", "A"));
-    }) << int(Profile::UseNoDevice);
-    QTest::newRow("adapter that does not work") << Setup([](Scene *scene) {
-        scene->AddWifi()->state = unavailable;
-        scene->Add(Scene::Settings("A", "A"));
-    }) << int(Profile::UseNoDevice);
-    QTest::newRow("switched off") << Setup([](Scene *scene) {
-        scene->AddWifi()->state = unavailable;
-        scene->picture.state.wifi.isEnabled = false;
-        scene->Add(Scene::Settings("A", "A"));
-    }) << int(Profile::UseDeviceOff);
-    QTest::newRow("blocked") << Setup([](Scene *scene) {
-        scene->AddWifi()->state = unavailable;
-        scene->picture.state.wifi.isUnblocked = false;
-        scene->Add(Scene::Settings("A", "A"));
-    }) << int(Profile::UseDeviceBlocked);
-    QTest::newRow("hidden, out of range") << Setup([](Scene *scene) {
-        scene->AddWifi();
-        NMVariantMapMap settings = Scene::Settings("A", "A");
-        settings[wifiType]["hidden"] = true;
-        scene->Add(settings);
-    }) << int(Profile::UseHiddenIsTried);
-    QTest::newRow("hidden, its station was used before") << Setup([](Scene *scene) {
-        scene->AddWifi();
-        scene->AddPoint("");
-        scene->picture.state.accessPoints.last().bssid = QByteArray::fromHex("02000000ab01");
-        NMVariantMapMap settings = Scene::Settings("A", "A");
-        settings[wifiType]["hidden"] = true;
-        settings[wifiType]["seen-bssids"] = QStringList("02:00:00:00:AB:01");
-        scene->Add(settings);
-    }) << int(Profile::UsePossible);
-    QTest::newRow("hidden, another hidden station") << Setup([](Scene *scene) {
-        scene->AddWifi();
-        scene->AddPoint("");
-        NMVariantMapMap settings = Scene::Settings("A", "A");
-        settings[wifiType]["hidden"] = true;
-        settings[wifiType]["seen-bssids"] = QStringList("02:00:00:00:AB:01");
-        scene->Add(settings);
-    }) << int(Profile::UseHiddenIsTried);
-    QTest::newRow("another interface") << Setup([](Scene *scene) {
-        scene->AddWifi();
-        scene->AddPoint("A");
-        NMVariantMapMap settings = Scene::Settings("A", "A");
-        settings["connection"]["interface-name"] = "wlan1";
-        scene->Add(settings);
-    }) << int(Profile::UseOtherDevice);
-    QTest::newRow("its interface") << Setup([](Scene *scene) {
-        scene->AddWifi();
-        scene->AddPoint("A");
-        NMVariantMapMap settings = Scene::Settings("A", "A");
-        settings["connection"]["interface-name"] = "wlan0";
-        scene->Add(settings);
-    }) << int(Profile::UsePossible);
-    QTest::newRow("the other interface sees it") << Setup([](Scene *scene) {
-        scene->AddWifi("wlan1");
-        scene->AddWifi("wlan0");
-        scene->AddPoint("A");
-        NMVariantMapMap settings = Scene::Settings("A", "A");
-        settings["connection"]["interface-name"] = "wlan1";
-        scene->Add(settings);
-    }) << int(Profile::UseOtherDevice);
-    QTest::newRow("another adapter") << Setup([](Scene *scene) {
-        scene->AddWifi();
-        scene->AddPoint("A");
-        NMVariantMapMap settings = Scene::Settings("A", "A");
-        settings[wifiType]["mac-address"] = QByteArray::fromHex("020000000002");
-        scene->Add(settings);
-    }) << int(Profile::UseOtherDevice);
-    QTest::newRow("refused adapter") << Setup([](Scene *scene) {
-        scene->AddWifi();
-        scene->AddPoint("A");
-        NMVariantMapMap settings = Scene::Settings("A", "A");
-        settings[wifiType]["mac-address-blacklist"] = QStringList("02:00:00:00:00:01");
-        scene->Add(settings);
-    }) << int(Profile::UseOtherDevice);
-    QTest::newRow("another band") << Setup([](Scene *scene) {
-        scene->AddWifi();
-        scene->AddPoint("A");
-        NMVariantMapMap settings = Scene::Settings("A", "A");
-        settings[wifiType]["band"] = "a";
-        scene->Add(settings);
-    }) << int(Profile::UseOtherDevice);
-    QTest::newRow("its band") << Setup([](Scene *scene) {
-        scene->AddWifi();
-        scene->AddPoint("A")->frequency = 5180;
-        NMVariantMapMap settings = Scene::Settings("A", "A");
-        settings[wifiType]["band"] = "a";
-        scene->Add(settings);
-    }) << int(Profile::UsePossible);
-    QTest::newRow("another channel") << Setup([](Scene *scene) {
-        scene->AddWifi();
-        scene->AddPoint("A");
-        NMVariantMapMap settings = Scene::Settings("A", "A");
-        settings[wifiType]["band"] = "bg";
-        settings[wifiType]["channel"] = 11U;
-        scene->Add(settings);
-    }) << int(Profile::UseOtherDevice);
-    QTest::newRow("another station") << Setup([](Scene *scene) {
-        scene->AddWifi();
-        scene->AddPoint("A");
-        NMVariantMapMap settings = Scene::Settings("A", "A");
-        settings[wifiType]["bssid"] = QByteArray::fromHex("02000000ab01");
-        scene->Add(settings);
-    }) << int(Profile::UseOtherDevice);
-    QTest::newRow("another security") << Setup([](Scene *scene) {
-        scene->AddWifi();
-        scene->AddPoint("A");
-        scene->Add(Scene::KeySettings("A", "A"));
-    }) << int(Profile::UseOtherSecurity);
-    QTest::newRow("a network between computers has its name") << Setup([](Scene *scene) {
-        scene->AddWifi();
-        scene->AddPoint("A")->mode = adHocMode;
-        scene->Add(Scene::Settings("A", "A"));
-    }) << int(Profile::UseOutOfRange);
-    QTest::newRow("a network between computers that nobody has begun") << Setup([](Scene *scene) {
-        scene->AddWifi();
-        NMVariantMapMap settings = Scene::Settings("A", "A");
-        settings[wifiType]["mode"] = "adhoc";
-        scene->Add(settings);
-    }) << int(Profile::UsePossible);
-    QTest::newRow("of other users") << Setup([](Scene *scene) {
-        scene->AddWifi();
-        scene->AddPoint("A");
-        NMVariantMapMap settings = Scene::Settings("A", "A");
-        settings["connection"]["permissions"] = QStringList("user:somebody:");
-        scene->Add(settings);
-    }) << int(Profile::UseOtherUsers);
-    QTest::newRow("of this user among others") << Setup([](Scene *scene) {
-        scene->AddWifi();
-        scene->AddPoint("A");
-        NMVariantMapMap settings = Scene::Settings("A", "A");
-        settings["connection"]["permissions"] = QStringList() << "user:somebody:"
-                                                              << "user:me:";
-        scene->Add(settings);
-    }) << int(Profile::UsePossible);
-    QTest::newRow("without its account") << Setup([](Scene *scene) {
-        scene->AddWifi();
-        scene->AddPoint("A", 50, privacy, 0, eap | ccmp);
-        NMVariantMapMap settings = Scene::Settings("A", "A");
-        settings["802-11-wireless-security"]["key-mgmt"] = "wpa-eap";
-        scene->Add(settings);
-    }) << int(Profile::UseNoAccount);
+    Row("in range, under another name", Setup([](Scene *scene) {
+            scene->AddWifi();
+            scene->AddPoint("OfficeNet");
+            scene->Add(Scene::Settings("Office", "OfficeNet"));
+        }),
+        int(Profile::UsePossible));
+    Row("another network has its name", Setup([](Scene *scene) {
+            scene->AddWifi();
+            scene->AddPoint("Office");
+            scene->Add(Scene::Settings("Office", "OfficeNet"));
+        }),
+        int(Profile::UseOutOfRange));
+    Row("bytes that are no text", Setup([](Scene *scene) {
+            scene->AddWifi();
+            scene->AddPoint("Caf\xe9");
+            scene->Add(Scene::Settings("A", "Caf\xe9"));
+        }),
+        int(Profile::UsePossible));
+    Row("no adapter", Setup([](Scene *scene) { scene->Add(Scene::Settings("A", "A")); }),
+        int(Profile::UseNoDevice));
+    Row("adapter not managed", Setup([](Scene *scene) {
+            scene->AddWifi()->state = unmanaged;
+            scene->AddPoint("A");
+            scene->Add(Scene::Settings("A", "A"));
+        }),
+        int(Profile::UseNoDevice));
+    Row("adapter that does not work", Setup([](Scene *scene) {
+            scene->AddWifi()->state = unavailable;
+            scene->Add(Scene::Settings("A", "A"));
+        }),
+        int(Profile::UseNoDevice));
+    Row("switched off", Setup([](Scene *scene) {
+            scene->AddWifi()->state = unavailable;
+            scene->picture.state.wifi.isEnabled = false;
+            scene->Add(Scene::Settings("A", "A"));
+        }),
+        int(Profile::UseDeviceOff));
+    Row("blocked", Setup([](Scene *scene) {
+            scene->AddWifi()->state = unavailable;
+            scene->picture.state.wifi.isUnblocked = false;
+            scene->Add(Scene::Settings("A", "A"));
+        }),
+        int(Profile::UseDeviceBlocked));
+    Row("hidden, out of range", Setup([](Scene *scene) {
+            scene->AddWifi();
+            NMVariantMapMap settings = Scene::Settings("A", "A");
+            settings[wifiType]["hidden"] = true;
+            scene->Add(settings);
+        }),
+        int(Profile::UseHiddenIsTried));
+    Row("hidden, its station was used before", Setup([](Scene *scene) {
+            scene->AddWifi();
+            scene->AddPoint("");
+            scene->picture.state.accessPoints.last().bssid = QByteArray::fromHex("02000000ab01");
+            NMVariantMapMap settings = Scene::Settings("A", "A");
+            settings[wifiType]["hidden"] = true;
+            settings[wifiType]["seen-bssids"] = QStringList("02:00:00:00:AB:01");
+            scene->Add(settings);
+        }),
+        int(Profile::UsePossible));
+    Row("hidden, another hidden station", Setup([](Scene *scene) {
+            scene->AddWifi();
+            scene->AddPoint("");
+            NMVariantMapMap settings = Scene::Settings("A", "A");
+            settings[wifiType]["hidden"] = true;
+            settings[wifiType]["seen-bssids"] = QStringList("02:00:00:00:AB:01");
+            scene->Add(settings);
+        }),
+        int(Profile::UseHiddenIsTried));
+    Row("another interface", Setup([](Scene *scene) {
+            scene->AddWifi();
+            scene->AddPoint("A");
+            NMVariantMapMap settings = Scene::Settings("A", "A");
+            settings["connection"]["interface-name"] = "wlan1";
+            scene->Add(settings);
+        }),
+        int(Profile::UseOtherDevice));
+    Row("its interface", Setup([](Scene *scene) {
+            scene->AddWifi();
+            scene->AddPoint("A");
+            NMVariantMapMap settings = Scene::Settings("A", "A");
+            settings["connection"]["interface-name"] = "wlan0";
+            scene->Add(settings);
+        }),
+        int(Profile::UsePossible));
+    Row("the other interface sees it", Setup([](Scene *scene) {
+            scene->AddWifi("wlan1");
+            scene->AddWifi("wlan0");
+            scene->AddPoint("A");
+            NMVariantMapMap settings = Scene::Settings("A", "A");
+            settings["connection"]["interface-name"] = "wlan1";
+            scene->Add(settings);
+        }),
+        int(Profile::UseOtherDevice));
+    Row("another adapter", Setup([](Scene *scene) {
+            scene->AddWifi();
+            scene->AddPoint("A");
+            NMVariantMapMap settings = Scene::Settings("A", "A");
+            settings[wifiType]["mac-address"] = QByteArray::fromHex("020000000002");
+            scene->Add(settings);
+        }),
+        int(Profile::UseOtherDevice));
+    Row("refused adapter", Setup([](Scene *scene) {
+            scene->AddWifi();
+            scene->AddPoint("A");
+            NMVariantMapMap settings = Scene::Settings("A", "A");
+            settings[wifiType]["mac-address-blacklist"] = QStringList("02:00:00:00:00:01");
+            scene->Add(settings);
+        }),
+        int(Profile::UseOtherDevice));
+    Row("another band", Setup([](Scene *scene) {
+            scene->AddWifi();
+            scene->AddPoint("A");
+            NMVariantMapMap settings = Scene::Settings("A", "A");
+            settings[wifiType]["band"] = "a";
+            scene->Add(settings);
+        }),
+        int(Profile::UseOtherDevice));
+    Row("its band", Setup([](Scene *scene) {
+            scene->AddWifi();
+            scene->AddPoint("A")->frequency = 5180;
+            NMVariantMapMap settings = Scene::Settings("A", "A");
+            settings[wifiType]["band"] = "a";
+            scene->Add(settings);
+        }),
+        int(Profile::UsePossible));
+    Row("another channel", Setup([](Scene *scene) {
+            scene->AddWifi();
+            scene->AddPoint("A");
+            NMVariantMapMap settings = Scene::Settings("A", "A");
+            settings[wifiType]["band"] = "bg";
+            settings[wifiType]["channel"] = 11U;
+            scene->Add(settings);
+        }),
+        int(Profile::UseOtherDevice));
+    Row("another station", Setup([](Scene *scene) {
+            scene->AddWifi();
+            scene->AddPoint("A");
+            NMVariantMapMap settings = Scene::Settings("A", "A");
+            settings[wifiType]["bssid"] = QByteArray::fromHex("02000000ab01");
+            scene->Add(settings);
+        }),
+        int(Profile::UseOtherDevice));
+    Row("another security", Setup([](Scene *scene) {
+            scene->AddWifi();
+            scene->AddPoint("A");
+            scene->Add(Scene::KeySettings("A", "A"));
+        }),
+        int(Profile::UseOtherSecurity));
+    Row("a network between computers has its name", Setup([](Scene *scene) {
+            scene->AddWifi();
+            scene->AddPoint("A")->mode = adHocMode;
+            scene->Add(Scene::Settings("A", "A"));
+        }),
+        int(Profile::UseOutOfRange));
+    Row("a network between computers that nobody has begun", Setup([](Scene *scene) {
+            scene->AddWifi();
+            NMVariantMapMap settings = Scene::Settings("A", "A");
+            settings[wifiType]["mode"] = "adhoc";
+            scene->Add(settings);
+        }),
+        int(Profile::UsePossible));
+    Row("of other users", Setup([](Scene *scene) {
+            scene->AddWifi();
+            scene->AddPoint("A");
+            NMVariantMapMap settings = Scene::Settings("A", "A");
+            settings["connection"]["permissions"] = QStringList("user:somebody:");
+            scene->Add(settings);
+        }),
+        int(Profile::UseOtherUsers));
+    Row("of this user among others", Setup([](Scene *scene) {
+            scene->AddWifi();
+            scene->AddPoint("A");
+            NMVariantMapMap settings = Scene::Settings("A", "A");
+            settings["connection"]["permissions"] = QStringList() << "user:somebody:"
+                                                                  << "user:me:";
+            scene->Add(settings);
+        }),
+        int(Profile::UsePossible));
+    Row("without its account", Setup([](Scene *scene) {
+            scene->AddWifi();
+            scene->AddPoint("A", 50, privacy, 0, eap | ccmp);
+            NMVariantMapMap settings = Scene::Settings("A", "A");
+            settings["802-11-wireless-security"]["key-mgmt"] = "wpa-eap";
+            scene->Add(settings);
+        }),
+        int(Profile::UseNoAccount));
 
-    QTest::newRow("modem ready") << Setup([](Scene *scene) {
-        scene->AddModem();
-        scene->Add(Scene::MobileSettings("Phone"));
-    }) << int(Profile::UsePossible);
-    QTest::newRow("no modem") << Setup([](Scene *scene) {
-        scene->AddWifi();
-        scene->Add(Scene::MobileSettings("Phone"));
-    }) << int(Profile::UseNoDevice);
-    QTest::newRow("modem off") << Setup([](Scene *scene) {
-        scene->AddModem()->state = unavailable;
-        scene->picture.state.mobile.isEnabled = false;
-        scene->Add(Scene::MobileSettings("Phone"));
-    }) << int(Profile::UseDeviceOff);
-    QTest::newRow("modem blocked") << Setup([](Scene *scene) {
-        scene->AddModem()->state = unavailable;
-        scene->picture.state.mobile.isUnblocked = false;
-        scene->Add(Scene::MobileSettings("Phone"));
-    }) << int(Profile::UseDeviceBlocked);
-    QTest::newRow("modem that does not work") << Setup([](Scene *scene) {
-        scene->AddModem()->state = unavailable;
-        scene->Add(Scene::MobileSettings("Phone"));
-    }) << int(Profile::UseNoDevice);
-    QTest::newRow("SIM locked") << Setup([](Scene *scene) {
-        NetworkDevice *modem = scene->AddModem();
-        modem->state = unavailable;
-        modem->reason = 46;
-        scene->Add(Scene::MobileSettings("Phone"));
-    }) << int(Profile::UseSimLocked);
-    QTest::newRow("another modem") << Setup([](Scene *scene) {
-        scene->AddModem()->modemId = "1";
-        NMVariantMapMap settings = Scene::MobileSettings("Phone");
-        settings["gsm"]["device-id"] = "2";
-        scene->Add(settings);
-    }) << int(Profile::UseOtherDevice);
-    QTest::newRow("modem of another kind") << Setup([](Scene *scene) {
-        scene->AddModem()->capabilities = 0x2;
-        scene->Add(Scene::MobileSettings("Phone"));
-    }) << int(Profile::UseOtherDevice);
+    Row("modem ready", Setup([](Scene *scene) {
+            scene->AddModem();
+            scene->Add(Scene::MobileSettings("Phone"));
+        }),
+        int(Profile::UsePossible));
+    Row("no modem", Setup([](Scene *scene) {
+            scene->AddWifi();
+            scene->Add(Scene::MobileSettings("Phone"));
+        }),
+        int(Profile::UseNoDevice));
+    Row("modem off", Setup([](Scene *scene) {
+            scene->AddModem()->state = unavailable;
+            scene->picture.state.mobile.isEnabled = false;
+            scene->Add(Scene::MobileSettings("Phone"));
+        }),
+        int(Profile::UseDeviceOff));
+    Row("modem blocked", Setup([](Scene *scene) {
+            scene->AddModem()->state = unavailable;
+            scene->picture.state.mobile.isUnblocked = false;
+            scene->Add(Scene::MobileSettings("Phone"));
+        }),
+        int(Profile::UseDeviceBlocked));
+    Row("modem that does not work", Setup([](Scene *scene) {
+            scene->AddModem()->state = unavailable;
+            scene->Add(Scene::MobileSettings("Phone"));
+        }),
+        int(Profile::UseNoDevice));
+    Row("SIM locked", Setup([](Scene *scene) {
+            NetworkDevice *modem = scene->AddModem();
+            modem->state = unavailable;
+            modem->reason = 46;
+            scene->Add(Scene::MobileSettings("Phone"));
+        }),
+        int(Profile::UseSimLocked));
+    Row("another modem", Setup([](Scene *scene) {
+            scene->AddModem()->modemId = "1";
+            NMVariantMapMap settings = Scene::MobileSettings("Phone");
+            settings["gsm"]["device-id"] = "2";
+            scene->Add(settings);
+        }),
+        int(Profile::UseOtherDevice));
+    Row("modem of another kind", Setup([](Scene *scene) {
+            scene->AddModem()->capabilities = 0x2;
+            scene->Add(Scene::MobileSettings("Phone"));
+        }),
+        int(Profile::UseOtherDevice));
 }
 
 void tst_connectionpicture::ProfileCanBeUsedOrNot()
@@ -495,44 +532,39 @@ void tst_connectionpicture::SecurityFitsOrNot_data()
     QTest::addColumn<bool>("fits");
     const QStringList any;
     const unsigned int all = 0xffff;
-    QTest::newRow("open, open") << "" << any << any << 0U << 0U << 0U << all << true;
-    QTest::newRow("open, WEP") << "" << any << any << privacy << 0U << 0U << all << false;
-    QTest::newRow("open, WPA2") << "" << any << any << privacy << 0U << (psk | ccmp) << all << false;
-    QTest::newRow("open, OWE beside it") << "" << any << any << 0U << 0U << oweTransition << all << true;
-    QTest::newRow("open, OWE alone") << "" << any << any << 0U << 0U << (owe | ccmp) << all << false;
-    QTest::newRow("OWE, OWE") << "owe" << any << any << 0U << 0U << (owe | ccmp) << all << true;
-    QTest::newRow("OWE, open") << "owe" << any << any << 0U << 0U << 0U << all << false;
-    QTest::newRow("WEP, WEP") << "none" << any << any << privacy << 0U << 0U << all << true;
-    QTest::newRow("WEP, open") << "none" << any << any << 0U << 0U << 0U << all << false;
-    QTest::newRow("WEP, WPA2") << "none" << any << any << privacy << 0U << (psk | ccmp) << all << false;
-    QTest::newRow("WEP, adapter without") << "none" << any << any << privacy << 0U << 0U << 0x38U << false;
-    QTest::newRow("PSK, WPA2") << "wpa-psk" << any << any << privacy << 0U << (psk | ccmp) << all << true;
-    QTest::newRow("PSK, WPA") << "wpa-psk" << any << any << privacy << (psk | tkip) << 0U << all << true;
-    QTest::newRow("PSK, WPA3") << "wpa-psk" << any << any << privacy << 0U << (sae | ccmp) << all << true;
-    QTest::newRow("PSK, EAP") << "wpa-psk" << any << any << privacy << 0U << (eap | ccmp) << all << false;
-    QTest::newRow("PSK, WEP") << "wpa-psk" << any << any << privacy << 0U << 0U << all << false;
-    QTest::newRow("PSK with WPA2 only, WPA")
-        << "wpa-psk" << QStringList("rsn") << any << privacy << (psk | tkip) << 0U << all << false;
-    QTest::newRow("PSK with WPA only, both")
-        << "wpa-psk" << QStringList("wpa") << any << privacy << (psk | tkip) << (psk | ccmp) << all << true;
-    QTest::newRow("PSK with TKIP only, CCMP")
-        << "wpa-psk" << any << QStringList("tkip") << privacy << 0U << (psk | ccmp) << all << false;
-    QTest::newRow("PSK with CCMP only, both ciphers")
-        << "wpa-psk" << any << QStringList("ccmp") << privacy << 0U << (psk | ccmp | tkip) << all << true;
-    QTest::newRow("PSK, adapter without WPA2")
-        << "wpa-psk" << any << any << privacy << 0U << (psk | ccmp) << 0x1fU << false;
-    QTest::newRow("PSK, adapter that tells nothing")
-        << "wpa-psk" << any << any << privacy << 0U << (psk | ccmp) << 0U << true;
-    QTest::newRow("SAE, WPA3") << "sae" << any << any << privacy << 0U << (sae | ccmp) << all << true;
-    QTest::newRow("SAE, WPA2") << "sae" << any << any << privacy << 0U << (psk | ccmp) << all << false;
-    QTest::newRow("EAP, EAP") << "wpa-eap" << any << any << privacy << 0U << (eap | ccmp) << all << true;
-    QTest::newRow("EAP, PSK") << "wpa-eap" << any << any << privacy << 0U << (psk | ccmp) << all << false;
-    QTest::newRow("suite B, suite B")
-        << "wpa-eap-suite-b-192" << any << any << privacy << 0U << suiteB << all << true;
-    QTest::newRow("suite B, EAP") << "wpa-eap-suite-b-192" << any << any << privacy << 0U << (eap | ccmp)
-                                  << all << false;
-    QTest::newRow("dynamic WEP, WEP") << "ieee8021x" << any << any << privacy << 0U << 0U << all << true;
-    QTest::newRow("dynamic WEP, open") << "ieee8021x" << any << any << 0U << 0U << 0U << all << false;
+    Row("open, open", "", any, any, 0U, 0U, 0U, all, true);
+    Row("open, WEP", "", any, any, privacy, 0U, 0U, all, false);
+    Row("open, WPA2", "", any, any, privacy, 0U, (psk | ccmp), all, false);
+    Row("open, OWE beside it", "", any, any, 0U, 0U, oweTransition, all, true);
+    Row("open, OWE alone", "", any, any, 0U, 0U, (owe | ccmp), all, false);
+    Row("OWE, OWE", "owe", any, any, 0U, 0U, (owe | ccmp), all, true);
+    Row("OWE, open", "owe", any, any, 0U, 0U, 0U, all, false);
+    Row("WEP, WEP", "none", any, any, privacy, 0U, 0U, all, true);
+    Row("WEP, open", "none", any, any, 0U, 0U, 0U, all, false);
+    Row("WEP, WPA2", "none", any, any, privacy, 0U, (psk | ccmp), all, false);
+    Row("WEP, adapter without", "none", any, any, privacy, 0U, 0U, 0x38U, false);
+    Row("PSK, WPA2", "wpa-psk", any, any, privacy, 0U, (psk | ccmp), all, true);
+    Row("PSK, WPA", "wpa-psk", any, any, privacy, (psk | tkip), 0U, all, true);
+    Row("PSK, WPA3", "wpa-psk", any, any, privacy, 0U, (sae | ccmp), all, true);
+    Row("PSK, EAP", "wpa-psk", any, any, privacy, 0U, (eap | ccmp), all, false);
+    Row("PSK, WEP", "wpa-psk", any, any, privacy, 0U, 0U, all, false);
+    Row("PSK with WPA2 only, WPA", "wpa-psk", QStringList("rsn"), any, privacy, (psk | tkip), 0U, all, false);
+    Row("PSK with WPA only, both", "wpa-psk", QStringList("wpa"), any, privacy, (psk | tkip), (psk | ccmp),
+        all, true);
+    Row("PSK with TKIP only, CCMP", "wpa-psk", any, QStringList("tkip"), privacy, 0U, (psk | ccmp), all,
+        false);
+    Row("PSK with CCMP only, both ciphers", "wpa-psk", any, QStringList("ccmp"), privacy, 0U,
+        (psk | ccmp | tkip), all, true);
+    Row("PSK, adapter without WPA2", "wpa-psk", any, any, privacy, 0U, (psk | ccmp), 0x1fU, false);
+    Row("PSK, adapter that tells nothing", "wpa-psk", any, any, privacy, 0U, (psk | ccmp), 0U, true);
+    Row("SAE, WPA3", "sae", any, any, privacy, 0U, (sae | ccmp), all, true);
+    Row("SAE, WPA2", "sae", any, any, privacy, 0U, (psk | ccmp), all, false);
+    Row("EAP, EAP", "wpa-eap", any, any, privacy, 0U, (eap | ccmp), all, true);
+    Row("EAP, PSK", "wpa-eap", any, any, privacy, 0U, (psk | ccmp), all, false);
+    Row("suite B, suite B", "wpa-eap-suite-b-192", any, any, privacy, 0U, suiteB, all, true);
+    Row("suite B, EAP", "wpa-eap-suite-b-192", any, any, privacy, 0U, (eap | ccmp), all, false);
+    Row("dynamic WEP, WEP", "ieee8021x", any, any, privacy, 0U, 0U, all, true);
+    Row("dynamic WEP, open", "ieee8021x", any, any, 0U, 0U, 0U, all, false);
 }
 
 void tst_connectionpicture::SecurityFitsOrNot()
@@ -671,15 +703,15 @@ void tst_connectionpicture::StageIsThatOfTheDevice_data()
     QTest::addColumn<unsigned int>("state");
     QTest::addColumn<unsigned int>("deviceState");
     QTest::addColumn<int>("stage");
-    QTest::newRow("before the device begins") << 1U << 30U << int(StagePreparing);
-    QTest::newRow("preparing") << 1U << 40U << int(StagePreparing);
-    QTest::newRow("configuring") << 1U << 50U << int(StageAuthenticating);
-    QTest::newRow("waiting for a key") << 1U << 60U << int(StageAuthenticating);
-    QTest::newRow("asking for an address") << 1U << 70U << int(StageGettingAddress);
-    QTest::newRow("checking the address") << 1U << 80U << int(StageGettingAddress);
-    QTest::newRow("waiting for what depends on it") << 1U << 90U << int(StageGettingAddress);
-    QTest::newRow("up") << 2U << 100U << int(StageConnected);
-    QTest::newRow("going down") << 3U << 110U << int(StageDisconnecting);
+    Row("before the device begins", 1U, 30U, int(StagePreparing));
+    Row("preparing", 1U, 40U, int(StagePreparing));
+    Row("configuring", 1U, 50U, int(StageAuthenticating));
+    Row("waiting for a key", 1U, 60U, int(StageAuthenticating));
+    Row("asking for an address", 1U, 70U, int(StageGettingAddress));
+    Row("checking the address", 1U, 80U, int(StageGettingAddress));
+    Row("waiting for what depends on it", 1U, 90U, int(StageGettingAddress));
+    Row("up", 2U, 100U, int(StageConnected));
+    Row("going down", 3U, 110U, int(StageDisconnecting));
 }
 
 void tst_connectionpicture::StageIsThatOfTheDevice()
@@ -695,8 +727,8 @@ void tst_connectionpicture::StageIsThatOfTheDevice()
 void tst_connectionpicture::ConnectionThatIsDownIsNotTold_data()
 {
     QTest::addColumn<unsigned int>("state");
-    QTest::newRow("down") << 4U;
-    QTest::newRow("not known") << 0U;
+    Row("down", 4U);
+    Row("not known", 0U);
 }
 
 void tst_connectionpicture::ConnectionThatIsDownIsNotTold()
@@ -846,13 +878,13 @@ void tst_connectionpicture::ProtectionIsTold_data()
     QTest::addColumn<unsigned int>("flags");
     QTest::addColumn<unsigned int>("rsn");
     QTest::addColumn<int>("protection");
-    QTest::newRow("open") << 0U << 0U << int(VisibleNetwork::ProtectionOpen);
-    QTest::newRow("OWE") << 0U << (owe | ccmp) << int(VisibleNetwork::ProtectionOpen);
-    QTest::newRow("WEP") << privacy << 0U << int(VisibleNetwork::ProtectionWeakKey);
-    QTest::newRow("WPA2") << privacy << (psk | ccmp) << int(VisibleNetwork::ProtectionKey);
-    QTest::newRow("WPA3") << privacy << (sae | ccmp) << int(VisibleNetwork::ProtectionKey);
-    QTest::newRow("EAP") << privacy << (eap | ccmp) << int(VisibleNetwork::ProtectionAccount);
-    QTest::newRow("key or EAP") << privacy << (psk | eap | ccmp) << int(VisibleNetwork::ProtectionKey);
+    Row("open", 0U, 0U, int(VisibleNetwork::ProtectionOpen));
+    Row("OWE", 0U, (owe | ccmp), int(VisibleNetwork::ProtectionOpen));
+    Row("WEP", privacy, 0U, int(VisibleNetwork::ProtectionWeakKey));
+    Row("WPA2", privacy, (psk | ccmp), int(VisibleNetwork::ProtectionKey));
+    Row("WPA3", privacy, (sae | ccmp), int(VisibleNetwork::ProtectionKey));
+    Row("EAP", privacy, (eap | ccmp), int(VisibleNetwork::ProtectionAccount));
+    Row("key or EAP", privacy, (psk | eap | ccmp), int(VisibleNetwork::ProtectionKey));
 }
 
 void tst_connectionpicture::ProtectionIsTold()
@@ -870,21 +902,21 @@ void tst_connectionpicture::FailureOfADevice_data()
     QTest::addColumn<unsigned int>("reason");
     QTest::addColumn<bool>("hasKey");
     QTest::addColumn<int>("failure");
-    QTest::newRow("no key given") << 7U << false << int(FailureKeyMissing);
-    QTest::newRow("a key that did not help") << 7U << true << int(FailureWrongKey);
-    QTest::newRow("the station disconnects") << 8U << true << int(FailureRefused);
-    QTest::newRow("authentication fails") << 10U << true << int(FailureRefused);
-    QTest::newRow("no answer") << 11U << true << int(FailureNoAnswer);
-    QTest::newRow("network not found") << 53U << true << int(FailureNoAnswer);
-    QTest::newRow("no address") << 5U << true << int(FailureNoAddress);
-    QTest::newRow("address not answered") << 17U << true << int(FailureNoAddress);
-    QTest::newRow("registration denied") << 31U << true << int(FailureRefused);
-    QTest::newRow("SIM missing") << 45U << true << int(FailureSim);
-    QTest::newRow("PIN needed") << 46U << true << int(FailureSim);
-    QTest::newRow("user") << 39U << true << int(FailureStopped);
-    QTest::newRow("device removed") << 36U << true << int(FailureDevice);
-    QTest::newRow("modem busy") << 23U << true << int(FailureDevice);
-    QTest::newRow("a reason of a later time") << 9999U << true << int(FailureOther);
+    Row("no key given", 7U, false, int(FailureKeyMissing));
+    Row("a key that did not help", 7U, true, int(FailureWrongKey));
+    Row("the station disconnects", 8U, true, int(FailureRefused));
+    Row("authentication fails", 10U, true, int(FailureRefused));
+    Row("no answer", 11U, true, int(FailureNoAnswer));
+    Row("network not found", 53U, true, int(FailureNoAnswer));
+    Row("no address", 5U, true, int(FailureNoAddress));
+    Row("address not answered", 17U, true, int(FailureNoAddress));
+    Row("registration denied", 31U, true, int(FailureRefused));
+    Row("SIM missing", 45U, true, int(FailureSim));
+    Row("PIN needed", 46U, true, int(FailureSim));
+    Row("user", 39U, true, int(FailureStopped));
+    Row("device removed", 36U, true, int(FailureDevice));
+    Row("modem busy", 23U, true, int(FailureDevice));
+    Row("a reason of a later time", 9999U, true, int(FailureOther));
 }
 
 void tst_connectionpicture::FailureOfADevice()

@@ -1,6 +1,8 @@
 #include "LoadedWLAN.h"
 #include "NetworkManagerTest.h"
 
+#include <Row.h>
+
 #include <QSignalSpy>
 #include <QtTest>
 
@@ -110,7 +112,7 @@ void tst_networkmanagerconnections::ChangesAreTold_data()
     const char *const changes[] = {"signal",     "network gone", "renamed",      "deleted",
                                    "connecting", "device gone",  "switched off", "right lost"};
     for (const char *change : changes) {
-        QTest::newRow(change) << QString(change);
+        Row(change, QString(change));
     }
 }
 
@@ -465,12 +467,9 @@ void tst_networkmanagerconnections::FailureIsTold_data()
     QTest::addColumn<unsigned int>("reason");
     QTest::addColumn<int>("stage");
     QTest::addColumn<int>("failure");
-    QTest::newRow("wrong key") << needAuthentication << noSecrets << int(StageAuthenticating)
-                               << int(FailureWrongKey);
-    QTest::newRow("no answer") << configuring << supplicantTimeout << int(StageAuthenticating)
-                               << int(FailureNoAnswer);
-    QTest::newRow("no address") << gettingAddress << dhcpFailed << int(StageGettingAddress)
-                                << int(FailureNoAddress);
+    Row("wrong key", needAuthentication, noSecrets, int(StageAuthenticating), int(FailureWrongKey));
+    Row("no answer", configuring, supplicantTimeout, int(StageAuthenticating), int(FailureNoAnswer));
+    Row("no address", gettingAddress, dhcpFailed, int(StageGettingAddress), int(FailureNoAddress));
 }
 
 void tst_networkmanagerconnections::FailureIsTold()
@@ -506,9 +505,9 @@ void tst_networkmanagerconnections::OrderIsRefused_data()
 {
     QTest::addColumn<QString>("state");
     QTest::addColumn<int>("refusal");
-    QTest::newRow("nothing of that id") << "unknown" << int(IConnectionPlugin::RefusedUnknown);
-    QTest::newRow("gone") << "gone" << int(IConnectionPlugin::RefusedSource);
-    QTest::newRow("not allowed") << "no" << int(IConnectionPlugin::RefusedNotAllowed);
+    Row("nothing of that id", "unknown", int(IConnectionPlugin::RefusedUnknown));
+    Row("gone", "gone", int(IConnectionPlugin::RefusedSource));
+    Row("not allowed", "no", int(IConnectionPlugin::RefusedNotAllowed));
 }
 
 void tst_networkmanagerconnections::OrderIsRefused()
@@ -553,8 +552,8 @@ void tst_networkmanagerconnections::ErrorOfTheOrderIsTold_data()
 {
     QTest::addColumn<QString>("error");
     QTest::addColumn<int>("failure");
-    QTest::newRow("denied") << "org.freedesktop.NetworkManager.PermissionDenied" << int(FailureNotAllowed);
-    QTest::newRow("any other") << "org.freedesktop.NetworkManager.UnknownDevice" << int(FailureOther);
+    Row("denied", "org.freedesktop.NetworkManager.PermissionDenied", int(FailureNotAllowed));
+    Row("any other", "org.freedesktop.NetworkManager.UnknownDevice", int(FailureOther));
 }
 
 void tst_networkmanagerconnections::ErrorOfTheOrderIsTold()
@@ -672,10 +671,10 @@ void tst_networkmanagerconnections::KeyThatIsNoneIsRefused_data()
     QTest::addColumn<unsigned int>("flags");
     QTest::addColumn<QString>("key");
     QTest::addColumn<int>("refusal");
-    QTest::newRow("none") << (psk | ccmp) << "" << int(IConnectionPlugin::RefusedKey);
-    QTest::newRow("too short") << (psk | ccmp) << "1234567" << int(IConnectionPlugin::RefusedKey);
-    QTest::newRow("WEP of no length") << 0U << "1234" << int(IConnectionPlugin::RefusedKey);
-    QTest::newRow("account") << (eap | ccmp) << "12345678" << int(IConnectionPlugin::RefusedAccount);
+    Row("none", (psk | ccmp), "", int(IConnectionPlugin::RefusedKey));
+    Row("too short", (psk | ccmp), "1234567", int(IConnectionPlugin::RefusedKey));
+    Row("WEP of no length", 0U, "1234", int(IConnectionPlugin::RefusedKey));
+    Row("account", (eap | ccmp), "12345678", int(IConnectionPlugin::RefusedAccount));
 }
 
 void tst_networkmanagerconnections::KeyThatIsNoneIsRefused()

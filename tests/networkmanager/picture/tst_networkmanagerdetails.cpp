@@ -1,6 +1,8 @@
 #include "LoadedWLAN.h"
 #include "NetworkManagerTest.h"
 
+#include <Row.h>
+
 #include <QSignalSpy>
 #include <QtTest>
 
@@ -90,11 +92,11 @@ void tst_networkmanagerdetails::MeteredIsToldAsItIsKnown_data()
     QTest::addColumn<int>("setting");
     QTest::addColumn<unsigned int>("device");
     QTest::addColumn<int>("told");
-    QTest::newRow("nobody knows") << 0 << 0U << int(ProfileDetails::MeteredNotKnown);
-    QTest::newRow("yes") << 1 << guessNo << int(ProfileDetails::MeteredYes);
-    QTest::newRow("no") << 2 << guessYes << int(ProfileDetails::MeteredNo);
-    QTest::newRow("guessed yes") << 0 << guessYes << int(ProfileDetails::MeteredGuessedYes);
-    QTest::newRow("guessed no") << 0 << guessNo << int(ProfileDetails::MeteredGuessedNo);
+    Row("nobody knows", 0, 0U, int(ProfileDetails::MeteredNotKnown));
+    Row("yes", 1, guessNo, int(ProfileDetails::MeteredYes));
+    Row("no", 2, guessYes, int(ProfileDetails::MeteredNo));
+    Row("guessed yes", 0, guessYes, int(ProfileDetails::MeteredGuessedYes));
+    Row("guessed no", 0, guessNo, int(ProfileDetails::MeteredGuessedNo));
 }
 
 void tst_networkmanagerdetails::MeteredIsToldAsItIsKnown()
@@ -116,10 +118,9 @@ void tst_networkmanagerdetails::UsersAreTold_data()
     QTest::addColumn<QStringList>("permissions");
     QTest::addColumn<QStringList>("users");
     QTest::addColumn<bool>("areKnown");
-    QTest::newRow("all") << QStringList() << QStringList() << true;
-    QTest::newRow("two") << QStringList({"user:anna:", "user:ben:"}) << QStringList({"anna", "ben"}) << true;
-    QTest::newRow("not only users") << QStringList({"user:anna:", "role:guest:"}) << QStringList("anna")
-                                    << false;
+    Row("all", QStringList(), QStringList(), true);
+    Row("two", QStringList({"user:anna:", "user:ben:"}), QStringList({"anna", "ben"}), true);
+    Row("not only users", QStringList({"user:anna:", "role:guest:"}), QStringList("anna"), false);
 }
 
 void tst_networkmanagerdetails::UsersAreTold()
@@ -134,9 +135,9 @@ void tst_networkmanagerdetails::ChangeIsAllowedOrNot_data()
 {
     QTest::addColumn<QString>("right");
     QTest::addColumn<int>("change");
-    QTest::newRow("yes") << "yes" << int(ProfileDetails::ChangeAllowed);
-    QTest::newRow("auth") << "auth" << int(ProfileDetails::ChangeAfterPassword);
-    QTest::newRow("no") << "no" << int(ProfileDetails::ChangeNotAllowed);
+    Row("yes", "yes", int(ProfileDetails::ChangeAllowed));
+    Row("auth", "auth", int(ProfileDetails::ChangeAfterPassword));
+    Row("no", "no", int(ProfileDetails::ChangeNotAllowed));
 }
 
 void tst_networkmanagerdetails::ChangeIsAllowedOrNot()
@@ -176,9 +177,9 @@ void tst_networkmanagerdetails::RefusedForgettingLeavesTheProfile_data()
 {
     QTest::addColumn<QString>("error");
     QTest::addColumn<int>("failure");
-    QTest::newRow("no password given") << permissionDenied << int(FailureNotAllowed);
-    QTest::newRow("failed") << "org.freedesktop.NetworkManager.Settings.Failed" << int(FailureOther);
-    QTest::newRow("not answered") << "org.freedesktop.DBus.Error.NoReply" << int(FailureSource);
+    Row("no password given", permissionDenied, int(FailureNotAllowed));
+    Row("failed", "org.freedesktop.NetworkManager.Settings.Failed", int(FailureOther));
+    Row("not answered", "org.freedesktop.DBus.Error.NoReply", int(FailureSource));
 }
 
 void tst_networkmanagerdetails::RefusedForgettingLeavesTheProfile()

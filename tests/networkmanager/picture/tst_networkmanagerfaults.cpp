@@ -2,6 +2,7 @@
 #include "NetworkManagerTest.h"
 
 #include <NetworkManagerResult.h>
+#include <Row.h>
 #include <TraceCapture.h>
 
 #include <QDBusObjectPath>
@@ -90,15 +91,13 @@ private slots:
 void tst_networkmanagerfaults::MeaninglessAnswersAreRefused_data()
 {
     QTest::addColumn<QList<QVariant>>("arguments");
-    QTest::newRow("nothing") << QList<QVariant>();
-    QTest::newRow("a number") << (QList<QVariant>() << 42);
-    QTest::newRow("a text") << (QList<QVariant>() << QString("objects"));
-    QTest::newRow("a variant") << (QList<QVariant>()
-                                   << QVariant::fromValue(QDBusVariant(QString("objects"))));
-    QTest::newRow("settings in place of objects")
-        << (QList<QVariant>() << QVariant::fromValue(NMVariantMapMap()));
-    QTest::newRow("more than was asked for")
-        << (QList<QVariant>() << QVariant::fromValue(ManagedObjects()) << QString("and more"));
+    Row("nothing", QList<QVariant>());
+    Row("a number", (QList<QVariant>() << 42));
+    Row("a text", (QList<QVariant>() << QString("objects")));
+    Row("a variant", (QList<QVariant>() << QVariant::fromValue(QDBusVariant(QString("objects")))));
+    Row("settings in place of objects", (QList<QVariant>() << QVariant::fromValue(NMVariantMapMap())));
+    Row("more than was asked for",
+        (QList<QVariant>() << QVariant::fromValue(ManagedObjects()) << QString("and more")));
 }
 
 void tst_networkmanagerfaults::MeaninglessAnswersAreRefused()
@@ -133,14 +132,13 @@ void tst_networkmanagerfaults::ErrorsAreTold_data()
 {
     QTest::addColumn<QString>("error");
     QTest::addColumn<int>("result");
-    QTest::newRow("denied") << "org.freedesktop.NetworkManager.PermissionDenied"
-                            << int(NetworkManagerResultPermissionDenied);
-    QTest::newRow("denied by the bus")
-        << "org.freedesktop.DBus.Error.AccessDenied" << int(NetworkManagerResultPermissionDenied);
-    QTest::newRow("failed") << "org.freedesktop.NetworkManager.Failed" << int(NetworkManagerResultFailed);
-    QTest::newRow("unheard of") << "com.example.Error" << int(NetworkManagerResultFailed);
-    QTest::newRow("gone") << "org.freedesktop.DBus.Error.NameHasNoOwner"
-                          << int(NetworkManagerResultNotRunning);
+    Row("denied", "org.freedesktop.NetworkManager.PermissionDenied",
+        int(NetworkManagerResultPermissionDenied));
+    Row("denied by the bus", "org.freedesktop.DBus.Error.AccessDenied",
+        int(NetworkManagerResultPermissionDenied));
+    Row("failed", "org.freedesktop.NetworkManager.Failed", int(NetworkManagerResultFailed));
+    Row("unheard of", "com.example.Error", int(NetworkManagerResultFailed));
+    Row("gone", "org.freedesktop.DBus.Error.NameHasNoOwner", int(NetworkManagerResultNotRunning));
 }
 
 void tst_networkmanagerfaults::ErrorsAreTold()
@@ -212,8 +210,8 @@ void tst_networkmanagerfaults::UnreadablePermissionsCountAsAllowed_data()
 {
     QTest::addColumn<QList<QVariant>>("arguments");
     QTest::addColumn<QString>("error");
-    QTest::newRow("meaningless") << (QList<QVariant>() << 42) << "";
-    QTest::newRow("error") << QList<QVariant>() << "org.freedesktop.NetworkManager.Failed";
+    Row("meaningless", (QList<QVariant>() << 42), "");
+    Row("error", QList<QVariant>(), "org.freedesktop.NetworkManager.Failed");
 }
 
 void tst_networkmanagerfaults::UnreadablePermissionsCountAsAllowed()
@@ -236,11 +234,11 @@ void tst_networkmanagerfaults::OneUnreadableProfileIsToldAndTheOthersStay_data()
     QTest::addColumn<QList<QVariant>>("arguments");
     QTest::addColumn<QString>("error");
     QTest::addColumn<int>("result");
-    QTest::newRow("meaningless") << (QList<QVariant>() << QString("settings")) << ""
-                                 << int(NetworkManagerResultUnusableAnswer);
-    QTest::newRow("nothing") << QList<QVariant>() << "" << int(NetworkManagerResultUnusableAnswer);
-    QTest::newRow("error") << QList<QVariant>() << "org.freedesktop.NetworkManager.Settings.Failed"
-                           << int(NetworkManagerResultFailed);
+    Row("meaningless", (QList<QVariant>() << QString("settings")), "",
+        int(NetworkManagerResultUnusableAnswer));
+    Row("nothing", QList<QVariant>(), "", int(NetworkManagerResultUnusableAnswer));
+    Row("error", QList<QVariant>(), "org.freedesktop.NetworkManager.Settings.Failed",
+        int(NetworkManagerResultFailed));
 }
 
 void tst_networkmanagerfaults::OneUnreadableProfileIsToldAndTheOthersStay()
@@ -285,9 +283,9 @@ void tst_networkmanagerfaults::ProfileThatIsGoneIsLeftOutQuietly_data()
 {
     // D-Bus libraries differ in what they answer for an object that is not there.
     QTest::addColumn<QString>("error");
-    QTest::newRow("no such method") << "org.freedesktop.DBus.Error.UnknownMethod";
-    QTest::newRow("no such object") << "org.freedesktop.DBus.Error.UnknownObject";
-    QTest::newRow("no such interface") << "org.freedesktop.DBus.Error.UnknownInterface";
+    Row("no such method", "org.freedesktop.DBus.Error.UnknownMethod");
+    Row("no such object", "org.freedesktop.DBus.Error.UnknownObject");
+    Row("no such interface", "org.freedesktop.DBus.Error.UnknownInterface");
 }
 
 void tst_networkmanagerfaults::ProfileThatIsGoneIsLeftOutQuietly()
@@ -324,18 +322,15 @@ void tst_networkmanagerfaults::AnswersToStoringAreTold_data()
     const bool areKnown[] = {false, true};
     for (const bool isKnown : areKnown) {
         const QByteArray kind = isKnown ? "changed: " : "new: ";
-        QTest::newRow(kind + "denied")
-            << isKnown << "org.freedesktop.NetworkManager.Settings.PermissionDenied"
-            << int(NetworkManagerResultPermissionDenied);
-        QTest::newRow(kind + "bad key")
-            << isKnown << "org.freedesktop.NetworkManager.Settings.Connection.InvalidProperty"
-            << int(NetworkManagerResultProfileRefused);
-        QTest::newRow(kind + "bad profile")
-            << isKnown << "org.freedesktop.NetworkManager.Settings.InvalidConnection"
-            << int(NetworkManagerResultProfileRefused);
-        QTest::newRow(kind + "failed")
-            << isKnown << "org.freedesktop.NetworkManager.Settings.Failed" << int(NetworkManagerResultFailed);
-        QTest::newRow(kind + "meaningless") << isKnown << "" << int(NetworkManagerResultUnusableAnswer);
+        Row(kind + "denied", isKnown, "org.freedesktop.NetworkManager.Settings.PermissionDenied",
+            int(NetworkManagerResultPermissionDenied));
+        Row(kind + "bad key", isKnown, "org.freedesktop.NetworkManager.Settings.Connection.InvalidProperty",
+            int(NetworkManagerResultProfileRefused));
+        Row(kind + "bad profile", isKnown, "org.freedesktop.NetworkManager.Settings.InvalidConnection",
+            int(NetworkManagerResultProfileRefused));
+        Row(kind + "failed", isKnown, "org.freedesktop.NetworkManager.Settings.Failed",
+            int(NetworkManagerResultFailed));
+        Row(kind + "meaningless", isKnown, "", int(NetworkManagerResultUnusableAnswer));
     }
 }
 

@@ -1,6 +1,8 @@
 #include "LoadedWLAN.h"
 #include "NetworkManagerTest.h"
 
+#include <Row.h>
+
 #include <QtTest>
 
 namespace
@@ -108,8 +110,8 @@ void tst_networkmanagernetworks::ImpossibleSignalStaysInRange()
 void tst_networkmanagernetworks::HiddenNetworksAreLeftOut_data()
 {
     QTest::addColumn<QByteArray>("ssid");
-    QTest::newRow("empty") << QByteArray("");
-    QTest::newRow("zeros") << QByteArray(8, '\0');
+    Row("empty", QByteArray(""));
+    Row("zeros", QByteArray(8, '\0'));
 }
 
 void tst_networkmanagernetworks::HiddenNetworksAreLeftOut()
@@ -145,8 +147,8 @@ void tst_networkmanagernetworks::DevicesAreToldToLookNowAndThen()
 void tst_networkmanagernetworks::NobodyLooksWithoutPermission_data()
 {
     QTest::addColumn<QString>("right");
-    QTest::newRow("never") << "no";
-    QTest::newRow("with a password") << "auth";
+    Row("never", "no");
+    Row("with a password", "auth");
 }
 
 void tst_networkmanagernetworks::NobodyLooksWithoutPermission()
@@ -166,22 +168,20 @@ void tst_networkmanagernetworks::SecurityIsReadFromTheFlags_data()
     QTest::addColumn<unsigned int>("rsn");
     QTest::addColumn<QString>("told");
 
-    QTest::newRow("open") << 0U << 0U << 0U << "open none passPhrase 0";
-    QTest::newRow("WEP") << privacy << 0U << 0U << "open WEP networkKey 0";
-    QTest::newRow("WPA") << privacy << (psk | tkip) << 0U << "WPAPSK TKIP passPhrase 0";
-    QTest::newRow("WPA with both ciphers")
-        << privacy << (psk | tkip | ccmp) << 0U << "WPAPSK CCMP passPhrase 0";
-    QTest::newRow("WPA2") << privacy << 0U << (psk | ccmp) << "WPA2PSK CCMP passPhrase 0";
-    QTest::newRow("WPA2 with TKIP") << privacy << 0U << (psk | tkip) << "WPA2PSK TKIP passPhrase 0";
-    QTest::newRow("WPA and WPA2") << privacy << (psk | tkip) << (psk | ccmp) << "WPA2PSK CCMP passPhrase 0";
-    QTest::newRow("WPA3") << privacy << 0U << (sae | ccmp) << "WPA2PSK CCMP passPhrase 0";
-    QTest::newRow("WPA with EAP") << privacy << (eap | tkip) << 0U << "WPA(EAP) TKIP passPhrase 0";
-    QTest::newRow("WPA2 with EAP") << privacy << 0U << (eap | ccmp) << "WPA2(EAP) CCMP passPhrase 0";
-    QTest::newRow("WPA3 with EAP") << privacy << 0U << suiteB << "WPA2(EAP) CCMP passPhrase 0";
-    QTest::newRow("key and EAP") << privacy << 0U << (psk | eap | ccmp) << "WPA2PSK CCMP passPhrase 0";
-    QTest::newRow("encrypted without a key") << privacy << 0U << (owe | ccmp) << "  passPhrase 0";
-    QTest::newRow("open, with an encrypted one beside")
-        << 0U << 0U << oweTransition << "open none passPhrase 0";
+    Row("open", 0U, 0U, 0U, "open none passPhrase 0");
+    Row("WEP", privacy, 0U, 0U, "open WEP networkKey 0");
+    Row("WPA", privacy, (psk | tkip), 0U, "WPAPSK TKIP passPhrase 0");
+    Row("WPA with both ciphers", privacy, (psk | tkip | ccmp), 0U, "WPAPSK CCMP passPhrase 0");
+    Row("WPA2", privacy, 0U, (psk | ccmp), "WPA2PSK CCMP passPhrase 0");
+    Row("WPA2 with TKIP", privacy, 0U, (psk | tkip), "WPA2PSK TKIP passPhrase 0");
+    Row("WPA and WPA2", privacy, (psk | tkip), (psk | ccmp), "WPA2PSK CCMP passPhrase 0");
+    Row("WPA3", privacy, 0U, (sae | ccmp), "WPA2PSK CCMP passPhrase 0");
+    Row("WPA with EAP", privacy, (eap | tkip), 0U, "WPA(EAP) TKIP passPhrase 0");
+    Row("WPA2 with EAP", privacy, 0U, (eap | ccmp), "WPA2(EAP) CCMP passPhrase 0");
+    Row("WPA3 with EAP", privacy, 0U, suiteB, "WPA2(EAP) CCMP passPhrase 0");
+    Row("key and EAP", privacy, 0U, (psk | eap | ccmp), "WPA2PSK CCMP passPhrase 0");
+    Row("encrypted without a key", privacy, 0U, (owe | ccmp), "  passPhrase 0");
+    Row("open, with an encrypted one beside", 0U, 0U, oweTransition, "open none passPhrase 0");
 }
 
 void tst_networkmanagernetworks::SecurityIsReadFromTheFlags()
@@ -266,15 +266,14 @@ void tst_networkmanagernetworks::MethodsAreThoseOfTheDevicesWithoutAnAccount_dat
     const unsigned int wpa = 0x10;
     const unsigned int rsn = 0x20;
     const QString all = "open|shared|WPAPSK|WPA2PSK";
-    QTest::newRow("no device") << QList<unsigned int>() << all;
-    QTest::newRow("one that can do all") << (QList<unsigned int>() << (wep | ciphers | wpa | rsn)) << all;
-    QTest::newRow("no WEP") << (QList<unsigned int>() << (ciphers | wpa | rsn)) << "open|WPAPSK|WPA2PSK";
-    QTest::newRow("WEP only") << (QList<unsigned int>() << wep) << "open|shared";
-    QTest::newRow("no WPA2") << (QList<unsigned int>() << (ciphers | wpa)) << "open|WPAPSK";
-    QTest::newRow("protocol without a cipher") << (QList<unsigned int>() << (wpa | rsn)) << "open";
-    QTest::newRow("nothing") << (QList<unsigned int>() << 0U) << "open";
-    QTest::newRow("two devices") << (QList<unsigned int>() << wep << (ciphers | rsn))
-                                 << "open|shared|WPA2PSK";
+    Row("no device", QList<unsigned int>(), all);
+    Row("one that can do all", (QList<unsigned int>() << (wep | ciphers | wpa | rsn)), all);
+    Row("no WEP", (QList<unsigned int>() << (ciphers | wpa | rsn)), "open|WPAPSK|WPA2PSK");
+    Row("WEP only", (QList<unsigned int>() << wep), "open|shared");
+    Row("no WPA2", (QList<unsigned int>() << (ciphers | wpa)), "open|WPAPSK");
+    Row("protocol without a cipher", (QList<unsigned int>() << (wpa | rsn)), "open");
+    Row("nothing", (QList<unsigned int>() << 0U), "open");
+    Row("two devices", (QList<unsigned int>() << wep << (ciphers | rsn)), "open|shared|WPA2PSK");
 }
 
 void tst_networkmanagernetworks::MethodsAreThoseOfTheDevicesWithoutAnAccount()

@@ -4,6 +4,7 @@
 #include "PrivateBus.h"
 
 #include <RandomSource.h>
+#include <Row.h>
 #include <StandInHost.h>
 #include <TemporaryDirectory.h>
 
@@ -285,7 +286,7 @@ void tst_networkmanagerwalk::WhatIsToldIsTrueAtEveryStep_data()
 {
     QTest::addColumn<quint64>("seed");
     for (quint64 seed = 1; seed <= 4; ++seed) {
-        QTest::newRow("seed " + QByteArray::number(seed)) << seed;
+        Row("seed " + QByteArray::number(seed), seed);
     }
 }
 

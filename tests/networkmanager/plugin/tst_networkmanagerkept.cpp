@@ -4,6 +4,7 @@
 #include "PrivateBus.h"
 
 #include <NetworkManagerResult.h>
+#include <Row.h>
 #include <StandInHost.h>
 #include <TemporaryDirectory.h>
 
@@ -200,55 +201,50 @@ void tst_networkmanagerkept::ProfileOfThatNameIsKept_data()
     const char keyNeeded[] = "WLAN?IDS_WLAN_KEPT_KEY";
     const char notAccepted[] = "WLAN?IDS_WLAN_REFUSED";
 
-    QTest::newRow("account, open") << peap << "open|none" << undescribed << ofAnotherKind;
-    QTest::newRow("account, key") << peap << newKey << undescribed << ofAnotherKind;
-    QTest::newRow("account, account")
-        << peap << "WPA2(EAP)|CCMP" << int(NetworkManagerResultNoAccount) << "WLAN?IDS_WLAN_NO_ACCOUNT";
-    QTest::newRow("account with a password") << account + "pwd|802-1x.identity|me|802-1x.password|sesame"
-                                             << newKey << undescribed << ofAnotherKind;
-    QTest::newRow("account without anything") << account + "sim" << newKey << undescribed << ofAnotherKind;
-    QTest::newRow("LEAP") << "wifi-sec.key-mgmt|ieee8021x|wifi-sec.auth-alg|leap|wifi-sec.leap-username|me|"
-                             "wifi-sec.leap-password|sesame"
-                          << newKey << undescribed << ofAnotherKind;
-    QTest::newRow("hotspot") << QString("wifi.mode|ap|%1").arg(wpa2) << newKey << undescribed
-                             << ofAnotherKind;
-    QTest::newRow("open hotspot") << "wifi.mode|ap"
-                                  << "open|none" << undescribed << ofAnotherKind;
-    QTest::newRow("without a station") << "wifi.mode|adhoc" << newKey << undescribed << ofAnotherKind;
-    QTest::newRow("WPA3 alone") << "wifi-sec.key-mgmt|sae|wifi-sec.psk|open sesame" << newKey << undescribed
-                                << ofAnotherKind;
-    QTest::newRow("encrypted without a key") << "wifi-sec.key-mgmt|owe"
-                                             << "open|none" << undescribed << ofAnotherKind;
-    QTest::newRow("key in the desktop's safe")
-        << "wifi-sec.key-mgmt|wpa-psk|wifi-sec.psk-flags|1" << newKey << undescribed << ofAnotherKind;
-    QTest::newRow("key asked for each time")
-        << "wifi-sec.key-mgmt|wpa-psk|wifi-sec.psk-flags|2" << newKey << undescribed << ofAnotherKind;
-    QTest::newRow("WEP key in the desktop's safe") << "wifi-sec.key-mgmt|none|wifi-sec.wep-key-flags|1"
-                                                   << "open|WEP|12345" << undescribed << ofAnotherKind;
-    QTest::newRow("WEP by pass phrase") << "wifi-sec.key-mgmt|none|wifi-sec.wep-key-type|2|wifi-sec.wep-key0|"
-                                           "a pass phrase"
-                                        << "open|WEP|12345" << undescribed << ofAnotherKind;
+    Row("account, open", peap, "open|none", undescribed, ofAnotherKind);
+    Row("account, key", peap, newKey, undescribed, ofAnotherKind);
+    Row("account, account", peap, "WPA2(EAP)|CCMP", int(NetworkManagerResultNoAccount),
+        "WLAN?IDS_WLAN_NO_ACCOUNT");
+    Row("account with a password", account + "pwd|802-1x.identity|me|802-1x.password|sesame", newKey,
+        undescribed, ofAnotherKind);
+    Row("account without anything", account + "sim", newKey, undescribed, ofAnotherKind);
+    Row("LEAP",
+        "wifi-sec.key-mgmt|ieee8021x|wifi-sec.auth-alg|leap|wifi-sec.leap-username|me|"
+        "wifi-sec.leap-password|sesame",
+        newKey, undescribed, ofAnotherKind);
+    Row("hotspot", QString("wifi.mode|ap|%1").arg(wpa2), newKey, undescribed, ofAnotherKind);
+    Row("open hotspot", "wifi.mode|ap", "open|none", undescribed, ofAnotherKind);
+    Row("without a station", "wifi.mode|adhoc", newKey, undescribed, ofAnotherKind);
+    Row("WPA3 alone", "wifi-sec.key-mgmt|sae|wifi-sec.psk|open sesame", newKey, undescribed, ofAnotherKind);
+    Row("encrypted without a key", "wifi-sec.key-mgmt|owe", "open|none", undescribed, ofAnotherKind);
+    Row("key in the desktop's safe", "wifi-sec.key-mgmt|wpa-psk|wifi-sec.psk-flags|1", newKey, undescribed,
+        ofAnotherKind);
+    Row("key asked for each time", "wifi-sec.key-mgmt|wpa-psk|wifi-sec.psk-flags|2", newKey, undescribed,
+        ofAnotherKind);
+    Row("WEP key in the desktop's safe", "wifi-sec.key-mgmt|none|wifi-sec.wep-key-flags|1", "open|WEP|12345",
+        undescribed, ofAnotherKind);
+    Row("WEP by pass phrase",
+        "wifi-sec.key-mgmt|none|wifi-sec.wep-key-type|2|wifi-sec.wep-key0|"
+        "a pass phrase",
+        "open|WEP|12345", undescribed, ofAnotherKind);
 
-    QTest::newRow("WPA2 to open") << wpa2 << "open|none" << weaker << stronger;
-    QTest::newRow("WPA2 to WEP") << wpa2 << "open|WEP|12345" << weaker << stronger;
-    QTest::newRow("WPA2 to WPA") << wpa2 << "WPAPSK|CCMP|sesame street" << weaker << stronger;
-    QTest::newRow("WPA2 to TKIP") << wpa2 << "WPA2PSK|TKIP|sesame street" << weaker << stronger;
-    QTest::newRow("WPA2 without a key") << wpa2 << "WPA2PSK|CCMP|" << incomplete << keyNeeded;
-    QTest::newRow("WPA2 with half a key") << wpa2 << "WPA2PSK|CCMP|sesame" << incomplete << keyNeeded;
-    QTest::newRow("WEP to open") << "wifi-sec.key-mgmt|none|wifi-sec.wep-key1|12345"
-                                 << "open|none" << weaker << stronger;
-    QTest::newRow("WEP without a key") << "wifi-sec.key-mgmt|none|wifi-sec.wep-key1|12345"
-                                       << "open|WEP|" << incomplete << keyNeeded;
-    QTest::newRow("open to WPA2 without a key") << ""
-                                                << "WPA2PSK|CCMP|" << incomplete << keyNeeded;
+    Row("WPA2 to open", wpa2, "open|none", weaker, stronger);
+    Row("WPA2 to WEP", wpa2, "open|WEP|12345", weaker, stronger);
+    Row("WPA2 to WPA", wpa2, "WPAPSK|CCMP|sesame street", weaker, stronger);
+    Row("WPA2 to TKIP", wpa2, "WPA2PSK|TKIP|sesame street", weaker, stronger);
+    Row("WPA2 without a key", wpa2, "WPA2PSK|CCMP|", incomplete, keyNeeded);
+    Row("WPA2 with half a key", wpa2, "WPA2PSK|CCMP|sesame", incomplete, keyNeeded);
+    Row("WEP to open", "wifi-sec.key-mgmt|none|wifi-sec.wep-key1|12345", "open|none", weaker, stronger);
+    Row("WEP without a key", "wifi-sec.key-mgmt|none|wifi-sec.wep-key1|12345", "open|WEP|", incomplete,
+        keyNeeded);
+    Row("open to WPA2 without a key", "", "WPA2PSK|CCMP|", incomplete, keyNeeded);
 
-    QTest::newRow("WEP, 32 digits") << "wifi-sec.key-mgmt|none|wifi-sec.wep-key1|12345"
-                                    << "open|WEP|0123456789abcdef0123456789abcdef" << refused << notAccepted;
-    QTest::newRow("WEP, 5 letters beyond ASCII")
-        << "wifi-sec.key-mgmt|none|wifi-sec.wep-key1|12345" << QString::fromUtf8("open|WEP|äöüßé") << refused
-        << notAccepted;
-    QTest::newRow("WPA2, more bytes than fit")
-        << wpa2 << "WPA2PSK|CCMP|" + QString(40, QChar(ushort(0xe4))) << refused << notAccepted;
+    Row("WEP, 32 digits", "wifi-sec.key-mgmt|none|wifi-sec.wep-key1|12345",
+        "open|WEP|0123456789abcdef0123456789abcdef", refused, notAccepted);
+    Row("WEP, 5 letters beyond ASCII", "wifi-sec.key-mgmt|none|wifi-sec.wep-key1|12345",
+        QString::fromUtf8("open|WEP|äöüßé"), refused, notAccepted);
+    Row("WPA2, more bytes than fit", wpa2, "WPA2PSK|CCMP|" + QString(40, QChar(ushort(0xe4))), refused,
+        notAccepted);
 }
 
 void tst_networkmanagerkept::ProfileOfThatNameIsKept()
@@ -285,38 +281,29 @@ void tst_networkmanagerkept::OnlyNetworkNameMethodAndKeyChange_data()
 
     const QString wep = "wifi-sec.key-mgmt|none|wifi-sec.wep-key0|12345|wifi-sec.wep-key1|abcde|"
                         "wifi-sec.wep-tx-keyidx|1";
-    QTest::newRow("open") << ""
-                          << "open|none" << 0 << ""
-                          << "";
-    QTest::newRow("open to WPA2") << ""
-                                  << "WPA2PSK|CCMP|sesame street" << 0 << ""
-                                  << "[wifi-security]|key-mgmt=wpa-psk|pairwise=ccmp;|proto=rsn;|"
-                                     "psk=sesame street";
-    QTest::newRow("open to WEP") << ""
-                                 << "shared|WEP|12345" << 0 << ""
-                                 << "[wifi-security]|auth-alg=shared|key-mgmt=none|wep-key-type=1|"
-                                    "wep-key0=12345";
-    QTest::newRow("WPA2") << wpa2 << "WPA2PSK|CCMP|sesame street" << 0 << "psk=open sesame"
-                          << "psk=sesame street";
-    QTest::newRow("WPA2 with more than the words tell")
-        << QString("%1|wifi-sec.pmf|3|wifi-sec.proto|rsn|wifi-sec.group|ccmp,tkip|wifi-sec.wps-method|1")
-               .arg(wpa2)
-        << "WPA2PSK|CCMP|sesame street" << 0 << "psk=open sesame"
-        << "psk=sesame street";
-    QTest::newRow("WPA to WPA2")
-        << QString("%1|wifi-sec.proto|wpa|wifi-sec.pairwise|tkip|wifi-sec.wps-method|1").arg(wpa2)
-        << "WPA2PSK|CCMP|sesame street" << 0 << "pairwise=tkip;|proto=wpa;|psk=open sesame"
-        << "pairwise=ccmp;|proto=rsn;|psk=sesame street";
-    QTest::newRow("WEP, another key") << wep << "open|WEP|zzzzz" << 2 << "wep-tx-keyidx=1"
-                                      << "wep-key2=zzzzz|wep-tx-keyidx=2";
-    QTest::newRow("WEP, the first key") << wep << "open|WEP|zzzzz" << 0 << "wep-key0=12345|wep-tx-keyidx=1"
-                                        << "wep-key0=zzzzz";
-    QTest::newRow("WEP, the other way") << wep << "shared|WEP|zzzzz" << 1 << "wep-key1=abcde"
-                                        << "auth-alg=shared|wep-key1=zzzzz";
-    QTest::newRow("WEP to WPA2") << wep << "WPA2PSK|CCMP|sesame street" << 0
-                                 << "key-mgmt=none|wep-key-type=1|wep-key0=12345|wep-key1=abcde|"
-                                    "wep-tx-keyidx=1"
-                                 << "key-mgmt=wpa-psk|pairwise=ccmp;|proto=rsn;|psk=sesame street";
+    Row("open", "", "open|none", 0, "", "");
+    Row("open to WPA2", "", "WPA2PSK|CCMP|sesame street", 0, "",
+        "[wifi-security]|key-mgmt=wpa-psk|pairwise=ccmp;|proto=rsn;|"
+        "psk=sesame street");
+    Row("open to WEP", "", "shared|WEP|12345", 0, "",
+        "[wifi-security]|auth-alg=shared|key-mgmt=none|wep-key-type=1|"
+        "wep-key0=12345");
+    Row("WPA2", wpa2, "WPA2PSK|CCMP|sesame street", 0, "psk=open sesame", "psk=sesame street");
+    Row("WPA2 with more than the words tell",
+        QString("%1|wifi-sec.pmf|3|wifi-sec.proto|rsn|wifi-sec.group|ccmp,tkip|wifi-sec.wps-method|1")
+            .arg(wpa2),
+        "WPA2PSK|CCMP|sesame street", 0, "psk=open sesame", "psk=sesame street");
+    Row("WPA to WPA2",
+        QString("%1|wifi-sec.proto|wpa|wifi-sec.pairwise|tkip|wifi-sec.wps-method|1").arg(wpa2),
+        "WPA2PSK|CCMP|sesame street", 0, "pairwise=tkip;|proto=wpa;|psk=open sesame",
+        "pairwise=ccmp;|proto=rsn;|psk=sesame street");
+    Row("WEP, another key", wep, "open|WEP|zzzzz", 2, "wep-tx-keyidx=1", "wep-key2=zzzzz|wep-tx-keyidx=2");
+    Row("WEP, the first key", wep, "open|WEP|zzzzz", 0, "wep-key0=12345|wep-tx-keyidx=1", "wep-key0=zzzzz");
+    Row("WEP, the other way", wep, "shared|WEP|zzzzz", 1, "wep-key1=abcde", "auth-alg=shared|wep-key1=zzzzz");
+    Row("WEP to WPA2", wep, "WPA2PSK|CCMP|sesame street", 0,
+        "key-mgmt=none|wep-key-type=1|wep-key0=12345|wep-key1=abcde|"
+        "wep-tx-keyidx=1",
+        "key-mgmt=wpa-psk|pairwise=ccmp;|proto=rsn;|psk=sesame street");
 }
 
 void tst_networkmanagerkept::OnlyNetworkNameMethodAndKeyChange()
@@ -359,14 +346,12 @@ void tst_networkmanagerkept::ProfileOfAnotherNameIsNeverChanged_data()
     QTest::addColumn<QString>("wanted");
     QTest::addColumn<int>("result");
     const int better = NetworkManagerResultBetterProfile;
-    QTest::newRow("account") << peap << "WPA2PSK|CCMP|sesame street" << better;
-    QTest::newRow("WPA3 alone") << "wifi-sec.key-mgmt|sae|wifi-sec.psk|open sesame"
-                                << "WPA2PSK|CCMP|sesame street" << better;
-    QTest::newRow("weaker") << wpa2 << "open|none" << better;
-    QTest::newRow("without a key") << wpa2 << "WPA2PSK|CCMP|" << better;
-    QTest::newRow("the same") << wpa2 << "WPA2PSK|CCMP|sesame street" << 0;
-    QTest::newRow("stronger") << ""
-                              << "WPA2PSK|CCMP|sesame street" << 0;
+    Row("account", peap, "WPA2PSK|CCMP|sesame street", better);
+    Row("WPA3 alone", "wifi-sec.key-mgmt|sae|wifi-sec.psk|open sesame", "WPA2PSK|CCMP|sesame street", better);
+    Row("weaker", wpa2, "open|none", better);
+    Row("without a key", wpa2, "WPA2PSK|CCMP|", better);
+    Row("the same", wpa2, "WPA2PSK|CCMP|sesame street", 0);
+    Row("stronger", "", "WPA2PSK|CCMP|sesame street", 0);
 }
 
 void tst_networkmanagerkept::ProfileOfAnotherNameIsNeverChanged()
@@ -386,10 +371,8 @@ void tst_networkmanagerkept::CaseCounts_data()
 {
     QTest::addColumn<QString>("newName");
     QTest::addColumn<QString>("newNetwork");
-    QTest::newRow("of the name") << "under the roof"
-                                 << "skylight";
-    QTest::newRow("of the network name") << "Upstairs"
-                                         << "Attic";
+    Row("of the name", "under the roof", "skylight");
+    Row("of the network name", "Upstairs", "Attic");
 }
 
 void tst_networkmanagerkept::CaseCounts()

@@ -3,6 +3,7 @@
 #include "PrivateBus.h"
 
 #include <NetworkManagerResult.h>
+#include <Row.h>
 #include <StandInHost.h>
 #include <TemporaryDirectory.h>
 #include <TraceCapture.h>
@@ -249,11 +250,11 @@ void tst_networkmanagerlibrary::HandsOutTheServiceForTheWlanNumberOnly_data()
     QTest::addColumn<int>("number");
     QTest::addColumn<bool>("known");
 
-    QTest::newRow("WLAN") << 4102 << true;
-    QTest::newRow("settings page") << 4098 << false;
-    QTest::newRow("priority list") << 4103 << false;
-    QTest::newRow("zero") << 0 << false;
-    QTest::newRow("negative") << -1 << false;
+    Row("WLAN", 4102, true);
+    Row("settings page", 4098, false);
+    Row("priority list", 4103, false);
+    Row("zero", 0, false);
+    Row("negative", -1, false);
 }
 
 void tst_networkmanagerlibrary::HandsOutTheServiceForTheWlanNumberOnly()

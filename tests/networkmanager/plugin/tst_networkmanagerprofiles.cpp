@@ -2,6 +2,7 @@
 #include "NetworkManagerTest.h"
 
 #include <NetworkManagerResult.h>
+#include <Row.h>
 #include <TraceCapture.h>
 
 #include <QtTest>
@@ -91,12 +92,12 @@ void tst_networkmanagerprofiles::KindsAreTold_data()
     QTest::addColumn<QString>("type");
     QTest::addColumn<QStringList>("told");
 
-    QTest::newRow("Wi-Fi") << "802-11-wireless" << QStringList("A/1");
-    QTest::newRow("GSM") << "gsm" << QStringList("A/2");
-    QTest::newRow("CDMA") << "cdma" << QStringList("A/2");
-    QTest::newRow("wired") << "802-3-ethernet" << QStringList();
-    QTest::newRow("VPN") << "vpn" << QStringList();
-    QTest::newRow("unheard of") << "telepathy" << QStringList();
+    Row("Wi-Fi", "802-11-wireless", QStringList("A/1"));
+    Row("GSM", "gsm", QStringList("A/2"));
+    Row("CDMA", "cdma", QStringList("A/2"));
+    Row("wired", "802-3-ethernet", QStringList());
+    Row("VPN", "vpn", QStringList());
+    Row("unheard of", "telepathy", QStringList());
 }
 
 void tst_networkmanagerprofiles::KindsAreTold()
@@ -132,10 +133,10 @@ void tst_networkmanagerprofiles::HotspotIsNotListed_data()
 {
     QTest::addColumn<QString>("mode");
     QTest::addColumn<QStringList>("told");
-    QTest::newRow("hotspot") << "ap" << QStringList("B/1");
-    QTest::newRow("without a station") << "adhoc"
-                                       << (QStringList() << "A/1"
-                                                         << "B/1");
+    Row("hotspot", "ap", QStringList("B/1"));
+    Row("without a station", "adhoc",
+        (QStringList() << "A/1"
+                       << "B/1"));
 }
 
 void tst_networkmanagerprofiles::HotspotIsNotListed()
@@ -231,53 +232,23 @@ void tst_networkmanagerprofiles::ReadOnlyIsToldOfWhatCannotBeChanged_data()
     const QStringList mine("user:" + Myself() + ":");
     const QStringList others("user:somebody.else:");
     const QStringList ours = QStringList() << others << mine;
-    QTest::newRow("everybody's") << everybody << "yes"
-                                 << "yes"
-                                 << "" << QVariant() << "false";
-    QTest::newRow("mine") << mine << "yes"
-                          << "no"
-                          << "" << QVariant() << "false";
-    QTest::newRow("mine, by nobody") << mine << "no"
-                                     << "yes"
-                                     << "" << QVariant() << "true";
-    QTest::newRow("ours") << ours << "no"
-                          << "yes"
-                          << "" << QVariant() << "false";
-    QTest::newRow("others'") << others << "yes"
-                             << "yes"
-                             << "" << QVariant() << "true";
-    QTest::newRow("everybody's, by nobody") << everybody << "yes"
-                                            << "no"
-                                            << "" << QVariant() << "true";
-    QTest::newRow("with a password") << everybody << "no"
-                                     << "auth"
-                                     << "" << QVariant() << "false";
-    QTest::newRow("not on disk") << everybody << "yes"
-                                 << "yes"
-                                 << "Unsaved" << QVariant(true) << "true";
-    QTest::newRow("unsaved flag") << everybody << "yes"
-                                  << "yes"
-                                  << "Flags" << QVariant(1U) << "true";
-    QTest::newRow("made by itself") << everybody << "yes"
-                                    << "yes"
-                                    << "Flags" << QVariant(2U) << "true";
-    QTest::newRow("volatile") << everybody << "yes"
-                              << "yes"
-                              << "Flags" << QVariant(4U) << "true";
-    QTest::newRow("external") << everybody << "yes"
-                              << "yes"
-                              << "Flags" << QVariant(8U) << "true";
-    QTest::newRow("no file") << everybody << "yes"
-                             << "yes"
-                             << "Filename" << QVariant("") << "true";
-    QTest::newRow("the system's") << everybody << "yes"
-                                  << "yes"
-                                  << "Filename" << QVariant("/usr/lib/NetworkManager/system-connections/a")
-                                  << "true";
-    QTest::newRow("until the next start")
-        << everybody << "yes"
-        << "yes"
-        << "Filename" << QVariant("/run/NetworkManager/system-connections/a") << "true";
+    Row("everybody's", everybody, "yes", "yes", "", QVariant(), "false");
+    Row("mine", mine, "yes", "no", "", QVariant(), "false");
+    Row("mine, by nobody", mine, "no", "yes", "", QVariant(), "true");
+    Row("ours", ours, "no", "yes", "", QVariant(), "false");
+    Row("others'", others, "yes", "yes", "", QVariant(), "true");
+    Row("everybody's, by nobody", everybody, "yes", "no", "", QVariant(), "true");
+    Row("with a password", everybody, "no", "auth", "", QVariant(), "false");
+    Row("not on disk", everybody, "yes", "yes", "Unsaved", QVariant(true), "true");
+    Row("unsaved flag", everybody, "yes", "yes", "Flags", QVariant(1U), "true");
+    Row("made by itself", everybody, "yes", "yes", "Flags", QVariant(2U), "true");
+    Row("volatile", everybody, "yes", "yes", "Flags", QVariant(4U), "true");
+    Row("external", everybody, "yes", "yes", "Flags", QVariant(8U), "true");
+    Row("no file", everybody, "yes", "yes", "Filename", QVariant(""), "true");
+    Row("the system's", everybody, "yes", "yes", "Filename",
+        QVariant("/usr/lib/NetworkManager/system-connections/a"), "true");
+    Row("until the next start", everybody, "yes", "yes", "Filename",
+        QVariant("/run/NetworkManager/system-connections/a"), "true");
 }
 
 void tst_networkmanagerprofiles::ReadOnlyIsToldOfWhatCannotBeChanged()
@@ -306,34 +277,34 @@ void tst_networkmanagerprofiles::SecurityOfAProfileIsTold_data()
     QTest::addColumn<QString>("told");
 
     QVariantMap section;
-    QTest::newRow("none") << section << "open none passPhrase 0";
+    Row("none", section, "open none passPhrase 0");
     section["key-mgmt"] = "none";
-    QTest::newRow("WEP") << section << "open WEP networkKey 0";
+    Row("WEP", section, "open WEP networkKey 0");
     section["auth-alg"] = "shared";
     section["wep-tx-keyidx"] = 2U;
-    QTest::newRow("shared WEP") << section << "shared WEP networkKey 2";
+    Row("shared WEP", section, "shared WEP networkKey 2");
     section.clear();
     section["key-mgmt"] = "ieee8021x";
-    QTest::newRow("dynamic WEP") << section << "IEEE 802.1X none passPhrase 0";
+    Row("dynamic WEP", section, "IEEE 802.1X none passPhrase 0");
     section["key-mgmt"] = "wpa-psk";
-    QTest::newRow("PSK") << section << "WPA2PSK CCMP passPhrase 0";
+    Row("PSK", section, "WPA2PSK CCMP passPhrase 0");
     section["proto"] = QStringList("wpa");
     section["pairwise"] = QStringList("tkip");
-    QTest::newRow("old PSK") << section << "WPAPSK TKIP passPhrase 0";
+    Row("old PSK", section, "WPAPSK TKIP passPhrase 0");
     section["proto"] = QStringList() << "wpa"
                                      << "rsn";
     section["pairwise"] = QStringList() << "tkip"
                                         << "ccmp";
-    QTest::newRow("both") << section << "WPA2PSK CCMP passPhrase 0";
+    Row("both", section, "WPA2PSK CCMP passPhrase 0");
     section["key-mgmt"] = "wpa-eap";
-    QTest::newRow("EAP") << section << "WPA2(EAP) CCMP passPhrase 0";
+    Row("EAP", section, "WPA2(EAP) CCMP passPhrase 0");
     section["proto"] = QStringList("wpa");
-    QTest::newRow("old EAP") << section << "WPA(EAP) CCMP passPhrase 0";
+    Row("old EAP", section, "WPA(EAP) CCMP passPhrase 0");
     section.clear();
     section["key-mgmt"] = "sae";
-    QTest::newRow("SAE") << section << "WPA2PSK CCMP passPhrase 0";
+    Row("SAE", section, "WPA2PSK CCMP passPhrase 0");
     section["key-mgmt"] = "owe";
-    QTest::newRow("OWE") << section << "open none passPhrase 0";
+    Row("OWE", section, "open none passPhrase 0");
 }
 
 void tst_networkmanagerprofiles::SecurityOfAProfileIsTold()
@@ -356,54 +327,38 @@ void tst_networkmanagerprofiles::NewProfileHasTheSecurityOfTheDialog_data()
     QTest::addColumn<QString>("key");
     QTest::addColumn<QStringList>("stored");
 
-    QTest::newRow("open") << "open"
-                          << "none"
-                          << "" << QStringList();
-    QTest::newRow("open, with a key typed") << "open"
-                                            << "none"
-                                            << "whatever" << QStringList();
-    QTest::newRow("WEP") << "open"
-                         << "WEP"
-                         << "12345"
-                         << (QStringList() << "auth-alg=open"
-                                           << "key-mgmt=none"
-                                           << "wep-key-type=1"
-                                           << "wep-key0=12345");
-    QTest::newRow("shared WEP") << "shared"
-                                << "WEP"
-                                << "12345"
-                                << (QStringList() << "auth-alg=shared"
-                                                  << "key-mgmt=none"
-                                                  << "wep-key-type=1"
-                                                  << "wep-key0=12345");
-    QTest::newRow("WPA, TKIP") << "WPAPSK"
-                               << "TKIP"
-                               << "12345678"
-                               << (QStringList() << "key-mgmt=wpa-psk"
-                                                 << "pairwise=tkip"
-                                                 << "proto=wpa"
-                                                 << "psk=12345678");
-    QTest::newRow("WPA, CCMP") << "WPAPSK"
-                               << "CCMP"
-                               << "12345678"
-                               << (QStringList() << "key-mgmt=wpa-psk"
-                                                 << "pairwise=ccmp"
-                                                 << "proto=wpa"
-                                                 << "psk=12345678");
-    QTest::newRow("WPA2, TKIP") << "WPA2PSK"
-                                << "TKIP"
-                                << "12345678"
-                                << (QStringList() << "key-mgmt=wpa-psk"
-                                                  << "pairwise=tkip"
-                                                  << "proto=rsn"
-                                                  << "psk=12345678");
-    QTest::newRow("WPA2, CCMP") << "WPA2PSK"
-                                << "CCMP"
-                                << "12345678"
-                                << (QStringList() << "key-mgmt=wpa-psk"
-                                                  << "pairwise=ccmp"
-                                                  << "proto=rsn"
-                                                  << "psk=12345678");
+    Row("open", "open", "none", "", QStringList());
+    Row("open, with a key typed", "open", "none", "whatever", QStringList());
+    Row("WEP", "open", "WEP", "12345",
+        (QStringList() << "auth-alg=open"
+                       << "key-mgmt=none"
+                       << "wep-key-type=1"
+                       << "wep-key0=12345"));
+    Row("shared WEP", "shared", "WEP", "12345",
+        (QStringList() << "auth-alg=shared"
+                       << "key-mgmt=none"
+                       << "wep-key-type=1"
+                       << "wep-key0=12345"));
+    Row("WPA, TKIP", "WPAPSK", "TKIP", "12345678",
+        (QStringList() << "key-mgmt=wpa-psk"
+                       << "pairwise=tkip"
+                       << "proto=wpa"
+                       << "psk=12345678"));
+    Row("WPA, CCMP", "WPAPSK", "CCMP", "12345678",
+        (QStringList() << "key-mgmt=wpa-psk"
+                       << "pairwise=ccmp"
+                       << "proto=wpa"
+                       << "psk=12345678"));
+    Row("WPA2, TKIP", "WPA2PSK", "TKIP", "12345678",
+        (QStringList() << "key-mgmt=wpa-psk"
+                       << "pairwise=tkip"
+                       << "proto=rsn"
+                       << "psk=12345678"));
+    Row("WPA2, CCMP", "WPA2PSK", "CCMP", "12345678",
+        (QStringList() << "key-mgmt=wpa-psk"
+                       << "pairwise=ccmp"
+                       << "proto=rsn"
+                       << "psk=12345678"));
 }
 
 void tst_networkmanagerprofiles::NewProfileHasTheSecurityOfTheDialog()
@@ -431,7 +386,7 @@ void tst_networkmanagerprofiles::WepKeyHasItsIndex_data()
     QTest::addColumn<QString>("index");
     for (int i = 0; i < 4; ++i) {
         const QString index = QString::number(i);
-        QTest::newRow(qPrintable(index)) << index;
+        Row(qPrintable(index), index);
     }
 }
 
@@ -451,12 +406,9 @@ void tst_networkmanagerprofiles::MethodsWithAnAccountAreRefused_data()
 {
     QTest::addColumn<QString>("authentication");
     QTest::addColumn<QString>("encryption");
-    QTest::newRow("WPA") << "WPA(EAP)"
-                         << "TKIP";
-    QTest::newRow("WPA2") << "WPA2(EAP)"
-                          << "CCMP";
-    QTest::newRow("802.1X") << "IEEE 802.1X"
-                            << "none";
+    Row("WPA", "WPA(EAP)", "TKIP");
+    Row("WPA2", "WPA2(EAP)", "CCMP");
+    Row("802.1X", "IEEE 802.1X", "none");
 }
 
 void tst_networkmanagerprofiles::MethodsWithAnAccountAreRefused()
@@ -514,9 +466,9 @@ void tst_networkmanagerprofiles::ChangeIsBoundToTheVersionThatWasRead_data()
     QTest::addColumn<QVariant>("version");
     QTest::addColumn<QVariantMap>("conditions");
     QVariantMap conditions;
-    QTest::newRow("not told") << QVariant() << conditions;
+    Row("not told", QVariant(), conditions);
     conditions["version-id"] = qulonglong(7);
-    QTest::newRow("told") << QVariant(qulonglong(7)) << conditions;
+    Row("told", QVariant(qulonglong(7)), conditions);
 }
 
 void tst_networkmanagerprofiles::ChangeIsBoundToTheVersionThatWasRead()
@@ -543,9 +495,9 @@ void tst_networkmanagerprofiles::QuestionForWepKeysIsNoChangeBySomebodyElse_data
 {
     QTest::addColumn<qulonglong>("changes");
     QTest::addColumn<int>("result");
-    QTest::newRow("not counted") << qulonglong(0) << 0;
-    QTest::newRow("counted") << qulonglong(1) << 0;
-    QTest::newRow("somebody else's, too") << qulonglong(2) << int(NetworkManagerResultChangedMeanwhile);
+    Row("not counted", qulonglong(0), 0);
+    Row("counted", qulonglong(1), 0);
+    Row("somebody else's, too", qulonglong(2), int(NetworkManagerResultChangedMeanwhile));
 }
 
 void tst_networkmanagerprofiles::QuestionForWepKeysIsNoChangeBySomebodyElse()
@@ -567,11 +519,10 @@ void tst_networkmanagerprofiles::WepProfileIsKeptWhenItsOtherKeysCannotBeHad_dat
 {
     QTest::addColumn<QString>("error");
     QTest::addColumn<int>("result");
-    QTest::newRow("none there") << "org.freedesktop.NetworkManager.AgentManager.NoSecrets" << 0;
-    QTest::newRow("denied") << "org.freedesktop.NetworkManager.Settings.PermissionDenied"
-                            << int(NetworkManagerResultPermissionDenied);
-    QTest::newRow("failed") << "org.freedesktop.NetworkManager.Settings.Failed"
-                            << int(NetworkManagerResultFailed);
+    Row("none there", "org.freedesktop.NetworkManager.AgentManager.NoSecrets", 0);
+    Row("denied", "org.freedesktop.NetworkManager.Settings.PermissionDenied",
+        int(NetworkManagerResultPermissionDenied));
+    Row("failed", "org.freedesktop.NetworkManager.Settings.Failed", int(NetworkManagerResultFailed));
 }
 
 void tst_networkmanagerprofiles::WepProfileIsKeptWhenItsOtherKeysCannotBeHad()
@@ -604,14 +555,10 @@ void tst_networkmanagerprofiles::ProfileIsForEverybodyOrForItsMaker_data()
     QTest::addColumn<QString>("own");
     QTest::addColumn<QStringList>("permissions");
     const QStringList mine("user:" + Myself() + ":");
-    QTest::newRow("may do all") << "yes"
-                                << "yes" << QStringList();
-    QTest::newRow("may do own") << "no"
-                                << "yes" << mine;
-    QTest::newRow("would have to give a password") << "auth"
-                                                   << "yes" << mine;
-    QTest::newRow("password for both") << "auth"
-                                       << "auth" << QStringList();
+    Row("may do all", "yes", "yes", QStringList());
+    Row("may do own", "no", "yes", mine);
+    Row("would have to give a password", "auth", "yes", mine);
+    Row("password for both", "auth", "auth", QStringList());
 }
 
 void tst_networkmanagerprofiles::ProfileIsForEverybodyOrForItsMaker()
@@ -641,94 +588,22 @@ void tst_networkmanagerprofiles::WhatCannotBeStoredIsRefusedBeforeItIsSent_data(
     const int badName = NetworkManagerResultUnusableName;
     const int badNetwork = NetworkManagerResultUnusableNetworkName;
     const int badSecurity = NetworkManagerResultUnusableSecurity;
-    QTest::newRow("no name") << ""
-                             << "A"
-                             << "open"
-                             << "none"
-                             << ""
-                             << "0" << badName;
-    QTest::newRow("zero in the name") << zero << "A"
-                                      << "open"
-                                      << "none"
-                                      << ""
-                                      << "0" << badName;
-    QTest::newRow("half a character in the name") << half << "A"
-                                                  << "open"
-                                                  << "none"
-                                                  << ""
-                                                  << "0" << badName;
-    QTest::newRow("no network name") << "A"
-                                     << ""
-                                     << "open"
-                                     << "none"
-                                     << ""
-                                     << "0" << badNetwork;
-    QTest::newRow("longest network name") << "A" << longest << "open"
-                                          << "none"
-                                          << ""
-                                          << "0" << 0;
-    QTest::newRow("network name too long") << "A" << longest + "x"
-                                           << "open"
-                                           << "none"
-                                           << ""
-                                           << "0" << badNetwork;
-    QTest::newRow("too many bytes") << "A" << QString(17, QChar(ushort(0xe9))) << "open"
-                                    << "none"
-                                    << ""
-                                    << "0" << badNetwork;
-    QTest::newRow("unknown authentication") << "A"
-                                            << "A"
-                                            << "WPA3"
-                                            << "CCMP"
-                                            << "12345678"
-                                            << "0" << badSecurity;
-    QTest::newRow("unknown encryption") << "A"
-                                        << "A"
-                                        << "WPAPSK"
-                                        << "AES"
-                                        << "12345678"
-                                        << "0" << badSecurity;
-    QTest::newRow("shared without encryption") << "A"
-                                               << "A"
-                                               << "shared"
-                                               << "none"
-                                               << ""
-                                               << "0" << badSecurity;
-    QTest::newRow("open with CCMP") << "A"
-                                    << "A"
-                                    << "open"
-                                    << "CCMP"
-                                    << "12345678"
-                                    << "0" << badSecurity;
-    QTest::newRow("WPA with WEP") << "A"
-                                  << "A"
-                                  << "WPAPSK"
-                                  << "WEP"
-                                  << "12345678"
-                                  << "0" << badSecurity;
-    QTest::newRow("no index") << "A"
-                              << "A"
-                              << "open"
-                              << "WEP"
-                              << "12345"
-                              << "" << badSecurity;
-    QTest::newRow("index too large") << "A"
-                                     << "A"
-                                     << "open"
-                                     << "WEP"
-                                     << "12345"
-                                     << "4" << badSecurity;
-    QTest::newRow("negative index") << "A"
-                                    << "A"
-                                    << "open"
-                                    << "WEP"
-                                    << "12345"
-                                    << "-1" << badSecurity;
-    QTest::newRow("zero in the key") << "A"
-                                     << "A"
-                                     << "WPA2PSK"
-                                     << "CCMP" << zero + "12345678"
-                                     << "0" << badSecurity;
+    Row("no name", "", "A", "open", "none", "", "0", badName);
+    Row("zero in the name", zero, "A", "open", "none", "", "0", badName);
+    Row("half a character in the name", half, "A", "open", "none", "", "0", badName);
+    Row("no network name", "A", "", "open", "none", "", "0", badNetwork);
+    Row("longest network name", "A", longest, "open", "none", "", "0", 0);
+    Row("network name too long", "A", longest + "x", "open", "none", "", "0", badNetwork);
+    Row("too many bytes", "A", QString(17, QChar(ushort(0xe9))), "open", "none", "", "0", badNetwork);
+    Row("unknown authentication", "A", "A", "WPA3", "CCMP", "12345678", "0", badSecurity);
+    Row("unknown encryption", "A", "A", "WPAPSK", "AES", "12345678", "0", badSecurity);
+    Row("shared without encryption", "A", "A", "shared", "none", "", "0", badSecurity);
+    Row("open with CCMP", "A", "A", "open", "CCMP", "12345678", "0", badSecurity);
+    Row("WPA with WEP", "A", "A", "WPAPSK", "WEP", "12345678", "0", badSecurity);
+    Row("no index", "A", "A", "open", "WEP", "12345", "", badSecurity);
+    Row("index too large", "A", "A", "open", "WEP", "12345", "4", badSecurity);
+    Row("negative index", "A", "A", "open", "WEP", "12345", "-1", badSecurity);
+    Row("zero in the key", "A", "A", "WPA2PSK", "CCMP", zero + "12345678", "0", badSecurity);
 }
 
 void tst_networkmanagerprofiles::WhatCannotBeStoredIsRefusedBeforeItIsSent()

@@ -5,6 +5,7 @@
 #include "PrivateBus.h"
 
 #include <NetworkManagerResult.h>
+#include <Row.h>
 #include <StandInHost.h>
 #include <TemporaryDirectory.h>
 #include <TraceCapture.h>
@@ -172,12 +173,12 @@ void tst_networkmanagertemplate::SecurityIsReadFromTheFlags_data()
     QTest::addColumn<unsigned int>("wpa");
     QTest::addColumn<unsigned int>("rsn");
     QTest::addColumn<QString>("told");
-    QTest::newRow("open") << 0U << 0U << 0U << "open none passPhrase";
-    QTest::newRow("WEP") << privacy << 0U << 0U << "open WEP networkKey";
-    QTest::newRow("WPA") << privacy << (psk | tkip) << 0U << "WPAPSK TKIP passPhrase";
-    QTest::newRow("WPA2") << privacy << 0U << (psk | ccmp) << "WPA2PSK CCMP passPhrase";
-    QTest::newRow("WPA with EAP") << privacy << (eap | tkip) << 0U << "WPA(EAP) TKIP passPhrase";
-    QTest::newRow("WPA2 with EAP") << privacy << 0U << (eap | ccmp) << "WPA2(EAP) CCMP passPhrase";
+    Row("open", 0U, 0U, 0U, "open none passPhrase");
+    Row("WEP", privacy, 0U, 0U, "open WEP networkKey");
+    Row("WPA", privacy, (psk | tkip), 0U, "WPAPSK TKIP passPhrase");
+    Row("WPA2", privacy, 0U, (psk | ccmp), "WPA2PSK CCMP passPhrase");
+    Row("WPA with EAP", privacy, (eap | tkip), 0U, "WPA(EAP) TKIP passPhrase");
+    Row("WPA2 with EAP", privacy, 0U, (eap | ccmp), "WPA2(EAP) CCMP passPhrase");
 }
 
 void tst_networkmanagertemplate::SecurityIsReadFromTheFlags()
@@ -221,8 +222,8 @@ void tst_networkmanagertemplate::NetworkNameThatIsNotUtf8ComesBackByteForByte()
 void tst_networkmanagertemplate::HiddenNetworksAreLeftOut_data()
 {
     QTest::addColumn<QByteArray>("ssid");
-    QTest::newRow("empty") << QByteArray("");
-    QTest::newRow("zeros") << QByteArray(8, '\0');
+    Row("empty", QByteArray(""));
+    Row("zeros", QByteArray(8, '\0'));
 }
 
 void tst_networkmanagertemplate::HiddenNetworksAreLeftOut()

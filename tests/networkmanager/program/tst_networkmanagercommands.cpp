@@ -3,6 +3,7 @@
 #include "PrivateBus.h"
 
 #include <DashboardProcess.h>
+#include <Row.h>
 #include <TemporaryDirectory.h>
 
 #include <QDir>
@@ -225,9 +226,9 @@ void tst_networkmanagercommands::SetList(const QByteArray &first, const QByteArr
 void tst_networkmanagercommands::AgentKeepsTheOrderUntilItIsEnded_data()
 {
     QTest::addColumn<int>("signal");
-    QTest::newRow("SIGTERM") << SIGTERM;
-    QTest::newRow("SIGINT") << SIGINT;
-    QTest::newRow("SIGHUP") << SIGHUP;
+    Row("SIGTERM", SIGTERM);
+    Row("SIGINT", SIGINT);
+    Row("SIGHUP", SIGHUP);
 }
 
 void tst_networkmanagercommands::AgentKeepsTheOrderUntilItIsEnded()
@@ -284,8 +285,8 @@ void tst_networkmanagercommands::AgentWaitsForNetworkManager()
 void tst_networkmanagercommands::ProfileThatIsRenamedKeepsItsPlace_data()
 {
     QTest::addColumn<bool>("isAgentThere");
-    QTest::newRow("while an agent runs") << true;
-    QTest::newRow("while nothing runs") << false;
+    Row("while an agent runs", true);
+    Row("while nothing runs", false);
 }
 
 void tst_networkmanagercommands::ProfileThatIsRenamedKeepsItsPlace()
@@ -352,11 +353,11 @@ void tst_networkmanagercommands::AgentThatWasKilledIsFollowedByAnother()
 void tst_networkmanagercommands::OrderWithoutNetworkManagerIsTold_data()
 {
     QTest::addColumn<QStringList>("arguments");
-    QTest::newRow("apply") << QStringList("--apply");
-    QTest::newRow("release") << QStringList("--release");
-    QTest::newRow("apply, practice networks") << QStringList({"--wlan=stored", "--apply"});
-    QTest::newRow("release, practice networks") << QStringList({"--wlan=stored", "--release"});
-    QTest::newRow("agent of practice networks") << QStringList({"--wlan=stored", "--agent"});
+    Row("apply", QStringList("--apply"));
+    Row("release", QStringList("--release"));
+    Row("apply, practice networks", QStringList({"--wlan=stored", "--apply"}));
+    Row("release, practice networks", QStringList({"--wlan=stored", "--release"}));
+    Row("agent of practice networks", QStringList({"--wlan=stored", "--agent"}));
 }
 
 void tst_networkmanagercommands::OrderWithoutNetworkManagerIsTold()

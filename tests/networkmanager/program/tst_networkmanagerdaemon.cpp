@@ -10,6 +10,7 @@
 #include <IPriorityPlugin.h>
 #include <IWLANUIPlugin.h>
 #include <PluginObjects.h>
+#include <Row.h>
 #include <UserActions.h>
 
 #include <QAction>
@@ -234,26 +235,12 @@ void tst_networkmanagerdaemon::ProfilesHaveTheirSecurity_data()
     const QString wep = security + "key-mgmt," + security + "auth-alg," + security + "wep-key0";
     const QString wpa =
         security + "key-mgmt," + security + "proto," + security + "pairwise," + security + "psk";
-    QTest::newRow("open") << "open"
-                          << "none"
-                          << ""
-                          << "802-11-wireless.ssid"
-                          << "open none";
-    QTest::newRow("WEP") << "open"
-                         << "WEP"
-                         << "12345" << wep << "none\nopen\n12345";
-    QTest::newRow("WEP in digits") << "open"
-                                   << "WEP"
-                                   << "0123456789" << wep << "none\nopen\n0123456789";
-    QTest::newRow("shared WEP") << "shared"
-                                << "WEP"
-                                << "12345" << wep << "none\nshared\n12345";
-    QTest::newRow("WPA") << "WPAPSK"
-                         << "TKIP"
-                         << "open sesame" << wpa << "wpa-psk\nwpa\ntkip\nopen sesame";
-    QTest::newRow("WPA2") << "WPA2PSK"
-                          << "CCMP"
-                          << "open sesame" << wpa << "wpa-psk\nrsn\nccmp\nopen sesame";
+    Row("open", "open", "none", "", "802-11-wireless.ssid", "open none");
+    Row("WEP", "open", "WEP", "12345", wep, "none\nopen\n12345");
+    Row("WEP in digits", "open", "WEP", "0123456789", wep, "none\nopen\n0123456789");
+    Row("shared WEP", "shared", "WEP", "12345", wep, "none\nshared\n12345");
+    Row("WPA", "WPAPSK", "TKIP", "open sesame", wpa, "wpa-psk\nwpa\ntkip\nopen sesame");
+    Row("WPA2", "WPA2PSK", "CCMP", "open sesame", wpa, "wpa-psk\nrsn\nccmp\nopen sesame");
 }
 
 void tst_networkmanagerdaemon::ProfilesHaveTheirSecurity()

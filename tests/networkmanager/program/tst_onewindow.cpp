@@ -3,6 +3,7 @@
 #include "PrivateBus.h"
 
 #include <OneWindow.h>
+#include <Row.h>
 #include <TemporaryDirectory.h>
 
 #include <QDBusConnectionInterface>
@@ -121,10 +122,10 @@ void OneWindowTest::OtherStartsHaveAWindowOfTheirOwn_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("data");
-    QTest::newRow("other data") << QStringList("--wlan=stored") << "other";
-    QTest::newRow("other networks") << QStringList() << "user";
-    QTest::newRow("language") << QStringList({"--wlan=stored", "--language=ar"}) << "user";
-    QTest::newRow("other plug-ins") << QStringList({"--wlan=stored", "--library-path=/usr"}) << "user";
+    Row("other data", QStringList("--wlan=stored"), "other");
+    Row("other networks", QStringList(), "user");
+    Row("language", QStringList({"--wlan=stored", "--language=ar"}), "user");
+    Row("other plug-ins", QStringList({"--wlan=stored", "--library-path=/usr"}), "user");
 }
 
 void OneWindowTest::OtherStartsHaveAWindowOfTheirOwn()
