@@ -9,7 +9,7 @@
 
 /**
  * Reads files that are nothing but nested elements with attributes. Whatever else they hold is a fault, and
- * behind the first fault nothing is read. Comments are passed over.
+ * behind the first fault nothing is read. Comments and processing instructions are passed over.
  */
 class StrictXmlReader
 {
@@ -26,6 +26,7 @@ public:
     void Leave();
 
     QString Name() const;
+    QXmlStreamAttributes Attributes() const { return m_reader.attributes(); }
     bool Has(const char *attribute) const;
 
     /** An attribute that the element must have. */

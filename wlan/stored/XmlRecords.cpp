@@ -1,6 +1,7 @@
 #include "XmlRecords.h"
 
-#include <QXmlStreamReader>
+#include <StrictXmlReader.h>
+
 #include <QXmlStreamWriter>
 
 namespace
@@ -49,35 +50,24 @@ int EscapedUnit(const QString &text, int position)
     return unit;
 }
 
-/** False when the element has an attribute that the format doesn't know, or lacks the one it asks for. */
-bool ReadRecord(const QXmlStreamReader &reader, const XmlRecordFormat &format, XmlRecord *record)
+/** Refuses an element that has an attribute that the format doesn't know, or lacks the one it asks for. */
+XmlRecord ReadRecord(StrictXmlReader *reader, const XmlRecordFormat &format)
 {
-    const QXmlStreamAttributes attributes = reader.attributes();
-    for (int i = 0; i < attributes.size(); ++i) {
-        const QString name = attributes.at(i).qualifiedName().toString();
-        if (!format.attributes.contains(name)) {
-            return false;
-        }
-        record->values.insert(name, XmlRecords::Unescape(attributes.at(i).value().toString()));
-    }
-    record->line = reader.lineNumber();
-    return format.requiredAttribute.isEmpty() || !record->values.value(format.requiredAttribute).isEmpty();
-}
-
-/** Whether the element that the reader stands at has its place there; a record is appended to *records. */
-bool AcceptElement(const QXmlStreamReader &reader, const XmlRecordFormat &format, int depth,
-                   QList<XmlRecord> *records)
-{
-    const QString name = reader.qualifiedName().toString();
-    if (depth == 0) {
-        return name == format.rootElement && reader.attributes().isEmpty();
-    }
     XmlRecord record;
-    if (depth != 1 || name != format.recordElement || !ReadRecord(reader, format, &record)) {
-        return false;
+    record.line = reader->Line();
+    const QXmlStreamAttributes attributes = reader->Attributes();
+    for (const QXmlStreamAttribute &attribute : attributes) {
+        const QString name = attribute.qualifiedName().toString();
+        if (!format.attributes.contains(name)) {
+            reader->Refuse(FileFault::WrongValue, name);
+        }
+        record.values.insert(name, XmlRecords::Unescape(attribute.value().toString()));
     }
-    records->append(record);
-    return true;
+    const QString &required = format.requiredAttribute;
+    if (!required.isEmpty() && record.values.value(required).isEmpty()) {
+        reader->Refuse(FileFault::MissingAttribute, required);
+    }
+    return record;
 }
 
 bool IsUtf8(const QByteArray &bytes)
@@ -107,34 +97,19 @@ int SoundLength(const QByteArray &bytes, qint64 *unsoundLine)
 
 qint64 ReadSound(const QByteArray &bytes, const XmlRecordFormat &format, QList<XmlRecord> *records)
 {
-    QXmlStreamReader reader(bytes);
-    int depth = 0;
-    while (!reader.atEnd()) {
-        bool accepted = true;
-        switch (reader.readNext()) {
-        case QXmlStreamReader::StartElement:
-            accepted = AcceptElement(reader, format, depth, records);
-            ++depth;
-            break;
-        case QXmlStreamReader::EndElement:
-            --depth;
-            break;
-        case QXmlStreamReader::Characters:
-            accepted = reader.isWhitespace();
-            break;
-        case QXmlStreamReader::DTD:
-        case QXmlStreamReader::EntityReference:
-        case QXmlStreamReader::ProcessingInstruction:
-            accepted = false;
-            break;
-        default:
-            break;
-        }
-        if (!accepted) {
-            return reader.lineNumber();
-        }
+    StrictXmlReader reader(bytes);
+    if (reader.NextElement(format.rootElement.toLatin1().constData()) && !reader.Attributes().isEmpty()) {
+        reader.Refuse(FileFault::WrongValue, format.rootElement);
     }
-    return reader.hasError() ? reader.lineNumber() : 0;
+    while (reader.NextElement(format.recordElement.toLatin1().constData())) {
+        const XmlRecord record = ReadRecord(&reader, format);
+        if (!reader.HasFault()) {
+            records->append(record);
+        }
+        reader.Leave();
+    }
+    reader.Leave();
+    return reader.Fault().line;
 }
 
 } // namespace

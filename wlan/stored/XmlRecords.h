@@ -32,7 +32,8 @@ struct XmlRecordFormat {
  * backslash that begins neither of these stands for itself.
  *
  * The files are UTF-8. The reader refuses what the writer would lose on the way back: elements, attributes
- * and text that are not of the format, and document type declarations. Comments are accepted and not kept.
+ * and text that are not of the format, and document type declarations. Comments and processing instructions
+ * are accepted and not kept.
  */
 namespace XmlRecords
 {
