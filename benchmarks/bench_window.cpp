@@ -259,7 +259,7 @@ struct Bounds {
     double memory;
 };
 
-const Bounds bounds[] = {{10, 1.7, 4, 1, 4, 1.3}, {1000, 2.7, 2.3, 2.2, 60, 1.4}};
+const Bounds bounds[] = {{10, 1.7, 4, 1, 4, 1.3}, {1000, 2.7, 3, 2.2, 60, 1.4}};
 
 void Tell(const char *what, int entries, const char *unit, double factor, double most,
           double Figures::*figure, const QVector<Figures> &dashboard, const QVector<Figures> &bare)
