@@ -63,6 +63,7 @@ private slots:
     void EditIsMadeOfTheListAsItIsThen();
     void EditsThatMoveOneEntryAreOneChange();
     void EditThatTellsWhatItMovesIsKeptSo();
+    void EntryInHandIsToldOfWhenItIsWhatMoved();
     void EditNeedsNoHistory();
     void NothingEditsAListThatCannotBeReadToItsEnd();
     void EverybodyIsToldOfAnUndo();
@@ -523,6 +524,19 @@ void ListKeeperTest::EditThatTellsWhatItMovesIsKeptSo()
     const PriorityList moved = Listed("A").first();
     QCOMPARE(m_keeper->Edit(moveFirstDown, &moved), ListKeeper::NoObstacle);
     StartAnew();
+    QCOMPARE(m_keeper->History().States().last().moved, 1);
+}
+
+void ListKeeperTest::EntryInHandIsToldOfWhenItIsWhatMoved()
+{
+    WriteList("A, B, C, D");
+    m_keeper->Follow();
+    m_keeper->SetPlaceInHand([] { return 1; });
+    WriteList("A, B, D, C");
+    m_keeper->Follow();
+    QCOMPARE(m_keeper->History().States().last().moved, -1);
+    WriteList("B, A, D, C");
+    m_keeper->Follow();
     QCOMPARE(m_keeper->History().States().last().moved, 1);
 }
 

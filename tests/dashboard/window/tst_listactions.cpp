@@ -289,8 +289,8 @@ void ListActionsTest::NeighbourThatWasMovedOnThePageIsTold_data()
     QTest::addColumn<int>("row");
     QTest::addColumn<QByteArray>("button");
     QTest::addColumn<QString>("told");
-    QTest::newRow("down") << 0 << QByteArray("downButton") << "Undo: Moved A down";
-    QTest::newRow("up") << 1 << QByteArray("upButton") << "Undo: Moved B up";
+    Row("down", 0, QByteArray("downButton"), "Undo: Moved A down");
+    Row("up", 1, QByteArray("upButton"), "Undo: Moved B up");
 }
 
 void ListActionsTest::NeighbourThatWasMovedOnThePageIsTold()

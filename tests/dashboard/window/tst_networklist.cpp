@@ -398,7 +398,7 @@ void NetworkListTest::KeptRowsLookLikeNewOnes_data()
 {
     QTest::addColumn<std::function<void(NetworkList *)>>("change");
     const auto add = [](const char *name, const std::function<void(NetworkList *)> &change) {
-        QTest::newRow(name) << change;
+        Row(name, change);
     };
     add("palette", [](NetworkList *list) {
         QPalette palette = list->palette();
@@ -407,7 +407,7 @@ void NetworkListTest::KeptRowsLookLikeNewOnes_data()
     });
     add("font", [](NetworkList *list) {
         QFont font = list->font();
-        font.setPointSizeF(font.pointSizeF() * 1.5);
+        font.setItalic(true);
         list->setFont(font);
     });
     add("direction", [](NetworkList *list) { list->setLayoutDirection(Qt::RightToLeft); });
