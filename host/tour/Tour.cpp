@@ -28,7 +28,6 @@
 #include <QPushButton>
 #include <QTableWidget>
 #include <QTimer>
-#include <QXmlStreamReader>
 #include <QtTest>
 
 #include <cstdio>
@@ -78,17 +77,8 @@ QList<PriorityList> ReadFile()
 {
     QList<PriorityList> list;
     QFile file(UserData::FilePath(QLatin1String("Priority.xml")));
-    if (!file.open(QIODevice::ReadOnly)) {
-        return list;
-    }
-    QXmlStreamReader reader(&file);
-    while (!reader.atEnd()) {
-        if (reader.readNext() == QXmlStreamReader::StartElement && reader.name() == QLatin1String("item")) {
-            PriorityList entry;
-            entry.name = reader.attributes().value(QLatin1String("name")).toString();
-            entry.type = reader.attributes().value(QLatin1String("type")).toString();
-            list.append(entry);
-        }
+    if (file.open(QIODevice::ReadOnly)) {
+        OrderFile::Parse(file.readAll(), &list);
     }
     return list;
 }

@@ -46,6 +46,11 @@ bool ListEntries::IsWifi(const PriorityList &entry)
     return entry.type == QLatin1String("1");
 }
 
+bool ListEntries::IsStorable(const PriorityList &entry)
+{
+    return StorableText(entry.name) == entry.name && StorableText(entry.type) == entry.type;
+}
+
 QList<PriorityList> ListEntries::Storable(const QList<PriorityList> &entries)
 {
     QList<PriorityList> storable = entries;

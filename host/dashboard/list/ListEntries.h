@@ -14,6 +14,9 @@ bool IsSame(const QList<PriorityList> &left, const QList<PriorityList> &right);
 
 bool IsWifi(const PriorityList &entry);
 
+/** Whether a file can carry the entry as it is. */
+bool IsStorable(const PriorityList &entry);
+
 /** The entries as a file can carry them; what it can't carry comes back as PriorityList::name tells. */
 QList<PriorityList> Storable(const QList<PriorityList> &entries);
 

@@ -60,7 +60,7 @@ QSet<Key> KeysOf(const QList<PriorityList> &list)
 
 bool CanBeListed(const PriorityList &entry)
 {
-    return !entry.name.isEmpty() && ListEntries::IsSame({entry}, ListEntries::Storable({entry}));
+    return !entry.name.isEmpty() && ListEntries::IsStorable(entry);
 }
 
 /** By the entries that are to get another name, with that name. */

@@ -1,5 +1,7 @@
 #include "Arguments.h"
 
+#include <ListEntries.h>
+
 #include <QByteArray>
 #include <QLatin1String>
 
@@ -115,18 +117,6 @@ PriorityList EntryOf(const QString &text)
     return entry;
 }
 
-/** Whether the list's file can hold every character of the name. */
-bool CanBeStored(const QString &name)
-{
-    for (int i = 0; i < name.size(); ++i) {
-        const ushort unit = name.at(i).unicode();
-        if ((unit < ' ' && unit != '\t' && unit != '\n' && unit != '\r') || unit >= 0xfffe) {
-            return false;
-        }
-    }
-    return true;
-}
-
 const ValueOption *FindValueOption(const QString &name)
 {
     for (const ValueOption &option : valueOptions) {
@@ -176,7 +166,7 @@ QString TakeEntry(const QString &value, const QString &name, QStringList *left, 
     if (command->entry.name.isEmpty()) {
         return QString::fromLatin1("%1 needs a name before the type; see --help").arg(name);
     }
-    if (command->Adds() && !CanBeStored(command->entry.name)) {
+    if (command->Adds() && !ListEntries::IsStorable(command->entry)) {
         return QString::fromLatin1("the list can't hold all characters of the name \"%1\"")
             .arg(command->entry.name);
     }
