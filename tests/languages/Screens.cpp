@@ -601,6 +601,32 @@ void Screens::ShowRangeUnknown(const char *listFile)
     HostControl::SetPluginContainer(m_plugins.data());
 }
 
+static void Connect(const QByteArray &shown, Connections *told)
+{
+    if (shown == "another one" || shown == "by hand" || shown == "refused") {
+        told->active << ConnectionOf(QLatin1String("Library"), StageConnected, true);
+        told->profiles[0].connectsByItself = shown != "by hand";
+    } else if (shown == "cable") {
+        told->active << ConnectionOf(QLatin1String("Workshop"), StageConnected, true, QLatin1String("0"))
+                     << ConnectionOf(QLatin1String("Company"), StageConnected, false, QLatin1String("0"));
+        told->active[1].isVpn = true;
+    } else if (shown == "disconnect refused") {
+        told->active << ConnectionOf(QLatin1String("Home"), StageConnected, true);
+    } else if (shown == "portal" || shown == "limited") {
+        told->active << ConnectionOf(QLatin1String("Home"), StageConnected, true);
+        told->state.connectivity =
+            shown == "portal" ? ConnectionState::ConnectivityPortal : ConnectionState::ConnectivityLimited;
+    } else if (shown == "no traffic") {
+        told->active << ConnectionOf(QLatin1String("Home"), StageConnected, false);
+    } else if (shown == "connecting") {
+        told->active << ConnectionOf(QLatin1String("Home"), StageAuthenticating, false);
+    } else if (shown == "gone") {
+        told->state.source = ConnectionState::SourceGone;
+    } else if (shown == "asked") {
+        told->state.source = ConnectionState::SourceNotKnown;
+    }
+}
+
 void Screens::ShowConnections(const char *what)
 {
     const QByteArray shown(what);
@@ -613,28 +639,7 @@ void Screens::ShowConnections(const char *what)
     } else {
         told.profiles << SavedProfile(QLatin1String("Home")) << SavedProfile(QString::fromUtf8("Café"));
     }
-    if (shown == "another one" || shown == "by hand" || shown == "refused") {
-        told.active << ConnectionOf(QLatin1String("Library"), StageConnected, true);
-        told.profiles[0].connectsByItself = shown != "by hand";
-    } else if (shown == "cable") {
-        told.active << ConnectionOf(QLatin1String("Workshop"), StageConnected, true, QLatin1String("0"))
-                    << ConnectionOf(QLatin1String("Company"), StageConnected, false, QLatin1String("0"));
-        told.active[1].isVpn = true;
-    } else if (shown == "disconnect refused") {
-        told.active << ConnectionOf(QLatin1String("Home"), StageConnected, true);
-    } else if (shown == "portal" || shown == "limited") {
-        told.active << ConnectionOf(QLatin1String("Home"), StageConnected, true);
-        told.state.connectivity =
-            shown == "portal" ? ConnectionState::ConnectivityPortal : ConnectionState::ConnectivityLimited;
-    } else if (shown == "no traffic") {
-        told.active << ConnectionOf(QLatin1String("Home"), StageConnected, false);
-    } else if (shown == "connecting") {
-        told.active << ConnectionOf(QLatin1String("Home"), StageAuthenticating, false);
-    } else if (shown == "gone") {
-        told.state.source = ConnectionState::SourceGone;
-    } else if (shown == "asked") {
-        told.state.source = ConnectionState::SourceNotKnown;
-    }
+    Connect(shown, &told);
     if (shown == "nothing saved") {
         list.clear();
         told.profiles.clear();
@@ -1033,10 +1038,8 @@ void Screens::ShowConnect(const char *networksInRange)
     Visit();
 }
 
-void Screens::ShowConnecting(const char *what)
+static void FillRange(Connections *told)
 {
-    const QByteArray shown(what);
-    FakeConnections connections;
     const int protections[] = {VisibleNetwork::ProtectionKey, VisibleNetwork::ProtectionWeakKey,
                                VisibleNetwork::ProtectionAccount, VisibleNetwork::ProtectionOpen,
                                VisibleNetwork::ProtectionKey};
@@ -1044,17 +1047,24 @@ void Screens::ShowConnecting(const char *what)
     int signal = 90;
     for (int protection : protections) {
         VisibleNetwork network;
-        network.name = QLatin1String(names[connections.told.networks.size()]);
+        network.name = QLatin1String(names[told->networks.size()]);
         network.id = network.name;
         network.protection = protection;
         network.signal = signal;
         signal -= 9;
-        connections.told.networks.append(network);
+        told->networks.append(network);
     }
-    connections.told.networks[3].isInUse = true;
-    connections.told.active << ConnectionOf(QLatin1String("Library"), StageConnected, true);
-    connections.told.profiles << SavedProfile(QLatin1String("Home"));
-    connections.told.networks[4].profileIds << connections.told.profiles[0].id;
+    told->networks[3].isInUse = true;
+    told->active << ConnectionOf(QLatin1String("Library"), StageConnected, true);
+    told->profiles << SavedProfile(QLatin1String("Home"));
+    told->networks[4].profileIds << told->profiles[0].id;
+}
+
+void Screens::ShowConnecting(const char *what)
+{
+    const QByteArray shown(what);
+    FakeConnections connections;
+    FillRange(&connections.told);
     if (shown == "no key" || shown == "no WEP key") {
         connections.answer = IConnectionPlugin::RefusedKey;
     }

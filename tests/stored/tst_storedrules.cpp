@@ -120,69 +120,81 @@ private slots:
     void ProfilesWithoutANetworkNameAreForNone();
 };
 
+namespace
+{
+
+const int changed = WLANResultSuccess;
+const int undescribed = WLANResultUndescribedProfile;
+const int weaker = WLANResultWeakerMethod;
+const int incomplete = WLANResultIncompleteKey;
+
+struct Change {
+    const char *row;
+    const char *before;
+    const char *wanted;
+    int result;
+};
+
+const Change changesOfMethod[] = {
+    {"account, WPA2", "WPA2(EAP)|CCMP", "WPA2(EAP)|CCMP", undescribed},
+    {"account, WPA", "WPA(EAP)|TKIP", "WPA2PSK|CCMP|open sesame", undescribed},
+    {"account, WEP", "IEEE 802.1X|none", "open|none", undescribed},
+    {"method of another program", "WPA3|GCMP|open sesame", "WPA2PSK|CCMP|open sesame", undescribed},
+    {"words that don't go together", "open|CCMP|open sesame", "WPA2PSK|CCMP|open sesame", undescribed},
+
+    {"open stays open", "open|none", "open|none", changed},
+    {"no words are open", "|", "open|none", changed},
+    {"open to WEP", "open|none", "open|WEP|12345", changed},
+    {"open to WPA", "open|none", "WPAPSK|TKIP|open sesame", changed},
+    {"open to an account", "open|none", "WPA2(EAP)|CCMP", incomplete},
+    {"shared without WEP to WEP", "shared|none", "shared|WEP|12345", changed},
+    {"WEP to open", "open|WEP|12345", "open|none", weaker},
+    {"shared WEP to open", "shared|WEP|12345", "shared|none", weaker},
+    {"WEP to the other WEP", "open|WEP|12345", "shared|WEP|abcde", changed},
+    {"the other WEP to WEP", "shared|WEP|12345", "open|WEP|abcde", changed},
+    {"WEP to WPA", "shared|WEP|12345", "WPAPSK|TKIP|open sesame", changed},
+    {"WPA to open", "WPAPSK|TKIP|open sesame", "open|none", weaker},
+    {"WPA to WEP", "WPAPSK|TKIP|open sesame", "open|WEP|12345", weaker},
+    {"WPA to WPA", "WPAPSK|TKIP|open sesame", "WPAPSK|TKIP|sesame street", changed},
+    {"WPA with CCMP to TKIP", "WPAPSK|CCMP|open sesame", "WPAPSK|TKIP|sesame street", weaker},
+    {"WPA with TKIP to CCMP", "WPAPSK|TKIP|open sesame", "WPAPSK|CCMP|sesame street", changed},
+    {"WPA with CCMP to WPA2 with TKIP", "WPAPSK|CCMP|open sesame", "WPA2PSK|TKIP|sesame street", weaker},
+    {"WPA2 with TKIP to WPA with CCMP", "WPA2PSK|TKIP|open sesame", "WPAPSK|CCMP|sesame street", weaker},
+    {"WPA to WPA2", "WPAPSK|CCMP|open sesame", "WPA2PSK|CCMP|sesame street", changed},
+    {"WPA2 to WPA", "WPA2PSK|CCMP|open sesame", "WPAPSK|CCMP|sesame street", weaker},
+    {"WPA2 to WPA2", "WPA2PSK|CCMP|open sesame", "WPA2PSK|CCMP|sesame street", changed},
+    {"WPA2 to open", "WPA2PSK|CCMP|open sesame", "open|none", weaker},
+    {"WPA2 to an account", "WPA2PSK|CCMP|open sesame", "WPA2(EAP)|CCMP", incomplete},
+    {"WPA2 to an account with a key", "WPA2PSK|CCMP|open sesame", "WPA2(EAP)|CCMP|sesame street", incomplete},
+};
+
+const Change changesOfKey[] = {
+    {"no key", "WPA2PSK|CCMP|open sesame", "WPA2PSK|CCMP|", incomplete},
+    {"no key for a stronger method", "open|none", "WPA2PSK|CCMP|", incomplete},
+    {"7 characters", "WPA2PSK|CCMP|open sesame", "WPA2PSK|CCMP|1234567", incomplete},
+    {"8 characters", "WPA2PSK|CCMP|open sesame", "WPA2PSK|CCMP|12345678", changed},
+    {"4 characters for WEP", "open|WEP|12345", "open|WEP|1234", incomplete},
+    {"6 characters for WEP", "open|WEP|12345", "open|WEP|123456", incomplete},
+    {"13 characters for WEP", "open|WEP|12345", "open|WEP|thirteen sign", changed},
+    {"10 characters that are no digits", "open|WEP|12345", "open|WEP|012345678g", incomplete},
+    {"key that nothing used", "open|none|left over", "open|none", incomplete},
+    {"key that nothing would use", "open|none|left over", "open|none|open sesame", incomplete},
+    {"key that nothing used gives way to one", "open|none|left over", "WPA2PSK|CCMP|open sesame", changed},
+};
+
+} // namespace
+
 void tst_storedrules::ProfileOfThatNameIsChangedOrKept_data()
 {
     QTest::addColumn<QString>("before");
     QTest::addColumn<QString>("wanted");
     QTest::addColumn<int>("result");
 
-    const int changed = WLANResultSuccess;
-    const int undescribed = WLANResultUndescribedProfile;
-    const int weaker = WLANResultWeakerMethod;
-    const int incomplete = WLANResultIncompleteKey;
-    const struct {
-        const char *row;
-        const char *before;
-        const char *wanted;
-        int result;
-    } rows[] = {
-        {"account, WPA2", "WPA2(EAP)|CCMP", "WPA2(EAP)|CCMP", undescribed},
-        {"account, WPA", "WPA(EAP)|TKIP", "WPA2PSK|CCMP|open sesame", undescribed},
-        {"account, WEP", "IEEE 802.1X|none", "open|none", undescribed},
-        {"method of another program", "WPA3|GCMP|open sesame", "WPA2PSK|CCMP|open sesame", undescribed},
-        {"words that don't go together", "open|CCMP|open sesame", "WPA2PSK|CCMP|open sesame", undescribed},
-
-        {"open stays open", "open|none", "open|none", changed},
-        {"no words are open", "|", "open|none", changed},
-        {"open to WEP", "open|none", "open|WEP|12345", changed},
-        {"open to WPA", "open|none", "WPAPSK|TKIP|open sesame", changed},
-        {"open to an account", "open|none", "WPA2(EAP)|CCMP", incomplete},
-        {"shared without WEP to WEP", "shared|none", "shared|WEP|12345", changed},
-        {"WEP to open", "open|WEP|12345", "open|none", weaker},
-        {"shared WEP to open", "shared|WEP|12345", "shared|none", weaker},
-        {"WEP to the other WEP", "open|WEP|12345", "shared|WEP|abcde", changed},
-        {"the other WEP to WEP", "shared|WEP|12345", "open|WEP|abcde", changed},
-        {"WEP to WPA", "shared|WEP|12345", "WPAPSK|TKIP|open sesame", changed},
-        {"WPA to open", "WPAPSK|TKIP|open sesame", "open|none", weaker},
-        {"WPA to WEP", "WPAPSK|TKIP|open sesame", "open|WEP|12345", weaker},
-        {"WPA to WPA", "WPAPSK|TKIP|open sesame", "WPAPSK|TKIP|sesame street", changed},
-        {"WPA with CCMP to TKIP", "WPAPSK|CCMP|open sesame", "WPAPSK|TKIP|sesame street", weaker},
-        {"WPA with TKIP to CCMP", "WPAPSK|TKIP|open sesame", "WPAPSK|CCMP|sesame street", changed},
-        {"WPA with CCMP to WPA2 with TKIP", "WPAPSK|CCMP|open sesame", "WPA2PSK|TKIP|sesame street", weaker},
-        {"WPA2 with TKIP to WPA with CCMP", "WPA2PSK|TKIP|open sesame", "WPAPSK|CCMP|sesame street", weaker},
-        {"WPA to WPA2", "WPAPSK|CCMP|open sesame", "WPA2PSK|CCMP|sesame street", changed},
-        {"WPA2 to WPA", "WPA2PSK|CCMP|open sesame", "WPAPSK|CCMP|sesame street", weaker},
-        {"WPA2 to WPA2", "WPA2PSK|CCMP|open sesame", "WPA2PSK|CCMP|sesame street", changed},
-        {"WPA2 to open", "WPA2PSK|CCMP|open sesame", "open|none", weaker},
-        {"WPA2 to an account", "WPA2PSK|CCMP|open sesame", "WPA2(EAP)|CCMP", incomplete},
-        {"WPA2 to an account with a key", "WPA2PSK|CCMP|open sesame", "WPA2(EAP)|CCMP|sesame street",
-         incomplete},
-
-        {"no key", "WPA2PSK|CCMP|open sesame", "WPA2PSK|CCMP|", incomplete},
-        {"no key for a stronger method", "open|none", "WPA2PSK|CCMP|", incomplete},
-        {"7 characters", "WPA2PSK|CCMP|open sesame", "WPA2PSK|CCMP|1234567", incomplete},
-        {"8 characters", "WPA2PSK|CCMP|open sesame", "WPA2PSK|CCMP|12345678", changed},
-        {"4 characters for WEP", "open|WEP|12345", "open|WEP|1234", incomplete},
-        {"6 characters for WEP", "open|WEP|12345", "open|WEP|123456", incomplete},
-        {"13 characters for WEP", "open|WEP|12345", "open|WEP|thirteen sign", changed},
-        {"10 characters that are no digits", "open|WEP|12345", "open|WEP|012345678g", incomplete},
-        {"key that nothing used", "open|none|left over", "open|none", incomplete},
-        {"key that nothing would use", "open|none|left over", "open|none|open sesame", incomplete},
-        {"key that nothing used gives way to one", "open|none|left over", "WPA2PSK|CCMP|open sesame",
-         changed},
-    };
-    for (const auto &row : rows) {
-        Row(row.row, QString(row.before), QString(row.wanted), row.result);
+    for (const Change &change : changesOfMethod) {
+        Row(change.row, QString(change.before), QString(change.wanted), change.result);
+    }
+    for (const Change &change : changesOfKey) {
+        Row(change.row, QString(change.before), QString(change.wanted), change.result);
     }
     const QString wpa = "WPA2PSK|CCMP|";
     const QString wep = "open|WEP|";

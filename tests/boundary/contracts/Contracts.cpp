@@ -341,7 +341,10 @@ void TellConnectionRecords()
     profile.Add<bool>("connectsByItself", &ConnectionProfile::connectsByItself);
     profile.Add<bool>("isHidden", &ConnectionProfile::isHidden);
     profile.Add<QString>("lastingId", &ConnectionProfile::lastingId);
+}
 
+void TellNetworkRecords()
+{
     const Fields<VisibleNetwork> network("VisibleNetwork");
     network.Add<QString>("id", &VisibleNetwork::id);
     network.Add<QString>("name", &VisibleNetwork::name);
@@ -508,6 +511,7 @@ extern "C" Q_DECL_EXPORT const char *boundary_contracts()
     TellHostClasses();
     TellRecords();
     TellConnectionRecords();
+    TellNetworkRecords();
     TellOrderRecords();
     TellOrderWords();
     TellConnectionWords();

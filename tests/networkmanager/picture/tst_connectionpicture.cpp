@@ -270,12 +270,10 @@ void tst_connectionpicture::UserMayConnect()
     QTEST(scene.Records().state.mayConnect, "may");
 }
 
-void tst_connectionpicture::ProfileCanBeUsedOrNot_data()
-{
-    typedef ConnectionProfile Profile;
-    QTest::addColumn<Setup>("setup");
-    QTest::addColumn<int>("use");
+typedef ConnectionProfile Profile;
 
+static void AddRowsOfReach()
+{
     Row("in range, under another name", Setup([](Scene *scene) {
             scene->AddWifi();
             scene->AddPoint("OfficeNet");
@@ -319,6 +317,10 @@ void tst_connectionpicture::ProfileCanBeUsedOrNot_data()
             scene->Add(Scene::Settings("A", "A"));
         }),
         int(Profile::UseDeviceBlocked));
+}
+
+static void AddRowsOfHiddenNetworksAndAdapters()
+{
     Row("hidden, out of range", Setup([](Scene *scene) {
             scene->AddWifi();
             NMVariantMapMap settings = Scene::Settings("A", "A");
@@ -378,6 +380,10 @@ void tst_connectionpicture::ProfileCanBeUsedOrNot_data()
             scene->Add(settings);
         }),
         int(Profile::UseOtherDevice));
+}
+
+static void AddRowsOfStations()
+{
     Row("refused adapter", Setup([](Scene *scene) {
             scene->AddWifi();
             scene->AddPoint("A");
@@ -425,6 +431,10 @@ void tst_connectionpicture::ProfileCanBeUsedOrNot_data()
             scene->Add(Scene::KeySettings("A", "A"));
         }),
         int(Profile::UseOtherSecurity));
+}
+
+static void AddRowsOfUsers()
+{
     Row("a network between computers has its name", Setup([](Scene *scene) {
             scene->AddWifi();
             scene->AddPoint("A")->mode = adHocMode;
@@ -463,7 +473,10 @@ void tst_connectionpicture::ProfileCanBeUsedOrNot_data()
             scene->Add(settings);
         }),
         int(Profile::UseNoAccount));
+}
 
+static void AddRowsOfModems()
+{
     Row("modem ready", Setup([](Scene *scene) {
             scene->AddModem();
             scene->Add(Scene::MobileSettings("Phone"));
@@ -510,6 +523,17 @@ void tst_connectionpicture::ProfileCanBeUsedOrNot_data()
             scene->Add(Scene::MobileSettings("Phone"));
         }),
         int(Profile::UseOtherDevice));
+}
+
+void tst_connectionpicture::ProfileCanBeUsedOrNot_data()
+{
+    QTest::addColumn<Setup>("setup");
+    QTest::addColumn<int>("use");
+    AddRowsOfReach();
+    AddRowsOfHiddenNetworksAndAdapters();
+    AddRowsOfStations();
+    AddRowsOfUsers();
+    AddRowsOfModems();
 }
 
 void tst_connectionpicture::ProfileCanBeUsedOrNot()

@@ -194,9 +194,10 @@ void tst_networkmanagerwalk::initTestCase()
     }
 }
 
-QString tst_networkmanagerwalk::Step(MockNetworkManager *mock, RandomSource *random, Truth *truth)
+// Each of these tells what it has done; nothing when there is nothing to be done.
+
+static QString ChangeRange(int kind, MockNetworkManager *mock, RandomSource *random, Truth *truth)
 {
-    const int kind = random->Below(10);
     if (kind == 0 && truth->devices.size() < 2) {
         const QString device = mock->AddWifiDevice(QString("wlan%1").arg(truth->devices.size()));
         truth->devices << device;
@@ -219,6 +220,11 @@ QString tst_networkmanagerwalk::Step(MockNetworkManager *mock, RandomSource *ran
         mock->RemoveAccessPoint(point.device, point.path);
         return "station removed";
     }
+    return QString();
+}
+
+static QString ChangeProfiles(int kind, MockNetworkManager *mock, RandomSource *random, Truth *truth)
+{
     if (kind == 4 && truth->profiles.size() < 8) {
         Profile profile;
         profile.name = names[random->Below(4)];
@@ -242,6 +248,11 @@ QString tst_networkmanagerwalk::Step(MockNetworkManager *mock, RandomSource *ran
             return "profile deleted";
         }
     }
+    return QString();
+}
+
+static QString ChangeConnections(int kind, MockNetworkManager *mock, RandomSource *random, Truth *truth)
+{
     if (kind == 6 && !truth->profiles.isEmpty() && truth->connections.size() < truth->devices.size()) {
         Connection connection;
         connection.device = truth->devices.at(int(truth->connections.size()));
@@ -271,6 +282,18 @@ QString tst_networkmanagerwalk::Step(MockNetworkManager *mock, RandomSource *ran
                               truth->deviceStates.value(connection.device));
         }
         return "connection moved";
+    }
+    return QString();
+}
+
+QString tst_networkmanagerwalk::Step(MockNetworkManager *mock, RandomSource *random, Truth *truth)
+{
+    const int kind = random->Below(10);
+    for (const auto change : {ChangeRange, ChangeProfiles, ChangeConnections}) {
+        const QString done = change(kind, mock, random, truth);
+        if (!done.isNull()) {
+            return done;
+        }
     }
     if (random->OneIn(2)) {
         truth->isWifiOn = !truth->isWifiOn;
